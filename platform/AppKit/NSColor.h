@@ -1,0 +1,20 @@
+#pragma once
+
+/// A colour in the device's RGB space; components from 0 to 1.
+class NSColor {
+public:
+    static NSColor colorWithDeviceRed(double red, double green, double blue, double alpha) {
+        return {red, green, blue, alpha};
+    }
+
+    double redComponent() const { return red_; }
+    double greenComponent() const { return green_; }
+    double blueComponent() const { return blue_; }
+    double alphaComponent() const { return alpha_; }
+
+private:
+    NSColor(double red, double green, double blue, double alpha)
+        : red_(red), green_(green), blue_(blue), alpha_(alpha) {}
+
+    double red_, green_, blue_, alpha_;
+};

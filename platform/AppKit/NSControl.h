@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/AppKit/NSView.h"
+
+/// A view that a user operates. When it is operated it sends its action to its target; setting it
+/// from code never does.
+class NSControl : public NSView {
+public:
+    bool isEnabled() const;
+    void setEnabled(bool enabled);
+
+    /// Neither is owned; without both, nothing is sent.
+    void setTarget(NSObject* target) { target_ = target; }
+    void setAction(SEL action) { action_ = action; }
+
+    int tag() const;
+
+protected:
+    void sendAction();
+
+private:
+    NSObject* target_ = nullptr;
+    SEL action_ = nullptr;
+};

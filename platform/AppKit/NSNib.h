@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/AppKit/NSView.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+class QWidget;
+
+/// A loaded interface file: a Qt Designer form, read at run time. Dynamic properties in the form say
+/// what becomes of its widgets:
+///
+/// - customClass: the widget makes an object of that class, found in the class registry or among the
+///   layer's own controls. An object that isn't a view owns no picture; the widget is then only the
+///   group that encloses its parts.
+/// - outlet: the field, of the object that encloses the widget, that the widget's object fills.
+/// - action: the selector that the control sends to the object that encloses it or, if that has no
+///   such action, to the next object outward.
+/// - tag, minValue, maxValue: see NSMatrix and NSSlider.
+///
+/// The outermost object is the file's owner, which exists already.
+class NSNib {
+public:
+    NSNib();
+    ~NSNib();
+    NSNib(const NSNib&) = delete;
+    NSNib& operator=(const NSNib&) = delete;
+
+    /// Loads the form and wires it to `owner`, then sends awakeFromNib to every object made, and at
+    /// last to the owner. False when anything is wrong: a file that can't be read or isn't a form, an
+    /// unknown class, an outlet or action that the class lacks, a wrong type, an outlet left empty.
+    /// `errors` then says what, one line each, beginning with the file's path; nothing has awoken.
+    /// Call once.
+    bool instantiate(const std::string& path, NSObject& owner, std::vector<std::string>& errors);
+
+    /// The form's outermost widget, not owned: whoever shows it gives it a parent or deletes it.
+    QWidget* topLevelWidget() const { return form_; }
+    NSView* topLevelView() const;
+
+private:
+    QWidget* form_ = nullptr;
+    std::vector<std::unique_ptr<NSObject>> objects_;
+};

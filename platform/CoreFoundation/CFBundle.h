@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/CoreFoundation/CFDictionary.h"
+#include "platform/CoreFoundation/CFURL.h"
+
+/// A bundle folder: Contents/Info.plist, Contents/Resources, and Contents/Linux for executables.
+class CFBundle;
+
+/// Null when the folder has no readable Contents/Info.plist with a dictionary at its root. A folder
+/// that already has a bundle object gives that same object.
+CFRef<CFBundle> CFBundleCreate(const CFURL* bundleURL);
+
+/// The bundle made with that identifier and still alive, or null. Borrowed.
+CFBundle* CFBundleGetBundleWithIdentifier(const CFString* identifier);
+
+/// The bundle that holds the running executable, or null when it lies in none. Borrowed.
+CFBundle* CFBundleGetMainBundle();
+
+/// Null when Info.plist has no CFBundleIdentifier.
+const CFString* CFBundleGetIdentifier(const CFBundle* bundle);
+const CFType* CFBundleGetValueForInfoDictionaryKey(const CFBundle* bundle, const CFString* key);
+CFRef<CFURL> CFBundleCopyBundleURL(const CFBundle* bundle);
+CFRef<CFURL> CFBundleCopyResourcesDirectoryURL(const CFBundle* bundle);
+
+/// The URL of Contents/Linux/<CFBundleExecutable>, or null when Info.plist names none or no file is
+/// there.
+CFRef<CFURL> CFBundleCopyExecutableURL(const CFBundle* bundle);
+
+/// The URL of a file or folder of that name in Contents/Linux, or null.
+CFRef<CFURL> CFBundleCopyAuxiliaryExecutableURL(const CFBundle* bundle, const CFString* name);
+
+/// The URL of Resources[/subdirectory]/name.type, or null when there is no such file. A null name
+/// gives null; a null type means that `name` is the whole file name; a null subdirectory means the
+/// top level. Neither name nor subdirectory may climb out of Resources.
+CFRef<CFURL> CFBundleCopyResourceURL(const CFBundle* bundle, const CFString* name,
+                                     const CFString* type, const CFString* subdirectory);
+
+/// Loads the bundle's executable, a shared library, into the process. False, with the loader's
+/// reason in `*error` if that isn't null, when it can't be loaded.
+bool CFBundleLoadExecutable(CFBundle* bundle, std::string* error);

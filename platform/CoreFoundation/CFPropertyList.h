@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/CoreFoundation/CFArray.h"
+#include "platform/CoreFoundation/CFData.h"
+#include "platform/CoreFoundation/CFDictionary.h"
+#include "platform/CoreFoundation/CFNumber.h"
+
+#include <string>
+
+/// The largest property list that is read, in bytes, and the deepest nesting of containers.
+constexpr std::size_t kCFPropertyListMaxSize = 1u << 20;
+constexpr int kCFPropertyListMaxDepth = 16;
+
+/// Reads a property list, XML or binary. Null when the data isn't exactly one whole, valid property
+/// list, or exceeds the limits above: data from outside never reaches the parser unchecked.
+CFRef<const CFType> CFPropertyListCreateFromXMLData(const CFData* data);
+
+/// The list as an XML document, in memory. Empty when it holds something that a property list can't.
+std::string CFPropertyListToXML(const CFType* propertyList);

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/CoreFoundation/CFBase.h"
+
+#include <string>
+#include <string_view>
+
+enum CFStringEncoding : UInt32 {
+    kCFStringEncodingMacRoman = 0,
+    kCFStringEncodingASCII = 0x0600,
+    kCFStringEncodingUTF8 = 0x08000100,
+};
+
+/// A text of UTF-16 code units. Immutable, but for CFMutableString.
+class CFString : public CFType {
+public:
+    explicit CFString(std::u16string text) : text_(std::move(text)) {}
+
+    const std::u16string& text() const { return text_; }
+    CFTypeID typeID() const override { return CFTypeID::String; }
+    bool isEqual(const CFType& other) const override;
+    CFHashCode hash() const override;
+
+protected:
+    std::u16string text_;
+};
+
+class CFMutableString final : public CFString {
+public:
+    /// `maxLength` in code units, 0 for no limit: what would exceed it isn't appended.
+    explicit CFMutableString(CFIndex maxLength) : CFString({}), maxLength_(maxLength) {}
+
+    void append(std::u16string_view more);
+
+private:
+    CFIndex maxLength_;
+};
+
+CFTypeID CFStringGetTypeID();
+
+/// The constant string of an ASCII literal: made once, lives as long as the process.
+const CFString* CFSTR(const char* ascii);
+
+/// Null when `text` is null or isn't valid in the encoding.
+CFRef<CFString> CFStringCreateWithCString(const char* text, CFStringEncoding encoding);
+CFRef<CFString> CFStringCreateWithUTF8(std::string_view text);
+CFRef<CFMutableString> CFStringCreateMutable(CFIndex maxLength);
+void CFStringAppend(CFMutableString* string, const CFString* more);
+void CFStringAppendCString(CFMutableString* string, const char* more, CFStringEncoding encoding);
+void CFStringAppendCharacters(CFMutableString* string, const UniChar* characters, CFIndex count);
+
+/// Length in UTF-16 code units.
+CFIndex CFStringGetLength(const CFString* string);
+
+/// Writes the text and a terminating NUL into `buffer` of `bufferSize` bytes. False when it doesn't
+/// fit or has a character that the encoding lacks; the buffer's content is then unspecified.
+bool CFStringGetCString(const CFString* string, char* buffer, CFIndex bufferSize,
+                        CFStringEncoding encoding);
+
+/// The encoding of file names and of the environment: UTF-8.
+CFStringEncoding CFStringGetSystemEncoding();
+
+/// The text in UTF-8, for the layer's own use; an unpaired surrogate becomes U+FFFD.
+std::string CFStringToUTF8(const CFString* string);

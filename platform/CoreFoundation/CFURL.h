@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/CoreFoundation/CFString.h"
+
+/// The URL of a file or folder: an absolute path, without a trailing slash, and whether it names a
+/// folder. Only file URLs exist here.
+class CFURL final : public CFType {
+public:
+    CFURL(std::string path, bool isDirectory) : path_(std::move(path)), isDirectory_(isDirectory) {}
+
+    const std::string& path() const { return path_; } ///< bytes as the file system has them
+    bool isDirectory() const { return isDirectory_; }
+    CFTypeID typeID() const override { return CFTypeID::URL; }
+    bool isEqual(const CFType& other) const override;
+    CFHashCode hash() const override;
+
+private:
+    std::string path_;
+    bool isDirectory_;
+};
+
+CFTypeID CFURLGetTypeID();
+/// A relative path is taken from the current folder. Null for an empty path.
+CFRef<CFURL> CFURLCreateWithFileSystemPath(const CFString* posixPath, bool isDirectory);
+CFRef<CFURL> CFURLCreateFromFileSystemRepresentation(const char* path, bool isDirectory);
+CFRef<CFURL> CFURLCreateCopyAppendingPathComponent(const CFURL* url, const CFString* component,
+                                                   bool isDirectory);
+/// The POSIX path; null when its bytes aren't valid UTF-8.
+CFRef<CFString> CFURLCopyFileSystemPath(const CFURL* url);
+CFRef<CFString> CFURLCopyLastPathComponent(const CFURL* url);
+/// Writes the path and a terminating NUL; false when it doesn't fit `bufferSize` bytes.
+bool CFURLGetFileSystemRepresentation(const CFURL* url, char* buffer, CFIndex bufferSize);
