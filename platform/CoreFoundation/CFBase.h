@@ -32,7 +32,7 @@ consteval FourCharCode fourCharCode(const char (&text)[5]) {
 }
 
 /// The concrete type of a CFType, as CFGetTypeID returns it.
-enum class CFTypeID : int { String, Number, Boolean, Data, Array, Dictionary, Date, URL, Bundle };
+enum class CFTypeID : int { String, Number, Bool, Data, Array, Dictionary, Date, URL, Bundle };
 
 /// The root of all Core Foundation objects: a reference count and a type. Objects start with one
 /// reference, which the Create function that made them hands to its caller as a CFRef. Main thread
@@ -58,6 +58,7 @@ private:
     friend class CFRef;
 
     void retain() const { ++count_; }
+
     void release() const {
         if (--count_ == 0)
             delete this;
@@ -72,16 +73,21 @@ template <class T>
 class CFRef {
 public:
     CFRef() = default;
+
     CFRef(std::nullptr_t) {}
+
     CFRef(const CFRef& other) : CFRef(retain(other.object_)) {}
+
     CFRef(CFRef&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
-    template <class U>
-        requires std::is_convertible_v<U*, T*>
+
+    template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
     CFRef(CFRef<U> other) : object_(other.leak()) {}
+
     ~CFRef() {
         if (object_)
             object_->release();
     }
+
     CFRef& operator=(CFRef other) noexcept {
         std::swap(object_, other.object_);
         return *this;
@@ -102,8 +108,11 @@ public:
     }
 
     T* get() const { return object_; }
+
     T* operator->() const { return object_; }
+
     T& operator*() const { return *object_; }
+
     explicit operator bool() const { return object_ != nullptr; }
 
     /// Gives the reference up without releasing it.

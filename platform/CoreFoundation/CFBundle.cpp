@@ -1,1 +1,153 @@
+#include "platform/CoreFoundation/CFBundle.h"
 
+#include "platform/CoreFoundation/CFFileReading.h"
+#include "platform/CoreFoundation/CFPropertyList.h"
+
+#include <algorithm>
+#include <dlfcn.h>
+#include <filesystem>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Every living bundle; they take themselves out. Never destroyed, since bundles that static
+/// objects hold go last.
+std::vector<CFBundle*>& livingBundles() {
+    static auto& bundles = *new std::vector<CFBundle*>;
+    return bundles;
+}
+
+template <class Matches>
+CFBundle* findBundle(Matches matches) {
+    const auto found = std::find_if(livingBundles().begin(), livingBundles().end(), matches);
+    return found == livingBundles().end() ? nullptr : *found;
+}
+
+CFRef<const CFDictionary> readInfo(const std::string& bundlePath) {
+    const CFFileContents file =
+        CFReadRegularFile(bundlePath + "/Contents/Info.plist", kCFPropertyListMaxSize);
+    const auto root = file.data ? CFPropertyListCreateFromXMLData(file.data.get()) : nullptr;
+    return CFRef<const CFDictionary>::retain(dynamicCFCast<CFDictionary>(root.get()));
+}
+
+CFRef<CFBundle> openBundle(const std::string& path) {
+    std::error_code error;
+    const std::string canonical = fs::canonical(path, error).string();
+    if (error)
+        return nullptr;
+    if (CFBundle* known = findBundle([&](const auto* b) { return b->path() == canonical; }))
+        return CFRef<CFBundle>::retain(known);
+    auto info = readInfo(canonical);
+    return info ? CFRef<CFBundle>::adopt(new CFBundle(canonical, std::move(info))) : nullptr;
+}
+
+CFRef<CFBundle> openMainBundle() {
+    std::error_code error;
+    const fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
+    const fs::path contents = folder.parent_path();
+    if (error || folder.filename() != "Linux" || contents.filename() != "Contents")
+        return nullptr;
+    return openBundle(contents.parent_path().string());
+}
+
+/// The URL of `relative` in `folder`, or null when it isn't there or would climb out.
+CFRef<CFURL> existingURL(const std::string& folder, const fs::path& relative) {
+    const bool climbs = std::find(relative.begin(), relative.end(), "..") != relative.end();
+    if (relative.empty() || relative.is_absolute() || climbs)
+        return nullptr;
+    const std::string path = folder + '/' + relative.string();
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (!fs::exists(status))
+        return nullptr;
+    return CFURLCreateFromFileSystemRepresentation(path.c_str(), fs::is_directory(status));
+}
+
+} // namespace
+
+CFBundle::CFBundle(std::string path, CFRef<const CFDictionary> info)
+    : path_(std::move(path)), info_(std::move(info)) {
+    livingBundles().push_back(this);
+}
+
+CFBundle::~CFBundle() {
+    std::erase(livingBundles(), this);
+}
+
+CFHashCode CFBundle::hash() const {
+    return std::hash<std::string>()(path_);
+}
+
+/// All symbols are resolved at once, so that a missing one is this call's error and not a crash
+/// later. The code's own symbols stay local: its classes come forward through the registry that the
+/// program exports, and types of both sides are compared by name, so nobody needs to find the
+/// bundle's symbols and two bundles can't clash.
+bool CFBundle::load(std::string* error) {
+    const CFRef<CFURL> executable = CFBundleCopyExecutableURL(this);
+    if (!loaded_ && executable)
+        loaded_ = dlopen(executable->path().c_str(), RTLD_NOW | RTLD_LOCAL) != nullptr;
+    if (!loaded_ && error)
+        *error = executable ? dlerror() : path_ + ": no executable in Contents/Linux";
+    return loaded_;
+}
+
+CFRef<CFBundle> CFBundleCreate(const CFURL* bundleURL) {
+    return openBundle(bundleURL->path());
+}
+
+CFBundle* CFBundleGetBundleWithIdentifier(const CFString* identifier) {
+    return findBundle(
+        [&](const CFBundle* bundle) { return CFEqual(CFBundleGetIdentifier(bundle), identifier); });
+}
+
+CFBundle* CFBundleGetMainBundle() {
+    static const CFRef<CFBundle> bundle = openMainBundle();
+    return bundle.get();
+}
+
+const CFString* CFBundleGetIdentifier(const CFBundle* bundle) {
+    return dynamicCFCast<CFString>(
+        CFBundleGetValueForInfoDictionaryKey(bundle, CFSTR("CFBundleIdentifier")));
+}
+
+const CFType* CFBundleGetValueForInfoDictionaryKey(const CFBundle* bundle, const CFString* key) {
+    return CFDictionaryGetValue(bundle->info(), key);
+}
+
+CFRef<CFURL> CFBundleCopyBundleURL(const CFBundle* bundle) {
+    return CFURLCreateFromFileSystemRepresentation(bundle->path().c_str(), true);
+}
+
+CFRef<CFURL> CFBundleCopyResourcesDirectoryURL(const CFBundle* bundle) {
+    const std::string path = bundle->path() + "/Contents/Resources";
+    return CFURLCreateFromFileSystemRepresentation(path.c_str(), true);
+}
+
+CFRef<CFURL> CFBundleCopyExecutableURL(const CFBundle* bundle) {
+    const auto* name = dynamicCFCast<CFString>(
+        CFBundleGetValueForInfoDictionaryKey(bundle, CFSTR("CFBundleExecutable")));
+    return name ? CFBundleCopyAuxiliaryExecutableURL(bundle, name) : nullptr;
+}
+
+CFRef<CFURL> CFBundleCopyAuxiliaryExecutableURL(const CFBundle* bundle, const CFString* name) {
+    return existingURL(bundle->path() + "/Contents/Linux", CFStringToUTF8(name));
+}
+
+CFRef<CFURL> CFBundleCopyResourceURL(const CFBundle* bundle, const CFString* name,
+                                     const CFString* type, const CFString* subdirectory) {
+    if (!name)
+        return nullptr;
+    std::string fileName = CFStringToUTF8(name);
+    if (type)
+        fileName += '.' + CFStringToUTF8(type);
+    if (fs::path(fileName).is_absolute())
+        return nullptr;
+    const fs::path folder = subdirectory ? CFStringToUTF8(subdirectory) : std::string();
+    return existingURL(bundle->path() + "/Contents/Resources", folder / fileName);
+}
+
+bool CFBundleLoadExecutable(CFBundle* bundle, std::string* error) {
+    return bundle->load(error);
+}

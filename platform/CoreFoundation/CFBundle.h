@@ -4,7 +4,29 @@
 #include "platform/CoreFoundation/CFURL.h"
 
 /// A bundle folder: Contents/Info.plist, Contents/Resources, and Contents/Linux for executables.
-class CFBundle;
+class CFBundle final : public CFType {
+public:
+    CFBundle(std::string path, CFRef<const CFDictionary> info);
+
+    const std::string& path() const { return path_; } ///< absolute, without symbolic links
+
+    const CFDictionary* info() const { return info_.get(); }
+
+    bool load(std::string* error);
+
+    CFTypeID typeID() const override { return CFTypeID::Bundle; }
+
+    bool isEqual(const CFType& other) const override { return this == &other; }
+
+    CFHashCode hash() const override;
+
+private:
+    ~CFBundle() override;
+
+    std::string path_;
+    CFRef<const CFDictionary> info_;
+    bool loaded_ = false;
+};
 
 /// Null when the folder has no readable Contents/Info.plist with a dictionary at its root. A folder
 /// that already has a bundle object gives that same object.
@@ -36,5 +58,6 @@ CFRef<CFURL> CFBundleCopyResourceURL(const CFBundle* bundle, const CFString* nam
                                      const CFString* type, const CFString* subdirectory);
 
 /// Loads the bundle's executable, a shared library, into the process. False, with the loader's
-/// reason in `*error` if that isn't null, when it can't be loaded.
+/// reason in `*error` if that isn't null, when it can't be loaded. Loaded code stays in the
+/// process, also when the bundle object goes.
 bool CFBundleLoadExecutable(CFBundle* bundle, std::string* error);

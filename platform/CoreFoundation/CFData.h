@@ -10,7 +10,9 @@ public:
     explicit CFData(std::vector<UInt8> bytes) : bytes_(std::move(bytes)) {}
 
     const std::vector<UInt8>& bytes() const { return bytes_; }
+
     CFTypeID typeID() const override { return CFTypeID::Data; }
+
     bool isEqual(const CFType& other) const override;
     CFHashCode hash() const override;
 

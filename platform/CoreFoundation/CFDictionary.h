@@ -13,8 +13,11 @@ public:
     explicit CFDictionary(Items items) : items_(std::move(items)) {}
 
     const Items& items() const { return items_; }
+
     CFTypeID typeID() const override { return CFTypeID::Dictionary; }
+
     bool isEqual(const CFType& other) const override;
+
     CFHashCode hash() const override { return items_.size(); }
 
 protected:

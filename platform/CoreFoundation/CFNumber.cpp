@@ -1,1 +1,100 @@
+#include "platform/CoreFoundation/CFNumber.h"
 
+#include <cmath>
+#include <functional>
+#include <limits>
+
+namespace {
+
+constexpr double kTwoTo63 = 9223372036854775808.0;
+
+/// The integer that `value` is exactly, if there is one.
+bool exactInteger(double value, std::int64_t& integer) {
+    if (!(value >= -kTwoTo63 && value < kTwoTo63) || value != std::trunc(value))
+        return false;
+    integer = static_cast<std::int64_t>(value);
+    return true;
+}
+
+} // namespace
+
+std::int64_t CFNumber::integerValue() const {
+    if (!isFloat())
+        return std::get<std::int64_t>(value_);
+    const double value = std::get<double>(value_);
+    if (std::isnan(value))
+        return 0;
+    if (value >= kTwoTo63)
+        return std::numeric_limits<std::int64_t>::max();
+    if (value < -kTwoTo63)
+        return std::numeric_limits<std::int64_t>::min();
+    return static_cast<std::int64_t>(value);
+}
+
+double CFNumber::doubleValue() const {
+    return isFloat() ? std::get<double>(value_)
+                     : static_cast<double>(std::get<std::int64_t>(value_));
+}
+
+bool CFNumber::isEqual(const CFType& other) const {
+    const auto& that = static_cast<const CFNumber&>(other);
+    if (isFloat() == that.isFloat())
+        return value_ == that.value_;
+    const CFNumber& real = isFloat() ? *this : that;
+    const CFNumber& whole = isFloat() ? that : *this;
+    std::int64_t integer = 0;
+    return exactInteger(real.doubleValue(), integer) && integer == whole.integerValue();
+}
+
+CFHashCode CFNumber::hash() const {
+    return std::hash<double>()(doubleValue());
+}
+
+CFTypeID CFNumberGetTypeID() {
+    return CFTypeID::Number;
+}
+
+CFRef<CFNumber> CFNumberCreate(CFNumberType type, const void* value) {
+    switch (type) {
+    case kCFNumberSInt32Type:
+        return CFRef<CFNumber>::adopt(
+            new CFNumber(std::int64_t{*static_cast<const SInt32*>(value)}));
+    case kCFNumberSInt64Type:
+        return CFRef<CFNumber>::adopt(new CFNumber(*static_cast<const std::int64_t*>(value)));
+    case kCFNumberDoubleType:
+        return CFRef<CFNumber>::adopt(new CFNumber(*static_cast<const double*>(value)));
+    }
+    return nullptr;
+}
+
+bool CFNumberGetValue(const CFNumber* number, CFNumberType type, void* value) {
+    std::int64_t integer = 0;
+    if (type == kCFNumberDoubleType) {
+        *static_cast<double*>(value) = number->doubleValue();
+        return number->isFloat() ||
+               (exactInteger(number->doubleValue(), integer) && integer == number->integerValue());
+    }
+    integer = number->integerValue();
+    const bool exact = !number->isFloat() || exactInteger(number->doubleValue(), integer);
+    if (type == kCFNumberSInt64Type) {
+        *static_cast<std::int64_t*>(value) = integer;
+        return exact;
+    }
+    *static_cast<SInt32*>(value) = static_cast<SInt32>(integer);
+    return exact && integer == static_cast<SInt32>(integer);
+}
+
+bool CFBoolean::isEqual(const CFType& other) const {
+    return value_ == static_cast<const CFBoolean&>(other).value_;
+}
+
+CFTypeID CFBooleanGetTypeID() {
+    return CFTypeID::Bool;
+}
+
+bool CFBooleanGetValue(const CFBoolean* boolean) {
+    return boolean->value();
+}
+
+const CFBoolean* const kCFBooleanTrue = new CFBoolean(true);
+const CFBoolean* const kCFBooleanFalse = new CFBoolean(false);

@@ -10,13 +10,16 @@ enum CFNumberType { kCFNumberSInt32Type = 3, kCFNumberSInt64Type = 4, kCFNumberD
 class CFNumber final : public CFType {
 public:
     explicit CFNumber(std::int64_t value) : value_(value) {}
+
     explicit CFNumber(double value) : value_(value) {}
 
     bool isFloat() const { return std::holds_alternative<double>(value_); }
+
     std::int64_t integerValue() const; ///< a double is truncated and clamped
     double doubleValue() const;
 
     CFTypeID typeID() const override { return CFTypeID::Number; }
+
     bool isEqual(const CFType& other) const override;
     CFHashCode hash() const override;
 
@@ -34,8 +37,11 @@ public:
     explicit CFBoolean(bool value) : value_(value) {}
 
     bool value() const { return value_; }
-    CFTypeID typeID() const override { return CFTypeID::Boolean; }
+
+    CFTypeID typeID() const override { return CFTypeID::Bool; }
+
     bool isEqual(const CFType& other) const override;
+
     CFHashCode hash() const override { return value_ ? 1 : 0; }
 
 private:

@@ -7,7 +7,8 @@
 
 #include <string>
 
-/// The largest property list that is read, in bytes, and the deepest nesting of containers.
+/// The largest property list that is read or written, in bytes, and the deepest nesting of
+/// containers.
 constexpr std::size_t kCFPropertyListMaxSize = 1u << 20;
 constexpr int kCFPropertyListMaxDepth = 16;
 
@@ -15,5 +16,11 @@ constexpr int kCFPropertyListMaxDepth = 16;
 /// list, or exceeds the limits above: data from outside never reaches the parser unchecked.
 CFRef<const CFType> CFPropertyListCreateFromXMLData(const CFData* data);
 
-/// The list as an XML document, in memory. Empty when it holds something that a property list can't.
+/// The list as an XML document, in memory. Empty when it holds something that a property list
+/// can't: another type, text with control characters or unpaired surrogates, too deep nesting; or
+/// when the document would be larger than the limit.
 std::string CFPropertyListToXML(const CFType* propertyList);
+
+/// An immutable copy, containers and texts included, that later changes of the original don't
+/// reach. Null when the value holds something that a property list can't.
+CFRef<const CFType> CFPropertyListCreateDeepCopy(const CFType* propertyList);

@@ -17,7 +17,9 @@ public:
     explicit CFString(std::u16string text) : text_(std::move(text)) {}
 
     const std::u16string& text() const { return text_; }
+
     CFTypeID typeID() const override { return CFTypeID::String; }
+
     bool isEqual(const CFType& other) const override;
     CFHashCode hash() const override;
 

@@ -9,8 +9,11 @@ public:
     CFURL(std::string path, bool isDirectory) : path_(std::move(path)), isDirectory_(isDirectory) {}
 
     const std::string& path() const { return path_; } ///< bytes as the file system has them
+
     bool isDirectory() const { return isDirectory_; }
+
     CFTypeID typeID() const override { return CFTypeID::URL; }
+
     bool isEqual(const CFType& other) const override;
     CFHashCode hash() const override;
 
