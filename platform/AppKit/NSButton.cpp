@@ -1,1 +1,65 @@
+#include "platform/AppKit/NSButton.h"
 
+#include <QAbstractButton>
+#include <QTimer>
+
+#include <cmath>
+#include <utility>
+
+namespace {
+
+int toMilliseconds(float seconds) {
+    return static_cast<int>(std::lround(seconds * 1000));
+}
+
+} // namespace
+
+void NSButton::attachWidget(QWidget* widget) {
+    NSControl::attachWidget(widget);
+    auto* button = static_cast<QAbstractButton*>(widget);
+    QObject::connect(button, &QAbstractButton::clicked, button, [this] { clicked(); });
+}
+
+int NSButton::state() const {
+    return static_cast<const QAbstractButton*>(widget())->isChecked() ? NSOnState : NSOffState;
+}
+
+void NSButton::setState(int state) {
+    static_cast<QAbstractButton*>(widget())->setChecked(state != NSOffState);
+}
+
+void NSButton::setPeriodicDelay(float delay, float interval) {
+    delayMs_ = toMilliseconds(delay);
+    intervalMs_ = toMilliseconds(interval);
+    if (timer_)
+        return;
+    auto* button = static_cast<QAbstractButton*>(widget());
+    button->setAutoRepeat(false);
+    timer_ = new QTimer(button);
+    timer_->setTimerType(Qt::PreciseTimer);
+    QObject::connect(button, &QAbstractButton::pressed, button, [this] { pressed(); });
+    QObject::connect(button, &QAbstractButton::released, timer_, &QTimer::stop);
+    QObject::connect(timer_, &QTimer::timeout, button, [this] { repeat(); });
+}
+
+void NSButton::pressed() {
+    hasRepeated_ = false;
+    timer_->start(delayMs_);
+}
+
+void NSButton::repeat() {
+    const auto* button = static_cast<const QAbstractButton*>(widget());
+    if (!button->isDown() || !button->isEnabled() || !button->isVisible()) {
+        timer_->stop();
+        return;
+    }
+    if (!hasRepeated_)
+        timer_->start(intervalMs_);
+    hasRepeated_ = true;
+    sendAction();
+}
+
+void NSButton::clicked() {
+    if (!std::exchange(hasRepeated_, false))
+        sendAction();
+}

@@ -8,8 +8,11 @@ public:
     }
 
     double redComponent() const { return red_; }
+
     double greenComponent() const { return green_; }
+
     double blueComponent() const { return blue_; }
+
     double alphaComponent() const { return alpha_; }
 
 private:

@@ -1,1 +1,70 @@
+#include "platform/AppKit/NSColorWell.h"
 
+#include "platform/AppKit/ColorWellButton.h"
+
+#include <QColorDialog>
+
+#include <algorithm>
+
+namespace {
+
+QColor toQColor(const NSColor& color) {
+    const auto part = [](double component) {
+        return std::clamp(static_cast<float>(component), 0.0F, 1.0F);
+    };
+    return QColor::fromRgbF(part(color.redComponent()), part(color.greenComponent()),
+                            part(color.blueComponent()));
+}
+
+NSColor toNSColor(const QColor& color) {
+    return NSColor::colorWithDeviceRed(color.red() / 255.0, color.green() / 255.0,
+                                       color.blue() / 255.0, 1.0);
+}
+
+QString inWords(const QColor& color) {
+    return QStringLiteral("Red %1, green %2, blue %3, each of 255")
+        .arg(color.red())
+        .arg(color.green())
+        .arg(color.blue());
+}
+
+} // namespace
+
+void NSColorWell::attachWidget(QWidget* widget) {
+    NSControl::attachWidget(widget);
+    auto* button = static_cast<ColorWellButton*>(widget);
+    description_ = button->accessibleDescription().toStdString();
+    setColor(color_);
+    QObject::connect(button, &QPushButton::clicked, button, [this] { openChooser(); });
+}
+
+void NSColorWell::setColor(const NSColor& color) {
+    auto* button = static_cast<ColorWellButton*>(widget());
+    color_ = color;
+    button->setColor(toQColor(color));
+    const QString words = inWords(button->color());
+    button->setAccessibleDescription(
+        description_.empty() ? words : words + ". " + QString::fromStdString(description_));
+}
+
+void NSColorWell::choose(const NSColor& color) {
+    setColor(color);
+    sendAction();
+}
+
+void NSColorWell::openChooser() {
+    auto* chooser = widget()->findChild<QColorDialog*>();
+    if (!chooser) {
+        chooser = new QColorDialog(toQColor(color_), widget());
+        chooser->setAttribute(Qt::WA_DeleteOnClose);
+        QObject::connect(chooser, &QColorDialog::currentColorChanged, widget(),
+                         [this](const QColor& tried) { choose(toNSColor(tried)); });
+        QObject::connect(chooser, &QDialog::rejected, widget(), [this, before = color_] {
+            if (toQColor(before) != toQColor(color_))
+                choose(before);
+        });
+    }
+    chooser->show();
+    chooser->raise();
+    chooser->activateWindow();
+}

@@ -1,1 +1,25 @@
+#include "platform/AppKit/NSControl.h"
 
+#include "platform/AppKit/KeyboardFocus.h"
+
+#include <QVariant>
+#include <QWidget>
+
+bool NSControl::isEnabled() const {
+    return widget()->isEnabledTo(widget()->parentWidget());
+}
+
+void NSControl::setEnabled(bool enabled) {
+    if (!enabled)
+        moveFocusOutOf(widget());
+    widget()->setEnabled(enabled);
+}
+
+int NSControl::tag() const {
+    return widget()->property("tag").toInt();
+}
+
+void NSControl::sendAction() {
+    if (target_ && action_)
+        action_->send(*target_, *this);
+}

@@ -11,6 +11,7 @@ public:
 
     /// Neither is owned; without both, nothing is sent.
     void setTarget(NSObject* target) { target_ = target; }
+
     void setAction(SEL action) { action_ = action; }
 
     int tag() const;

@@ -1,1 +1,86 @@
+#include "platform/AppKit/NSMatrix.h"
 
+#include "platform/AppKit/KeyboardFocus.h"
+
+#include <QButtonGroup>
+#include <QRadioButton>
+#include <QVariant>
+
+#include <algorithm>
+
+namespace {
+
+bool isEnabledItself(const QAbstractButton* button) {
+    return button->isEnabledTo(button->parentWidget());
+}
+
+// The selected cell takes the Tab key or, when it can't, the first that can.
+void chooseTabStop(const QButtonGroup* group) {
+    const QAbstractButton* stop = group->checkedButton();
+    const auto buttons = group->buttons();
+    if (!stop || !isEnabledItself(stop)) {
+        const auto usable = std::find_if(buttons.begin(), buttons.end(), isEnabledItself);
+        stop = usable == buttons.end() ? nullptr : *usable;
+    }
+    for (QAbstractButton* button : buttons)
+        button->setFocusPolicy(button == stop ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+} // namespace
+
+int NSCell::tag() const {
+    return button_->property("tag").toInt();
+}
+
+bool NSCell::isEnabled() const {
+    return isEnabledItself(button_);
+}
+
+void NSCell::setEnabled(bool enabled) {
+    button_->setEnabled(enabled);
+    chooseTabStop(button_->group());
+}
+
+void NSMatrix::attachWidget(QWidget* widget) {
+    NSControl::attachWidget(widget);
+    auto* group = new QButtonGroup(widget);
+    for (QRadioButton* button : widget->findChildren<QRadioButton*>()) {
+        group->addButton(button);
+        cells_.push_back(std::make_unique<NSCell>(button));
+    }
+    chooseTabStop(group);
+    QObject::connect(group, &QButtonGroup::buttonClicked, widget, [this, group] {
+        chooseTabStop(group);
+        sendAction();
+    });
+}
+
+int NSMatrix::selectedTag() const {
+    for (const auto& cell : cells_) {
+        if (cell->button_->isChecked())
+            return cell->tag();
+    }
+    return -1;
+}
+
+bool NSMatrix::selectCellWithTag(int tag) {
+    const NSCell* cell = cellWithTag(tag);
+    if (!cell)
+        return false;
+    QAbstractButton* button = cell->button_;
+    const QWidget* focus = button->window()->focusWidget();
+    button->setChecked(true);
+    chooseTabStop(button->group());
+    // The arrow keys start from the cell that has the focus.
+    if (focus && focus != button && widget()->isAncestorOf(focus) && button->isEnabled())
+        button->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
+NSCell* NSMatrix::cellWithTag(int tag) const {
+    for (const auto& cell : cells_) {
+        if (cell->tag() == tag)
+            return cell.get();
+    }
+    return nullptr;
+}

@@ -24,7 +24,8 @@ private:
 };
 
 /// A group of radio buttons, of which one at a time is selected. Its cells are the radio buttons in
-/// the widget, told apart by their tags. A click on the selected cell sends the action as well.
+/// the widget, told apart by their tags. A click on the selected cell sends the action as well. The
+/// Tab key stops once, at the selected cell; the arrow keys go to the other cells and select them.
 class NSMatrix final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;
@@ -35,6 +36,8 @@ public:
     bool selectCellWithTag(int tag);
     /// Null when no cell has the tag. Owned by the matrix.
     NSCell* cellWithTag(int tag) const;
+
+    const std::vector<std::unique_ptr<NSCell>>& cells() const { return cells_; }
 
 private:
     std::vector<std::unique_ptr<NSCell>> cells_;

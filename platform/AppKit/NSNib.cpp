@@ -1,1 +1,35 @@
+#include "platform/AppKit/NSNib.h"
 
+#include "platform/AppKit/FormLoader.h"
+#include "platform/AppKit/NibWiring.h"
+
+#include <QWidget>
+
+NSNib::NSNib() = default;
+
+// The widgets go first: they call the views when they are used, never the other way about.
+NSNib::~NSNib() {
+    delete form_;
+}
+
+bool NSNib::instantiate(const std::string& path, NSObject& owner,
+                        std::vector<std::string>& errors) {
+    FormLoader loader;
+    form_ = loader.loadFile(QString::fromStdString(path));
+    QStringList found = loader.errors();
+    if (form_) {
+        QObject::connect(form_, &QObject::destroyed, [this] { form_ = nullptr; });
+        NibWiring wiring(owner, objects_);
+        view_ = wiring.wireForm(form_);
+        found << wiring.errors();
+    }
+    for (const QString& error : found)
+        errors.push_back(path + ": " + error.toStdString());
+    if (!found.isEmpty())
+        return false;
+
+    for (std::size_t made = 0; made < objects_.size(); ++made)
+        objects_[made]->awakeFromNib();
+    owner.awakeFromNib();
+    return true;
+}

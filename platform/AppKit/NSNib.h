@@ -9,10 +9,11 @@
 
 class QWidget;
 
-/// A loaded interface file: a Qt Designer form, read at run time. Dynamic properties in the form say
-/// what becomes of its widgets:
+/// A loaded interface file: a Qt Designer form, read at run time. Dynamic properties in the form
+/// say what becomes of its widgets:
 ///
-/// - customClass: the widget makes an object of that class, found in the class registry or among the
+/// - customClass: the widget makes an object of that class, found in the class registry or among
+/// the
 ///   layer's own controls. An object that isn't a view owns no picture; the widget is then only the
 ///   group that encloses its parts.
 /// - outlet: the field, of the object that encloses the widget, that the widget's object fills.
@@ -29,17 +30,21 @@ public:
     NSNib& operator=(const NSNib&) = delete;
 
     /// Loads the form and wires it to `owner`, then sends awakeFromNib to every object made, and at
-    /// last to the owner. False when anything is wrong: a file that can't be read or isn't a form, an
-    /// unknown class, an outlet or action that the class lacks, a wrong type, an outlet left empty.
-    /// `errors` then says what, one line each, beginning with the file's path; nothing has awoken.
-    /// Call once.
+    /// last to the owner. False when anything is wrong: a file that can't be read or isn't a form,
+    /// an unknown class, an outlet or action that the class lacks, a wrong type, an outlet left
+    /// empty. `errors` then says what, one line each, beginning with the file's path; nothing has
+    /// awoken. Call once.
     bool instantiate(const std::string& path, NSObject& owner, std::vector<std::string>& errors);
 
-    /// The form's outermost widget, not owned: whoever shows it gives it a parent or deletes it.
+    /// The form's outermost widget. The nib deletes it in the end, if a parent that it was given
+    /// has not done so before. Null until loaded.
     QWidget* topLevelWidget() const { return form_; }
-    NSView* topLevelView() const;
+
+    /// Null until loaded.
+    NSView* topLevelView() const { return view_; }
 
 private:
     QWidget* form_ = nullptr;
+    NSView* view_ = nullptr;
     std::vector<std::unique_ptr<NSObject>> objects_;
 };

@@ -37,6 +37,7 @@ public:
     virtual ~NSObject() = default;
 
     virtual std::span<const NSOutlet> outlets() const { return {}; }
+
     virtual std::span<const NSAction> actions() const { return {}; }
 
     /// Called once, when the whole interface file has been loaded and wired.
@@ -52,7 +53,7 @@ template <class>
 struct MemberTraits;
 
 template <class OwnerType, class TargetType>
-struct MemberTraits<TargetType* OwnerType::*> {
+struct MemberTraits<TargetType * OwnerType::*> {
     using Owner = OwnerType;
     using Target = TargetType;
 };
@@ -70,16 +71,15 @@ template <auto Field>
 constexpr NSOutlet nsOutlet(std::string_view name) {
     using Owner = typename nswiring::MemberTraits<decltype(Field)>::Owner;
     using Target = typename nswiring::MemberTraits<decltype(Field)>::Target;
-    return {name, &typeid(Target),
-            [](NSObject& owner, NSObject& object) {
-                auto* target = dynamic_cast<Target*>(&object);
-                if (target)
-                    static_cast<Owner&>(owner).*Field = target;
-                return target != nullptr;
-            },
-            [](const NSObject& owner) {
-                return static_cast<const Owner&>(owner).*Field != nullptr;
-            }};
+    return {
+        name, &typeid(Target),
+        [](NSObject& owner, NSObject& object) {
+            auto* target = dynamic_cast<Target*>(&object);
+            if (target)
+                static_cast<Owner&>(owner).*Field = target;
+            return target != nullptr;
+        },
+        [](const NSObject& owner) { return static_cast<const Owner&>(owner).*Field != nullptr; }};
 }
 
 /// A row of an action table: `nsAction<&SliderController::incValue>("incValue:")`.
@@ -101,8 +101,8 @@ struct NSClassEntry {
     NSObject* (*make)(); ///< the caller owns the result
 };
 
-/// Adds a class to the registry that NSClassFromString searches; a static object of this type beside
-/// the class's code does it when that code is loaded.
+/// Adds a class to the registry that NSClassFromString searches; a static object of this type
+/// beside the class's code does it when that code is loaded.
 class NSClassRegistration {
 public:
     explicit NSClassRegistration(NSClassEntry entry);
@@ -113,5 +113,7 @@ const NSClassEntry* NSClassFromString(std::string_view name);
 
 #define NS_REGISTER_CLASS(Class)                                                                   \
     static const NSClassRegistration registration##Class {                                         \
-        { #Class, [] () -> NSObject* { return new Class; } }                                       \
+        {                                                                                          \
+#Class, []() -> NSObject* { return new Class; }                                        \
+        }                                                                                          \
     }

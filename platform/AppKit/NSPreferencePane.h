@@ -9,17 +9,22 @@
 class NSPreferencePane : public NSObject {
 public:
     void initWithBundle(CFBundle* bundle) { bundle_ = CFRef<CFBundle>::retain(bundle); }
+
     CFBundle* bundle() const { return bundle_.get(); }
 
     /// Loads the interface file that the bundle's NSMainNibFile names, with the pane as its owner.
     /// False when it can't be loaded; `errors` then says why, one line each.
     bool loadMainView(std::vector<std::string>& errors);
+
     /// Null until loaded.
     NSView* mainView() const { return nib_.topLevelView(); }
 
     virtual void mainViewDidLoad() {}
+
     virtual void willSelect() {}
+
     virtual void didSelect() {}
+
     virtual void didUnselect() {}
 
 private:

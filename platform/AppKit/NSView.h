@@ -12,12 +12,13 @@ struct NSRect {
     float height = 0;
 };
 
-/// A part of the interface. It stands for one widget of the loaded form, which owns the picture; the
-/// Nib that loaded the form owns the view.
+/// A part of the interface. It stands for one widget of the loaded form, which owns the picture;
+/// the Nib that loaded the form owns the view.
 class NSView : public NSObject {
 public:
     /// Takes the widget that the view stands for; called once, by the loader.
     virtual void attachWidget(QWidget* widget);
+
     QWidget* widget() const { return widget_; }
 
     /// The view that holds this one; null for the main view and for a detached view.
@@ -36,6 +37,9 @@ public:
     void setNeedsDisplay(bool needsDisplay);
 
 private:
+    friend class NibWiring; // which knows the superviews
+
     QWidget* widget_ = nullptr;
+    NSView* superview_ = nullptr; ///< kept while detached
     bool detached_ = false;
 };

@@ -1,0 +1,81 @@
+#include "platform/AppKit/FormLoader.h"
+
+#include "platform/AppKit/ColorWellButton.h"
+#include "platform/AppKit/NSObject.h"
+#include "platform/AppKit/SliderWidget.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QWidget>
+
+#include <utility>
+
+namespace {
+
+/// While it lives, what Qt's form reader would print as a warning goes into a list instead.
+class DesignerWarnings {
+public:
+    DesignerWarnings() {
+        collected.clear();
+        previous = qInstallMessageHandler(collect);
+    }
+
+    ~DesignerWarnings() { qInstallMessageHandler(previous); }
+
+    DesignerWarnings(const DesignerWarnings&) = delete;
+    DesignerWarnings& operator=(const DesignerWarnings&) = delete;
+
+    static QStringList take() { return std::exchange(collected, {}); }
+
+private:
+    static void collect(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+        const QString prefix = QStringLiteral("Designer: ");
+        if (text.startsWith(prefix))
+            collected << text.mid(prefix.size());
+        else if (previous)
+            previous(type, context, text);
+    }
+
+    static inline QStringList collected;
+    static inline QtMessageHandler previous = nullptr;
+};
+
+} // namespace
+
+QWidget* FormLoader::loadFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        errors_ << file.errorString();
+        return nullptr;
+    }
+    knownWidgets_ = availableWidgets();
+    setWorkingDirectory(QFileInfo(path).dir());
+    const DesignerWarnings warnings;
+    QWidget* form = load(&file);
+    if (form)
+        errors_ << DesignerWarnings::take();
+    else
+        errors_ << errorString();
+    return form;
+}
+
+QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, const QString& name) {
+    QWidget* widget = nullptr;
+    if (className == QLatin1String("QSlider"))
+        widget = new SliderWidget(parent);
+    else if (className == QLatin1String("NSColorWell"))
+        widget = new ColorWellButton(parent);
+    else if (knownWidgets_.contains(className))
+        return QUiLoader::createWidget(className, parent, name);
+    else
+        widget = new QWidget(parent);
+
+    widget->setObjectName(name);
+    // A widget promoted to one of the pane's views is drawn by that view alone.
+    if (NSClassFromString(className.toStdString()))
+        widget->setProperty("customClass", className);
+    else if (widget->metaObject() == &QWidget::staticMetaObject)
+        errors_ << QStringLiteral("widget '%1': no class %2").arg(name, className);
+    return widget;
+}
