@@ -1,1 +1,69 @@
+#include "platform/HIToolbox/AppleHelp.h"
 
+#include "platform/CoreFoundation/CFBundle.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+#include <filesystem>
+#include <map>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const char* const kStartPage = "index.html";
+
+// The registered books: the folder of each, with links resolved. Never destroyed.
+std::map<std::u16string, fs::path>& books() {
+    static auto& folders = *new std::map<std::u16string, fs::path>;
+    return folders;
+}
+
+/// The page's file, with links resolved; empty when there is none inside the book's folder.
+fs::path findPage(const fs::path& folder, const fs::path& page) {
+    std::error_code error;
+    const fs::path file = fs::canonical(folder / page, error);
+    if (error || !fs::is_regular_file(file, error))
+        return {};
+    const fs::path inside = file.lexically_relative(folder);
+    return inside.empty() || *inside.begin() == ".." ? fs::path() : file;
+}
+
+} // namespace
+
+OSStatus AHRegisterHelpBook(const FSRef* bundleRef) {
+    const CFRef<CFBundle> bundle = CFBundleCreate(
+        CFURLCreateFromFileSystemRepresentation(bundleRef->path.c_str(), true).get());
+    if (!bundle)
+        return kAHInternalErr;
+    const auto text = [&](const char* key) {
+        return dynamicCFCast<CFString>(
+            CFBundleGetValueForInfoDictionaryKey(bundle.get(), CFSTR(key)));
+    };
+    const CFString* name = text("CFBundleHelpBookName");
+    const CFString* folderName = text("CFBundleHelpBookFolder");
+    if (!name || !folderName)
+        return kAHInternalErr;
+
+    const CFRef<CFURL> url = CFBundleCopyResourceURL(bundle.get(), folderName, nullptr, nullptr);
+    std::error_code error;
+    const fs::path folder = url ? fs::canonical(url->path(), error) : fs::path();
+    if (folder.empty() || findPage(folder, kStartPage).empty())
+        return kAHInternalErr;
+    books()[name->text()] = folder;
+    return noErr;
+}
+
+OSStatus AHGotoPage(const CFString* bookName, const CFString* path, const CFString* anchor) {
+    const auto book = bookName ? books().find(bookName->text()) : books().end();
+    if (book == books().end())
+        return kAHInternalErr;
+    const fs::path file = findPage(book->second, path ? CFStringToUTF8(path) : kStartPage);
+    if (file.empty())
+        return kAHInternalErr;
+    QUrl url = QUrl::fromLocalFile(QString::fromStdString(file.string()));
+    if (anchor)
+        url.setFragment(QString::fromStdString(CFStringToUTF8(anchor)));
+    return QDesktopServices::openUrl(url) ? OSStatus{noErr} : kAHInternalErr;
+}

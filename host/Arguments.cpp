@@ -1,0 +1,50 @@
+#include "host/Arguments.h"
+
+#include <filesystem>
+#include <getopt.h>
+
+const char* const kUsage =
+    "Usage: korvex-preferences [BUNDLE.prefPane]\n"
+    "       korvex-preferences --check BUNDLE.prefPane\n"
+    "\n"
+    "Shows the settings pane of the bundle, of Korvex's own without one.\n"
+    "\n"
+    "  --check BUNDLE  load the bundle and wire its interface file, show nothing\n"
+    "  --help          print this text\n"
+    "  --version       print the version\n";
+
+Arguments parseArguments(int argc, char** argv) {
+    using Task = Arguments::Task;
+    static constexpr option kOptions[] = {
+        {"check", required_argument, nullptr, 'c'},
+        {"help", no_argument, nullptr, 'h'},
+        {"version", no_argument, nullptr, 'v'},
+        {},
+    };
+    switch (getopt_long(argc, argv, "", kOptions, nullptr)) {
+    case 'c':
+        return {Task::Check, optarg};
+    case 'h':
+        return {Task::Help, {}};
+    case 'v':
+        return {Task::Version, {}};
+    case -1:
+        break;
+    default:
+        return {Task::Misuse, {}};
+    }
+    if (argc - optind > 1)
+        return {Task::Misuse, {}};
+    return {Task::Show, optind < argc ? argv[optind] : ""};
+}
+
+std::string findOwnBundle() {
+    std::error_code error;
+    const auto folder = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+    for (const char* place : {"..", ".", "../lib/korvex"}) {
+        const auto bundle = (folder / place / "Korvex.prefPane").lexically_normal();
+        if (std::filesystem::is_directory(bundle, error))
+            return bundle;
+    }
+    return {};
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+/// What the command line asks for.
+struct Arguments {
+    enum class Task { Show, Check, Help, Version, Misuse };
+
+    Task task = Task::Show;
+    std::string bundle; ///< path of the bundle; empty for the one that belongs to this program
+};
+
+/// The text that --help prints.
+extern const char* const kUsage;
+
+Arguments parseArguments(int argc, char** argv);
+
+/// The path of the bundle that lies beside this program, in its build folder or where both are
+/// installed; empty when there is none.
+std::string findOwnBundle();

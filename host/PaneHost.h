@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/AppKit/NSPreferencePane.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class PaneWindow;
+
+/// A preference pane, its window, and the one visit that this program pays to it.
+class PaneHost {
+public:
+    PaneHost();
+    ~PaneHost();
+    PaneHost(const PaneHost&) = delete;
+    PaneHost& operator=(const PaneHost&) = delete;
+
+    /// Loads the bundle, its code and its main view. False when something is wrong; `errors` then
+    /// says what, one line each, beginning with a file's path. Nothing of the pane has been called.
+    bool load(const std::string& path, std::vector<std::string>& errors);
+
+    /// Selects the pane and shows its window. When the user closes that, the program ends.
+    void open();
+
+    /// To be called once open.
+    void bringToFront();
+
+    /// Takes the pane out of sight, lets it save, and ends the program; once it is put away
+    /// already, nothing.
+    void putAway();
+
+private:
+    static void putAwayAtExit();
+
+    void deselect();
+    std::string infoText(const char* key) const;
+
+    CFRef<CFBundle> bundle_;
+    std::unique_ptr<NSPreferencePane> pane_;
+    std::unique_ptr<PaneWindow> window_; ///< goes before the pane, whose views its widgets call
+    bool selected_ = false;
+};

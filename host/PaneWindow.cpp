@@ -1,0 +1,54 @@
+#include "host/PaneWindow.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QVBoxLayout>
+#include <QWindow>
+
+PaneWindow::PaneWindow(QWidget* pane) : pane_(pane) {
+    auto* scroller = new QScrollArea(this);
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setFocusPolicy(Qt::NoFocus);
+    scroller->setWidgetResizable(true);
+    scroller->setWidget(pane);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(scroller);
+    for (const auto key : {Qt::CTRL | Qt::Key_W, Qt::CTRL | Qt::Key_Q})
+        new QShortcut(QKeySequence(key), this, this, &QWidget::close);
+}
+
+void PaneWindow::open() {
+    create();
+    // Left around the window for its frame, which isn't known before it is shown.
+    constexpr QSize kFrame(16, 48);
+    resize(pane_->sizeHint()
+               .expandedTo(pane_->minimumSizeHint())
+               .boundedTo(screen()->availableSize() - kFrame));
+    windowHandle()->installEventFilter(this);
+    show();
+}
+
+void PaneWindow::bringToFront() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+}
+
+bool PaneWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Expose && windowHandle()->isExposed()) {
+        watched->removeEventFilter(this);
+        // The frame is drawn by this very event, after its filters.
+        QMetaObject::invokeMethod(
+            this, [this] { onShown(); }, Qt::QueuedConnection);
+    }
+    return false;
+}
+
+void PaneWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    hide();
+    onClosed();
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+/// The window around a pane. It grows and shrinks as the user likes: what doesn't fit is scrolled.
+class PaneWindow final : public QWidget {
+public:
+    /// Takes `pane` as its child.
+    explicit PaneWindow(QWidget* pane);
+
+    std::function<void()> onShown;  ///< called once, after the first frame is on the screen
+    std::function<void()> onClosed; ///< called when the user has closed it and it is hidden
+
+    /// Sized to the pane, but never beyond the screen.
+    void open();
+    void bringToFront();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    QWidget* pane_;
+};

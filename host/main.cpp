@@ -1,0 +1,94 @@
+#include "host/Arguments.h"
+#include "host/PaneHost.h"
+#include "host/SingleInstance.h"
+#include "host/TerminationSignals.h"
+#include "platform/CoreServices/Processes.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace {
+
+enum ExitStatus { kDone = 0, kFailed = 1, kMisused = 2 };
+
+/// Chooses Qt's platform, unless the user's environment has chosen. False when there is no display.
+/// X11 comes first because on Wayland no program may place a window over all screens.
+bool choosePlatform(Arguments::Task task) {
+    constexpr const char* kVariable = "QT_QPA_PLATFORM";
+    if (qEnvironmentVariableIsSet(kVariable))
+        return true;
+    if (task == Arguments::Task::Check)
+        return qputenv(kVariable, "offscreen");
+    if (!qEnvironmentVariableIsEmpty("DISPLAY"))
+        return qputenv(kVariable, "xcb;wayland");
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return qputenv(kVariable, "wayland");
+    return false;
+}
+
+bool load(PaneHost& host, const std::string& bundle) {
+    std::vector<std::string> errors;
+    if (bundle.empty())
+        errors.emplace_back("Korvex.prefPane: not found beside this program");
+    else
+        host.load(bundle, errors);
+    for (const std::string& error : errors)
+        std::fprintf(stderr, "%s\n", error.c_str());
+    return errors.empty();
+}
+
+int show(const std::string& bundle) {
+    PaneHost host;
+    bool isOpen = false;
+    if (!becomeSingleInstance([&] {
+            if (isOpen)
+                host.bringToFront();
+        }))
+        return kDone;
+    registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
+    if (!load(host, bundle.empty() ? findOwnBundle() : bundle))
+        return kFailed;
+
+    QApplication::setQuitOnLastWindowClosed(false);
+    handleTerminationSignals([&] { host.putAway(); });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, [&] { host.putAway(); });
+    host.open();
+    isOpen = true;
+    return QApplication::exec();
+}
+
+int run(const Arguments& arguments, int argc, char** argv) {
+    if (!choosePlatform(arguments.task)) {
+        std::fputs("korvex-preferences: there is no display\n", stderr);
+        return kFailed;
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("korvex-preferences"));
+    QApplication::setDesktopFileName(QStringLiteral("org.korvex.Preferences"));
+    if (arguments.task == Arguments::Task::Show)
+        return show(arguments.bundle);
+    PaneHost host;
+    return load(host, arguments.bundle) ? kDone : kFailed;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const Arguments arguments = parseArguments(argc, argv);
+    switch (arguments.task) {
+    case Arguments::Task::Help:
+        std::fputs(kUsage, stdout);
+        return kDone;
+    case Arguments::Task::Version:
+        std::puts("korvex-preferences " KORVEX_VERSION);
+        return kDone;
+    case Arguments::Task::Misuse:
+        std::fputs(kUsage, stderr);
+        return kMisused;
+    case Arguments::Task::Show:
+    case Arguments::Task::Check:
+        return run(arguments, argc, argv);
+    }
+    return kMisused;
+}
