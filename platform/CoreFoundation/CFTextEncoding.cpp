@@ -128,7 +128,7 @@ void appendUTF8(std::string& bytes, char32_t c) {
         return;
     }
     const int more = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-    bytes += static_cast<char>((0xF00u >> more & 0xFFu) | c >> (6 * more));
+    bytes += static_cast<char>((0xFF00u >> (more + 1) & 0xFFu) | c >> (6 * more));
     for (int i = more - 1; i >= 0; --i)
         bytes += static_cast<char>(0x80u | (c >> (6 * i) & 0x3Fu));
 }

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/CoreFoundation/CFString.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+inline void writeFile(const std::filesystem::path& path, std::string_view bytes) {
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary | std::ios::trunc).write(bytes.data(), std::ssize(bytes));
+}
+
+inline std::string readFile(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// An XML property list with `body` in its root dictionary.
+inline std::string dictionaryFile(const std::string& body) {
+    return R"(<?xml version="1.0" encoding="UTF-8"?>
+<plist version="1.0"><dict>)" +
+           body + "</dict></plist>\n";
+}
+
+/// A new folder in the test's sandbox.
+inline std::filesystem::path makeSandboxFolder(const std::string& name) {
+    const auto folder = std::filesystem::path(std::getenv("KORVEX_TEST_SANDBOX")) / name;
+    std::filesystem::create_directories(folder);
+    return folder;
+}
