@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-PaneWindow::PaneWindow(QWidget* pane) : pane_(pane) {
+PaneWindow::PaneWindow(QWidget* pane) : paneSize_(pane->size().expandedTo(pane->sizeHint())) {
     auto* scroller = new QScrollArea(this);
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setFocusPolicy(Qt::NoFocus);
@@ -24,9 +24,7 @@ void PaneWindow::open() {
     create();
     // Left around the window for its frame, which isn't known before it is shown.
     constexpr QSize kFrame(16, 48);
-    resize(pane_->sizeHint()
-               .expandedTo(pane_->minimumSizeHint())
-               .boundedTo(screen()->availableSize() - kFrame));
+    resize(paneSize_.boundedTo(screen()->availableSize() - kFrame));
     windowHandle()->installEventFilter(this);
     show();
 }

@@ -13,7 +13,8 @@ public:
     std::function<void()> onShown;  ///< called once, after the first frame is on the screen
     std::function<void()> onClosed; ///< called when the user has closed it and it is hidden
 
-    /// Sized to the pane, but never beyond the screen.
+    /// Shows the window, of the size that the pane has in its form or that its contents need, but
+    /// never beyond the screen.
     void open();
     void bringToFront();
 
@@ -23,5 +24,5 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    QWidget* pane_;
+    QSize paneSize_;
 };
