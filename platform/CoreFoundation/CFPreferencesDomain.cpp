@@ -25,30 +25,26 @@ CFRef<const CFType> storableValue(const CFString* key, const CFType* value) {
 } // namespace
 
 CFPreferencesDomain::CFPreferencesDomain(std::string path, Readers readers)
-    : path_(std::move(path)), readers_(readers), values_(CFDictionaryCreateMutable()) {
+    : path_(std::move(path)), readers_(readers), stored_(CFDictionaryCreateMutable()) {
     refresh();
 }
 
 const CFType* CFPreferencesDomain::value(const CFString* key) const {
-    return CFDictionaryGetValue(values_.get(), key);
+    const auto change = changes_.find(key->text());
+    return change == changes_.end() ? CFDictionaryGetValue(stored_.get(), key)
+                                    : change->second.get();
 }
 
 void CFPreferencesDomain::setValue(const CFString* key, const CFType* newValue) {
     if (CFEqual(newValue, value(key)))
         return;
-    if (newValue) {
-        const auto stored = storableValue(key, newValue);
-        if (!stored)
-            return;
-        CFDictionarySetValue(values_.get(), key, stored.get());
-    } else {
-        CFDictionaryRemoveValue(values_.get(), key);
-    }
-    marked_.insert(key->text());
+    auto storable = newValue ? storableValue(key, newValue) : nullptr;
+    if (storable || !newValue)
+        changes_.insert_or_assign(key->text(), std::move(storable));
 }
 
 bool CFPreferencesDomain::synchronize() {
-    if (marked_.empty()) {
+    if (changes_.empty()) {
         const FileState state = refresh();
         return state == FileState::Sound || state == FileState::Missing;
     }
@@ -67,7 +63,7 @@ CFPreferencesDomain::FileState CFPreferencesDomain::refresh() {
     case CFFileStatus::TooLarge:
         return FileState::Damaged;
     case CFFileStatus::Missing:
-        adopt({});
+        stored_ = CFDictionaryCreateMutable();
         content_ = nullptr;
         return FileState::Missing;
     case CFFileStatus::Read:
@@ -79,26 +75,27 @@ CFPreferencesDomain::FileState CFPreferencesDomain::refresh() {
     const auto* dictionary = dynamicCFCast<CFDictionary>(root.get());
     if (!dictionary)
         return FileState::Damaged;
-    adopt(dictionary->items());
+    stored_ = CFRef<const CFDictionary>::retain(dictionary);
     content_ = file.data;
     return FileState::Sound;
 }
 
-/// `items` become the values, but for the marked keys.
-void CFPreferencesDomain::adopt(CFDictionary::Items items) {
-    for (const auto& key : marked_) {
-        const auto set = values_->items().find(key);
-        if (set == values_->items().end())
-            items.erase(key);
+/// The stored values with the changes in them.
+CFRef<const CFDictionary> CFPreferencesDomain::merged() const {
+    CFDictionary::Items items = stored_->items();
+    for (const auto& [key, change] : changes_) {
+        if (change)
+            items.insert_or_assign(key, change);
         else
-            items.insert_or_assign(key, set->second);
+            items.erase(key);
     }
-    values_->items() = std::move(items);
+    return CFRef<CFDictionary>::adopt(new CFDictionary(std::move(items)));
 }
 
 /// Called under the lock, with what `refresh` just found.
 bool CFPreferencesDomain::write(FileState state) {
-    const std::string document = CFPropertyListToXML(values_.get());
+    CFRef<const CFDictionary> values = merged();
+    const std::string document = CFPropertyListToXML(values.get());
     if (state == FileState::Unreadable || document.empty())
         return false;
     const std::string target = CFResolveLinks(path_);
@@ -106,8 +103,9 @@ bool CFPreferencesDomain::write(FileState state) {
     if (!file.isWritten() || (state == FileState::Damaged && !CFKeepAside(target)) ||
         !file.putInPlace())
         return false;
+    stored_ = std::move(values);
     content_ = CFDataCreate(reinterpret_cast<const UInt8*>(document.data()),
                             static_cast<CFIndex>(document.size()));
-    marked_.clear();
+    changes_.clear();
     return true;
 }

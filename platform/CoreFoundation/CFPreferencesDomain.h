@@ -2,8 +2,6 @@
 
 #include "platform/CoreFoundation/CFPropertyList.h"
 
-#include <set>
-
 /// One domain of one user scope: its values in memory, and the file behind them. CFPreferences.h
 /// says how they meet.
 class CFPreferencesDomain {
@@ -22,12 +20,12 @@ private:
     enum class FileState { Sound, Missing, Damaged, Unreadable };
 
     FileState refresh();
-    void adopt(CFDictionary::Items items);
+    CFRef<const CFDictionary> merged() const;
     bool write(FileState state);
 
     std::string path_;
     Readers readers_;
-    CFRef<CFMutableDictionary> values_; ///< the file's, with the marked keys as they were set here
-    CFRef<CFData> content_;             ///< the file's bytes when last read or written, or null
-    std::set<std::u16string> marked_;
+    CFRef<const CFDictionary> stored_; ///< the file's values when last read or written
+    CFRef<const CFData> content_;      ///< the bytes of that file, or null
+    CFDictionary::Items changes_;      ///< what was set since; null for a key that was removed
 };

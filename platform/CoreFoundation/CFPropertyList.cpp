@@ -4,6 +4,7 @@
 #include "platform/CoreFoundation/CFPropertyListGuard.h"
 #include "platform/CoreFoundation/CFTextEncoding.h"
 
+#include <algorithm>
 #include <clocale>
 #include <cstdlib>
 #include <memory>
@@ -124,7 +125,8 @@ CFRef<const CFType> makeDictionary(plist_t node) {
         auto value = makeValue(item);
         if (!name || !value)
             return nullptr;
-        items.insert_or_assign(std::move(*name), std::move(value));
+        // Keys mostly come in their order, which makes the end the right hint.
+        items.insert_or_assign(items.end(), std::move(*name), std::move(value));
     }
 }
 
@@ -156,11 +158,15 @@ CFRef<const CFType> makeValue(plist_t node) {
 // From objects to libplist's nodes. Null for what a property list can't hold.
 
 bool isWritable(std::u16string_view text) {
-    while (!text.empty()) {
+    for (;;) {
+        const auto plain = [](char16_t c) { return c >= 0x20 && c < 0x80; };
+        const auto special = std::find_if_not(text.begin(), text.end(), plain);
+        text.remove_prefix(static_cast<std::size_t>(special - text.begin()));
+        if (text.empty())
+            return true;
         if (!isXMLCharacter(takeUTF16(text)))
             return false;
     }
-    return true;
 }
 
 std::optional<std::string> writableText(std::u16string_view text) {

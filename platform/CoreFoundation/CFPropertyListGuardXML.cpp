@@ -8,24 +8,34 @@
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
+bool isBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
 
 bool isXMLText(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const auto special = std::find_if(bytes.begin(), bytes.end(),
-                                          [](unsigned char c) { return c < 0x20 || c >= 0x80; });
+    for (;;) {
+        const auto plain = [](unsigned char c) { return c >= 0x20 && c < 0x80; };
+        const auto special = std::find_if_not(bytes.begin(), bytes.end(), [&](char c) {
+            return plain(static_cast<unsigned char>(c)) || isBlank(c);
+        });
         bytes.remove_prefix(static_cast<std::size_t>(special - bytes.begin()));
-        if (!bytes.empty() && !isXMLCharacter(takeUTF8(bytes)))
+        if (bytes.empty())
+            return true;
+        if (!isXMLCharacter(takeUTF8(bytes)))
             return false;
     }
-    return true;
+}
+
+bool isNameCharacter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
 std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 template <class Value, class... Form>
@@ -73,7 +83,7 @@ bool isBase64(std::string_view text) {
     std::size_t digits = 0;
     std::size_t padding = 0;
     for (const char c : text) {
-        if (kBlanks.find(c) != std::string_view::npos)
+        if (isBlank(c))
             continue;
         const bool digit = (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
                            (c >= '0' && c <= '9') || c == '+' || c == '/';
@@ -158,7 +168,8 @@ private:
     }
 
     void skipBlanks() {
-        rest_.remove_prefix(std::min(rest_.find_first_not_of(kBlanks), rest_.size()));
+        while (!rest_.empty() && isBlank(rest_.front()))
+            rest_.remove_prefix(1);
     }
 
     /// Takes `start`, anything, and `end` off the front. What could be read as ending within
@@ -217,10 +228,13 @@ private:
             body.remove_prefix(1);
         else if (tag.isWhole)
             body.remove_suffix(1);
-        tag.name = body.substr(0, body.find_first_of(kBlanks));
-        const bool hasMore = !trimmed(body.substr(tag.name.size())).empty();
-        return body.find_first_of("</") == std::string_view::npos &&
-               (!hasMore || (tag.name == "plist" && !tag.closes));
+        const auto nameEnd = std::find_if_not(body.begin(), body.end(), isNameCharacter);
+        const auto length = static_cast<std::size_t>(nameEnd - body.begin());
+        tag.name = body.substr(0, length);
+        const std::string_view attributes = trimmed(body.substr(length));
+        const bool separated = length == body.size() || isBlank(body[length]);
+        return separated && (attributes.empty() || (tag.name == "plist" && !tag.closes &&
+                                                    attributes.find('<') == attributes.npos));
     }
 
     bool follow(const Tag& tag) {

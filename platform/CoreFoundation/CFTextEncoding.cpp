@@ -1,5 +1,8 @@
 #include "platform/CoreFoundation/CFTextEncoding.h"
 
+#include <algorithm>
+#include <type_traits>
+
 namespace {
 
 /// The characters of Mac OS Roman's bytes 0x80 to 0xFF; the lower half is ASCII. Source: the
@@ -37,10 +40,21 @@ void appendUTF16(std::u16string& text, char32_t c) {
     text += static_cast<char16_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
 }
 
+/// Moves the run of ASCII characters at the front of `from` to the end of `to`: nearly all text
+/// here is that, and needs no look at each character's length.
+template <class From, class To>
+void takeASCII(From& from, To& to) {
+    const auto end = std::find_if(from.begin(), from.end(), [](auto c) {
+        return static_cast<std::make_unsigned_t<decltype(c)>>(c) >= 0x80;
+    });
+    to.append(from.begin(), end);
+    from.remove_prefix(static_cast<std::size_t>(end - from.begin()));
+}
+
 std::optional<std::u16string> decodeUTF8(std::string_view bytes) {
     std::u16string text;
     text.reserve(bytes.size());
-    while (!bytes.empty()) {
+    for (takeASCII(bytes, text); !bytes.empty(); takeASCII(bytes, text)) {
         const char32_t c = takeUTF8(bytes);
         if (c == kInvalidCharacter)
             return std::nullopt;
@@ -52,7 +66,7 @@ std::optional<std::u16string> decodeUTF8(std::string_view bytes) {
 std::optional<std::string> encodeUTF8(std::u16string_view text) {
     std::string bytes;
     bytes.reserve(text.size());
-    while (!text.empty()) {
+    for (takeASCII(text, bytes); !text.empty(); takeASCII(text, bytes)) {
         const char32_t c = takeUTF16(text);
         if (c == kInvalidCharacter)
             return std::nullopt;
