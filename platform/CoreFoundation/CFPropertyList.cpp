@@ -174,15 +174,15 @@ std::optional<std::string> writableText(std::u16string_view text) {
 }
 
 /// `depth` is how many containers enclose the value.
-bool isTooDeep(const CFType& value, int depth) {
+bool isTooDeep(const CFType& value, std::size_t depth) {
     const CFTypeID type = value.typeID();
     const bool container = type == CFTypeID::Array || type == CFTypeID::Dictionary;
     return container && depth >= kCFPropertyListMaxDepth;
 }
 
-PlistNode makeNode(const CFType* value, int depth);
+PlistNode makeNode(const CFType* value, std::size_t depth);
 
-PlistNode makeArrayNode(const CFArray& array, int depth) {
+PlistNode makeArrayNode(const CFArray& array, std::size_t depth) {
     PlistNode node(plist_new_array());
     for (const auto& item : array.items()) {
         PlistNode child = makeNode(item.get(), depth);
@@ -193,7 +193,7 @@ PlistNode makeArrayNode(const CFArray& array, int depth) {
     return node;
 }
 
-PlistNode makeDictionaryNode(const CFDictionary& dictionary, int depth) {
+PlistNode makeDictionaryNode(const CFDictionary& dictionary, std::size_t depth) {
     PlistNode node(plist_new_dict());
     for (const auto& [key, item] : dictionary.items()) {
         const auto name = writableText(key);
@@ -221,7 +221,7 @@ PlistNode makeDataNode(const CFData& data) {
         plist_new_data(reinterpret_cast<const char*>(data.bytes().data()), data.bytes().size()));
 }
 
-PlistNode makeNode(const CFType* value, int depth) {
+PlistNode makeNode(const CFType* value, std::size_t depth) {
     if (!value || isTooDeep(*value, depth))
         return nullptr;
     switch (value->typeID()) {
@@ -246,9 +246,9 @@ PlistNode makeNode(const CFType* value, int depth) {
     return nullptr;
 }
 
-CFRef<const CFType> copyValue(const CFType* value, int depth);
+CFRef<const CFType> copyValue(const CFType* value, std::size_t depth);
 
-CFRef<const CFType> copyArray(const CFArray& array, int depth) {
+CFRef<const CFType> copyArray(const CFArray& array, std::size_t depth) {
     CFArray::Items items;
     items.reserve(array.items().size());
     for (const auto& item : array.items()) {
@@ -259,7 +259,7 @@ CFRef<const CFType> copyArray(const CFArray& array, int depth) {
     return CFRef<CFArray>::adopt(new CFArray(std::move(items)));
 }
 
-CFRef<const CFType> copyDictionary(const CFDictionary& dictionary, int depth) {
+CFRef<const CFType> copyDictionary(const CFDictionary& dictionary, std::size_t depth) {
     CFDictionary::Items items;
     for (const auto& [key, item] : dictionary.items()) {
         auto copy = copyValue(item.get(), depth);
@@ -276,7 +276,7 @@ CFRef<const CFType> copyString(const CFString& string) {
     return CFRef<CFString>::adopt(new CFString(string.text()));
 }
 
-CFRef<const CFType> copyValue(const CFType* value, int depth) {
+CFRef<const CFType> copyValue(const CFType* value, std::size_t depth) {
     if (!value || isTooDeep(*value, depth))
         return nullptr;
     switch (value->typeID()) {

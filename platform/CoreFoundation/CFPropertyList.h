@@ -10,7 +10,7 @@
 /// The largest property list that is read or written, in bytes, and the deepest nesting of
 /// containers.
 constexpr std::size_t kCFPropertyListMaxSize = 1u << 20;
-constexpr int kCFPropertyListMaxDepth = 16;
+constexpr std::size_t kCFPropertyListMaxDepth = 16;
 
 /// Reads a property list, XML or binary. Null when the data isn't exactly one whole, valid property
 /// list, or exceeds the limits above: data from outside never reaches the parser unchecked.

@@ -321,7 +321,7 @@ private:
 
     std::string_view rest_;
     std::array<Open, kCFPropertyListMaxDepth + 1> stack_{};
-    int depth_ = 0;
+    std::size_t depth_ = 0; ///< how many are open
 };
 
 } // namespace

@@ -10,6 +10,7 @@
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -85,6 +86,30 @@ TEST(CFPreferencesCrash, KilledWriterLeavesTheOldOrTheNewFile) {
     CFPreferencesSetAppValue(CFSTR("after"), CFSTR("all"), domain());
     EXPECT_TRUE(CFPreferencesAppSynchronize(domain())) << "what killed writers left hinders nobody";
     EXPECT_FALSE(std::filesystem::exists(path + ".new"));
+}
+
+TEST(CFPreferencesCrash, WritersAtTheSameTimeLoseNothing) {
+    constexpr int kWriters = 4;
+    constexpr int kSaves = 25;
+    std::vector<pid_t> writers;
+    for (int writer = 0; writer < kWriters; ++writer) {
+        writers.push_back(fork());
+        if (writers.back() != 0)
+            continue;
+        bool saved = true;
+        for (int i = 0; i < kSaves; ++i) {
+            CFPreferencesSetAppValue(text(writer * kSaves + i).get(), CFSTR("x"), domain());
+            saved = CFPreferencesAppSynchronize(domain()) && saved;
+        }
+        std::_Exit(saved ? 0 : 1);
+    }
+    for (const pid_t writer : writers) {
+        int status = -1;
+        waitpid(writer, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    for (int key = 0; key < kWriters * kSaves; ++key)
+        EXPECT_TRUE(CFPreferencesCopyAppValue(text(key).get(), domain())) << key;
 }
 
 } // namespace

@@ -17,14 +17,14 @@ std::string plist(const std::string& body) {
     return "<plist version=\"1.0\">" + body + "</plist>";
 }
 
-std::string repeat(const std::string& text, int times) {
+std::string repeat(const std::string& text, std::size_t times) {
     std::string result;
-    for (int i = 0; i < times; ++i)
+    for (std::size_t i = 0; i < times; ++i)
         result += text;
     return result;
 }
 
-std::string nested(int levels) {
+std::string nested(std::size_t levels) {
     return plist(repeat("<array>", levels) + repeat("</array>", levels));
 }
 
@@ -179,7 +179,7 @@ TEST(CFPropertyList, UnsoundBinaryIsRefused) {
     EXPECT_FALSE(parse(sound + '\0'));
 
     std::vector<std::string> doubling; // each level holds the next one twice: 2^15 texts in the end
-    for (char level = 1; level < kCFPropertyListMaxDepth; ++level)
+    for (char level = 1; level < char{kCFPropertyListMaxDepth}; ++level)
         doubling.push_back("\xA2" + std::string(2, level));
     doubling.push_back("\x5F\x10\x40" + std::string(64, 'x'));
     ASSERT_TRUE(parse(binary({doubling.end() - 3, doubling.end()}, 2)));
@@ -217,7 +217,7 @@ TEST(CFPropertyList, WhatAListCannotHoldIsNotWritten) {
         return CFRef<const CFType>::adopt(new CFString(std::move(units)));
     };
     auto deep = CFRef<const CFType>(CFArrayCreate({}));
-    for (int i = 1; i < kCFPropertyListMaxDepth; ++i) {
+    for (std::size_t i = 1; i < kCFPropertyListMaxDepth; ++i) {
         const CFType* item = deep.get();
         deep = CFArrayCreate({&item, 1});
     }
