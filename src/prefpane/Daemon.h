@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/CoreFoundation/CFBundle.h"
+#include "platform/CoreServices/AppleEvents.h"
+#include "src/prefs.h"
+
+// The link to the agent, a program of its own: finding it, launching it, quitting it, and the Apple
+// Events exchanged with it. It lives from daemonSetup to daemonCleanup, one visit of the pane.
+
+/// Installs the handler for the agent's reports. Launches the agent when it isn't running, whatever
+/// its on/off state, or else tells it that the pane has opened. `path` is the agent application's;
+/// null when there is none: it can't be launched then.
+void daemonSetup(const CFString* path);
+
+/// Tells a running agent that the pane has closed, and lets everything go.
+void daemonCleanup();
+
+/// Sends the agent the record and what changed in it. With kChangeForceOnOff and `on` 0 it asks the
+/// agent to quit instead; otherwise, with `on` 1, it launches an agent that isn't running. An agent
+/// that can't be found hears nothing.
+void daemonSendChanges(ChangeMask changes, bool doNotWait);
+
+/// The agent application's bundle, where its resources are; null without a path or bundle. Borrowed
+/// until daemonCleanup.
+CFBundle* daemonMainBundle();

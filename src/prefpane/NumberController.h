@@ -1,0 +1,69 @@
+#pragma once
+
+#include "platform/AppKit/NSObject.h"
+#include "src/prefs.h"
+
+/// Hears of every change that a number controller made, named by its group.
+class NumberChangeTarget {
+public:
+    virtual void changed(ChangeMask changes) = 0;
+
+protected:
+    ~NumberChangeTarget() = default;
+};
+
+/// How the bound value is stored. A value of any other kind reads as 0 and is never written.
+enum NumberKind : SInt32 {
+    kNumberKindDouble = 0,
+    kNumberKindSInt32 = 1,
+    kNumberKindUInt32 = 2,
+};
+
+/// Binds one number, at an address that its owner gives, to a group of controls: clamps and rounds
+/// what is written, and reports every change that altered the stored value. It owns no controls.
+class NumberController : public NSObject {
+public:
+    /// The one target of all controllers; not owned, null for none.
+    static void setChangeTarget(NumberChangeTarget* target) { changeTarget_ = target; }
+
+    /// `at` isn't owned and may be null: the value then reads as 0 and writes are ignored. Neither
+    /// refreshes the controls nor reports anything.
+    virtual NumberController* setKind(SInt32 kind, void* at, double min, double max, double inc,
+                                      ChangeMask changes);
+
+    SInt32 kind() const { return kind_; }
+
+    double minimum() const { return minValue_; }
+
+    double maximum() const { return maxValue_; }
+
+    double value() const;
+
+    /// Clamps, converts to the kind and stores; reports nothing.
+    void set(double value);
+
+    /// Brings the controls up to date with the stored value.
+    virtual void update() {}
+
+    /// The value snapped toward zero to a multiple of the step; integers are as they are.
+    double truncValue() const;
+
+    void inc();
+    void dec();
+
+    /// Stores a new value and, when that altered what is stored, calls changed.
+    void change(double value);
+
+    /// Refreshes the controls and tells the change target.
+    virtual void changed();
+
+private:
+    static inline NumberChangeTarget* changeTarget_ = nullptr;
+
+    SInt32 kind_ = kNumberKindDouble;
+    void* valuep_ = nullptr;
+    double minValue_ = 0;
+    double maxValue_ = 0;
+    double incValue_ = 0;
+    ChangeMask changeMask_ = 0;
+};

@@ -1,0 +1,178 @@
+#include "src/prefpane/PreferenceWrangler.h"
+
+#include "platform/AppKit/NSButton.h"
+#include "platform/AppKit/NSColorWell.h"
+#include "platform/AppKit/NSMatrix.h"
+#include "platform/AppKit/NSTabView.h"
+#include "platform/HIToolbox/AppleHelp.h"
+#include "src/prefpane/BumperController.h"
+#include "src/prefpane/SliderController.h"
+
+NS_REGISTER_CLASS(PreferenceWrangler);
+
+PreferenceWrangler* theWrangler = nullptr;
+
+void wranglerSetMasterOnOff(bool on) {
+    if (theWrangler)
+        theWrangler->setMasterOnOff(on);
+}
+
+std::span<const NSOutlet> PreferenceWrangler::outlets() const {
+    using W = PreferenceWrangler;
+    static constexpr NSOutlet table[] = {
+        nsOutlet<&W::autoRepeatTime_>("autoRepeatTime"),
+        nsOutlet<&W::borderGap_>("borderGap"),
+        nsOutlet<&W::buttonGap_>("buttonGap"),
+        nsOutlet<&W::canScanMenuBarCheck_>("canScanMenuBarCheck"),
+        nsOutlet<&W::clickTime_>("clickTime"),
+        nsOutlet<&W::guideTransparency_>("guideTransparency"),
+        nsOutlet<&W::inverseReleaseTime_>("inverseReleaseTime"),
+        nsOutlet<&W::lineColor_>("lineColor"),
+        nsOutlet<&W::lineScanCanEndKybdModeCheck_>("lineScanCanEndKybdModeCheck"),
+        nsOutlet<&W::lineScanTime_>("lineScanTime"),
+        nsOutlet<&W::lineThickness_>("lineThickness"),
+        nsOutlet<&W::lineTransparency_>("lineTransparency"),
+        nsOutlet<&W::masterOnOffRadios_>("masterOnOffRadios"),
+        nsOutlet<&W::menuScanSpeedScaleFactor_>("menuScanSpeedScaleFactor"),
+        nsOutlet<&W::minTriggerDuration_>("minTriggerDuration"),
+        nsOutlet<&W::playClickSoundsCheck_>("playClickSoundsCheck"),
+        nsOutlet<&W::playDragPrompts_>("playDragPrompts"),
+        nsOutlet<&W::pointerScanTime_>("pointerScanTime"),
+        nsOutlet<&W::afterClickDelay_>("afterClickDelay"),
+        nsOutlet<&W::preScanDelayTime_>("preScanDelayTime"),
+        nsOutlet<&W::scanModeRadios_>("scanModeRadios"),
+        nsOutlet<&W::stepScanCancelTime_>("stepScanCancelTime"),
+        nsOutlet<&W::prefsTabs_>("prefsTabs"),
+        nsOutlet<&W::triggerOnReleaseRadios_>("triggerOnReleaseRadios"),
+        nsOutlet<&W::useScanAccelerationCheck_>("useScanAccelerationCheck"),
+        nsOutlet<&W::useScanAreaRadios_>("useScanAreaRadios"),
+        nsOutlet<&W::volume_>("volume"),
+        nsOutlet<&W::wantHotKeyTriggerCheck_>("wantHotKeyTriggerCheck"),
+        nsOutlet<&W::wantMouseClickTriggerCheck_>("wantMouseClickTriggerCheck"),
+    };
+    return table;
+}
+
+std::span<const NSAction> PreferenceWrangler::actions() const {
+    using W = PreferenceWrangler;
+    static constexpr NSAction table[] = {
+        nsAction<&W::showHelp>("showHelp:"),
+        nsAction<&W::changedMasterOnOff>("changedMasterOnOff:"),
+        nsAction<&W::changedWantMouseClickTrigger>("changedWantMouseClickTrigger:"),
+        nsAction<&W::changedWantHotKeyTrigger>("changedWantHotKeyTrigger:"),
+        nsAction<&W::changedUseScanArea>("changedUseScanArea:"),
+        nsAction<&W::changedUseScanAcceleration>("changedUseScanAcceleration:"),
+        nsAction<&W::changedTriggerOnRelease>("changedTriggerOnRelease:"),
+        nsAction<&W::changedScanMode>("changedScanMode:"),
+        nsAction<&W::changedPlayDragPrompts>("changedPlayDragPrompts:"),
+        nsAction<&W::changedPlayClickSounds>("changedPlayClickSounds:"),
+        nsAction<&W::changedLineScanCanEndKyndMode>("changedLineScanCanEndKyndMode:"),
+        nsAction<&W::changedCanScanMenuBar>("changedCanScanMenuBar:"),
+        nsAction<&W::changedLineColor>("changedLineColor:"),
+    };
+    return table;
+}
+
+void PreferenceWrangler::awakeFromNib() {
+    setup();
+}
+
+void PreferenceWrangler::setup() {
+    NumberController::setChangeTarget(this);
+
+    struct SliderRow {
+        SliderController* controller;
+        void* field;
+        double step;
+        ChangeMask changes;
+        const char* format;
+    };
+
+    constexpr auto kSeconds = "%5.1f sec";
+    constexpr auto kMilliseconds = "%3.0f ms";
+    constexpr auto kPercent = "%3.0f%%";
+    const SliderRow sliders[] = {
+        {autoRepeatTime_, &prefs.autoRepeatTime, 0.5, kChangeScanSpeed, kSeconds},
+        {guideTransparency_, &prefs.lineGhostTransparency, 1.0, kChangeGuideLineLook, kPercent},
+        {inverseReleaseTime_, &prefs.inverseReleaseTime, 0.5, kChangeTriggers, kSeconds},
+        {stepScanCancelTime_, &prefs.stepScanCancelTime, 0.5, kChangeTriggers, kSeconds},
+        {preScanDelayTime_, &prefs.preScanDelay, 0.5, kChangeTriggers, kSeconds},
+        {lineScanTime_, &prefs.lineScanTime, 0.5, kChangeScanSpeed, kSeconds},
+        {lineTransparency_, &prefs.lineTransparency, 1.0, kChangeScanLineLook, kPercent},
+        {menuScanSpeedScaleFactor_, &prefs.menuScanSpeedScaleFactor, 5.0, kChangeScanSpeed,
+         kPercent},
+        {minTriggerDuration_, &prefs.minTriggerDuration, 0.5, kChangeTriggers, kSeconds},
+        {pointerScanTime_, &prefs.pointerScanTime, 0.5, kChangeScanSpeed, kSeconds},
+        {afterClickDelay_, &prefs.afterClickDelay, 0.5, kChangeTriggers, kSeconds},
+        {clickTime_, &prefs.clickDuration, 1.0, kChangeScanSpeed, kMilliseconds},
+    };
+    for (const SliderRow& row : sliders)
+        row.controller->setDoubleKindAt(row.field, row.step, row.changes, row.format);
+    volume_->setKind(kNumberKindUInt32, &prefs.soundLevel, 1.0, kChangeSounds, "%3.0f");
+
+    borderGap_->setKind(kNumberKindSInt32, &prefs.borderGap, 0, 100, 1, kChangePalette);
+    buttonGap_->setKind(kNumberKindSInt32, &prefs.buttonGap, 0, 100, 1, kChangePalette);
+    lineThickness_->setKind(kNumberKindSInt32, &prefs.lineThickness, 1, 50, 1,
+                            kChangeScanLineLook | kChangeGuideLineLook);
+
+    theWrangler = this;
+}
+
+void PreferenceWrangler::loadValues() {
+    NumberController* const controllers[] = {
+        autoRepeatTime_,
+        clickTime_,
+        guideTransparency_,
+        preScanDelayTime_,
+        inverseReleaseTime_,
+        stepScanCancelTime_,
+        lineScanTime_,
+        lineTransparency_,
+        menuScanSpeedScaleFactor_,
+        minTriggerDuration_,
+        pointerScanTime_,
+        afterClickDelay_,
+        volume_,
+        borderGap_,
+        buttonGap_,
+        lineThickness_,
+    };
+    for (NumberController* controller : controllers)
+        controller->update();
+
+    updateMasterOnOff();
+    scanModeRadios_->selectCellWithTag(prefs.scanMode);
+    triggerOnReleaseRadios_->selectCellWithTag(prefs.triggerOnRelease != 0);
+    updateScanAreaRadios();
+
+    const struct {
+        NSButton* check;
+        UInt8 state;
+    } checks[] = {
+        {canScanMenuBarCheck_, prefs.canScanMenuBar},
+        {lineScanCanEndKybdModeCheck_, prefs.lineScanCanEndKybdMode},
+        {playClickSoundsCheck_, prefs.playClickSounds},
+        {playDragPrompts_, prefs.playDragPrompts},
+        {useScanAccelerationCheck_, prefs.useScanAcceleration},
+        {wantHotKeyTriggerCheck_, prefs.wantHotKeyTrigger},
+        {wantMouseClickTriggerCheck_, prefs.wantMouseClickTrigger},
+    };
+
+    for (const auto& [check, state] : checks)
+        check->setState(state);
+
+    lineColor_->setColor(NSColor::colorWithDeviceRed(prefs.lineColor.red / 255.0,
+                                                     prefs.lineColor.green / 255.0,
+                                                     prefs.lineColor.blue / 255.0, 1.0));
+    updateTriggerUI();
+}
+
+void PreferenceWrangler::setHelpBookName(const CFType* name) {
+    if (const auto* string = dynamicCFCast<CFString>(name))
+        helpBookName_ = string;
+}
+
+void PreferenceWrangler::showHelp(NSButton*) {
+    if (helpBookName_)
+        AHGotoPage(helpBookName_, nullptr, nullptr);
+}

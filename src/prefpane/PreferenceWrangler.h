@@ -1,0 +1,100 @@
+#pragma once
+
+#include "src/prefpane/NumberController.h"
+
+class BumperController;
+class CFType;
+class NSButton;
+class NSColorWell;
+class NSMatrix;
+class NSTabView;
+class SliderController;
+
+/// The pane's one controller: it binds every control to its field of `prefs`, shows the fields in
+/// the controls, and carries every edit to the store and to the agent. The interface file makes it
+/// and fills its outlets; each is named after the setting that it shows.
+class PreferenceWrangler final : public NSObject, public NumberChangeTarget {
+public:
+    std::span<const NSOutlet> outlets() const override;
+    std::span<const NSAction> actions() const override;
+    void awakeFromNib() override;
+
+    // PreferenceWrangler.cpp: set-up and loading
+
+    /// Binds the controls. Run when the interface is loaded and again before every visit; running
+    /// it again changes nothing.
+    void setup();
+    /// Shows every field of `prefs` in its control. Reports nothing, but for a custom scan area
+    /// that is in use while it is empty: that is switched off, and the change reported.
+    void loadValues();
+    /// Keeps the name, borrowed, if it is a string; anything else leaves the previous one.
+    void setHelpBookName(const CFType* name);
+    void showHelp(NSButton* sender);
+
+    // PreferenceWranglerChanges.cpp: edits
+
+    /// Brings dependent controls up to date, marks the record for saving and sends it to the agent.
+    /// An empty mask is a change like any other.
+    void changed(ChangeMask changes) override;
+    void updateUIForChanges(ChangeMask changes);
+
+    void updateMasterOnOff();
+    /// The agent reported its state: it is kept, and not sent back.
+    void setMasterOnOff(bool on);
+    void updateTriggerUI();
+    void updateScanAreaRadios();
+
+    void changedMasterOnOff(NSMatrix* sender);
+    void changedWantMouseClickTrigger(NSButton* sender);
+    void changedWantHotKeyTrigger(NSButton* sender);
+    void changedUseScanArea(NSMatrix* sender);
+    void changedUseScanAcceleration(NSButton* sender);
+    void changedTriggerOnRelease(NSMatrix* sender);
+    void changedScanMode(NSMatrix* sender);
+    void changedPlayDragPrompts(NSButton* sender);
+    void changedPlayClickSounds(NSButton* sender);
+    void changedLineScanCanEndKyndMode(NSButton* sender);
+    void changedCanScanMenuBar(NSButton* sender);
+    void changedLineColor(NSColorWell* sender);
+
+private:
+    void setFlag(UInt8& flag, NSButton* sender, ChangeMask changes);
+
+    SliderController* autoRepeatTime_ = nullptr;
+    BumperController* borderGap_ = nullptr;
+    BumperController* buttonGap_ = nullptr;
+    NSButton* canScanMenuBarCheck_ = nullptr;
+    SliderController* clickTime_ = nullptr;
+    SliderController* guideTransparency_ = nullptr;
+    SliderController* inverseReleaseTime_ = nullptr;
+    NSColorWell* lineColor_ = nullptr;
+    NSButton* lineScanCanEndKybdModeCheck_ = nullptr;
+    SliderController* lineScanTime_ = nullptr;
+    BumperController* lineThickness_ = nullptr;
+    SliderController* lineTransparency_ = nullptr;
+    NSMatrix* masterOnOffRadios_ = nullptr;
+    SliderController* menuScanSpeedScaleFactor_ = nullptr;
+    SliderController* minTriggerDuration_ = nullptr;
+    NSButton* playClickSoundsCheck_ = nullptr;
+    NSButton* playDragPrompts_ = nullptr;
+    SliderController* pointerScanTime_ = nullptr;
+    SliderController* afterClickDelay_ = nullptr;
+    SliderController* preScanDelayTime_ = nullptr;
+    NSMatrix* scanModeRadios_ = nullptr;
+    SliderController* stepScanCancelTime_ = nullptr;
+    NSTabView* prefsTabs_ = nullptr;
+    NSMatrix* triggerOnReleaseRadios_ = nullptr;
+    NSButton* useScanAccelerationCheck_ = nullptr;
+    NSMatrix* useScanAreaRadios_ = nullptr;
+    SliderController* volume_ = nullptr;
+    NSButton* wantHotKeyTriggerCheck_ = nullptr;
+    NSButton* wantMouseClickTriggerCheck_ = nullptr;
+
+    const CFString* helpBookName_ = nullptr; ///< the bundle's own; null: no book
+};
+
+/// The one wrangler; null until its set-up has run once.
+extern PreferenceWrangler* theWrangler;
+
+/// The running agent was switched on or off. Does nothing while there is no wrangler.
+void wranglerSetMasterOnOff(bool on);

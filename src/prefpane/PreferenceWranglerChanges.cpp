@@ -1,0 +1,131 @@
+#include "src/prefpane/PreferenceWrangler.h"
+
+#include "platform/AppKit/NSButton.h"
+#include "platform/AppKit/NSColorWell.h"
+#include "platform/AppKit/NSMatrix.h"
+#include "platform/HIToolbox/CarbonEvents.h"
+#include "src/prefpane/Daemon.h"
+
+namespace {
+
+/// Whether the area can be scanned: neither side is zero or less.
+bool isUsable(const ScanArea& area) {
+    return area.width > 0 && area.height > 0;
+}
+
+/// A colour component from 0 to 1 as a whole number from 0 to 255: truncated, with just enough
+/// added to keep whole numbers whole.
+UInt16 byteComponent(double component) {
+    return static_cast<UInt16>(component * 255.0 + 0.1);
+}
+
+} // namespace
+
+void PreferenceWrangler::changed(ChangeMask changes) {
+    updateUIForChanges(changes);
+    prefsWereChanged();
+    daemonSendChanges(changes, true);
+}
+
+void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {
+    if (changes & kChangeTriggers)
+        updateTriggerUI();
+}
+
+void PreferenceWrangler::updateMasterOnOff() {
+    masterOnOffRadios_->selectCellWithTag(prefs.on);
+    masterOnOffRadios_->setEnabled(true);
+}
+
+void PreferenceWrangler::setMasterOnOff(bool on) {
+    if ((prefs.on != 0) != on) {
+        prefs.on = on;
+        prefsWereChanged();
+    }
+    updateMasterOnOff();
+}
+
+void PreferenceWrangler::updateTriggerUI() {
+    triggerOnReleaseRadios_->setEnabled(prefs.scanMode == 0);
+}
+
+void PreferenceWrangler::updateScanAreaRadios() {
+    const bool usable = isUsable(prefs.scanArea);
+    useScanAreaRadios_->cellWithTag(1)->setEnabled(usable);
+    if (prefs.useScanArea && !usable) {
+        prefs.useScanArea = 0;
+        changed(kChangeScanArea);
+    }
+    useScanAreaRadios_->selectCellWithTag(prefs.useScanArea);
+}
+
+void PreferenceWrangler::changedMasterOnOff(NSMatrix* sender) {
+    const int tag = sender->selectedTag();
+    const bool force = GetCurrentEventKeyModifiers() & optionKey;
+    if (tag == prefs.on && !force)
+        return;
+    if (force)
+        SysBeep(1);
+    prefs.on = static_cast<UInt8>(tag);
+    changed(force ? kChangeOnOff | kChangeForceOnOff : kChangeOnOff);
+}
+
+/// Writes a check box's state to its field and reports the change, also when the value is the same.
+void PreferenceWrangler::setFlag(UInt8& flag, NSButton* sender, ChangeMask changes) {
+    flag = sender->state() == NSOnState;
+    changed(changes);
+}
+
+void PreferenceWrangler::changedWantMouseClickTrigger(NSButton* sender) {
+    setFlag(prefs.wantMouseClickTrigger, sender, kChangeTriggers);
+}
+
+void PreferenceWrangler::changedWantHotKeyTrigger(NSButton* sender) {
+    setFlag(prefs.wantHotKeyTrigger, sender, kChangeTriggers);
+}
+
+void PreferenceWrangler::changedUseScanAcceleration(NSButton* sender) {
+    setFlag(prefs.useScanAcceleration, sender, kChangeScanSpeed);
+}
+
+void PreferenceWrangler::changedPlayDragPrompts(NSButton* sender) {
+    setFlag(prefs.playDragPrompts, sender, kChangeSounds);
+}
+
+void PreferenceWrangler::changedPlayClickSounds(NSButton* sender) {
+    setFlag(prefs.playClickSounds, sender, kChangeSounds);
+}
+
+void PreferenceWrangler::changedLineScanCanEndKyndMode(NSButton* sender) {
+    setFlag(prefs.lineScanCanEndKybdMode, sender, kChangeKeyboardMode);
+}
+
+void PreferenceWrangler::changedCanScanMenuBar(NSButton* sender) {
+    setFlag(prefs.canScanMenuBar, sender, 0); // belongs to no group; the agent still hears of it
+}
+
+void PreferenceWrangler::changedUseScanArea(NSMatrix* sender) {
+    prefs.useScanArea = sender->selectedTag() != 0;
+    updateScanAreaRadios();
+    changed(kChangeScanArea);
+}
+
+void PreferenceWrangler::changedTriggerOnRelease(NSMatrix* sender) {
+    prefs.triggerOnRelease = sender->selectedTag() != 0;
+    changed(kChangeTriggers);
+}
+
+void PreferenceWrangler::changedScanMode(NSMatrix* sender) {
+    const int tag = sender->selectedTag();
+    if (tag < 0 || tag > 2)
+        return;
+    prefs.scanMode = tag;
+    changed(kChangeTriggers);
+}
+
+void PreferenceWrangler::changedLineColor(NSColorWell* sender) {
+    const NSColor color = sender->color();
+    prefs.lineColor = {byteComponent(color.redComponent()), byteComponent(color.greenComponent()),
+                       byteComponent(color.blueComponent())};
+    changed(kChangeScanLineLook | kChangeGuideLineLook);
+}

@@ -1,0 +1,88 @@
+#include "src/prefpane/SliderController.h"
+
+#include "platform/AppKit/NSButton.h"
+#include "platform/AppKit/NSSlider.h"
+#include "platform/AppKit/NSTextField.h"
+#include "src/prefpane/StepButtons.h"
+
+#include <cstdio>
+#include <initializer_list>
+
+NS_REGISTER_CLASS(SliderController);
+
+std::span<const NSOutlet> SliderController::outlets() const {
+    static constexpr NSOutlet table[] = {
+        nsOutlet<&SliderController::decBtn_>("decBtn"),
+        nsOutlet<&SliderController::incBtn_>("incBtn"),
+        nsOutlet<&SliderController::title_>("title"),
+        nsOutlet<&SliderController::label_>("label"),
+        nsOutlet<&SliderController::slider_>("slider"),
+    };
+    return table;
+}
+
+std::span<const NSAction> SliderController::actions() const {
+    static constexpr NSAction table[] = {
+        nsAction<&SliderController::decValue>("decValue:"),
+        nsAction<&SliderController::incValue>("incValue:"),
+        nsAction<&SliderController::changedValue>("changedValue:"),
+    };
+    return table;
+}
+
+SliderController* SliderController::setKind(SInt32 kind, void* at, double inc, ChangeMask changes,
+                                            const char* labelFormat) {
+    labelFormat_ = labelFormat ? labelFormat : "";
+    setStepButtonsAutoRepeat(decBtn_, incBtn_);
+    NumberController::setKind(kind, at, slider_->minValue(), slider_->maxValue(), inc, changes);
+    return this;
+}
+
+SliderController* SliderController::setDoubleKindAt(void* at, double inc, ChangeMask changes,
+                                                    const char* labelFormat) {
+    return setKind(kNumberKindDouble, at, inc, changes, labelFormat);
+}
+
+void SliderController::update() {
+    const double v = value();
+    updateStepButtons(*this, decBtn_, incBtn_);
+    slider_->setDoubleValue(v);
+    if (labelFormat_.empty()) {
+        label_->setDoubleValue(v);
+        return;
+    }
+    char text[400]; // the longest double has 309 digits before the point
+    std::snprintf(text, sizeof text, labelFormat_.c_str(), v);
+    label_->setStringValue(text);
+}
+
+bool SliderController::isPresent() const {
+    return slider_->superview() != nullptr;
+}
+
+void SliderController::setPresent(bool present) {
+    if (isPresent()) {
+        if (!container_)
+            container_ = slider_->superview();
+        if (!present)
+            for (NSView* view :
+                 std::initializer_list<NSView*>{incBtn_, decBtn_, label_, title_, slider_})
+                view->removeFromSuperview();
+    } else if (present && container_) {
+        for (NSView* view :
+             std::initializer_list<NSView*>{slider_, title_, label_, decBtn_, incBtn_})
+            container_->addSubview(view);
+    }
+}
+
+void SliderController::decValue(NSButton*) {
+    dec();
+}
+
+void SliderController::incValue(NSButton*) {
+    inc();
+}
+
+void SliderController::changedValue(NSSlider* sender) {
+    change(sender->doubleValue());
+}

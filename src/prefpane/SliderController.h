@@ -1,0 +1,46 @@
+#pragma once
+
+#include "src/prefpane/NumberController.h"
+
+#include <string>
+
+class NSButton;
+class NSSlider;
+class NSTextField;
+class NSView;
+
+/// A number shown as a caption, a slider, a minus and a plus button and a value label. Its limits
+/// are the slider's own.
+class SliderController final : public NumberController {
+public:
+    std::span<const NSOutlet> outlets() const override;
+    std::span<const NSAction> actions() const override;
+
+    /// `labelFormat` is a printf format with exactly one double conversion; null leaves the
+    /// number's look to the label.
+    SliderController* setKind(SInt32 kind, void* at, double inc, ChangeMask changes,
+                              const char* labelFormat);
+    SliderController* setDoubleKindAt(void* at, double inc, ChangeMask changes,
+                                      const char* labelFormat);
+
+    void update() override;
+
+    /// Takes the five views out of their container, or puts them back.
+    void setPresent(bool present);
+    bool isPresent() const;
+
+    void decValue(NSButton* sender);
+    void incValue(NSButton* sender);
+    void changedValue(NSSlider* sender);
+
+private:
+    using NumberController::setKind;
+
+    NSButton* decBtn_ = nullptr;
+    NSButton* incBtn_ = nullptr;
+    NSTextField* title_ = nullptr;
+    NSTextField* label_ = nullptr;
+    NSSlider* slider_ = nullptr;
+    std::string labelFormat_ = "%f"; ///< empty: none
+    NSView* container_ = nullptr;    ///< where the views were last seen; null until then
+};

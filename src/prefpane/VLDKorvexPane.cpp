@@ -1,0 +1,38 @@
+#include "src/prefpane/VLDKorvexPane.h"
+
+#include "platform/HIToolbox/AppleHelp.h"
+#include "src/prefpane/Daemon.h"
+#include "src/prefpane/PreferenceWrangler.h"
+
+NS_REGISTER_CLASS(VLDKorvexPane);
+
+std::span<const NSOutlet> VLDKorvexPane::outlets() const {
+    static constexpr NSOutlet table[] = {
+        nsOutlet<&VLDKorvexPane::preferenceWrangler_>("preferenceWrangler"),
+    };
+    return table;
+}
+
+void VLDKorvexPane::mainViewDidLoad() {
+    if (!bundle())
+        return;
+    const auto url = CFBundleCopyBundleURL(bundle());
+    FSRef ref;
+    if (url && CFURLGetFSRef(url.get(), &ref) && AHRegisterHelpBook(&ref) == noErr)
+        preferenceWrangler_->setHelpBookName(
+            CFBundleGetValueForInfoDictionaryKey(bundle(), CFSTR("CFBundleHelpBookName")));
+}
+
+void VLDKorvexPane::willSelect() {
+    const auto agent = CFBundleCopyAuxiliaryExecutableURL(bundle(), CFSTR("Korvex Agent.app"));
+    const auto path = agent ? CFURLCopyFileSystemPath(agent.get()) : CFRef<CFString>();
+    daemonSetup(path.get());
+    prefsSetup();
+    preferenceWrangler_->setup();
+    preferenceWrangler_->loadValues();
+}
+
+void VLDKorvexPane::didUnselect() {
+    prefsCleanup();
+    daemonCleanup();
+}
