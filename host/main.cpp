@@ -6,6 +6,7 @@
 
 #include <QApplication>
 
+#include <clocale>
 #include <cstdio>
 
 namespace {
@@ -64,6 +65,8 @@ int run(const Arguments& arguments, int argc, char** argv) {
         return kFailed;
     }
     QApplication application(argc, argv);
+    // QApplication takes on the user's locale; stored numbers have a point in every one.
+    std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("korvex-preferences"));
     QApplication::setDesktopFileName(QStringLiteral("org.korvex.Preferences"));
     if (arguments.task == Arguments::Task::Show)

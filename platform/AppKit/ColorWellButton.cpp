@@ -1,5 +1,7 @@
 #include "platform/AppKit/ColorWellButton.h"
 
+#include <QColorDialog>
+#include <QHideEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
@@ -38,4 +40,13 @@ void ColorWellButton::paintEvent(QPaintEvent*) {
     painter.setPen(palette().color(QPalette::ButtonText));
     painter.setBrush(patch);
     painter.drawRect(rect().adjusted(kBorder, kBorder, -kBorder - 1, -kBorder - 1));
+}
+
+// The chooser goes with the button, but not when the window is only minimised.
+void ColorWellButton::hideEvent(QHideEvent* event) {
+    auto* chooser = findChild<QColorDialog*>();
+    if (chooser && !event->spontaneous()) {
+        chooser->hide();
+        chooser->deleteLater();
+    }
 }

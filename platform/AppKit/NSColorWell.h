@@ -7,8 +7,9 @@
 
 /// A button that shows a colour and opens the desktop's colour chooser. The action is sent for
 /// every colour tried in the chooser, so that its effect is seen at once; cancelling the chooser
-/// sends it once more, with the colour from before. The chooser never blocks the program. In the
-/// form it is a QPushButton promoted to NSColorWell.
+/// sends it once more, with the colour from before. The chooser never blocks the program; it goes,
+/// without cancelling, when the well is hidden. In the form it is a QPushButton promoted to
+/// NSColorWell.
 class NSColorWell final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;

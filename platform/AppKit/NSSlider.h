@@ -14,23 +14,12 @@ class NSSlider final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;
 
-    double minValue() const { return minValue_; }
-
-    double maxValue() const { return maxValue_; }
+    double minValue() const;
+    double maxValue() const;
 
     /// What was last set, unrounded, or what the user chose since.
-    double doubleValue() const { return value_; }
+    double doubleValue() const;
 
     /// A value outside the range is taken as the nearer limit.
     void setDoubleValue(double value);
-
-    /// The same, as if the user had moved the slider there: sends the action.
-    void chooseDoubleValue(double value);
-
-private:
-    void moved(int position);
-
-    double minValue_ = 0;
-    double maxValue_ = 1;
-    double value_ = 0;
 };

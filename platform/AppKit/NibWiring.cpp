@@ -19,12 +19,13 @@
 
 namespace {
 
+/// The class's name without namespaces.
 QString className(const std::type_info& type) {
     int status = 0;
     char* name = abi::__cxa_demangle(type.name(), nullptr, nullptr, &status);
     const QString result = QString::fromUtf8(name ? name : type.name());
     std::free(name);
-    return result;
+    return result.mid(result.lastIndexOf(QLatin1Char(':')) + 1);
 }
 
 QString className(const NSObject& object) {

@@ -1,24 +1,33 @@
 #include "platform/AppKit/SliderWidget.h"
 
-#include "platform/AppKit/NSSlider.h"
-
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 #include <QStyleOptionSlider>
 #include <QVariant>
 #include <QWheelEvent>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 constexpr int kMinimumHeight = 24; // points that a finger or a trembling hand needs
+
+} // namespace
 
 /// Tells assistive technology the real value, where Qt's own interface tells whole-number steps.
 class SliderInterface final : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
     explicit SliderInterface(SliderWidget* slider)
         : QAccessibleWidget(slider, QAccessible::Slider), slider_(slider) {}
+
+    static QAccessibleInterface* make(const QString&, QObject* object) {
+        auto* slider = dynamic_cast<SliderWidget*>(object);
+        return slider ? new SliderInterface(slider) : nullptr;
+    }
 
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface)
@@ -37,18 +46,18 @@ public:
         return own.isEmpty() ? slider_->valueText() : slider_->valueText() + ". " + own;
     }
 
-    QVariant currentValue() const override { return slider_->view->doubleValue(); }
+    QVariant currentValue() const override { return slider_->doubleValue(); }
 
     void setCurrentValue(const QVariant& value) override {
-        slider_->view->chooseDoubleValue(value.toDouble());
+        slider_->setValue(slider_->positionOf(value.toDouble()));
     }
 
-    QVariant minimumValue() const override { return slider_->view->minValue(); }
+    QVariant minimumValue() const override { return slider_->minValue(); }
 
-    QVariant maximumValue() const override { return slider_->view->maxValue(); }
+    QVariant maximumValue() const override { return slider_->maxValue(); }
 
     QVariant minimumStepSize() const override {
-        const double range = slider_->view->maxValue() - slider_->view->minValue();
+        const double range = slider_->maxValue() - slider_->minValue();
         return range * slider_->singleStep() / (slider_->maximum() - slider_->minimum());
     }
 
@@ -56,19 +65,45 @@ private:
     SliderWidget* slider_;
 };
 
-QAccessibleInterface* makeInterface(const QString&, QObject* object) {
-    auto* slider = dynamic_cast<SliderWidget*>(object);
-    return slider && slider->view ? new SliderInterface(slider) : nullptr;
-}
-
-} // namespace
-
 SliderWidget::SliderWidget(QWidget* parent) : QSlider(parent) {
     [[maybe_unused]] static const bool installed = [] {
-        QAccessible::installFactory(makeInterface);
+        QAccessible::installFactory(SliderInterface::make);
         return true;
     }();
     setMinimumHeight(kMinimumHeight);
+}
+
+void SliderWidget::setLimits(double minValue, double maxValue) {
+    minValue_ = minValue;
+    maxValue_ = maxValue;
+    doubleValue_ = valueAt(value());
+}
+
+void SliderWidget::setDoubleValue(double value) {
+    const double limited = std::min(std::max(value, minValue_), maxValue_);
+    const QSignalBlocker blocker(this);
+    setValue(positionOf(limited));
+    doubleValue_ = limited;
+}
+
+int SliderWidget::positionOf(double value) const {
+    const double part = (value - minValue_) / (maxValue_ - minValue_);
+    return minimum() + static_cast<int>(std::lround(part * (maximum() - minimum())));
+}
+
+double SliderWidget::valueAt(int position) const {
+    if (position >= maximum())
+        return maxValue_;
+    const double steps = maximum() - minimum();
+    const double step = position - minimum();
+    // Divided last, so that a tenth is the double nearest to it.
+    return (minValue_ * (steps - step) + maxValue_ * step) / steps;
+}
+
+void SliderWidget::sliderChange(SliderChange change) {
+    if (change == SliderValueChange)
+        doubleValue_ = valueAt(value());
+    QSlider::sliderChange(change);
 }
 
 QString SliderWidget::valueText() const {

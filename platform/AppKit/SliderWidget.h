@@ -2,20 +2,38 @@
 
 #include <QSlider>
 
-class NSSlider;
-
-/// The widget behind an NSSlider.
+/// The widget behind an NSSlider: its whole-number positions stand for doubles between two limits.
 class SliderWidget final : public QSlider {
 public:
     explicit SliderWidget(QWidget* parent);
 
-    /// The slider that this widget belongs to; set once it has been wired.
-    NSSlider* view = nullptr;
+    void setLimits(double minValue, double maxValue);
+
+    double minValue() const { return minValue_; }
+
+    double maxValue() const { return maxValue_; }
+
+    /// What was last set or what the user chose since.
+    double doubleValue() const { return doubleValue_; }
+
+    /// Goes to the nearest position; emits nothing.
+    void setDoubleValue(double value);
 
     /// The text of the value label beside the slider, without blanks around it; may be empty.
     QString valueText() const;
 
 protected:
+    void sliderChange(SliderChange change) override;
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    int positionOf(double value) const;
+    double valueAt(int position) const;
+
+    friend class SliderInterface;
+
+    double minValue_ = 0;
+    double maxValue_ = 1;
+    double doubleValue_ = 0;
 };

@@ -1,1 +1,162 @@
+#include "platform/CoreServices/AppleEvents.h"
 
+#include "platform/CoreServices/AppleEventObject.h"
+#include "platform/CoreServices/SessionBus.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+#include <utility>
+
+// The bytes of integers are copied as they stand.
+static_assert(std::endian::native == std::endian::little);
+
+namespace {
+
+using HandlerKey = std::pair<AEEventClass, AEEventID>;
+
+struct InstalledHandler {
+    AEEventHandler handler;
+    void* refCon;
+};
+
+/// The application's handler table.
+std::map<HandlerKey, InstalledHandler>& handlers() {
+    static std::map<HandlerKey, InstalledHandler> table;
+    return table;
+}
+
+OSErr copyOut(const AEDesc& desc, DescType desiredType, DescType* actualType, void* data,
+              std::size_t maximumSize, std::size_t* actualSize) {
+    if (desiredType != typeWildCard && desiredType != desc.descriptorType)
+        return errAECoercionFail;
+    if (actualType)
+        *actualType = desc.descriptorType;
+    if (actualSize)
+        *actualSize = desc.data.size();
+    if (data)
+        std::copy_n(desc.data.begin(), std::min(maximumSize, desc.data.size()),
+                    static_cast<UInt8*>(data));
+    return noErr;
+}
+
+int millisecondsOfTicks(SInt32 ticks) {
+    constexpr SInt32 defaultTicks = 60 * 60;
+    const std::int64_t effective = ticks < 0 ? defaultTicks : ticks;
+    return static_cast<int>(effective * 1000 / 60);
+}
+
+/// What became of an event whose sender waited.
+OSErr resultOfReply(const QDBusMessage& reply) {
+    if (reply.type() == QDBusMessage::ReplyMessage && reply.signature() == QLatin1String("i"))
+        return static_cast<OSErr>(std::clamp(reply.arguments().at(0).toInt(), -32768, 32767));
+    switch (QDBusError(reply).type()) {
+    case QDBusError::NoReply:
+    case QDBusError::Timeout:
+    case QDBusError::TimedOut:
+        return sessionBus().isConnected() ? errAETimeout : connectionInvalid;
+    case QDBusError::ServiceUnknown:
+        return procNotFound;
+    case QDBusError::Disconnected:
+        return connectionInvalid;
+    default:
+        return errAEEventNotHandled;
+    }
+}
+
+} // namespace
+
+OSErr AECreateDesc(DescType type, const void* data, std::size_t size, AEDesc* result) {
+    if (!result || (!data && size > 0))
+        return paramErr;
+    const auto* bytes = static_cast<const UInt8*>(data);
+    *result = {type, {bytes, bytes + size}};
+    return noErr;
+}
+
+OSErr AECreateAppleEvent(AEEventClass eventClass, AEEventID eventID, const AEAddressDesc* target,
+                         SInt16, SInt32, AppleEvent* result) {
+    ProcessSerialNumber psn;
+    if (!target || !result || target->descriptorType != typeProcessSerialNumber ||
+        target->data.size() != sizeof psn)
+        return paramErr;
+    std::memcpy(&psn, target->data.data(), sizeof psn);
+    *result = {eventClass, eventID, psn, {}};
+    return noErr;
+}
+
+OSErr AEPutParamPtr(AppleEvent* event, AEKeyword keyword, DescType type, const void* data,
+                    std::size_t size) {
+    return event ? AECreateDesc(type, data, size, &event->parameters[keyword]) : paramErr;
+}
+
+OSErr AEGetParamPtr(const AppleEvent* event, AEKeyword keyword, DescType desiredType,
+                    DescType* actualType, void* data, std::size_t maximumSize,
+                    std::size_t* actualSize) {
+    if (!event)
+        return paramErr;
+    const auto parameter = event->parameters.find(keyword);
+    if (parameter == event->parameters.end())
+        return errAEDescNotFound;
+    return copyOut(parameter->second, desiredType, actualType, data, maximumSize, actualSize);
+}
+
+OSErr AEGetAttributePtr(const AppleEvent* event, AEKeyword keyword, DescType desiredType,
+                        DescType* actualType, void* data, std::size_t maximumSize,
+                        std::size_t* actualSize) {
+    if (!event)
+        return paramErr;
+    if (keyword != keyEventIDAttr)
+        return errAEDescNotFound;
+    AEDesc id;
+    AECreateDesc(typeType, &event->eventID, sizeof event->eventID, &id);
+    return copyOut(id, desiredType, actualType, data, maximumSize, actualSize);
+}
+
+OSErr AESend(const AppleEvent* event, AppleEvent* reply, AESendMode mode, SInt32 timeOutInTicks) {
+    if (!event)
+        return paramErr;
+    if (reply)
+        *reply = {};
+    const QDBusConnection bus = sessionBus();
+    if (!bus.isConnected())
+        return connectionInvalid;
+    pid_t pid = 0;
+    if (GetProcessPID(&event->target, &pid) != noErr)
+        return procNotFound;
+    const QDBusMessage message = messageOfEvent(*event);
+    if ((mode & kAEWaitReply) == kAEWaitReply)
+        return resultOfReply(bus.call(message, QDBus::Block, millisecondsOfTicks(timeOutInTicks)));
+    return bus.send(message) ? noErr : connectionInvalid;
+}
+
+OSErr AEInstallEventHandler(AEEventClass eventClass, AEEventID eventID, AEEventHandler handler,
+                            void* refCon) {
+    if (!handler)
+        return paramErr;
+    handlers().insert_or_assign({eventClass, eventID}, InstalledHandler{handler, refCon});
+    return noErr;
+}
+
+OSErr AERemoveEventHandler(AEEventClass eventClass, AEEventID eventID, AEEventHandler handler) {
+    const auto installed = handlers().find({eventClass, eventID});
+    if (installed == handlers().end() || installed->second.handler != handler)
+        return errAEHandlerNotFound;
+    handlers().erase(installed);
+    return noErr;
+}
+
+OSErr dispatchAppleEvent(const AppleEvent& event, AppleEvent* reply) {
+    const HandlerKey keys[] = {{event.eventClass, event.eventID},
+                               {event.eventClass, typeWildCard},
+                               {typeWildCard, event.eventID},
+                               {typeWildCard, typeWildCard}};
+    for (const HandlerKey& key : keys) {
+        const auto found = handlers().find(key);
+        if (found == handlers().end())
+            continue;
+        const auto [handler, refCon] = found->second; // the handler may remove itself
+        return handler(&event, reply, refCon);
+    }
+    return errAEEventNotHandled;
+}

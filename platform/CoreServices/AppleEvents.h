@@ -7,9 +7,12 @@
 #include <memory>
 #include <vector>
 
-// The Apple Event Manager. An event is a call of Event(u class, u id, a(uuay) parameters) → (i result)
-// on interface org.korvex.AppleEvents1 of object /org/korvex/AppleEvents of the process addressed; a
-// parameter is (keyword, type, bytes). Integers travel little-endian.
+// The Apple Event Manager. An event is a call of Event(u class, u id, a(uuay) parameters) → (i
+// result) on interface org.korvex.AppleEvents1 of object /org/korvex/AppleEvents of the process
+// addressed; a parameter is (keyword, type, bytes). Integers travel little-endian. At most 64
+// parameters of 1 MiB together; docs/agent-contract.md has the whole protocol.
+//
+// Needs a QCoreApplication, whose event loop delivers the events that come in to their handlers.
 
 using AEEventClass = FourCharCode;
 using AEEventID = FourCharCode;
@@ -38,6 +41,7 @@ constexpr OSErr errAECoercionFail = -1700;
 constexpr OSErr errAEDescNotFound = -1701;
 constexpr OSErr errAEEventNotHandled = -1708;
 constexpr OSErr errAETimeout = -1712;
+constexpr OSErr errAEHandlerNotFound = -1717;
 constexpr OSErr connectionInvalid = -609;
 
 /// A typed run of bytes. Copies share nothing; the destructor disposes.
@@ -80,15 +84,18 @@ OSErr AEGetAttributePtr(const AppleEvent* event, AEKeyword keyword, DescType des
 
 /// Sends the event. With kAENoReply it is handed to the bus and nothing is awaited. With
 /// kAEWaitReply the call blocks until the handler has answered, for `timeOutInTicks` sixtieths of a
-/// second or, for kAEDefaultTimeout, a minute; the handler's result is then the result.
-/// procNotFound when the addressee doesn't take part; connectionInvalid without a bus.
+/// second or, for kAEDefaultTimeout, a minute; the handler's result is then the result, or
+/// errAETimeout. procNotFound when the addressee doesn't take part; connectionInvalid without a
+/// bus. `reply` (may be null) is left empty: only the result travels back.
 OSErr AESend(const AppleEvent* event, AppleEvent* reply, AESendMode mode, SInt32 timeOutInTicks);
 
 /// Handles one event on the main thread; the result goes back to a sender that waits for it.
 using AEEventHandler = OSErr (*)(const AppleEvent* event, AppleEvent* reply, void* refCon);
 
-/// Installs the handler for a class and ID, either of which may be typeWildCard; the more specific
-/// handler wins. An event that no handler takes is answered with errAEEventNotHandled.
+/// Installs the handler for a class and ID, either of which may be typeWildCard; it takes the place
+/// of one that is installed for the same two. The more specific handler wins, and the class counts
+/// before the ID. An event that no handler takes is answered with errAEEventNotHandled.
 OSErr AEInstallEventHandler(AEEventClass eventClass, AEEventID eventID, AEEventHandler handler,
                             void* refCon);
+/// errAEHandlerNotFound when another handler, or none, is installed for just that class and ID.
 OSErr AERemoveEventHandler(AEEventClass eventClass, AEEventID eventID, AEEventHandler handler);

@@ -1,1 +1,27 @@
+#include "platform/CoreServices/LaunchServices.h"
 
+#include "platform/CoreFoundation/CFBundle.h"
+#include "platform/CoreServices/DetachedProcess.h"
+
+#include <map>
+#include <memory>
+
+OSStatus LSOpenCFURLRef(const CFURL* url, CFRef<CFURL>* launched) {
+    const CFRef<CFBundle> bundle = url ? CFBundleCreate(url) : nullptr;
+    if (!bundle)
+        return kLSApplicationNotFoundErr;
+    const CFRef<CFURL> executable = CFBundleCopyExecutableURL(bundle.get());
+    if (!executable)
+        return kLSNotAnApplicationErr;
+
+    // By executable; main thread only.
+    static std::map<std::string, std::unique_ptr<DetachedProcess>> started;
+    std::unique_ptr<DetachedProcess>& process = started[executable->path()];
+    if (!process || !process->isRunning())
+        process = DetachedProcess::start(executable->path());
+    if (!process)
+        return kLSUnknownErr;
+    if (launched)
+        *launched = CFBundleCopyBundleURL(bundle.get());
+    return noErr;
+}

@@ -6,11 +6,14 @@
 #include <sys/types.h>
 
 // The Process Manager. A process takes part by owning, on the session bus, the name
-// org.korvex.Process1.t<type>.s<signature>.p<pid>, type and signature as eight hexadecimal digits.
-// Its unique bus name :a.b is its process serial number {a, b}.
+// org.korvex.Process1.t<type>.s<signature>.p<pid>, type and signature as eight hexadecimal digits
+// (written in upper case, read in either). Its unique bus name :a.b is its process serial number
+// {a, b}. Names of any other form are ignored.
 //
-// Who takes part is kept up to date from the bus's own announcements, so none of the operations
-// below waits for anything after the first.
+// Needs a QCoreApplication. Who takes part is kept up to date from the bus's own announcements, so
+// none of the operations below waits for anything after the first, which asks the bus for the names
+// that are there and gives up after a second for each of its two questions. Without a bus nobody
+// takes part.
 
 struct ProcessSerialNumber {
     UInt32 highLongOfPSN = 0;
@@ -34,8 +37,8 @@ constexpr UInt32 kProcessInfoRecLength = 60;
 constexpr OSErr paramErr = -50;
 constexpr OSErr procNotFound = -600;
 
-/// Lets this process take part, as of that type and signature. False without a session bus. Called
-/// once, early, by a program's main function.
+/// Lets this process take part, as of that type and signature; it can receive events as soon as
+/// others see it. False without a session bus. Called once, early, by a program's main function.
 bool registerCurrentProcess(OSType type, OSType signature);
 
 /// procNotFound when this process doesn't take part.

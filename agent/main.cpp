@@ -1,0 +1,64 @@
+// The stand-in agent: a program of its own that takes the pane's events and logs them.
+//
+// KORVEX_AGENT_LOG names the file that gets a JSON object for each event; without it they go to
+// standard output. SIGUSR1 flips the on/off state; SIGTERM, SIGINT and SIGHUP end the program.
+
+#include "agent/Agent.h"
+#include "agent/UnixSignals.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+/// Whether this is the session's one agent. The bus gives a name to one owner only, so that of two
+/// that start at the same moment one stays.
+bool becomeTheAgent() {
+    return findOtherApplication(fourCharCode("Krvx")) == kNoProcess &&
+           QDBusConnection::sessionBus().registerService(QStringLiteral("org.korvex.Agent"));
+}
+
+/// The program ends with the session.
+void quitWithTheBus() {
+    QDBusConnection::sessionBus().connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                                          QStringLiteral("org.freedesktop.DBus.Local"),
+                                          QStringLiteral("Disconnected"),
+                                          QCoreApplication::instance(), SLOT(quit()));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    UnixSignals signals{SIGUSR1, SIGTERM, SIGINT, SIGHUP};
+    QCoreApplication application(argc, argv);
+
+    EventLog log;
+    const char* path = std::getenv("KORVEX_AGENT_LOG");
+    if (path && !log.open(path)) {
+        std::perror(path);
+        return 1;
+    }
+    if (!QDBusConnection::sessionBus().isConnected()) {
+        std::fputs("korvex-agent: there is no session bus\n", stderr);
+        return 1;
+    }
+    if (!becomeTheAgent())
+        return 0;
+    quitWithTheBus();
+
+    Agent agent(log);
+    agent.installHandlers();
+    if (!registerCurrentProcess(fourCharCode("APPL"), fourCharCode("Krvx")))
+        return 1;
+    signals.deliverTo([&](int signal) {
+        if (signal == SIGUSR1)
+            agent.flip();
+        else
+            QCoreApplication::quit();
+    });
+    return QCoreApplication::exec();
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+
+/// What a figure may be at most.
+struct Limit {
+    enum Kind {
+        Times, ///< of its floor
+        Plus,  ///< more than its floor, in seconds
+        Bytes, ///< more than its floor, in bytes
+        Under, ///< in seconds; there is no floor
+    };
+
+    Kind kind;
+    double amount;
+};
+
+/// Does one piece of work and gives the seconds, or the bytes, that it took. Negative: it failed,
+/// which ends the figure.
+using Measure = double (*)();
+
+/// Registers a figure, and the floor that it is held against in the same run, with the benchmark
+/// library. `floor` is null for Limit::Under.
+void addFigure(const std::string& name, Limit limit, Measure measured, Measure floor = nullptr);
+
+// One function a subject, each in a file of its own; the order is the order of the runs.
+void addPrefsFigures();
+void addLinkFigures();
+void addStartFigures();
+
+/// Calls `work` and gives the seconds that it took.
+template <class Work>
+double secondsOf(Work&& work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+
+/// Where the receiving process notes what it got, shared with the sending one.
+struct LinkNote {
+    std::atomic<std::uint64_t> count;
+    std::int64_t received; ///< linkClock() of the last
+};
+
+/// Nanoseconds of a clock that all processes share.
+inline std::int64_t linkClock() {
+    return std::chrono::steady_clock::now().time_since_epoch().count();
+}
+
+#define LINK_PEER_NAME "org.example.BenchPeer"

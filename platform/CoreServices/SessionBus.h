@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+
+/// This process's connection to the session bus, apart from the one that Qt uses for itself. The
+/// first call makes it; messages that come in are delivered by the main thread's event loop. Main
+/// thread only, and after a QCoreApplication has been made.
+///
+/// Not connected when there is no bus, and for good once the bus has gone; sending then fails at
+/// once.
+QDBusConnection sessionBus();
+
+/// How long one call of the bus itself may take, in milliseconds; usually it is a tenth of one.
+constexpr int kBusTimeout = 1000;
+
+/// A method of the bus itself, as a message to send.
+QDBusMessage busMethod(const QString& name, const QVariantList& arguments);

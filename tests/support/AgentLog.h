@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+/// Reads what the stand-in agent appends to its log, one event after the other. While it waits, the
+/// test's own event loop runs.
+class AgentLog {
+public:
+    /// Every agent started from now on logs here.
+    AgentLog() : file_(QString::fromStdString(path())) {
+        setenv("KORVEX_AGENT_LOG", path().c_str(), 1);
+    }
+
+    static std::string path() {
+        return std::string(std::getenv("KORVEX_TEST_SANDBOX")) + "/agent.log";
+    }
+
+    /// The next event; an empty object, and a failed test, when none comes within ten seconds.
+    QJsonObject next() {
+        if (!QTest::qWaitFor([this] { return readLine(); }, 10'000)) {
+            ADD_FAILURE() << "the agent logged nothing more";
+            return {};
+        }
+        return QJsonDocument::fromJson(std::exchange(line_, {})).object();
+    }
+
+    /// The name of the next event.
+    std::string nextName() { return next()["event"].toString().toStdString(); }
+
+private:
+    /// Completes line_; false when its end isn't in the file yet.
+    bool readLine() {
+        if (!file_.isOpen() && !file_.open(QIODevice::ReadOnly))
+            return false;
+        line_ += file_.readLine();
+        return line_.endsWith('\n');
+    }
+
+    QFile file_;
+    QByteArray line_;
+};
+
+/// A field of the record that the agent received with an event.
+template <class T>
+T recordField(const QJsonObject& event, std::size_t offset) {
+    const QByteArray record = QByteArray::fromHex(event["record"].toString().toLatin1());
+    T value{};
+    if (static_cast<std::size_t>(record.size()) >= offset + sizeof value)
+        std::memcpy(&value, record.constData() + offset, sizeof value);
+    return value;
+}

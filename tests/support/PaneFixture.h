@@ -1,0 +1,142 @@
+#pragma once
+
+#include "platform/AppKit/NSView.h"
+#include "platform/CoreServices/LaunchServices.h"
+#include "platform/CoreServices/Processes.h"
+#include "src/prefpane/VLDKorvexPane.h"
+#include "src/prefs.h"
+#include "tests/support/AgentLog.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QTest>
+#include <gmock/gmock.h>
+
+#include <clocale>
+#include <memory>
+#include <vector>
+
+/// Opens the built pane, from its real bundle, in this process, and the stand-in agent beside it as
+/// a process of its own. Nothing is open until the test says so.
+class PaneTest : public testing::Test {
+protected:
+    PaneTest() {
+        std::setlocale(LC_NUMERIC, "C"); // which QApplication has changed
+        registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
+    }
+
+    ~PaneTest() override {
+        if (pane_)
+            putAway();
+        ProcessSerialNumber agent = findAgent();
+        pid_t pid;
+        if (agent != kNoProcess && GetProcessPID(&agent, &pid) == noErr)
+            kill(pid, SIGKILL);
+    }
+
+    /// Starts the agent and waits until it takes part.
+    void startAgent() {
+        const auto url = CFURLCreateFromFileSystemRepresentation(
+            KORVEX_BUNDLE "/Contents/Linux/Korvex Agent.app", true);
+        ASSERT_EQ(LSOpenCFURLRef(url.get(), nullptr), noErr);
+        waitForAgent();
+    }
+
+    void waitForAgent() {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return findAgent() != kNoProcess; }, 10'000))
+            << "the agent didn't start";
+    }
+
+    void waitForNoAgent() {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return findAgent() == kNoProcess; }, 10'000))
+            << "the agent didn't quit";
+    }
+
+    static ProcessSerialNumber findAgent() {
+        ProcessSerialNumber psn = kNoProcess;
+        while (GetNextProcess(&psn) == noErr) {
+            ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
+            if (GetProcessInformation(&psn, &info) == noErr &&
+                info.processSignature == fourCharCode("Krvx"))
+                return psn;
+        }
+        return kNoProcess;
+    }
+
+    /// Makes the pane and shows it, as the host does.
+    void open() {
+        pane_ = std::make_unique<VLDKorvexPane>();
+        bundle_ =
+            CFBundleCreate(CFURLCreateFromFileSystemRepresentation(KORVEX_BUNDLE, true).get());
+        pane_->initWithBundle(bundle_.get());
+        std::vector<std::string> errors;
+        ASSERT_TRUE(pane_->loadMainView(errors)) << testing::PrintToString(errors);
+        pane_->mainViewDidLoad();
+        pane_->willSelect();
+        window()->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window()));
+        pane_->didSelect();
+    }
+
+    /// Opens the pane with the agent running; the log then begins after the agent heard of it.
+    void openWithAgent() {
+        startAgent();
+        open();
+        ASSERT_EQ(agentLog_.nextName(), "PPop");
+    }
+
+    void putAway() {
+        pane_->didUnselect();
+        pane_.reset();
+    }
+
+    QWidget* window() const { return pane_->mainView()->widget(); }
+
+    /// The form's widget of that name, in sight.
+    template <class Widget = QWidget>
+    Widget* find(const char* name) {
+        auto* widget = window()->findChild<Widget*>(QString::fromLatin1(name));
+        if (!widget) {
+            ADD_FAILURE() << "the form has no " << name;
+            std::abort();
+        }
+        auto* tabs = window()->findChild<QTabWidget*>(QStringLiteral("prefsTabs"));
+        for (int i = 0; i < tabs->count(); ++i)
+            if (tabs->widget(i)->isAncestorOf(widget))
+                tabs->setCurrentIndex(i);
+        for (QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget())
+            if (auto* area = qobject_cast<QScrollArea*>(parent))
+                area->ensureWidgetVisible(widget);
+        return widget;
+    }
+
+    /// A click where the widget's style expects it: at its left, where a check box has its mark.
+    void click(const char* name, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        auto* widget = find(name);
+        const QPoint place(std::min(8, widget->width() / 2), widget->height() / 2);
+        QTest::mouseClick(widget, Qt::LeftButton, modifiers, place);
+    }
+
+    /// The masks that the agent received from the last read event on; puts the pane away, so that
+    /// nothing can come after them.
+    std::vector<ChangeMask> remainingMasks() {
+        putAway();
+        std::vector<ChangeMask> masks;
+        for (auto event = agentLog_.next(); event["event"] == "SAPr"; event = agentLog_.next())
+            masks.push_back(static_cast<ChangeMask>(event["mask"].toInteger()));
+        return masks;
+    }
+
+private:
+    int argc_ = 1;
+    char name_[5] = "test";
+    char* argv_[2] = {name_, nullptr};
+    QApplication application_{argc_, argv_};
+
+protected:
+    AgentLog agentLog_;
+    CFRef<CFBundle> bundle_;
+    std::unique_ptr<VLDKorvexPane> pane_;
+};
