@@ -66,7 +66,14 @@ double parseFile() {
     });
 }
 
+/// Saves come apart from each other, when a pane is put away: what the one before left to do in the
+/// background is done by then.
+void waitABit() {
+    usleep(1000);
+}
+
 double saveOneChange() {
+    waitABit();
     prefs.lineScanTime = prefs.lineScanTime == 10.0 ? 10.5 : 10.0;
     bool saved = false;
     const double seconds = secondsOf([&] { saved = savePrefs(); });
@@ -76,6 +83,7 @@ double saveOneChange() {
 double replaceFile() {
     static const std::string bytes = readWhole(domainFile());
     static const std::string target = domainFile() + ".floor", fresh = target + ".new";
+    waitABit();
     bool written = false;
     const double seconds = secondsOf([&] {
         const int file = open(fresh.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, 0600);

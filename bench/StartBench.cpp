@@ -63,6 +63,7 @@ Start startBare() {
 void addStartFigures() {
     setenv("QT_PLUGIN_PATH", FRAME_PROBE_PATH, 1);
     setenv("QT_QPA_GENERIC_PLUGINS", "frameprobe", 1);
+    setenv("QT_LOGGING_RULES", "*.warning=false", 1);
     addFigure(
         "process start until the first frame", {Limit::Times, 1.3},
         [] { return startPane().seconds; }, [] { return startBare().seconds; });
