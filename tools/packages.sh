@@ -1,0 +1,33 @@
+# Sourced by run, test and .ci/run: installs the Debian 12 packages that are missing. Nothing is
+# asked of the package lists when all is there.
+
+build_packages=(
+    g++ cmake ninja-build pkg-config
+    qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgl-dev libopengl-dev
+    libplist-dev libicns-dev
+    librsvg2-bin icnsutils python3
+    libgtest-dev libgmock-dev libbenchmark-dev
+    dbus
+)
+# A virtual display with a window manager, and what reads the screen and types on the keyboard.
+tour_packages=(
+    xvfb xauth openbox xdotool maim at-spi2-core python3-gi gir1.2-atspi-2.0
+)
+check_packages=(git clang-format-14)
+
+# install_packages NAME... as root, or through sudo
+install_packages() {
+    local missing=() name status
+    for name in "$@"; do
+        status=$(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null || true)
+        [ "$status" = installed ] || missing+=("$name")
+    done
+    [ "${#missing[@]}" -gt 0 ] || return 0
+
+    local root=()
+    [ "$(id -u)" -eq 0 ] || root=(sudo)
+    echo "Installing: ${missing[*]}"
+    "${root[@]}" apt-get update -qq
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -qq -y --no-install-recommends "${missing[@]}" >/dev/null
+}
