@@ -1,0 +1,42 @@
+#include "platform/QuickDraw/GrafPort.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+GrafPort* currentPort = nullptr;
+
+SInt16 toEdge(int edge) {
+    using Limits = std::numeric_limits<SInt16>;
+    return static_cast<SInt16>(std::clamp<int>(edge, Limits::min(), Limits::max()));
+}
+
+} // namespace
+
+GrafPort::GrafPort(QPainter& painter, const QWidget& widget)
+    : painter_(painter), widget_(widget), previous_(currentPort) {
+    currentPort = this;
+}
+
+GrafPort::~GrafPort() {
+    currentPort = previous_;
+}
+
+GrafPort* GrafPort::current() {
+    return currentPort;
+}
+
+Rect toRect(const QRect& rect) {
+    return {toEdge(rect.y()), toEdge(rect.x()), toEdge(rect.y() + rect.height()),
+            toEdge(rect.x() + rect.width())};
+}
+
+void GetPort(GrafPtr* port) {
+    *port = GrafPort::current();
+}
+
+Rect* GetPortBounds(GrafPtr port, Rect* bounds) {
+    *bounds = toRect(port->widget().rect());
+    return bounds;
+}
