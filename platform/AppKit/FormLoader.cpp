@@ -1,8 +1,8 @@
 #include "platform/AppKit/FormLoader.h"
 
 #include "platform/AppKit/ColorWellButton.h"
-#include "platform/AppKit/NSObject.h"
 #include "platform/AppKit/SliderWidget.h"
+#include "platform/AppKit/ViewWidget.h"
 
 #include <QDir>
 #include <QFile>
@@ -68,14 +68,11 @@ QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, con
         widget = new ColorWellButton(parent);
     else if (knownWidgets_.contains(className))
         return QUiLoader::createWidget(className, parent, name);
-    else
-        widget = new QWidget(parent);
-
-    widget->setObjectName(name);
-    // A widget promoted to one of the pane's views is drawn by that view alone.
-    if (NSClassFromString(className.toStdString()))
+    else {
+        // Promoted to one of the pane's views, which draws it.
+        widget = new ViewWidget(parent);
         widget->setProperty("customClass", className);
-    else if (widget->metaObject() == &QWidget::staticMetaObject)
-        errors_ << QStringLiteral("widget '%1': no class %2").arg(name, className);
+    }
+    widget->setObjectName(name);
     return widget;
 }

@@ -1,6 +1,8 @@
 #include "platform/AppKit/NSView.h"
 
 #include "platform/AppKit/KeyboardFocus.h"
+#include "platform/AppKit/NSEvent.h"
+#include "platform/AppKit/ViewWidget.h"
 
 #include <QWidget>
 
@@ -15,6 +17,8 @@ NSRect toNSRect(const QRect& rect) {
 
 void NSView::attachWidget(QWidget* widget) {
     widget_ = widget;
+    if (auto* own = dynamic_cast<ViewWidget*>(widget))
+        own->setView(this);
 }
 
 NSView* NSView::superview() const {
@@ -56,4 +60,28 @@ NSRect NSView::bounds() const {
 void NSView::setNeedsDisplay(bool needsDisplay) {
     if (needsDisplay)
         widget_->update();
+}
+
+void NSView::setNeedsDisplayInRect(const NSRect& rect) {
+    widget_->update(QRectF(rect.x, rect.y, rect.width, rect.height).toAlignedRect());
+}
+
+NSPoint NSView::convertPoint(NSPoint point, const NSView* view) const {
+    const QWidget* from = view ? view->widget_ : widget_->window();
+    const QPointF own = widget_->mapFromGlobal(from->mapToGlobal(QPointF(point.x, point.y)));
+    return {static_cast<float>(own.x()), static_cast<float>(own.y())};
+}
+
+bool NSView::isFirstResponder() const {
+    return widget_->hasFocus();
+}
+
+void NSView::drawRect(const NSRect&) {}
+
+void NSView::mouseDown(NSEvent* event) {
+    event->passOn();
+}
+
+void NSView::keyDown(NSEvent* event) {
+    event->passOn();
 }

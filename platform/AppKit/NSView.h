@@ -1,16 +1,10 @@
 #pragma once
 
+#include "platform/AppKit/NSGeometry.h"
 #include "platform/AppKit/NSObject.h"
 
+class NSEvent;
 class QWidget;
-
-/// A rectangle of an interface, in points; y grows downward.
-struct NSRect {
-    float x = 0;
-    float y = 0;
-    float width = 0;
-    float height = 0;
-};
 
 /// A part of the interface. It stands for one widget of the loaded form, which owns the picture;
 /// the Nib that loaded the form owns the view.
@@ -35,6 +29,23 @@ public:
     NSRect frame() const;  ///< in the superview's coordinates
     NSRect bounds() const; ///< in its own: origin 0, 0
     void setNeedsDisplay(bool needsDisplay);
+    void setNeedsDisplayInRect(const NSRect& rect);
+
+    /// From the coordinates of another view, or of the window when `view` is null, to its own.
+    NSPoint convertPoint(NSPoint point, const NSView* view) const;
+
+    /// Whether the keyboard acts on it: it has the focus, in the active window.
+    bool isFirstResponder() const;
+
+    // What a view of the pane's own overrides; its widget is one that the form promoted to it.
+
+    /// Draws the view. What lies outside `dirtyRect` need not be drawn.
+    virtual void drawRect(const NSRect& dirtyRect);
+    virtual void mouseDown(NSEvent* event);
+    virtual void keyDown(NSEvent* event);
+
+    /// Whether it can have the focus, by Tab and by click. Asked once, when it gets its widget.
+    virtual bool acceptsFirstResponder() const { return false; }
 
 private:
     friend class NibWiring; // which knows the superviews

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/AppKit/NSGeometry.h"
+
+#include <string>
+
+class NSView;
+
+/// What a screen reader hears of one thing inside a view.
+struct NSAccessibilityElement {
+    std::string label; ///< UTF-8
+    NSRect frame;      ///< in the view's coordinates
+    bool isSelected = false;
+};
+
+/// A view that draws a list of things itself, and tells a screen reader of each. Indexes count from
+/// 0.
+class NSAccessibilityList {
+public:
+    virtual int accessibilityCount() const = 0;
+    virtual NSAccessibilityElement accessibilityElement(int index) const = 0;
+    /// The one that the keyboard acts on while the view has the focus.
+    virtual int accessibilityFocusedIndex() const = 0;
+    /// Does what a click on it does.
+    virtual void accessibilityPress(int index) = 0;
+
+protected:
+    ~NSAccessibilityList() = default;
+};
+
+enum NSAccessibilityNotification {
+    NSAccessibilityFocusedUIElementChangedNotification,
+    NSAccessibilitySelectedChildrenChangedNotification,
+};
+
+/// Tells a running screen reader that the element at `index` of the view was focused, or selected
+/// or no longer selected. Does nothing for an index outside the list.
+void NSAccessibilityPostNotification(NSView* view, int index,
+                                     NSAccessibilityNotification notification);

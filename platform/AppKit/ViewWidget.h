@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+
+class NSView;
+
+/// The widget behind a view that draws itself: it hands the view its events.
+class ViewWidget final : public QWidget {
+public:
+    explicit ViewWidget(QWidget* parent);
+
+    NSView* view() const { return view_; }
+
+    /// Not owned; outlives the widget.
+    void setView(NSView* view);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    NSView* view_ = nullptr;
+};

@@ -1,0 +1,111 @@
+#include "platform/HIToolbox/Appearance.h"
+
+#include "platform/QuickDraw/GrafPort.h"
+
+#include <QFontMetrics>
+#include <QStyle>
+#include <QStyleOptionButton>
+
+#include <cmath>
+
+namespace {
+
+/// From a button's edge to its content: its outline and a point of its bevel.
+constexpr int kContentInset = 2;
+/// The label font's size as a part of the text size.
+constexpr double kLabelScale = 10.0 / 12.0;
+/// The width of the ring that marks a pushed-in button, whatever little the style makes of it.
+constexpr int kOnRing = 2;
+constexpr double kCornerRadius = 3.0;
+
+QString toQString(const CFString* text) {
+    return QString::fromStdU16String(text->text());
+}
+
+QFont themeFont(const GrafPort& port) {
+    QFont font = port.widget().font();
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * kLabelScale);
+    else
+        font.setPixelSize(
+            std::max(1, static_cast<int>(std::lround(font.pixelSize() * kLabelScale))));
+    return font;
+}
+
+int textFlags(bool wrapToWidth, int alignment) {
+    return alignment | (wrapToWidth ? Qt::TextWordWrap : Qt::TextSingleLine);
+}
+
+void drawFace(GrafPort& port, const QRect& bounds, ThemeButtonKind kind, bool on) {
+    QStyleOptionButton option;
+    option.initFrom(&port.widget());
+    option.rect = bounds;
+    option.state = QStyle::State_Enabled | (option.state & QStyle::State_Active) |
+                   (on ? QStyle::State_On | QStyle::State_Sunken : QStyle::State_Raised);
+    const auto face = kind == kThemeRoundedBevelButton ? QStyle::PE_PanelButtonCommand
+                                                       : QStyle::PE_PanelButtonBevel;
+    port.widget().style()->drawPrimitive(face, &option, &port.painter(), &port.widget());
+}
+
+void drawOnRing(GrafPort& port, const QRect& bounds, ThemeButtonKind kind) {
+    QPainter& painter = port.painter();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(port.widget().palette().color(QPalette::Highlight), kOnRing));
+    const QRectF ring = QRectF(bounds).adjusted(1, 1, -1, -1);
+    const double radius = kind == kThemeRoundedBevelButton ? kCornerRadius : 0;
+    painter.drawRoundedRect(ring, radius, radius);
+    painter.restore();
+}
+
+} // namespace
+
+OSStatus DrawThemeButton(const Rect* bounds, ThemeButtonKind kind, const ThemeButtonDrawInfo* info,
+                         const ThemeButtonDrawInfo*, ThemeEraseUPP, ThemeButtonDrawUPP label,
+                         void* userData) {
+    GrafPort* port = GrafPort::current();
+    if (!port)
+        return kThemeNoPortErr;
+    const QRect face = toQRect(*bounds);
+    const bool on = info->value == kThemeButtonOn;
+    drawFace(*port, face, kind, on);
+    if (on)
+        drawOnRing(*port, face, kind);
+    const Rect content =
+        toRect(face.adjusted(kContentInset, kContentInset, -kContentInset, -kContentInset));
+    label(&content, kind, info, userData);
+    return noErr;
+}
+
+OSStatus GetThemeTextDimensions(const CFString* text, ThemeFontID, ThemeDrawState, bool wrapToWidth,
+                                Point* bounds, SInt16* baseline) {
+    GrafPort* port = GrafPort::current();
+    if (!port)
+        return kThemeNoPortErr;
+    const QFontMetrics metrics(themeFont(*port), port->painter().device());
+    const QRect space(0, 0, wrapToWidth ? bounds->h : 0, 0);
+    const QRect extent = metrics.boundingRect(space, textFlags(wrapToWidth, 0), toQString(text));
+    *bounds = {static_cast<SInt16>(extent.height()), static_cast<SInt16>(extent.width())};
+    if (baseline)
+        *baseline = static_cast<SInt16>(-metrics.descent());
+    return noErr;
+}
+
+OSStatus DrawThemeTextBox(const CFString* text, ThemeFontID, ThemeDrawState, bool wrapToWidth,
+                          const Rect* box, ThemeJustification, void*) {
+    GrafPort* port = GrafPort::current();
+    if (!port)
+        return kThemeNoPortErr;
+    const QRect place = toQRect(*box);
+    QPainter& painter = port->painter();
+    painter.save();
+    painter.setFont(themeFont(*port));
+    painter.setPen(port->widget().palette().color(QPalette::ButtonText));
+    QString line = toQString(text);
+    if (!wrapToWidth)
+        line = painter.fontMetrics().elidedText(line, Qt::ElideRight, place.width());
+    painter.drawText(place, textFlags(wrapToWidth, Qt::AlignHCenter | Qt::AlignTop), line);
+    painter.restore();
+    return noErr;
+}
