@@ -44,7 +44,8 @@ public:
     virtual void mouseDown(NSEvent* event);
     virtual void keyDown(NSEvent* event);
 
-    /// Whether it can have the focus, by Tab and by click. Asked once, when it gets its widget.
+    /// Whether it can have the focus: by Tab and by click, or as its focusPolicy in the form says.
+    /// Asked once, when it gets its widget.
     virtual bool acceptsFirstResponder() const { return false; }
 
 private:

@@ -38,7 +38,10 @@ ViewWidget::ViewWidget(QWidget* parent) : QWidget(parent) {
 
 void ViewWidget::setView(NSView* view) {
     view_ = view;
-    setFocusPolicy(view->acceptsFirstResponder() ? Qt::StrongFocus : Qt::NoFocus);
+    if (!view->acceptsFirstResponder())
+        setFocusPolicy(Qt::NoFocus);
+    else if (focusPolicy() == Qt::NoFocus)
+        setFocusPolicy(Qt::StrongFocus);
 }
 
 void ViewWidget::paintEvent(QPaintEvent* event) {
