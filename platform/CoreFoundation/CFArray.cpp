@@ -38,6 +38,15 @@ const CFType* CFArrayGetValueAtIndex(const CFArray* array, CFIndex index) {
     return array->items()[static_cast<std::size_t>(index)].get();
 }
 
+void CFArrayApplyFunction(const CFArray* array, CFRange range, CFArrayApplierFunction function,
+                          void* context) {
+    const CFIndex count = CFArrayGetCount(array);
+    if (range.location < 0 || range.location > count || range.length > count - range.location)
+        return;
+    for (CFIndex i = 0; i < range.length; ++i)
+        function(CFArrayGetValueAtIndex(array, range.location + i), context);
+}
+
 void CFArrayAppendValue(CFMutableArray* array, const CFType* value) {
     array->items().push_back(CFRef<const CFType>::retain(value));
 }

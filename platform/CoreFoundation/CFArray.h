@@ -38,5 +38,12 @@ CFRef<CFMutableArray> CFArrayCreateMutableCopy(const CFArray* array);
 CFIndex CFArrayGetCount(const CFArray* array);
 /// Null for an index outside the array.
 const CFType* CFArrayGetValueAtIndex(const CFArray* array, CFIndex index);
+
+/// Calls the function for each item of that part of the array, in order; for a range that isn't
+/// within the array, for none. The function must not change the array.
+using CFArrayApplierFunction = void (*)(const CFType* value, void* context);
+void CFArrayApplyFunction(const CFArray* array, CFRange range, CFArrayApplierFunction function,
+                          void* context);
+
 void CFArrayAppendValue(CFMutableArray* array, const CFType* value);
 void CFArrayRemoveValueAtIndex(CFMutableArray* array, CFIndex index);

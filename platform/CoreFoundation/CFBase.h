@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <type_traits>
 #include <utility>
 
@@ -21,7 +22,14 @@ using UniChar = char16_t;
 using CFIndex = std::ptrdiff_t;
 using CFHashCode = std::size_t;
 
+/// `length` places from `location` on.
+struct CFRange {
+    CFIndex location = 0;
+    CFIndex length = 0;
+};
+
 constexpr OSErr noErr = 0;
+constexpr OSErr paramErr = -50;
 
 /// A four-character code as a number: 'K','r','v','x' is 0x4B727678.
 consteval FourCharCode fourCharCode(const char (&text)[5]) {
@@ -32,7 +40,21 @@ consteval FourCharCode fourCharCode(const char (&text)[5]) {
 }
 
 /// The concrete type of a CFType, as CFGetTypeID returns it.
-enum class CFTypeID : int { String, Number, Bool, Data, Array, Dictionary, Date, URL, Bundle };
+enum class CFTypeID : int {
+    String,
+    Number,
+    Bool,
+    Data,
+    Array,
+    Dictionary,
+    Date,
+    URL,
+    Bundle,
+    DataProvider,
+    Image,
+    Context,
+    Icon
+};
 
 /// The root of all Core Foundation objects: a reference count and a type. Objects start with one
 /// reference, which the Create function that made them hands to its caller as a CFRef. Main thread
@@ -43,9 +65,12 @@ public:
     CFType& operator=(const CFType&) = delete;
 
     virtual CFTypeID typeID() const = 0;
-    /// Whether `other`, of the same type, holds the same value.
-    virtual bool isEqual(const CFType& other) const = 0;
-    virtual CFHashCode hash() const = 0;
+
+    /// Whether `other`, of the same type, holds the same value. Objects of a type without values
+    /// equal themselves only.
+    virtual bool isEqual(const CFType& other) const { return this == &other; }
+
+    virtual CFHashCode hash() const { return std::hash<const CFType*>()(this); }
 
     long retainCount() const { return count_; }
 

@@ -76,10 +76,6 @@ CFBundle::~CFBundle() {
     std::erase(livingBundles(), this);
 }
 
-CFHashCode CFBundle::hash() const {
-    return std::hash<std::string>()(path_);
-}
-
 /// All symbols are resolved at once, so that a missing one is this call's error and not a crash
 /// later. The code's own symbols stay local: its classes come forward through the registry that the
 /// program exports, and types of both sides are compared by name, so nobody needs to find the

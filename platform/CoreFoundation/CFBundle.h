@@ -16,10 +16,6 @@ public:
 
     CFTypeID typeID() const override { return CFTypeID::Bundle; }
 
-    bool isEqual(const CFType& other) const override { return this == &other; }
-
-    CFHashCode hash() const override;
-
 private:
     ~CFBundle() override;
 

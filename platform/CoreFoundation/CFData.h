@@ -2,14 +2,25 @@
 
 #include "platform/CoreFoundation/CFBase.h"
 
+#include <cstdlib>
+#include <memory>
+#include <span>
 #include <vector>
+
+struct CFMallocDeallocator {
+    void operator()(UInt8* bytes) const { std::free(bytes); }
+};
+
+/// A buffer that malloc made.
+using CFMallocBuffer = std::unique_ptr<UInt8[], CFMallocDeallocator>;
 
 /// Bytes. Immutable.
 class CFData final : public CFType {
 public:
-    explicit CFData(std::vector<UInt8> bytes) : bytes_(std::move(bytes)) {}
+    explicit CFData(std::vector<UInt8> bytes);
+    CFData(CFMallocBuffer bytes, std::size_t length);
 
-    const std::vector<UInt8>& bytes() const { return bytes_; }
+    std::span<const UInt8> bytes() const { return {bytes_.get(), length_}; }
 
     CFTypeID typeID() const override { return CFTypeID::Data; }
 
@@ -17,10 +28,16 @@ public:
     CFHashCode hash() const override;
 
 private:
-    std::vector<UInt8> bytes_;
+    std::shared_ptr<const UInt8> bytes_; ///< deallocates as the bytes were allocated
+    std::size_t length_;
 };
 
 CFTypeID CFDataGetTypeID();
 CFRef<CFData> CFDataCreate(const UInt8* bytes, CFIndex length);
+
+/// Takes over a buffer of at least `length` bytes, which is freed with the object. Null when the
+/// buffer is, or for a negative length; the buffer is freed then as well.
+CFRef<CFData> CFDataCreateWithBytesNoCopy(CFMallocBuffer bytes, CFIndex length);
+
 const UInt8* CFDataGetBytePtr(const CFData* data);
 CFIndex CFDataGetLength(const CFData* data);

@@ -239,11 +239,9 @@ PlistNode makeNode(const CFType* value, std::size_t depth) {
         return makeArrayNode(*static_cast<const CFArray*>(value), depth + 1);
     case CFTypeID::Dictionary:
         return makeDictionaryNode(*static_cast<const CFDictionary*>(value), depth + 1);
-    case CFTypeID::URL:
-    case CFTypeID::Bundle:
+    default:
         return nullptr;
     }
-    return nullptr;
 }
 
 CFRef<const CFType> copyValue(const CFType* value, std::size_t depth);
@@ -291,11 +289,9 @@ CFRef<const CFType> copyValue(const CFType* value, std::size_t depth) {
     case CFTypeID::Data:
     case CFTypeID::Date:
         return CFRef<const CFType>::retain(value);
-    case CFTypeID::URL:
-    case CFTypeID::Bundle:
+    default:
         return nullptr;
     }
-    return nullptr;
 }
 
 } // namespace

@@ -16,3 +16,7 @@ struct CGRect {
     CGPoint origin;
     CGSize size;
 };
+
+constexpr CGRect CGRectMake(CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
+    return {{x, y}, {width, height}};
+}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/CoreFoundation/CFURL.h"
+#include "platform/CoreServices/Files.h"
 
 constexpr OSStatus kLSUnknownErr = -10810;
 constexpr OSStatus kLSNotAnApplicationErr = -10811;
@@ -15,3 +15,23 @@ constexpr OSStatus kLSApplicationNotFoundErr = -10814;
 /// kLSNotAnApplicationErr when the bundle has no executable, kLSUnknownErr when that can't be
 /// started.
 OSStatus LSOpenCFURLRef(const CFURL* url, CFRef<CFURL>* launched);
+
+constexpr OSType kLSUnknownCreator = 0;
+
+/// Finds an installed application by all of the criteria that are given: its creator code (unless
+/// kLSUnknownCreator), its bundle identifier and the name of its file, extension included (either
+/// may be null). At least one has to be given.
+///
+/// Applications are installed in the folders `applications` under $XDG_DATA_HOME and then under
+/// each of $XDG_DATA_DIRS; the first that fits is found. It is a bundle `Name.app` whose Info.plist
+/// says CFBundleSignature and CFBundleIdentifier; or a desktop entry that is named for the
+/// identifier,
+/// `<identifier>.desktop`. Entries have no creator code: from the time one is found by creator and
+/// identifier, that creator is taken to be its own. An entry that says Hidden, or whose TryExec
+/// isn't there, isn't installed, and hides those of its name in later folders.
+///
+/// What was installed or removed shows at the next call; what didn't change isn't read again, so
+/// that a call costs some microseconds. `ref` and `url` (either may be null) receive the bundle's
+/// folder or the entry's file. kLSApplicationNotFoundErr when there is none.
+OSStatus LSFindApplicationForInfo(OSType creator, const CFString* bundleID, const CFString* name,
+                                  FSRef* ref, CFRef<CFURL>* url);

@@ -34,7 +34,6 @@ struct ProcessInfoRec {
 /// The length that `processInfoLength` must have.
 constexpr UInt32 kProcessInfoRecLength = 60;
 
-constexpr OSErr paramErr = -50;
 constexpr OSErr procNotFound = -600;
 
 /// Lets this process take part, as of that type and signature; it can receive events as soon as
