@@ -1,0 +1,21 @@
+#pragma once
+
+#include <memory>
+
+class QIcon;
+
+/// A picture, in as many sizes as it was made with. Copies share it.
+class NSImage {
+public:
+    /// No picture.
+    NSImage() = default;
+
+    /// For the layer's own use.
+    explicit NSImage(const QIcon& icon);
+
+    /// Null when there is no picture.
+    const QIcon* icon() const { return icon_.get(); }
+
+private:
+    std::shared_ptr<const QIcon> icon_;
+};

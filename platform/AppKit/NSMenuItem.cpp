@@ -1,0 +1,6 @@
+#include "platform/AppKit/NSMenuItem.h"
+
+void NSMenuItem::sendAction() {
+    if (canSendAction())
+        action_->send(*target_, *this);
+}
