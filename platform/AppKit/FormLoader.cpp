@@ -1,6 +1,7 @@
 #include "platform/AppKit/FormLoader.h"
 
 #include "platform/AppKit/ColorWellButton.h"
+#include "platform/AppKit/PopUpButtonWidget.h"
 #include "platform/AppKit/SliderWidget.h"
 #include "platform/AppKit/ViewWidget.h"
 
@@ -66,6 +67,8 @@ QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, con
         widget = new SliderWidget(parent);
     else if (className == QLatin1String("NSColorWell"))
         widget = new ColorWellButton(parent);
+    else if (className == QLatin1String("NSPopUpButton"))
+        widget = new PopUpButtonWidget(parent);
     else if (knownWidgets_.contains(className))
         return QUiLoader::createWidget(className, parent, name);
     else {

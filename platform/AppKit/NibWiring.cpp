@@ -4,9 +4,11 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSColorWell.h"
 #include "platform/AppKit/NSMatrix.h"
+#include "platform/AppKit/NSPopUpButton.h"
 #include "platform/AppKit/NSSlider.h"
 #include "platform/AppKit/NSTabView.h"
 #include "platform/AppKit/NSTextField.h"
+#include "platform/AppKit/PopUpButtonWidget.h"
 #include "platform/AppKit/SliderWidget.h"
 
 #include <QLabel>
@@ -42,6 +44,8 @@ NSView* makeStandardView(const QWidget* widget) {
         return new NSSlider;
     if (dynamic_cast<const ColorWellButton*>(widget))
         return new NSColorWell;
+    if (dynamic_cast<const PopUpButtonWidget*>(widget))
+        return new NSPopUpButton;
     if (qobject_cast<const QAbstractButton*>(widget))
         return new NSButton;
     if (qobject_cast<const QLabel*>(widget))

@@ -1,0 +1,37 @@
+#include "platform/AppKit/NSPopUpButton.h"
+
+#include "platform/AppKit/PopUpButtonWidget.h"
+
+#include <algorithm>
+
+void NSPopUpButton::attachWidget(QWidget* widget) {
+    NSControl::attachWidget(widget);
+    auto* button = static_cast<PopUpButtonWidget*>(widget);
+    button->entries = [this] {
+        if (delegate_)
+            delegate_->menuNeedsUpdate(this);
+        std::vector<PopUpEntry> entries;
+        for (const auto& item : items_) {
+            const QIcon* icon = item->image().icon();
+            entries.push_back({QString::fromStdString(item->title()), icon ? *icon : QIcon(),
+                               !autoenablesItems_ || item->canSendAction()});
+        }
+        return entries;
+    };
+    button->onChosen = [this](const QString& title) {
+        if (NSMenuItem* item = itemWithTitle(title.toStdString()))
+            item->sendAction();
+    };
+}
+
+void NSPopUpButton::addItemWithTitle(std::string_view utf8) {
+    const auto hasTitle = [&](const auto& item) { return item->title() == utf8; };
+    std::erase_if(items_, hasTitle);
+    items_.push_back(std::make_unique<NSMenuItem>(utf8));
+}
+
+NSMenuItem* NSPopUpButton::itemWithTitle(std::string_view utf8) const {
+    const auto found = std::find_if(items_.begin(), items_.end(),
+                                    [&](const auto& item) { return item->title() == utf8; });
+    return found == items_.end() ? nullptr : found->get();
+}

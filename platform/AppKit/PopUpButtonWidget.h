@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/AppKit/PopUpMenu.h"
+
+#include <QPushButton>
+
+/// The widget behind an NSPopUpButton: a button that opens a menu when it is pressed.
+class PopUpButtonWidget final : public QPushButton {
+public:
+    explicit PopUpButtonWidget(QWidget* parent);
+
+    bool isMenuOpen() const { return menu_.isVisible(); }
+
+    void openMenu(PopUpMenu::Start start);
+
+    std::function<std::vector<PopUpEntry>()> entries; ///< asked each time before the menu opens
+    std::function<void(const QString& title)> onChosen;
+
+protected:
+    void initStyleOption(QStyleOptionButton* option) const override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void showIsOpen(bool isOpen);
+
+    PopUpMenu& menu_; ///< a child
+};

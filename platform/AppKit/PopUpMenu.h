@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QIcon>
+#include <QListWidget>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+/// What a menu shows of one item.
+struct PopUpEntry {
+    QString title;
+    QIcon icon;
+    bool enabled = true;
+};
+
+/// The menu that a button opens, in a window of its own. It shows all its entries at once, in as
+/// few columns as the room above or below the button allows, read from top to bottom; it scrolls,
+/// column by column, only when the whole screen is too small.
+class PopUpMenu final : public QListWidget {
+public:
+    enum class Start { FirstEntry, Nowhere };
+
+    explicit PopUpMenu(QWidget* button);
+
+    void open(const std::vector<PopUpEntry>& entries, Start start);
+
+    std::function<void(const QString& title)> onChosen; ///< the menu is closed by then
+    std::function<void()> onClosed;                     ///< after a choice or without one
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    /// The entries' arrangement in columns of equal length, the last one perhaps shorter.
+    struct Grid {
+        int rows;
+        int width; ///< of all columns
+    };
+
+    /// Where a key leads: to `row` or, if that can't be chosen, onward in this direction.
+    struct Move {
+        int row;
+        int onward; ///< 1 or -1
+    };
+
+    void fill(const std::vector<PopUpEntry>& entries);
+    void placeAtButton();
+    Grid gridIn(int height) const;
+    int entryHeight() const;
+    std::optional<Move> moveOf(int key) const;
+    void go(Move move);
+    bool canChoose(int row) const;
+    void choose(int row);
+
+    int rows_ = 1;           ///< in a column
+    QPoint openedAt_;        ///< where the pointer was, on the screen
+    bool isPressed_ = false; ///< a mouse button went down in the menu
+};
