@@ -1,0 +1,167 @@
+#!/usr/bin/python3
+"""A small agent, written from agent-contract.md alone: it takes part, writes down what the pane
+sends, and on SIGUSR1 flips its on/off state, stores it and reports it.
+
+Each event is a JSON object on a line of its own, in the file that KORVEX_AGENT_LOG names or on
+standard output. Needs GLib's Python bindings (Debian: python3-gi).
+"""
+
+import fcntl
+import json
+import os
+import plistlib
+import signal
+import struct
+from pathlib import Path
+
+from gi.repository import Gio, GLib
+
+OBJECT = "/org/korvex/AppleEvents"
+EVENT = Gio.DBusNodeInfo.new_for_xml("""
+<node><interface name="org.korvex.AppleEvents1"><method name="Event">
+  <arg type="u" direction="in"/><arg type="u" direction="in"/><arg type="a(uuay)" direction="in"/>
+  <arg type="i" direction="out"/>
+</method></interface></node>""").interfaces[0]
+DO_NOT_QUEUE, PRIMARY_OWNER = 4, 1
+NOT_HANDLED, MISSING, WRONG_TYPE, WRONG_SIZE = -1708, -1701, -1700, -50
+
+CONFIG = os.environ.get("XDG_CONFIG_HOME", "")
+CONFIG = Path(CONFIG) if CONFIG.startswith("/") else Path.home() / ".config"
+SETTINGS = CONFIG / "Preferences" / "org.korvex.Agent.plist"
+
+
+def code(text):
+    """A four-character code as a number: its first character is the highest byte."""
+    return int.from_bytes(text.encode("ascii"), "big")
+
+
+def process_name(signature):
+    """The bus name of an application of that signature, but for the process ID."""
+    return f"org.korvex.Process1.t{code('APPL'):08X}.s{code(signature):08X}.p"
+
+
+class EventError(Exception):
+    """What becomes of an event that can't be handled: its argument is the reply's result."""
+
+
+def parameter(parameters, keyword, kind, layout):
+    """The values of a parameter, which must be of that type and layout (see `struct`)."""
+    if code(keyword) not in parameters:
+        raise EventError(MISSING)
+    found, data = parameters[code(keyword)]
+    if found != code(kind):
+        raise EventError(WRONG_TYPE)
+    if len(data) != struct.calcsize(layout):
+        raise EventError(WRONG_SIZE)
+    return struct.unpack(layout, data)
+
+
+def read_settings():
+    try:
+        settings = plistlib.loads(SETTINGS.read_bytes())
+    except (OSError, ValueError, plistlib.InvalidFileException):
+        return {}
+    return settings if isinstance(settings, dict) else {}
+
+
+def store_setting(key, text):
+    """Under the lock: reads afresh, changes one key, and puts a new file in the old one's place."""
+    SETTINGS.parent.mkdir(mode=0o700, parents=True, exist_ok=True)
+    flags = os.O_WRONLY | os.O_CREAT
+    with open(os.open(f"{SETTINGS}.lock", flags, 0o600), "wb") as lock:
+        fcntl.flock(lock, fcntl.LOCK_EX)
+        document = plistlib.dumps({**read_settings(), key: text})
+        with open(os.open(f"{SETTINGS}.new", flags | os.O_TRUNC, 0o600), "wb") as new:
+            new.write(document)
+            new.flush()
+            os.fsync(new.fileno())
+        os.rename(f"{SETTINGS}.new", SETTINGS)
+
+
+class Agent:
+    def __init__(self, bus, loop, log):
+        self.bus, self.loop, self.log = bus, loop, log
+        self.on = str(read_settings().get("on", "yes")).lower() in ("yes", "true")
+        self.pane = None  # the bus name to report to, once a pane has said so
+        self.pane_is_closed = False
+        self.handlers = {
+            (code("Krvx"), code("PPop")): self.pane_opened,
+            (code("Krvx"), code("PPcl")): self.pane_closed,
+            (code("Krvx"), code("SAPr")): self.set_all,
+            (code("aevt"), code("quit")): self.quit}
+
+    def take_part(self):
+        """Whether this is the session's one agent now."""
+        self.bus.register_object(OBJECT, EVENT, self.called, None, None)  # before the name is seen
+        return self.own("org.korvex.Agent") and self.own(process_name("Krvx") + str(os.getpid()))
+
+    def ask_bus(self, method, arguments):
+        bus = "org.freedesktop.DBus"
+        return self.bus.call_sync(bus, "/org/freedesktop/DBus", bus, method, arguments, None,
+                                  Gio.DBusCallFlags.NONE, -1, None).unpack()[0]
+
+    def own(self, name):
+        request = GLib.Variant("(su)", (name, DO_NOT_QUEUE))
+        return self.ask_bus("RequestName", request) == PRIMARY_OWNER
+
+    def called(self, bus, sender, path, interface, method, arguments, invocation):
+        event_class, event_id, parameters = arguments.unpack()
+        parameters = {keyword: (kind, bytes(data)) for keyword, kind, data in parameters}
+        handler = self.handlers.get((event_class, event_id))
+        try:
+            result = handler(parameters) if handler else NOT_HANDLED
+        except EventError as error:
+            result = error.args[0]
+        invocation.return_value(GLib.Variant("(i)", (result,)))  # dropped when nobody waits for it
+
+    def write(self, **event):
+        self.log.write(json.dumps(event) + "\n")
+        return 0
+
+    def pane_opened(self, parameters):
+        high, low = parameter(parameters, "tPSN", "psn ", "<II")
+        self.pane, self.pane_is_closed = f":{high}.{low}", False
+        return self.write(event="PPop", psn=[high, low])
+
+    def pane_closed(self, parameters):
+        self.pane_is_closed = True
+        return self.write(event="PPcl")
+
+    def set_all(self, parameters):
+        record, = parameter(parameters, "----", "KrPf", "<340s")
+        mask, = parameter(parameters, "Chng", "magn", "<I")
+        self.on = record[0] != 0
+        return self.write(event="SAPr", mask=mask, record=record.hex())
+
+    def quit(self, parameters):
+        self.loop.quit()
+        return self.write(event="quit")
+
+    def flip(self):
+        self.on = not self.on
+        store_setting("on", "yes" if self.on else "no")
+        pane = self.pane or self.find_pane()
+        if pane and not self.pane_is_closed:
+            state = [(code("----"), code("bool"), bytes([self.on]))]
+            arguments = GLib.Variant("(uua(uuay))", (code("Krvx"), code("PPon"), state))
+            self.bus.call(pane, OBJECT, EVENT.name, "Event", arguments, None,
+                          Gio.DBusCallFlags.NO_AUTO_START, -1, None, None)
+        return GLib.SOURCE_CONTINUE
+
+    def find_pane(self):
+        """A pane that launched this agent told it nothing; its bus name tells what it is."""
+        names = self.ask_bus("ListNames", None)
+        return next((name for name in names if name.startswith(process_name("sprf"))), None)
+
+
+def main():
+    loop = GLib.MainLoop()
+    with open(os.environ.get("KORVEX_AGENT_LOG", "/dev/stdout"), "a", buffering=1) as log:
+        agent = Agent(Gio.bus_get_sync(Gio.BusType.SESSION), loop, log)  # ends with the session
+        GLib.unix_signal_add(GLib.PRIORITY_DEFAULT, signal.SIGUSR1, agent.flip)
+        if agent.take_part():
+            loop.run()
+
+
+if __name__ == "__main__":
+    main()
