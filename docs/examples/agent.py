@@ -57,31 +57,39 @@ def parameter(parameters, keyword, kind, layout):
 
 
 def read_settings():
+    """What is stored: empty without a file, None when it can't be read as settings."""
     try:
         settings = plistlib.loads(SETTINGS.read_bytes())
-    except (OSError, ValueError, plistlib.InvalidFileException):
+    except FileNotFoundError:
         return {}
-    return settings if isinstance(settings, dict) else {}
+    except Exception:  # the parsers raise whatever they like
+        return None
+    return settings if isinstance(settings, dict) else None
 
 
 def store_setting(key, text):
-    """Under the lock: reads afresh, changes one key, and puts a new file in the old one's place."""
+    """Under the lock: reads afresh, changes one key, and puts a new file in the old one's place.
+    A damaged file is left to its owner.
+    """
     SETTINGS.parent.mkdir(mode=0o700, parents=True, exist_ok=True)
     flags = os.O_WRONLY | os.O_CREAT
     with open(os.open(f"{SETTINGS}.lock", flags, 0o600), "wb") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)
-        document = plistlib.dumps({**read_settings(), key: text})
-        with open(os.open(f"{SETTINGS}.new", flags | os.O_TRUNC, 0o600), "wb") as new:
-            new.write(document)
+        settings = read_settings()
+        if settings is None:
+            return
+        target = SETTINGS.resolve()
+        with open(os.open(f"{target}.new", flags | os.O_TRUNC, 0o600), "wb") as new:
+            new.write(plistlib.dumps({**settings, key: text}))
             new.flush()
             os.fsync(new.fileno())
-        os.rename(f"{SETTINGS}.new", SETTINGS)
+        os.rename(f"{target}.new", target)
 
 
 class Agent:
     def __init__(self, bus, loop, log):
         self.bus, self.loop, self.log = bus, loop, log
-        self.on = str(read_settings().get("on", "yes")).lower() in ("yes", "true")
+        self.on = str((read_settings() or {}).get("on", "yes")).lower() in ("yes", "true", "1")
         self.pane = None  # the bus name to report to, once a pane has said so
         self.pane_is_closed = False
         self.handlers = {
