@@ -1,0 +1,65 @@
+"""What the agent says it received."""
+
+import json
+import struct
+from pathlib import Path
+
+from tests.e2e.waiting import check, until
+
+# The record's fields that the tour changes: struct's format and the offset in bytes.
+FIELDS = {
+    "on": ("<B", 0),
+    "soundLevel": ("<I", 8),
+    "canScanMenuBar": ("<B", 12),
+    "scanMode": ("<i", 60),
+    "lineScanTime": ("<d", 84),
+}
+
+
+class AgentLog:
+    """Reads the log event by event: what was not asked for is noticed at the next question."""
+
+    def __init__(self, path: Path):
+        self.path = path
+        self._read = 0  # bytes
+        self._record = b""  # of the last change
+
+    def expect(self, name: str) -> dict:
+        """The next event, which must be of that name."""
+        event = json.loads(until(self._next_line, f"the agent hears {name}"))
+        check(event["event"] == name, f"the agent heard {shorten(event)}, not {name}")
+        return event
+
+    def expect_change(self, mask: int, field: str, value: float) -> str:
+        """The next event must be a changed record with that mask and value, in which nothing else
+        is new. Returns an account of it."""
+        event = self.expect("SAPr")
+        record = bytes.fromhex(event["record"])
+        form, offset = FIELDS[field]
+        got = struct.unpack_from(form, record, offset)[0]
+        check(event["mask"] == mask, f"mask {event['mask']}, not {mask}")
+        check(got == value, f"{field} (byte {offset}) is {got}, not {value}")
+        own = range(offset, offset + struct.calcsize(form))
+        others = [
+            place
+            for place, (old, new) in enumerate(zip(self._record, record))
+            if old != new and place not in own
+        ]
+        check(not others, f"bytes {others} changed along with {field}")
+        self._record = record
+        return f"SAPr, mask {mask}, {field} {got} at byte {offset}"
+
+    def _next_line(self) -> bytes:
+        if not self.path.exists():
+            return b""
+        with self.path.open("rb") as file:
+            file.seek(self._read)
+            line = file.readline()
+        if not line.endswith(b"\n"):
+            return b""
+        self._read += len(line)
+        return line
+
+
+def shorten(event: dict) -> dict:
+    return {key: value for key, value in event.items() if key != "record"}

@@ -1,0 +1,163 @@
+"""A desktop of its own: a virtual display with a window manager, a session bus, and a fresh home."""
+
+import ctypes
+import os
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+from contextlib import ExitStack
+from pathlib import Path
+
+from gi.repository import Gio, GLib
+
+from tests.e2e.waiting import Failure, until
+
+PR_SET_CHILD_SUBREAPER = 36
+
+PROGRAMS = ("setpriv", "Xvfb", "openbox", "dbus-daemon", "xdotool", "maim")
+
+libc = ctypes.CDLL(None, use_errno=True)
+
+
+class Desktop:
+    """While it is entered, this process lives on it, with nothing left of the environment that it
+    was started in. Everything that was started meanwhile ends when it is left, also what has
+    detached itself, and also when a signal ends this process.
+
+    `environment` is added to what the desktop's programs see.
+    """
+
+    def __init__(self, width: int, height: int, environment: dict[str, str]):
+        self.size = (width, height)
+        self.environment = environment
+
+    def __enter__(self) -> "Desktop":
+        with ExitStack() as undo:
+            self.folder = Path(
+                undo.enter_context(tempfile.TemporaryDirectory(prefix="korvex-tour."))
+            )
+            undo.callback(end_children)
+            adopt_orphans()
+            self._open()
+            self._undo = undo.pop_all()
+        return self
+
+    def __exit__(self, *failure) -> None:
+        self._undo.close()
+
+    @property
+    def home(self) -> Path:
+        return self.folder / "home"
+
+    @property
+    def config(self) -> Path:
+        return self.home / ".config"
+
+    def output_of(self, program: str) -> str:
+        """What a program that was started wrote to its standard output and error."""
+        return (self.folder / program).read_text(errors="replace")
+
+    def start(self, *command: str | Path, files: tuple[int, ...] = ()) -> subprocess.Popen:
+        """Starts a program, which keeps the open `files`. Even if this process is killed, its
+        programs end, and with the bus and the display the rest."""
+        with (self.folder / Path(command[0]).name).open("ab") as output:
+            return subprocess.Popen(
+                ("setpriv", "--pdeathsig", "TERM", *command),
+                stdin=subprocess.DEVNULL,
+                stdout=output,
+                stderr=output,
+                pass_fds=files,
+                start_new_session=True,
+            )
+
+    def _open(self) -> None:
+        for program in PROGRAMS:
+            if not shutil.which(program):
+                raise Failure(f"{program} is not installed; tools/packages.sh names the packages")
+        runtime = self.folder / "run"
+        for folder in (runtime, self.home, self.config):
+            folder.mkdir(mode=0o700)
+        path = os.environ["PATH"]
+        os.environ.clear()
+        os.environ.update(
+            PATH=path,
+            HOME=str(self.home),
+            LC_ALL="C.UTF-8",
+            XDG_CONFIG_HOME=str(self.config),
+            XDG_CONFIG_DIRS=str(self.folder / "etc"),
+            XDG_RUNTIME_DIR=str(runtime),
+            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+            **self.environment,
+        )
+        width, height = self.size
+        screen = ("-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset")
+        os.environ["DISPLAY"] = ":" + self._start_and_ask("Xvfb", *screen, "-displayfd")
+        bus = ("--session", "--nofork", f"--address=unix:path={runtime}/bus")
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start_and_ask(
+            "dbus-daemon", *bus, "--print-address"
+        )
+        self.start("openbox", "--config-file", "/etc/xdg/openbox/rc.xml")
+        # It can tell the desktop's number as soon as it manages windows.
+        until(lambda: succeeds("xdotool", "get_desktop"), "the window manager is up")
+
+    def _start_and_ask(self, *command: str) -> str:
+        """Starts a server that takes a file's number as its last argument, and returns the line
+        that it writes there once it is up."""
+        reader, writer = os.pipe()
+        with open(reader, encoding="ascii") as answer:
+            try:
+                self.start(*command, str(writer), files=(writer,))
+            finally:
+                os.close(writer)
+            line = answer.readline().strip()
+        if not line:
+            raise Failure(f"{command[0]} does not start:\n{self.output_of(command[0])}")
+        return line
+
+
+def succeeds(*command: str) -> bool:
+    return subprocess.run(command, capture_output=True, check=False).returncode == 0
+
+
+def process_of(bus_name: str) -> int:
+    """The process that owns a name on the session bus; 0 when none does."""
+    bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+    daemon = ("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus")
+    call = ("GetConnectionUnixProcessID", GLib.Variant("(s)", (bus_name,)))
+    try:
+        return bus.call_sync(*daemon, *call, None, Gio.DBusCallFlags.NONE, -1)[0]
+    except GLib.Error:
+        return 0
+
+
+def adopt_orphans() -> None:
+    """From now on a process that was started below this one and loses its parent becomes this
+    one's child, whatever session it has moved to."""
+    if libc.prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0) != 0:
+        raise OSError(ctypes.get_errno(), "prctl")
+
+
+def end_children(patience: float = 5.0) -> None:
+    """Ends all children, and theirs as they fall to this process. Only its own children, not reaped
+    yet, are signalled, so that no number can have passed to another process."""
+    deadline = time.monotonic() + patience
+    while True:
+        try:
+            while os.waitpid(-1, os.WNOHANG) != (0, 0):
+                pass
+        except ChildProcessError:
+            return
+        for tasks in Path("/proc/self/task").glob("*/children"):
+            for child in tasks.read_text().split():
+                late = time.monotonic() > deadline
+                os.kill(int(child), signal.SIGKILL if late else signal.SIGTERM)
+        time.sleep(0.02)
+
+
+def exit_on_signals() -> None:
+    """Makes the signals that end a program leave through its clean-up."""
+    for number in (signal.SIGTERM, signal.SIGHUP):
+        signal.signal(number, lambda number, _: sys.exit(128 + number))

@@ -1,0 +1,175 @@
+"""What a user sees and does: controls found by the names that a screen reader tells, real clicks and
+keys, pictures."""
+
+import subprocess
+from pathlib import Path
+from typing import Iterator, NamedTuple
+
+import gi
+
+from tests.e2e.waiting import PATIENCE, Failure, check, until
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+MILLISECONDS_TO_ANSWER = int(PATIENCE * 1000)
+WHEEL_UP, WHEEL_DOWN = "4", "5"  # X's buttons
+
+
+class Box(NamedTuple):
+    """A rectangle in the screen's pixels, its right and bottom edges outside."""
+
+    left: int
+    top: int
+    right: int
+    bottom: int
+
+    @property
+    def centre(self) -> tuple[str, str]:
+        return str((self.left + self.right) // 2), str((self.top + self.bottom) // 2)
+
+    def __and__(self, other: "Box") -> "Box":
+        return Box(*map(max, self[:2], other[:2]), *map(min, self[2:], other[2:]))
+
+
+class Control:
+    """Something on the screen, as assistive technology sees it. Nothing is remembered: each look
+    asks its program."""
+
+    def __init__(self, node: Atspi.Accessible):
+        self._node = node
+
+    @property
+    def name(self) -> str:
+        return self._node.get_name()
+
+    @property
+    def role(self) -> str:
+        return self._node.get_role_name()
+
+    @property
+    def description(self) -> str:
+        return self._node.get_description()
+
+    @property
+    def value(self) -> float:
+        return Atspi.Value.get_current_value(self._node)
+
+    def has(self, state: Atspi.StateType) -> bool:
+        return self._node.get_state_set().contains(state)
+
+    @property
+    def checked(self) -> bool:
+        return self.has(Atspi.StateType.CHECKED)
+
+    @property
+    def box(self) -> Box:
+        extents = self._node.get_extents(Atspi.CoordType.SCREEN)
+        right, bottom = extents.x + extents.width, extents.y + extents.height
+        return Box(extents.x, extents.y, right, bottom)
+
+    def cut_off_by(self) -> Box | None:
+        """The innermost of what encloses the control that shows only a part of it, or nothing."""
+        box, parent = self.box, self._node.get_parent()
+        while parent.get_role() != Atspi.Role.APPLICATION:
+            frame = Control(parent).box
+            if box & frame != box:
+                return frame
+            parent = parent.get_parent()
+        return None
+
+    def shown(self) -> Iterator["Control"]:
+        """Itself and all beneath it that isn't on a hidden page."""
+        if not self.has(Atspi.StateType.SHOWING):
+            return
+        yield self
+        for index in range(self._node.get_child_count()):
+            yield from Control(self._node.get_child_at_index(index)).shown()
+
+
+class Screen:
+    """The display that DISPLAY names. Controls are told by their name and, in words, their role."""
+
+    def __init__(self) -> None:
+        Atspi.init()
+        Atspi.set_timeout(MILLISECONDS_TO_ANSWER, MILLISECONDS_TO_ANSWER)
+        self._desktop = Atspi.get_desktop(0)
+        # What is remembered is only brought up to date by an event loop.
+        self._desktop.set_cache_mask(Atspi.Cache.NONE)
+
+    def all(self, role: str) -> list[Control]:
+        """All controls of a role, in reading order; none while their program comes or goes."""
+        try:
+            programs = range(self._desktop.get_child_count())
+            nodes = [self._desktop.get_child_at_index(index) for index in programs]
+            shown = (control for node in nodes for control in Control(node).shown())
+            return [control for control in shown if control.role == role]
+        except GLib.Error:
+            return []
+
+    def find(self, name: str, role: str) -> Control:
+        """Waits for the control. It must be the only one of its name and role."""
+
+        def named() -> list[Control]:
+            return [control for control in self.all(role) if control.name == name]
+
+        controls = until(named, f"{role} “{name}” is on the screen")
+        check(len(controls) == 1, f"{len(controls)} of role {role} are named “{name}”")
+        return controls[0]
+
+    def click(self, name: str, role: str) -> Control:
+        control = self.find(name, role)
+        self._bring_into_view(control)
+        press("mousemove", *until_at_rest(lambda: control.box).centre, "click", "1")
+        return control
+
+    def _bring_into_view(self, control: Control) -> None:
+        """Turns the wheel until the whole control is in sight."""
+        while frame := control.cut_off_by():
+            box = control.box
+            wheel = WHEEL_UP if box.top < frame.top else WHEEL_DOWN
+            press("mousemove", *frame.centre, "click", wheel)
+            until(lambda: control.box != box, f"the page scrolls towards “{control.name}”")
+
+    def windows(self, program: str) -> list[str]:
+        """The numbers of a program's windows that are in sight."""
+        return ask("search", "--onlyvisible", "--class", f"^{program}$").split()
+
+    def active_window(self) -> str:
+        return ask("getactivewindow").strip()
+
+    def picture(self, path: Path) -> None:
+        """Saves what is on the screen, once it is at rest. The pointer would hide a part."""
+        path.write_bytes(until_at_rest(lambda: run("maim", "--hidecursor")))
+
+
+def until_at_rest(look):
+    """What two looks in succession agree on."""
+    seen = look()
+
+    def same() -> bool:
+        nonlocal seen
+        before, seen = seen, look()
+        return before == seen
+
+    until(same, "the screen comes to rest")
+    return seen
+
+
+def press(*actions: str) -> None:
+    """Moves, clicks and types as xdotool's arguments say."""
+    run("xdotool", *actions)
+
+
+def ask(*question: str) -> str:
+    """An answer of xdotool's; nothing when there is no such window."""
+    return subprocess.run(
+        ("xdotool", *question), capture_output=True, text=True, check=False
+    ).stdout
+
+
+def run(*command: str) -> bytes:
+    try:
+        return subprocess.run(command, capture_output=True, check=True).stdout
+    except subprocess.CalledProcessError as error:
+        raise Failure(f"{' '.join(command)}: {error.stderr.decode()}") from error

@@ -1,0 +1,268 @@
+"""Drives the built pane on a virtual display, as its user does, and checks what each step does.
+
+    python3 -m tests.e2e.tour BUILD_DIR OUT_DIR
+
+OUT_DIR gets pictures, the agent's log and the stored property list. The exit status is 1 when a step
+did not have its effect.
+"""
+
+import os
+import shutil
+import signal
+import subprocess
+import sys
+import traceback
+from contextlib import suppress
+from pathlib import Path
+
+from tests.e2e.agentlog import AgentLog
+from tests.e2e.desktop import Desktop, exit_on_signals, process_of
+from tests.e2e.screen import Screen, press
+from tests.e2e.stored import check_stored, stored_file
+from tests.e2e.waiting import Failure, check, until
+
+PROGRAM = "korvex-preferences"
+AGENT = "Korvex.prefPane/Contents/Linux/Korvex Agent.app/Contents/Linux/korvex-agent"
+
+# Groups of settings, as the agent is told which one changed.
+NO_GROUP, SOUNDS, TRIGGERS, SCAN_SPEED, ON_OFF = 0, 16, 256, 512, 4096
+
+CHANGED = {
+    "soundLevel": "0x00000033",
+    "scanner.canScanMenuBar": "no",
+    "scanner.lineScanTime": "10.500000",
+    "scanner.scanMode": "1",
+}
+
+
+class Tour:
+    """What the steps share."""
+
+    def __init__(self, desktop: Desktop, build: Path, out: Path):
+        self.desktop = desktop
+        self.build = build
+        self.out = out
+        self.screen = Screen()
+        self.log = AgentLog(out / "agent.log")
+        self.stored = stored_file(desktop.config)
+        self._pictures = 0
+
+    def start(self) -> None:
+        self.program = self.start_program()
+
+    def start_program(self) -> subprocess.Popen:
+        return self.desktop.start(self.build / "host" / PROGRAM)
+
+    def close(self) -> None:
+        """Has the window manager close the window. The agent must hear of that, and of nothing
+        else before."""
+        press("key", "alt+F4")
+        self.log.expect("PPcl")
+        until(lambda: self.program.poll() is not None, "the program ends")
+        check(self.program.returncode == 0, f"the program ended with {self.program.returncode}")
+
+    def choose_tab(self, name: str) -> None:
+        self.screen.click(name, "page tab")
+        self.screen.find(name, "filler")  # its page
+
+    def choose(self, radio: str) -> None:
+        self.screen.click(radio, "radio button")
+        self.wait_for_choice(radio)
+
+    def wait_for_choice(self, radio: str) -> None:
+        control = self.screen.find(radio, "radio button")
+        until(lambda: control.checked, f"“{radio}” is chosen")
+
+    def picture(self, name: str) -> None:
+        self._pictures += 1
+        self.screen.picture(self.out / f"{self._pictures:02}-{name}.png")
+
+
+def open_the_pane(tour: Tour) -> str:
+    """Open the pane"""
+    tour.start()
+    agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")
+    program = Path(f"/proc/{agent}/exe").readlink()
+    check(program == (tour.build / AGENT).resolve(), f"{program} was launched as the agent")
+    name = f"org.korvex.Process1.t4150504C.s4B727678.p{agent}"
+    until(lambda: process_of(name) == agent, "the agent takes events")
+    tour.agent = agent
+
+    until(lambda: tour.screen.all("page tab"), "the tabs are on the screen")
+    tabs = [tab.name for tab in tour.screen.all("page tab")]
+    for tab in tabs:
+        tour.choose_tab(tab)
+        tour.picture(f"tab-{tab.lower()}")
+    return f"the agent was launched and takes events; tabs {', '.join(tabs)}"
+
+
+def lengthen_line_scan_time(tour: Tour) -> str:
+    """Press plus on the line scan time"""
+    tour.choose_tab("Scanning")
+    tour.screen.click("Line scan time, longer", "push button")
+    account = tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10.5)
+    slider = tour.screen.find("Line scan time", "slider")
+    until(lambda: slider.value == 10.5, "the slider follows")
+    tour.picture("line-scan-time")
+    return account
+
+
+def skip_the_menu_bar(tour: Tour) -> str:
+    """Switch scanning of the menu bar off"""
+    tour.screen.click("Scan the menu bar too", "check box")
+    account = tour.log.expect_change(NO_GROUP, "canScanMenuBar", 0)
+    tour.picture("menu-bar")
+    return account
+
+
+def choose_scan_mode(tour: Tour) -> str:
+    """Choose another scan mode"""
+    tour.choose_tab("Triggers")
+    tour.choose("Hold to scan, let go to choose")
+    account = tour.log.expect_change(TRIGGERS, "scanMode", 1)
+    tour.picture("scan-mode")
+    return account
+
+
+def switch_off_and_on(tour: Tour) -> str:
+    """Switch the agent off and on"""
+    tour.choose("Off")
+    off = tour.log.expect_change(ON_OFF, "on", 0)
+    tour.picture("switched-off")
+    tour.choose("On")
+    on = tour.log.expect_change(ON_OFF, "on", 1)
+    tour.picture("switched-on")
+    return f"{off}; {on}"
+
+
+def follow_the_agent(tour: Tour) -> str:
+    """Have the agent switch itself off and on"""
+    os.kill(tour.agent, signal.SIGUSR1)
+    tour.wait_for_choice("Off")
+    tour.picture("agent-off")
+    os.kill(tour.agent, signal.SIGUSR1)
+    tour.wait_for_choice("On")
+    tour.picture("agent-on")
+    # Had the reports been sent back, the agent would hear that before the next change.
+    tour.choose_tab("Sound")
+    tour.screen.click("Volume, louder", "push button")
+    account = tour.log.expect_change(SOUNDS, "soundLevel", 51)
+    tour.picture("volume")
+    return f"the window followed both times; next heard: {account}"
+
+
+def close_the_pane(tour: Tour) -> str:
+    """Close the pane"""
+    tour.close()
+    tour.picture("closed")
+    return f"the agent heard PPcl; {check_stored(tour.desktop.config, CHANGED)}"
+
+
+def open_it_again(tour: Tour) -> str:
+    """Open it again while the agent runs"""
+    tour.start()
+    high, low = tour.log.expect("PPop")["psn"]
+    check(process_of(f":{high}.{low}") == tour.program.pid, "PPop names another process")
+    screen = tour.screen
+    check(screen.find("Line scan time", "slider").value == 10.5, "the line scan time is lost")
+    check(not screen.find("Scan the menu bar too", "check box").checked, "the menu bar is back")
+    tour.picture("again-scanning")
+    tour.choose_tab("Triggers")
+    tour.wait_for_choice("Hold to scan, let go to choose")
+    tour.picture("again-triggers")
+    tour.choose_tab("Sound")
+    check(screen.find("Volume", "slider").value == 51, "the volume is lost")
+    tour.picture("again-sound")
+    return "the agent heard PPop from this process; the changed values are shown"
+
+
+def start_it_twice(tour: Tour) -> str:
+    """Start the program while its window is minimised"""
+    (window,) = tour.screen.windows(PROGRAM)
+    press("windowminimize", window)
+    until(lambda: not tour.screen.windows(PROGRAM), "the window is minimised")
+    second = tour.start_program()
+    until(lambda: second.poll() is not None, "the second start ends")
+    check(second.returncode == 0, f"the second start ended with {second.returncode}")
+    until(lambda: tour.screen.active_window() == window, "the first window comes to the front")
+    check(tour.screen.windows(PROGRAM) == [window], "there is a second window")
+    tour.picture("in-front-again")
+    return "the second start ended with 0; the one window is in front again"
+
+
+def close_it_unchanged(tour: Tour) -> str:
+    """Close it without a change"""
+
+    def state() -> tuple:
+        status = tour.stored.stat()
+        return status.st_ino, status.st_mtime_ns, tour.stored.read_bytes()
+
+    before = state()
+    tour.close()
+    check(state() == before, "the file was written")
+    return "the agent heard PPcl and nothing else; the file was not written"
+
+
+STEPS = (
+    open_the_pane,
+    lengthen_line_scan_time,
+    skip_the_menu_bar,
+    choose_scan_mode,
+    switch_off_and_on,
+    follow_the_agent,
+    close_the_pane,
+    open_it_again,
+    start_it_twice,
+    close_it_unchanged,
+)
+
+
+def walk(tour: Tour) -> bool:
+    """Goes the steps, a line each, to the first that fails."""
+    for number, step in enumerate(STEPS, 1):
+        try:
+            print(f"{number:2} {step.__doc__}: {step(tour)}.", flush=True)
+        except Exception as failure:
+            print(f"{number:2} {step.__doc__}: FAILED. {failure}.", flush=True)
+            explain(failure, tour)
+            return False
+    return True
+
+
+def explain(failure: Exception, tour: Tour) -> None:
+    if not isinstance(failure, Failure):
+        traceback.print_exception(failure)
+    print(tour.desktop.output_of(PROGRAM), end="", file=sys.stderr)
+    with suppress(Failure):  # when the display itself is gone
+        tour.picture("failed")
+
+
+def make_room(out: Path) -> None:
+    """Removes what an earlier tour left."""
+    out.mkdir(parents=True, exist_ok=True)
+    for old in (*out.glob("[0-9][0-9]-*.png"), *out.glob("*.plist"), *out.glob("agent.log")):
+        old.unlink()
+
+
+def main(arguments: list[str]) -> int:
+    if len(arguments) != 2:
+        print("Usage: python3 -m tests.e2e.tour BUILD_DIR OUT_DIR", file=sys.stderr)
+        return 2
+    build, out = (Path(argument).resolve() for argument in arguments)
+    make_room(out)
+    exit_on_signals()
+    with Desktop(1024, 768, {"KORVEX_AGENT_LOG": str(out / "agent.log")}) as desktop:
+        tour = Tour(desktop, build, out)
+        try:
+            succeeded = walk(tour)
+        finally:
+            if tour.stored.exists():
+                shutil.copy(tour.stored, out)
+    return 0 if succeeded else 1
+
+
+if __name__ == "__main__":
+    try:
+        sys.exit(main(sys.argv[1:]))
+    except Failure as failure:
+        sys.exit(f"The tour could not start: {failure}.")
