@@ -4,18 +4,15 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
-#include <QVBoxLayout>
 #include <QWindow>
 
 PaneWindow::PaneWindow(QWidget* pane) : paneSize_(pane->size().expandedTo(pane->sizeHint())) {
-    auto* scroller = new QScrollArea(this);
+    auto* scroller = new QScrollArea;
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setFocusPolicy(Qt::NoFocus);
     scroller->setWidgetResizable(true);
     scroller->setWidget(pane);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(scroller);
+    setCentralWidget(scroller);
     for (const auto key : {Qt::CTRL | Qt::Key_W, Qt::CTRL | Qt::Key_Q})
         new QShortcut(QKeySequence(key), this, this, &QWidget::close);
 }

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QWidget>
+#include <QMainWindow>
 
 #include <functional>
 
-/// The window around a pane. It grows and shrinks as the user likes: what doesn't fit is scrolled.
-class PaneWindow final : public QWidget {
+/// The window around a pane, which assistive technology knows as one by its class. It grows and
+/// shrinks as the user likes: what doesn't fit is scrolled.
+class PaneWindow final : public QMainWindow {
 public:
     /// Takes `pane` as its child.
     explicit PaneWindow(QWidget* pane);
