@@ -159,5 +159,5 @@ def end_children(patience: float = 5.0) -> None:
 
 def exit_on_signals() -> None:
     """Makes the signals that end a program leave through its clean-up."""
-    for number in (signal.SIGTERM, signal.SIGHUP):
+    for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
         signal.signal(number, lambda number, _: sys.exit(128 + number))

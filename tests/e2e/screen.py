@@ -83,8 +83,14 @@ class Control:
         if not self.has(Atspi.StateType.SHOWING):
             return
         yield self
-        for index in range(self._node.get_child_count()):
-            yield from Control(self._node.get_child_at_index(index)).shown()
+        for child in children(self._node):
+            yield from child.shown()
+
+
+def children(node: Atspi.Accessible) -> Iterator[Control]:
+    for index in range(node.get_child_count()):
+        if child := node.get_child_at_index(index):
+            yield Control(child)
 
 
 class Screen:
@@ -97,21 +103,29 @@ class Screen:
         # What is remembered is only brought up to date by an event loop.
         self._desktop.set_cache_mask(Atspi.Cache.NONE)
 
-    def all(self, role: str) -> list[Control]:
-        """All controls of a role, in reading order; none while their program comes or goes."""
+    def shown(self) -> list[Control]:
+        """All that is shown, in reading order; nothing while a program comes or goes."""
         try:
-            programs = range(self._desktop.get_child_count())
-            nodes = [self._desktop.get_child_at_index(index) for index in programs]
-            shown = (control for node in nodes for control in Control(node).shown())
-            return [control for control in shown if control.role == role]
+            return [each for program in children(self._desktop) for each in program.shown()]
         except GLib.Error:
             return []
+
+    def names(self, role: str) -> list[str]:
+        return [each.name for each in self.shown() if each.role == role]
+
+    def check_names(self) -> None:
+        """Every control that the keyboard can reach must have a name of its own."""
+        reachable = [each for each in self.shown() if each.has(Atspi.StateType.FOCUSABLE)]
+        names = [(each.role, each.name) for each in reachable]
+        check(bool(names), "nothing can be reached by keyboard")
+        unclear = {(role, name) for role, name in names if not name or names.count((role, name)) > 1}
+        check(not unclear, f"not told apart by name: {unclear}")
 
     def find(self, name: str, role: str) -> Control:
         """Waits for the control. It must be the only one of its name and role."""
 
         def named() -> list[Control]:
-            return [control for control in self.all(role) if control.name == name]
+            return [each for each in self.shown() if each.role == role and each.name == name]
 
         controls = until(named, f"{role} “{name}” is on the screen")
         check(len(controls) == 1, f"{len(controls)} of role {role} are named “{name}”")

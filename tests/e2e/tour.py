@@ -88,10 +88,11 @@ def open_the_pane(tour: Tour) -> str:
     until(lambda: process_of(name) == agent, "the agent takes events")
     tour.agent = agent
 
-    until(lambda: tour.screen.all("page tab"), "the tabs are on the screen")
-    tabs = [tab.name for tab in tour.screen.all("page tab")]
+    tour.screen.find("Korvex", "frame")
+    tabs = tour.screen.names("page tab")
     for tab in tabs:
         tour.choose_tab(tab)
+        tour.screen.check_names()
         tour.picture(f"tab-{tab.lower()}")
     return f"the agent was launched and takes events; tabs {', '.join(tabs)}"
 
