@@ -11,7 +11,7 @@ build_packages=(
 )
 # A virtual display with a window manager, and what reads the screen and types on the keyboard.
 tour_packages=(
-    xvfb xauth openbox xdotool maim at-spi2-core python3-gi gir1.2-atspi-2.0
+    xvfb openbox xdotool maim at-spi2-core python3-gi gir1.2-atspi-2.0
 )
 check_packages=(git clang-format-14)
 

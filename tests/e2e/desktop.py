@@ -1,4 +1,4 @@
-"""A desktop of its own: a virtual display with a window manager, a session bus, and a fresh home."""
+"""A desktop of its own: a virtual display, a window manager, a session bus, and a fresh home."""
 
 import ctypes
 import os
@@ -101,7 +101,7 @@ class Desktop:
         )
         self.start("openbox", "--config-file", "/etc/xdg/openbox/rc.xml")
         # It can tell the desktop's number as soon as it manages windows.
-        until(lambda: succeeds("xdotool", "get_desktop"), "the window manager is up")
+        until(lambda: ask("xdotool", "get_desktop"), "the window manager is up")
 
     def _start_and_ask(self, *command: str) -> str:
         """Starts a server that takes a file's number as its last argument, and returns the line
@@ -118,8 +118,10 @@ class Desktop:
         return line
 
 
-def succeeds(*command: str) -> bool:
-    return subprocess.run(command, capture_output=True, check=False).returncode == 0
+def ask(*command: str) -> str:
+    """What a short command prints; when it fails, as xdotool does without an answer, nothing."""
+    result = subprocess.run(command, capture_output=True, text=True, check=False)
+    return result.stdout if result.returncode == 0 else ""
 
 
 def process_of(bus_name: str) -> int:

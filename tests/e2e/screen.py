@@ -1,16 +1,20 @@
-"""What a user sees and does: controls found by the names that a screen reader tells, real clicks and
-keys, pictures."""
+"""What a user sees and does: controls found by the names that a screen reader tells, real clicks
+and keys, pictures."""
 
 import subprocess
+from collections import Counter
 from pathlib import Path
-from typing import Iterator, NamedTuple
+from typing import Callable, Iterator, NamedTuple, TypeVar
 
 import gi
 
+from tests.e2e.desktop import ask
 from tests.e2e.waiting import PATIENCE, Failure, check, until
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
+
+T = TypeVar("T")
 
 MILLISECONDS_TO_ANSWER = int(PATIENCE * 1000)
 WHEEL_UP, WHEEL_DOWN = "4", "5"  # X's buttons
@@ -46,10 +50,6 @@ class Control:
     @property
     def role(self) -> str:
         return self._node.get_role_name()
-
-    @property
-    def description(self) -> str:
-        return self._node.get_description()
 
     @property
     def value(self) -> float:
@@ -116,9 +116,9 @@ class Screen:
     def check_names(self) -> None:
         """Every control that the keyboard can reach must have a name of its own."""
         reachable = [each for each in self.shown() if each.has(Atspi.StateType.FOCUSABLE)]
-        names = [(each.role, each.name) for each in reachable]
+        names = Counter((each.role, each.name) for each in reachable)
         check(bool(names), "nothing can be reached by keyboard")
-        unclear = {(role, name) for role, name in names if not name or names.count((role, name)) > 1}
+        unclear = [control for control, count in names.items() if count > 1 or not control[1]]
         check(not unclear, f"not told apart by name: {unclear}")
 
     def find(self, name: str, role: str) -> Control:
@@ -147,17 +147,17 @@ class Screen:
 
     def windows(self, program: str) -> list[str]:
         """The numbers of a program's windows that are in sight."""
-        return ask("search", "--onlyvisible", "--class", f"^{program}$").split()
+        return ask("xdotool", "search", "--onlyvisible", "--class", f"^{program}$").split()
 
     def active_window(self) -> str:
-        return ask("getactivewindow").strip()
+        return ask("xdotool", "getactivewindow").strip()
 
     def picture(self, path: Path) -> None:
         """Saves what is on the screen, once it is at rest. The pointer would hide a part."""
         path.write_bytes(until_at_rest(lambda: run("maim", "--hidecursor")))
 
 
-def until_at_rest(look):
+def until_at_rest(look: Callable[[], T]) -> T:
     """What two looks in succession agree on."""
     seen = look()
 
@@ -173,13 +173,6 @@ def until_at_rest(look):
 def press(*actions: str) -> None:
     """Moves, clicks and types as xdotool's arguments say."""
     run("xdotool", *actions)
-
-
-def ask(*question: str) -> str:
-    """An answer of xdotool's; nothing when there is no such window."""
-    return subprocess.run(
-        ("xdotool", *question), capture_output=True, text=True, check=False
-    ).stdout
 
 
 def run(*command: str) -> bytes:

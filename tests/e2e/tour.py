@@ -2,8 +2,8 @@
 
     python3 -m tests.e2e.tour BUILD_DIR OUT_DIR
 
-OUT_DIR gets pictures, the agent's log and the stored property list. The exit status is 1 when a step
-did not have its effect.
+OUT_DIR gets pictures, the agent's log and the stored property list. The exit status is 1 when a
+step did not have its effect.
 """
 
 import os
@@ -45,6 +45,7 @@ class Tour:
         self.screen = Screen()
         self.log = AgentLog(out / "agent.log")
         self.stored = stored_file(desktop.config)
+        self.agent = 0  # its process, once it runs
         self._pictures = 0
 
     def start(self) -> None:
