@@ -8,8 +8,13 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
+#include <QVariant>
+
+#include <algorithm>
 
 namespace {
+
+constexpr const char* kAspectRatio = "aspectRatio";
 
 /// The character of a key, 0 for none that the layer knows.
 char16_t characterOf(const QKeyEvent& event) {
@@ -42,6 +47,14 @@ void ViewWidget::setView(NSView* view) {
         setFocusPolicy(Qt::NoFocus);
     else if (focusPolicy() == Qt::NoFocus)
         setFocusPolicy(Qt::StrongFocus);
+}
+
+bool ViewWidget::hasHeightForWidth() const {
+    return property(kAspectRatio).isValid();
+}
+
+int ViewWidget::heightForWidth(int width) const {
+    return std::max(minimumHeight(), static_cast<int>(width / property(kAspectRatio).toDouble()));
 }
 
 void ViewWidget::paintEvent(QPaintEvent* event) {

@@ -4,7 +4,8 @@
 
 class NSView;
 
-/// The widget behind a view that draws itself: it hands the view its events.
+/// The widget behind a view that draws itself: it hands the view its events. The form's dynamic
+/// property aspectRatio, width by height, makes it as high as its width asks for.
 class ViewWidget final : public QWidget {
 public:
     explicit ViewWidget(QWidget* parent);
@@ -13,6 +14,9 @@ public:
 
     /// Not owned; outlives the widget.
     void setView(NSView* view);
+
+    bool hasHeightForWidth() const override;
+    int heightForWidth(int width) const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

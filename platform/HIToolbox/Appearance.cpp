@@ -78,6 +78,23 @@ OSStatus DrawThemeButton(const Rect* bounds, ThemeButtonKind kind, const ThemeBu
     return noErr;
 }
 
+OSStatus DrawThemeFocusRect(const Rect* rect, bool hasFocus) {
+    GrafPort* port = GrafPort::current();
+    if (!port)
+        return kThemeNoPortErr;
+    if (!hasFocus)
+        return noErr;
+    QPainter& painter = port->painter();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(port->widget().palette().color(QPalette::ButtonText), 1.5, Qt::DotLine));
+    painter.drawRoundedRect(QRectF(toQRect(*rect)).adjusted(1, 1, -1, -1), kCornerRadius,
+                            kCornerRadius);
+    painter.restore();
+    return noErr;
+}
+
 OSStatus GetThemeTextDimensions(const CFString* text, ThemeFontID, ThemeDrawState, bool wrapToWidth,
                                 Point* bounds, SInt16* baseline) {
     GrafPort* port = GrafPort::current();

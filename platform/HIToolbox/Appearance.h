@@ -39,6 +39,10 @@ OSStatus DrawThemeButton(const Rect* bounds, ThemeButtonKind kind, const ThemeBu
                          const ThemeButtonDrawInfo* previousInfo, ThemeEraseUPP erase,
                          ThemeButtonDrawUPP label, void* userData);
 
+/// Draws the ring that shows where the keyboard acts, just inside the rectangle; nothing when
+/// `hasFocus` is false, as every view is erased before it is drawn.
+OSStatus DrawThemeFocusRect(const Rect* rect, bool hasFocus);
+
 enum ThemeFontID : UInt16 { kThemeLabelFont = 6 /**< the small text under an icon */ };
 
 enum ThemeJustification : SInt16 { teCenter = 1 };

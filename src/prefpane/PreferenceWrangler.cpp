@@ -3,10 +3,13 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSColorWell.h"
 #include "platform/AppKit/NSMatrix.h"
+#include "platform/AppKit/NSPopUpButton.h"
 #include "platform/AppKit/NSTabView.h"
+#include "platform/AppKit/NSTextField.h"
 #include "platform/HIToolbox/AppleHelp.h"
 #include "src/prefpane/BumperController.h"
 #include "src/prefpane/SliderController.h"
+#include "src/prefpane/palutil.h"
 
 NS_REGISTER_CLASS(PreferenceWrangler);
 
@@ -20,9 +23,16 @@ void wranglerSetMasterOnOff(bool on) {
 std::span<const NSOutlet> PreferenceWrangler::outlets() const {
     using W = PreferenceWrangler;
     static constexpr NSOutlet table[] = {
+        nsOutlet<&W::addButtonBtn_>("addButtonBtn"),
         nsOutlet<&W::autoRepeatTime_>("autoRepeatTime"),
         nsOutlet<&W::borderGap_>("borderGap"),
+        nsOutlet<&W::buttonContentIconCheck_>("buttonContentIconCheck"),
+        nsOutlet<&W::buttonContentNameCheck_>("buttonContentNameCheck"),
         nsOutlet<&W::buttonGap_>("buttonGap"),
+        nsOutlet<&W::buttonHeight_>("buttonHeight"),
+        nsOutlet<&W::buttonShapeRadios_>("buttonShapeRadios"),
+        nsOutlet<&W::buttonSize_>("buttonSize"),
+        nsOutlet<&W::buttonWidth_>("buttonWidth"),
         nsOutlet<&W::canScanMenuBarCheck_>("canScanMenuBarCheck"),
         nsOutlet<&W::clickTime_>("clickTime"),
         nsOutlet<&W::guideTransparency_>("guideTransparency"),
@@ -35,13 +45,19 @@ std::span<const NSOutlet> PreferenceWrangler::outlets() const {
         nsOutlet<&W::masterOnOffRadios_>("masterOnOffRadios"),
         nsOutlet<&W::menuScanSpeedScaleFactor_>("menuScanSpeedScaleFactor"),
         nsOutlet<&W::minTriggerDuration_>("minTriggerDuration"),
+        nsOutlet<&W::palettePrompt_>("palettePrompt"),
+        nsOutlet<&W::paletteView_>("paletteView"),
         nsOutlet<&W::playClickSoundsCheck_>("playClickSoundsCheck"),
         nsOutlet<&W::playDragPrompts_>("playDragPrompts"),
         nsOutlet<&W::pointerScanTime_>("pointerScanTime"),
         nsOutlet<&W::afterClickDelay_>("afterClickDelay"),
         nsOutlet<&W::preScanDelayTime_>("preScanDelayTime"),
+        nsOutlet<&W::removeButtonBtn_>("removeButtonBtn"),
+        nsOutlet<&W::resetActionsBtn_>("resetActionsBtn"),
         nsOutlet<&W::scanModeRadios_>("scanModeRadios"),
+        nsOutlet<&W::setActionBtn_>("setActionBtn"),
         nsOutlet<&W::stepScanCancelTime_>("stepScanCancelTime"),
+        nsOutlet<&W::swapWithBtn_>("swapWithBtn"),
         nsOutlet<&W::prefsTabs_>("prefsTabs"),
         nsOutlet<&W::triggerOnReleaseRadios_>("triggerOnReleaseRadios"),
         nsOutlet<&W::useScanAccelerationCheck_>("useScanAccelerationCheck"),
@@ -69,6 +85,14 @@ std::span<const NSAction> PreferenceWrangler::actions() const {
         nsAction<&W::changedLineScanCanEndKyndMode>("changedLineScanCanEndKyndMode:"),
         nsAction<&W::changedCanScanMenuBar>("changedCanScanMenuBar:"),
         nsAction<&W::changedLineColor>("changedLineColor:"),
+        nsAction<&W::addPaletteBtn>("addPaletteBtn:"),
+        nsAction<&W::setPaletteBtnAction>("setPaletteBtnAction:"),
+        nsAction<&W::removePaletteButton>("removePaletteButton:"),
+        nsAction<&W::swapPaletteButtonWith>("swapPaletteButtonWith:"),
+        nsAction<&W::resetPaletteButtons>("resetPaletteButtons:"),
+        nsAction<&W::changedButtonShape>("changedButtonShape:"),
+        nsAction<&W::changedButtonContentName>("changedButtonContentName:"),
+        nsAction<&W::changedButtonContentIcon>("changedButtonContentIcon:"),
     };
     return table;
 }
@@ -110,11 +134,26 @@ void PreferenceWrangler::setup() {
         row.controller->setDoubleKindAt(row.field, row.step, row.changes, row.format);
     volume_->setKind(kNumberKindUInt32, &prefs.soundLevel, 1.0, kChangeSounds, "%3.0f");
 
-    borderGap_->setKind(kNumberKindSInt32, &prefs.borderGap, 0, 100, 1, kChangePalette);
-    buttonGap_->setKind(kNumberKindSInt32, &prefs.buttonGap, 0, 100, 1, kChangePalette);
-    lineThickness_->setKind(kNumberKindSInt32, &prefs.lineThickness, 1, 50, 1,
-                            kChangeScanLineLook | kChangeGuideLineLook);
+    const struct {
+        BumperController* controller;
+        SInt32* value;
+        double min, max;
+        ChangeMask changes;
+    } bumpers[] = {
+        {borderGap_, &prefs.borderGap, 0, 100, kChangePalette},
+        {buttonGap_, &prefs.buttonGap, 0, 100, kChangePalette},
+        {lineThickness_, &prefs.lineThickness, 1, 50, kChangeScanLineLook | kChangeGuideLineLook},
+        {buttonHeight_, &buttonHeightChange_, -10, 10, kChangeButtonHeightBump},
+        {buttonSize_, &buttonSizeChange_, -10, 10, kChangeButtonSizeBump},
+        {buttonWidth_, &buttonWidthChange_, -10, 10, kChangeButtonWidthBump},
+    };
 
+    for (const auto& row : bumpers)
+        row.controller->setKind(kNumberKindSInt32, row.value, row.min, row.max, 1, row.changes);
+
+    paletteView_->setTarget(this);
+    addActionMenuToCtl(addButtonBtn_, selector("addPaletteBtn:"));
+    addActionMenuToCtl(setActionBtn_, selector("setPaletteBtnAction:"));
     theWrangler = this;
 }
 
@@ -135,6 +174,9 @@ void PreferenceWrangler::loadValues() {
         volume_,
         borderGap_,
         buttonGap_,
+        buttonHeight_,
+        buttonSize_,
+        buttonWidth_,
         lineThickness_,
     };
     for (NumberController* controller : controllers)
@@ -143,11 +185,12 @@ void PreferenceWrangler::loadValues() {
     updateMasterOnOff();
     scanModeRadios_->selectCellWithTag(prefs.scanMode);
     triggerOnReleaseRadios_->selectCellWithTag(prefs.triggerOnRelease != 0);
+    buttonShapeRadios_->selectCellWithTag(static_cast<int>(prefs.buttonShape));
     updateScanAreaRadios();
 
     const struct {
         NSButton* check;
-        UInt8 state;
+        UInt32 state;
     } checks[] = {
         {canScanMenuBarCheck_, prefs.canScanMenuBar},
         {lineScanCanEndKybdModeCheck_, prefs.lineScanCanEndKybdMode},
@@ -156,14 +199,18 @@ void PreferenceWrangler::loadValues() {
         {useScanAccelerationCheck_, prefs.useScanAcceleration},
         {wantHotKeyTriggerCheck_, prefs.wantHotKeyTrigger},
         {wantMouseClickTriggerCheck_, prefs.wantMouseClickTrigger},
+        {buttonContentIconCheck_, prefs.buttonContent & kButtonContentIcon},
+        {buttonContentNameCheck_, prefs.buttonContent & kButtonContentName},
     };
 
     for (const auto& [check, state] : checks)
-        check->setState(state);
+        check->setState(state ? NSOnState : NSOffState);
 
     lineColor_->setColor(NSColor::colorWithDeviceRed(prefs.lineColor.red / 255.0,
                                                      prefs.lineColor.green / 255.0,
                                                      prefs.lineColor.blue / 255.0, 1.0));
+    buttonHeightChange_ = buttonWidthChange_ = buttonSizeChange_ = 0;
+    resetPaletteControls();
     updateTriggerUI();
 }
 

@@ -1,19 +1,25 @@
 #pragma once
 
 #include "src/prefpane/NumberController.h"
+#include "src/prefpane/PaletteView.h"
 
 class BumperController;
 class CFType;
 class NSButton;
 class NSColorWell;
 class NSMatrix;
+class NSMenuItem;
+class NSPopUpButton;
 class NSTabView;
+class NSTextField;
 class SliderController;
 
 /// The pane's one controller: it binds every control to its field of `prefs`, shows the fields in
 /// the controls, and carries every edit to the store and to the agent. The interface file makes it
 /// and fills its outlets; each is named after the setting that it shows.
-class PreferenceWrangler final : public NSObject, public NumberChangeTarget {
+class PreferenceWrangler final : public NSObject,
+                                 public NumberChangeTarget,
+                                 public PaletteViewTarget {
 public:
     std::span<const NSOutlet> outlets() const override;
     std::span<const NSAction> actions() const override;
@@ -57,12 +63,51 @@ public:
     void changedCanScanMenuBar(NSButton* sender);
     void changedLineColor(NSColorWell* sender);
 
+    // PreferenceWranglerPalette.cpp: the palette's buttons. An edit leaves nothing selected.
+
+    /// Adds an item for every action that has a title; choosing it sends the selector, with the
+    /// action's number as the item's tag.
+    void addActionMenuToCtl(NSPopUpButton* ctl, SEL selector);
+    /// The first empty slot after the given one, or kNoButton.
+    SInt32 emptyPaletteBtnAfter(SInt32 slot) const;
+    /// The first slot of the last run of empty ones, or kNoButton.
+    SInt32 newPaletteBtnLocation() const;
+    bool canAddPaletteBtn() const;
+    /// Inserts the action before the selected button or, without room after it, takes the place for
+    /// a new button. Beeps when there is none.
+    void addPaletteBtn(NSMenuItem* sender);
+    void setPaletteBtnAction(NSMenuItem* sender);
+    void removePaletteButton(NSButton* sender);
+    /// The next click in the palette view swaps the selected button with the one hit, or cancels.
+    void swapPaletteButtonWith(NSButton* sender);
+    void paletteBtnHit(PaletteView* view, SInt32 index) override;
+    void resetPaletteButtons(NSButton* sender);
+    void updatePaletteCtls();
+    /// Ends a swap and clears the selection.
+    void resetPaletteControls();
+    void changedButtonShape(NSMatrix* sender);
+    void changedButtonContentName(NSButton* sender);
+    void changedButtonContentIcon(NSButton* sender);
+    /// Folds the bumpers' pending steps into the button size.
+    void changedButtonSizes();
+
 private:
     void setFlag(UInt8& flag, NSButton* sender, ChangeMask changes);
+    void commitPaletteEdit();
+    /// Says what is selected and what a swap waits for.
+    void updatePalettePrompt();
+    void setButtonContent(UInt32 bit, NSButton* sender);
 
+    NSPopUpButton* addButtonBtn_ = nullptr;
     SliderController* autoRepeatTime_ = nullptr;
     BumperController* borderGap_ = nullptr;
+    NSButton* buttonContentIconCheck_ = nullptr;
+    NSButton* buttonContentNameCheck_ = nullptr;
     BumperController* buttonGap_ = nullptr;
+    BumperController* buttonHeight_ = nullptr;
+    NSMatrix* buttonShapeRadios_ = nullptr;
+    BumperController* buttonSize_ = nullptr;
+    BumperController* buttonWidth_ = nullptr;
     NSButton* canScanMenuBarCheck_ = nullptr;
     SliderController* clickTime_ = nullptr;
     SliderController* guideTransparency_ = nullptr;
@@ -75,13 +120,19 @@ private:
     NSMatrix* masterOnOffRadios_ = nullptr;
     SliderController* menuScanSpeedScaleFactor_ = nullptr;
     SliderController* minTriggerDuration_ = nullptr;
+    NSTextField* palettePrompt_ = nullptr;
+    PaletteView* paletteView_ = nullptr;
     NSButton* playClickSoundsCheck_ = nullptr;
     NSButton* playDragPrompts_ = nullptr;
     SliderController* pointerScanTime_ = nullptr;
     SliderController* afterClickDelay_ = nullptr;
     SliderController* preScanDelayTime_ = nullptr;
+    NSButton* removeButtonBtn_ = nullptr;
+    NSButton* resetActionsBtn_ = nullptr;
     NSMatrix* scanModeRadios_ = nullptr;
+    NSPopUpButton* setActionBtn_ = nullptr;
     SliderController* stepScanCancelTime_ = nullptr;
+    NSButton* swapWithBtn_ = nullptr;
     NSTabView* prefsTabs_ = nullptr;
     NSMatrix* triggerOnReleaseRadios_ = nullptr;
     NSButton* useScanAccelerationCheck_ = nullptr;
@@ -89,6 +140,12 @@ private:
     SliderController* volume_ = nullptr;
     NSButton* wantHotKeyTriggerCheck_ = nullptr;
     NSButton* wantMouseClickTriggerCheck_ = nullptr;
+
+    // Steps of the button size that changedButtonSizes has yet to apply; 0 but while it is called.
+    SInt32 buttonSizeChange_ = 0;
+    SInt32 buttonWidthChange_ = 0;
+    SInt32 buttonHeightChange_ = 0;
+    SInt32 firstBtnToSwap_ = kNoButton; ///< the slot that a swap began with
 
     const CFString* helpBookName_ = nullptr; ///< the bundle's own; null: no book
 };

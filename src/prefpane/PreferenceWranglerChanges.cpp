@@ -22,6 +22,12 @@ UInt16 byteComponent(double component) {
 } // namespace
 
 void PreferenceWrangler::changed(ChangeMask changes) {
+    if (changes & kChangeButtonBumps) {
+        changedButtonSizes();
+        changes &= ~kChangeButtonBumps;
+        if (!changes)
+            return;
+    }
     updateUIForChanges(changes);
     prefsWereChanged();
     daemonSendChanges(changes, true);

@@ -3,6 +3,7 @@
 #include "platform/HIToolbox/AppleHelp.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/PreferenceWrangler.h"
+#include "src/prefpane/palutil.h"
 
 NS_REGISTER_CLASS(VLDKorvexPane);
 
@@ -27,12 +28,14 @@ void VLDKorvexPane::willSelect() {
     const auto agent = CFBundleCopyAuxiliaryExecutableURL(bundle(), CFSTR("Korvex Agent.app"));
     const auto path = agent ? CFURLCopyFileSystemPath(agent.get()) : CFRef<CFString>();
     daemonSetup(path.get());
+    palutilSetup();
     prefsSetup();
     preferenceWrangler_->setup();
     preferenceWrangler_->loadValues();
 }
 
 void VLDKorvexPane::didUnselect() {
+    palutilCleanup();
     prefsCleanup();
     daemonCleanup();
 }

@@ -1,0 +1,148 @@
+#include "src/prefpane/PaletteView.h"
+
+#include "platform/AppKit/NSEvent.h"
+#include "platform/HIToolbox/Appearance.h"
+#include "src/prefpane/palutil.h"
+#include "src/prefs.h"
+
+#include <algorithm>
+#include <cmath>
+
+NS_REGISTER_CLASS(PaletteView);
+
+namespace {
+
+/// From a button's edge to the ring that shows the keyboard's cursor.
+constexpr int kCursorInset = 4;
+
+bool isSlot(SInt32 index) {
+    return index >= 0 && index < kNumPaletteSlots;
+}
+
+Rect truncated(const NSRect& frame) {
+    return {static_cast<SInt16>(frame.y), static_cast<SInt16>(frame.x),
+            static_cast<SInt16>(frame.y + frame.height),
+            static_cast<SInt16>(frame.x + frame.width)};
+}
+
+} // namespace
+
+std::string paletteSlotName(SInt32 index) {
+    const UInt8 action = prefs.buttonActions[index];
+    const CFString* title = palutilActionTitle(action);
+    const std::string name = title                    ? CFStringToUTF8(title)
+                             : action == kEmptyAction ? std::string("Empty slot")
+                                                      : "Action " + std::to_string(action);
+    return std::to_string(index + 1) + ", " + name;
+}
+
+void PaletteView::selectBtn(SInt32 index) {
+    const SInt32 old = selectedBtn_;
+    redrawBtn(old);
+    selectedBtn_ = index;
+    redrawBtn(index);
+    for (const SInt32 changed : {old, index})
+        if (old != index)
+            NSAccessibilityPostNotification(this, changed,
+                                            NSAccessibilitySelectedChildrenChangedNotification);
+}
+
+NSRect PaletteView::boundsOfBtn(SInt32 index) const {
+    if (!isSlot(index))
+        return {};
+    NSRect frame = btn0Frame_;
+    frame.x += static_cast<float>(index) * (frame.width + btnGap_);
+    return frame;
+}
+
+void PaletteView::redrawBtn(SInt32 index) {
+    if (index != kNoButton)
+        setNeedsDisplayInRect(boundsOfBtn(index));
+}
+
+void PaletteView::calcBtnPlacement() {
+    const NSRect whole = bounds();
+    btn0Frame_ = {0, 0, whole.height, whole.height};
+    btnGap_ = std::trunc((whole.width - kNumPaletteSlots * whole.height) * 0.125F);
+}
+
+void PaletteView::drawBtn(SInt32 index) {
+    const Rect frame = truncated(boundsOfBtn(index));
+    palutilDrawBtnAs(prefs.buttonActions[index], index == selectedBtn_, frame, kButtonShapeRounded,
+                     kButtonContentIcon | kButtonContentName);
+    if (index != cursor_ || !isFirstResponder())
+        return;
+    const Rect ring = {static_cast<SInt16>(frame.top + kCursorInset),
+                       static_cast<SInt16>(frame.left + kCursorInset),
+                       static_cast<SInt16>(frame.bottom - kCursorInset),
+                       static_cast<SInt16>(frame.right - kCursorInset)};
+    DrawThemeFocusRect(&ring, true);
+}
+
+void PaletteView::drawRect(const NSRect&) {
+    calcBtnPlacement();
+    for (SInt32 index = 0; index < kNumPaletteSlots; ++index)
+        drawBtn(index);
+}
+
+SInt32 PaletteView::btnAt(NSPoint point) const {
+    for (SInt32 index = 0; index < kNumPaletteSlots; ++index)
+        if (NSPointInRect(point, boundsOfBtn(index)))
+            return index;
+    return kNoButton;
+}
+
+void PaletteView::hit(SInt32 index) {
+    if (index != kNoButton)
+        moveCursor(index);
+    if (target_)
+        target_->paletteBtnHit(this, index);
+}
+
+void PaletteView::mouseDown(NSEvent* event) {
+    hit(btnAt(convertPoint(event->locationInWindow(), nullptr)));
+}
+
+void PaletteView::moveCursor(SInt32 index) {
+    const SInt32 old = cursor_;
+    cursor_ = std::clamp<SInt32>(index, 0, kNumPaletteSlots - 1);
+    if (cursor_ == old)
+        return;
+    redrawBtn(old);
+    redrawBtn(cursor_);
+    NSAccessibilityPostNotification(this, cursor_,
+                                    NSAccessibilityFocusedUIElementChangedNotification);
+}
+
+void PaletteView::keyDown(NSEvent* event) {
+    switch (event->charactersIgnoringModifiers()) {
+    case NSLeftArrowFunctionKey:
+        return moveCursor(cursor_ - 1);
+    case NSRightArrowFunctionKey:
+        return moveCursor(cursor_ + 1);
+    case NSHomeFunctionKey:
+        return moveCursor(0);
+    case NSEndFunctionKey:
+        return moveCursor(kNumPaletteSlots - 1);
+    case u' ':
+    case NSCarriageReturnCharacter:
+    case NSEnterCharacter:
+        return hit(cursor_);
+    case NSEscapeCharacter:
+        return hit(kNoButton);
+    default:
+        event->passOn();
+    }
+}
+
+int PaletteView::accessibilityCount() const {
+    return kNumPaletteSlots;
+}
+
+NSAccessibilityElement PaletteView::accessibilityElement(int index) const {
+    return {paletteSlotName(index), boundsOfBtn(index), index == selectedBtn_};
+}
+
+void PaletteView::accessibilityPress(int index) {
+    hit(index);
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "platform/AppKit/NSAccessibility.h"
+#include "platform/AppKit/NSQuickDrawView.h"
+#include "platform/CoreFoundation/CFBase.h"
+#include "platform/QuickDraw/QuickDraw.h"
+
+class PaletteView;
+
+/// No button: the index of a click beside the buttons, and of no selection.
+constexpr SInt32 kNoButton = -1;
+
+/// Told of every click in a palette view.
+class PaletteViewTarget {
+public:
+    /// `index` is 0 to 8, or kNoButton for a click that hit no button.
+    virtual void paletteBtnHit(PaletteView* view, SInt32 index) = 0;
+
+protected:
+    ~PaletteViewTarget() = default;
+};
+
+/// The palette editor's picture of the palette: the nine slots of `prefs` in a row of square
+/// buttons that fills the view, of which one at most is selected. It reports clicks and never
+/// changes the record or its selection itself. The keyboard has a cursor of its own: the arrow
+/// keys move it, space or return clicks on it, escape clicks beside the buttons.
+class PaletteView final : public NSQuickDrawView, public NSAccessibilityList {
+public:
+    /// Not owned; null for none.
+    void setTarget(PaletteViewTarget* target) { target_ = target; }
+
+    /// Index 0 to 8, or kNoButton.
+    SInt32 selectedBtn() const { return selectedBtn_; }
+
+    /// The index isn't checked; kNoButton clears the selection.
+    void selectBtn(SInt32 index);
+
+    /// The button's place in the view when it was last drawn, empty before; zero for an index
+    /// outside 0 to 8.
+    NSRect boundsOfBtn(SInt32 index) const;
+
+    void drawRect(const NSRect& dirtyRect) override;
+    void mouseDown(NSEvent* event) override;
+    void keyDown(NSEvent* event) override;
+
+    bool acceptsFirstResponder() const override { return true; }
+
+    int accessibilityCount() const override;
+    NSAccessibilityElement accessibilityElement(int index) const override;
+
+    int accessibilityFocusedIndex() const override { return cursor_; }
+
+    void accessibilityPress(int index) override;
+
+private:
+    void calcBtnPlacement();
+    void drawBtn(SInt32 index);
+    void redrawBtn(SInt32 index);
+    SInt32 btnAt(NSPoint point) const;
+    void hit(SInt32 index);
+    void moveCursor(SInt32 index);
+
+    SInt32 selectedBtn_ = 0;
+    PaletteViewTarget* target_ = nullptr;
+    NSRect btn0Frame_; ///< of the last draw
+    float btnGap_ = 0; ///< between neighbours, negative when they overlap; of the last draw
+    SInt32 cursor_ = 0;
+};
+
+/// What a slot is called: its place and its action's title, "2, Double"; UTF-8.
+std::string paletteSlotName(SInt32 index);
