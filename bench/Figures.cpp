@@ -1,5 +1,6 @@
 #include "bench/Figures.h"
 
+#include <QApplication>
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <map>
@@ -107,8 +108,10 @@ void addFigure(const std::string& name, Limit limit, Measure measured, Measure f
 }
 
 int main(int argc, char** argv) {
+    static QApplication application(argc, argv); // outlives every other static object
     addPrefsFigures();
     addLinkFigures();
+    addPaletteFigures();
     addStartFigures();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))

@@ -63,10 +63,6 @@ private:
 };
 
 Peer& peer() {
-    static int argc = 1;
-    static char name[] = "bench";
-    static char* argv[] = {name, nullptr};
-    static QCoreApplication application(argc, argv);
     static const bool registered =
         registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
     static Peer instance;
