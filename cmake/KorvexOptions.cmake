@@ -19,6 +19,12 @@ if(KORVEX_SANITIZE)
   target_compile_options(korvex_options INTERFACE ${sanitizers} -fno-omit-frame-pointer)
   target_link_options(korvex_options INTERFACE ${sanitizers})
 endif()
+if(KORVEX_FUZZ)
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined)
+  target_compile_options(korvex_options INTERFACE
+    ${sanitizers} -fsanitize=fuzzer-no-link -fno-omit-frame-pointer)
+  target_link_options(korvex_options INTERFACE ${sanitizers})
+endif()
 
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)

@@ -4,7 +4,7 @@
 build_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgl-dev libopengl-dev
-    libplist-dev libicns-dev
+    libplist-dev libicns-dev libqt6svg6
     librsvg2-bin icnsutils python3
     libgtest-dev libgmock-dev libbenchmark-dev
     dbus

@@ -21,6 +21,17 @@ std::string homeFolder() {
     return user ? user->pw_dir : "/";
 }
 
+/// The absolute ones among the folders that the variable lists, else `defaults`.
+std::vector<std::string> foldersOfVariable(const char* name, std::vector<std::string> defaults) {
+    const char* value = std::getenv(name);
+    std::istringstream list(value ? value : "");
+    std::vector<std::string> folders;
+    for (std::string folder; std::getline(list, folder, ':');)
+        if (folder.starts_with('/'))
+            folders.push_back(folder);
+    return folders.empty() ? defaults : folders;
+}
+
 } // namespace
 
 std::string xdgConfigHome() {
@@ -29,11 +40,13 @@ std::string xdgConfigHome() {
 }
 
 std::string xdgSystemConfig() {
-    const char* value = std::getenv("XDG_CONFIG_DIRS");
-    std::istringstream folders(value ? value : "");
-    for (std::string folder; std::getline(folders, folder, ':');) {
-        if (folder.starts_with('/'))
-            return folder;
-    }
-    return "/etc/xdg";
+    return foldersOfVariable("XDG_CONFIG_DIRS", {"/etc/xdg"}).front();
+}
+
+std::vector<std::string> xdgDataFolders() {
+    std::vector<std::string> folders =
+        foldersOfVariable("XDG_DATA_DIRS", {"/usr/local/share", "/usr/share"});
+    const std::string own = absoluteVariable("XDG_DATA_HOME");
+    folders.insert(folders.begin(), own.empty() ? homeFolder() + "/.local/share" : own);
+    return folders;
 }

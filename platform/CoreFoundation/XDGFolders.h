@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 // The base folders of the XDG Base Directory Specification, as the environment names them now. A
 // value that is unset, empty or not absolute counts as unset.
@@ -10,3 +11,7 @@ std::string xdgConfigHome();
 
 /// The first absolute folder of $XDG_CONFIG_DIRS, or /etc/xdg.
 std::string xdgSystemConfig();
+
+/// $XDG_DATA_HOME, or .local/share in the home folder; then the absolute folders of $XDG_DATA_DIRS,
+/// or /usr/local/share and /usr/share. The first wins.
+std::vector<std::string> xdgDataFolders();

@@ -2,6 +2,7 @@
 
 #include "platform/CoreFoundation/CFBundle.h"
 #include "platform/CoreServices/DetachedProcess.h"
+#include "platform/CoreServices/InstalledApplications.h"
 
 #include <map>
 #include <memory>
@@ -23,5 +24,20 @@ OSStatus LSOpenCFURLRef(const CFURL* url, CFRef<CFURL>* launched) {
         return kLSUnknownErr;
     if (launched)
         *launched = CFBundleCopyBundleURL(bundle.get());
+    return noErr;
+}
+
+OSStatus LSFindApplicationForInfo(OSType creator, const CFString* bundleID, const CFString* name,
+                                  FSRef* ref, CFRef<CFURL>* url) {
+    const auto text = [](const CFString* string) {
+        return string ? CFStringToUTF8(string) : std::string();
+    };
+    const auto found = findInstalledApplication(creator, text(bundleID), text(name));
+    if (!found)
+        return kLSApplicationNotFoundErr;
+    if (ref)
+        ref->path = found->path;
+    if (url)
+        *url = CFURLCreateFromFileSystemRepresentation(found->path.c_str(), found->isBundle);
     return noErr;
 }

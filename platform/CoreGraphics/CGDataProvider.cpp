@@ -1,0 +1,10 @@
+#include "platform/CoreGraphics/CGDataProvider.h"
+
+#include "platform/CoreFoundation/CFFileReading.h"
+
+CFRef<CGDataProvider> CGDataProviderCreateWithURL(const CFURL* url) {
+    CFFileContents file = CFReadRegularFile(url->path(), kCGMaxImageFileSize);
+    if (!file.data)
+        return nullptr;
+    return CFRef<CGDataProvider>::adopt(new CGDataProvider(std::move(file.data)));
+}

@@ -1,0 +1,15 @@
+#include "platform/CoreGraphics/CGImage.h"
+
+#include "platform/CoreGraphics/DecodedImage.h"
+
+CGImage::CGImage(const QImage& image) : image_(std::make_unique<const QImage>(image)) {}
+
+CGImage::~CGImage() = default;
+
+CFRef<CGImage> CGImageCreateWithPNGDataProvider(const CGDataProvider* source, const CGFloat* decode,
+                                                bool, CGColorRenderingIntent) {
+    if (decode)
+        return nullptr;
+    const QImage image = decodeImage(source->data()->bytes(), "png");
+    return image.isNull() ? nullptr : CFRef<CGImage>::adopt(new CGImage(image));
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+/// The keys of a desktop entry's group [Desktop Entry], with their values as they stand in the
+/// file, but for the escapes, which are resolved. Localized keys are left out.
+using DesktopEntry = std::map<std::string, std::string>;
+
+/// Empty when the file can't be read, or is larger than 1 MiB.
+DesktopEntry readDesktopEntry(const std::string& path);
+
+/// Empty for a key that isn't there.
+std::string desktopEntryValue(const DesktopEntry& entry, const std::string& key);
+
+/// Whether it is an application that isn't hidden, and the program that TryExec names is there.
+bool isInstalledApplication(const DesktopEntry& entry);
