@@ -49,7 +49,7 @@ public:
 
     void doAction(const QString& name) override {
         if (name == pressAction())
-            button_->openMenu(PopUpMenu::Start::FirstEntry);
+            button_->openMenu();
         else
             QAccessibleWidget::doAction(name);
     }
@@ -68,10 +68,10 @@ PopUpButtonWidget::PopUpButtonWidget(QWidget* parent)
     menu_.onChosen = [this](const QString& title) { onChosen(title); };
     menu_.onClosed = [this] { showIsOpen(false); };
     // By the key that the caption underlines.
-    connect(this, &QPushButton::clicked, this, [this] { openMenu(PopUpMenu::Start::FirstEntry); });
+    connect(this, &QPushButton::clicked, this, [this] { openMenu(); });
 }
 
-void PopUpButtonWidget::openMenu(PopUpMenu::Start start) {
+void PopUpButtonWidget::openMenu(std::optional<QPoint> pressedAt) {
     if (!isEnabled() || !isVisible() || isMenuOpen())
         return;
     const std::vector<PopUpEntry> shown = entries();
@@ -79,7 +79,7 @@ void PopUpButtonWidget::openMenu(PopUpMenu::Start start) {
         return;
     setFocus(Qt::OtherFocusReason);
     menu_.setAccessibleName(QAccessible::queryAccessibleInterface(this)->text(QAccessible::Name));
-    menu_.open(shown, start);
+    menu_.open(shown, pressedAt);
     showIsOpen(true);
 }
 
@@ -97,9 +97,16 @@ void PopUpButtonWidget::initStyleOption(QStyleOptionButton* option) const {
     option->features |= QStyleOptionButton::HasMenu;
 }
 
+QSize PopUpButtonWidget::sizeHint() const {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const int arrow = style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
+    return QPushButton::sizeHint() + QSize(arrow, 0);
+}
+
 void PopUpButtonWidget::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton)
-        openMenu(PopUpMenu::Start::Nowhere);
+        openMenu(event->globalPosition().toPoint());
 }
 
 void PopUpButtonWidget::keyPressEvent(QKeyEvent* event) {
@@ -110,7 +117,7 @@ void PopUpButtonWidget::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Down:
         // The key that closed the menu may still be held down.
         if (!event->isAutoRepeat())
-            openMenu(PopUpMenu::Start::FirstEntry);
+            openMenu();
         return;
     default:
         QPushButton::keyPressEvent(event);

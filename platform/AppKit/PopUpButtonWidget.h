@@ -11,7 +11,10 @@ public:
 
     bool isMenuOpen() const { return menu_.isVisible(); }
 
-    void openMenu(PopUpMenu::Start start);
+    /// `pressedAt`: see PopUpMenu::open.
+    void openMenu(std::optional<QPoint> pressedAt = {});
+
+    QSize sizeHint() const override;
 
     std::function<std::vector<PopUpEntry>()> entries; ///< asked each time before the menu opens
     std::function<void(const QString& title)> onChosen;

@@ -2,7 +2,7 @@
 
 #include <QKeyEvent>
 #include <QScreen>
-#include <QScrollBar>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -12,7 +12,8 @@ namespace {
 constexpr int kMinimumEntryHeight = 24; // points that a finger or a trembling hand needs
 constexpr int kMinimumIconSize = 16;
 constexpr int kRoomAroundText = 6; // above and below it, together
-constexpr int kRoomBesideText = 16;
+constexpr int kRoomBesideText = 12;
+constexpr int kMargin = 4; // around all entries
 
 int dividedUp(int amount, int by) {
     return (amount + by - 1) / by;
@@ -28,7 +29,7 @@ QIcon blankIcon(QSize size) {
 } // namespace
 
 PopUpMenu::PopUpMenu(QWidget* button) : QListWidget(button) {
-    setWindowFlags(Qt::Popup);
+    setWindowFlags(Qt::Popup | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_WindowPropagation);
     // The click that closes the menu does nothing else.
     setAttribute(Qt::WA_NoMouseReplay);
@@ -40,18 +41,21 @@ PopUpMenu::PopUpMenu(QWidget* button) : QListWidget(button) {
     setTextElideMode(Qt::ElideNone);
     setMouseTracking(true);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+    setViewportMargins(kMargin, kMargin, kMargin, kMargin);
 }
 
-void PopUpMenu::open(const std::vector<PopUpEntry>& entries, Start start) {
+void PopUpMenu::open(const std::vector<PopUpEntry>& entries, std::optional<QPoint> pressedAt) {
     fill(entries);
     placeAtButton();
-    openedAt_ = QCursor::pos();
+    pressedAt_ = pressedAt;
     isPressed_ = false;
     setCurrentIndex({});
     setFocus(Qt::PopupFocusReason);
     show();
     // Now that the menu has the focus, a screen reader hears where it is.
-    if (start == Start::FirstEntry)
+    if (!pressedAt)
         go({0, 1});
 }
 
@@ -75,10 +79,15 @@ int PopUpMenu::entryHeight() const {
     return std::max(kMinimumEntryHeight, fontMetrics().height() + kRoomAroundText);
 }
 
+int PopUpMenu::heightOf(int rows) const {
+    // One more than the rows: a list begins a new column when one fills the height exactly.
+    return rows * entryHeight() + 1 + 2 * (kMargin + frameWidth());
+}
+
 PopUpMenu::Grid PopUpMenu::gridIn(int height) const {
-    const int fitting = std::max(1, (height - 2 * frameWidth()) / entryHeight());
+    const int fitting = std::max(1, (height - heightOf(0)) / entryHeight());
     const int columns = dividedUp(count(), fitting);
-    Grid grid{dividedUp(count(), columns), 2 * frameWidth()};
+    Grid grid{dividedUp(count(), columns), 2 * (kMargin + frameWidth())};
     for (int first = 0; first < count(); first += grid.rows) {
         int widest = 0;
         for (int row = first; row < std::min(first + grid.rows, count()); ++row)
@@ -103,13 +112,12 @@ void PopUpMenu::placeAtButton() {
         grid = gridIn(room.height());
     const bool scrolls = grid.width > room.width();
     if (scrolls) {
-        roomForBar = horizontalScrollBar()->sizeHint().height();
+        roomForBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
         grid = gridIn(room.height() - roomForBar);
     }
     setHorizontalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
 
-    const QSize size(std::min(grid.width, room.width()),
-                     grid.rows * entryHeight() + 2 * frameWidth() + roomForBar);
+    const QSize size(std::min(grid.width, room.width()), heightOf(grid.rows) + roomForBar);
     const int top = isAbove ? opener.top() - size.height() : opener.bottom() + 1;
     const auto within = [](int place, int low, int high) {
         return std::max(low, std::min(place, high));
@@ -197,8 +205,9 @@ void PopUpMenu::mouseMoveEvent(QMouseEvent* event) {
 // The release that belongs to the click on the button leaves the menu open, even if a trembling
 // hand moved the pointer a little; only a real drag chooses.
 void PopUpMenu::mouseReleaseEvent(QMouseEvent* event) {
-    const QPoint way = event->globalPosition().toPoint() - openedAt_;
-    if (isPressed_ || way.manhattanLength() >= entryHeight())
+    const QPoint place = event->globalPosition().toPoint();
+    const bool isDragged = pressedAt_ && (place - *pressedAt_).manhattanLength() >= entryHeight();
+    if (isPressed_ || isDragged)
         choose(indexAt(event->position().toPoint()).row());
 }
 

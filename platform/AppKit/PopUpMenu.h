@@ -19,11 +19,11 @@ struct PopUpEntry {
 /// column by column, only when the whole screen is too small.
 class PopUpMenu final : public QListWidget {
 public:
-    enum class Start { FirstEntry, Nowhere };
-
     explicit PopUpMenu(QWidget* button);
 
-    void open(const std::vector<PopUpEntry>& entries, Start start);
+    /// `pressedAt`: where on the screen the mouse button went down that opens the menu. Without it
+    /// the menu begins at its first entry, ready for the keyboard.
+    void open(const std::vector<PopUpEntry>& entries, std::optional<QPoint> pressedAt);
 
     std::function<void(const QString& title)> onChosen; ///< the menu is closed by then
     std::function<void()> onClosed;                     ///< after a choice or without one
@@ -53,12 +53,13 @@ private:
     void placeAtButton();
     Grid gridIn(int height) const;
     int entryHeight() const;
+    int heightOf(int rows) const; ///< of the menu
     std::optional<Move> moveOf(int key) const;
     void go(Move move);
     bool canChoose(int row) const;
     void choose(int row);
 
-    int rows_ = 1;           ///< in a column
-    QPoint openedAt_;        ///< where the pointer was, on the screen
+    int rows_ = 1; ///< in a column
+    std::optional<QPoint> pressedAt_;
     bool isPressed_ = false; ///< a mouse button went down in the menu
 };
