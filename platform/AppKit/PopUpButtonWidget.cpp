@@ -40,6 +40,17 @@ public:
         return state;
     }
 
+    // The menu is a part of its button, as a combo box's list is.
+    int childCount() const override { return 1; }
+
+    QAccessibleInterface* child(int index) const override {
+        return index == 0 ? QAccessible::queryAccessibleInterface(&button_->menu_) : nullptr;
+    }
+
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return child && child->object() == &button_->menu_ ? 0 : -1;
+    }
+
     QStringList actionNames() const override {
         QStringList names = QAccessibleWidget::actionNames();
         if (button_->isEnabled())

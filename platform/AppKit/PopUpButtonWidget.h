@@ -27,6 +27,8 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    friend class PopUpButtonInterface;
+
     void showIsOpen(bool isOpen);
 
     PopUpMenu& menu_; ///< a child

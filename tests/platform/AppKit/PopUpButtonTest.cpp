@@ -419,11 +419,13 @@ TEST_F(PopUpButtonTest, ScreenReaderFollowsTheMenu) {
     EXPECT_EQ(button->text(QAccessible::Name), "Add button");
     EXPECT_TRUE(button->state().hasPopup && button->state().expandable);
     EXPECT_FALSE(button->state().expanded);
-    EXPECT_EQ(button->childCount(), 0);
 
     button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(button->state().expanded);
     auto* list = QAccessible::queryAccessibleInterface(menu_);
+    ASSERT_EQ(button->childCount(), 1);
+    EXPECT_EQ(button->child(0), list);
+    EXPECT_EQ(list->parent()->indexOfChild(list), 0);
     EXPECT_EQ(list->role(), QAccessible::List);
     EXPECT_EQ(list->text(QAccessible::Name), "Add button");
     ASSERT_EQ(list->childCount(), 3);
