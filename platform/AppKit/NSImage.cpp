@@ -1,6 +1,26 @@
 #include "platform/AppKit/NSImage.h"
 
+#include "platform/IconServices/IconImages.h"
+
 #include <QIcon>
+#include <QPixmap>
+
+namespace {
+
+/// What controls show an icon at, in pixels: at the usual text size, and on a display or with a
+/// text of double density.
+constexpr int kSides[] = {16, 32};
+
+} // namespace
 
 NSImage::NSImage(const QIcon& icon)
     : icon_(icon.isNull() ? nullptr : std::make_shared<const QIcon>(icon)) {}
+
+NSImage NSImage::imageWithIconRef(IconRef icon) {
+    QIcon sizes;
+    if (icon)
+        for (const int side : kSides)
+            if (const QImage image = icon->images().atLeast(side); !image.isNull())
+                sizes.addPixmap(QPixmap::fromImage(image));
+    return NSImage(sizes);
+}

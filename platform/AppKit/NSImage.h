@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/IconServices/Icons.h"
+
 #include <memory>
 
 class QIcon;
@@ -9,6 +11,9 @@ class NSImage {
 public:
     /// No picture.
     NSImage() = default;
+
+    /// The icon in the sizes that controls show. No picture for null.
+    static NSImage imageWithIconRef(IconRef icon);
 
     /// For the layer's own use.
     explicit NSImage(const QIcon& icon);

@@ -167,6 +167,11 @@ void installViewAccessibility() {
     }();
 }
 
+void renewAccessibility(ViewWidget& widget) {
+    if (auto* former = QAccessible::queryAccessibleInterface(&widget))
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(former));
+}
+
 void notifyFocusInside(ViewWidget& widget) {
     if (const auto* list = dynamic_cast<const NSAccessibilityList*>(widget.view()))
         post(&widget, list->accessibilityFocusedIndex(), QAccessible::Focus);

@@ -6,5 +6,8 @@ class ViewWidget;
 /// nothing.
 void installViewAccessibility();
 
+/// Lets go of what Qt took the widget for before it had its view; called when it gets it.
+void renewAccessibility(ViewWidget& widget);
+
 /// Tells a screen reader which element of the view has the focus, now that the view has it.
 void notifyFocusInside(ViewWidget& widget);

@@ -43,6 +43,7 @@ ViewWidget::ViewWidget(QWidget* parent) : QWidget(parent) {
 
 void ViewWidget::setView(NSView* view) {
     view_ = view;
+    renewAccessibility(*this);
     if (!view->acceptsFirstResponder())
         setFocusPolicy(Qt::NoFocus);
     else if (focusPolicy() == Qt::NoFocus)

@@ -14,8 +14,9 @@ namespace {
 constexpr int kContentInset = 2;
 /// The label font's size as a part of the text size.
 constexpr double kLabelScale = 10.0 / 12.0;
-/// The width of the ring that marks a pushed-in button, whatever little the style makes of it.
-constexpr int kOnRing = 2;
+/// The width of the rings that mark a button as pushed in, whatever little the style makes of that,
+/// and as the keyboard's.
+constexpr int kRing = 2;
 constexpr double kCornerRadius = 3.0;
 
 QString toQString(const CFString* text) {
@@ -36,6 +37,11 @@ int textFlags(bool wrapToWidth, int alignment) {
     return alignment | (wrapToWidth ? Qt::TextWordWrap : Qt::TextSingleLine);
 }
 
+/// Where a ring's middle runs, so that its outer side meets the edge.
+QRectF insideEdge(const QRect& bounds) {
+    return QRectF(bounds).adjusted(kRing / 2.0, kRing / 2.0, -kRing / 2.0, -kRing / 2.0);
+}
+
 void drawFace(GrafPort& port, const QRect& bounds, ThemeButtonKind kind, bool on) {
     QStyleOptionButton option;
     option.initFrom(&port.widget());
@@ -52,10 +58,9 @@ void drawOnRing(GrafPort& port, const QRect& bounds, ThemeButtonKind kind) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(port.widget().palette().color(QPalette::Highlight), kOnRing));
-    const QRectF ring = QRectF(bounds).adjusted(1, 1, -1, -1);
+    painter.setPen(QPen(port.widget().palette().color(QPalette::Highlight), kRing));
     const double radius = kind == kThemeRoundedBevelButton ? kCornerRadius : 0;
-    painter.drawRoundedRect(ring, radius, radius);
+    painter.drawRoundedRect(insideEdge(bounds), radius, radius);
     painter.restore();
 }
 
@@ -88,9 +93,9 @@ OSStatus DrawThemeFocusRect(const Rect* rect, bool hasFocus) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(port->widget().palette().color(QPalette::ButtonText), 1.5, Qt::DotLine));
-    painter.drawRoundedRect(QRectF(toQRect(*rect)).adjusted(1, 1, -1, -1), kCornerRadius,
-                            kCornerRadius);
+    painter.setPen(QPen(port->widget().palette().color(QPalette::ButtonText), kRing, Qt::DashLine,
+                        Qt::FlatCap));
+    painter.drawRoundedRect(insideEdge(toQRect(*rect)), kCornerRadius, kCornerRadius);
     painter.restore();
     return noErr;
 }

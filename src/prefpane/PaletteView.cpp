@@ -12,9 +12,6 @@ NS_REGISTER_CLASS(PaletteView);
 
 namespace {
 
-/// From a button's edge to the ring that shows the keyboard's cursor.
-constexpr int kCursorInset = 4;
-
 bool isSlot(SInt32 index) {
     return index >= 0 && index < kNumPaletteSlots;
 }
@@ -70,13 +67,7 @@ void PaletteView::drawBtn(SInt32 index) {
     const Rect frame = truncated(boundsOfBtn(index));
     palutilDrawBtnAs(prefs.buttonActions[index], index == selectedBtn_, frame, kButtonShapeRounded,
                      kButtonContentIcon | kButtonContentName);
-    if (index != cursor_ || !isFirstResponder())
-        return;
-    const Rect ring = {static_cast<SInt16>(frame.top + kCursorInset),
-                       static_cast<SInt16>(frame.left + kCursorInset),
-                       static_cast<SInt16>(frame.bottom - kCursorInset),
-                       static_cast<SInt16>(frame.right - kCursorInset)};
-    DrawThemeFocusRect(&ring, true);
+    DrawThemeFocusRect(&frame, index == cursor_ && isFirstResponder());
 }
 
 void PaletteView::drawRect(const NSRect&) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/AppKit/NSPopUpButton.h"
 #include "src/prefpane/NumberController.h"
 #include "src/prefpane/PaletteView.h"
 
@@ -9,7 +10,6 @@ class NSButton;
 class NSColorWell;
 class NSMatrix;
 class NSMenuItem;
-class NSPopUpButton;
 class NSTabView;
 class NSTextField;
 class SliderController;
@@ -19,7 +19,8 @@ class SliderController;
 /// and fills its outlets; each is named after the setting that it shows.
 class PreferenceWrangler final : public NSObject,
                                  public NumberChangeTarget,
-                                 public PaletteViewTarget {
+                                 public PaletteViewTarget,
+                                 public NSMenuDelegate {
 public:
     std::span<const NSOutlet> outlets() const override;
     std::span<const NSAction> actions() const override;
@@ -68,6 +69,8 @@ public:
     /// Adds an item for every action that has a title; choosing it sends the selector, with the
     /// action's number as the item's tag.
     void addActionMenuToCtl(NSPopUpButton* ctl, SEL selector);
+    /// Gives the items of an action menu their icons, which are read only when it opens.
+    void menuNeedsUpdate(NSPopUpButton* menu) override;
     /// The first empty slot after the given one, or kNoButton.
     SInt32 emptyPaletteBtnAfter(SInt32 slot) const;
     /// The first slot of the last run of empty ones, or kNoButton.

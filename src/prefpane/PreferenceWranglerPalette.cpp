@@ -3,7 +3,6 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSMatrix.h"
 #include "platform/AppKit/NSMenuItem.h"
-#include "platform/AppKit/NSPopUpButton.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "src/prefpane/palutil.h"
@@ -38,6 +37,14 @@ void PreferenceWrangler::addActionMenuToCtl(NSPopUpButton* ctl, SEL selector) {
         item->setTarget(this);
     }
     ctl->setAutoenablesItems(false);
+    ctl->setDelegate(this);
+}
+
+void PreferenceWrangler::menuNeedsUpdate(NSPopUpButton* menu) {
+    for (const auto& item : menu->itemArray()) {
+        const auto icon = palutilCopyActionIcon(static_cast<UInt8>(item->tag()));
+        item->setImage(NSImage::imageWithIconRef(icon.get()));
+    }
 }
 
 SInt32 PreferenceWrangler::emptyPaletteBtnAfter(SInt32 slot) const {
@@ -146,11 +153,11 @@ void PreferenceWrangler::updatePaletteCtls() {
 void PreferenceWrangler::updatePalettePrompt() {
     const SInt32 selected = paletteView_->selectedBtn();
     if (firstBtnToSwap_ != kNoButton)
-        palettePrompt_->setStringValue("Choose the button to swap with " +
+        palettePrompt_->setStringValue("Choose the button to swap with button " +
                                        paletteSlotName(firstBtnToSwap_) +
                                        ". The same button again, or Escape, cancels.");
     else if (selected != kNoButton)
-        palettePrompt_->setStringValue("Selected: " + paletteSlotName(selected) + ".");
+        palettePrompt_->setStringValue("Chosen: button " + paletteSlotName(selected) + ".");
     else
         palettePrompt_->setStringValue("Choose a button to change it.");
 }

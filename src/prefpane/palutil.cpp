@@ -2,7 +2,6 @@
 
 #include "platform/CoreServices/LaunchServices.h"
 #include "platform/HIToolbox/Appearance.h"
-#include "platform/IconServices/Icons.h"
 #include "src/iconutil.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefs.h"
@@ -58,11 +57,6 @@ IconRef agentIcon(UInt8 action) {
     return actionIcons[action] = iconUtilGetBundlesResourceIcon(daemonMainBundle(), name);
 }
 
-CFRef<Icon> iconOfAction(UInt8 action) {
-    auto icon = outsideIcon(action);
-    return icon ? icon : CFRef<Icon>::retain(agentIcon(action));
-}
-
 /// Draws the title at the bottom of the bounds, or else in their middle. Gives the top edge of its
 /// box, or the bottom of the bounds when the title can't be measured.
 SInt16 drawText(const Rect& bounds, const CFString* title, bool atBottom) {
@@ -100,7 +94,7 @@ void drawContent(const Rect* bounds, ThemeButtonKind, const ThemeButtonDrawInfo*
     if (action == kEmptyAction)
         return;
     const CFString* title = content & kButtonContentName ? palutilActionTitle(action) : nullptr;
-    const auto icon = content & kButtonContentIcon ? iconOfAction(action) : CFRef<Icon>();
+    const auto icon = content & kButtonContentIcon ? palutilCopyActionIcon(action) : CFRef<Icon>();
     if (!icon) {
         if (title)
             drawText(*bounds, title, false);
@@ -133,6 +127,11 @@ const CFString* palutilActionTitle(UInt8 action) {
         if (const CFDictionary* entry = getDictForAction(action))
             title = propUtilGetRetainedDictString(entry, CFSTR("title"));
     return title.get();
+}
+
+CFRef<Icon> palutilCopyActionIcon(UInt8 action) {
+    auto icon = outsideIcon(action);
+    return icon ? icon : CFRef<Icon>::retain(agentIcon(action));
 }
 
 void palutilDrawBtn(UInt8 action, UInt8 selected, const Rect& bounds) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/CoreFoundation/CFString.h"
+#include "platform/IconServices/Icons.h"
 #include "platform/QuickDraw/QuickDraw.h"
 
 // The palette's actions, which the pane knows by number, title and icon from the list in the
@@ -26,6 +27,10 @@ void palutilCleanup();
 
 /// Null when the action has none. Borrowed until palutilCleanup.
 const CFString* palutilActionTitle(UInt8 action);
+
+/// Null when the action has none. Action 1 has that of an outside application while that one is
+/// installed.
+CFRef<Icon> palutilCopyActionIcon(UInt8 action);
 
 /// Draws a button into the current port, in the shape and with the content of `prefs`. `selected`
 /// is 1 for the pushed-in look, else 0.

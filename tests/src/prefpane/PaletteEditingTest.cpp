@@ -22,7 +22,12 @@ class PaletteEditingTest : public PaneTest {
 protected:
     PaletteView* view() { return dynamic_cast<PaletteView*>(viewWidget()->view()); }
 
-    ViewWidget* viewWidget() { return static_cast<ViewWidget*>(find("paletteView")); }
+    /// In sight and drawn: before that its buttons have no place.
+    ViewWidget* viewWidget() {
+        auto* widget = static_cast<ViewWidget*>(find("paletteView"));
+        widget->repaint();
+        return widget;
+    }
 
     /// Clicks the slot, or beside all of them.
     void clickSlot(SInt32 slot) {
@@ -162,10 +167,10 @@ TEST_F(PaletteEditingTest, TheControlsFollowTheSelectionAndTheSwap) {
     EXPECT_EQ(enabled(), "1000");
     clickSlot(1);
     EXPECT_EQ(enabled(), "1111");
-    EXPECT_EQ(prompt(), "Selected: 2, Double.");
+    EXPECT_EQ(prompt(), "Chosen: button 2, Double.");
     click("swapWithBtn");
     EXPECT_EQ(enabled(), "0001");
-    EXPECT_THAT(prompt(), testing::StartsWith("Choose the button to swap with 2, Double."));
+    EXPECT_THAT(prompt(), testing::StartsWith("Choose the button to swap with button 2, Double."));
     clickSlot(kNoButton);
     EXPECT_EQ(enabled(), "1000");
     clickSlot(1);

@@ -49,7 +49,7 @@ protected:
         const fs::path bundle = fs::path(std::getenv("KORVEX_TEST_SANDBOX")) / "Test Agent.app";
         fs::remove_all(bundle);
         fs::create_directories(bundle / "Contents/Resources");
-        write(bundle / "Contents/Info.plist", "<dict/>");
+        write(bundle / "Contents/Info.plist", "<plist version=\"1.0\"><dict/></plist>");
         return bundle;
     }
 
@@ -171,7 +171,7 @@ TEST_F(PalutilTest, WhateverIsWrongWithTheListYieldsLessContent) {
         {"a dictionary", entry, {}},
         {"not a list", "<array><dict>", {}},
         {"three entries", "<array>" + entry + entry + entry + "</array>", {0, 1, 2}},
-        {"500 entries", "<array>" + many + "</array>", {0, 1, 2, 39}},
+        {"500 entries", "<array>" + many + "</array>", {0, 1, 2, 3, 39}},
         {"wrong types",
          "<array><string>no</string><dict><key>title</key><integer>1</integer></dict>" + entry +
              "<dict><key>icon</key><true/></dict></array>",
