@@ -1,0 +1,41 @@
+// A process that takes part as of the type and signature given, and handles the tests' events.
+
+#include "tests/platform/CoreServices/TestPeer.h"
+
+#include <cstdio>
+#include <string>
+
+namespace {
+
+OSErr answerCode(const AppleEvent* event, AppleEvent*, void*) {
+    SInt16 code = 0;
+    std::size_t size = 0;
+    const OSErr error =
+        AEGetParamPtr(event, keyDirectObject, typeCode, nullptr, &code, sizeof code, &size);
+    if (error != noErr)
+        return error;
+    return size == sizeof code ? code : paramErr;
+}
+
+OSErr sendBack(const AppleEvent* event, AppleEvent*, void*) {
+    AppleEvent answer = *event;
+    answer.eventID = kSentBack;
+    const OSErr error = AEGetParamPtr(event, keyTestProcess, typeProcessSerialNumber, nullptr,
+                                      &answer.target, sizeof answer.target, nullptr);
+    return error != noErr ? error : AESend(&answer, nullptr, kAENoReply, kAEDefaultTimeout);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication application(argc, argv);
+    AEInstallEventHandler(kTestClass, kAnswerCode, answerCode, nullptr);
+    AEInstallEventHandler(kTestClass, kSendBack, sendBack, nullptr);
+    ProcessSerialNumber self;
+    const auto code = [&](int i) { return static_cast<OSType>(std::stoul(argv[i])); };
+    if (!registerCurrentProcess(code(1), code(2)) || GetCurrentProcess(&self) != noErr)
+        return 1;
+    std::printf("%u %u\n", self.highLongOfPSN, self.lowLongOfPSN);
+    std::fflush(stdout);
+    return QCoreApplication::exec();
+}
