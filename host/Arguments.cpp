@@ -15,27 +15,28 @@ const char* const kUsage =
 
 Arguments parseArguments(int argc, char** argv) {
     using Task = Arguments::Task;
-    static constexpr option kOptions[] = {
+    static constexpr ::option kOptions[] = {
         {"check", required_argument, nullptr, 'c'},
         {"help", no_argument, nullptr, 'h'},
         {"version", no_argument, nullptr, 'v'},
         {},
     };
-    switch (getopt_long(argc, argv, "", kOptions, nullptr)) {
-    case 'c':
-        return {Task::Check, optarg};
-    case 'h':
-        return {Task::Help, {}};
-    case 'v':
-        return {Task::Version, {}};
-    case -1:
-        break;
-    default:
-        return {Task::Misuse, {}};
+    // Nothing is looked for behind the first operand, and no option goes with one.
+    const int option = getopt_long(argc, argv, "+", kOptions, nullptr);
+    const int operands = argc - optind;
+    if (option == -1 && operands <= 1)
+        return {Task::Show, operands == 1 ? argv[optind] : ""};
+    if (operands == 0) {
+        switch (option) {
+        case 'c':
+            return {Task::Check, optarg};
+        case 'h':
+            return {Task::Help, {}};
+        case 'v':
+            return {Task::Version, {}};
+        }
     }
-    if (argc - optind > 1)
-        return {Task::Misuse, {}};
-    return {Task::Show, optind < argc ? argv[optind] : ""};
+    return {Task::Misuse, {}};
 }
 
 std::string findOwnBundle() {

@@ -1,0 +1,146 @@
+#include "tests/platform/CoreFoundation/TestFiles.h"
+
+#include <QProcess>
+#include <gmock/gmock.h>
+
+namespace fs = std::filesystem;
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+struct Outcome {
+    int status; ///< -1 when it crashed or hung
+    std::string output, errors;
+};
+
+Outcome runHost(const QStringList& arguments) {
+    QProcess host;
+    host.start(QStringLiteral(KORVEX_HOST), arguments);
+    const bool ended = host.waitForFinished(30'000) && host.exitStatus() == QProcess::NormalExit;
+    return {ended ? host.exitCode() : -1, host.readAllStandardOutput().toStdString(),
+            host.readAllStandardError().toStdString()};
+}
+
+/// Replaces every occurrence; there must be one.
+std::string replaced(std::string text, const std::string& old, const std::string& with) {
+    EXPECT_THAT(text, HasSubstr(old));
+    for (std::size_t at = 0; (at = text.find(old, at)) != std::string::npos; at += with.size())
+        text.replace(at, old.size(), with);
+    return text;
+}
+
+constexpr const char* kInfo = "Contents/Info.plist";
+constexpr const char* kCode = "Contents/Linux/Korvex";
+constexpr const char* kForm = "Contents/Resources/Pane.ui";
+constexpr const char* kWhole = nullptr;
+constexpr const char* kGone = nullptr;
+
+/// A fault: a text of one of the bundle's files, or the whole file, has become another.
+struct Fault {
+    const char *file, *old, *now;
+    const char *named, *said; ///< the file and the thing that the message names
+};
+
+const Fault kFaults[] = {
+    {kInfo, kWhole, kGone, kInfo, "can't be read"},
+    {kInfo, kWhole, "", kInfo, "can't be read"},
+    {kInfo, "</plist>", "", kInfo, "can't be read"},
+    {kInfo, "<string>Korvex</string>", "<string>Other</string>", kInfo,
+     "CFBundleExecutable 'Other'"},
+    {kInfo, "CFBundleExecutable", "CFBundleExec", kInfo, "CFBundleExecutable ''"},
+    {kInfo, "VLDKorvexPane", "NoPane", kInfo, "NSPrincipalClass 'NoPane' is no class"},
+    {kInfo, "NSPrincipalClass", "NSClass", kInfo, "NSPrincipalClass ''"},
+    {kInfo, "VLDKorvexPane", "SliderController", kInfo,
+     "NSPrincipalClass 'SliderController' is no NSPreferencePane"},
+    {kInfo, "NSMainNibFile", "NSNibFile", kInfo, "NSMainNibFile"},
+    {kInfo, "<string>Pane</string>", "<string>Other</string>", "Contents/Resources/Other.ui",
+     "no such file"},
+    {kCode, kWhole, kGone, kInfo, "CFBundleExecutable 'Korvex'"},
+    {kCode, kWhole, "no library", kCode, "file too short"},
+    {kForm, kWhole, kGone, kForm, "no such file"},
+    {kForm, kWhole, "", kForm, ""},
+    {kForm, kWhole, "no form", kForm, ""},
+    {kForm, "</ui>", "", kForm, ""},
+    {kForm, "<string>volume</string>", "<string>volum</string>", kForm,
+     "PreferenceWrangler has no outlet 'volum'"},
+    {kForm, "<string>volume</string>", "<string></string>", kForm,
+     "outlet 'volume' of PreferenceWrangler"},
+    {kForm, "<string>decBtn</string>", "<string></string>", kForm, "outlet 'decBtn' of"},
+    {kForm, "<string>masterOnOffRadios</string>", "<string>volume</string>", kForm,
+     "outlet 'volume' of PreferenceWrangler takes SliderController, not NSMatrix"},
+    {kForm, "changedScanMode:", "changedScanMood:", kForm, "the action 'changedScanMood:'"},
+    {kForm, "changedScanMode:", "changedLineColor:", kForm,
+     "action 'changedLineColor:' of PreferenceWrangler takes NSColorWell, not NSMatrix"},
+    {kForm, "<string>BumperController</string>", "<string>BumpController</string>", kForm,
+     "no class BumpController"},
+    {kForm, "class=\"QRadioButton\"", "class=\"QRadio\"", kForm, "no class QRadio"},
+};
+
+TEST(HostCheckTest, ABrokenBundleIsRefusedByFileAndThing) {
+    const fs::path bundle = makeSandboxFolder("Broken Pane.prefPane");
+    for (const Fault& fault : kFaults) {
+        SCOPED_TRACE(testing::Message() << fault.file << ": " << (fault.old ? fault.old : "")
+                                        << " -> " << (fault.now ? fault.now : "gone"));
+        fs::remove_all(bundle);
+        fs::create_directories(bundle / "Contents/Linux");
+        for (const char* file : {kInfo, kForm})
+            writeFile(bundle / file, readFile(fs::path(KORVEX_BUNDLE) / file));
+        fs::create_symlink(fs::path(KORVEX_BUNDLE) / kCode, bundle / kCode);
+
+        const std::string sound = readFile(bundle / fault.file);
+        fs::remove(bundle / fault.file);
+        if (fault.now)
+            writeFile(bundle / fault.file,
+                      fault.old ? replaced(sound, fault.old, fault.now) : fault.now);
+        const Outcome outcome = runHost({"--check", QString::fromStdString(bundle.string())});
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_THAT(outcome.errors, HasSubstr(bundle / fault.named));
+        EXPECT_THAT(outcome.errors, HasSubstr(fault.said));
+        EXPECT_THAT(outcome.output, IsEmpty());
+    }
+}
+
+TEST(HostCheckTest, EachCommandLineHasItsOutcome) {
+    const struct {
+        QStringList arguments;
+        int status;
+        const char *output, *errors; ///< parts of them; null: none at all
+    } cases[] = {
+        {{"--check", KORVEX_BUNDLE}, 0, nullptr, nullptr},
+        {{"--help"}, 0, "Usage: korvex-preferences", nullptr},
+        {{"--version"}, 0, "korvex-preferences 1.", nullptr},
+        {{"--check", "/nonexistent"}, 1, nullptr, "/nonexistent/Contents/Info.plist"},
+        {{"/nonexistent"}, 1, nullptr, "/nonexistent/Contents/Info.plist"},
+        {{"--check", ""}, 1, nullptr, "not found"},
+        {{"--check"}, 2, nullptr, "Usage:"},
+        {{"--check", KORVEX_BUNDLE, KORVEX_BUNDLE}, 2, nullptr, "Usage:"},
+        {{KORVEX_BUNDLE, "--check", KORVEX_BUNDLE}, 2, nullptr, "Usage:"},
+        {{KORVEX_BUNDLE, KORVEX_BUNDLE}, 2, nullptr, "Usage:"},
+        {{"--version", "more"}, 2, nullptr, "Usage:"},
+        {{"--unknown"}, 2, nullptr, "Usage:"},
+        {{"-c", KORVEX_BUNDLE}, 2, nullptr, "Usage:"},
+    };
+
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.arguments.join(' ').toStdString());
+        const Outcome outcome = runHost(row.arguments);
+        EXPECT_EQ(outcome.status, row.status);
+        if (row.output)
+            EXPECT_THAT(outcome.output, HasSubstr(row.output));
+        else
+            EXPECT_THAT(outcome.output, IsEmpty());
+        if (row.errors)
+            EXPECT_THAT(outcome.errors, HasSubstr(row.errors));
+        else
+            EXPECT_THAT(outcome.errors, IsEmpty());
+    }
+    unsetenv("QT_QPA_PLATFORM");
+    EXPECT_EQ(runHost({"--check", KORVEX_BUNDLE}).status, 0) << "needs no display";
+    const Outcome outcome = runHost({});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.errors, HasSubstr("there is no display"));
+}
+
+} // namespace
