@@ -106,35 +106,31 @@ TEST(HostCheckTest, EachCommandLineHasItsOutcome) {
     const struct {
         QStringList arguments;
         int status;
-        const char *output, *errors; ///< parts of them; null: none at all
+        const char *output, *errors; ///< parts of them; none at all when empty
     } cases[] = {
-        {{"--check", KORVEX_BUNDLE}, 0, nullptr, nullptr},
-        {{"--help"}, 0, "Usage: korvex-preferences", nullptr},
-        {{"--version"}, 0, "korvex-preferences 1.", nullptr},
-        {{"--check", "/nonexistent"}, 1, nullptr, "/nonexistent/Contents/Info.plist"},
-        {{"/nonexistent"}, 1, nullptr, "/nonexistent/Contents/Info.plist"},
-        {{"--check", ""}, 1, nullptr, "not found"},
-        {{"--check"}, 2, nullptr, "Usage:"},
-        {{"--check", KORVEX_BUNDLE, KORVEX_BUNDLE}, 2, nullptr, "Usage:"},
-        {{KORVEX_BUNDLE, "--check", KORVEX_BUNDLE}, 2, nullptr, "Usage:"},
-        {{KORVEX_BUNDLE, KORVEX_BUNDLE}, 2, nullptr, "Usage:"},
-        {{"--version", "more"}, 2, nullptr, "Usage:"},
-        {{"--unknown"}, 2, nullptr, "Usage:"},
-        {{"-c", KORVEX_BUNDLE}, 2, nullptr, "Usage:"},
+        {{"--check", KORVEX_BUNDLE}, 0, "", ""},
+        {{"--help"}, 0, "Usage: korvex-preferences", ""},
+        {{"--version"}, 0, "korvex-preferences 1.", ""},
+        {{"--check", "/nonexistent"}, 1, "", "/nonexistent/Contents/Info.plist"},
+        {{"/nonexistent"}, 1, "", "/nonexistent/Contents/Info.plist"},
+        {{"--check", ""}, 1, "", "Korvex.prefPane: not found"},
+        {{"--check"}, 2, "", "Usage:"},
+        {{"--check", KORVEX_BUNDLE, KORVEX_BUNDLE}, 2, "", "Usage:"},
+        {{KORVEX_BUNDLE, "--check", KORVEX_BUNDLE}, 2, "", "Usage:"},
+        {{KORVEX_BUNDLE, KORVEX_BUNDLE}, 2, "", "Usage:"},
+        {{"--version", "more"}, 2, "", "Usage:"},
+        {{"--unknown"}, 2, "", "Usage:"},
+        {{"-c", KORVEX_BUNDLE}, 2, "", "Usage:"},
     };
 
     for (const auto& row : cases) {
         SCOPED_TRACE(row.arguments.join(' ').toStdString());
         const Outcome outcome = runHost(row.arguments);
         EXPECT_EQ(outcome.status, row.status);
-        if (row.output)
-            EXPECT_THAT(outcome.output, HasSubstr(row.output));
-        else
-            EXPECT_THAT(outcome.output, IsEmpty());
-        if (row.errors)
-            EXPECT_THAT(outcome.errors, HasSubstr(row.errors));
-        else
-            EXPECT_THAT(outcome.errors, IsEmpty());
+        EXPECT_THAT(outcome.output, HasSubstr(row.output));
+        EXPECT_THAT(outcome.errors, HasSubstr(row.errors));
+        EXPECT_TRUE(outcome.output.empty() == !*row.output &&
+                    outcome.errors.empty() == !*row.errors);
     }
     unsetenv("QT_QPA_PLATFORM");
     EXPECT_EQ(runHost({"--check", KORVEX_BUNDLE}).status, 0) << "needs no display";

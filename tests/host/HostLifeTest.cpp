@@ -1,9 +1,7 @@
-#include "platform/CoreFoundation/CFDictionary.h"
-#include "platform/CoreFoundation/CFFileReading.h"
-#include "platform/CoreFoundation/CFPropertyList.h"
-#include "platform/CoreServices/AppleEvents.h"
 #include "platform/CoreServices/LaunchServices.h"
+#include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/AgentLog.h"
+#include "tests/support/ProcessTest.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -14,39 +12,32 @@
 #include <gmock/gmock.h>
 
 #include <csignal>
-#include <filesystem>
 
 namespace fs = std::filesystem;
 
+using testing::AllOf;
+using testing::HasSubstr;
+
 namespace {
 
+constexpr OSType kAgent = fourCharCode("Krvx");
+constexpr OSType kHost = fourCharCode("sprf");
 const QString kName = QStringLiteral("org.korvex.Preferences");
 const QString kPath = QStringLiteral("/org/korvex/Preferences");
 const QString kInterface = QStringLiteral("org.freedesktop.Application");
 
 /// The host as a program with its own pane, and the agent beside it.
-class HostLifeTest : public testing::Test {
+class HostLifeTest : public ProcessTest {
 protected:
-    HostLifeTest() { registerCurrentProcess(fourCharCode("APPL"), fourCharCode("test")); }
+    HostLifeTest() { takePart(); }
 
     ~HostLifeTest() override {
         host_.kill();
         host_.waitForFinished();
         pid_t pid;
-        if (const auto agent = find(fourCharCode("Krvx"));
-            agent != kNoProcess && GetProcessPID(&agent, &pid) == noErr)
+        const ProcessSerialNumber agent = findProcess(kAgent);
+        if (GetProcessPID(&agent, &pid) == noErr)
             kill(pid, SIGKILL);
-    }
-
-    /// The process of that signature, or kNoProcess.
-    static ProcessSerialNumber find(OSType signature) {
-        ProcessSerialNumber psn = kNoProcess;
-        while (GetNextProcess(&psn) == noErr) {
-            ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
-            if (GetProcessInformation(&psn, &info) == noErr && info.processSignature == signature)
-                return psn;
-        }
-        return kNoProcess;
     }
 
     /// Starts the agent, then the host, and waits until the pane is open.
@@ -54,13 +45,12 @@ protected:
         const auto url = CFURLCreateFromFileSystemRepresentation(
             KORVEX_BUNDLE "/Contents/Linux/Korvex Agent.app", true);
         ASSERT_EQ(LSOpenCFURLRef(url.get(), nullptr), noErr);
-        ASSERT_TRUE(
-            QTest::qWaitFor([] { return find(fourCharCode("Krvx")) != kNoProcess; }, 20'000));
+        ASSERT_TRUE(QTest::qWaitFor([] { return findProcess(kAgent) != kNoProcess; }, 20'000));
         start(host_);
         const QJsonArray psn = agentLog_.next()["psn"].toArray();
         pane_ = {static_cast<UInt32>(psn.at(0).toInteger()),
                  static_cast<UInt32>(psn.at(1).toInteger())};
-        ASSERT_EQ(pane_, find(fourCharCode("sprf")));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return findProcess(kHost) == pane_; }, 20'000));
     }
 
     static void start(QProcess& host) {
@@ -77,42 +67,19 @@ protected:
 
     /// Tells the pane, as the agent does, that scanning was turned off.
     OSErr reportOff() {
-        AEAddressDesc address;
-        AppleEvent event;
-        AECreateDesc(typeProcessSerialNumber, &pane_, sizeof pane_, &address);
-        AECreateAppleEvent(fourCharCode("Krvx"), fourCharCode("PPon"), &address,
-                           kAutoGenerateReturnID, kAnyTransactionID, &event);
-        AEPutParamPtr(&event, keyDirectObject, typeBoolean, "", 1);
-        return AESend(&event, nullptr, kAEWaitReply, kAEDefaultTimeout);
+        return sendAndWait(makeEvent(pane_, fourCharCode("Krvx"), fourCharCode("PPon"),
+                                     {{keyDirectObject, {typeBoolean, {0}}}}));
     }
 
-    static QDBusMessage activation(const QVariantList& arguments) {
-        auto message =
-            QDBusMessage::createMethodCall(kName, kPath, kInterface, QStringLiteral("Activate"));
-        message.setArguments(arguments);
-        return message;
-    }
-
-private:
-    int argc_ = 1;
-    char name_[5] = "test";
-    char* argv_[2] = {name_, nullptr};
-    QCoreApplication application_{argc_, argv_};
-
-protected:
     QProcess host_;
     ProcessSerialNumber pane_;
     AgentLog agentLog_;
 };
 
-/// The stored settings; null when there are none.
-CFRef<const CFDictionary> stored() {
-    const auto file =
-        fs::path(std::getenv("XDG_CONFIG_HOME")) / "Preferences/org.korvex.Agent.plist";
-    const CFFileContents contents = CFReadRegularFile(file, kCFPropertyListMaxSize);
-    const auto root =
-        contents.data ? CFPropertyListCreateFromXMLData(contents.data.get()) : nullptr;
-    return CFRef<const CFDictionary>::retain(dynamicCFCast<CFDictionary>(root.get()));
+/// The file of the stored settings; empty when there is none.
+std::string stored() {
+    return readFile(fs::path(std::getenv("XDG_CONFIG_HOME")) /
+                    "Preferences/org.korvex.Agent.plist");
 }
 
 class HostSignalTest : public testing::WithParamInterface<int>, public HostLifeTest {};
@@ -121,18 +88,14 @@ TEST_P(HostSignalTest, PutsThePaneAwayAndStoresWhatWasChanged) {
     for (const bool changed : {false, true}) {
         SCOPED_TRACE(changed);
         open();
-        if (changed) {
-            EXPECT_EQ(reportOff(), noErr);
-        }
+        EXPECT_EQ(changed ? reportOff() : OSErr{noErr}, noErr);
         kill(static_cast<pid_t>(host_.processId()), GetParam());
         EXPECT_EQ(waitForEnd(host_), 0);
         EXPECT_EQ(agentLog_.nextName(), "PPcl");
-        const auto settings = stored();
-        ASSERT_EQ(settings.get() != nullptr, changed);
+        EXPECT_EQ(stored().empty(), !changed);
         if (changed) {
-            EXPECT_TRUE(CFEqual(CFDictionaryGetValue(settings.get(), CFSTR("on")), CFSTR("no")));
-            EXPECT_TRUE(CFDictionaryGetValue(settings.get(), CFSTR("palette.buttonActions")))
-                << "only what was changed is stored";
+            EXPECT_THAT(stored(), AllOf(HasSubstr("<key>on</key>\n\t<string>no</string>"),
+                                        HasSubstr("<key>palette.buttonActions</key>")));
         }
     }
 }
@@ -144,12 +107,15 @@ TEST_F(HostLifeTest, ASecondStartLeavesTheFirstInPlace) {
     QProcess second;
     start(second);
     EXPECT_EQ(waitForEnd(second), 0);
-    auto bus = QDBusConnection::sessionBus();
-    for (const QVariantList& rubbish :
-         {QVariantList{}, QVariantList{"x"}, QVariantList{QVariantMap(), 1}})
-        EXPECT_EQ(bus.call(activation(rubbish)).type(), QDBusMessage::ErrorMessage);
-    EXPECT_EQ(bus.call(activation({QVariantMap()})).type(), QDBusMessage::ReplyMessage);
-    EXPECT_EQ(find(fourCharCode("sprf")), pane_);
+    auto call =
+        QDBusMessage::createMethodCall(kName, kPath, kInterface, QStringLiteral("Activate"));
+    for (const auto& [arguments, reply] : {std::pair(QVariantList{}, QDBusMessage::ErrorMessage),
+                                           {{"x"}, QDBusMessage::ErrorMessage},
+                                           {{QVariantMap()}, QDBusMessage::ReplyMessage}}) {
+        call.setArguments(arguments);
+        EXPECT_EQ(QDBusConnection::sessionBus().call(call).type(), reply);
+    }
+    EXPECT_EQ(findProcess(kHost), pane_);
     host_.terminate();
     EXPECT_EQ(waitForEnd(host_), 0);
     EXPECT_EQ(agentLog_.nextName(), "PPcl") << "the second one has opened the pane";
@@ -184,7 +150,7 @@ TEST_F(HostLifeTest, ASecondStartAsksTheFirstToComeForward) {
         EXPECT_EQ(first.calls[0].member(), QStringLiteral("Activate"));
         const auto data = qdbus_cast<QVariantMap>(first.calls[0].arguments().value(0));
         EXPECT_EQ(data, (QVariantMap{{QStringLiteral("activation-token"), "a token"}}));
-        EXPECT_EQ(find(fourCharCode("sprf")), kNoProcess);
+        EXPECT_EQ(findProcess(kHost), kNoProcess);
     }
 }
 
@@ -205,7 +171,7 @@ TEST_F(HostLifeTest, OpensWithoutABusToo) {
         << said;
     host_.terminate();
     EXPECT_EQ(waitForEnd(host_), 0);
-    EXPECT_FALSE(stored());
+    EXPECT_EQ(stored(), "");
 }
 
 } // namespace

@@ -46,7 +46,7 @@ protected:
         EXPECT_TRUE(QTest::qWaitFor(
             [&] {
                 return started().size() == count &&
-                       fs::read_symlink(proc(started().back()) / "exe").filename() != "dash";
+                       fs::read_symlink(proc(started().back()) / "exe").filename() == "sleep";
             },
             20'000));
         return started().back();

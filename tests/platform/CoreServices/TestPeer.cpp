@@ -1,4 +1,4 @@
-// A process that takes part as of the type and signature given, and handles the tests' events.
+// A process that takes part as of the type given, and handles the tests' events.
 
 #include "tests/platform/CoreServices/TestPeer.h"
 
@@ -12,17 +12,15 @@ OSErr answerCode(const AppleEvent* event, AppleEvent*, void*) {
     std::size_t size = 0;
     const OSErr error =
         AEGetParamPtr(event, keyDirectObject, typeCode, nullptr, &code, sizeof code, &size);
-    if (error != noErr)
-        return error;
-    return size == sizeof code ? code : paramErr;
+    return error != noErr ? error : size == sizeof code ? code : paramErr;
 }
 
 OSErr sendBack(const AppleEvent* event, AppleEvent*, void*) {
     AppleEvent answer = *event;
     answer.eventID = kSentBack;
-    const OSErr error = AEGetParamPtr(event, keyTestProcess, typeProcessSerialNumber, nullptr,
-                                      &answer.target, sizeof answer.target, nullptr);
-    return error != noErr ? error : AESend(&answer, nullptr, kAENoReply, kAEDefaultTimeout);
+    AEGetParamPtr(event, keyTestProcess, typeProcessSerialNumber, nullptr, &answer.target,
+                  sizeof answer.target, nullptr);
+    return AESend(&answer, nullptr, kAENoReply, kAEDefaultTimeout);
 }
 
 } // namespace
@@ -32,8 +30,8 @@ int main(int argc, char** argv) {
     AEInstallEventHandler(kTestClass, kAnswerCode, answerCode, nullptr);
     AEInstallEventHandler(kTestClass, kSendBack, sendBack, nullptr);
     ProcessSerialNumber self;
-    const auto code = [&](int i) { return static_cast<OSType>(std::stoul(argv[i])); };
-    if (!registerCurrentProcess(code(1), code(2)) || GetCurrentProcess(&self) != noErr)
+    if (!registerCurrentProcess(static_cast<OSType>(std::stoul(argv[1])), fourCharCode("peer")) ||
+        GetCurrentProcess(&self) != noErr)
         return 1;
     std::printf("%u %u\n", self.highLongOfPSN, self.lowLongOfPSN);
     std::fflush(stdout);

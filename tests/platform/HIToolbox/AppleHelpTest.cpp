@@ -24,6 +24,12 @@ protected:
         fs::create_symlink("index.html", resources_ / "my help/start.html");
     }
 
+    ~AppleHelpTest() override {
+        application_.reset();
+        display_.kill();
+        display_.waitForFinished();
+    }
+
     OSStatus registerBook() {
         FSRef ref;
         const auto url = CFURLCreateFromFileSystemRepresentation(bundle_.c_str(), true);
@@ -31,44 +37,15 @@ protected:
         return AHRegisterHelpBook(&ref);
     }
 
-    fs::path sandbox_ = makeSandboxFolder("");
-    fs::path bundle_ = makeSandboxFolder("Test Pane.prefPane");
-    fs::path resources_ = bundle_ / "Contents/Resources";
-};
-
-TEST_F(AppleHelpTest, ABundleWithoutAWholeBookRegistersNone) {
-    for (const std::string& info :
-         {kName, kFolder, kName + "<key>CFBundleHelpBookFolder</key><string>gone</string>",
-          kName + "<key>CFBundleHelpBookFolder</key><string>my help 2</string>",
-          kName + "<key>CFBundleHelpBookFolder</key><string>../Resources/my help</string>",
-          kFolder + "<key>CFBundleHelpBookName</key><true/>"}) {
-        writeFile(bundle_ / "Contents/Info.plist", dictionaryFile(info));
-        EXPECT_EQ(registerBook(), kAHInternalErr) << info;
-    }
-    writeFile(bundle_ / "Contents/Info.plist", "rubbish");
-    EXPECT_EQ(registerBook(), kAHInternalErr);
-    EXPECT_EQ(AHGotoPage(CFSTR("Test Help"), nullptr, nullptr), kAHInternalErr);
-}
-
-/// With a display, where Qt opens pages by the xdg-open that it finds; this one notes its argument
-/// and then hangs.
-class HelpPageTest : public AppleHelpTest {
-protected:
-    HelpPageTest() {
-        writeFile(sandbox_ / "bin/xdg-open", "#!/bin/sh\nprintf '%s\\n' \"$*\" >>'" +
-                                                 opened_.string() + "'\nexec sleep 30 >&- 2>&-\n");
-        fs::permissions(sandbox_ / "bin/xdg-open", fs::perms::owner_all);
-        setenv("PATH", (sandbox_.string() + "bin:" + std::getenv("PATH")).c_str(), 1);
-    }
-
-    ~HelpPageTest() override {
-        application_.reset();
-        display_.kill();
-        display_.waitForFinished();
-    }
-
+    /// On a display, where Qt opens pages by the xdg-open that it finds; this one notes its
+    /// argument and then hangs. False without a display.
     bool startDisplay() {
         display_.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1")});
+        const fs::path opener = sandbox_ / "bin/xdg-open";
+        writeFile(opener, "#!/bin/sh\nprintf '%s\\n' \"$*\" >>'" + opened_.string() +
+                              "'\nexec sleep 30 >&- 2>&-\n");
+        fs::permissions(opener, fs::perms::owner_all);
+        setenv("PATH", (opener.parent_path().string() + ':' + std::getenv("PATH")).c_str(), 1);
         if (!display_.waitForStarted() || !display_.waitForReadyRead(20'000))
             return false;
         setenv("DISPLAY", (":" + display_.readLine().trimmed()).constData(), 1);
@@ -86,6 +63,9 @@ protected:
         return line.substr(0, line.find('\n'));
     }
 
+    fs::path sandbox_ = makeSandboxFolder("");
+    fs::path bundle_ = makeSandboxFolder("Test Pane.prefPane");
+    fs::path resources_ = bundle_ / "Contents/Resources";
     fs::path opened_ = sandbox_ / "opened";
 
 private:
@@ -96,7 +76,21 @@ private:
     std::unique_ptr<QGuiApplication> application_;
 };
 
-TEST_F(HelpPageTest, OpensThePagesOfTheBookAndNoOthers) {
+TEST_F(AppleHelpTest, ABundleWithoutAWholeBookRegistersNone) {
+    for (const std::string& info :
+         {kName, kFolder, kName + "<key>CFBundleHelpBookFolder</key><string>gone</string>",
+          kName + "<key>CFBundleHelpBookFolder</key><string>my help 2</string>",
+          kName + "<key>CFBundleHelpBookFolder</key><string>../Resources/my help</string>",
+          kFolder + "<key>CFBundleHelpBookName</key><true/>"}) {
+        writeFile(bundle_ / "Contents/Info.plist", dictionaryFile(info));
+        EXPECT_EQ(registerBook(), kAHInternalErr) << info;
+    }
+    writeFile(bundle_ / "Contents/Info.plist", "rubbish");
+    EXPECT_EQ(registerBook(), kAHInternalErr);
+    EXPECT_EQ(AHGotoPage(CFSTR("Test Help"), nullptr, nullptr), kAHInternalErr);
+}
+
+TEST_F(AppleHelpTest, OpensThePagesOfTheBookAndNoOthers) {
     if (!startDisplay())
         GTEST_SKIP() << "there is no Xvfb";
     ASSERT_EQ(registerBook(), noErr);

@@ -57,18 +57,17 @@ protected:
     }
 
     /// The answer to an event that another program sends to this one.
-    static int answerTo(AEEventClass eventClass, AEEventID eventID,
-                        const std::map<AEKeyword, AEDesc>& parameters) {
+    int answerTo(AEEventClass eventClass, AEEventID eventID,
+                 const std::map<AEKeyword, AEDesc>& parameters) {
         AppleEvent event{eventClass, eventID, {}, parameters};
         EXPECT_EQ(GetCurrentProcess(&event.target), noErr);
-        const QDBusPendingCall call = otherProgram().asyncCall(messageOfEvent(event));
+        const QDBusPendingCall call = otherProgram_.asyncCall(messageOfEvent(event));
         EXPECT_TRUE(QTest::qWaitFor([&] { return call.isFinished(); }, 10'000));
         return call.reply().arguments().value(0, -1).toInt();
     }
 
-    static QDBusConnection otherProgram() {
-        return QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("other"));
-    }
+    QDBusConnection otherProgram_ =
+        QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("other"));
 };
 
 TEST_F(DaemonTest, SetUpLaunchesTheAgentAlsoWhenItIsOff) {
@@ -130,17 +129,6 @@ TEST_F(DaemonTest, TheWholeRecordAndTheMaskArriveAsTheyAre) {
     EXPECT_EQ(agentLog_.next()["mask"].toInteger(), kChangeSounds);
 }
 
-TEST_F(DaemonTest, ForcedOffQuitsTheAgentWithoutARecord) {
-    setUpLinkWithAgent();
-    prefs.on = 0;
-    daemonSendChanges(kChangeOnOff | kChangeForceOnOff, true);
-    EXPECT_EQ(agentLog_.nextName(), "quit");
-    waitForNoAgent();
-    startAgent();
-    daemonSendChanges(kChangeOnOff, true); // finds the new one
-    EXPECT_EQ(agentLog_.next()["mask"].toInteger(), kChangeOnOff);
-}
-
 TEST_F(DaemonTest, AnAgentThatHangsDelaysNothingAndMissesNothing) {
     constexpr int kCount = 10'000;
     setUpLinkWithAgent();
@@ -164,40 +152,32 @@ TEST_F(DaemonTest, AnAgentThatHangsDelaysNothingAndMissesNothing) {
 
 TEST_F(DaemonTest, OnlyAReportOfAnotherStateIsKeptAndNoneIsSentBack) {
     openWithAgent();
-    const AEDesc off{typeBoolean, {0}}, on{typeBoolean, {1}};
+    using Parameters = std::map<AEKeyword, AEDesc>;
+    const auto state = [](DescType type, std::vector<UInt8> bytes) {
+        return Parameters{{keyDirectObject, {type, std::move(bytes)}}};
+    };
+    const Parameters off = state(typeBoolean, {0});
 
     const struct {
         const char* what;
         UInt8 before;
         AEEventID eventID;
-        std::map<AEKeyword, AEDesc> parameters;
+        Parameters parameters;
         int answer;
         UInt8 after;
     } cases[] = {
-        {"the same, on", 1, kOnOff, {{keyDirectObject, on}}, noErr, 1},
-        {"the same, on, another byte",
-         1,
-         kOnOff,
-         {{keyDirectObject, {typeBoolean, {255}}}},
-         noErr,
-         1},
-        {"the same, off", 0, kOnOff, {{keyDirectObject, off}}, noErr, 0},
-        {"off", 1, kOnOff, {{keyDirectObject, off}}, noErr, 0},
-        {"on", 0, kOnOff, {{keyDirectObject, on}}, noErr, 1},
-        {"on, another byte", 0, kOnOff, {{keyDirectObject, {typeBoolean, {2}}}}, noErr, 1},
+        {"the same, on", 1, kOnOff, state(typeBoolean, {1}), noErr, 1},
+        {"the same, other byte", 1, kOnOff, state(typeBoolean, {255}), noErr, 1},
+        {"the same, off", 0, kOnOff, off, noErr, 0},
+        {"off", 1, kOnOff, off, noErr, 0},
+        {"on", 0, kOnOff, state(typeBoolean, {1}), noErr, 1},
+        {"on, other byte", 0, kOnOff, state(typeBoolean, {2}), noErr, 1},
         {"no state", 1, kOnOff, {}, errAEDescNotFound, 1},
-        {"a state elsewhere", 1, kOnOff, {{typeBoolean, off}}, errAEDescNotFound, 1},
-        {"no byte", 1, kOnOff, {{keyDirectObject, {typeBoolean, {}}}}, noErr, 1},
-        {"two bytes", 1, kOnOff, {{keyDirectObject, {typeBoolean, {0, 0}}}}, noErr, 1},
-        {"mistyped", 1, kOnOff, {{keyDirectObject, {typeUInt32, {0}}}}, errAECoercionFail, 1},
-        {"unknown", 1, fourCharCode("PPof"), {{keyDirectObject, off}}, errAEEventNotHandled, 1},
-        {"not for the pane",
-         1,
-         fourCharCode("SAPr"),
-         {{keyDirectObject, off}},
-         errAEEventNotHandled,
-         1},
-        {"any", 1, typeWildCard, {{keyDirectObject, off}}, errAEEventNotHandled, 1},
+        {"no byte", 1, kOnOff, state(typeBoolean, {}), noErr, 1},
+        {"two bytes", 1, kOnOff, state(typeBoolean, {0, 0}), noErr, 1},
+        {"mistyped", 1, kOnOff, state(typeUInt32, {0}), errAECoercionFail, 1},
+        {"unknown", 1, fourCharCode("PPof"), off, errAEEventNotHandled, 1},
+        {"an event for the agent", 1, fourCharCode("SAPr"), off, errAEEventNotHandled, 1},
     };
 
     const fs::path domain =
@@ -210,9 +190,9 @@ TEST_F(DaemonTest, OnlyAReportOfAnotherStateIsKeptAndNoneIsSentBack) {
         prefsFlushChanges();
         EXPECT_EQ(fs::remove(domain), row.before != row.after) << "saved";
     }
-    EXPECT_EQ(answerTo(kCoreEventClass, kOnOff, {{keyDirectObject, off}}), errAEEventNotHandled);
+    EXPECT_EQ(answerTo(kCoreEventClass, kOnOff, off), errAEEventNotHandled);
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
-    EXPECT_EQ(answerTo(kAgentClass, kOnOff, {{keyDirectObject, off}}), errAEEventNotHandled)
+    EXPECT_EQ(answerTo(kAgentClass, kOnOff, off), errAEEventNotHandled)
         << "after the pane was put away";
 }
 
@@ -221,7 +201,6 @@ TEST_F(DaemonTest, AFloodOfRubbishChangesNothingAndHoldsNothingUp) {
     const PrefsRecord before = prefs;
     AppleEvent event{kAgentClass, kOnOff, {}, {}};
     ASSERT_EQ(GetCurrentProcess(&event.target), noErr);
-    QDBusConnection flooder = otherProgram();
     for (UInt32 i = 0; i < 5000; ++i) {
         event.eventID = i % 3 ? kOnOff : i;
         event.parameters = {{i % 2 ? keyDirectObject : i, {i % 5 ? typeUInt32 : typeBoolean, {}}}};
@@ -229,7 +208,7 @@ TEST_F(DaemonTest, AFloodOfRubbishChangesNothingAndHoldsNothingUp) {
         QDBusMessage message = messageOfEvent(event);
         if (i % 7 == 0)
             message.setArguments({QStringLiteral("rubbish"), i});
-        flooder.send(message);
+        otherProgram_.send(message);
         if (i == 2500)
             click("volumeDecBtn"); // in the midst of it
     }

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/CoreServices/AppleEvents.h"
+#include "platform/CoreServices/Processes.h"
+
+#include <QCoreApplication>
+#include <gtest/gtest.h>
+
+/// A test in a Qt application that takes part once the test says so.
+class ProcessTest : public testing::Test {
+protected:
+    static bool takePart() {
+        return registerCurrentProcess(fourCharCode("APPL"), fourCharCode("test"));
+    }
+
+    /// The process of that signature, or kNoProcess.
+    static ProcessSerialNumber findProcess(OSType signature) {
+        ProcessSerialNumber psn = kNoProcess;
+        while (GetNextProcess(&psn) == noErr) {
+            ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
+            if (GetProcessInformation(&psn, &info) == noErr && info.processSignature == signature)
+                return psn;
+        }
+        return kNoProcess;
+    }
+
+private:
+    int argc_ = 1;
+    char name_[5] = "test";
+    char* argv_[2] = {name_, nullptr};
+    QCoreApplication application_{argc_, argv_};
+};
+
+inline AppleEvent makeEvent(const ProcessSerialNumber& target, AEEventClass eventClass,
+                            AEEventID eventID, std::map<AEKeyword, AEDesc> parameters = {}) {
+    AEAddressDesc address;
+    AppleEvent event;
+    EXPECT_EQ(AECreateDesc(typeProcessSerialNumber, &target, sizeof target, &address), noErr);
+    EXPECT_EQ(AECreateAppleEvent(eventClass, eventID, &address, kAutoGenerateReturnID,
+                                 kAnyTransactionID, &event),
+              noErr);
+    event.parameters = std::move(parameters);
+    return event;
+}
+
+inline OSErr sendAndWait(const AppleEvent& event, SInt32 timeOutInTicks = kAEDefaultTimeout) {
+    return AESend(&event, nullptr, kAEWaitReply, timeOutInTicks);
+}
