@@ -6,6 +6,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QWindow>
 
 namespace {
@@ -400,6 +401,7 @@ TEST_F(PopUpPlaceTest, CoversTheButtonOrScrollsOnlyWhenItMust) {
     openAt({0, 400}, 14);
     EXPECT_TRUE(isInSight(0) && isInSight(39));
     EXPECT_TRUE(menu_->geometry().intersects(opener_));
+    EXPECT_FALSE(menu_->horizontalScrollBar()->isVisible());
     key(Qt::Key_Escape);
 
     openAt({0, 400}, 28);
@@ -418,8 +420,10 @@ TEST_F(PopUpButtonTest, ScreenReaderFollowsTheMenu) {
     EXPECT_TRUE(button->state().hasPopup && button->state().expandable);
     EXPECT_FALSE(button->state().expanded);
 
+    find("first")->setFocus();
     button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(button->state().expanded);
+    EXPECT_TRUE(menu_->hasFocus()) << "or nothing is said of the current item";
     auto* list = QAccessible::queryAccessibleInterface(menu_);
     ASSERT_EQ(button->childCount(), 1);
     EXPECT_EQ(button->child(0), list);
