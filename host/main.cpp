@@ -11,6 +11,10 @@
 
 namespace {
 
+/// Letters typed this close together, in milliseconds, look for one entry of a list: the usual 400
+/// leave a slow hand no second letter.
+constexpr int kSlowTypingMs = 2000;
+
 enum ExitStatus { kDone = 0, kFailed = 1, kMisused = 2 };
 
 /// Chooses Qt's platform, unless the user's environment has chosen. False when there is no display.
@@ -52,6 +56,7 @@ int show(const std::string& bundle) {
         return kFailed;
 
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setKeyboardInputInterval(kSlowTypingMs);
     handleTerminationSignals([&] { host.putAway(); });
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, [&] { host.putAway(); });
     host.open();

@@ -30,13 +30,14 @@ class AgentLog:
         check(event["event"] == name, f"the agent heard {shorten(event)}, not {name}")
         return event
 
-    def expect_change(self, mask: int, field: str, value: float) -> str:
+    def expect_change(self, mask: int, field: str, value: float | tuple) -> str:
         """The next event must be a changed record with that mask and value, in which nothing else
         is new. Returns an account of it."""
         event = self.expect("SAPr")
         record = bytes.fromhex(event["record"])
         form, offset = FIELDS[field]
-        got = struct.unpack_from(form, record, offset)[0]
+        numbers = struct.unpack_from(form, record, offset)
+        got = numbers if len(numbers) > 1 else numbers[0]
         check(event["mask"] == mask, f"mask {event['mask']}, not {mask}")
         check(got == value, f"{field} (byte {offset}) is {got}, not {value}")
         own = range(offset, offset + struct.calcsize(form))

@@ -15,6 +15,7 @@ import traceback
 from contextlib import suppress
 from pathlib import Path
 
+from tests.e2e import palette
 from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.screen import Screen, press
@@ -32,6 +33,7 @@ CHANGED = {
     "scanner.canScanMenuBar": "no",
     "scanner.lineScanTime": "10.500000",
     "scanner.scanMode": "1",
+    **palette.CHANGED,
 }
 
 
@@ -210,6 +212,7 @@ STEPS = (
     lengthen_line_scan_time,
     skip_the_menu_bar,
     choose_scan_mode,
+    *palette.STEPS,
     switch_off_and_on,
     follow_the_agent,
     close_the_pane,
