@@ -39,7 +39,8 @@ double CFNumber::doubleValue() const {
 bool CFNumber::isEqual(const CFType& other) const {
     const auto& that = static_cast<const CFNumber&>(other);
     if (isFloat() == that.isFloat())
-        return value_ == that.value_;
+        return value_ == that.value_ ||
+               (std::isnan(doubleValue()) && std::isnan(that.doubleValue()));
     const CFNumber& real = isFloat() ? *this : that;
     const CFNumber& whole = isFloat() ? that : *this;
     std::int64_t integer = 0;
@@ -47,7 +48,8 @@ bool CFNumber::isEqual(const CFType& other) const {
 }
 
 CFHashCode CFNumber::hash() const {
-    return std::hash<double>()(doubleValue());
+    const double value = doubleValue();
+    return std::isnan(value) ? 0 : std::hash<double>()(value);
 }
 
 CFTypeID CFNumberGetTypeID() {

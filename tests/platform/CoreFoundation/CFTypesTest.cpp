@@ -3,6 +3,7 @@
 #include "platform/CoreFoundation/CFNumber.h"
 #include "platform/CoreFoundation/CFURL.h"
 
+#include <cmath>
 #include <gmock/gmock.h>
 #include <limits>
 
@@ -76,6 +77,9 @@ TEST(CFEqual, ComparesTypeAndValue) {
     EXPECT_TRUE(CFEqual(number(std::int64_t{4}).get(), number(4.0).get()));
     EXPECT_EQ(CFHash(number(std::int64_t{4}).get()), CFHash(number(4.0).get()));
     EXPECT_FALSE(CFEqual(number((std::int64_t{1} << 53) + 1).get(), number(0x1p53).get()));
+    EXPECT_TRUE(CFEqual(number(NAN).get(), number(-NAN).get())) << "not a number, both";
+    EXPECT_EQ(CFHash(number(NAN).get()), CFHash(number(-NAN).get()));
+    EXPECT_FALSE(CFEqual(number(NAN).get(), number(1.0).get()));
 
     const CFType* items[] = {CFSTR("a"), kCFBooleanTrue};
     const auto array = CFArrayCreate(items);
