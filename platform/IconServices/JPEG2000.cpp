@@ -28,15 +28,15 @@ enum SizeField : std::size_t {
     kTileHeight = 28,
     kTileLeft = 32,
     kTileTop = 36,
-    kComponents = 40,
-    kFirstComponent = 42
+    kComponents = 40
 };
 
-/// Depth less one, and the horizontal and vertical distance of samples.
-constexpr auto kPlainComponent = "\x07\x01\x01"sv;
+/// Their number, and of each its depth less one and the horizontal and vertical distance of
+/// samples.
+constexpr auto kFourPlainComponents = "\0\x04\x07\1\1\x07\1\1\x07\1\1\x07\1\1"sv;
 
 std::optional<QSize> sizeOfCodestream(std::string_view stream) {
-    if (stream.size() < kFirstComponent)
+    if (stream.size() < kComponents)
         return std::nullopt;
     const auto field = [&](SizeField at) { return bigEndian32(stream.substr(at)); };
     const UInt32 width = field(kWidth), height = field(kHeight);
@@ -47,12 +47,8 @@ std::optional<QSize> sizeOfCodestream(std::string_view stream) {
     if (tiles > kMaxTiles || field(kLeft) || field(kTop) || field(kTileLeft) || field(kTileTop))
         return std::nullopt;
 
-    const UInt32 components = bigEndian32(stream.substr(kComponents - 2)) & 0xFFFF;
-    if (components != 3 && components != 4)
+    if (!stream.substr(kComponents).starts_with(kFourPlainComponents))
         return std::nullopt;
-    for (UInt32 i = 0; i < components; ++i)
-        if (!stream.substr(kFirstComponent + 3 * i).starts_with(kPlainComponent))
-            return std::nullopt;
     return QSize(static_cast<int>(width), static_cast<int>(height));
 }
 

@@ -5,8 +5,12 @@
 
 namespace {
 
-class CorpusTest
-    : public testing::TestWithParam<std::pair<const char*, void (*)(std::span<const UInt8>)>> {};
+struct Corpus {
+    const char* folder;
+    void (*read)(std::span<const UInt8> bytes);
+};
+
+class CorpusTest : public testing::TestWithParam<Corpus> {};
 
 // A file is also read with its end cut off at every length, up to some hundred.
 TEST_P(CorpusTest, ReadsEveryFile) {
@@ -26,8 +30,8 @@ TEST_P(CorpusTest, ReadsEveryFile) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, CorpusTest,
-                         testing::Values(std::pair("propertylist", read_propertylist),
-                                         std::pair("iconfamily", read_iconfamily)),
-                         [](const auto& test) { return std::string(test.param.first); });
+                         testing::Values(Corpus{"propertylist", read_propertylist},
+                                         Corpus{"iconfamily", read_iconfamily}),
+                         [](const auto& test) { return std::string(test.param.folder); });
 
 } // namespace
