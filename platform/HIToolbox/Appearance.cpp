@@ -14,6 +14,8 @@ namespace {
 constexpr int kContentInset = 2;
 /// The label font's size as a part of the text size.
 constexpr double kLabelScale = 10.0 / 12.0;
+/// How much smaller a line may become to have room; beyond that it is cut short.
+constexpr double kLeastTextScale = 0.75;
 /// The width of the rings that mark a button as pushed in, whatever little the style makes of that,
 /// and as the keyboard's.
 constexpr int kRing = 2;
@@ -23,13 +25,16 @@ QString toQString(const CFString* text) {
     return QString::fromStdU16String(text->text());
 }
 
+void scaleFont(QFont& font, double scale) {
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * scale);
+    else
+        font.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() * scale))));
+}
+
 QFont themeFont(const GrafPort& port) {
     QFont font = port.widget().font();
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * kLabelScale);
-    else
-        font.setPixelSize(
-            std::max(1, static_cast<int>(std::lround(font.pixelSize() * kLabelScale))));
+    scaleFont(font, kLabelScale);
     return font;
 }
 
@@ -40,6 +45,18 @@ int textFlags(bool wrapToWidth, int alignment) {
 /// Where a ring's middle runs, so that its outer side meets the edge.
 QRectF insideEdge(const QRect& bounds) {
     return QRectF(bounds).adjusted(kRing / 2.0, kRing / 2.0, -kRing / 2.0, -kRing / 2.0);
+}
+
+/// Makes the painter's font smaller, within reason, until the line has room in the width; a line
+/// that is still too long is cut short.
+QString fittedLine(QPainter& painter, const QString& line, int width) {
+    const int needed = painter.fontMetrics().horizontalAdvance(line);
+    if (needed <= width)
+        return line;
+    QFont font = painter.font();
+    scaleFont(font, std::max(kLeastTextScale, static_cast<double>(width) / needed));
+    painter.setFont(font);
+    return painter.fontMetrics().elidedText(line, Qt::ElideRight, width);
 }
 
 void drawFace(GrafPort& port, const QRect& bounds, ThemeButtonKind kind, bool on) {
@@ -126,7 +143,7 @@ OSStatus DrawThemeTextBox(const CFString* text, ThemeFontID, ThemeDrawState, boo
     painter.setPen(port->widget().palette().color(QPalette::ButtonText));
     QString line = toQString(text);
     if (!wrapToWidth)
-        line = painter.fontMetrics().elidedText(line, Qt::ElideRight, place.width());
+        line = fittedLine(painter, line, place.width());
     painter.drawText(place, textFlags(wrapToWidth, Qt::AlignHCenter | Qt::AlignTop), line);
     painter.restore();
     return noErr;

@@ -54,8 +54,9 @@ enum ThemeJustification : SInt16 { teCenter = 1 };
 OSStatus GetThemeTextDimensions(const CFString* text, ThemeFontID font, ThemeDrawState state,
                                 bool wrapToWidth, Point* bounds, SInt16* baseline);
 
-/// Draws a text into the box, from its top. A single line that is too wide for it is shortened and
-/// ends in an ellipsis. `context` is null: the current port.
+/// Draws a text into the box, from its top. A single line that is too wide for it is drawn up to a
+/// quarter smaller, and beyond that is shortened and ends in an ellipsis. `context` is null: the
+/// current port.
 OSStatus DrawThemeTextBox(const CFString* text, ThemeFontID font, ThemeDrawState state,
                           bool wrapToWidth, const Rect* box, ThemeJustification justification,
                           void* context);
