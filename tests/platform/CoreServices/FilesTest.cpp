@@ -7,8 +7,6 @@
 #include <limits>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -129,15 +127,10 @@ TEST(HandleTest, OwnsItsBlock) {
 }
 
 TEST(HandleTest, ShortMemoryGivesNull) {
-    const pid_t child = fork();
-    if (child == 0) {
-        const rlimit little{1u << 30, 1u << 30};
-        setrlimit(RLIMIT_AS, &little);
-        _exit(NewHandle(2'000'000'000) ? 1 : 0);
-    }
-    int status = -1;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "AddressSanitizer's allocator ends the process instead";
+#endif
+    EXPECT_FALSE(NewHandle(std::numeric_limits<CFIndex>::max()));
 }
 
 } // namespace
