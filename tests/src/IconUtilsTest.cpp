@@ -55,6 +55,10 @@ TEST_F(IconUtilsTest, EveryFileIsRegisteredOnceAndNoNumberTwice) {
     const IconRef mended = get("noise");
     EXPECT_TRUE(mended) << "a failure isn't kept";
     EXPECT_EQ(registeredAs(5), mended);
+    std::filesystem::remove_all(bundle_.resources());
+    EXPECT_EQ(get("red"), nullptr) << "the bundle has it no more";
+    EXPECT_EQ(red->images().atLeast(32).width(), 32) << "the file is read when it is registered";
+    bundle_.write("red.icns", pngFamily({{16, Qt::red}}));
 
     iconUtilCleanup();
     for (UInt32 type = 1; type <= 5; ++type)

@@ -112,26 +112,4 @@ TEST_F(ApplicationIconTest, WhatDidNotChangeIsTheSameIcon) {
     EXPECT_EQ(first->retainCount(), 2) << "the caller's and the kept one";
 }
 
-TEST_F(ApplicationIconTest, RegisteredIconsComeFirstAndOnlyOnce) {
-    const FSRef file{folder_ / "a.icns"}, bad{folder_ / "bad.icns"}, none{folder_ / "none"};
-    writeFile(file.path, pngFamily({{16, Qt::red}}));
-    writeFile(bad.path, iconFamily({iconElement("is32", "short")}));
-    IconRef icon = nullptr;
-    EXPECT_EQ(RegisterIconRefFromFSRef(kCode, 1, &none, &icon), fnfErr);
-    EXPECT_EQ(RegisterIconRefFromFSRef(kCode, 1, &bad, &icon), noSuchIconErr);
-    EXPECT_EQ(icon, nullptr);
-    EXPECT_EQ(RegisterIconRefFromFSRef(kCode, 1, &file, &icon), noErr);
-    EXPECT_EQ(RegisterIconRefFromFSRef(kCode, 1, &file, &icon), paramErr);
-    fs::remove(file.path);
-    EXPECT_EQ(icon->images().atLeast(16).pixelColor(0, 0), QColor(Qt::red)) << "read once";
-
-    CFRef<Icon> got;
-    EXPECT_EQ(GetIconRef(kOnSystemDisk, kCode, 1, &got), noErr);
-    EXPECT_EQ(got.get(), icon);
-    EXPECT_EQ(UnregisterIconRef(kCode, 1), noErr);
-    EXPECT_EQ(UnregisterIconRef(kCode, 1), noSuchIconErr);
-    EXPECT_EQ(got->retainCount(), 1);
-    EXPECT_EQ(GetIconRef(kOnSystemDisk, kCode, 1, &got), noSuchIconErr);
-}
-
 } // namespace

@@ -1,5 +1,4 @@
 #include "platform/IconServices/IconFamily.h"
-#include "platform/IconServices/Icons.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/TestIcons.h"
 
@@ -221,23 +220,6 @@ TEST(IconImagesTest, DecodesOnceWhatIsNeeded) {
          {std::pair{1, 16}, {16, 16}, {17, 64}, {64, 64}, {65, 128}, {129, 128}, {10'000, 128}})
         EXPECT_EQ(images.atLeast(wanted).width(), taken) << wanted;
     EXPECT_THAT(decoded, testing::ElementsAre(16, 32, 64, 128));
-}
-
-TEST(IconSuiteTest, TakesAllOfAFamilyOrIsNull) {
-    const auto handleOf = [](const std::string& bytes) {
-        Handle handle = NewHandle(std::ssize(bytes));
-        std::copy(bytes.begin(), bytes.end(), *handle);
-        return handle;
-    };
-    CFRef<IconSuite> suite;
-    const Handle family = handleOf(iconFamily({iconElement("is32", packedColour(256, kTeal))}));
-    EXPECT_EQ(IconFamilyToIconSuite(family, kSelectorAllAvailableData, &suite), noErr);
-    EXPECT_EQ(suite->images().atLeast(1).width(), 16);
-    EXPECT_EQ(IconFamilyToIconSuite(family, 1, &suite), paramErr);
-    EXPECT_FALSE(suite);
-    EXPECT_EQ(IconFamilyToIconSuite(handleOf(""), kSelectorAllAvailableData, &suite),
-              noSuchIconErr);
-    EXPECT_EQ(IconFamilyToIconSuite({}, kSelectorAllAvailableData, &suite), paramErr);
 }
 
 } // namespace
