@@ -25,7 +25,7 @@ private:
 enum CGColorRenderingIntent { kCGRenderingIntentDefault = 0 };
 
 /// Decodes a PNG; colours are taken as the device's. Null when the data isn't one, is damaged, or
-/// says that it is larger than kMaxImageSide pixels on a side: then nothing is
+/// says that it is larger than 4096 pixels on a side: then nothing is
 /// decoded. `decode` must be null; interpolation and intent make no difference.
 CFRef<CGImage> CGImageCreateWithPNGDataProvider(const CGDataProvider* source, const CGFloat* decode,
                                                 bool shouldInterpolate,
