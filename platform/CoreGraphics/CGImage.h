@@ -25,8 +25,8 @@ private:
 enum CGColorRenderingIntent { kCGRenderingIntentDefault = 0 };
 
 /// Decodes a PNG; colours are taken as the device's. Null when the data isn't one, is damaged, or
-/// says that it is larger than 4096 pixels on a side: then nothing is
-/// decoded. `decode` must be null; interpolation and intent make no difference.
+/// says that it is larger than 4096 pixels on a side: then nothing is decoded. `decode` must be
+/// null; interpolation and intent make no difference.
 CFRef<CGImage> CGImageCreateWithPNGDataProvider(const CGDataProvider* source, const CGFloat* decode,
                                                 bool shouldInterpolate,
                                                 CGColorRenderingIntent intent);
