@@ -5,6 +5,8 @@
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 
+#include <cstdio>
+
 namespace {
 
 const auto kService = QStringLiteral("org.korvex.Preferences");
@@ -76,5 +78,8 @@ bool becomeSingleInstance(std::function<void()> onActivate) {
     if (activateOther(bus))
         return false;
     // Either it hangs or it was about to end; in that case the name is free now.
-    return requestName(bus);
+    if (requestName(bus))
+        return true;
+    std::fputs("korvex-preferences: it is open already, but doesn't answer\n", stderr);
+    return false;
 }

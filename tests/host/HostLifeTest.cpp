@@ -2,6 +2,7 @@
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/AgentLog.h"
 #include "tests/support/ProcessTest.h"
+#include "tests/support/SignalProcess.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -10,8 +11,6 @@
 #include <QJsonArray>
 #include <QProcess>
 #include <gmock/gmock.h>
-
-#include <csignal>
 
 namespace fs = std::filesystem;
 
@@ -89,7 +88,7 @@ TEST_P(HostSignalTest, PutsThePaneAwayAndStoresWhatWasChanged) {
         SCOPED_TRACE(changed);
         open();
         EXPECT_EQ(changed ? reportOff() : OSErr{noErr}, noErr);
-        kill(static_cast<pid_t>(host_.processId()), GetParam());
+        signalProcess(host_.processId(), GetParam());
         EXPECT_EQ(waitForEnd(host_), 0);
         EXPECT_EQ(agentLog_.nextName(), "PPcl");
         EXPECT_EQ(stored().empty(), !changed);
@@ -143,8 +142,9 @@ TEST_F(HostLifeTest, ASecondStartAsksTheFirstToComeForward) {
     for (const bool answers : {true, false}) {
         first.answers = answers;
         first.calls.clear();
-        start(host_);
+        host_.start(QStringLiteral(KORVEX_HOST), QStringList());
         EXPECT_EQ(waitForEnd(host_), 0);
+        EXPECT_EQ(host_.readAllStandardError().contains("doesn't answer"), !answers);
         ASSERT_EQ(first.calls.size(), 1);
         EXPECT_EQ(first.calls[0].interface(), kInterface);
         EXPECT_EQ(first.calls[0].member(), QStringLiteral("Activate"));

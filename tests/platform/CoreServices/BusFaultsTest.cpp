@@ -64,7 +64,7 @@ TEST_F(BusGoesTest, NobodyTakesPartAfterItHasGone) {
 TEST_F(BusGoesTest, ABusThatHangsDelaysNobodyButAWaitingSender) {
     TestPeer peer;
     ASSERT_TRUE(waitUntil([&] { return peer.ask() == 8; }));
-    ::kill(static_cast<pid_t>(bus_.processId()), SIGSTOP);
+    signalProcess(bus_.processId(), SIGSTOP);
     QElapsedTimer timer;
     timer.start();
     const AppleEvent event = makeEvent(peer.psn(), kTestClass, kAnswerCode);
@@ -74,7 +74,7 @@ TEST_F(BusGoesTest, ABusThatHangsDelaysNobodyButAWaitingSender) {
     EXPECT_EQ(GetNextProcess(&psn), noErr);
     EXPECT_LT(timer.elapsed(), 5000);
     EXPECT_EQ(peer.ask(30), errAETimeout);
-    ::kill(static_cast<pid_t>(bus_.processId()), SIGCONT);
+    signalProcess(bus_.processId(), SIGCONT);
     EXPECT_EQ(peer.ask(), 8);
 }
 

@@ -49,7 +49,7 @@ protected:
                        fs::read_symlink(proc(started().back()) / "exe").filename() == "sleep";
             },
             20'000));
-        return started().back();
+        return started().empty() ? 0 : started().back();
     }
 
     static fs::path proc(pid_t pid) { return "/proc/" + std::to_string(pid); }
@@ -107,11 +107,11 @@ TEST_F(LaunchServicesTest, OneRunsAtATimeAndIsReapedAtItsEnd) {
     EXPECT_EQ(open(), noErr) << "while it is still starting";
     const pid_t first = waitForStart(1);
     EXPECT_EQ(open(), noErr) << "while it runs";
-    ::kill(first, SIGKILL);
+    signalProcess(first, SIGKILL);
     ASSERT_TRUE(QTest::qWaitFor([&] { return ::kill(first, 0) != 0; }, 20'000)) << "not reaped";
     EXPECT_EQ(open(), noErr);
     const pid_t second = waitForStart(2);
-    ::kill(second, SIGKILL);
+    signalProcess(second, SIGKILL);
     // At once, before the event loop has seen its end.
     siginfo_t info;
     EXPECT_EQ(waitid(P_PID, static_cast<id_t>(second), &info, WEXITED | WNOWAIT), 0);

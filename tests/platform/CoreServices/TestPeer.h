@@ -1,11 +1,10 @@
 #pragma once
 
 #include "tests/support/ProcessTest.h"
+#include "tests/support/SignalProcess.h"
 
 #include <QProcess>
 #include <QTest>
-
-#include <csignal>
 
 // The events of the peer's class.
 constexpr AEEventClass kTestClass = fourCharCode("Test");
@@ -33,7 +32,7 @@ public:
 
     pid_t pid() const { return static_cast<pid_t>(process_.processId()); }
 
-    void signal(int number) const { ::kill(pid(), number); }
+    void signal(int number) const { signalProcess(process_.processId(), number); }
 
     /// Returns when it is gone.
     void kill() {

@@ -3,13 +3,13 @@
 #include "platform/CoreServices/AppleEventObject.h"
 #include "platform/CoreServices/SessionBus.h"
 #include "tests/support/PaneFixture.h"
+#include "tests/support/SignalProcess.h"
 
 #include <QDBusPendingCall>
 #include <QElapsedTimer>
 #include <QRadioButton>
 
 #include <cerrno>
-#include <csignal>
 #include <filesystem>
 #include <sys/wait.h>
 
@@ -45,7 +45,7 @@ protected:
 
     /// Ends the agent and waits until nothing is left of it.
     void killAgent() {
-        kill(agentPID(), SIGKILL);
+        signalProcess(agentPID(), SIGKILL);
         waitForNoAgent();
         ASSERT_TRUE(QTest::qWaitFor([] { return !hasChild(); }, 10'000)) << "not reaped";
     }
@@ -133,7 +133,7 @@ TEST_F(DaemonTest, AnAgentThatHangsDelaysNothingAndMissesNothing) {
     constexpr int kCount = 10'000;
     setUpLinkWithAgent();
     const pid_t agent = agentPID();
-    kill(agent, SIGSTOP);
+    signalProcess(agent, SIGSTOP);
     qint64 longest = 0;
     for (int i = 1; i <= kCount; ++i) {
         prefs.borderGap = i;
@@ -143,7 +143,7 @@ TEST_F(DaemonTest, AnAgentThatHangsDelaysNothingAndMissesNothing) {
         longest = std::max(longest, timer.elapsed());
     }
     EXPECT_LT(longest, 1000) << "ms for one call";
-    kill(agent, SIGCONT);
+    signalProcess(agent, SIGCONT);
     for (int i = 1; i <= kCount; ++i)
         ASSERT_EQ(recordField<SInt32>(agentLog_.next(), offsetof(PrefsRecord, borderGap)), i);
     daemonCleanup();
@@ -237,6 +237,8 @@ TEST_F(DaemonWithoutBusTest, ThePaneWorksAndStores) {
     prefs.soundLevel = 0;
     prefsSetup();
     EXPECT_EQ(prefs.soundLevel, 49u);
+    // Each agent launched finds no bus either, and ends.
+    EXPECT_TRUE(QTest::qWaitFor([] { return !hasChild(); }, 10'000));
 }
 
 } // namespace
