@@ -12,8 +12,13 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <unistd.h>
 
 namespace {
+
+/// How long the program may take to start, in seconds. Qt can wait for good for the answer of a bus
+/// that goes in that moment.
+constexpr unsigned kStartSeconds = 10;
 
 /// Whether this is the session's one agent. The bus gives a name to one owner only, so that of two
 /// that start at the same moment one stays.
@@ -35,6 +40,8 @@ void quitWithTheBus() {
 int main(int argc, char** argv) {
     UnixSignals signals{SIGUSR1, SIGTERM, SIGINT, SIGHUP};
     QCoreApplication application(argc, argv);
+
+    alarm(kStartSeconds);
 
     EventLog log;
     const char* path = std::getenv("KORVEX_AGENT_LOG");
@@ -60,5 +67,6 @@ int main(int argc, char** argv) {
         else
             QCoreApplication::quit();
     });
+    alarm(0);
     return QCoreApplication::exec();
 }

@@ -34,6 +34,25 @@ protected:
         kill(pid, signal);
     }
 
+    /// Shows the pane with every button of the palette drawn, and puts it away.
+    void visit() {
+        pane_->willSelect();
+        find("paletteView")->repaint();
+        pane_->didUnselect();
+        QCoreApplication::processEvents();
+    }
+
+    static long openFiles() {
+        return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+    }
+
+    static long residentKilobytes() {
+        std::ifstream file("/proc/self/statm");
+        long total = 0, resident = 0;
+        file >> total >> resident;
+        return resident * sysconf(_SC_PAGESIZE) / 1024;
+    }
+
     bool showsOn() { return find<QRadioButton>("masterOnOffRadios1")->isChecked(); }
 };
 
@@ -112,6 +131,22 @@ TEST_F(PaneLifeTest, AnAgentThatDiesOrHangsLosesNothing) {
     putAway();
     EXPECT_TRUE(isStored("scanner.lineScanTime", "13.000000"));
     EXPECT_TRUE(isStored("soundLevel", "0x00000030"));
+}
+
+TEST_F(PaneLifeTest, AHundredVisitsLeaveNothingBehind) {
+    openWithAgent();
+    pane_->didUnselect();
+    for (int i = 0; i < 3; ++i)
+        visit();
+    const long files = openFiles();
+    const long memory = residentKilobytes();
+    for (int i = 0; i < 97; ++i)
+        visit();
+    EXPECT_EQ(openFiles(), files);
+#if !defined(__SANITIZE_ADDRESS__) // which keeps freed memory
+    EXPECT_LT(residentKilobytes() - memory, 1024);
+#endif
+    pane_->willSelect();
 }
 
 } // namespace
