@@ -28,6 +28,19 @@ protected:
     ~NSAccessibilityList() = default;
 };
 
+/// A view that is one button to a screen reader. What it shows is heard with the description that
+/// the form gives it. UTF-8.
+class NSAccessibilityButton {
+public:
+    virtual std::string accessibilityTitle() const = 0;
+    virtual std::string accessibilityValue() const = 0; ///< what it shows at the moment
+    /// Does what a click on it does.
+    virtual void accessibilityPerformPress() = 0;
+
+protected:
+    ~NSAccessibilityButton() = default;
+};
+
 enum NSAccessibilityNotification {
     NSAccessibilityFocusedUIElementChangedNotification,
     NSAccessibilitySelectedChildrenChangedNotification,
@@ -37,3 +50,8 @@ enum NSAccessibilityNotification {
 /// or no longer selected. Does nothing for an index outside the list.
 void NSAccessibilityPostNotification(NSView* view, int index,
                                      NSAccessibilityNotification notification);
+
+enum NSAccessibilityViewNotification { NSAccessibilityTitleChangedNotification };
+
+/// Tells a running screen reader that the view itself is called something else.
+void NSAccessibilityPostNotification(NSView* view, NSAccessibilityViewNotification notification);

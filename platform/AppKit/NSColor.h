@@ -7,6 +7,16 @@ public:
         return {red, green, blue, alpha};
     }
 
+    static NSColor blackColor() { return {0, 0, 0, 1}; }
+
+    static NSColor lightGrayColor() { return {2.0 / 3, 2.0 / 3, 2.0 / 3, 1}; }
+
+    /// Of the ring around what has the keyboard.
+    static NSColor keyboardFocusIndicatorColor();
+
+    /// Makes it the colour that is drawn with; see NSGraphics.h.
+    void set() const;
+
     double redComponent() const { return red_; }
 
     double greenComponent() const { return green_; }

@@ -6,6 +6,11 @@ struct NSPoint {
     float y = 0;
 };
 
+struct NSSize {
+    float width = 0;
+    float height = 0;
+};
+
 /// A rectangle of an interface, in points; y grows downward.
 struct NSRect {
     float x = 0;
@@ -18,4 +23,9 @@ struct NSRect {
 inline bool NSPointInRect(NSPoint point, const NSRect& rect) {
     return point.x >= rect.x && point.x < rect.x + rect.width && point.y >= rect.y &&
            point.y < rect.y + rect.height;
+}
+
+/// The rectangle without a margin of `dx` on its left and right and of `dy` above and below.
+inline NSRect NSInsetRect(const NSRect& rect, float dx, float dy) {
+    return {rect.x + dx, rect.y + dy, rect.width - 2 * dx, rect.height - 2 * dy};
 }

@@ -141,10 +141,45 @@ void ElementInterface::doAction(const QString& name) {
         list_.list().accessibilityPress(index_);
 }
 
+/// The view itself, as one button.
+class ButtonInterface final : public QAccessibleWidget {
+public:
+    ButtonInterface(ViewWidget* widget, NSAccessibilityButton& button)
+        : QAccessibleWidget(widget, QAccessible::Button), button_(button) {}
+
+    QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Name)
+            return QString::fromStdString(button_.accessibilityTitle());
+        const QString text = QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Description)
+            return text;
+        return QString::fromStdString(button_.accessibilityValue()) + QLatin1Char(' ') + text;
+    }
+
+    QStringList actionNames() const override {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString& name) override {
+        if (name == pressAction())
+            button_.accessibilityPerformPress();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    NSAccessibilityButton& button_;
+};
+
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     auto* widget = dynamic_cast<ViewWidget*>(object);
-    auto* list = widget ? dynamic_cast<NSAccessibilityList*>(widget->view()) : nullptr;
-    return list ? new ListInterface(widget, *list) : nullptr;
+    if (!widget)
+        return nullptr;
+    if (auto* list = dynamic_cast<NSAccessibilityList*>(widget->view()))
+        return new ListInterface(widget, *list);
+    if (auto* button = dynamic_cast<NSAccessibilityButton*>(widget->view()))
+        return new ButtonInterface(widget, *button);
+    return nullptr;
 }
 
 /// Sends the event of the element, if anybody listens.
@@ -183,4 +218,11 @@ void NSAccessibilityPostNotification(NSView* view, int index,
         post(view->widget(), index, QAccessible::Selection);
     else if (view->isFirstResponder())
         post(view->widget(), index, QAccessible::Focus);
+}
+
+void NSAccessibilityPostNotification(NSView* view, NSAccessibilityViewNotification) {
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent event(view->widget(), QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
 }

@@ -39,6 +39,7 @@ char16_t characterOf(const QKeyEvent& event) {
 
 ViewWidget::ViewWidget(QWidget* parent) : QWidget(parent) {
     installViewAccessibility();
+    setFocusPolicy(Qt::StrongFocus); // or else the form's tab order would leave it out
 }
 
 void ViewWidget::setView(NSView* view) {
@@ -46,8 +47,6 @@ void ViewWidget::setView(NSView* view) {
     renewAccessibility(*this);
     if (!view->acceptsFirstResponder())
         setFocusPolicy(Qt::NoFocus);
-    else if (focusPolicy() == Qt::NoFocus)
-        setFocusPolicy(Qt::StrongFocus);
 }
 
 bool ViewWidget::hasHeightForWidth() const {
@@ -60,10 +59,12 @@ int ViewWidget::heightForWidth(int width) const {
 
 void ViewWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    const GrafPort port(painter, *this);
+    GrafPort port(painter, *this);
+    port_ = &port;
     const QRect dirty = event->rect();
     view_->drawRect({static_cast<float>(dirty.x()), static_cast<float>(dirty.y()),
                      static_cast<float>(dirty.width()), static_cast<float>(dirty.height())});
+    port_ = nullptr;
 }
 
 void ViewWidget::mousePressEvent(QMouseEvent* event) {

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class GrafPort;
 class NSView;
 
 /// The widget behind a view that draws itself: it hands the view its events. The form's dynamic
@@ -11,6 +12,9 @@ public:
     explicit ViewWidget(QWidget* parent);
 
     NSView* view() const { return view_; }
+
+    /// The port that it is drawn into; null but while it is painted.
+    GrafPort* port() const { return port_; }
 
     /// Not owned; outlives the widget.
     void setView(NSView* view);
@@ -27,4 +31,5 @@ protected:
 
 private:
     NSView* view_ = nullptr;
+    GrafPort* port_ = nullptr;
 };

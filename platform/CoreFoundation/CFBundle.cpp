@@ -52,12 +52,31 @@ CFRef<CFBundle> openMainBundle() {
     return openBundle(contents.parent_path().string());
 }
 
+bool equalIgnoringCase(const std::string& a, const std::string& b) {
+    const auto lower = [](unsigned char c) { return c >= 'A' && c <= 'Z' ? c + 32 : c; };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [&](char x, char y) { return lower(x) == lower(y); });
+}
+
+/// The path, or that of the first file beside it whose name differs in letter case alone: file
+/// names ignore that on the platform.
+fs::path inAnyCase(const fs::path& path) {
+    std::error_code error;
+    if (fs::exists(fs::symlink_status(path, error)))
+        return path;
+    for (fs::directory_iterator entry(path.parent_path(), error), end; !error && entry != end;
+         entry.increment(error))
+        if (equalIgnoringCase(entry->path().filename(), path.filename()))
+            return entry->path();
+    return path;
+}
+
 /// The URL of `relative` in `folder`, or null when it isn't there or would climb out.
-CFRef<CFURL> existingURL(const std::string& folder, const fs::path& relative) {
+CFRef<CFURL> existingURL(const fs::path& folder, const fs::path& relative) {
     const bool climbs = std::find(relative.begin(), relative.end(), "..") != relative.end();
     if (relative.empty() || relative.is_absolute() || climbs)
         return nullptr;
-    const std::string path = folder + '/' + relative.string();
+    const fs::path path = inAnyCase(folder / relative);
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (!fs::exists(status))

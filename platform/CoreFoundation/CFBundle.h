@@ -49,7 +49,8 @@ CFRef<CFURL> CFBundleCopyAuxiliaryExecutableURL(const CFBundle* bundle, const CF
 
 /// The URL of Resources[/subdirectory]/name.type, or null when there is no such file. A null name
 /// gives null; a null type means that `name` is the whole file name; a null subdirectory means the
-/// top level. Neither name nor subdirectory may climb out of Resources.
+/// top level. Letter case of the file's name counts only where two files differ in nothing else.
+/// Neither name nor subdirectory may climb out of Resources.
 CFRef<CFURL> CFBundleCopyResourceURL(const CFBundle* bundle, const CFString* name,
                                      const CFString* type, const CFString* subdirectory);
 

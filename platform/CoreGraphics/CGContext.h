@@ -16,6 +16,9 @@ public:
 
     QPainter& painter() { return painter_; }
 
+    /// The port's, in points.
+    CGFloat height() const { return static_cast<CGFloat>(height_); }
+
     /// The rectangle in the painter's coordinates.
     QRectF toPainter(const CGRect& rect) const;
 
@@ -30,3 +33,10 @@ private:
 
 /// Null when there is no port, or its painter isn't active.
 CFRef<CGContext> CreateCGContextForPort(GrafPtr port);
+
+void CGContextTranslateCTM(CGContext* context, CGFloat x, CGFloat y);
+void CGContextScaleCTM(CGContext* context, CGFloat x, CGFloat y);
+
+/// Keeps the coordinates until they are restored.
+void CGContextSaveGState(CGContext* context);
+void CGContextRestoreGState(CGContext* context);

@@ -13,3 +13,11 @@ CFRef<CGImage> CGImageCreateWithPNGDataProvider(const CGDataProvider* source, co
     const QImage image = decodeImage(source->data()->bytes(), "png");
     return image.isNull() ? nullptr : CFRef<CGImage>::adopt(new CGImage(image));
 }
+
+std::size_t CGImageGetWidth(const CGImage* image) {
+    return static_cast<std::size_t>(image->image().width());
+}
+
+std::size_t CGImageGetHeight(const CGImage* image) {
+    return static_cast<std::size_t>(image->image().height());
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/CoreGraphics/CGContext.h"
 #include "platform/CoreGraphics/CGDataProvider.h"
 #include "platform/CoreGraphics/CGGeometry.h"
 
@@ -30,3 +31,11 @@ enum CGColorRenderingIntent { kCGRenderingIntentDefault = 0 };
 CFRef<CGImage> CGImageCreateWithPNGDataProvider(const CGDataProvider* source, const CGFloat* decode,
                                                 bool shouldInterpolate,
                                                 CGColorRenderingIntent intent);
+
+/// In pixels.
+std::size_t CGImageGetWidth(const CGImage* image);
+std::size_t CGImageGetHeight(const CGImage* image);
+
+/// Draws the image into the rectangle, its top where y is largest. It lies on whole pixels of the
+/// screen. A scale of whole numbers keeps its pixels' edges sharp, any other smooths them.
+void CGContextDrawImage(CGContext* context, CGRect rect, const CGImage* image);

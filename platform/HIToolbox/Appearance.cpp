@@ -100,6 +100,14 @@ OSStatus DrawThemeButton(const Rect* bounds, ThemeButtonKind kind, const ThemeBu
     return noErr;
 }
 
+OSStatus SetThemeBackground(ThemeBrush, SInt16, bool) {
+    GrafPort* port = GrafPort::current();
+    if (!port)
+        return kThemeNoPortErr;
+    port->background = port->widget().palette().color(QPalette::Window);
+    return noErr;
+}
+
 OSStatus DrawThemeFocusRect(const Rect* rect, bool hasFocus) {
     GrafPort* port = GrafPort::current();
     if (!port)

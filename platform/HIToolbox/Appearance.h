@@ -39,6 +39,12 @@ OSStatus DrawThemeButton(const Rect* bounds, ThemeButtonKind kind, const ThemeBu
                          const ThemeButtonDrawInfo* previousInfo, ThemeEraseUPP erase,
                          ThemeButtonDrawUPP label, void* userData);
 
+enum ThemeBrush : SInt16 { kThemeBrushUtilityWindowBackgroundActive = 7 /**< of palettes */ };
+
+/// Gives the current port the brush's colour as its background. Depth and kind of the device make
+/// no difference. kThemeNoPortErr outside of drawing.
+OSStatus SetThemeBackground(ThemeBrush brush, SInt16 depth, bool isColorDevice);
+
 /// Draws the ring that shows where the keyboard acts, just inside the rectangle; nothing when
 /// `hasFocus` is false, as every view is erased before it is drawn.
 OSStatus DrawThemeFocusRect(const Rect* rect, bool hasFocus);

@@ -20,11 +20,16 @@ GrafPort::GrafPort(QPainter& painter, const QWidget& widget)
 }
 
 GrafPort::~GrafPort() {
-    currentPort = previous_;
+    if (currentPort == this)
+        currentPort = previous_;
 }
 
 GrafPort* GrafPort::current() {
     return currentPort;
+}
+
+void GrafPort::setCurrent(GrafPort* port) {
+    currentPort = port;
 }
 
 Rect toRect(const QRect& rect) {
@@ -34,6 +39,10 @@ Rect toRect(const QRect& rect) {
 
 void GetPort(GrafPtr* port) {
     *port = GrafPort::current();
+}
+
+void SetPort(GrafPtr port) {
+    GrafPort::setCurrent(port);
 }
 
 Rect* GetPortBounds(GrafPtr port, Rect* bounds) {

@@ -18,6 +18,9 @@ public:
 
     /// Null when there is none.
     static GrafPort* current();
+    static void setCurrent(GrafPort* port);
+
+    QColor background = Qt::white;
 
     QPainter& painter() { return painter_; }
 

@@ -2,6 +2,10 @@
 
 #include "platform/CoreFoundation/CFBase.h"
 
+#include <memory>
+
+class QRegion;
+
 /// A place in a port, in points from its top-left corner; v grows downward.
 struct Point {
     SInt16 v = 0;
@@ -27,3 +31,34 @@ void GetPort(GrafPtr* port);
 
 /// The whole view, with its top-left corner at 0, 0. Gives `bounds` back.
 Rect* GetPortBounds(GrafPtr port, Rect* bounds);
+
+/// Makes the port current; null for none.
+void SetPort(GrafPtr port);
+
+// What follows acts on the current port, and does nothing without one.
+
+struct RgnDisposer {
+    void operator()(QRegion* region) const;
+};
+
+/// Any set of points of a port. Who holds the handle owns the region.
+using RgnHandle = std::unique_ptr<QRegion, RgnDisposer>;
+
+/// An empty region.
+RgnHandle NewRgn();
+
+/// Makes `region` the clip, the part of the port that is drawn in; at first that is all of it.
+void GetClip(const RgnHandle& region);
+void SetClip(const RgnHandle& region);
+void ClipRect(const Rect* rect);
+
+/// Fills with the port's background: white, or what SetThemeBackground has set.
+void EraseRect(const Rect* rect);
+
+/// Black, one point wide.
+void PenNormal();
+/// Draws along the inside of the rectangle's edges with the pen's colour, one point wide.
+void FrameRect(const Rect* rect);
+
+/// Moves the rectangle; an edge that 16 bits can't hold becomes the nearest that they can.
+void OffsetRect(Rect* rect, SInt16 dh, SInt16 dv);

@@ -1,0 +1,7 @@
+#include "platform/AppKit/NSQuickDrawView.h"
+
+#include "platform/AppKit/ViewWidget.h"
+
+GrafPtr NSQuickDrawView::qdPort() const {
+    return static_cast<const ViewWidget*>(widget())->port();
+}
