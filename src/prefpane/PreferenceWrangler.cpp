@@ -8,6 +8,7 @@
 #include "platform/AppKit/NSTextField.h"
 #include "platform/HIToolbox/AppleHelp.h"
 #include "src/prefpane/BumperController.h"
+#include "src/prefpane/SampleScanView.h"
 #include "src/prefpane/SliderController.h"
 #include "src/prefpane/palutil.h"
 
@@ -51,9 +52,11 @@ std::span<const NSOutlet> PreferenceWrangler::outlets() const {
         nsOutlet<&W::playDragPrompts_>("playDragPrompts"),
         nsOutlet<&W::pointerScanTime_>("pointerScanTime"),
         nsOutlet<&W::afterClickDelay_>("afterClickDelay"),
+        nsOutlet<&W::pointerName_>("pointerName"),
         nsOutlet<&W::preScanDelayTime_>("preScanDelayTime"),
         nsOutlet<&W::removeButtonBtn_>("removeButtonBtn"),
         nsOutlet<&W::resetActionsBtn_>("resetActionsBtn"),
+        nsOutlet<&W::sampleScanImage_>("sampleScanImage"),
         nsOutlet<&W::scanModeRadios_>("scanModeRadios"),
         nsOutlet<&W::setActionBtn_>("setActionBtn"),
         nsOutlet<&W::stepScanCancelTime_>("stepScanCancelTime"),
@@ -93,6 +96,8 @@ std::span<const NSAction> PreferenceWrangler::actions() const {
         nsAction<&W::changedButtonShape>("changedButtonShape:"),
         nsAction<&W::changedButtonContentName>("changedButtonContentName:"),
         nsAction<&W::changedButtonContentIcon>("changedButtonContentIcon:"),
+        nsAction<&W::previousPointer>("previousPointer:"),
+        nsAction<&W::nextPointer>("nextPointer:"),
     };
     return table;
 }
@@ -209,6 +214,8 @@ void PreferenceWrangler::loadValues() {
     lineColor_->setColor(NSColor::colorWithDeviceRed(prefs.lineColor.red / 255.0,
                                                      prefs.lineColor.green / 255.0,
                                                      prefs.lineColor.blue / 255.0, 1.0));
+    showSampleLineType(kSampleScanLine);
+    updatePointerName();
     buttonHeightChange_ = buttonWidthChange_ = buttonSizeChange_ = 0;
     resetPaletteControls();
     updateTriggerUI();

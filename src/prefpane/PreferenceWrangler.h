@@ -12,6 +12,7 @@ class NSMatrix;
 class NSMenuItem;
 class NSTabView;
 class NSTextField;
+class SampleScanView;
 class SliderController;
 
 /// The pane's one controller: it binds every control to its field of `prefs`, shows the fields in
@@ -49,6 +50,8 @@ public:
     /// The agent reported its state: it is kept, and not sent back.
     void setMasterOnOff(bool on);
     void updateTriggerUI();
+    /// Makes the preview show that line. Doesn't redraw it.
+    void showSampleLineType(SInt32 type);
     void updateScanAreaRadios();
 
     void changedMasterOnOff(NSMatrix* sender);
@@ -94,7 +97,17 @@ public:
     /// Folds the bumpers' pending steps into the button size.
     void changedButtonSizes();
 
+    // PreferenceWranglerPointers.cpp: the choice of a pointer
+
+    void previousPointer(NSButton* sender);
+    void nextPointer(NSButton* sender);
+    /// Chooses the next pointer, or the previous one, and reports the change, also when it is the
+    /// same one. Does nothing when the agent has no pointers.
+    void bumpPointer(bool forward);
+
 private:
+    /// Shows the name of the pointer that the preview draws.
+    void updatePointerName();
     void setFlag(UInt8& flag, NSButton* sender, ChangeMask changes);
     void commitPaletteEdit();
     /// Says what is selected and what a swap waits for.
@@ -130,8 +143,10 @@ private:
     SliderController* pointerScanTime_ = nullptr;
     SliderController* afterClickDelay_ = nullptr;
     SliderController* preScanDelayTime_ = nullptr;
+    NSTextField* pointerName_ = nullptr;
     NSButton* removeButtonBtn_ = nullptr;
     NSButton* resetActionsBtn_ = nullptr;
+    SampleScanView* sampleScanImage_ = nullptr;
     NSMatrix* scanModeRadios_ = nullptr;
     NSPopUpButton* setActionBtn_ = nullptr;
     SliderController* stepScanCancelTime_ = nullptr;

@@ -5,8 +5,13 @@
 #include "platform/AppKit/NSMatrix.h"
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "src/prefpane/Daemon.h"
+#include "src/prefpane/SampleScanView.h"
 
 namespace {
+
+/// What the preview shows.
+constexpr ChangeMask kPreviewChanges =
+    kChangeScanLineLook | kChangeGuideLineLook | kChangePointer | kChangePalette;
 
 /// Whether the area can be scanned: neither side is zero or less.
 bool isUsable(const ScanArea& area) {
@@ -36,6 +41,21 @@ void PreferenceWrangler::changed(ChangeMask changes) {
 void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {
     if (changes & kChangeTriggers)
         updateTriggerUI();
+
+    // The line whose own look changed is shown; one that changed with the other isn't.
+    const ChangeMask look = changes & (kChangeScanLineLook | kChangeGuideLineLook);
+    if (look == kChangeScanLineLook)
+        showSampleLineType(kSampleScanLine);
+    else if (look == kChangeGuideLineLook)
+        showSampleLineType(kSampleGuideLine);
+    if (changes & kPreviewChanges)
+        sampleScanImage_->setNeedsDisplay(true);
+    if (changes & kChangePointer)
+        updatePointerName();
+}
+
+void PreferenceWrangler::showSampleLineType(SInt32 type) {
+    sampleScanImage_->setSampleLineType(type);
 }
 
 void PreferenceWrangler::updateMasterOnOff() {

@@ -4,6 +4,7 @@
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/PreferenceWrangler.h"
 #include "src/prefpane/palutil.h"
+#include "src/prefpane/ptrman.h"
 
 NS_REGISTER_CLASS(VLDKorvexPane);
 
@@ -35,6 +36,7 @@ void VLDKorvexPane::willSelect() {
 }
 
 void VLDKorvexPane::didUnselect() {
+    ptrmanCleanup();
     palutilCleanup();
     prefsCleanup();
     daemonCleanup();

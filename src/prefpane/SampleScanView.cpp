@@ -1,0 +1,189 @@
+#include "src/prefpane/SampleScanView.h"
+
+#include "platform/AppKit/NSColor.h"
+#include "platform/AppKit/NSEvent.h"
+#include "platform/AppKit/NSGraphics.h"
+#include "platform/AppKit/NSStringDrawing.h"
+#include "platform/HIToolbox/Appearance.h"
+#include "src/prefpane/Daemon.h"
+#include "src/prefpane/palutil.h"
+#include "src/prefs.h"
+#include "src/ptrutil.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <limits>
+
+NS_REGISTER_CLASS(SampleScanView);
+
+namespace {
+
+/// The actions of the sample's two buttons, whatever the palette's own are.
+constexpr UInt8 kFirstAction = 20;
+constexpr UInt8 kSecondAction = 21;
+
+constexpr SInt16 kColorDepth = 32; ///< bits
+constexpr float kLabelMargin = 2;  ///< points
+constexpr float kFrameWidth = 1;
+constexpr float kFocusedFrameWidth = 3; ///< stays clear of the label
+
+/// What tells the two lines apart.
+struct LineLook {
+    const char* label;
+    double transparency; ///< percent
+};
+
+LineLook lookOf(SInt32 lineType) {
+    if (lineType == kSampleScanLine)
+        return {"Scan Line", prefs.lineTransparency};
+    return {"Guide Line", prefs.lineGhostTransparency};
+}
+
+NSColor lineColor(double transparency) {
+    return NSColor::colorWithDeviceRed(prefs.lineColor.red / 255.0, prefs.lineColor.green / 255.0,
+                                       prefs.lineColor.blue / 255.0,
+                                       (100.0 - transparency) / 100.0);
+}
+
+/// Coordinates that 16 bits may be too small for: settings that a file gives aren't limited.
+using Wide = std::int64_t;
+
+SInt16 toCoordinate(Wide value) {
+    using Limits = std::numeric_limits<SInt16>;
+    return static_cast<SInt16>(std::clamp<Wide>(value, Limits::min(), Limits::max()));
+}
+
+Rect rectOf(Wide top, Wide left, Wide height, Wide width) {
+    return {toCoordinate(top), toCoordinate(left), toCoordinate(top + height),
+            toCoordinate(left + width)};
+}
+
+/// The sample palette in a view of these bounds: at its left edge, centred vertically.
+Rect paletteFrame(const NSRect& bounds) {
+    const Wide border = prefs.borderGap, gap = prefs.buttonGap;
+    const Wide height = prefs.buttonSize.height + 2 * border + 2;
+    const Wide width = 2 * (border + gap + prefs.buttonSize.width + 1);
+    const auto middle = static_cast<Wide>(bounds.y + bounds.height * 0.5F);
+    return rectOf(middle - height / 2, static_cast<Wide>(bounds.x), height, width);
+}
+
+void drawSampleButtons(const Rect& frame) {
+    const Wide border = prefs.borderGap, gap = prefs.buttonGap;
+    Rect button = rectOf(frame.top + border + 1, frame.left + border + gap, prefs.buttonSize.height,
+                         prefs.buttonSize.width);
+    palutilDrawBtn(kFirstAction, 0, button);
+    OffsetRect(&button, toCoordinate(gap + prefs.buttonSize.width), 0);
+    palutilDrawBtn(kSecondAction, 0, button);
+}
+
+} // namespace
+
+void SampleScanView::setSampleLineType(SInt32 type) {
+    lineSampleType_ = type;
+    NSAccessibilityPostNotification(this, NSAccessibilityTitleChangedNotification);
+}
+
+void SampleScanView::showOtherLine() {
+    setSampleLineType(static_cast<SInt32>(1U - static_cast<UInt32>(lineSampleType_)));
+    setNeedsDisplay(true);
+}
+
+void SampleScanView::mouseDown(NSEvent*) {
+    showOtherLine();
+}
+
+void SampleScanView::keyDown(NSEvent* event) {
+    switch (event->charactersIgnoringModifiers()) {
+    case u' ':
+    case NSCarriageReturnCharacter:
+    case NSEnterCharacter:
+        return showOtherLine();
+    default:
+        event->passOn();
+    }
+}
+
+void SampleScanView::drawRect(const NSRect&) {
+    NSColor::lightGrayColor().set();
+    NSRectFill(bounds());
+    drawScanLine();
+    drawPalette();
+    drawPointer();
+    NSColor::blackColor().set();
+    NSFrameRectWithWidth(bounds(), isFirstResponder() ? kFocusedFrameWidth : kFrameWidth);
+}
+
+void SampleScanView::drawScanLine() {
+    const auto [label, transparency] = lookOf(lineSampleType_);
+    const NSRect whole = bounds();
+    const auto thickness = static_cast<float>(prefs.lineThickness);
+    const float top = whole.y + whole.height * 0.5F - static_cast<float>(prefs.lineThickness / 2);
+
+    NSGraphicsContext* context = NSGraphicsContext::currentContext();
+    const bool antialiases = context->shouldAntialias();
+    context->setShouldAntialias(false);
+    lineColor(transparency).set();
+    NSRectFillUsingOperation({whole.x + 1, top, whole.width - 2, thickness}, NSCompositeSourceOver);
+    context->setShouldAntialias(antialiases);
+
+    const auto text = CFStringCreateWithUTF8(label);
+    const NSStringAttributes attributes{NSFont::systemFontOfSize(NSFont::smallSystemFontSize())};
+    const NSSize size = sizeWithAttributes(text.get(), attributes);
+    drawAtPoint(text.get(), {whole.x + whole.width - size.width - kLabelMargin, top + thickness},
+                attributes);
+}
+
+void SampleScanView::drawPalette() {
+    GrafPtr before;
+    GetPort(&before);
+    SetPort(qdPort());
+    const Rect frame = paletteFrame(bounds());
+    SetThemeBackground(kThemeBrushUtilityWindowBackgroundActive, kColorDepth, true);
+    EraseRect(&frame);
+    const RgnHandle clip = NewRgn();
+    GetClip(clip);
+    ClipRect(&frame);
+    drawSampleButtons(frame);
+    SetClip(clip);
+    PenNormal();
+    FrameRect(&frame);
+    SetPort(before);
+}
+
+void SampleScanView::drawPointer() {
+    PointerImage pointer;
+    if (!ptrutilLoadPointerFromBundle(daemonMainBundle(), prefs.pointerImageName, &pointer))
+        return;
+    const NSRect whole = bounds();
+    const auto context = NSGraphicsContext::currentContext()->graphicsPort();
+    CGContextSaveGState(context.get());
+    CGContextTranslateCTM(context.get(), 0, whole.height);
+    CGContextScaleCTM(context.get(), 1, -1);
+    const auto width = static_cast<CGFloat>(CGImageGetWidth(pointer.image.get()));
+    const auto height = static_cast<CGFloat>(CGImageGetHeight(pointer.image.get()));
+    const CGFloat left = std::trunc(whole.x + whole.width * 0.5F - pointer.hotSpot.x);
+    const CGFloat bottom = std::trunc(whole.y + whole.height * 0.5F - height + pointer.hotSpot.y);
+    CGContextDrawImage(context.get(), CGRectMake(left, bottom, width, height), pointer.image.get());
+    CGContextRestoreGState(context.get());
+    ptrutilDisposePointer(&pointer);
+}
+
+std::string SampleScanView::accessibilityTitle() const {
+    return lineSampleType_ == kSampleScanLine ? "Preview of the scan line"
+                                              : "Preview of the guide line";
+}
+
+std::string SampleScanView::accessibilityValue() const {
+    char text[160];
+    std::snprintf(text, sizeof text,
+                  "%d points thick, %.0f%% transparent, red %u, green %u, blue %u, each of 255.",
+                  prefs.lineThickness, lookOf(lineSampleType_).transparency, prefs.lineColor.red,
+                  prefs.lineColor.green, prefs.lineColor.blue);
+    return text;
+}
+
+void SampleScanView::accessibilityPerformPress() {
+    showOtherLine();
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+// The names of the agent's pointers (src/ptrutil.h), in the order of the folder's listing. The
+// folder is read once a visit of the pane, when a name is first asked for; without an agent or
+// folder there are no names until the next visit.
+
+/// The longest name, in bytes.
+constexpr int kMaxPointerNameLength = 99;
+/// Further names aren't listed.
+constexpr int kMaxPointers = 250;
+
+/// Writes the name after or before the current one to `out`, which has kMaxPointerNameLength + 1
+/// bytes; it may be the same one. After the last name comes the first. Letter case is ignored; a
+/// current name that is null, empty or not listed gives the first or last name. False, with `out`
+/// left as it was, when there are no names.
+bool ptrmanGetNextPointer(const char* current, bool forward, char* out);
+
+/// Forgets all names.
+void ptrmanCleanup();
