@@ -112,6 +112,7 @@ int main(int argc, char** argv) {
     addPrefsFigures();
     addLinkFigures();
     addPaletteFigures();
+    addPreviewFigures();
     addStartFigures();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))

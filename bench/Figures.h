@@ -28,6 +28,7 @@ void addFigure(const std::string& name, Limit limit, Measure measured, Measure f
 void addPrefsFigures();
 void addLinkFigures();
 void addPaletteFigures();
+void addPreviewFigures();
 void addStartFigures();
 
 /// Calls `work` and gives the seconds that it took.

@@ -30,7 +30,7 @@ class AgentLog:
         check(event["event"] == name, f"the agent heard {shorten(event)}, not {name}")
         return event
 
-    def expect_change(self, mask: int, field: str, value: float | tuple) -> str:
+    def expect_change(self, mask: int, field: str, value: float | tuple | bytes) -> str:
         """The next event must be a changed record with that mask and value, in which nothing else
         is new. Returns an account of it."""
         event = self.expect("SAPr")

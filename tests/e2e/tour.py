@@ -15,7 +15,7 @@ import traceback
 from contextlib import suppress
 from pathlib import Path
 
-from tests.e2e import palette
+from tests.e2e import palette, pointers
 from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.screen import Screen, press
@@ -34,6 +34,7 @@ CHANGED = {
     "scanner.lineScanTime": "10.500000",
     "scanner.scanMode": "1",
     **palette.CHANGED,
+    **pointers.CHANGED,
 }
 
 
@@ -212,6 +213,7 @@ STEPS = (
     lengthen_line_scan_time,
     skip_the_menu_bar,
     choose_scan_mode,
+    *pointers.STEPS,
     *palette.STEPS,
     switch_off_and_on,
     follow_the_agent,

@@ -58,6 +58,7 @@ TEST_F(CFBundleTest, ResourcesAreFoundAndNothingOutside) {
     } cases[] = {
         {"list", "plist", nullptr, "list.plist"},
         {"list.plist", nullptr, nullptr, "list.plist"},
+        {"LIST", "Plist", nullptr, "list.plist"},
         {"a+1x2", "png", "Pointers", "Pointers/a+1x2.png"},
         {"Pointers", nullptr, nullptr, "Pointers"},
         {"list", nullptr, nullptr, nullptr},

@@ -1,0 +1,146 @@
+// Opens the pane beside its real agent, drags the scan line's transparency for ten seconds at 120
+// changes a second, and prints the most main-thread time in seconds that a change took together
+// with what was drawn for it. Fails when the agent didn't receive every change, in order.
+
+#include "platform/AppKit/NSView.h"
+#include "platform/CoreServices/Processes.h"
+#include "src/prefpane/VLDKorvexPane.h"
+#include "src/prefs.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using namespace std::chrono_literals;
+
+constexpr int kChanges = 1200;
+constexpr auto kInterval = 1'000'000'000ns / 120;
+
+double mainThreadSeconds() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+/// Runs the event loop until `condition` holds; false when it doesn't within ten seconds.
+template <class Condition>
+bool waitFor(Condition&& condition) {
+    const auto end = Clock::now() + 10s;
+    while (!condition()) {
+        if (Clock::now() > end)
+            return false;
+        QCoreApplication::processEvents();
+        std::this_thread::sleep_for(1ms);
+    }
+    return true;
+}
+
+ProcessSerialNumber findAgent() {
+    ProcessSerialNumber psn = kNoProcess;
+    while (GetNextProcess(&psn) == noErr) {
+        ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
+        if (GetProcessInformation(&psn, &info) == noErr &&
+            info.processSignature == fourCharCode("Krvx"))
+            return psn;
+    }
+    return kNoProcess;
+}
+
+/// The transparencies in the changes that the agent has logged, in its order.
+std::vector<double> received(const QString& log) {
+    std::vector<double> values;
+    QFile file(log);
+    if (!file.open(QIODevice::ReadOnly))
+        return values;
+    for (QByteArray line = file.readLine(); line.endsWith('\n'); line = file.readLine()) {
+        const QJsonObject event = QJsonDocument::fromJson(line).object();
+        if (event["event"].toString() != QLatin1String("SAPr"))
+            continue;
+        const QByteArray record = QByteArray::fromHex(event["record"].toString().toLatin1());
+        double value = -1;
+        std::memcpy(&value, record.constData() + offsetof(PrefsRecord, lineTransparency),
+                    sizeof value);
+        values.push_back(value);
+    }
+    return values;
+}
+
+/// Drags to and fro. Gives the longest frame, and what was sent.
+double drag(QSlider& slider, std::vector<double>& sent) {
+    double longest = 0;
+    int step = 1;
+    slider.setSliderDown(true);
+    auto next = Clock::now();
+    for (int i = 0; i < kChanges; ++i) {
+        std::this_thread::sleep_until(next += kInterval);
+        if (slider.value() == slider.maximum() || slider.value() == slider.minimum())
+            step = slider.value() == slider.minimum() ? 1 : -1;
+        const double before = mainThreadSeconds();
+        slider.setSliderPosition(slider.value() + step);
+        QCoreApplication::processEvents();
+        longest = std::max(longest, mainThreadSeconds() - before);
+        sent.push_back(prefs.lineTransparency);
+    }
+    slider.setSliderDown(false);
+    return longest;
+}
+
+void killAgent() {
+    ProcessSerialNumber agent = findAgent();
+    pid_t pid;
+    if (agent != kNoProcess && GetProcessPID(&agent, &pid) == noErr)
+        kill(pid, SIGTERM);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    const QTemporaryDir folder;
+    const QString log = folder.filePath(QStringLiteral("agent.log"));
+    qputenv("KORVEX_AGENT_LOG", log.toUtf8());
+    registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
+
+    VLDKorvexPane pane;
+    const auto bundle =
+        CFBundleCreate(CFURLCreateFromFileSystemRepresentation(KORVEX_BUNDLE, true).get());
+    std::vector<std::string> errors;
+    pane.initWithBundle(bundle.get());
+    if (!pane.loadMainView(errors))
+        return EXIT_FAILURE;
+    pane.mainViewDidLoad();
+    pane.willSelect();
+    QWidget* window = pane.mainView()->widget();
+    auto* slider = window->findChild<QSlider*>(QStringLiteral("lineTransparencySlider"));
+    window->findChild<QTabWidget*>(QStringLiteral("prefsTabs"))
+        ->setCurrentWidget(window->findChild<QWidget*>(QStringLiteral("appearanceTab")));
+    window->show();
+    const bool agentRuns = waitFor([] { return findAgent() != kNoProcess; });
+
+    std::vector<double> sent;
+    const double longest = drag(*slider, sent);
+    const bool arrived = waitFor([&] { return received(log).size() >= sent.size(); });
+    const bool inOrder = received(log) == sent;
+    pane.didUnselect();
+    killAgent();
+    std::printf("%.9f\n", longest);
+    return agentRuns && arrived && inOrder ? EXIT_SUCCESS : EXIT_FAILURE;
+}
