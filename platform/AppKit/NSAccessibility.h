@@ -41,6 +41,17 @@ protected:
     ~NSAccessibilityButton() = default;
 };
 
+/// A view that draws one text, its value. Texts are UTF-8.
+class NSAccessibilityText {
+public:
+    virtual std::string accessibilityValue() const = 0;
+    /// What it is about to do, in place of its help; empty for nothing in particular.
+    virtual std::string accessibilityStatus() const = 0;
+
+protected:
+    ~NSAccessibilityText() = default;
+};
+
 enum NSAccessibilityNotification {
     NSAccessibilityFocusedUIElementChangedNotification,
     NSAccessibilitySelectedChildrenChangedNotification,
@@ -55,3 +66,6 @@ enum NSAccessibilityViewNotification { NSAccessibilityTitleChangedNotification }
 
 /// Tells a running screen reader that the view itself is called something else.
 void NSAccessibilityPostNotification(NSView* view, NSAccessibilityViewNotification notification);
+
+/// Tells a running screen reader that the view's value or status changed.
+void NSAccessibilityPostValueChanged(const NSAccessibilityText& view);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/AppKit/NSGeometry.h"
+#include "platform/HIToolbox/KeyCodes.h"
 
 // Characters that stand for keys without a letter, in the Unicode private use area as on the
 // platform.
@@ -14,18 +15,43 @@ constexpr char16_t NSCarriageReturnCharacter = 0x000D;
 constexpr char16_t NSEnterCharacter = 0x0003; ///< of the keypad
 constexpr char16_t NSEscapeCharacter = 0x001B;
 
-/// A press of the mouse's left button or of a key, on its way to a view.
+/// Modifier keys, whichever of the two of a kind is held. On Linux command is the Super key, and
+/// option is Alt and AltGr.
+enum NSEventModifierFlags : UInt32 {
+    NSAlphaShiftKeyMask = 1 << 16, ///< caps lock is on
+    NSShiftKeyMask = 1 << 17,
+    NSControlKeyMask = 1 << 18,
+    NSAlternateKeyMask = 1 << 19,
+    NSCommandKeyMask = 1 << 20,
+};
+
+/// The key of an event.
+struct NSEventKey {
+    char16_t character = 0; ///< one of the constants above or a letter; 0 when it has neither
+    UInt16 code = kNoKeyCode;
+    UInt32 modifierFlags = 0; ///< what was held beside it
+    bool isARepeat = false;   ///< the key was down already
+};
+
+/// A press of the mouse's left button, of a key or of a modifier key, on its way to a view.
 class NSEvent {
 public:
-    static NSEvent mouseDown(NSPoint locationInWindow) { return {locationInWindow, 0}; }
+    static NSEvent mouseDown(NSPoint locationInWindow) { return {locationInWindow, {}}; }
 
-    static NSEvent keyDown(char16_t character) { return {{}, character}; }
+    static NSEvent key(const NSEventKey& key) { return {{}, key}; }
 
     /// Of the mouse; y grows downward.
     NSPoint locationInWindow() const { return locationInWindow_; }
 
     /// Of the key, one of the constants above or a letter; 0 for a key that has neither.
-    char16_t charactersIgnoringModifiers() const { return character_; }
+    char16_t charactersIgnoringModifiers() const { return key_.character; }
+
+    /// The virtual key code, which names the key by its place, or kNoKeyCode.
+    UInt16 keyCode() const { return key_.code; }
+
+    UInt32 modifierFlags() const { return key_.modifierFlags; }
+
+    bool isARepeat() const { return key_.isARepeat; }
 
     /// A view that has no use for the event gives it back to those around it.
     void passOn() { passedOn_ = true; }
@@ -33,10 +59,10 @@ public:
     bool isPassedOn() const { return passedOn_; }
 
 private:
-    NSEvent(NSPoint locationInWindow, char16_t character)
-        : locationInWindow_(locationInWindow), character_(character) {}
+    NSEvent(NSPoint locationInWindow, const NSEventKey& key)
+        : locationInWindow_(locationInWindow), key_(key) {}
 
     NSPoint locationInWindow_;
-    char16_t character_;
+    NSEventKey key_;
     bool passedOn_ = false;
 };

@@ -25,6 +25,10 @@ NSView* NSView::superview() const {
     return detached_ ? nullptr : superview_;
 }
 
+NSWindow NSView::window() const {
+    return NSWindow(widget_->window());
+}
+
 void NSView::removeFromSuperview() {
     if (!superview())
         return;
@@ -72,6 +76,15 @@ NSPoint NSView::convertPoint(NSPoint point, const NSView* view) const {
     return {static_cast<float>(own.x()), static_cast<float>(own.y())};
 }
 
+std::string NSView::accessibilityLabel() const {
+    return widget_->accessibleName().toStdString();
+}
+
+void NSView::setAccessibilityHelp(std::string_view help) {
+    widget_->setAccessibleDescription(
+        QString::fromUtf8(help.data(), static_cast<qsizetype>(help.size())));
+}
+
 bool NSView::isFirstResponder() const {
     return widget_->hasFocus();
 }
@@ -84,4 +97,20 @@ void NSView::mouseDown(NSEvent* event) {
 
 void NSView::keyDown(NSEvent* event) {
     event->passOn();
+}
+
+bool NSView::performKeyEquivalent(NSEvent*) {
+    return false;
+}
+
+void NSView::flagsChanged(NSEvent* event) {
+    event->passOn();
+}
+
+bool NSView::becomeFirstResponder() {
+    return true;
+}
+
+bool NSView::resignFirstResponder() {
+    return true;
 }

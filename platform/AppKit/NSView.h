@@ -2,6 +2,7 @@
 
 #include "platform/AppKit/NSGeometry.h"
 #include "platform/AppKit/NSObject.h"
+#include "platform/AppKit/NSWindow.h"
 
 class NSEvent;
 class QWidget;
@@ -17,6 +18,8 @@ public:
 
     /// The view that holds this one; null for the main view and for a detached view.
     NSView* superview() const;
+
+    NSWindow window() const;
 
     /// Detaches the view: it vanishes from its superview, which keeps its place free, and stays
     /// alive with its frame unchanged.
@@ -34,6 +37,11 @@ public:
     /// From the coordinates of another view, or of the window when `view` is null, to its own.
     NSPoint convertPoint(NSPoint point, const NSView* view) const;
 
+    /// What a screen reader calls it, in UTF-8; given by the form.
+    std::string accessibilityLabel() const;
+    /// What a screen reader says of it besides; UTF-8.
+    void setAccessibilityHelp(std::string_view help);
+
     /// Whether the keyboard acts on it: it has the focus, in the active window.
     bool isFirstResponder() const;
 
@@ -43,6 +51,19 @@ public:
     virtual void drawRect(const NSRect& dirtyRect);
     virtual void mouseDown(NSEvent* event);
     virtual void keyDown(NSEvent* event);
+
+    /// Offers a key, held with others or alone, before any shortcut sees it. Asked of the view that
+    /// the keyboard acts on; true when that was its use, and it goes no further.
+    virtual bool performKeyEquivalent(NSEvent* event);
+
+    /// A modifier key went down or up.
+    virtual void flagsChanged(NSEvent* event);
+
+    /// The view became its window's first responder, which it stays while another window is active.
+    /// The answer, true, says nothing here.
+    virtual bool becomeFirstResponder();
+    /// It no longer is. The answer, true, says nothing here.
+    virtual bool resignFirstResponder();
 
     /// Whether it can have the focus: by Tab and by click, or as its focusPolicy in the form says.
     /// Asked once, when it gets its widget.

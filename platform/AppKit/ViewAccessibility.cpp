@@ -2,6 +2,7 @@
 
 #include "platform/AppKit/NSAccessibility.h"
 #include "platform/AppKit/NSView.h"
+#include "platform/AppKit/TextAccessibility.h"
 #include "platform/AppKit/ViewWidget.h"
 
 #include <QAccessible>
@@ -173,12 +174,13 @@ private:
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     auto* widget = dynamic_cast<ViewWidget*>(object);
-    if (!widget)
-        return nullptr;
-    if (auto* list = dynamic_cast<NSAccessibilityList*>(widget->view()))
+    NSView* view = widget ? widget->view() : nullptr;
+    if (auto* list = dynamic_cast<NSAccessibilityList*>(view))
         return new ListInterface(widget, *list);
-    if (auto* button = dynamic_cast<NSAccessibilityButton*>(widget->view()))
+    if (auto* button = dynamic_cast<NSAccessibilityButton*>(view))
         return new ButtonInterface(widget, *button);
+    if (auto* text = dynamic_cast<NSAccessibilityText*>(view))
+        return makeTextAccessibility(*widget, *text);
     return nullptr;
 }
 

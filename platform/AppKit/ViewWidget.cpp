@@ -11,6 +11,7 @@
 #include <QVariant>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -33,6 +34,31 @@ char16_t characterOf(const QKeyEvent& event) {
         if (row.key == event.key())
             return row.character;
     return event.text().isEmpty() ? u'\0' : event.text().front().unicode();
+}
+
+UInt32 modifierFlagsOf(const QKeyEvent& event) {
+    static constexpr struct {
+        Qt::KeyboardModifier modifier;
+        UInt32 flag;
+    } kTable[] = {
+        {Qt::ShiftModifier, NSShiftKeyMask},   {Qt::ControlModifier, NSControlKeyMask},
+        {Qt::AltModifier, NSAlternateKeyMask}, {Qt::GroupSwitchModifier, NSAlternateKeyMask},
+        {Qt::MetaModifier, NSCommandKeyMask},
+    };
+
+    constexpr quint32 kLockMask = 1 << 1; // of X11's modifiers
+
+    UInt32 flags = event.nativeModifiers() & kLockMask ? NSAlphaShiftKeyMask : 0u;
+    for (const auto& row : kTable)
+        flags |= event.modifiers().testFlag(row.modifier) ? row.flag : 0u;
+    return flags;
+}
+
+NSEventKey keyOf(const QKeyEvent& event) {
+    return {.character = characterOf(event),
+            .code = virtualKeyCode(event.nativeScanCode()),
+            .modifierFlags = modifierFlagsOf(event),
+            .isARepeat = event.isAutoRepeat()};
 }
 
 } // namespace
@@ -79,19 +105,70 @@ void ViewWidget::mousePressEvent(QMouseEvent* event) {
     event->setAccepted(!down.isPassedOn());
 }
 
+// Every press begins with the question whether it is a shortcut.
+bool ViewWidget::isKeyTaken(QEvent& event) {
+    if (event.type() == QEvent::KeyPress)
+        return std::exchange(isKeyTaken_, false);
+    if (event.type() != QEvent::ShortcutOverride)
+        return false;
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    NSEvent down = NSEvent::key(keyOf(key));
+    isKeyTaken_ = !isModifierKey(key) && view_->performKeyEquivalent(&down);
+    return isKeyTaken_;
+}
+
+bool ViewWidget::event(QEvent* event) {
+    if (!isKeyTaken(*event))
+        return QWidget::event(event);
+    event->accept();
+    return true;
+}
+
 void ViewWidget::keyPressEvent(QKeyEvent* event) {
     constexpr auto kModifiers = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    NSEvent down = NSEvent::keyDown(characterOf(*event));
-    if (event->modifiers() & kModifiers)
+    NSEvent down = NSEvent::key(keyOf(*event));
+    if (isModifierKey(*event))
+        view_->flagsChanged(&down);
+    else if (event->modifiers() & kModifiers)
         down.passOn(); // a shortcut of the window's or the desktop's
     else
         view_->keyDown(&down);
     event->setAccepted(!down.isPassedOn());
 }
 
+void ViewWidget::keyReleaseEvent(QKeyEvent* event) {
+    NSEvent up = NSEvent::key(keyOf(*event));
+    if (isModifierKey(*event))
+        view_->flagsChanged(&up);
+    else
+        up.passOn();
+    event->setAccepted(!up.isPassedOn());
+}
+
 void ViewWidget::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event); // which repaints, as does losing the focus
+    updateFirstResponder();
     notifyFocusInside(*this);
+}
+
+void ViewWidget::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    updateFirstResponder();
+}
+
+// The keyboard also comes and goes with the window, which keeps its first responder meanwhile.
+void ViewWidget::updateFirstResponder() {
+    const bool isFirst = window()->focusWidget() == this;
+    if (std::exchange(isFirstResponder_, isFirst) == isFirst)
+        return;
+    if (isFirst) {
+        view_->becomeFirstResponder();
+        return;
+    }
+    // Or it would be given back with its tab's page.
+    if (!(focusPolicy() & Qt::TabFocus))
+        clearFocus();
+    view_->resignFirstResponder();
 }
 
 void ViewWidget::changeEvent(QEvent* event) {

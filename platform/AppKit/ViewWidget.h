@@ -23,13 +23,21 @@ public:
     int heightForWidth(int width) const override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
+    bool isKeyTaken(QEvent& event);
+    void updateFirstResponder();
+
     NSView* view_ = nullptr;
     GrafPort* port_ = nullptr;
+    bool isFirstResponder_ = false;
+    bool isKeyTaken_ = false; ///< the view had a use for the key of which Qt has yet to tell
 };

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 
-UInt32 GetCurrentEventKeyModifiers() {
+namespace {
+
+UInt32 toCarbon(Qt::KeyboardModifiers held) {
     static constexpr struct {
         Qt::KeyboardModifier modifier;
         UInt32 key;
@@ -10,14 +12,24 @@ UInt32 GetCurrentEventKeyModifiers() {
         {Qt::MetaModifier, cmdKey},
         {Qt::ShiftModifier, shiftKey},
         {Qt::AltModifier, optionKey},
+        {Qt::GroupSwitchModifier, optionKey}, // AltGr is Apple's right option key
         {Qt::ControlModifier, controlKey},
     };
 
-    const Qt::KeyboardModifiers held = QGuiApplication::keyboardModifiers();
     UInt32 keys = 0;
     for (const auto& row : kTable)
         keys |= held.testFlag(row.modifier) ? row.key : 0;
     return keys;
+}
+
+} // namespace
+
+UInt32 GetCurrentEventKeyModifiers() {
+    return toCarbon(QGuiApplication::keyboardModifiers());
+}
+
+UInt32 GetCurrentKeyModifiers() {
+    return toCarbon(QGuiApplication::queryKeyboardModifiers());
 }
 
 void SysBeep(SInt16) {

@@ -14,5 +14,8 @@ enum : UInt32 {
 /// The modifier keys that were held when the event being handled was made.
 UInt32 GetCurrentEventKeyModifiers();
 
+/// The modifier keys that are held at this moment, of which the display is asked.
+UInt32 GetCurrentKeyModifiers();
+
 /// The system beep; `duration` says nothing here.
 void SysBeep(SInt16 duration);

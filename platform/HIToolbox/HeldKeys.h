@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <map>
+
+class QKeyEvent;
+
+/// Which keys are down, by their scan codes. Qt alone can't tell: while a key repeats, X11 reports
+/// it up and down again, and Qt, when it hasn't received the second half yet, takes the first for a
+/// real release. So the display's server is asked what is held in truth; elsewhere Qt is believed.
+class HeldKeys {
+public:
+    /// Starts anew with what is down at this moment.
+    void reset();
+
+    /// Takes in a press; true when the key was down already. Asked again of the same press it
+    /// answers the same.
+    bool isRepeat(const QKeyEvent& press);
+
+    /// Takes in a release; true when the key really is up.
+    bool isUp(const QKeyEvent& release);
+
+    bool contains(quint32 scanCode) const { return since_.contains(scanCode); }
+
+    bool isEmpty() const { return since_.empty(); }
+
+private:
+    std::map<quint32, quint64> since_; ///< the time stamp of each key's press
+};

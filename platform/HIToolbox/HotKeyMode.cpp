@@ -1,0 +1,111 @@
+#include "platform/HIToolbox/HotKeyMode.h"
+
+#include "platform/HIToolbox/HeldKeys.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QTimer>
+#include <QWindow>
+
+namespace {
+
+constexpr int kLongestGrabMs = 30'000;
+
+/// One such time, from its beginning until the keys that are down at its end have come up. Deletes
+/// itself.
+class HotKeyMode final : public QObject {
+public:
+    HotKeyMode() : QObject(qApp), window_(QGuiApplication::focusWindow()) {
+        longestGrab_.setSingleShot(true);
+        longestGrab_.setInterval(kLongestGrabMs);
+        connect(&longestGrab_, &QTimer::timeout, this, &HotKeyMode::release);
+        grab();
+        qApp->installEventFilter(this);
+        connect(qApp, &QGuiApplication::focusWindowChanged, this, &HotKeyMode::follow);
+    }
+
+    ~HotKeyMode() override { release(); }
+
+    void end() {
+        hasEnded_ = true;
+        leaveWhenUp();
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress)
+            return pressed(*static_cast<QKeyEvent*>(event));
+        if (event->type() == QEvent::KeyRelease)
+            return released(*static_cast<QKeyEvent*>(event));
+        return false;
+    }
+
+private:
+    /// Whether the press goes no further.
+    bool pressed(QKeyEvent& event) {
+        const bool isOld =
+            hasEnded_ ? held_.contains(event.nativeScanCode()) : held_.isRepeat(event);
+        if (isOld)
+            event.accept(); // so that it is no shortcut, either
+        return isOld;
+    }
+
+    bool released(const QKeyEvent& event) {
+        const bool isOld = hasEnded_ && held_.contains(event.nativeScanCode());
+        if (held_.isUp(event))
+            leaveWhenUp();
+        return isOld;
+    }
+
+    void follow(const QWindow* focus) {
+        if (focus == window_)
+            grab();
+        else if (hasEnded_)
+            leave(); // the keys come up elsewhere
+        else
+            release();
+    }
+
+    void grab() {
+        // Others can't grab, and say so on the standard error.
+        const bool canGrab = QGuiApplication::platformName() == QLatin1String("xcb");
+        if (canGrab && window_)
+            isGrabbed_ = window_->setKeyboardGrabEnabled(true);
+        longestGrab_.start();
+        held_.reset();
+    }
+
+    void release() {
+        if (isGrabbed_ && window_)
+            window_->setKeyboardGrabEnabled(false);
+        isGrabbed_ = false;
+    }
+
+    void leaveWhenUp() {
+        if (hasEnded_ && held_.isEmpty())
+            leave();
+    }
+
+    void leave() {
+        release();
+        qApp->removeEventFilter(this);
+        deleteLater();
+    }
+
+    QPointer<QWindow> window_;
+    QTimer longestGrab_;
+    HeldKeys held_;
+    bool isGrabbed_ = false;
+    bool hasEnded_ = false;
+};
+
+} // namespace
+
+void* PushSymbolicHotKeyMode(OptionBits options) {
+    return options & kHIHotKeyModeAllDisabled ? new HotKeyMode : nullptr;
+}
+
+void PopSymbolicHotKeyMode(void* token) {
+    if (token)
+        static_cast<HotKeyMode*>(token)->end();
+}
