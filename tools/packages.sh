@@ -4,14 +4,14 @@
 build_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgl-dev libopengl-dev
-    libplist-dev libicns-dev libqt6svg6
+    libplist-dev libicns-dev libqt6svg6 libxcb1-dev
     librsvg2-bin icnsutils python3
     libgtest-dev libgmock-dev libbenchmark-dev
     dbus
 )
 # A virtual display with a window manager, and what reads the screen and types on the keyboard.
 tour_packages=(
-    xvfb openbox xdotool maim at-spi2-core python3-gi gir1.2-atspi-2.0
+    xvfb openbox xdotool maim x11-utils x11-xkb-utils at-spi2-core python3-gi gir1.2-atspi-2.0
 )
 check_packages=(git clang-format-14)
 

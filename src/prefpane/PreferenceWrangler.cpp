@@ -8,6 +8,7 @@
 #include "platform/AppKit/NSTextField.h"
 #include "platform/HIToolbox/AppleHelp.h"
 #include "src/prefpane/BumperController.h"
+#include "src/prefpane/HotKeyView.h"
 #include "src/prefpane/SampleScanView.h"
 #include "src/prefpane/SliderController.h"
 #include "src/prefpane/palutil.h"
@@ -68,6 +69,26 @@ std::span<const NSOutlet> PreferenceWrangler::outlets() const {
         nsOutlet<&W::volume_>("volume"),
         nsOutlet<&W::wantHotKeyTriggerCheck_>("wantHotKeyTriggerCheck"),
         nsOutlet<&W::wantMouseClickTriggerCheck_>("wantMouseClickTriggerCheck"),
+        nsOutlet<&W::masterOnOffKey_>("masterOnOffKey"),
+        nsOutlet<&W::masterOnOffKeyBtn_>("masterOnOffKeyBtn"),
+        nsOutlet<&W::masterOnOffKeyNote_>("masterOnOffKeyNote"),
+        nsOutlet<&W::scanKey_>("scanKey"),
+        nsOutlet<&W::scanKeyBtn_>("scanKeyBtn"),
+        nsOutlet<&W::scanKeyNote_>("scanKeyNote"),
+        nsOutlet<&W::cancelScanKey_>("cancelScanKey"),
+        nsOutlet<&W::cancelScanKeyBtn_>("cancelScanKeyBtn"),
+        nsOutlet<&W::cancelScanKeyNote_>("cancelScanKeyNote"),
+        nsOutlet<&W::showPreferencesKey_>("showPreferencesKey"),
+        nsOutlet<&W::showPreferencesKeyBtn_>("showPreferencesKeyBtn"),
+        nsOutlet<&W::showPreferencesKeyNote_>("showPreferencesKeyNote"),
+        nsOutlet<&W::scanKey2_>("scanKey2"),
+        nsOutlet<&W::scanKey2Btn_>("scanKey2Btn"),
+        nsOutlet<&W::scanKey2Note_>("scanKey2Note"),
+        nsOutlet<&W::notEditingKeyPrompt_>("notEditingKeyPrompt"),
+        nsOutlet<&W::editingKeyPrompt1_>("editingKeyPrompt1"),
+        nsOutlet<&W::cancelEditBtn_>("cancelEditBtn"),
+        nsOutlet<&W::defaultKeyBtn_>("defaultKeyBtn"),
+        nsOutlet<&W::noKeyBtn_>("noKeyBtn"),
     };
     return table;
 }
@@ -88,6 +109,12 @@ std::span<const NSAction> PreferenceWrangler::actions() const {
         nsAction<&W::changedLineScanCanEndKyndMode>("changedLineScanCanEndKyndMode:"),
         nsAction<&W::changedCanScanMenuBar>("changedCanScanMenuBar:"),
         nsAction<&W::changedLineColor>("changedLineColor:"),
+        nsAction<&W::setHotKeyToNone>("setHotKeyToNone:"),
+        nsAction<&W::setHotKeyToDefault>("setHotKeyToDefault:"),
+        nsAction<&W::cancelHotKeyEdit>("cancelHotKeyEdit:"),
+        nsAction<&W::captureHotKey>("captureHotKey:"),
+        nsAction<&W::removeHotKey>("removeHotKey:"),
+        nsAction<&W::resetHotKey>("resetHotKey:"),
         nsAction<&W::addPaletteBtn>("addPaletteBtn:"),
         nsAction<&W::setPaletteBtnAction>("setPaletteBtnAction:"),
         nsAction<&W::removePaletteButton>("removePaletteButton:"),
@@ -159,6 +186,7 @@ void PreferenceWrangler::setup() {
     paletteView_->setTarget(this);
     addActionMenuToCtl(addButtonBtn_, selector("addPaletteBtn:"));
     addActionMenuToCtl(setActionBtn_, selector("setPaletteBtnAction:"));
+    setupHotKeys();
     theWrangler = this;
 }
 
@@ -211,6 +239,7 @@ void PreferenceWrangler::loadValues() {
     for (const auto& [check, state] : checks)
         check->setState(state ? NSOnState : NSOffState);
 
+    loadHotKeys();
     lineColor_->setColor(NSColor::colorWithDeviceRed(prefs.lineColor.red / 255.0,
                                                      prefs.lineColor.green / 255.0,
                                                      prefs.lineColor.blue / 255.0, 1.0));

@@ -4,8 +4,11 @@
 #include "src/prefpane/NumberController.h"
 #include "src/prefpane/PaletteView.h"
 
+#include <array>
+
 class BumperController;
 class CFType;
+class HotKeyView;
 class NSButton;
 class NSColorWell;
 class NSMatrix;
@@ -67,6 +70,22 @@ public:
     void changedCanScanMenuBar(NSButton* sender);
     void changedLineColor(NSColorWell* sender);
 
+    // PreferenceWranglerHotKeys.cpp: hot keys
+
+    // During a capture; they do nothing outside of one.
+    void setHotKeyToNone(NSButton* sender);
+    void setHotKeyToDefault(NSButton* sender);
+    void cancelHotKeyEdit(NSButton* sender);
+
+    // Of the menu beside a hot key, at any time.
+    void captureHotKey(NSMenuItem* sender);
+    void removeHotKey(NSMenuItem* sender);
+    void resetHotKey(NSMenuItem* sender);
+
+    /// The hot key that is captured into, or null.
+    void setTargetHotKey(HotKeyView* view);
+    void updateHotKeyUI();
+
     // PreferenceWranglerPalette.cpp: the palette's buttons. An edit leaves nothing selected.
 
     /// Adds an item for every action that has a title; choosing it sends the selector, with the
@@ -106,6 +125,19 @@ public:
     void bumpPointer(bool forward);
 
 private:
+    /// A hot key and what stands beside it.
+    struct HotKeyRow {
+        HotKeyView* view;
+        NSPopUpButton* menu;
+        NSTextField* note;
+    };
+
+    /// In the record's order.
+    std::array<HotKeyRow, kNumHotKeys> hotKeyRows() const;
+    void setupHotKeys();
+    void loadHotKeys();
+    void updateHotKeyNotes();
+
     /// Shows the name of the pointer that the preview draws.
     void updatePointerName();
     void setFlag(UInt8& flag, NSButton* sender, ChangeMask changes);
@@ -158,6 +190,28 @@ private:
     SliderController* volume_ = nullptr;
     NSButton* wantHotKeyTriggerCheck_ = nullptr;
     NSButton* wantMouseClickTriggerCheck_ = nullptr;
+
+    HotKeyView* masterOnOffKey_ = nullptr;
+    HotKeyView* scanKey_ = nullptr;
+    HotKeyView* cancelScanKey_ = nullptr;
+    HotKeyView* showPreferencesKey_ = nullptr;
+    HotKeyView* scanKey2_ = nullptr;
+    NSPopUpButton* masterOnOffKeyBtn_ = nullptr;
+    NSPopUpButton* scanKeyBtn_ = nullptr;
+    NSPopUpButton* cancelScanKeyBtn_ = nullptr;
+    NSPopUpButton* showPreferencesKeyBtn_ = nullptr;
+    NSPopUpButton* scanKey2Btn_ = nullptr;
+    NSTextField* masterOnOffKeyNote_ = nullptr;
+    NSTextField* scanKeyNote_ = nullptr;
+    NSTextField* cancelScanKeyNote_ = nullptr;
+    NSTextField* showPreferencesKeyNote_ = nullptr;
+    NSTextField* scanKey2Note_ = nullptr;
+    NSTextField* notEditingKeyPrompt_ = nullptr;
+    NSTextField* editingKeyPrompt1_ = nullptr;
+    NSButton* cancelEditBtn_ = nullptr;
+    NSButton* defaultKeyBtn_ = nullptr;
+    NSButton* noKeyBtn_ = nullptr;
+    HotKeyView* targetHotKey_ = nullptr;
 
     // Steps of the button size that changedButtonSizes has yet to apply; 0 but while it is called.
     SInt32 buttonSizeChange_ = 0;

@@ -52,6 +52,8 @@ void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {
         sampleScanImage_->setNeedsDisplay(true);
     if (changes & kChangePointer)
         updatePointerName();
+    if (changes & kChangeHotKeys)
+        updateHotKeyNotes();
 }
 
 void PreferenceWrangler::showSampleLineType(SInt32 type) {

@@ -1,0 +1,161 @@
+#include "src/prefpane/HotKeyView.h"
+
+#include "platform/AppKit/NSBezierPath.h"
+#include "platform/AppKit/NSColor.h"
+#include "platform/AppKit/NSEvent.h"
+#include "platform/AppKit/NSGraphics.h"
+#include "platform/AppKit/NSStringDrawing.h"
+#include "platform/HIToolbox/CarbonEvents.h"
+#include "platform/HIToolbox/HotKeyMode.h"
+#include "src/keycombo.h"
+#include "src/prefpane/PreferenceWrangler.h"
+
+#include <utility>
+
+NS_REGISTER_CLASS(HotKeyView);
+
+namespace {
+
+constexpr UInt32 kStoredModifiers = cmdKey | shiftKey | optionKey | controlKey;
+constexpr UInt32 kBlankModifiers = 0xFFFFFFFF; ///< of a hot key that isn't shown
+
+UInt32 carbonModifiers(UInt32 flags) {
+    static constexpr struct {
+        UInt32 flag;
+        UInt32 modifier;
+    } kTable[] = {
+        {NSCommandKeyMask, cmdKey},       {NSShiftKeyMask, shiftKey},
+        {NSAlphaShiftKeyMask, alphaLock}, {NSAlternateKeyMask, optionKey},
+        {NSControlKeyMask, controlKey},
+    };
+
+    UInt32 modifiers = 0;
+    for (const auto& row : kTable)
+        modifiers |= flags & row.flag ? row.modifier : 0;
+    return modifiers;
+}
+
+} // namespace
+
+void HotKeyView::setIndex(int index) {
+    index_ = index;
+    setNeedsDisplay(true);
+}
+
+void HotKeyView::mouseDown(NSEvent*) {
+    window().makeFirstResponder(this);
+}
+
+bool HotKeyView::becomeFirstResponder() {
+    hotKeyMode_ = PushSymbolicHotKeyMode(kHIHotKeyModeAllDisabled);
+    wrangler_->setTargetHotKey(this);
+    redraw();
+    return NSView::becomeFirstResponder();
+}
+
+bool HotKeyView::resignFirstResponder() {
+    PopSymbolicHotKeyMode(std::exchange(hotKeyMode_, nullptr));
+    starter_ = nullptr;
+    wrangler_->setTargetHotKey(nullptr);
+    redraw();
+    return NSView::resignFirstResponder();
+}
+
+void HotKeyView::startEditing(NSView* starter) {
+    window().makeFirstResponder(this);
+    starter_ = starter;
+}
+
+void HotKeyView::cancelEditing() {
+    if (isFirstResponder())
+        window().makeFirstResponder(starter_);
+}
+
+void HotKeyView::flagsChanged(NSEvent*) {
+    redraw();
+}
+
+bool HotKeyView::performKeyEquivalent(NSEvent* event) {
+    if (!isFirstResponder())
+        return false;
+    keyDown(event);
+    return true;
+}
+
+// A key that was down before, such as the one that started the capture, is no answer; nor is one
+// without a code, which no hot key can name.
+void HotKeyView::keyDown(NSEvent* event) {
+    if (index_ < 0 || event->isARepeat() || event->keyCode() == kNoKeyCode)
+        return;
+    HotKey& hotKey = prefs.hotKeys[index_];
+    hotKey.modifiers = carbonModifiers(event->modifierFlags()) & kStoredModifiers;
+    hotKey.keyCode = event->keyCode();
+    cancelEditing();
+    reportChange();
+}
+
+void HotKeyView::setToNone() {
+    if (index_ >= 0) {
+        SInt32& keyCode = prefs.hotKeys[index_].keyCode;
+        keyCode = static_cast<SInt32>(static_cast<UInt32>(keyCode) | kNoHotKeyBit);
+        reportChange();
+    }
+    cancelEditing();
+}
+
+void HotKeyView::setToDefault() {
+    if (index_ >= 0) {
+        prefs.hotKeys[index_] = PrefsRecord().hotKeys[index_];
+        reportChange();
+    }
+    cancelEditing();
+}
+
+void HotKeyView::reportChange() {
+    redraw();
+    wrangler_->changed(kChangeHotKeys);
+}
+
+void HotKeyView::redraw() {
+    setNeedsDisplay(true);
+    NSAccessibilityPostValueChanged(*this);
+}
+
+CFRef<CFString> HotKeyView::combination() const {
+    if (index_ < 0 || prefs.hotKeys[index_].modifiers == kBlankModifiers)
+        return nullptr;
+    const HotKey& hotKey = prefs.hotKeys[index_];
+    return createKeyComboString(hotKey.modifiers, hotKey.keyCode);
+}
+
+CFRef<CFString> HotKeyView::text() const {
+    return isFirstResponder() ? createKeyComboString(GetCurrentKeyModifiers(), kModifiersOnly)
+                              : combination();
+}
+
+void HotKeyView::drawRect(const NSRect&) {
+    constexpr float kRingInset = 0.5;
+    constexpr float kRingWidth = 2.0;
+    constexpr float kTextInset = 5.0;
+
+    NSEraseRect(bounds());
+    if (isFirstResponder()) {
+        NSGraphicsContext::saveGraphicsState();
+        NSColor::keyboardFocusIndicatorColor().set();
+        NSBezierPath::setDefaultLineWidth(kRingWidth);
+        NSBezierPath::strokeRect(NSInsetRect(bounds(), kRingInset, kRingInset));
+        NSGraphicsContext::restoreGraphicsState();
+    }
+    if (const auto shown = text())
+        NSDrawString(shown.get(), NSInsetRect(bounds(), kTextInset, 0),
+                     {.font = NSFont::systemFontOfSize(0)});
+}
+
+std::string HotKeyView::accessibilityValue() const {
+    const auto shown = text();
+    return shown ? CFStringToUTF8(shown.get()) : std::string();
+}
+
+std::string HotKeyView::accessibilityStatus() const {
+    return isFirstResponder() ? "Capturing: press the new keys." : "";
+}

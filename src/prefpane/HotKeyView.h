@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/AppKit/NSAccessibility.h"
+#include "platform/AppKit/NSView.h"
+#include "platform/CoreFoundation/CFString.h"
+
+class PreferenceWrangler;
+
+/// Shows one of the record's hot keys and captures a new one: while the keyboard acts on it, the
+/// next key becomes the hot key, with the modifiers that are held then. It takes every key.
+class HotKeyView final : public NSView, public NSAccessibilityText {
+public:
+    /// Who is told of captures and changes; not owned.
+    void setWrangler(PreferenceWrangler* wrangler) { wrangler_ = wrangler; }
+
+    /// The place in the record's hotKeys; -1 until one is given, when nothing is shown or stored.
+    void setIndex(int index);
+
+    int index() const { return index_; }
+
+    /// Begins a capture for `starter`, which gets the keyboard back when it is over.
+    void startEditing(NSView* starter);
+    /// Ends a capture without storing anything; outside of one nothing happens.
+    void cancelEditing();
+    /// Takes the hot key away. What it was stays in the record, marked.
+    void setToNone();
+    void setToDefault();
+
+    /// The hot key in words; null when there is nothing to show.
+    CFRef<CFString> combination() const;
+
+    bool acceptsFirstResponder() const override { return true; }
+
+    bool becomeFirstResponder() override;
+    bool resignFirstResponder() override;
+    void mouseDown(NSEvent* event) override;
+    void keyDown(NSEvent* event) override;
+    bool performKeyEquivalent(NSEvent* event) override;
+    void flagsChanged(NSEvent* event) override;
+    void drawRect(const NSRect& dirtyRect) override;
+
+    std::string accessibilityValue() const override;
+    std::string accessibilityStatus() const override;
+
+private:
+    /// What it shows now; null for nothing.
+    CFRef<CFString> text() const;
+    void redraw();
+    void reportChange();
+
+    PreferenceWrangler* wrangler_ = nullptr;
+    int index_ = -1;
+    NSView* starter_ = nullptr;  ///< of the capture, if it wasn't a click
+    void* hotKeyMode_ = nullptr; ///< during a capture
+};
