@@ -111,6 +111,7 @@ int main(int argc, char** argv) {
     static QApplication application(argc, argv); // outlives every other static object
     addPrefsFigures();
     addLinkFigures();
+    addHotKeyFigures();
     addPaletteFigures();
     addPreviewFigures();
     addStartFigures();

@@ -27,6 +27,7 @@ void addFigure(const std::string& name, Limit limit, Measure measured, Measure f
 // One function a subject, each in a file of its own; the order is the order of the runs.
 void addPrefsFigures();
 void addLinkFigures();
+void addHotKeyFigures();
 void addPaletteFigures();
 void addPreviewFigures();
 void addStartFigures();

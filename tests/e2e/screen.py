@@ -55,6 +55,14 @@ class Control:
     def value(self) -> float:
         return Atspi.Value.get_current_value(self._node)
 
+    @property
+    def description(self) -> str:
+        return self._node.get_description()
+
+    @property
+    def text(self) -> str:
+        return Atspi.Text.get_text(self._node, 0, -1)
+
     def has(self, state: Atspi.StateType) -> bool:
         return self._node.get_state_set().contains(state)
 

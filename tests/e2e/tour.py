@@ -15,7 +15,7 @@ import traceback
 from contextlib import suppress
 from pathlib import Path
 
-from tests.e2e import palette, pointers
+from tests.e2e import hotkeys, palette, pointers
 from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.screen import Screen, press
@@ -97,7 +97,7 @@ def open_the_pane(tour: Tour) -> str:
     for tab in tabs:
         tour.choose_tab(tab)
         tour.screen.check_names()
-        tour.picture(f"tab-{tab.lower()}")
+        tour.picture(f"tab-{tab.lower().replace(' ', '-')}")
     return f"the agent was launched and takes events; tabs {', '.join(tabs)}"
 
 
@@ -217,6 +217,7 @@ STEPS = (
     *palette.STEPS,
     switch_off_and_on,
     follow_the_agent,
+    *hotkeys.STEPS,
     close_the_pane,
     open_it_again,
     start_it_twice,

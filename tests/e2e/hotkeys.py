@@ -1,0 +1,256 @@
+"""Steps of the tour: hot keys, captured from real keys."""
+
+from typing import TYPE_CHECKING
+
+from tests.e2e.agentlog import FIELDS
+from tests.e2e.screen import press, run
+from tests.e2e.waiting import check, until
+
+if TYPE_CHECKING:
+    from tests.e2e.tour import Tour
+
+HOT_KEYS = 32  # the group of settings
+SLOTS = {
+    "Turn scanning on or off": 0,
+    "Scan": 1,
+    "Cancel the scan": 2,
+    "Show these settings": 3,
+    "Scan, second key": 4,
+}
+FIELDS |= {name: ("<II", 264 + 8 * slot) for name, slot in SLOTS.items()}  # key code, modifiers
+
+COMMAND, SHIFT, OPTION, CONTROL = 0x100, 0x200, 0x800, 0x1000
+NONE = 0x80000000
+
+# Keys by the name of what they type on a US keyboard, and what the agent is told of each.
+TYPED = {
+    **dict(zip("abcdefghijklm", b"\x00\x0b\x08\x02\x0e\x03\x05\x04\x22\x26\x28\x25\x2e")),
+    **dict(zip("nopqrstuvwxyz", b"\x2d\x1f\x23\x0c\x0f\x01\x11\x20\x09\x0d\x07\x10\x06")),
+    **dict(zip("1234567890", b"\x12\x13\x14\x15\x17\x16\x1a\x1c\x19\x1d")),
+    **dict(minus=0x1B, equal=0x18, bracketleft=0x21, bracketright=0x1E, backslash=0x2A),
+    **dict(semicolon=0x29, apostrophe=0x27, comma=0x2B, period=0x2F, slash=0x2C, grave=0x32),
+    **dict(Return=0x24, Tab=0x30, space=0x31, BackSpace=0x33, Escape=0x35),
+    **dict(KP_Insert=0x52, KP_End=0x53, KP_Down=0x54, KP_Next=0x55, KP_Left=0x56, KP_Begin=0x57),
+    **dict(KP_Right=0x58, KP_Home=0x59, KP_Up=0x5B, KP_Prior=0x5C, KP_Delete=0x41, KP_Enter=0x4C),
+    **dict(KP_Multiply=0x43, KP_Add=0x45, KP_Divide=0x4B, KP_Subtract=0x4E, KP_Equal=0x51),
+    **dict(F1=0x7A, F2=0x78, F3=0x63, F4=0x76, F5=0x60, F6=0x61, F7=0x62, F8=0x64, F9=0x65),
+    **dict(F10=0x6D, F11=0x67, F12=0x6F, Print=0x69, Scroll_Lock=0x6B, Pause=0x71),
+    **dict(Insert=0x72, Home=0x73, Prior=0x74, Delete=0x75, End=0x77, Next=0x79, Menu=0x6E),
+    **dict(Left=0x7B, Right=0x7C, Down=0x7D, Up=0x7E),
+}
+# By their number: the key beside the left shift key, help, and F13 to F16.
+NUMBERED = {"94": 0x0A, "146": 0x72, "191": 0x69, "192": 0x6B, "193": 0x71, "194": 0x6A}
+
+# Keys by number, which name the place on the keyboard: the rows from Q to P, from A to L and from Z
+# to M, the digits, and two that type an accent on a French keyboard.
+PLACES = {
+    **dict(zip(map(str, range(24, 34)), b"\x0c\x0d\x0e\x0f\x11\x10\x20\x22\x1f\x23")),
+    **dict(zip(map(str, range(38, 47)), b"\x00\x01\x02\x03\x05\x04\x26\x28\x25")),
+    **dict(zip(map(str, range(52, 59)), b"\x06\x07\x08\x09\x0b\x2d\x2e")),
+    **dict(zip(map(str, range(10, 20)), b"\x12\x13\x14\x15\x17\x16\x1a\x1c\x19\x1d")),
+    **{"34": 0x21, "47": 0x29},
+}
+
+# What else would act on them: the window, its tabs and captions, and the window manager.
+TAKEN = {
+    "Escape": (0, 0x35),
+    "Tab": (0, 0x30),
+    "shift+Tab": (SHIFT, 0x30),
+    "super+q": (COMMAND, 0x0C),
+    "ctrl+q": (CONTROL, 0x0C),
+    "ctrl+w": (CONTROL, 0x0D),
+    "ctrl+Tab": (CONTROL, 0x30),
+    "alt+s": (OPTION, 0x01),
+    "alt+h": (OPTION, 0x04),
+    "alt+F4": (OPTION, 0x76),
+    "alt+Tab": (OPTION, 0x30),
+    "super+d": (COMMAND, 0x02),
+    "ctrl+alt+Left": (CONTROL | OPTION, 0x7B),
+    "super+ctrl+alt+shift+x": (COMMAND | CONTROL | OPTION | SHIFT, 0x07),
+}
+
+
+def view(tour: "Tour", name: str):
+    return tour.screen.find(name, "text")
+
+
+def begin(tour: "Tour", name: str) -> None:
+    """Clicks a hot key and waits until it captures."""
+    tour.screen.click(name, "text")
+    until(lambda: view(tour, name).description.startswith("Capturing"), f"“{name}” captures")
+
+
+def wait_until_idle(tour: "Tour") -> None:
+    until(lambda: "Cancel" not in tour.screen.names("push button"), "the capture is over")
+
+
+def expect(tour: "Tour", name: str, modifiers: int, code: int) -> str:
+    tour.log.expect_change(HOT_KEYS, name, (code, modifiers))
+    return f"“{name}” {{{code:#x},{modifiers:#x}}}"
+
+
+def capture(tour: "Tour", name: str, *combinations: tuple[str, int, int]) -> None:
+    """Clicks the hot key and presses the keys, in one go, for each of them."""
+    place = view(tour, name).box.centre
+    for keys, modifiers, code in combinations:
+        press("mousemove", *place, "click", "1", "key", keys)
+        expect(tour, name, modifiers, code)
+
+
+def open_menu(tour: "Tour", name: str, letter: str, *keys: str) -> None:
+    """By its caption's underlined letter; the keys choose in it."""
+    press("key", f"alt+{letter}")
+    until(lambda: "Press new keys" in tour.screen.names("list item"), "the menu opens")
+    if keys:
+        press("key", *keys)
+
+
+def capture_a_hot_key(tour: "Tour") -> str:
+    """Capture command and Q"""
+    tour.choose_tab("Hot Keys")
+    tour.picture("hot-keys")
+    begin(tour, "Scan")
+    press("keydown", "super", "keydown", "shift")
+    until(lambda: view(tour, "Scan").text == "command+shift+", "the held modifiers are shown")
+    press("keyup", "shift")
+    until(lambda: view(tour, "Scan").text == "command+", "the released modifier is gone")
+    tour.picture("capturing")
+    press("key", "q", "keyup", "super")
+    account = expect(tour, "Scan", COMMAND, 0x0C)
+    wait_until_idle(tour)
+    check(view(tour, "Scan").text == "command+Q", "the new hot key isn't shown")
+    tour.picture("captured")
+    return account
+
+
+def set_to_none_and_default(tour: "Tour") -> str:
+    """Set it to none and back to default by the keyboard alone"""
+    open_menu(tour, "Scan", "n", "Down", "Return")
+    none = expect(tour, "Scan", COMMAND, NONE | 0x0C)
+    until(lambda: view(tour, "Scan").text == "-none-", "none is shown")
+    tour.picture("none")
+    open_menu(tour, "Scan", "n", "End", "Return")
+    default = expect(tour, "Scan", COMMAND, 0x4C)
+    until(lambda: view(tour, "Scan").text == "command+enter", "the default is shown")
+    return f"{none}; {default}"
+
+
+def use_the_three_buttons(tour: "Tour") -> str:
+    """Press cancel, none and default during a capture"""
+    begin(tour, "Cancel the scan")
+    tour.screen.click("Cancel", "push button")
+    wait_until_idle(tour)
+    begin(tour, "Cancel the scan")
+    tour.screen.click("None", "push button")
+    none = expect(tour, "Cancel the scan", 0, NONE | 0x35)
+    wait_until_idle(tour)
+    begin(tour, "Cancel the scan")
+    tour.screen.click("Default", "push button")
+    default = expect(tour, "Cancel the scan", 0, 0x35)
+    wait_until_idle(tour)
+    return f"nothing; {none}; {default}"
+
+
+def hold_keys_down(tour: "Tour") -> str:
+    """Hold down the keys that start and end a capture"""
+    # As long as a slow hand does, a second each: the keys repeat meanwhile.
+    open_menu(tour, "Scan", "n", "Home")
+    press("keydown", "Return", "sleep", "1", "keyup", "Return")
+    until(lambda: view(tour, "Scan").description.startswith("Capturing"), "it captures")
+    press("keydown", "space", "sleep", "1", "keyup", "space")
+    account = expect(tour, "Scan", 0, 0x31)
+    wait_until_idle(tour)
+    check("Press new keys" not in tour.screen.names("list item"), "the key opened the menu too")
+    begin(tour, "Scan")
+    press("keydown", "alt", "keydown", "F4", "sleep", "1", "keyup", "F4", "keyup", "alt")
+    closing = expect(tour, "Scan", OPTION, 0x76)
+    wait_until_idle(tour)
+    return f"one change each, {account}; {closing}, and the window stays open"
+
+
+def press_every_key(tour: "Tour") -> str:
+    """Capture every key of a US keyboard"""
+    keys = TYPED | NUMBERED
+    capture(tour, "Scan, second key", *((key, 0, code) for key, code in keys.items()))
+    begin(tour, "Scan, second key")
+    press("key", "Caps_Lock")  # alone, which ends nothing
+    press("key", "shift+a")
+    expect(tour, "Scan, second key", SHIFT, 0)
+    press("key", "Caps_Lock")
+    return f"{len(keys)} keys, and shift with caps lock"
+
+
+def change_the_layout(tour: "Tour") -> str:
+    """Capture the same places on French and Dvorak keyboards"""
+    for layout in (("fr",), ("us", "-variant", "dvorak")):
+        run("setxkbmap", *layout)
+        capture(tour, "Scan, second key", *((key, 0, code) for key, code in PLACES.items()))
+    run("setxkbmap", "fr")
+    capture(tour, "Scan, second key", ("ISO_Level3_Shift+24", OPTION, 0x0C))
+    run("setxkbmap", "us")
+    return f"{len(PLACES)} places on each, and AltGr"
+
+
+def take_every_shortcut(tour: "Tour") -> str:
+    """Capture what is a shortcut elsewhere"""
+    window = tour.screen.active_window()
+    for keys, (modifiers, code) in TAKEN.items():
+        capture(tour, "Show these settings", (keys, modifiers, code))
+        check(tour.screen.active_window() == window, f"{keys} took the focus away")
+        check(view(tour, "Show these settings"), f"{keys} left the tab")
+    return f"{len(TAKEN)} combinations, which did nothing else"
+
+
+def move_the_focus(tour: "Tour") -> str:
+    """Move to another hot key and to another window during a capture"""
+    begin(tour, "Scan")
+    begin(tour, "Cancel the scan")
+    check(not view(tour, "Scan").description.startswith("Capturing"), "two capture at once")
+    mine = tour.screen.active_window()
+    other = tour.desktop.start("xev", "-event", "keyboard")
+    until(lambda: tour.screen.active_window() != mine, "the other window opens in front")
+    until(lambda: view(tour, "Cancel the scan").text == "esc", "the capture pauses")
+    press("key", "x")
+    until(lambda: "keysym 0x78, x" in tour.desktop.output_of("xev"), "the other window hears x")
+    tour.picture("other-window")
+    other.terminate()
+    press("windowactivate", "--sync", mine)
+    until(lambda: view(tour, "Cancel the scan").text == "", "the capture goes on")
+    press("key", "191")
+    account = expect(tour, "Cancel the scan", 0, 0x69)
+    wait_until_idle(tour)
+    return f"only the last, {account}"
+
+
+def note_the_same_keys(tour: "Tour") -> str:
+    """Give two hot keys the same keys, and all their defaults"""
+    capture(tour, "Scan", ("191", 0, 0x69))
+    for first, second in (("Scan", "Cancel the scan"), ("Cancel the scan", "Scan")):
+        tour.screen.find(f"The same keys as “{second}”", "label")
+        check(f"“{second}”" in tour.screen.find(f"Change: {first}", "push button").description,
+              "a screen reader isn't told")
+    tour.picture("the-same-keys")
+    for name, letter, modifiers, code in (
+        ("Scan", "n", COMMAND, 0x4C),
+        ("Scan, second key", "e", OPTION, 0x4C),
+        ("Cancel the scan", "c", 0, 0x35),
+        ("Show these settings", "w", CONTROL | SHIFT | OPTION, 0x07),
+    ):
+        open_menu(tour, name, letter, "End", "Return")
+        expect(tour, name, modifiers, code)
+    notes = [text for text in tour.screen.names("label") if "The same keys" in text]
+    check(not notes, f"left: {notes}")
+    return "a note beside each; all four are back"
+
+
+STEPS = (
+    capture_a_hot_key,
+    set_to_none_and_default,
+    use_the_three_buttons,
+    hold_keys_down,
+    press_every_key,
+    change_the_layout,
+    take_every_shortcut,
+    move_the_focus,
+    note_the_same_keys,
+)
