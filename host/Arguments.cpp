@@ -9,7 +9,7 @@ const char* const kUsage =
     "\n"
     "Shows the settings pane of the bundle, of Korvex's own without one.\n"
     "\n"
-    "  --check BUNDLE  load the bundle and wire its interface file, show nothing\n"
+    "  --check BUNDLE  load the bundle, check its interface files, show nothing\n"
     "  --help          print this text\n"
     "  --version       print the version\n";
 

@@ -1,6 +1,7 @@
 #include "host/PaneHost.h"
 
 #include "host/PaneWindow.h"
+#include "platform/HIToolbox/NibRequirement.h"
 
 #include <QApplication>
 
@@ -48,6 +49,10 @@ bool PaneHost::load(const std::string& path, std::vector<std::string>& errors) {
     pane_.reset(pane);
     pane_->initWithBundle(bundle_.get());
     return pane_->loadMainView(errors);
+}
+
+bool PaneHost::checkWindows(std::vector<std::string>& errors) {
+    return checkCarbonNibs(bundle_.get(), errors);
 }
 
 void PaneHost::open() {

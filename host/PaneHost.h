@@ -20,6 +20,9 @@ public:
     /// says what, one line each, beginning with a file's path. Nothing of the pane has been called.
     bool load(const std::string& path, std::vector<std::string>& errors);
 
+    /// After load: whether the bundle's other interface files hold what its code expects.
+    bool checkWindows(std::vector<std::string>& errors);
+
     /// Selects the pane and shows its window. When the user closes that, the program ends.
     void open();
 

@@ -32,12 +32,12 @@ bool choosePlatform(Arguments::Task task) {
     return false;
 }
 
-bool load(PaneHost& host, const std::string& bundle) {
+bool load(PaneHost& host, const std::string& bundle, Arguments::Task task) {
     std::vector<std::string> errors;
     if (bundle.empty())
         errors.emplace_back("Korvex.prefPane: not found beside this program");
-    else
-        host.load(bundle, errors);
+    else if (host.load(bundle, errors) && task == Arguments::Task::Check)
+        host.checkWindows(errors);
     for (const std::string& error : errors)
         std::fprintf(stderr, "%s\n", error.c_str());
     return errors.empty();
@@ -52,7 +52,7 @@ int show(const std::string& bundle) {
         }))
         return kDone;
     registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
-    if (!load(host, bundle.empty() ? findOwnBundle() : bundle))
+    if (!load(host, bundle.empty() ? findOwnBundle() : bundle, Arguments::Task::Show))
         return kFailed;
 
     QApplication::setQuitOnLastWindowClosed(false);
@@ -77,7 +77,7 @@ int run(const Arguments& arguments, int argc, char** argv) {
     if (arguments.task == Arguments::Task::Show)
         return show(arguments.bundle);
     PaneHost host;
-    return load(host, arguments.bundle) ? kDone : kFailed;
+    return load(host, arguments.bundle, Arguments::Task::Check) ? kDone : kFailed;
 }
 
 } // namespace

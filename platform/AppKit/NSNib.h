@@ -20,6 +20,7 @@ class QWidget;
 /// - action: the selector that the control sends to the object that encloses it or, if that has no
 ///   such action, to the next object outward.
 /// - tag, minValue, maxValue: see NSMatrix and NSSlider.
+/// - keepsKeyboard: while the keyboard acts on the widget, no sheet takes it away; see Sheets.h.
 ///
 /// The outermost object is the file's owner, which exists already.
 class NSNib {

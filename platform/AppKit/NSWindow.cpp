@@ -1,6 +1,7 @@
 #include "platform/AppKit/NSWindow.h"
 
 #include "platform/AppKit/NSView.h"
+#include "platform/HIToolbox/HostedWindow.h"
 
 #include <QWidget>
 
@@ -9,4 +10,8 @@ void NSWindow::makeFirstResponder(NSView* view) {
         view->widget()->setFocus(Qt::OtherFocusReason);
     else if (QWidget* focus = window_->focusWidget())
         focus->clearFocus();
+}
+
+WindowRef NSWindow::windowRef() const {
+    return windowRefOf(window_);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/HIToolbox/MacWindows.h"
+
 class NSView;
 class QWidget;
 
@@ -11,6 +13,9 @@ public:
     /// Gives the keyboard to a view of the window or, with null, to none: keys then reach the
     /// window alone.
     void makeFirstResponder(NSView* view);
+
+    /// The window as Carbon knows it.
+    WindowRef windowRef() const;
 
 private:
     QWidget* window_;

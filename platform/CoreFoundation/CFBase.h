@@ -53,7 +53,9 @@ enum class CFTypeID : int {
     DataProvider,
     Image,
     Context,
-    Icon
+    Icon,
+    SharedFileList,
+    SharedFileListItem
 };
 
 /// The root of all Core Foundation objects: a reference count and a type. Objects start with one

@@ -2,6 +2,8 @@
 
 #include "platform/CoreFoundation/CFTextEncoding.h"
 
+#include <QStringView>
+
 #include <cstring>
 #include <map>
 
@@ -62,6 +64,17 @@ void CFStringAppendCharacters(CFMutableString* string, const UniChar* characters
 
 CFIndex CFStringGetLength(const CFString* string) {
     return static_cast<CFIndex>(string->text().size());
+}
+
+CFComparisonResult CFStringCompare(const CFString* a, const CFString* b,
+                                   CFStringCompareFlags flags) {
+    const auto view = [](const CFString* string) {
+        const std::u16string& text = string->text();
+        return QStringView(text.data(), static_cast<qsizetype>(text.size()));
+    };
+    const int order = view(a).compare(
+        view(b), flags & kCFCompareCaseInsensitive ? Qt::CaseInsensitive : Qt::CaseSensitive);
+    return order < 0 ? kCFCompareLessThan : order > 0 ? kCFCompareGreaterThan : kCFCompareEqualTo;
 }
 
 bool CFStringGetCString(const CFString* string, char* buffer, CFIndex bufferSize,

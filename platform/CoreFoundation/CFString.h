@@ -54,6 +54,19 @@ void CFStringAppendCharacters(CFMutableString* string, const UniChar* characters
 /// Length in UTF-16 code units.
 CFIndex CFStringGetLength(const CFString* string);
 
+enum CFComparisonResult {
+    kCFCompareLessThan = -1,
+    kCFCompareEqualTo = 0,
+    kCFCompareGreaterThan = 1
+};
+
+enum CFStringCompareFlags : UInt32 { kCFCompareCaseInsensitive = 1 };
+
+/// Compares by code units; with kCFCompareCaseInsensitive, letters that differ in case only are
+/// equal, whatever the user's language.
+CFComparisonResult CFStringCompare(const CFString* a, const CFString* b,
+                                   CFStringCompareFlags flags);
+
 /// Writes the text and a terminating NUL into `buffer` of `bufferSize` bytes. False when it doesn't
 /// fit or has a character that the encoding lacks; the buffer's content is then unspecified.
 bool CFStringGetCString(const CFString* string, char* buffer, CFIndex bufferSize,

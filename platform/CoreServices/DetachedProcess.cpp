@@ -15,7 +15,7 @@ namespace {
 constexpr int kFirstOtherFile = 3; ///< after input, output and errors
 
 /// Starts the program; its process ID, or 0.
-pid_t spawn(const std::string& executable) {
+pid_t spawn(std::string& executable, std::vector<std::string>& arguments) {
     posix_spawn_file_actions_t files;
     posix_spawnattr_t attributes;
     sigset_t none, all;
@@ -31,10 +31,12 @@ pid_t spawn(const std::string& executable) {
     posix_spawnattr_setsigdefault(&attributes, &all);
 
     pid_t pid = 0;
-    std::string name = executable;
-    char* arguments[] = {name.data(), nullptr};
+    std::vector<char*> words{executable.data()};
+    for (std::string& argument : arguments)
+        words.push_back(argument.data());
+    words.push_back(nullptr);
     const int error =
-        posix_spawn(&pid, executable.c_str(), &files, &attributes, arguments, environ);
+        posix_spawnp(&pid, executable.c_str(), &files, &attributes, words.data(), environ);
 
     posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&files);
@@ -43,8 +45,9 @@ pid_t spawn(const std::string& executable) {
 
 } // namespace
 
-std::unique_ptr<DetachedProcess> DetachedProcess::start(const std::string& executable) {
-    const pid_t pid = spawn(executable);
+std::unique_ptr<DetachedProcess> DetachedProcess::start(std::string executable,
+                                                        std::vector<std::string> arguments) {
+    const pid_t pid = spawn(executable, arguments);
     if (pid == 0)
         return nullptr;
     // The process is this one's child and not reaped yet, so the number is still its own.

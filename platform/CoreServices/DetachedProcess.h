@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <sys/types.h>
+#include <vector>
 
 class QSocketNotifier;
 
@@ -11,8 +12,10 @@ class QSocketNotifier;
 /// outlives this object and this process. Once it has ended it is reaped, from the event loop.
 class DetachedProcess {
 public:
-    /// Null when the file can't be executed. Waits for the exec itself, about a millisecond.
-    static std::unique_ptr<DetachedProcess> start(const std::string& executable);
+    /// An executable that is named without a slash is looked for in $PATH. Null when it can't be
+    /// executed. Waits for the exec itself, about a millisecond.
+    static std::unique_ptr<DetachedProcess> start(std::string executable,
+                                                  std::vector<std::string> arguments = {});
 
     ~DetachedProcess();
     DetachedProcess(const DetachedProcess&) = delete;

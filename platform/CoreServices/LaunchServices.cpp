@@ -1,13 +1,24 @@
 #include "platform/CoreServices/LaunchServices.h"
 
 #include "platform/CoreFoundation/CFBundle.h"
+#include "platform/CoreServices/AccessibilitySettings.h"
 #include "platform/CoreServices/DetachedProcess.h"
 #include "platform/CoreServices/InstalledApplications.h"
 
 #include <map>
 #include <memory>
 
+namespace {
+
+/// The pane of the system's settings that every desktop has in its own way.
+constexpr char kUniversalAccessPane[] =
+    "/System/Library/PreferencePanes/UniversalAccessPref.prefPane";
+
+} // namespace
+
 OSStatus LSOpenCFURLRef(const CFURL* url, CFRef<CFURL>* launched) {
+    if (url && url->path() == kUniversalAccessPane)
+        return openAccessibilitySettings() ? OSStatus{noErr} : kLSApplicationNotFoundErr;
     const CFRef<CFBundle> bundle = url ? CFBundleCreate(url) : nullptr;
     if (!bundle)
         return kLSApplicationNotFoundErr;

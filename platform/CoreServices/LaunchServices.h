@@ -14,6 +14,9 @@ constexpr OSStatus kLSApplicationNotFoundErr = -10814;
 /// (may be null) receives the bundle's URL. kLSApplicationNotFoundErr when the URL names no bundle,
 /// kLSNotAnApplicationErr when the bundle has no executable, kLSUnknownErr when that can't be
 /// started.
+///
+/// /System/Library/PreferencePanes/UniversalAccessPref.prefPane opens the accessibility settings of
+/// the desktop that is running; kLSApplicationNotFoundErr where it isn't known to have any.
 OSStatus LSOpenCFURLRef(const CFURL* url, CFRef<CFURL>* launched);
 
 constexpr OSType kLSUnknownCreator = 0;

@@ -1,6 +1,36 @@
 #pragma once
 
+#include "platform/HIToolbox/CarbonEvents.h"
 #include "platform/IconServices/Icons.h"
+
+/// A button or check box of a window from an interface file, which owns it.
+using ControlRef = class CarbonControl*;
+
+/// How an interface file names a control.
+struct ControlID {
+    OSType signature;
+    SInt32 id;
+
+    bool operator==(const ControlID&) const = default;
+};
+
+constexpr OSStatus errControlNotFound = -30584;
+
+/// errControlNotFound when the window holds no such control.
+OSStatus GetControlByID(WindowRef window, const ControlID* id, ControlRef* control);
+
+/// Where its kEventControlHit goes when the user has operated it; the direct object is the control,
+/// whose value has changed already.
+EventTargetRef GetControlEventTarget(ControlRef control);
+
+/// Of a check box: 1 when it is on.
+SInt32 GetControl32BitValue(ControlRef control);
+/// Never sends an event.
+void SetControl32BitValue(ControlRef control, SInt32 value);
+OSStatus EnableControl(ControlRef control);
+OSStatus DisableControl(ControlRef control);
+void ShowControl(ControlRef control);
+void HideControl(ControlRef control);
 
 using ControlContentType = SInt16;
 constexpr ControlContentType kControlNoContent = 0;

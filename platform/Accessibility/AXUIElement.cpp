@@ -1,0 +1,84 @@
+#include "platform/Accessibility/AXUIElement.h"
+
+#include "platform/CoreServices/SessionBus.h"
+
+#include <QCoreApplication>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
+#include <QPointer>
+#include <QTimer>
+
+namespace {
+
+const QString kService = QStringLiteral("org.a11y.Bus");
+const QString kObject = QStringLiteral("/org/a11y/bus");
+const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
+
+constexpr int kPatience = 100; ///< with the first answer, in milliseconds
+
+QDBusMessage statusQuestion() {
+    auto question =
+        QDBusMessage::createMethodCall(kService, kObject, kProperties, QStringLiteral("Get"));
+    question.setAutoStartService(false);
+    question.setArguments({QStringLiteral("org.a11y.Status"), QStringLiteral("IsEnabled")});
+    return question;
+}
+
+/// The switch as the service last told it.
+class AccessibilitySwitch final : public QObject {
+public:
+    explicit AccessibilitySwitch(QObject* parent);
+
+    bool isOn() const { return isOn_; }
+
+private:
+    void askFirst();
+    void ask();
+    void take(const QDBusMessage& reply);
+
+    QDBusServiceWatcher service_;
+    QTimer changed_; ///< fires when anything has been announced, once for all of it
+    bool isOn_ = false;
+};
+
+AccessibilitySwitch::AccessibilitySwitch(QObject* parent) : QObject(parent) {
+    changed_.setSingleShot(true);
+    connect(&changed_, &QTimer::timeout, this, [this] { ask(); });
+    QDBusConnection bus = sessionBus();
+    bus.connect(QString(), kObject, kProperties, QStringLiteral("PropertiesChanged"), &changed_,
+                SLOT(start()));
+    service_.setConnection(bus);
+    service_.addWatchedService(kService);
+    connect(&service_, &QDBusServiceWatcher::serviceOwnerChanged, &changed_,
+            qOverload<>(&QTimer::start));
+    askFirst();
+}
+
+void AccessibilitySwitch::askFirst() {
+    const QDBusMessage reply = sessionBus().call(statusQuestion(), QDBus::Block, kPatience);
+    take(reply);
+    if (QDBusError(reply).type() == QDBusError::NoReply)
+        ask(); // it may still wake up
+}
+
+void AccessibilitySwitch::ask() {
+    auto* answer = new QDBusPendingCallWatcher(sessionBus().asyncCall(statusQuestion()), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        take(answer->reply());
+        answer->deleteLater();
+    });
+}
+
+void AccessibilitySwitch::take(const QDBusMessage& reply) {
+    isOn_ = QDBusPendingReply<QDBusVariant>(reply).value().variant().toBool();
+}
+
+} // namespace
+
+bool AXAPIEnabled() {
+    static QPointer<AccessibilitySwitch> theSwitch;
+    if (!theSwitch)
+        theSwitch = new AccessibilitySwitch(QCoreApplication::instance());
+    return theSwitch->isOn();
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+// Desktop entries that start a program when a session begins, as the Desktop Application Autostart
+// and Desktop Entry specifications of freedesktop.org have them.
+
+struct AutostartEntry {
+    /// What it starts: the bundle whose executable its Exec names, whether itself or through
+    /// another program such as env; else the program, if that is an absolute path; else empty.
+    std::string application;
+    /// Whether a login heeds it: it isn't marked as deleted or switched off, and the program that
+    /// its TryExec names is there. Where and when it starts is up to its other keys.
+    bool isLive = false;
+};
+
+/// None when the file can't be read or isn't an application's desktop entry.
+std::optional<AutostartEntry> readAutostartEntry(const std::string& path);
+
+/// The text of an entry that starts the executable, an absolute path, under that name.
+std::string autostartEntryText(const std::string& name, const std::string& executable);
+
+/// The text of an entry that starts nothing, and keeps the system's entry of the same file name
+/// from starting. It still tells which application it was for.
+std::string hiddenAutostartEntryText(const std::string& name, const std::string& application);

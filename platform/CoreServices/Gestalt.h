@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/CoreFoundation/CFBase.h"
+
+constexpr OSType gestaltSystemVersion = fourCharCode("sysv");
+
+constexpr OSErr gestaltUndefSelectorErr = -5551;
+
+/// The version of the system that this layer stands for, 10.7.0 as 0x1070, for
+/// gestaltSystemVersion; gestaltUndefSelectorErr for any other selector.
+OSErr Gestalt(OSType selector, SInt32* response);

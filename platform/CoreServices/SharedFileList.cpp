@@ -1,0 +1,189 @@
+#include "platform/CoreServices/SharedFileList.h"
+
+#include "platform/CoreFoundation/CFBundle.h"
+#include "platform/CoreFoundation/CFFileReplacement.h"
+#include "platform/CoreFoundation/XDGFolders.h"
+#include "platform/CoreServices/AutostartEntry.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+const CFString* const kLSSharedFileListSessionLoginItems =
+    CFSTR("kLSSharedFileListSessionLoginItems");
+const CFString* const kLSSharedFileListGlobalLoginItems =
+    CFSTR("kLSSharedFileListGlobalLoginItems");
+
+const LSSharedFileListItem* const kLSSharedFileListItemLast = new LSSharedFileListItem({}, {});
+
+namespace {
+
+constexpr int kMostNames = 100;
+
+bool isEarlier(const timespec& a, const timespec& b) {
+    return a.tv_sec != b.tv_sec ? a.tv_sec < b.tv_sec : a.tv_nsec < b.tv_nsec;
+}
+
+/// When the directory entry itself was last changed; the epoch when there is none.
+timespec changeTime(const std::string& path) {
+    struct stat status {};
+
+    return lstat(path.c_str(), &status) == 0 ? status.st_mtim : timespec{};
+}
+
+struct EntryFile {
+    std::string path;
+    timespec changed;
+};
+
+/// The folder's *.desktop files, the last changed one last. False when it can't be read.
+bool listEntryFiles(const std::string& folder, std::vector<EntryFile>& files) {
+    std::error_code error;
+    fs::directory_iterator each(folder, error);
+    for (; !error && each != fs::directory_iterator(); each.increment(error)) {
+        const std::string path = each->path();
+        if (path.ends_with(".desktop"))
+            files.push_back({path, changeTime(path)});
+    }
+    std::sort(files.begin(), files.end(), [](const EntryFile& a, const EntryFile& b) {
+        if (isEarlier(a.changed, b.changed) || isEarlier(b.changed, a.changed))
+            return isEarlier(a.changed, b.changed);
+        return a.path < b.path;
+    });
+    return !error || error == std::errc::no_such_file_or_directory;
+}
+
+std::string fileName(const std::string& path) {
+    return path.substr(path.rfind('/') + 1);
+}
+
+/// Whether an entry for the application may be written there: nothing is there, or what starts that
+/// very application, or what used to start one of its name and starts nothing any more.
+bool isFree(const std::string& path, const std::string& application) {
+    std::error_code error;
+    if (!fs::exists(fs::symlink_status(path, error)))
+        return true;
+    const auto entry = readAutostartEntry(path);
+    return entry && (entry->application == application ||
+                     (!entry->isLive && fileName(entry->application) == fileName(application)));
+}
+
+/// A path in the folder for the application's entry; empty when all are taken.
+std::string freePath(const std::string& folder, const std::string& identifier,
+                     const std::string& application) {
+    for (int n = 1; n <= kMostNames; ++n) {
+        const std::string number = n == 1 ? "" : '-' + std::to_string(n);
+        const std::string path = folder + '/' + identifier + number + ".desktop";
+        if (isFree(path, application))
+            return path;
+    }
+    return {};
+}
+
+bool replaceFile(const LSSharedFileList& list, const std::string& path, const std::string& text) {
+    CFPendingFile file(path, text, list.isGlobal() ? 0644 : 0600);
+    return file.isWritten() && file.putInPlace();
+}
+
+/// Makes the file the last of its folder, also where the clock has been set back or is too coarse.
+void makeLast(const std::string& path, const std::vector<EntryFile>& others) {
+    if (others.empty() || isEarlier(others.back().changed, changeTime(path)))
+        return;
+    timespec time = others.back().changed;
+    if (++time.tv_nsec == 1'000'000'000)
+        time = {time.tv_sec + 1, 0};
+    const timespec times[] = {time, time};
+    utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW);
+}
+
+std::string bundleText(const CFBundle* bundle, const char* key) {
+    const auto* text =
+        dynamicCFCast<CFString>(CFBundleGetValueForInfoDictionaryKey(bundle, CFSTR(key)));
+    return text ? CFStringToUTF8(text) : std::string();
+}
+
+} // namespace
+
+std::string LSSharedFileList::folder() const {
+    return (isGlobal_ ? xdgSystemConfig() : xdgConfigHome()) + "/autostart";
+}
+
+CFRef<LSSharedFileList> LSSharedFileListCreate(const CFString* listType) {
+    if (listType != kLSSharedFileListSessionLoginItems &&
+        listType != kLSSharedFileListGlobalLoginItems)
+        return nullptr;
+    return CFRef<LSSharedFileList>::adopt(
+        new LSSharedFileList(listType == kLSSharedFileListGlobalLoginItems));
+}
+
+OSStatus LSSharedFileListSetAuthorization(LSSharedFileList*, AuthorizationRef) {
+    return noErr;
+}
+
+CFRef<CFArray> LSSharedFileListCopySnapshot(const LSSharedFileList* list, UInt32* seed) {
+    std::vector<EntryFile> files;
+    if (!listEntryFiles(list->folder(), files))
+        return nullptr;
+    if (seed)
+        *seed = 0;
+    CFArray::Items items;
+    for (const EntryFile& file : files) {
+        const auto entry = readAutostartEntry(file.path);
+        if (entry && entry->isLive)
+            items.push_back(CFRef<LSSharedFileListItem>::adopt(
+                new LSSharedFileListItem(file.path, entry->application)));
+    }
+    return CFRef<CFArray>::adopt(new CFArray(std::move(items)));
+}
+
+OSStatus LSSharedFileListItemResolve(const LSSharedFileListItem* item, UInt32, CFRef<CFURL>* url,
+                                     FSRef*) {
+    if (item->application().empty())
+        return fnfErr;
+    *url = CFURLCreateFromFileSystemRepresentation(item->application().c_str(), true);
+    return noErr;
+}
+
+OSStatus LSSharedFileListItemRemove(LSSharedFileList* list, const LSSharedFileListItem* item) {
+    const std::string& path = item->file();
+    const std::string name = fileName(path);
+    std::error_code error;
+    if (!list->isGlobal() && fs::exists(xdgSystemConfig() + "/autostart/" + name, error))
+        return replaceFile(*list, path, hiddenAutostartEntryText(name, item->application()))
+                   ? noErr
+                   : permErr;
+    if (unlink(path.c_str()) == 0)
+        return noErr;
+    return errno == ENOENT ? fnfErr : permErr;
+}
+
+CFRef<LSSharedFileListItem> LSSharedFileListInsertItemURL(LSSharedFileList* list,
+                                                          const LSSharedFileListItem*,
+                                                          const CFString*, const CFType*,
+                                                          const CFURL* url, const CFDictionary*,
+                                                          const CFArray*) {
+    const CFRef<CFBundle> bundle = CFBundleCreate(url);
+    const CFRef<CFURL> executable = bundle ? CFBundleCopyExecutableURL(bundle.get()) : nullptr;
+    const std::string identifier = bundle ? bundleText(bundle.get(), "CFBundleIdentifier") : "";
+    if (!executable || identifier.empty() || identifier.find('/') != std::string::npos)
+        return nullptr;
+
+    const std::string folder = list->folder();
+    std::vector<EntryFile> others;
+    if (!CFMakeFolders(folder, list->isGlobal() ? 0755 : 0700) || !listEntryFiles(folder, others))
+        return nullptr;
+    const std::string name = bundleText(bundle.get(), "CFBundleName");
+    const std::string path = freePath(folder, identifier, bundle->path());
+    const std::string text =
+        autostartEntryText(name.empty() ? identifier : name, executable->path());
+    if (path.empty() || !replaceFile(*list, path, text))
+        return nullptr;
+    makeLast(path, others);
+    return CFRef<LSSharedFileListItem>::adopt(new LSSharedFileListItem(path, bundle->path()));
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/CoreFoundation/CFString.h"
+
+/// The login name of the user who runs this program: `useShortName` is true. Null when the system
+/// knows none.
+CFRef<CFString> CSCopyUserName(bool useShortName);
+
+/// The group of the administrators.
+constexpr int kAdminGroup = 80;
+
+/// Writes the user's groups to `groups`, `baseGroup` first, and their number to `*count`, which
+/// comes in as the room that there is. -1 when that is too little, or there is no such user.
+///
+/// Linux numbers its groups as it likes. Here root and the members of sudo, wheel and admin are in
+/// kAdminGroup, and nobody else is. The C library's function of this name takes other types.
+int getgrouplist(const char* name, int baseGroup, int* groups, int* count);

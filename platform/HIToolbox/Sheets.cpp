@@ -1,0 +1,14 @@
+#include "platform/HIToolbox/Sheets.h"
+
+#include "platform/HIToolbox/CarbonWindow.h"
+#include "platform/HIToolbox/SheetShade.h"
+
+OSStatus ShowSheetWindow(WindowRef sheet, WindowRef parent) {
+    new SheetShade(&parent->widget(), &sheet->widget()); // which the parent owns
+    return noErr;
+}
+
+OSStatus HideSheetWindow(WindowRef sheet) {
+    delete dynamic_cast<SheetShade*>(sheet->widget().parentWidget());
+    return noErr;
+}
