@@ -7,11 +7,12 @@ build_packages=(
     libplist-dev libicns-dev libqt6svg6 libxcb1-dev
     librsvg2-bin icnsutils python3
     libgtest-dev libgmock-dev libbenchmark-dev
-    dbus
+    dbus desktop-file-utils
 )
 # A virtual display with a window manager, and what reads the screen and types on the keyboard.
 tour_packages=(
-    xvfb openbox xdotool maim x11-utils x11-xkb-utils at-spi2-core python3-gi gir1.2-atspi-2.0
+    xvfb openbox xdotool maim dex x11-utils x11-xkb-utils at-spi2-core python3-gi
+    gir1.2-atspi-2.0
 )
 check_packages=(git clang-format-14)
 

@@ -25,6 +25,7 @@ void wranglerSetMasterOnOff(bool on) {
 std::span<const NSOutlet> PreferenceWrangler::outlets() const {
     using W = PreferenceWrangler;
     static constexpr NSOutlet table[] = {
+        nsOutlet<&W::activateAtLaunch_>("activateAtLaunch"),
         nsOutlet<&W::addButtonBtn_>("addButtonBtn"),
         nsOutlet<&W::autoRepeatTime_>("autoRepeatTime"),
         nsOutlet<&W::borderGap_>("borderGap"),
@@ -39,6 +40,7 @@ std::span<const NSOutlet> PreferenceWrangler::outlets() const {
         nsOutlet<&W::clickTime_>("clickTime"),
         nsOutlet<&W::guideTransparency_>("guideTransparency"),
         nsOutlet<&W::inverseReleaseTime_>("inverseReleaseTime"),
+        nsOutlet<&W::launchAtLogin_>("launchAtLogin"),
         nsOutlet<&W::lineColor_>("lineColor"),
         nsOutlet<&W::lineScanCanEndKybdModeCheck_>("lineScanCanEndKybdModeCheck"),
         nsOutlet<&W::lineScanTime_>("lineScanTime"),
@@ -115,6 +117,8 @@ std::span<const NSAction> PreferenceWrangler::actions() const {
         nsAction<&W::captureHotKey>("captureHotKey:"),
         nsAction<&W::removeHotKey>("removeHotKey:"),
         nsAction<&W::resetHotKey>("resetHotKey:"),
+        nsAction<&W::changedLaunchAtLogin>("changedLaunchAtLogin:"),
+        nsAction<&W::changedActivateAtLaunch>("changedActivateAtLaunch:"),
         nsAction<&W::addPaletteBtn>("addPaletteBtn:"),
         nsAction<&W::setPaletteBtnAction>("setPaletteBtnAction:"),
         nsAction<&W::removePaletteButton>("removePaletteButton:"),
@@ -220,6 +224,7 @@ void PreferenceWrangler::loadValues() {
     triggerOnReleaseRadios_->selectCellWithTag(prefs.triggerOnRelease != 0);
     buttonShapeRadios_->selectCellWithTag(static_cast<int>(prefs.buttonShape));
     updateScanAreaRadios();
+    updateLaunchUI();
 
     const struct {
         NSButton* check;

@@ -86,6 +86,14 @@ public:
     void setTargetHotKey(HotKeyView* view);
     void updateHotKeyUI();
 
+    // PreferenceWranglerLaunch.cpp: launching at login
+
+    /// Makes the system's login items agree with the setting, and shows both settings of the start.
+    /// Without the agent's bundle the login items stay as they are.
+    void updateLaunchUI();
+    void changedLaunchAtLogin(NSButton* sender);
+    void changedActivateAtLaunch(NSButton* sender);
+
     // PreferenceWranglerPalette.cpp: the palette's buttons. An edit leaves nothing selected.
 
     /// Adds an item for every action that has a title; choosing it sends the selector, with the
@@ -146,6 +154,7 @@ private:
     void updatePalettePrompt();
     void setButtonContent(UInt32 bit, NSButton* sender);
 
+    NSButton* activateAtLaunch_ = nullptr;
     NSPopUpButton* addButtonBtn_ = nullptr;
     SliderController* autoRepeatTime_ = nullptr;
     BumperController* borderGap_ = nullptr;
@@ -160,6 +169,7 @@ private:
     SliderController* clickTime_ = nullptr;
     SliderController* guideTransparency_ = nullptr;
     SliderController* inverseReleaseTime_ = nullptr;
+    NSButton* launchAtLogin_ = nullptr;
     NSColorWell* lineColor_ = nullptr;
     NSButton* lineScanCanEndKybdModeCheck_ = nullptr;
     SliderController* lineScanTime_ = nullptr;

@@ -50,6 +50,8 @@ void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {
         showSampleLineType(kSampleGuideLine);
     if (changes & kPreviewChanges)
         sampleScanImage_->setNeedsDisplay(true);
+    if (changes & kChangeLaunch)
+        updateLaunchUI();
     if (changes & kChangePointer)
         updatePointerName();
     if (changes & kChangeHotKeys)

@@ -1,6 +1,7 @@
 #include "src/prefpane/VLDKorvexPane.h"
 
 #include "platform/HIToolbox/AppleHelp.h"
+#include "src/AXReq/axreq.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/PreferenceWrangler.h"
 #include "src/prefpane/palutil.h"
@@ -35,7 +36,16 @@ void VLDKorvexPane::willSelect() {
     preferenceWrangler_->loadValues();
 }
 
+void VLDKorvexPane::didSelect() {
+    const auto identifier = CFStringCreateMutable(0);
+    CFStringAppend(identifier.get(), kAgentBundleID);
+    CFStringAppend(identifier.get(), CFSTR(".PrefsPane"));
+    axReqCheckAXEnabled(CFBundleGetBundleWithIdentifier(identifier.get()),
+                        mainView()->window().windowRef());
+}
+
 void VLDKorvexPane::didUnselect() {
+    axReqCancel();
     ptrmanCleanup();
     palutilCleanup();
     prefsCleanup();

@@ -14,7 +14,9 @@ public:
     void mainViewDidLoad() override;
     /// Links to the agent, then loads the settings and shows them.
     void willSelect() override;
-    /// Saves the settings if any was changed, then lets the agent go.
+    /// Tells the user when assistive access is off in the system.
+    void didSelect() override;
+    /// Takes that notice away. Saves the settings if any was changed, then lets the agent go.
     void didUnselect() override;
 
 private:
