@@ -115,6 +115,7 @@ int main(int argc, char** argv) {
     addPaletteFigures();
     addPreviewFigures();
     addStartFigures();
+    addLaunchFigures();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;

@@ -31,6 +31,7 @@ void addHotKeyFigures();
 void addPaletteFigures();
 void addPreviewFigures();
 void addStartFigures();
+void addLaunchFigures();
 
 /// Calls `work` and gives the seconds that it took.
 template <class Work>

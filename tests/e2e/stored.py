@@ -55,7 +55,7 @@ def stored_file(config: Path) -> Path:
     return config / "Preferences" / f"{DOMAIN}.plist"
 
 
-def check_stored(config: Path, changed: dict[str, str]) -> str:
+def check_stored(config: Path, changed: dict[str, str | int]) -> str:
     """The file must hold every key in its stored form, the changed ones with their new text, and
     nothing else. Returns an account."""
     found = plistlib.loads(stored_file(config).read_bytes())

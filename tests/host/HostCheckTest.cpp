@@ -34,6 +34,7 @@ std::string replaced(std::string text, const std::string& old, const std::string
 constexpr const char* kInfo = "Contents/Info.plist";
 constexpr const char* kCode = "Contents/Linux/Korvex";
 constexpr const char* kForm = "Contents/Resources/Pane.ui";
+constexpr const char* kNotice = "Contents/Resources/axreq.ui";
 constexpr const char* kWhole = nullptr;
 constexpr const char* kGone = nullptr;
 
@@ -57,6 +58,13 @@ const Fault kFaults[] = {
     {kInfo, "NSMainNibFile", "NSNibFile", kInfo, "NSMainNibFile"},
     {kInfo, "<string>Pane</string>", "<string>Other</string>", "Contents/Resources/Other.ui",
      "no such file"},
+    {kNotice, kWhole, kGone, kNotice, "No such file"},
+    {kNotice, kWhole, "<ui>", kNotice, "reading the UI file"},
+    {kNotice, "<string>axCn</string>", "<string>axXx</string>", kNotice,
+     "window 'window' has no command 'axCn'"},
+    {kNotice, "<number>100</number>", "<number>101</number>", kNotice,
+     "window 'sheet' has no control 'axRq' 100"},
+    {kNotice, "name=\"window\"", "name=\"other\"", kNotice, "no window 'window'"},
     {kCode, kWhole, kGone, kInfo, "CFBundleExecutable 'Korvex'"},
     {kCode, kWhole, "no library", kCode, "file too short"},
     {kForm, kWhole, kGone, kForm, "no such file"},
@@ -85,7 +93,7 @@ TEST(HostCheckTest, ABrokenBundleIsRefusedByFileAndThing) {
                                         << " -> " << (fault.now ? fault.now : "gone"));
         fs::remove_all(bundle);
         fs::create_directories(bundle / "Contents/Linux");
-        for (const char* file : {kInfo, kForm})
+        for (const char* file : {kInfo, kForm, kNotice})
             writeFile(bundle / file, readFile(fs::path(KORVEX_BUNDLE) / file));
         fs::create_symlink(fs::path(KORVEX_BUNDLE) / kCode, bundle / kCode);
 

@@ -1,6 +1,6 @@
 #include "platform/CoreServices/LaunchServices.h"
-#include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/AgentLog.h"
+#include "tests/support/NoticeMuting.h"
 #include "tests/support/ProcessTest.h"
 #include "tests/support/SignalProcess.h"
 
@@ -28,7 +28,10 @@ const QString kInterface = QStringLiteral("org.freedesktop.Application");
 /// The host as a program with its own pane, and the agent beside it.
 class HostLifeTest : public ProcessTest {
 protected:
-    HostLifeTest() { takePart(); }
+    HostLifeTest() {
+        takePart();
+        muteNotice();
+    }
 
     ~HostLifeTest() override {
         host_.kill();

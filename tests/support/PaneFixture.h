@@ -6,6 +6,7 @@
 #include "src/prefpane/VLDKorvexPane.h"
 #include "src/prefs.h"
 #include "tests/support/AgentLog.h"
+#include "tests/support/NoticeMuting.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -25,6 +26,7 @@ protected:
     PaneTest() {
         std::setlocale(LC_NUMERIC, "C"); // which QApplication has changed
         registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
+        muteNotice();
     }
 
     ~PaneTest() override {

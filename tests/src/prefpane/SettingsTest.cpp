@@ -1,3 +1,4 @@
+#include "src/prefpane/PreferenceWrangler.h"
 #include "tests/support/PaneFixture.h"
 
 #include <QAbstractButton>
@@ -94,6 +95,9 @@ TEST_F(SettingsTest, EachCheckBoxAndRadioWritesItsOwnFieldAndReportsItsGroup) {
         {"playClickSoundsCheck", AT(playClickSounds), 0, kChangeSounds},
         {"playDragPrompts", AT(playDragPrompts), 0, kChangeSounds},
         {"playDragPrompts", AT(playDragPrompts), 1, kChangeSounds},
+        {"launchAtLogin", AT(launchAtLogin), 0, kChangeLaunch},
+        {"launchAtLogin", AT(launchAtLogin), 1, kChangeLaunch},
+        {"activateAtLaunch", AT(activateAtLaunch), 0, kChangeLaunch},
         {"triggerOnReleaseRadios1", AT(triggerOnRelease), 1, kChangeTriggers},
         {"scanModeRadios1", AT(scanMode), 1, kChangeTriggers},
         {"scanModeRadios2", AT(scanMode), 2, kChangeTriggers},
@@ -166,6 +170,42 @@ TEST_F(SettingsTest, AUsableScanAreaIsSwitchedOnAndOff) {
     click("useScanAreaRadios0");
     EXPECT_EQ(recordField<UInt8>(agentLog_.next(), AT(useScanArea)), 0);
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
+}
+
+TEST_F(SettingsTest, TheLoginItemFollowsTheSetting) {
+    const auto folder = std::filesystem::path(std::getenv("XDG_CONFIG_HOME")) / "autostart";
+    const auto entry = folder / (std::string(kAgentBundleIDText) + ".desktop");
+    openWithAgent();
+    EXPECT_THAT(readFile(entry), testing::HasSubstr("Korvex Agent.app/Contents/Linux/"));
+    const auto written = std::filesystem::last_write_time(entry);
+    click("activateAtLaunch");
+    EXPECT_EQ(std::filesystem::last_write_time(entry), written) << "nothing has changed for it";
+    click("launchAtLogin");
+    EXPECT_FALSE(std::filesystem::exists(entry));
+    click("activateAtLaunch");
+    EXPECT_FALSE(std::filesystem::exists(entry));
+    click("launchAtLogin");
+    EXPECT_TRUE(std::filesystem::exists(entry));
+
+    std::filesystem::remove_all(folder);
+    writeFile(folder, "in the folder's place");
+    pane_->willSelect();
+    EXPECT_TRUE(isChecked("launchAtLogin")) << "the setting, whether or not it could be done";
+    EXPECT_TRUE(isEnabled("launchAtLogin"));
+}
+
+TEST_F(SettingsTest, WithoutTheAgentsBundleTheLoginItemsStayAsTheyAre) {
+    open();
+    pane_->didUnselect();
+    const auto folder = std::filesystem::path(std::getenv("XDG_CONFIG_HOME")) / "autostart";
+    std::filesystem::remove_all(folder);
+    prefs.launchAtLogin = 1;
+    prefs.activateAtLaunch = 0;
+    theWrangler->updateLaunchUI(); // the link to the agent is down
+    EXPECT_FALSE(std::filesystem::exists(folder));
+    EXPECT_TRUE(isChecked("launchAtLogin"));
+    EXPECT_FALSE(isChecked("activateAtLaunch"));
+    pane_->willSelect(); // for the visit that ends with the test
 }
 
 TEST_F(SettingsTest, EveryDefaultLiesInsideItsSlidersRange) {

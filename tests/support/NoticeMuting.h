@@ -1,0 +1,15 @@
+#pragma once
+
+#include "tests/platform/CoreFoundation/TestFiles.h"
+
+/// All users' preferences as an administrator may set them: they keep the notice about assistive
+/// access away from everybody who hasn't seen it yet.
+inline std::filesystem::path noticeMutingFile() {
+    return std::filesystem::path(std::getenv("XDG_CONFIG_DIRS")) /
+           "Preferences/org.korvex.Agent.plist";
+}
+
+inline void muteNotice() {
+    writeFile(noticeMutingFile(), dictionaryFile("<key>axReqLastNoticeDate</key>"
+                                                 "<integer>2147483647</integer>"));
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/CoreFoundation/CFURL.h"
+#include "tests/platform/CoreFoundation/TestFiles.h"
+
+/// Makes an application's bundle, org.korvex.Test, whose executable is Contents/Linux/run. Gives
+/// its URL.
+inline CFRef<CFURL> makeTestApplication(const std::filesystem::path& bundle,
+                                        const std::string& script = "#!/bin/sh\n") {
+    const auto executable = bundle / "Contents/Linux/run";
+    writeFile(executable, script);
+    std::filesystem::permissions(executable, std::filesystem::perms::owner_all);
+    writeFile(bundle / "Contents/Info.plist",
+              dictionaryFile("<key>CFBundleIdentifier</key><string>org.korvex.Test</string>"
+                             "<key>CFBundleName</key><string>Test</string>"
+                             "<key>CFBundleExecutable</key><string>run</string>"));
+    return CFURLCreateFromFileSystemRepresentation(bundle.c_str(), true);
+}
