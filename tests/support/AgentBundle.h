@@ -16,6 +16,7 @@ public:
         std::filesystem::remove_all(path());
         std::filesystem::create_directories(pointers());
         write(path() / "Contents/Info.plist", "<plist version=\"1.0\"><dict/></plist>");
+        prefs = PrefsRecord{};
         prefs.on = 0;
         daemonSetup(CFStringCreateWithUTF8(path().string()).get());
     }

@@ -233,8 +233,10 @@ TEST_F(SampleScanViewTest, ItIsSharpOnScaledDisplays) {
             colors.insert(image.pixel(x, y));
         EXPECT_EQ(colors.size(), 3U) << "frame, ground and band, and nothing between them";
         const int whole = static_cast<int>(scale);
-        if (whole == scale)
-            expectPointerAt(image, 199 * whole, 68 * whole, whole);
+        if (whole != scale)
+            continue;
+        EXPECT_EQ(std::pair(top, bottom), std::pair(67 * whole, 74 * whole - 1));
+        expectPointerAt(image, 199 * whole, 68 * whole, whole);
     }
 }
 
