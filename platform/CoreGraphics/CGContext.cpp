@@ -2,12 +2,18 @@
 
 #include "platform/QuickDraw/GrafPort.h"
 
-CGContext::CGContext(QPainter& painter, int height) : painter_(painter), height_(height) {
-    painter_.save();
+CGContext::CGContext(GrafPort& port)
+    : port_(port), height_(static_cast<CGFloat>(port.size().height())) {
+    painter().save();
 }
 
 CGContext::~CGContext() {
-    painter_.restore();
+    painter().restore();
+    port_.endDrawing();
+}
+
+QPainter& CGContext::painter() {
+    return port_.painter();
 }
 
 QRectF CGContext::toPainter(const CGRect& rect) const {
@@ -16,9 +22,7 @@ QRectF CGContext::toPainter(const CGRect& rect) const {
 }
 
 CFRef<CGContext> CreateCGContextForPort(GrafPtr port) {
-    if (!port || !port->painter().isActive())
+    if (!port || !port->beginDrawing())
         return nullptr;
-    Rect bounds;
-    GetPortBounds(port, &bounds);
-    return CFRef<CGContext>::adopt(new CGContext(port->painter(), bounds.bottom - bounds.top));
+    return CFRef<CGContext>::adopt(new CGContext(*port));
 }

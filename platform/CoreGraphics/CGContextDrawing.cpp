@@ -1,6 +1,26 @@
 #include "platform/CoreGraphics/CGContext.h"
 
-#include <QPainter>
+#include "platform/QuickDraw/GrafPort.h"
+
+#include <QPainterPath>
+
+namespace {
+
+/// Where a rectangle of the context lies in the port's widget.
+QRectF toWidget(const CGContext& context, const QTransform& transform, const CGRect& rect) {
+    return transform.mapRect(context.toPainter(rect).normalized());
+}
+
+QColor toColor(CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha) {
+    return QColor::fromRgbF(red, green, blue, alpha);
+}
+
+} // namespace
+
+void SyncCGContextOriginWithPort(CGContext* context, GrafPtr port) {
+    CGContextTranslateCTM(context, static_cast<CGFloat>(-port->origin.x()),
+                          static_cast<CGFloat>(port->origin.y()));
+}
 
 // The painter's coordinates grow downward from the port's top: what the context's own are moved and
 // scaled by is mirrored.
@@ -19,4 +39,69 @@ void CGContextSaveGState(CGContext* context) {
 
 void CGContextRestoreGState(CGContext* context) {
     context->painter().restore();
+}
+
+void CGContextClipToRects(CGContext* context, const CGRect rects[], std::size_t count) {
+    QPainter& painter = context->painter();
+    const QTransform transform = painter.transform();
+    QRegion region;
+    for (std::size_t i = 0; i < count; ++i)
+        region += toWidget(*context, transform, rects[i]).toAlignedRect();
+    painter.resetTransform();
+    painter.setClipRegion(region, Qt::IntersectClip);
+    painter.setTransform(transform);
+}
+
+void CGContextSetLineJoin(CGContext* context, CGLineJoin join) {
+    QPen pen = context->painter().pen();
+    pen.setJoinStyle(join == kCGLineJoinRound ? Qt::RoundJoin : Qt::MiterJoin);
+    context->painter().setPen(pen);
+}
+
+void CGContextSetRGBFillColor(CGContext* context, CGFloat red, CGFloat green, CGFloat blue,
+                              CGFloat alpha) {
+    context->painter().setBrush(toColor(red, green, blue, alpha));
+}
+
+void CGContextSetRGBStrokeColor(CGContext* context, CGFloat red, CGFloat green, CGFloat blue,
+                                CGFloat alpha) {
+    QPen pen = context->painter().pen();
+    pen.setColor(toColor(red, green, blue, alpha));
+    context->painter().setPen(pen);
+}
+
+void CGContextClearRect(CGContext* context, CGRect rect) {
+    context->port().erase(toWidget(*context, context->painter().transform(), rect));
+}
+
+void CGContextFillRect(CGContext* context, CGRect rect) {
+    QPainter& painter = context->painter();
+    painter.fillRect(context->toPainter(rect).normalized(), painter.brush());
+}
+
+// Filled between its two outlines: Qt takes ten times as long to stroke it when the clip has
+// several parts.
+void CGContextStrokeRectWithWidth(CGContext* context, CGRect rect, CGFloat width) {
+    QPainter& painter = context->painter();
+    const QPen pen = painter.pen();
+    const QRectF middle = context->toPainter(rect).normalized();
+    const double half = double{width} / 2;
+    const double radius = pen.joinStyle() == Qt::RoundJoin ? half : 0;
+    QPainterPath line;
+    line.addRoundedRect(middle.adjusted(-half, -half, half, half), radius, radius);
+    if (middle.width() > width && middle.height() > width)
+        line.addRect(middle.adjusted(half, half, -half, -half));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(line, pen.color());
+    painter.restore();
+}
+
+void CGContextFlush(CGContext* context) {
+    QPainter& painter = context->painter();
+    painter.save();
+    painter.resetTransform();
+    context->port().flush(painter.hasClipping() ? painter.clipRegion()
+                                                : context->port().widget().rect());
+    painter.restore();
 }

@@ -22,7 +22,7 @@ constexpr int kRing = 2;
 constexpr double kCornerRadius = 3.0;
 
 QString toQString(const CFString* text) {
-    return QString::fromStdU16String(text->text());
+    return QString::fromStdU16String(text->text()).replace(u'\r', u'\n');
 }
 
 void scaleFont(QFont& font, double scale) {
@@ -32,9 +32,10 @@ void scaleFont(QFont& font, double scale) {
         font.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() * scale))));
 }
 
-QFont themeFont(const GrafPort& port) {
+QFont themeFont(const GrafPort& port, ThemeFontID id) {
     QFont font = port.widget().font();
-    scaleFont(font, kLabelScale);
+    if (id == kThemeLabelFont)
+        scaleFont(font, kLabelScale);
     return font;
 }
 
@@ -125,12 +126,12 @@ OSStatus DrawThemeFocusRect(const Rect* rect, bool hasFocus) {
     return noErr;
 }
 
-OSStatus GetThemeTextDimensions(const CFString* text, ThemeFontID, ThemeDrawState, bool wrapToWidth,
-                                Point* bounds, SInt16* baseline) {
+OSStatus GetThemeTextDimensions(const CFString* text, ThemeFontID font, ThemeDrawState,
+                                bool wrapToWidth, Point* bounds, SInt16* baseline) {
     GrafPort* port = GrafPort::current();
     if (!port)
         return kThemeNoPortErr;
-    const QFontMetrics metrics(themeFont(*port), port->painter().device());
+    const QFontMetrics metrics(themeFont(*port, font), port->painter().device());
     const QRect space(0, 0, wrapToWidth ? bounds->h : 0, 0);
     const QRect extent = metrics.boundingRect(space, textFlags(wrapToWidth, 0), toQString(text));
     *bounds = {static_cast<SInt16>(extent.height()), static_cast<SInt16>(extent.width())};
@@ -139,16 +140,22 @@ OSStatus GetThemeTextDimensions(const CFString* text, ThemeFontID, ThemeDrawStat
     return noErr;
 }
 
-OSStatus DrawThemeTextBox(const CFString* text, ThemeFontID, ThemeDrawState, bool wrapToWidth,
-                          const Rect* box, ThemeJustification, void*) {
+OSStatus DrawThemeTextBox(const CFString* text, ThemeFontID font, ThemeDrawState, bool wrapToWidth,
+                          const Rect* box, ThemeJustification, CGContext* context) {
     GrafPort* port = GrafPort::current();
     if (!port)
         return kThemeNoPortErr;
     const QRect place = toQRect(*box);
     QPainter& painter = port->painter();
     painter.save();
-    painter.setFont(themeFont(*port));
-    painter.setPen(port->widget().palette().color(QPalette::ButtonText));
+    painter.setFont(themeFont(*port, font));
+    if (context) {
+        painter.setPen(painter.brush().color());
+        painter.translate(0, context->height());
+        painter.scale(1, -1);
+    } else {
+        painter.setPen(port->widget().palette().color(QPalette::ButtonText));
+    }
     QString line = toQString(text);
     if (!wrapToWidth)
         line = fittedLine(painter, line, place.width());

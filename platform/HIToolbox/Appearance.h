@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/CoreFoundation/CFString.h"
+#include "platform/CoreGraphics/CGContext.h"
 #include "platform/QuickDraw/QuickDraw.h"
 
 // The Appearance Manager: buttons and texts in the look of the user's desktop, drawn into the
@@ -49,20 +50,24 @@ OSStatus SetThemeBackground(ThemeBrush brush, SInt16 depth, bool isColorDevice);
 /// `hasFocus` is false, as every view is erased before it is drawn.
 OSStatus DrawThemeFocusRect(const Rect* rect, bool hasFocus);
 
-enum ThemeFontID : UInt16 { kThemeLabelFont = 6 /**< the small text under an icon */ };
+enum ThemeFontID : UInt16 {
+    kThemeSystemFont = 0, ///< of dialogues
+    kThemeLabelFont = 6,  ///< the small text under an icon
+};
 
 enum ThemeJustification : SInt16 { teCenter = 1 };
 
-/// Measures a text: `bounds->h` becomes its width and `bounds->v` its height, rounded up; with
-/// `wrapToWidth`, `bounds->h` is first the width to wrap at. `baseline` (may be null) receives the
-/// distance of the last line's baseline from the bottom, negative. kThemeNoPortErr outside of
-/// drawing.
+/// Measures a text, in which a carriage return begins a line: `bounds->h` becomes its width and
+/// `bounds->v` its height, rounded up; with `wrapToWidth`, `bounds->h` is first the width to wrap
+/// at. `baseline` (may be null) receives the distance of the last line's baseline from the bottom,
+/// negative. kThemeNoPortErr outside of drawing.
 OSStatus GetThemeTextDimensions(const CFString* text, ThemeFontID font, ThemeDrawState state,
                                 bool wrapToWidth, Point* bounds, SInt16* baseline);
 
 /// Draws a text into the box, from its top. A single line that is too wide for it is drawn up to a
-/// quarter smaller, and beyond that is shortened and ends in an ellipsis. `context` is null: the
-/// current port.
+/// quarter smaller, and beyond that is shortened and ends in an ellipsis. With a context, the box
+/// lies in its coordinates, with y growing downward, and the text has its fill colour; with null,
+/// in the current port's, and the text has the theme's.
 OSStatus DrawThemeTextBox(const CFString* text, ThemeFontID font, ThemeDrawState state,
                           bool wrapToWidth, const Rect* box, ThemeJustification justification,
-                          void* context);
+                          CGContext* context);

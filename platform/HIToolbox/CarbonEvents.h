@@ -113,14 +113,15 @@ OSStatus RemoveEventHandler(EventHandlerRef handler);
 
 /// Handles events until the loop is ended for the window, or the window goes, or the program is to
 /// end. The program's other windows get none of the user's meanwhile; all else goes on.
+/// errCouldntSetUserFocus when the window can't have the keyboard that it was to get.
 OSStatus RunAppModalLoopForWindow(WindowRef window);
 
 /// Ends the window's loop once the event being handled is done.
 OSStatus QuitAppModalLoopForWindow(WindowRef window);
 
 /// From now on, and as long as it is shown, the window gets the keys, whatever the desktop thinks
-/// of it. Should another program hold the keyboard at the moment, such as an open menu, it is asked
-/// for again until it is free.
+/// of it. While another program holds the keyboard, such as an open menu's, it is asked for again
+/// and again, for at most five seconds: then the window's modal loop ends.
 OSStatus SetUserFocusWindow(WindowRef window);
 
 /// Modifier keys as Carbon's events have them. On Linux command is the Super key and option is Alt.

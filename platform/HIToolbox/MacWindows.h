@@ -10,6 +10,8 @@ using WindowRef = class CarbonWindow*;
 
 /// The desktop can't have such a window: on Wayland none may cover the screens.
 constexpr OSStatus errWindowClassNotSupported = -5601;
+/// Another program holds the keyboard and doesn't let it go.
+constexpr OSStatus errCouldntSetUserFocus = -5609;
 
 enum WindowClass : UInt32 {
     kOverlayWindowClass = 14, ///< without a frame, transparent where nothing is drawn, above all
@@ -22,7 +24,7 @@ enum : WindowAttributes {
     kWindowStandardHandlerAttribute = 1u << 25,
 };
 
-/// Makes a window, hidden still. paramErr for a class or attributes other than those above.
+/// Makes a window, hidden still. errWindowClassNotSupported for another class as well.
 OSStatus CreateNewWindow(WindowClass windowClass, WindowAttributes attributes,
                          const Rect* contentBounds, WindowRef* window);
 

@@ -15,9 +15,11 @@ SInt16 toEdge(int edge) {
 } // namespace
 
 GrafPort::GrafPort(QPainter& painter, const QWidget& widget)
-    : painter_(painter), widget_(widget), previous_(currentPort) {
+    : painter_(&painter), widget_(widget), previous_(currentPort) {
     currentPort = this;
 }
+
+GrafPort::GrafPort(const QWidget& widget) : widget_(widget) {}
 
 GrafPort::~GrafPort() {
     if (currentPort == this)
@@ -30,6 +32,18 @@ GrafPort* GrafPort::current() {
 
 void GrafPort::setCurrent(GrafPort* port) {
     currentPort = port;
+}
+
+bool GrafPort::beginDrawing() {
+    return painter_ && painter_->isActive();
+}
+
+void GrafPort::erase(const QRectF& rect) {
+    painter_->save();
+    painter_->resetTransform();
+    painter_->setCompositionMode(QPainter::CompositionMode_Source);
+    painter_->fillRect(rect, Qt::transparent);
+    painter_->restore();
 }
 
 Rect toRect(const QRect& rect) {
@@ -45,7 +59,12 @@ void SetPort(GrafPtr port) {
     GrafPort::setCurrent(port);
 }
 
+void SetOrigin(SInt16 h, SInt16 v) {
+    if (GrafPort* port = GrafPort::current())
+        port->origin = {h, v};
+}
+
 Rect* GetPortBounds(GrafPtr port, Rect* bounds) {
-    *bounds = toRect(port->widget().rect());
+    *bounds = toRect({port->origin, port->size()});
     return bounds;
 }

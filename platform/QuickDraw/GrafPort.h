@@ -6,13 +6,13 @@
 #include <QRect>
 #include <QWidget>
 
-/// A widget's picture, while the painter is active on it. It is the current port from its making to
-/// its end, when the one before it becomes current again.
+/// A widget's picture, in the widget's own coordinates.
 class GrafPort {
 public:
-    /// Neither is owned. The painter's coordinates are the widget's own.
+    /// A view's port, while the painter is active on it. It is the current port from its making to
+    /// its end, when the one before it becomes current again. Neither is owned.
     GrafPort(QPainter& painter, const QWidget& widget);
-    ~GrafPort();
+    virtual ~GrafPort();
     GrafPort(const GrafPort&) = delete;
     GrafPort& operator=(const GrafPort&) = delete;
 
@@ -20,17 +20,40 @@ public:
     static GrafPort* current();
     static void setCurrent(GrafPort* port);
 
-    QColor background = Qt::white;
-
-    QPainter& painter() { return painter_; }
-
     /// Whose style, palette and fonts the theme takes.
     const QWidget& widget() const { return widget_; }
 
+    QColor background = Qt::white;
+    QPoint origin = {}; ///< the coordinates of the top-left corner
+
+    /// In points.
+    virtual QSize size() const { return widget_.size(); }
+
+    /// Only between beginDrawing and endDrawing.
+    QPainter& painter() { return *painter_; }
+
+    /// False when there is nothing to draw on at the moment.
+    virtual bool beginDrawing();
+
+    virtual void endDrawing() {}
+
+    /// What was drawn inside the region, in the widget's coordinates, is to be on the screen once
+    /// the drawing has ended. A view's always is.
+    virtual void flush(const QRegion&) {}
+
+    /// Takes away what was drawn in the rectangle, in the widget's coordinates.
+    virtual void erase(const QRectF& rect);
+
+protected:
+    /// A port that is there without a painter, and not current.
+    explicit GrafPort(const QWidget& widget);
+
+    void setPainter(QPainter* painter) { painter_ = painter; }
+
 private:
-    QPainter& painter_;
+    QPainter* painter_ = nullptr;
     const QWidget& widget_;
-    GrafPort* previous_;
+    GrafPort* previous_ = nullptr;
 };
 
 inline QRect toQRect(const Rect& rect) {

@@ -22,18 +22,23 @@ struct Rect {
     bool operator==(const Rect&) const = default;
 };
 
-/// What QuickDraw draws into: the picture of one view while that view is being drawn.
+/// What QuickDraw draws into: the picture of a view while that view is being drawn, or of a window.
 class GrafPort;
 using GrafPtr = GrafPort*;
 
-/// The current port; null when no view is being drawn. Borrowed, until the drawing ends.
+/// The current port; null when there is none. Borrowed: a view's until its drawing ends, a window's
+/// until the window goes.
 void GetPort(GrafPtr* port);
-
-/// The whole view, with its top-left corner at 0, 0. Gives `bounds` back.
-Rect* GetPortBounds(GrafPtr port, Rect* bounds);
 
 /// Makes the port current; null for none.
 void SetPort(GrafPtr port);
+
+/// Gives the top-left corner of the current port these coordinates instead of 0, 0, for
+/// GetPortBounds and SyncCGContextOriginWithPort.
+void SetOrigin(SInt16 h, SInt16 v);
+
+/// The whole view or window. Gives `bounds` back.
+Rect* GetPortBounds(GrafPtr port, Rect* bounds);
 
 // What follows acts on the current port, and does nothing without one.
 
