@@ -11,8 +11,8 @@ build_packages=(
 )
 # A virtual display with a window manager, and what reads the screen and types on the keyboard.
 tour_packages=(
-    xvfb openbox xdotool maim dex x11-utils x11-xkb-utils at-spi2-core python3-gi
-    gir1.2-atspi-2.0
+    xvfb x11-utils x11-xkb-utils x11-xserver-utils picom openbox xdotool maim dex
+    at-spi2-core python3-gi python3-pil gir1.2-atspi-2.0
 )
 check_packages=(git clang-format-14)
 

@@ -60,6 +60,7 @@ std::span<const NSOutlet> PreferenceWrangler::outlets() const {
         nsOutlet<&W::removeButtonBtn_>("removeButtonBtn"),
         nsOutlet<&W::resetActionsBtn_>("resetActionsBtn"),
         nsOutlet<&W::sampleScanImage_>("sampleScanImage"),
+        nsOutlet<&W::scanAreaText_>("scanAreaText"),
         nsOutlet<&W::scanModeRadios_>("scanModeRadios"),
         nsOutlet<&W::setActionBtn_>("setActionBtn"),
         nsOutlet<&W::stepScanCancelTime_>("stepScanCancelTime"),
@@ -111,6 +112,7 @@ std::span<const NSAction> PreferenceWrangler::actions() const {
         nsAction<&W::changedLineScanCanEndKyndMode>("changedLineScanCanEndKyndMode:"),
         nsAction<&W::changedCanScanMenuBar>("changedCanScanMenuBar:"),
         nsAction<&W::changedLineColor>("changedLineColor:"),
+        nsAction<&W::setCustomScanArea>("setCustomScanArea:"),
         nsAction<&W::setHotKeyToNone>("setHotKeyToNone:"),
         nsAction<&W::setHotKeyToDefault>("setHotKeyToDefault:"),
         nsAction<&W::cancelHotKeyEdit>("cancelHotKeyEdit:"),
@@ -224,6 +226,7 @@ void PreferenceWrangler::loadValues() {
     triggerOnReleaseRadios_->selectCellWithTag(prefs.triggerOnRelease != 0);
     buttonShapeRadios_->selectCellWithTag(static_cast<int>(prefs.buttonShape));
     updateScanAreaRadios();
+    updateScanAreaText();
     updateLaunchUI();
 
     const struct {

@@ -132,6 +132,13 @@ public:
     /// same one. Does nothing when the agent has no pointers.
     void bumpPointer(bool forward);
 
+    // PreferenceWranglerScanArea.cpp: the custom scan area
+
+    /// Shows the area in words.
+    void updateScanAreaText();
+    /// Lets the user draw an area, and scans only that from then on, or all when it is empty.
+    void setCustomScanArea(NSButton* sender);
+
 private:
     /// A hot key and what stands beside it.
     struct HotKeyRow {
@@ -189,6 +196,7 @@ private:
     NSButton* removeButtonBtn_ = nullptr;
     NSButton* resetActionsBtn_ = nullptr;
     SampleScanView* sampleScanImage_ = nullptr;
+    NSTextField* scanAreaText_ = nullptr;
     NSMatrix* scanModeRadios_ = nullptr;
     NSPopUpButton* setActionBtn_ = nullptr;
     SliderController* stepScanCancelTime_ = nullptr;

@@ -1,0 +1,46 @@
+#include "src/prefpane/PreferenceWrangler.h"
+
+#include "platform/AppKit/NSTextField.h"
+#include "src/prefpane/choosearea.h"
+
+#include <cstdio>
+
+namespace {
+
+std::string describe(const ScanArea& area) {
+    if (area.width <= 0 || area.height <= 0)
+        return "none";
+    char text[100];
+    std::snprintf(text, sizeof text, "%g × %g at %g, %g", double{area.width}, double{area.height},
+                  double{area.x}, double{area.y});
+    return text;
+}
+
+/// What keeps the user from drawing an area, and what helps.
+const char* explain(OSStatus error) {
+    return error == errCouldntSetUserFocus
+               ? "Another program holds the keyboard. Close its menus, then try again."
+               : "This desktop lets no window cover the screens. Log in to a session with X11 "
+                 "(Xorg) to draw an area.";
+}
+
+} // namespace
+
+void PreferenceWrangler::updateScanAreaText() {
+    scanAreaText_->setStringValue(describe(prefs.scanArea));
+}
+
+void PreferenceWrangler::setCustomScanArea(NSButton*) {
+    auto& [x, y, width, height] = prefs.scanArea;
+    CGRect area = CGRectMake(x, y, width, height);
+    if (!chooseArea(&area)) {
+        if (chooseAreaError() != noErr)
+            scanAreaText_->setStringValue(explain(chooseAreaError()));
+        return;
+    }
+    prefs.scanArea = {area.origin.x, area.origin.y, area.size.width, area.size.height};
+    prefs.useScanArea = !CGRectIsEmpty(area);
+    updateScanAreaText();
+    updateScanAreaRadios();
+    changed(kChangeScanArea);
+}

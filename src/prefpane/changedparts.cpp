@@ -1,0 +1,51 @@
+#include "src/prefpane/changedparts.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// From an area's edge to where its border ends, with a point for the smoothing of its line.
+constexpr CGFloat kBorderReach = 1.5F;
+
+} // namespace
+
+ChangedParts::ChangedParts(const ShownAreas& before, const ShownAreas& now) {
+    if (before.dragging == now.dragging) {
+        addBetween(before.current, now.current);
+        if (now.dragging)
+            addBetween(before.dragged, now.dragged);
+        return;
+    }
+    addWhole(before.current);
+    addWhole(now.current);
+    addWhole(before.dragging ? before.dragged : now.dragged);
+}
+
+void ChangedParts::addWhole(const CGRect& area) {
+    add(CGRectStandardize(area));
+}
+
+/// A point that is in only one of two areas lies between their left edges, or their right ones, and
+/// so on: four bands across both hold all that differs.
+void ChangedParts::addBetween(const CGRect& before, const CGRect& now) {
+    const CGRect a = CGRectStandardize(before);
+    const CGRect b = CGRectStandardize(now);
+    const auto [origin, size] = CGRectUnion(a, b);
+    const auto addColumn = [&](CGFloat x1, CGFloat x2) {
+        if (x1 != x2)
+            add(CGRectMake(std::min(x1, x2), origin.y, std::abs(x2 - x1), size.height));
+    };
+    const auto addRow = [&](CGFloat y1, CGFloat y2) {
+        if (y1 != y2)
+            add(CGRectMake(origin.x, std::min(y1, y2), size.width, std::abs(y2 - y1)));
+    };
+    addColumn(a.origin.x, b.origin.x);
+    addColumn(a.origin.x + a.size.width, b.origin.x + b.size.width);
+    addRow(a.origin.y, b.origin.y);
+    addRow(a.origin.y + a.size.height, b.origin.y + b.size.height);
+}
+
+void ChangedParts::add(const CGRect& part) {
+    rects_[count_++] = CGRectInset(part, -kBorderReach, -kBorderReach);
+}

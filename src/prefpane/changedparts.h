@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/CoreGraphics/CGGeometry.h"
+
+#include <array>
+#include <cstddef>
+
+/// What a frame of the scan-area chooser shows.
+struct ShownAreas {
+    CGRect current;
+    CGRect dragged;
+    bool dragging; ///< the dragged area shows, and the current one is pale
+};
+
+/// The parts of a frame that differ from the one before: so little of it has to be drawn that a
+/// drag over large displays stays smooth.
+class ChangedParts {
+public:
+    ChangedParts(const ShownAreas& before, const ShownAreas& now);
+
+    const CGRect* rects() const { return rects_.data(); }
+
+    std::size_t count() const { return count_; }
+
+private:
+    void addWhole(const CGRect& area);
+    void addBetween(const CGRect& before, const CGRect& now);
+    void add(const CGRect& part);
+
+    std::array<CGRect, 8> rects_; ///< at most four bands for each of the two areas
+    std::size_t count_ = 0;
+};
