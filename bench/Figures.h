@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+
 #include <chrono>
 #include <string>
 
@@ -28,10 +30,15 @@ void addFigure(const std::string& name, Limit limit, Measure measured, Measure f
 void addPrefsFigures();
 void addLinkFigures();
 void addHotKeyFigures();
+void addOverlayFigures();
 void addPaletteFigures();
 void addPreviewFigures();
 void addStartFigures();
 void addLaunchFigures();
+
+/// Has the QApplication that is made next find the displays that the overlay is measured on. Gives
+/// the platform of Qt's that was chosen before.
+QByteArray chooseDisplays();
 
 /// Calls `work` and gives the seconds that it took.
 template <class Work>

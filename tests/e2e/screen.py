@@ -90,6 +90,11 @@ class Control:
             parent = parent.get_parent()
         return None
 
+    def focus(self) -> None:
+        """Gives it the keyboard; what scrolls brings it into view."""
+        check(Atspi.Component.grab_focus(self._node), f"“{self.name}” takes no focus")
+        until(lambda: self.has(Atspi.StateType.FOCUSED), f"“{self.name}” has the keyboard")
+
     def shown(self) -> Iterator["Control"]:
         """Itself and all beneath it that isn't on a hidden page."""
         if not self.has(Atspi.StateType.SHOWING):

@@ -15,7 +15,7 @@ import traceback
 from contextlib import suppress
 from pathlib import Path
 
-from tests.e2e import hotkeys, palette, pointers, startup
+from tests.e2e import hotkeys, palette, pointers, scanarea, startup
 from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.screen import Screen, press
@@ -34,6 +34,7 @@ CHANGED = {
     "scanner.lineScanTime": "10.500000",
     "scanner.scanMode": "1",
     **palette.CHANGED,
+    **scanarea.CHANGED,
     **pointers.CHANGED,
 }
 
@@ -220,6 +221,7 @@ STEPS = (
     choose_scan_mode,
     *pointers.STEPS,
     *palette.STEPS,
+    *scanarea.STEPS,
     switch_off_and_on,
     follow_the_agent,
     *hotkeys.STEPS,

@@ -1,0 +1,97 @@
+// Frames of the scan-area chooser over two displays of 3840 x 2160, with an area as large as one of
+// them, against clearing and filling the same areas through a bare painter on the same picture.
+
+#include "bench/Figures.h"
+#include "platform/HIToolbox/CarbonEvent.h"
+#include "src/prefpane/choosearea.h"
+
+#include <QApplication>
+#include <QBackingStore>
+#include <QFile>
+#include <QPainter>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+
+namespace {
+
+constexpr char kDisplays[] =
+    R"({"screens": [{"name": "left", "x": 0, "y": 0, "width": 3840, "height": 2160},
+                    {"name": "right", "x": 3840, "y": 0, "width": 3840, "height": 2160}]})";
+constexpr QRect kWorld(0, 0, 7680, 2160);
+constexpr QRect kCurrent(1920, 0, 3840, 2160);
+constexpr QRect kDragged(100, 100, 7000, 1900);
+constexpr QRect kPrompt(1700, 700, 440, 82); // about
+
+void sendMouse(UInt32 kind, QPoint place) {
+    CarbonEvent mouse(kEventClassMouse, kind);
+    mouse.with(kEventParamMouseLocation, typeHIPoint,
+               CGPoint{static_cast<CGFloat>(place.x()), static_cast<CGFloat>(place.y())});
+    overlayHandler(nullptr, &mouse, nullptr);
+}
+
+/// Calls `work` in the middle of a drag, and gives the seconds that it says it took.
+double inDrag(const std::function<double(QWidget&)>& work) {
+    double seconds = -1;
+    QTimer waiting;
+    QObject::connect(&waiting, &QTimer::timeout, [&] {
+        QWidget* overlay = QApplication::topLevelWidgets().constFirst();
+        const QBackingStore* store = overlay->backingStore();
+        if (!store || store->size() != kWorld.size())
+            return; // not painted yet
+        sendMouse(kEventMouseDown, kDragged.topLeft());
+        sendMouse(kEventMouseDragged, kDragged.bottomRight());
+        seconds = work(*overlay);
+        CarbonEvent escape(kEventClassKeyboard, kEventRawKeyDown);
+        escape.with(kEventParamKeyMacCharCodes, typeChar, '\x1b');
+        overlayHandler(nullptr, &escape, nullptr);
+    });
+    waiting.start(0);
+    CGRect area = {{kCurrent.x(), kCurrent.y()}, {kCurrent.width(), kCurrent.height()}};
+    chooseArea(&area);
+    return seconds;
+}
+
+double drawWholeFrame() {
+    return inDrag([](QWidget&) { return secondsOf(drawOverlay); });
+}
+
+double drawDragFrame() {
+    return inDrag([](QWidget&) {
+        return secondsOf(
+            [] { sendMouse(kEventMouseDragged, kDragged.bottomRight() + QPoint(15, 10)); });
+    });
+}
+
+double paintBare() {
+    return inDrag([](QWidget& overlay) {
+        return secondsOf([&] {
+            QPainter painter(overlay.backingStore()->paintDevice());
+            painter.setCompositionMode(QPainter::CompositionMode_Source);
+            painter.fillRect(kWorld, Qt::transparent);
+            painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+            painter.fillRect(kPrompt, QColor(255, 255, 230));
+            painter.fillRect(kCurrent, QColor(51, 51, 255, 10));
+            painter.fillRect(kDragged, QColor(255, 51, 51, 26));
+        });
+    });
+}
+
+} // namespace
+
+QByteArray chooseDisplays() {
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    const QString path = qEnvironmentVariable("KORVEX_TEST_SANDBOX") + "/bench-displays.json";
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(kDisplays) > 0)
+        qputenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + path).toLocal8Bit());
+    return platform;
+}
+
+void addOverlayFigures() {
+    addFigure("a whole frame of the overlay over two displays", {Limit::Times, 2}, drawWholeFrame,
+              paintBare);
+    addFigure("a whole frame of the overlay", {Limit::Under, 0.016}, drawWholeFrame);
+    addFigure("a frame of a drag across them", {Limit::Under, 0.016}, drawDragFrame);
+}

@@ -1,0 +1,165 @@
+"""Steps of the tour: the custom scan area, drawn on the desktop."""
+
+import io
+from typing import TYPE_CHECKING, NamedTuple
+
+from PIL import Image
+
+from tests.e2e.agentlog import FIELDS
+from tests.e2e.desktop import ask
+from tests.e2e.screen import press, run
+from tests.e2e.waiting import Failure, until
+
+if TYPE_CHECKING:
+    from tests.e2e.tour import Tour
+
+SCAN_AREA = 1024  # the group of settings
+FIELDS |= {"scanArea": ("<4fB", 64)}  # and, behind it, whether it is in use
+
+# What the steps leave behind, as it is stored.
+CHANGED = {"scanner.scanArea": "origin(30.000000,40.000000); size(0.000000,0.000000)"}
+
+BUTTON = "Draw my own area", "push button"
+WHOLE_SCREEN, OWN_AREA = "The whole screen", "Only my own area"
+
+Color = tuple[int, int, int]
+Place = tuple[int, int]
+
+PROMPT = (255, 255, 230)
+CURRENT = (51, 51, 255), 0.1
+PALE_CURRENT = (51, 51, 255), 0.04
+DRAGGED = (255, 51, 51), 0.1
+NOTHING = (0, 0, 0), 0.0
+ROUNDING = 2  # levels, for two blends
+
+
+class Area(NamedTuple):
+    x: float
+    y: float
+    width: float
+    height: float
+
+    def __str__(self) -> str:
+        return f"{self.width:g} × {self.height:g} at {self.x:g}, {self.y:g}"
+
+
+class Overlay:
+    """The chooser as it is on the screen. Places are in the screen's pixels."""
+
+    def __init__(self, tour: "Tour", prompt: Place):
+        self._tour = tour
+        self._before = screenshot()
+        self._own = self._windows()
+        # By keyboard, which works whatever the scale of the display.
+        tour.screen.find(*BUTTON).focus()
+        press("key", "space")
+        until(lambda: self.shows(prompt), "the prompt is on the screen")
+
+    @property
+    def box(self) -> str:
+        """Its place and size, in words."""
+        (window,) = self._windows() - self._own
+        return ask("xdotool", "getwindowgeometry", window)
+
+    def expect(self, looks: dict[Place, tuple[Color, float]]) -> None:
+        """What was on the screen before must shine through what is drawn on it."""
+
+        def wrong() -> list[str]:
+            now = screenshot()
+            return [
+                f"{place} is {now.getpixel(place)}, not {wanted}"
+                for place, look in looks.items()
+                if not is_near(now.getpixel(place), wanted := self._blend(place, *look))
+            ]
+
+        seen: list[str] = []
+
+        def right() -> bool:
+            seen[:] = wrong()
+            return not seen
+
+        try:
+            until(right, "the overlay shows what it should", patience=5)
+        except Failure as failure:
+            raise Failure("; ".join(seen)) from failure
+
+    def close(self, key: str) -> None:
+        press("key", key)
+        self.wait_for_end()
+
+    def wait_for_end(self) -> None:
+        until(lambda: self._windows() <= self._own, "the overlay goes away")
+
+    def shows(self, prompt: Place) -> bool:
+        """The current area may lie over it."""
+        seen = screenshot().getpixel(prompt)
+        return any(is_near(seen, blend(PROMPT, *look)) for look in (NOTHING, CURRENT))
+
+    def _windows(self) -> set[str]:
+        process = str(self._tour.program.pid)
+        return set(ask("xdotool", "search", "--onlyvisible", "--pid", process).split())
+
+    def _blend(self, place: Place, color: Color, alpha: float) -> Color:
+        return blend(self._before.getpixel(place), color, alpha)
+
+
+def blend(below: Color, color: Color, alpha: float) -> Color:
+    return tuple(round(over * alpha + under * (1 - alpha)) for over, under in zip(color, below))
+
+
+def screenshot() -> Image.Image:
+    return Image.open(io.BytesIO(run("maim", "--hidecursor"))).convert("RGB")
+
+
+def is_near(seen: Color, wanted: Color) -> bool:
+    return all(abs(one - other) <= ROUNDING for one, other in zip(seen, wanted))
+
+
+def drag(start: Place, *way: Place) -> None:
+    press("mousemove", *map(str, start), "mousedown", "1")
+    for place in way:
+        press("mousemove", *map(str, place))
+
+
+def let_go() -> None:
+    press("mouseup", "1")
+
+
+def expect_area(tour: "Tour", area: Area) -> str:
+    """The agent, the radio buttons and the text must follow."""
+    in_use = area.width > 0 and area.height > 0
+    account = tour.log.expect_change(SCAN_AREA, "scanArea", (*area, int(in_use)))
+    tour.wait_for_choice(OWN_AREA if in_use else WHOLE_SCREEN)
+    tour.screen.find(str(area) if in_use else "none", "label")
+    return account
+
+
+def draw_an_area(tour: "Tour") -> str:
+    """Draw an area on the desktop and keep it"""
+    tour.choose_tab("Scanning")
+    overlay = Overlay(tour, prompt=(tour.desktop.size[0] // 2, tour.desktop.size[1] // 3 - 5))
+    drag((700, 600), (400, 300), (60, 120))
+    overlay.expect({(80, 140): DRAGGED, (690, 590): DRAGGED, (40, 140): NOTHING})
+    tour.picture("area-dragged")
+    let_go()
+    overlay.expect({(80, 140): CURRENT, (40, 140): NOTHING})
+    tour.picture("area-drawn")
+    overlay.close("Return")
+    account = expect_area(tour, Area(60, 120, 640, 480))
+    tour.picture("area-in-use")
+    return account
+
+
+def draw_nothing(tour: "Tour") -> str:
+    """Draw an empty area"""
+    overlay = Overlay(tour, prompt=(tour.desktop.size[0] // 2, tour.desktop.size[1] // 3 - 5))
+    overlay.expect({(80, 140): CURRENT})
+    press("mousemove", "30", "40", "click", "1")
+    overlay.expect({(80, 140): NOTHING})
+    overlay.close("KP_Enter")
+    account = expect_area(tour, Area(30, 40, 0, 0))
+    tour.picture("area-none")
+    return account
+
+
+STEPS = (draw_an_area, draw_nothing)
