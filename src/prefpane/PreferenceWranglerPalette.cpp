@@ -4,6 +4,7 @@
 #include "platform/AppKit/NSMatrix.h"
 #include "platform/AppKit/NSMenuItem.h"
 #include "platform/AppKit/NSTextField.h"
+#include "platform/AppKit/NSWindow.h"
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "src/prefpane/palutil.h"
 
@@ -119,6 +120,8 @@ void PreferenceWrangler::removePaletteButton(NSButton*) {
 void PreferenceWrangler::swapPaletteButtonWith(NSButton*) {
     firstBtnToSwap_ = paletteView_->selectedBtn();
     updatePaletteCtls();
+    // Where the other button is chosen: by keyboard it would be four Tab stops back.
+    paletteView_->window().makeFirstResponder(paletteView_);
 }
 
 void PreferenceWrangler::paletteBtnHit(PaletteView* view, SInt32 index) {
