@@ -26,6 +26,7 @@ from tests.e2e.scanarea import (
     let_go,
 )
 from tests.e2e.screen import press, run
+from tests.e2e.startup import mute_the_notice
 from tests.e2e.tour import PROGRAM, Tour
 from tests.e2e.waiting import Failure, check, until
 
@@ -82,6 +83,7 @@ def set_up(setup: Setup, desktop: Desktop) -> None:
 
 
 def open_program(tour: Tour) -> None:
+    mute_the_notice(tour.stored)
     tour.start()
     tour.screen.find("Korvex", "frame")
     tour.agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")

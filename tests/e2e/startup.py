@@ -22,6 +22,12 @@ NOTICE = "Assistive access is switched off"
 DATE = "axReqLastNoticeDate"  # in days since 1970
 
 
+def mute_the_notice(stored: Path) -> None:
+    """Has the settings say that it is never to be shown."""
+    stored.parent.mkdir(parents=True, exist_ok=True)
+    stored.write_bytes(plistlib.dumps({DATE: 0x7FFFFFFF}))
+
+
 class Announcements:
     """What assistive technology is told while this is entered: names of what comes into sight."""
 
