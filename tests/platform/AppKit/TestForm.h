@@ -15,33 +15,40 @@
 #include <fstream>
 #include <functional>
 
+using Properties = std::vector<std::pair<std::string, std::string>>;
+
+/// Those of a control that is its owner's outlet and sends it its action, and others.
+inline Properties wired(Properties others = {}) {
+    others.insert(others.end(), {{"outlet", "control"}, {"action", "acted:"}});
+    return others;
+}
+
 /// A widget of a form with the given properties and contents, as Designer writes it.
 inline std::string widgetXml(const std::string& type, const std::string& name,
-                             const std::vector<std::pair<std::string, std::string>>& properties,
-                             const std::string& contents = "") {
-    std::string xml = "<widget class=\"" + type + "\" name=\"" + name + "\">";
-    for (const auto& [key, value] : properties) {
-        const bool isNumber = value.find_first_not_of("0123456789") == std::string::npos;
-        const std::string kind = isNumber ? "number" : "string";
-        xml += "<property name=\"" + key + "\" stdset=\"0\"><" + kind + ">" + value + "</" + kind +
-               "></property>";
-    }
+                             const Properties& properties = {}, const std::string& contents = "") {
+    std::string xml = "<widget class='" + type + "' name='" + name + "'>";
+    for (const auto& [key, value] : properties)
+        xml += "<property name='" + key + "' stdset='0'><string>" + value + "</string></property>";
     return xml + contents + "</widget>";
 }
 
-inline std::string formXml(const std::string& contents) {
-    return "<ui version=\"4.0\"><class>Form</class>" +
-           widgetXml("QWidget", "form", {},
-                     "<layout class=\"QVBoxLayout\">" + contents + "</layout>") +
-           "</ui>";
+/// The widgets below one another, or beside one another in a "QHBoxLayout".
+inline std::string layoutXml(const std::vector<std::string>& widgets,
+                             const std::string& type = "QVBoxLayout") {
+    std::string xml = "<layout class='" + type + "'>";
+    for (const std::string& widget : widgets)
+        xml += "<item>" + widget + "</item>";
+    return xml + "</layout>";
 }
 
-inline std::string itemXml(const std::string& widget) {
-    return "<item>" + widget + "</item>";
+inline std::string formXml(const std::vector<std::string>& widgets) {
+    return "<ui version='4.0'><class>Form</class>" +
+           widgetXml("QWidget", "form", {}, layoutXml(widgets)) + "</ui>";
 }
 
-/// The owner of a form with one control, which is its outlet `Control` and sends it "acted:".
-template <class Control>
+/// The owner of a form with one control, which is its outlet. The control, or the items of its
+/// menu, send it "acted:".
+template <class Control, class Sender = Control>
 class ControlOwner : public NSObject {
 public:
     std::span<const NSOutlet> outlets() const override {
@@ -54,25 +61,19 @@ public:
         return kActions;
     }
 
-    void acted(Control*) {
+    void acted(Sender* by) {
         ++sent;
-        if (onAction)
-            onAction();
+        onAction(by);
     }
 
     Control* control = nullptr;
     int sent = 0;
-    std::function<void()> onAction;
+    std::function<void(Sender*)> onAction = [](Sender*) {};
 };
 
 /// Runs Qt offscreen and loads forms written by the test.
 class FormTest : public testing::Test {
 protected:
-    FormTest() {
-        const char* platform = std::getenv("QT_QPA_PLATFORM");
-        EXPECT_STREQ(platform, "offscreen") << "the tests must not touch the user's display";
-    }
-
     bool load(const std::string& xml, NSObject& owner) {
         std::ofstream(path_) << xml;
         return nib_.instantiate(path_, owner, errors_);
@@ -80,9 +81,9 @@ protected:
 
     /// Loads a form with this one control, wired to `owner`, between two line edits, and shows it.
     void show(const std::string& controlXml, NSObject& owner) {
-        ASSERT_TRUE(load(formXml(itemXml(widgetXml("QLineEdit", "first", {})) +
-                                 itemXml(controlXml) + itemXml(widgetXml("QLineEdit", "last", {}))),
-                         owner))
+        ASSERT_TRUE(load(
+            formXml({widgetXml("QLineEdit", "first"), controlXml, widgetXml("QLineEdit", "last")}),
+            owner))
             << testing::PrintToString(errors_);
         nib_.topLevelWidget()->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(nib_.topLevelWidget()));
