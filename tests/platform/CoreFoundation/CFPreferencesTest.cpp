@@ -1,10 +1,11 @@
 #include "platform/CoreFoundation/CFPreferences.h"
-
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <csignal>
 #include <fcntl.h>
+#include <functional>
 #include <gmock/gmock.h>
+#include <regex>
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -14,9 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr unsigned kNobody = 65534;
-
-/// Each test has a domain of its own, since the process keeps domains.
+/// Each test has domains of its own, since the process keeps domains.
 class CFPreferencesTest : public testing::Test {
 protected:
     CFPreferencesTest() {
@@ -26,12 +25,12 @@ protected:
 
     void useDomain(const std::string& name) {
         domain_ = CFStringCreateWithUTF8(name);
-        own_ = preferences_ / (name + ".plist");
+        own_ = fs::path(std::getenv("XDG_CONFIG_HOME")) / "Preferences" / (name + ".plist");
         everyones_ = fs::path(std::getenv("XDG_CONFIG_DIRS")) / "Preferences" / (name + ".plist");
     }
 
-    void set(const char* key, const char* value) {
-        CFPreferencesSetAppValue(CFSTR(key), value ? CFSTR(value) : nullptr, domain_.get());
+    void set(const char* key, const std::string& value) {
+        CFPreferencesSetAppValue(CFSTR(key), CFSTR(value.c_str()), domain_.get());
     }
 
     /// "-" when there is no string.
@@ -43,37 +42,24 @@ protected:
 
     bool synchronize() { return CFPreferencesAppSynchronize(domain_.get()); }
 
-    /// What the file holds as key=value pairs, "unsound" when it isn't a dictionary of strings.
+    /// The file that holds key=value pairs.
+    static std::string file(const std::string& pairs) {
+        return R"(<plist version="1.0"><dict>)" +
+               std::regex_replace(pairs, std::regex("(\\w+)=(\\w+) ?"),
+                                  "<key>$1</key><string>$2</string>") +
+               "</dict></plist>";
+    }
+
+    /// The file's XML from its root on, on one line.
     static std::string stored(const fs::path& path) {
-        const std::string bytes = readFile(path);
-        const auto root = CFPropertyListCreateFromXMLData(
-            CFDataCreate(reinterpret_cast<const UInt8*>(bytes.data()), std::ssize(bytes)).get());
-        const auto* dictionary = dynamicCFCast<CFDictionary>(root.get());
-        std::string pairs = dictionary ? "" : "unsound";
-        for (const auto& [key, value] : dictionary ? dictionary->items() : CFDictionary::Items()) {
-            const auto* text = dynamicCFCast<CFString>(value.get());
-            pairs += CFStringToUTF8(CFRef<CFString>::adopt(new CFString(key)).get()) + "=" +
-                     (text ? CFStringToUTF8(text) : "?") + " ";
-        }
-        return pairs;
+        const std::string text = std::regex_replace(readFile(path), std::regex("[\n\t]"), "");
+        return text.substr(std::min(text.find("<plist"), text.size()));
     }
 
-    static std::string pair(const std::string& key, const std::string& value) {
-        return "<key>" + key + "</key><string>" + value + "</string>";
+    bool isAlone() const {
+        return !fs::exists(own_.string() + ".new") && !fs::exists(own_.string() + ".damaged-1");
     }
 
-    /// The names in the folder that begin with the domain's file name.
-    std::vector<std::string> files() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(own_.parent_path())) {
-            const std::string name = entry.path().filename();
-            if (name.starts_with(own_.filename().string()) && !name.ends_with(".lock"))
-                names.push_back(name.substr(own_.filename().string().size()));
-        }
-        return names;
-    }
-
-    const fs::path preferences_ = fs::path(std::getenv("XDG_CONFIG_HOME")) / "Preferences";
     CFRef<CFString> domain_;
     fs::path own_, everyones_;
 };
@@ -85,143 +71,87 @@ TEST_F(CFPreferencesTest, ReadersTakeWhatReadsAsTheirType) {
         const char* stored;
         int boolean; ///< -1: doesn't read as one
         CFIndex integer;
-    } cases[] = {
-        {"<true/>", 1, kNone},
-        {"<false/>", 0, kNone},
-        {"<integer>0</integer>", 0, 0},
-        {"<integer>-3</integer>", 1, -3},
-        {"<real>1.0</real>", 1, 1},
-        {"<real>0.5</real>", 1, 0},
-        {"<real>-7.9</real>", 1, -7},
-        {"<string>YES</string>", 1, kNone},
-        {"<string>True</string>", 1, kNone},
-        {"<string>no</string>", 0, kNone},
-        {"<string>fALSE</string>", 0, kNone},
-        {"<string>y</string>", -1, kNone},
-        {"<string>yes </string>", -1, kNone},
-        {"<string>1</string>", -1, 1},
-        {"<string>-42</string>", -1, -42},
-        {"<string>+5</string>", -1, 5},
-        {"<string>007</string>", -1, 7},
-        {"<string> 12</string>", -1, kNone},
-        {"<string>12 </string>", -1, kNone},
-        {"<string>0x1</string>", -1, kNone},
-        {"<string>1.0</string>", -1, kNone},
-        {"<string>+-5</string>", -1, kNone},
-        {"<string>9223372036854775808</string>", -1, kNone},
-        {"<string></string>", -1, kNone},
-        {"<string>\xD9\xA1</string>", -1, kNone},
-        {"<data>MQ==</data>", -1, kNone},
-        {"<array><integer>1</integer></array>", -1, kNone},
-        {"<dict/>", -1, kNone},
-        {"<date>2001-01-01T00:00:01Z</date>", -1, kNone},
-    };
+    } cases[] = {{"<false/>", 0, kNone},
+                 {"<integer>-3</integer>", 1, -3},
+                 {"<real>-7.9</real>", 1, -7},
+                 {"<string>YES</string>", 1, kNone},
+                 {"<string>+5</string>", -1, 5},
+                 {"<string> 12</string>", -1, kNone},
+                 {"<string>9223372036854775808</string>", -1, kNone},
+                 {"<array><integer>1</integer></array>", -1, kNone}};
 
     std::string body;
-    for (std::size_t i = 0; i < std::size(cases); ++i)
-        body += "<key>" + std::to_string(i) + "</key>" + cases[i].stored;
+    for (const auto& row : cases)
+        body += "<key>" + std::to_string(&row - cases) + "</key>" + row.stored;
     writeFile(own_, dictionaryFile(body));
-
-    for (std::size_t i = 0; i < std::size(cases); ++i) {
-        SCOPED_TRACE(cases[i].stored);
-        const CFString* key = CFSTR(std::to_string(i).c_str());
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.stored);
+        const CFString* key = CFSTR(std::to_string(&row - cases).c_str());
         bool exists = true;
         const bool boolean = CFPreferencesGetAppBooleanValue(key, domain_.get(), &exists);
-        EXPECT_EQ(exists ? int{boolean} : -1, cases[i].boolean);
+        EXPECT_EQ(exists ? int{boolean} : -1, row.boolean);
         const CFIndex integer = CFPreferencesGetAppIntegerValue(key, domain_.get(), &exists);
-        EXPECT_EQ(exists ? integer : kNone, cases[i].integer);
+        EXPECT_EQ(exists ? integer : kNone, row.integer);
     }
-    bool exists = true;
-    EXPECT_FALSE(CFPreferencesGetAppBooleanValue(CFSTR("absent"), domain_.get(), &exists));
-    EXPECT_FALSE(exists);
-}
-
-TEST_F(CFPreferencesTest, ValuesAreSeenAtOnceAndStoredBySynchronising) {
-    set("a", "1");
-    set("b", "2");
-    set("b", nullptr);
-    EXPECT_EQ(get("a"), "1");
-    EXPECT_EQ(get("b"), "-");
-    EXPECT_FALSE(fs::exists(own_));
-
-    EXPECT_TRUE(synchronize());
-    EXPECT_EQ(stored(own_), "a=1 ");
-    EXPECT_EQ(fs::status(own_).permissions(), fs::perms(0600));
-    EXPECT_EQ(fs::status(preferences_).permissions(), fs::perms(0700));
-    EXPECT_THAT(files(), testing::ElementsAre(""));
 }
 
 TEST_F(CFPreferencesTest, AllUsersValuesAreDefaults) {
-    writeFile(everyones_, dictionaryFile(pair("a", "admin") + pair("b", "admin")));
+    // What isn't absolute in the environment doesn't count.
+    const std::string relative = "relative::";
+    setenv("XDG_CONFIG_HOME", "relative", 1);
+    setenv("XDG_CONFIG_DIRS", (relative + std::getenv("XDG_CONFIG_DIRS")).c_str(), 1);
+    writeFile(everyones_, file("a=admin b=admin"));
     set("a", "mine");
-    EXPECT_EQ(get("a"), "mine");
-    EXPECT_EQ(get("b"), "admin");
+    EXPECT_EQ(get("a") + get("b"), "mineadmin");
+    EXPECT_FALSE(fs::exists(own_)) << "before synchronising";
     set("b", "admin"); // chosen by this user too: stored, though it changes nothing now
     EXPECT_TRUE(synchronize());
-    EXPECT_EQ(stored(own_), "a=mine b=admin ");
-    set("a", nullptr);
+    EXPECT_EQ(stored(own_), file("a=mine b=admin"));
+    EXPECT_EQ(fs::status(own_).permissions(), fs::perms(0600));
+    EXPECT_EQ(fs::status(own_.parent_path()).permissions(), fs::perms(0700));
+    EXPECT_TRUE(isAlone());
+    CFPreferencesSetAppValue(CFSTR("a"), nullptr, domain_.get());
     EXPECT_EQ(get("a"), "admin");
 
-    const auto copy = [&](const CFString* user) {
-        return CFPreferencesCopyValue(CFSTR("a"), domain_.get(), user, kCFPreferencesAnyHost);
-    };
-    EXPECT_TRUE(CFEqual(copy(kCFPreferencesAnyUser).get(), CFSTR("admin")));
-    EXPECT_FALSE(copy(kCFPreferencesCurrentUser));
-    EXPECT_FALSE(copy(CFSTR("somebody")));
-
-    CFPreferencesSetValue(CFSTR("c"), CFSTR("new"), domain_.get(), kCFPreferencesAnyUser,
-                          kCFPreferencesCurrentHost);
-    EXPECT_TRUE(
-        CFPreferencesSynchronize(domain_.get(), kCFPreferencesAnyUser, kCFPreferencesCurrentHost));
-    EXPECT_EQ(stored(everyones_), "a=admin b=admin c=new ");
+    const CFString *domain = domain_.get(), *everyone = kCFPreferencesAnyUser;
+    CFPreferencesSetValue(CFSTR("c"), CFSTR("new"), domain, everyone, kCFPreferencesAnyHost);
+    EXPECT_TRUE(CFPreferencesSynchronize(domain, everyone, kCFPreferencesAnyHost));
+    EXPECT_EQ(stored(everyones_), file("a=admin b=admin c=new"));
     EXPECT_EQ(fs::status(everyones_).permissions(), fs::perms(0644));
 }
 
 TEST_F(CFPreferencesTest, TwoWritersKeepEachOthersKeys) {
-    writeFile(own_, dictionaryFile(pair("mine", "1") + pair("theirs", "1") + pair("both", "1")));
+    writeFile(own_, file("mine=1 theirs=1 both=1"));
     EXPECT_EQ(get("theirs"), "1");
-    writeFile(own_, dictionaryFile(pair("mine", "1") + pair("theirs", "2") + pair("both", "2") +
-                                   pair("new", "2")));
-    for (const char* key : {"mine", "both"})
-        set(key, "3");
+    writeFile(own_, file("mine=1 theirs=2 both=2 new=2"));
+    set("mine", "3");
+    set("both", "3");
     set("theirs", "1"); // as it is here: not a change
-
     EXPECT_TRUE(synchronize());
-    EXPECT_EQ(stored(own_), "both=3 mine=3 new=2 theirs=2 ");
-    EXPECT_EQ(get("theirs"), "2");
+    EXPECT_EQ(stored(own_), file("both=3 mine=3 new=2 theirs=2"));
 
-    writeFile(own_, dictionaryFile(pair("theirs", "4")));
-    EXPECT_EQ(get("theirs"), "2");
+    writeFile(own_, file("theirs=4"));
     EXPECT_TRUE(synchronize()) << "with nothing to write, it takes in what others wrote";
     EXPECT_EQ(get("theirs") + get("mine"), "4-");
     fs::remove(own_);
     EXPECT_TRUE(synchronize());
-    EXPECT_EQ(get("theirs"), "-");
     EXPECT_FALSE(fs::exists(own_));
 }
 
-TEST_F(CFPreferencesTest, LaterChangesOfAnObjectReachNothingThatWasSet) {
+TEST_F(CFPreferencesTest, WhatCannotBeStoredHindersNothingElse) {
+    CFPreferencesSetAppValue(CFSTR("bad"), CFRef<CFString>::adopt(new CFString(u"\xD800")).get(),
+                             domain_.get());
+    set("\x1", "bad");
+    set("bad", "\x1");
     const auto list = CFArrayCreateMutable();
-    CFArrayAppendValue(list.get(), CFSTR("1"));
-    CFPreferencesSetAppValue(CFSTR("list"), list.get(), domain_.get());
-    EXPECT_TRUE(synchronize());
-    CFArrayAppendValue(list.get(), CFSTR("2"));
-    CFPreferencesSetAppValue(CFSTR("list"), list.get(), domain_.get());
-    EXPECT_TRUE(synchronize());
-    EXPECT_THAT(readFile(own_), testing::HasSubstr("<string>2</string>"));
-}
+    for (const char* item : {"1", "2"}) { // the second one changes an object that was set
+        CFArrayAppendValue(list.get(), CFSTR(item));
+        CFPreferencesSetAppValue(CFSTR("list"), list.get(), domain_.get());
+        EXPECT_TRUE(synchronize());
+    }
+    EXPECT_THAT(stored(own_), testing::EndsWith("<dict><key>list</key><array><string>1</string>"
+                                                "<string>2</string></array></dict></plist>"));
 
-TEST_F(CFPreferencesTest, ValuesThatCannotBeStoredDontHinderOthers) {
-    for (const char16_t* text : {u"\x1", u"\xD800"})
-        CFPreferencesSetAppValue(CFSTR("bad"), CFRef<CFString>::adopt(new CFString(text)).get(),
-                                 domain_.get());
-    CFPreferencesSetAppValue(CFSTR("\x1"), CFSTR("bad"), domain_.get());
-    set("good", "1");
-    EXPECT_TRUE(synchronize());
-    EXPECT_EQ(stored(own_), "good=1 ");
-}
-
-TEST_F(CFPreferencesTest, NamesThatAreNoFileNamesAreRefused) {
     for (const char* name : {"", "../up", "a/b"}) {
         useDomain(name);
         set("a", "1");
@@ -231,154 +161,90 @@ TEST_F(CFPreferencesTest, NamesThatAreNoFileNamesAreRefused) {
 }
 
 TEST_F(CFPreferencesTest, DamagedFileIsKeptAside) {
-    const std::string sound = dictionaryFile(pair("a", "1"));
-    const std::string deep = "<plist>" + std::string(300'000 * 7, ' ');
-    const std::string cases[] = {"",
-                                 sound.substr(0, sound.size() / 2),
-                                 "<plist><array/></plist>",
-                                 "\xFF\xFE garbage",
-                                 "bplist00",
-                                 deep,
-                                 std::string(10u << 20, 'x')};
-    int number = 0;
-    for (const std::string& content : cases) {
-        useDomain("org.example.damaged" + std::to_string(++number));
-        SCOPED_TRACE(content.substr(0, 40));
+    for (const std::string& content :
+         {std::string(), file("a=1").substr(0, 40), "bplist00" + std::string(10u << 20, 'x')}) {
+        useDomain("org.example.damaged" + std::to_string(content.size()));
+        SCOPED_TRACE(content.size());
+        const std::string earlier = own_.string() + ".damaged-1";
         writeFile(own_, content);
-        writeFile(own_.string() + ".damaged-1", "earlier");
+        writeFile(earlier, "earlier");
         EXPECT_EQ(get("a"), "-");
         EXPECT_FALSE(synchronize());
         EXPECT_EQ(readFile(own_), content) << "reading changes nothing";
-
         set("b", "2");
         EXPECT_TRUE(synchronize());
-        EXPECT_EQ(stored(own_), "b=2 ");
-        EXPECT_EQ(readFile(own_.string() + ".damaged-1"), "earlier");
+        EXPECT_EQ(stored(own_), file("b=2"));
+        EXPECT_EQ(readFile(earlier), "earlier");
         EXPECT_EQ(readFile(own_.string() + ".damaged-2"), content);
+
+        writeFile(own_, "garbage");
+        set("c", "3");
+        EXPECT_TRUE(synchronize());
+        EXPECT_EQ(stored(own_), file("b=2 c=3")) << "damaged later, replaced by what is known";
+        EXPECT_EQ(readFile(own_.string() + ".damaged-3"), "garbage");
     }
 }
 
-TEST_F(CFPreferencesTest, FileDamagedLaterIsReplacedByWhatIsKnown) {
-    writeFile(own_, dictionaryFile(pair("a", "1") + pair("b", "1")));
-    EXPECT_EQ(get("a"), "1");
-    writeFile(own_, "garbage");
-    set("b", "2");
-    EXPECT_TRUE(synchronize());
-    EXPECT_EQ(stored(own_), "a=1 b=2 ");
-    EXPECT_EQ(readFile(own_.string() + ".damaged-1"), "garbage");
-}
-
-TEST_F(CFPreferencesTest, BinaryFileIsReadAndRewritten) {
-    const std::string zeros(7, '\0');
-    writeFile(own_, "bplist00\xD1\x01\x02\x51k\x51v\x08\x0B\x0D" + std::string(6, '\0') +
-                        "\x01\x01" + zeros + "\x03" + zeros + std::string(1, '\0') + zeros +
-                        "\x0F");
+TEST_F(CFPreferencesTest, FileBehindASymbolicLinkIsRewrittenThere) {
+    const fs::path target = makeSandboxFolder("dotfiles") / "target.plist";
+    writeFile(target, file("k=v"));
+    fs::create_directories(own_.parent_path());
+    fs::create_symlink("../../../dotfiles/target.plist", own_);
     EXPECT_EQ(get("k"), "v");
     set("n", "1");
     EXPECT_TRUE(synchronize());
-    EXPECT_EQ(stored(own_), "k=v n=1 ");
-    EXPECT_THAT(files(), testing::ElementsAre(""));
-}
-
-TEST_F(CFPreferencesTest, SymbolicLinkStaysAndItsTargetIsReplaced) {
-    const fs::path target = makeSandboxFolder("dotfiles") / "target.plist";
-    writeFile(target, dictionaryFile(pair("a", "1")));
-    fs::create_directories(preferences_);
-    fs::create_symlink("../../../dotfiles/target.plist", own_);
-    EXPECT_EQ(get("a"), "1");
-    set("b", "2");
-    EXPECT_TRUE(synchronize());
     EXPECT_TRUE(fs::is_symlink(own_));
-    EXPECT_EQ(stored(target), "a=1 b=2 ");
+    EXPECT_EQ(stored(target), file("k=v n=1"));
+    EXPECT_TRUE(isAlone());
 }
 
-TEST_F(CFPreferencesTest, WhatIsNoRegularFileIsLeftAlone) {
-    fs::create_directories(preferences_);
-    ASSERT_EQ(mkfifo(own_.c_str(), 0600), 0);
-    EXPECT_EQ(get("a"), "-");
-    set("a", "1");
-    EXPECT_FALSE(synchronize());
-    EXPECT_TRUE(fs::is_fifo(own_));
-}
+TEST_F(CFPreferencesTest, WhatIsInTheWayIsLeftAloneAndTheMarksStay) {
+    const fs::path config = makeSandboxFolder("open"), aside = config / "aside";
+    setenv("XDG_CONFIG_HOME", config.c_str(), 1);
+    useDomain("org.example.obstacles");
+    const fs::path folder = own_.parent_path();
+    writeFile(own_, file("a=1"));
+    const auto expectRefused = [&](const char* what, const std::function<void()>& clear) {
+        set("b", std::string(2000, 'x'));
+        EXPECT_FALSE(synchronize()) << what;
+        clear();
+        EXPECT_EQ(stored(own_), file("a=1")) << what;
+        EXPECT_TRUE(isAlone()) << what;
+    };
 
-TEST_F(CFPreferencesTest, UnreadableFileIsNotReplaced) {
-    const fs::path home = makeSandboxFolder("open");
-    fs::permissions(home.parent_path(), fs::perms(0711));
-    setenv("XDG_CONFIG_HOME", home.c_str(), 1);
-    own_ = home / "Preferences" / own_.filename();
-    writeFile(own_, dictionaryFile(pair("a", "1")));
+    fs::permissions(config.parent_path(), fs::perms(0711));
+    fs::permissions(folder, fs::perms(0777));
     fs::permissions(own_, fs::perms::none);
-    fs::permissions(own_.parent_path(), fs::perms(0777));
-    if (geteuid() == 0) {
-        ASSERT_EQ(seteuid(kNobody), 0); // root reads everything
-    }
+    ASSERT_EQ(geteuid() == 0 ? seteuid(65534) : 0, 0); // root reads everything
+    expectRefused("unreadable", [&] {
+        ASSERT_EQ(seteuid(getuid()), 0);
+        fs::permissions(own_, fs::perms(0600));
+    });
 
-    EXPECT_EQ(get("a"), "-");
-    EXPECT_FALSE(synchronize());
-    set("b", "2");
-    EXPECT_FALSE(synchronize());
-    ASSERT_EQ(seteuid(getuid()), 0);
-    fs::permissions(own_, fs::perms(0644));
-    EXPECT_EQ(stored(own_), "a=1 ");
-    EXPECT_TRUE(synchronize()) << "the mark is still there";
-    EXPECT_EQ(stored(own_), "a=1 b=2 ");
-}
-
-TEST_F(CFPreferencesTest, FolderThatCannotBeMade) {
-    const fs::path file = makeSandboxFolder("blocked") / "file";
-    writeFile(file, "in the way");
-    setenv("XDG_CONFIG_HOME", file.c_str(), 1);
-    set("a", "1");
-    EXPECT_FALSE(synchronize());
-    fs::remove(file);
-    EXPECT_TRUE(synchronize());
-    EXPECT_EQ(stored(file / "Preferences" / own_.filename()), "a=1 ");
-}
-
-TEST_F(CFPreferencesTest, FullDiskLeavesTheOldFileAndTheMarks) {
-    writeFile(own_, dictionaryFile(pair("a", "1")));
-    set("a", "2");
-    set("long", std::string(5000, 'x').c_str());
-
-    // A limit of the file size stops a write midway, as a full disk does.
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit small{1000, before.rlim_max};
+    std::signal(SIGXFSZ, SIG_IGN); // a limit of the file size stops a write midway
+    rlimit sizes{};
+    getrlimit(RLIMIT_FSIZE, &sizes);
+    const rlimit small{1000, sizes.rlim_max};
     setrlimit(RLIMIT_FSIZE, &small);
-    EXPECT_FALSE(synchronize());
-    setrlimit(RLIMIT_FSIZE, &before);
+    expectRefused("full disk", [&] { setrlimit(RLIMIT_FSIZE, &sizes); });
 
-    EXPECT_EQ(stored(own_), "a=1 ");
-    EXPECT_THAT(files(), testing::ElementsAre("")) << "nothing half-written stays";
-    EXPECT_TRUE(synchronize());
-    EXPECT_EQ(stored(own_), "a=2 long=" + std::string(5000, 'x') + " ");
-}
-
-TEST_F(CFPreferencesTest, LockThatSomebodyHoldsIsNotWaitedForForEver) {
-    fs::create_directories(preferences_);
     const int lock = open((own_.string() + ".lock").c_str(), O_RDWR | O_CREAT, 0600);
     ASSERT_EQ(flock(lock, LOCK_EX), 0);
-    set("a", "1");
-    EXPECT_FALSE(synchronize());
-    close(lock);
-    EXPECT_TRUE(synchronize());
-    EXPECT_EQ(stored(own_), "a=1 ");
-}
+    expectRefused("somebody holds the lock", [&] { close(lock); });
 
-TEST_F(CFPreferencesTest, OddEnvironmentFallsBackToTheDefaults) {
-    setenv("XDG_CONFIG_HOME", "relative", 1);
-    set("a", "1");
-    EXPECT_TRUE(synchronize());
-    EXPECT_EQ(stored(fs::path(std::getenv("HOME")) / ".config/Preferences" / own_.filename()),
-              "a=1 ");
+    fs::rename(own_, aside);
+    ASSERT_EQ(mkfifo(own_.c_str(), 0600), 0);
+    expectRefused("no regular file", [&] { fs::rename(aside, own_); });
 
-    useDomain("org.example.dirs");
-    const std::string dirs = "relative::" + std::string(std::getenv("XDG_CONFIG_DIRS")) + ":/none";
-    setenv("XDG_CONFIG_DIRS", dirs.c_str(), 1);
-    writeFile(fs::path(dirs.substr(10, dirs.size() - 16)) / "Preferences/org.example.dirs.plist",
-              dictionaryFile(pair("a", "admin")));
-    EXPECT_EQ(get("a"), "admin");
+    fs::rename(folder, aside);
+    writeFile(folder, "in the way");
+    expectRefused("no folder", [&] {
+        fs::remove(folder);
+        fs::rename(aside, folder);
+    });
+
+    EXPECT_TRUE(synchronize());
+    EXPECT_EQ(stored(own_), file("a=1 b=" + std::string(2000, 'x')));
 }
 
 } // namespace

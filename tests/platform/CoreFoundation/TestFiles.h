@@ -21,9 +21,7 @@ inline std::string readFile(const std::filesystem::path& path) {
 
 /// An XML property list with `body` in its root dictionary.
 inline std::string dictionaryFile(const std::string& body) {
-    return R"(<?xml version="1.0" encoding="UTF-8"?>
-<plist version="1.0"><dict>)" +
-           body + "</dict></plist>\n";
+    return "<?xml version=\"1.0\"?>\n<plist version=\"1.0\"><dict>" + body + "</dict></plist>\n";
 }
 
 /// A new folder in the test's sandbox.
