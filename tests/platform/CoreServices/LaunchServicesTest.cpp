@@ -1,9 +1,11 @@
 #include "platform/CoreServices/LaunchServices.h"
-#include "tests/platform/CoreFoundation/TestFiles.h"
-#include "tests/platform/CoreServices/TestPeer.h"
+#include "tests/support/ProcessTest.h"
+#include "tests/support/SignalProcess.h"
+#include "tests/support/TestApplication.h"
 
-#include <cstring>
+#include <QTest>
 #include <fcntl.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -12,28 +14,16 @@ namespace {
 
 class LaunchServicesTest : public ProcessTest {
 protected:
-    LaunchServicesTest() {
-        makeApplication("code", "#!/bin/sh\necho $$ >>'" + pids_.string() + "'\nexec sleep 600\n");
-    }
+    LaunchServicesTest() { use("#!/bin/sh\necho $$ >>'" + pids_.string() + "'\nexec sleep 600\n"); }
 
     ~LaunchServicesTest() override {
         if (!started().empty())
-            ::kill(started().back(), SIGKILL); // the tests have ended those before
+            kill(started().back(), SIGKILL); // the tests have ended those before
     }
 
-    void makeApplication(const std::string& executable, const std::string& code,
-                         fs::perms mode = fs::perms::owner_all) {
-        writeFile(
-            bundle_ / "Contents/Info.plist",
-            dictionaryFile("<key>CFBundleExecutable</key><string>" + executable + "</string>"));
-        writeFile(bundle_ / "Contents/Linux/code", code);
-        fs::permissions(bundle_ / "Contents/Linux/code", mode);
-    }
+    void use(const std::string& code) { url_ = makeTestApplication(bundle_, code); }
 
-    OSStatus open(CFRef<CFURL>* launched = nullptr) {
-        return LSOpenCFURLRef(CFURLCreateFromFileSystemRepresentation(bundle_.c_str(), true).get(),
-                              launched);
-    }
+    OSStatus open() { return LSOpenCFURLRef(url_.get(), nullptr); }
 
     /// The process IDs of all that were started, in order.
     std::vector<pid_t> started() {
@@ -43,63 +33,55 @@ protected:
 
     /// Waits until the `count`th has come as far as its program.
     pid_t waitForStart(std::size_t count) {
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&] {
-                return started().size() == count &&
-                       fs::read_symlink(proc(started().back()) / "exe").filename() == "sleep";
-            },
-            20'000));
+        const auto hasStarted = [&] {
+            return started().size() == count &&
+                   fs::read_symlink(proc(started().back()) / "exe").filename() == "sleep";
+        };
+        EXPECT_TRUE(QTest::qWaitFor(hasStarted, 20'000));
         return started().empty() ? 0 : started().back();
     }
 
     static fs::path proc(pid_t pid) { return "/proc/" + std::to_string(pid); }
 
-    fs::path bundle_ = makeSandboxFolder("Test Tool.app");
-    fs::path pids_ = makeSandboxFolder("") / "pids";
+    fs::path bundle_ = makeSandboxFolder("Test Tool.app"), pids_ = makeSandboxFolder("") / "pids";
+    CFRef<CFURL> url_;
 };
 
 TEST_F(LaunchServicesTest, WhatCantBeStartedIsRefusedByReason) {
-    EXPECT_EQ(LSOpenCFURLRef(nullptr, nullptr), kLSApplicationNotFoundErr);
-    makeApplication("absent", "");
-    EXPECT_EQ(open(), kLSNotAnApplicationErr);
-    makeApplication("../Info.plist", "");
-    EXPECT_EQ(open(), kLSNotAnApplicationErr);
-    writeFile(bundle_ / "Contents/Info.plist", dictionaryFile(""));
-    EXPECT_EQ(open(), kLSNotAnApplicationErr);
-    makeApplication("code", "#!/bin/sh\n", fs::perms::owner_read);
+    for (const char* code : {"no program", "#!/no/such/interpreter\n"}) {
+        use(code);
+        EXPECT_EQ(open(), kLSUnknownErr) << code;
+    }
+    fs::permissions(bundle_ / "Contents/Linux/run", fs::perms::owner_read);
     EXPECT_EQ(open(), kLSUnknownErr);
-    makeApplication("code", "no program");
-    EXPECT_EQ(open(), kLSUnknownErr);
-    makeApplication("code", "#!/no/such/interpreter\n");
-    EXPECT_EQ(open(), kLSUnknownErr);
-    fs::remove(bundle_ / "Contents/Info.plist");
-    EXPECT_EQ(open(), kLSApplicationNotFoundErr);
+    for (const std::string name : {"absent", "../Info.plist"}) {
+        writeFile(bundle_ / "Contents/Info.plist",
+                  dictionaryFile("<key>CFBundleExecutable</key><string>" + name + "</string>"));
+        EXPECT_EQ(open(), kLSNotAnApplicationErr) << name;
+    }
     fs::remove_all(bundle_);
     EXPECT_EQ(open(), kLSApplicationNotFoundErr);
-    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "a child is left over";
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a child is left over";
 }
 
 TEST_F(LaunchServicesTest, TheProgramIsDetachedFromThisProcess) {
-    ::signal(SIGPIPE, SIG_IGN);
+    signal(SIGPIPE, SIG_IGN);
     sigset_t blocked;
     sigemptyset(&blocked);
     sigaddset(&blocked, SIGUSR2);
     sigprocmask(SIG_BLOCK, &blocked, nullptr);
-    const int inheritable = ::open("/dev/zero", O_RDONLY);
-    CFRef<CFURL> launched;
-    ASSERT_EQ(open(&launched), noErr);
-    EXPECT_EQ(launched->path(), bundle_);
+    EXPECT_GE(::open("/dev/zero", O_RDONLY), 0) << "to be inherited";
+    ASSERT_EQ(open(), noErr);
     const pid_t pid = waitForStart(1);
     EXPECT_EQ(getsid(pid), pid);
     EXPECT_EQ(fs::read_symlink(proc(pid) / "fd/0"), "/dev/null");
     EXPECT_EQ(std::distance(fs::directory_iterator(proc(pid) / "fd"), {}), 3);
     for (const char* mask : {"SigBlk:\t", "SigIgn:\t"}) {
         const std::string status = readFile(proc(pid) / "status");
-        const std::string bits = status.substr(status.find(mask) + std::strlen(mask), 16);
-        // Beyond these come the C library's own.
-        EXPECT_EQ(std::stoull(bits, nullptr, 16) & 0x7FFFFFFF, 0u) << mask << bits;
+        // Beyond these bits come the C library's own.
+        const auto bits = std::stoull(status.substr(status.find(mask) + 8, 16), nullptr, 16);
+        EXPECT_EQ(bits & 0x7FFFFFFF, 0u) << mask;
     }
-    close(inheritable);
 }
 
 TEST_F(LaunchServicesTest, OneRunsAtATimeAndIsReapedAtItsEnd) {
@@ -108,7 +90,7 @@ TEST_F(LaunchServicesTest, OneRunsAtATimeAndIsReapedAtItsEnd) {
     const pid_t first = waitForStart(1);
     EXPECT_EQ(open(), noErr) << "while it runs";
     signalProcess(first, SIGKILL);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return ::kill(first, 0) != 0; }, 20'000)) << "not reaped";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return kill(first, 0) != 0; }, 20'000)) << "not reaped";
     EXPECT_EQ(open(), noErr);
     const pid_t second = waitForStart(2);
     signalProcess(second, SIGKILL);
@@ -116,7 +98,7 @@ TEST_F(LaunchServicesTest, OneRunsAtATimeAndIsReapedAtItsEnd) {
     siginfo_t info;
     EXPECT_EQ(waitid(P_PID, static_cast<id_t>(second), &info, WEXITED | WNOWAIT), 0);
     EXPECT_EQ(open(), noErr);
-    EXPECT_NE(::kill(second, 0), 0) << "not reaped";
+    EXPECT_NE(kill(second, 0), 0) << "not reaped";
     waitForStart(3);
 }
 
