@@ -48,10 +48,8 @@ protected:
 };
 
 TEST_F(LaunchServicesTest, WhatCantBeStartedIsRefusedByReason) {
-    for (const char* code : {"no program", "#!/no/such/interpreter\n"}) {
-        use(code);
-        EXPECT_EQ(open(), kLSUnknownErr) << code;
-    }
+    use("#!/no/such/interpreter\n");
+    EXPECT_EQ(open(), kLSUnknownErr);
     fs::permissions(bundle_ / "Contents/Linux/run", fs::perms::owner_read);
     EXPECT_EQ(open(), kLSUnknownErr);
     for (const std::string name : {"absent", "../Info.plist"}) {

@@ -15,20 +15,11 @@ OSErr answerCode(const AppleEvent* event, AppleEvent*, void*) {
     return error != noErr ? error : size == sizeof code ? code : paramErr;
 }
 
-OSErr sendBack(const AppleEvent* event, AppleEvent*, void*) {
-    AppleEvent answer = *event;
-    answer.eventID = kSentBack;
-    AEGetParamPtr(event, keyTestProcess, typeProcessSerialNumber, nullptr, &answer.target,
-                  sizeof answer.target, nullptr);
-    return AESend(&answer, nullptr, kAENoReply, kAEDefaultTimeout);
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     AEInstallEventHandler(kTestClass, kAnswerCode, answerCode, nullptr);
-    AEInstallEventHandler(kTestClass, kSendBack, sendBack, nullptr);
     ProcessSerialNumber self;
     if (!registerCurrentProcess(static_cast<OSType>(std::stoul(argv[1])), fourCharCode("peer")) ||
         GetCurrentProcess(&self) != noErr)

@@ -9,9 +9,7 @@
 // The events of the peer's class.
 constexpr AEEventClass kTestClass = fourCharCode("Test");
 constexpr AEEventID kAnswerCode = fourCharCode("code"); ///< answers its direct object, two bytes
-constexpr AEEventID kSendBack = fourCharCode("echo");   ///< sends its parameters to keyTestProcess
-constexpr AEEventID kSentBack = fourCharCode("back");
-constexpr AEKeyword keyTestProcess = fourCharCode("from");
+constexpr AEEventID kOther = fourCharCode("none");      ///< isn't handled
 constexpr DescType typeCode = fourCharCode("shor");
 
 /// Another process that takes part; it is there when the constructor returns.
@@ -26,19 +24,16 @@ public:
         psn_ = {numbers.value(0).toUInt(), numbers.value(1).toUInt()};
     }
 
-    ~TestPeer() { kill(); }
+    ~TestPeer() {
+        process_.kill();
+        process_.waitForFinished();
+    }
 
     const ProcessSerialNumber& psn() const { return psn_; }
 
     pid_t pid() const { return static_cast<pid_t>(process_.processId()); }
 
     void signal(int number) const { signalProcess(process_.processId(), number); }
-
-    /// Returns when it is gone.
-    void kill() {
-        process_.kill();
-        process_.waitForFinished();
-    }
 
     /// The result of an event that makes the peer answer 8.
     OSErr ask(SInt32 timeOutInTicks = kAEDefaultTimeout) const {
