@@ -62,7 +62,7 @@ TEST_F(LaunchServicesTest, WhatCantBeStartedIsRefusedByReason) {
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a child is left over";
 }
 
-TEST_F(LaunchServicesTest, TheProgramIsDetachedFromThisProcess) {
+TEST_F(LaunchServicesTest, OneProgramRunsAtATimeDetachedAndIsReapedAtItsEnd) {
     signal(SIGPIPE, SIG_IGN);
     sigset_t blocked;
     sigemptyset(&blocked);
@@ -70,23 +70,19 @@ TEST_F(LaunchServicesTest, TheProgramIsDetachedFromThisProcess) {
     sigprocmask(SIG_BLOCK, &blocked, nullptr);
     EXPECT_GE(::open("/dev/zero", O_RDONLY), 0) << "to be inherited";
     ASSERT_EQ(open(), noErr);
-    const pid_t pid = waitForStart(1);
-    EXPECT_EQ(getsid(pid), pid);
-    EXPECT_EQ(fs::read_symlink(proc(pid) / "fd/0"), "/dev/null");
-    EXPECT_EQ(std::distance(fs::directory_iterator(proc(pid) / "fd"), {}), 3);
+    EXPECT_EQ(open(), noErr) << "while it is still starting";
+    const pid_t first = waitForStart(1);
+    EXPECT_EQ(open(), noErr) << "while it runs";
+    EXPECT_EQ(getsid(first), first);
+    EXPECT_EQ(fs::read_symlink(proc(first) / "fd/0"), "/dev/null");
+    EXPECT_EQ(std::distance(fs::directory_iterator(proc(first) / "fd"), {}), 3);
     for (const char* mask : {"SigBlk:\t", "SigIgn:\t"}) {
-        const std::string status = readFile(proc(pid) / "status");
+        const std::string status = readFile(proc(first) / "status");
         // Beyond these bits come the C library's own.
         const auto bits = std::stoull(status.substr(status.find(mask) + 8, 16), nullptr, 16);
         EXPECT_EQ(bits & 0x7FFFFFFF, 0u) << mask;
     }
-}
 
-TEST_F(LaunchServicesTest, OneRunsAtATimeAndIsReapedAtItsEnd) {
-    ASSERT_EQ(open(), noErr);
-    EXPECT_EQ(open(), noErr) << "while it is still starting";
-    const pid_t first = waitForStart(1);
-    EXPECT_EQ(open(), noErr) << "while it runs";
     signalProcess(first, SIGKILL);
     ASSERT_TRUE(QTest::qWaitFor([&] { return kill(first, 0) != 0; }, 20'000)) << "not reaped";
     EXPECT_EQ(open(), noErr);
@@ -98,6 +94,36 @@ TEST_F(LaunchServicesTest, OneRunsAtATimeAndIsReapedAtItsEnd) {
     EXPECT_EQ(open(), noErr);
     EXPECT_NE(kill(second, 0), 0) << "not reaped";
     waitForStart(3);
+}
+
+TEST_F(LaunchServicesTest, AccessibilitySettingsAreThoseOfTheDesktopThatIsRunning) {
+    const struct {
+        const char *desktop, *installed, *started; ///< empty: nothing
+    } cases[] = {
+        {"ubuntu:GNOME", "gnome-control-center", "gnome-control-center universal-access\n"},
+        {"KDE", "systemsettings5", "systemsettings5 kcm_access\n"},
+        {"MATE", "mate-at-properties", "mate-at-properties \n"},
+        {"X-Cinnamon", "cinnamon-settings", "cinnamon-settings accessibility\n"},
+        {"GNOME", "systemsettings", ""},
+        {"", "gnome-control-center", ""}};
+
+    const fs::path programs = makeSandboxFolder("bin"), log = programs / "log";
+    setenv("PATH", (programs.string() + ":/bin").c_str(), 1);
+    const auto pane = CFURLCreateFromFileSystemRepresentation(
+        "/System/Library/PreferencePanes/UniversalAccessPref.prefPane", true);
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.desktop + std::string(", ") + test.installed);
+        fs::remove_all(programs);
+        writeFile(programs / test.installed,
+                  "#!/bin/sh\necho \"${0##*/} $*\" > log.new; mv log.new " + log.string() + "\n");
+        fs::permissions(programs / test.installed, fs::perms::owner_all);
+        setenv("XDG_CURRENT_DESKTOP", test.desktop, 1);
+        fs::current_path(programs);
+        const bool starts = LSOpenCFURLRef(pane.get(), nullptr) == noErr;
+        EXPECT_EQ(starts, *test.started != '\0');
+        EXPECT_TRUE(!starts || QTest::qWaitFor([&] { return fs::exists(log); }, 10'000));
+        EXPECT_EQ(readFile(log), test.started);
+    }
 }
 
 } // namespace

@@ -55,11 +55,11 @@ TEST_F(SharedFileListTest, EntriesAreSoundAndLeadBackToTheirApplication) {
 }
 
 TEST_F(SharedFileListTest, ANewItemIsLastAlsoBehindTheFuture) {
-    for (const auto& [name, seconds] :
-         {std::pair("c.desktop", -30), {"a.desktop", -20}, {"z.desktop", 900}}) {
-        writeFile(kFolder / name, entry("other"));
-        fs::last_write_time(kFolder / name,
-                            fs::file_time_type::clock::now() + std::chrono::seconds(seconds));
+    const auto now = fs::file_time_type::clock::now();
+    for (const auto& [name, minutes] : {std::pair("c", -2), {"a", -1}, {"z", 20}}) {
+        const fs::path file = kFolder / (std::string(name) + ".desktop");
+        writeFile(file, entry("other"));
+        fs::last_write_time(file, now + std::chrono::minutes(minutes));
     }
     insert(makeTestApplication(kSandbox / "A.app").get(), list_.get());
     std::string files;
