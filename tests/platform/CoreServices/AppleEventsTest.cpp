@@ -4,9 +4,6 @@
 
 #include <QDBusConnection>
 #include <QElapsedTimer>
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
 
 namespace {
 
@@ -15,25 +12,15 @@ OSErr handle(const AppleEvent*, AppleEvent*, void* result) {
 }
 
 TEST(AppleEventTest, TheMostSpecificHandlerTakesAnEventClassBeforeID) {
-    constexpr auto kAny = typeWildCard;
-    const std::pair<AEEventClass, AEEventID> kinds[] = {
-        {kTestClass, kAnswerCode}, {kTestClass, kAny}, {kAny, kAnswerCode}, {kAny, kAny}};
-    OSErr results[] = {1, 2, 3, 4};
-    // What becomes of the events of two classes and two IDs each.
-    const auto dispatch = [] {
-        std::vector<OSErr> all;
-        AppleEvent reply;
-        for (const AEEventClass eventClass : {kTestClass, kCoreEventClass})
-            for (const AEEventID eventID : {kAnswerCode, kOther})
-                all.push_back(dispatchAppleEvent({eventClass, eventID, {}, {}}, &reply));
-        return all;
-    };
-    for (int i = 0; i < 4; ++i)
-        AEInstallEventHandler(kinds[i].first, kinds[i].second, handle, &results[i]);
-    EXPECT_THAT(dispatch(), ElementsAre(1, 2, 3, 4));
-    EXPECT_EQ(AERemoveEventHandler(kTestClass, kAny, handle), noErr);
-    EXPECT_EQ(AERemoveEventHandler(kTestClass, kAny, handle), errAEHandlerNotFound);
-    EXPECT_THAT(dispatch(), ElementsAre(1, 4, 3, 4));
+    OSErr results[] = {1, 2, 3};
+    AEInstallEventHandler(typeWildCard, typeWildCard, handle, &results[2]);
+    AEInstallEventHandler(typeWildCard, kAnswerCode, handle, &results[1]);
+    AEInstallEventHandler(kTestClass, typeWildCard, handle, &results[0]);
+    AppleEvent reply;
+    EXPECT_EQ(dispatchAppleEvent({kTestClass, kAnswerCode, {}, {}}, &reply), 1);
+    EXPECT_EQ(dispatchAppleEvent({kCoreEventClass, kOther, {}, {}}, &reply), 3);
+    EXPECT_EQ(AERemoveEventHandler(kTestClass, typeWildCard, handle), noErr);
+    EXPECT_EQ(dispatchAppleEvent({kTestClass, kAnswerCode, {}, {}}, &reply), 2);
 }
 
 /// This process and a peer, on a real bus.

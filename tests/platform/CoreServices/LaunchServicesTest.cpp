@@ -102,7 +102,6 @@ TEST_F(LaunchServicesTest, AccessibilitySettingsAreThoseOfTheDesktopThatIsRunnin
     } cases[] = {
         {"ubuntu:GNOME", "gnome-control-center", "gnome-control-center universal-access\n"},
         {"KDE", "systemsettings5", "systemsettings5 kcm_access\n"},
-        {"MATE", "mate-at-properties", "mate-at-properties \n"},
         {"X-Cinnamon", "cinnamon-settings", "cinnamon-settings accessibility\n"},
         {"GNOME", "systemsettings", ""},
         {"", "gnome-control-center", ""}};

@@ -54,20 +54,6 @@ TEST_F(SharedFileListTest, EntriesAreSoundAndLeadBackToTheirApplication) {
     }
 }
 
-TEST_F(SharedFileListTest, ANewItemIsLastAlsoBehindTheFuture) {
-    const auto now = fs::file_time_type::clock::now();
-    for (const auto& [name, minutes] : {std::pair("c", -2), {"a", -1}, {"z", 20}}) {
-        const fs::path file = kFolder / (std::string(name) + ".desktop");
-        writeFile(file, entry("other"));
-        fs::last_write_time(file, now + std::chrono::minutes(minutes));
-    }
-    insert(makeTestApplication(kSandbox / "A.app").get(), list_.get());
-    std::string files;
-    for (const LSSharedFileListItem* item : items())
-        files += fs::path(item->file()).stem().string() + ' ';
-    EXPECT_EQ(files, "c a z org.korvex.Test ");
-}
-
 TEST_F(SharedFileListTest, AnEntrysNameIsTakenOnlyFromAnotherOfItsOwn) {
     const auto url = makeTestApplication(kSandbox / "A.app");
     const std::string run = "/A.app/Contents/Linux/run";
