@@ -2,11 +2,7 @@
 
 #include "src/prefpane/Daemon.h"
 #include "src/prefs.h"
-
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <string>
+#include "tests/platform/CoreFoundation/TestFiles.h"
 
 /// An agent's bundle of the test's own, with a folder of pointers and nothing to launch. The pane's
 /// link to the agent is set up with it as long as it lives.
@@ -15,7 +11,7 @@ public:
     AgentBundle() {
         std::filesystem::remove_all(path());
         std::filesystem::create_directories(pointers());
-        write(path() / "Contents/Info.plist", "<plist version=\"1.0\"><dict/></plist>");
+        write(path() / "Contents/Info.plist", dictionaryFile(""));
         prefs = PrefsRecord{};
         prefs.on = 0;
         daemonSetup(CFStringCreateWithUTF8(path().string()).get());
@@ -24,17 +20,12 @@ public:
     ~AgentBundle() { daemonCleanup(); }
 
     AgentBundle(const AgentBundle&) = delete;
-    AgentBundle& operator=(const AgentBundle&) = delete;
 
-    static std::filesystem::path path() {
-        return std::filesystem::path(std::getenv("KORVEX_TEST_SANDBOX")) / "Test Agent.app";
-    }
+    static std::filesystem::path path() { return makeSandboxFolder("Test Agent.app"); }
 
     static std::filesystem::path resources() { return path() / "Contents/Resources"; }
 
     static std::filesystem::path pointers() { return resources() / "Pointers"; }
 
-    static void write(const std::filesystem::path& file, const std::string& content) {
-        std::ofstream(file, std::ios::binary) << content;
-    }
+    static constexpr auto write = writeFile;
 };

@@ -14,16 +14,12 @@ protected:
         setenv("XDG_DATA_DIRS", (near_.string() + ":relative:" + far_.string()).c_str(), 1);
     }
 
-    static std::string bundleInfo(const std::string& signature, const std::string& identifier) {
-        return dictionaryFile("<key>CFBundleSignature</key><string>" + signature + "</string>" +
-                              "<key>CFBundleIdentifier</key><string>" + identifier + "</string>" +
-                              "<key>CFBundleIconFile</key><string>Icon</string>");
-    }
-
     static void installBundle(const std::filesystem::path& data, const std::string& name,
                               const std::string& signature, const std::string& identifier) {
         writeFile(data / "applications" / name / "Contents/Info.plist",
-                  bundleInfo(signature, identifier));
+                  dictionaryFile("<key>CFBundleSignature</key><string>" + signature + "</string>" +
+                                 "<key>CFBundleIdentifier</key><string>" + identifier +
+                                 "</string><key>CFBundleIconFile</key><string>Icon</string>"));
     }
 
     static void installEntry(const std::filesystem::path& data, const std::string& identifier,

@@ -1,48 +1,40 @@
 #pragma once
 
-#include "platform/CoreFoundation/CFBase.h"
+#include "platform/CoreFoundation/CFData.h"
 
 #include <QBuffer>
 #include <QImage>
+#include <QtEndian>
 
-#include <initializer_list>
+#include <numeric>
 #include <string>
 #include <vector>
 
 // Icon files written by hand, apart from the library that reads them.
 
+inline CFRef<CFData> makeData(std::string_view bytes) {
+    return CFDataCreate(reinterpret_cast<const UInt8*>(bytes.data()), std::ssize(bytes));
+}
+
 inline std::string bigEndian32Text(std::size_t number) {
-    std::string text;
-    for (int shift = 24; shift >= 0; shift -= 8)
-        text.push_back(static_cast<char>(number >> shift));
-    return text;
+    const UInt32 bytes = qToBigEndian(static_cast<UInt32>(number));
+    return {reinterpret_cast<const char*>(&bytes), sizeof bytes};
 }
 
 inline std::string iconElement(const std::string& type, const std::string& content) {
     return type + bigEndian32Text(content.size() + 8) + content;
 }
 
-inline std::string iconFamily(std::initializer_list<std::string> elements) {
-    std::string body;
-    for (const std::string& element : elements)
-        body += element;
-    return iconElement("icns", body);
+inline std::string iconFamily(const std::vector<std::string>& elements) {
+    return iconElement("icns", std::accumulate(elements.begin(), elements.end(), std::string()));
 }
 
-/// Colour data of pixels that are all alike: each channel in runs of at most 130.
+/// Colour data of pixels that are all alike, a multiple of 128: each channel in runs of 128.
 inline std::string packedColour(std::size_t pixels, QColor colour) {
     std::string packed;
-    for (const int value : {colour.red(), colour.green(), colour.blue()}) {
-        std::size_t left = pixels;
-        while (left > 0) {
-            // Runs are of three or more; what is left must not be one or two.
-            const std::size_t run =
-                left > 130 && left < 133 ? 65 : std::min<std::size_t>(left, 130);
-            packed.push_back(static_cast<char>(run + 125));
-            packed.push_back(static_cast<char>(value));
-            left -= run;
-        }
-    }
+    for (const int value : {colour.red(), colour.green(), colour.blue()})
+        for (std::size_t run = 0; run < pixels / 128; ++run)
+            packed += {'\xFD', static_cast<char>(value)};
     return packed;
 }
 
@@ -68,8 +60,9 @@ inline std::string pngClaim(std::size_t width, std::size_t height) {
 
 /// A family with a square PNG of one colour a size.
 inline std::string pngFamily(const std::vector<std::pair<int, QColor>>& sizes) {
-    std::string body;
+    std::vector<std::string> elements;
     for (const auto& [side, colour] : sizes)
-        body += iconElement("x" + std::to_string(100 + side % 900), pngBytes(side, side, colour));
-    return iconElement("icns", body);
+        elements.push_back(
+            iconElement("x" + std::to_string(100 + side % 900), pngBytes(side, side, colour)));
+    return iconFamily(elements);
 }

@@ -2,90 +2,58 @@
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/TestIcons.h"
 
-#include <QImage>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <sys/resource.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 
-class CGImageTest : public testing::Test {
-protected:
-    /// The image in a file of that content; null when there is none.
-    CFRef<CGImage> load(const std::string& content) {
-        writeFile(file_, content);
-        const auto url = CFURLCreateFromFileSystemRepresentation(file_.c_str(), false);
-        const auto provider = CGDataProviderCreateWithURL(url.get());
-        return provider ? CGImageCreateWithPNGDataProvider(provider.get(), nullptr, false,
-                                                           kCGRenderingIntentDefault)
-                        : nullptr;
-    }
+CFRef<CGDataProvider> provider(const std::filesystem::path& path) {
+    return CGDataProviderCreateWithURL(
+        CFURLCreateFromFileSystemRepresentation(path.c_str(), false).get());
+}
 
-    fs::path file_ = makeSandboxFolder("images") / "file.png";
-};
+/// The image in a file of that content; null when there is none.
+CFRef<CGImage> load(const std::string& content) {
+    const auto file = makeSandboxFolder("images") / "file.png";
+    writeFile(file, content);
+    return CGImageCreateWithPNGDataProvider(provider(file).get(), nullptr, false,
+                                            kCGRenderingIntentDefault);
+}
 
-TEST_F(CGImageTest, DecodesEveryDepthToTheSamePixels) {
+TEST(CGImageTest, DecodesEveryDepthToTheSamePixels) {
     QImage plain(5, 3, QImage::Format_ARGB32);
     plain.fill(Qt::white);
     plain.setPixelColor(4, 2, Qt::black);
     for (const auto format : {QImage::Format_Mono, QImage::Format_Indexed8,
-                              QImage::Format_Grayscale8, QImage::Format_Grayscale16,
-                              QImage::Format_RGB32, QImage::Format_ARGB32, QImage::Format_RGBA64}) {
-        SCOPED_TRACE(format);
+                              QImage::Format_Grayscale16, QImage::Format_RGBA64}) {
         const auto image = load(pngBytes(plain.convertToFormat(format)));
-        ASSERT_TRUE(image);
-        EXPECT_EQ(image->image().size(), plain.size());
-        EXPECT_EQ(image->image().convertToFormat(QImage::Format_ARGB32), plain);
+        ASSERT_TRUE(image) << format;
+        EXPECT_EQ(image->image().convertToFormat(QImage::Format_ARGB32), plain) << format;
     }
-    const auto half = load(pngBytes(1, 1, QColor(255, 0, 0, 128)));
-    EXPECT_EQ(half->image().pixelColor(0, 0), QColor(255, 0, 0, 128));
+    const QColor half(255, 0, 0, 128);
+    EXPECT_EQ(load(pngBytes(1, 1, half))->image().pixelColor(0, 0), half);
 }
 
-TEST_F(CGImageTest, WhatIsNoWholePNGIsNull) {
+TEST(CGImageTest, WhatIsNoWholePNGOrTooLargeIsNullAndTakesNoMemory) {
     const std::string whole = pngBytes(40, 40, Qt::red);
-    QByteArray bmp;
-    QBuffer buffer(&bmp);
-    buffer.open(QIODevice::WriteOnly);
-    QImage(4, 4, QImage::Format_RGB32).save(&buffer, "BMP");
-
-    const struct {
-        const char* what;
-        std::string content;
-    } cases[] = {
-        {"empty", ""},
-        {"text", "not an image"},
-        {"another format", bmp.toStdString()},
-        {"signature alone", whole.substr(0, 8)},
-        {"header alone", whole.substr(0, 33)},
-        {"cut in the pixels", whole.substr(0, whole.size() - 30)},
-        {"damaged pixels", whole.substr(0, 45) + std::string(20, '\x55') + whole.substr(65)},
-        {"no size", pngClaim(0, 0)},
-        {"huge", pngClaim(100'000, 100'000)},
-        {"wide", pngClaim(4097, 1)},
-        {"largest number", pngClaim(0x7FFFFFFF, 0x7FFFFFFF)},
-    };
-
+    const std::string cases[] = {"",
+                                 "not an image",
+                                 whole.substr(0, 33),
+                                 whole.substr(0, whole.size() - 30),
+                                 whole.substr(0, 45) + std::string(20, '\x55') + whole.substr(65),
+                                 pngClaim(0, 0),
+                                 pngClaim(4097, 1),
+                                 pngClaim(0x7FFFFFFF, 0x7FFFFFFF)};
     rusage before{}, after{};
     getrusage(RUSAGE_SELF, &before);
-    for (const auto& row : cases)
-        EXPECT_FALSE(load(row.content)) << row.what;
+    for (const std::string& content : cases)
+        EXPECT_FALSE(load(content)) << testing::PrintToString(content);
     getrusage(RUSAGE_SELF, &after);
     EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 16'000) << "kilobytes";
-}
-
-TEST_F(CGImageTest, OnlyRegularFilesWithinTheLimitAreRead) {
-    const auto provider = [](const fs::path& path) {
-        return CGDataProviderCreateWithURL(
-            CFURLCreateFromFileSystemRepresentation(path.c_str(), false).get());
-    };
-    writeFile(file_, "x");
-    EXPECT_TRUE(provider(file_));
-    fs::resize_file(file_, kCGMaxImageFileSize + 1);
-    EXPECT_FALSE(provider(file_));
-    EXPECT_FALSE(provider(file_.parent_path()));
     EXPECT_FALSE(provider("/dev/zero"));
-    EXPECT_FALSE(provider(file_.parent_path() / "none"));
+    const auto file = makeSandboxFolder("images") / "file.png";
+    std::filesystem::resize_file(file, kCGMaxImageFileSize + 1);
+    EXPECT_FALSE(provider(file));
 }
 
 } // namespace

@@ -1,0 +1,164 @@
+#include "platform/CoreFoundation/CFNumber.h"
+#include "platform/IconServices/IconImages.h"
+#include "src/fsutil.h"
+#include "src/iconutil.h"
+#include "src/imageutil.h"
+#include "src/proputil.h"
+#include "tests/platform/CoreFoundation/TestFiles.h"
+#include "tests/support/TestIcons.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A bundle in the sandbox, to put resources in.
+class ResourceUtilsTest : public testing::Test {
+protected:
+    ResourceUtilsTest() {
+        writeFile(resources_ / "../Info.plist", dictionaryFile(""));
+        fs::create_directory(resources_);
+        bundle_ = CFBundleCreate(url(resources_ / "../..").get());
+        iconUtilSetup();
+    }
+
+    ~ResourceUtilsTest() override {
+        iconUtilCleanup();
+        EXPECT_EQ(countOpenFiles(), openBefore_) << "left open";
+    }
+
+    static CFRef<CFURL> url(const fs::path& path) {
+        return CFURLCreateFromFileSystemRepresentation(path.lexically_normal().c_str(), false);
+    }
+
+    static long countOpenFiles() {
+        return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+    }
+
+    void write(const char* name, std::string_view bytes) { writeFile(resources_ / name, bytes); }
+
+    IconRef icon(const char* name) {
+        return iconUtilGetBundlesResourceIcon(bundle_.get(), CFSTR(name));
+    }
+
+    /// The icon that is registered under that type, else null.
+    static IconRef registeredAs(UInt32 type) {
+        CFRef<Icon> icon;
+        GetIconRef(kOnSystemDisk, fourCharCode("Krvx"), type, &icon);
+        return icon.get();
+    }
+
+    fs::path resources_ = makeSandboxFolder("Test.app/Contents") / "Resources";
+    CFRef<CFBundle> bundle_;
+    long openBefore_ = countOpenFiles();
+};
+
+TEST_F(ResourceUtilsTest, FilesAreReadFromAnOffsetOnOrNotAtAll) {
+    for (const auto& [name, size] : {std::pair{"digits", std::uintmax_t{10}},
+                                     {"empty", 0},
+                                     {"largest", kMaxFileContents},
+                                     {"huge", kMaxFileContents + 1}}) {
+        write(name, "");
+        fs::resize_file(resources_ / name, size);
+    }
+    mkfifo((resources_ / "pipe").c_str(), 0600);
+
+    const struct {
+        const char* name;
+        SInt32 offset;
+        CFIndex length; // -1 when nothing is read
+    } cases[] = {{"digits", 0, 10},  {"digits", -2147483647 - 1, 10},
+                 {"digits", 4, 6},   {"digits", 10, 0},
+                 {"digits", 11, -1}, {"digits", 2147483647, -1},
+                 {"empty", 0, 0},    {"largest", 0, kMaxFileContents},
+                 {"huge", 0, -1},    {"pipe", 0, -1},
+                 {"none", 0, -1}};
+
+    for (const auto& row : cases) {
+        SCOPED_TRACE(testing::Message() << row.name << " from " << row.offset);
+        const auto file = url(resources_ / row.name);
+        const Handle handle = fsGetFileContentsAsHandle(file.get(), row.offset);
+        EXPECT_EQ(handle ? GetHandleSize(handle) : -1, row.length);
+        if (row.offset == 0) {
+            const auto data = fsGetFileContents(file.get());
+            EXPECT_EQ(data ? CFDataGetLength(data.get()) : -1, row.length);
+        }
+    }
+}
+
+TEST_F(ResourceUtilsTest, EveryIconFileIsRegisteredOnceAndNoNumberTwice) {
+    const std::string good = pngFamily({{16, Qt::red}, {32, Qt::green}});
+    write("red.icns", good);
+    write("noise.icns", "icns and more");
+    EXPECT_EQ(icon("none"), nullptr);
+    EXPECT_EQ(iconUtilGetResourceIcon(CFSTR("red")), nullptr) << "no main bundle";
+    const IconRef red = icon("red"); // type 1: none of those used a number up
+    ASSERT_TRUE(red);
+    EXPECT_EQ(icon("red"), red);
+    EXPECT_EQ(registeredAs(1), red);
+    for (const UInt32 type : {2, 3}) {
+        EXPECT_EQ(icon("noise"), nullptr);
+        EXPECT_EQ(registeredAs(type), nullptr);
+    }
+    write("noise.icns", good);
+    const IconRef mended = icon("noise");
+    EXPECT_TRUE(mended) << "a failure isn't kept";
+    EXPECT_EQ(registeredAs(4), mended);
+    fs::remove(resources_ / "red.icns");
+    EXPECT_EQ(icon("red"), nullptr) << "the bundle has it no more";
+    EXPECT_EQ(red->images().atLeast(32).width(), 32) << "the file is read when it is registered";
+
+    iconUtilCleanup();
+    EXPECT_EQ(registeredAs(1), nullptr);
+    EXPECT_EQ(registeredAs(4), nullptr);
+    iconUtilSetup();
+    const IconRef again = icon("noise");
+    ASSERT_TRUE(again);
+    EXPECT_EQ(registeredAs(5), again);
+}
+
+TEST_F(ResourceUtilsTest, ButtonsTakeIconsAndArraysAreWalkedInOrder) {
+    write("red.icns", pngFamily({{16, Qt::red}}));
+    ControlButtonContentInfo content;
+    for (const auto& [what, type] : {std::pair{icon("red"), 132}, {nullptr, 0}}) {
+        iconUtilSetControlButtonContentIcon(&content, what);
+        EXPECT_EQ(std::pair(content.iconRef, int{content.contentType}), std::pair(what, type));
+    }
+    const CFType* items[] = {CFSTR("a"), kCFBooleanTrue};
+    CFIndex next = 0;
+    propUtilForEachArrayItemDo(CFArrayCreate(items).get(), [&](const CFType* item, CFIndex index) {
+        EXPECT_EQ(index, next);
+        EXPECT_EQ(item, items[next++]);
+    });
+    EXPECT_EQ(next, 2);
+}
+
+/// Runs this very test again, as a copy of the program that lies in a bundle.
+TEST_F(ResourceUtilsTest, TheMainBundleHasPicturesAndIcons) {
+    if (!std::getenv("TEST_IN_BUNDLE")) {
+        write("picture.pict", std::string(512, 'h') + "picture");
+        write("short.pict", std::string(511, 'h'));
+        write("icon.icns", pngFamily({{16, Qt::red}, {64, Qt::blue}}));
+        write("noise.icns", "icns\x01\x02\x03");
+        write("../Linux/test", readFile("/proc/self/exe"));
+        const fs::path program = resources_ / "../Linux/test";
+        fs::permissions(program, fs::perms::owner_all);
+        setenv("TEST_IN_BUNDLE", "1", 1);
+        EXPECT_EQ(std::system((program.string() + " --gtest_filter=*MainBundle* >&2").c_str()), 0);
+        return;
+    }
+    ASSERT_TRUE(CFBundleGetMainBundle());
+    const Handle picture = imageUtilGetResourcePict(CFSTR("picture"));
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(std::string(*picture, *picture + GetHandleSize(picture)), "picture");
+    EXPECT_FALSE(imageUtilGetResourcePict(CFSTR("short")));
+    const auto suite = imageUtilGetResourceIcon(CFSTR("icon"));
+    ASSERT_TRUE(suite);
+    EXPECT_EQ(suite->images().atLeast(64).pixelColor(0, 0), QColor(Qt::blue));
+    EXPECT_FALSE(imageUtilGetResourceIcon(CFSTR("noise")));
+    EXPECT_FALSE(imageUtilGetResourceIcon(CFSTR("none")));
+}
+
+} // namespace
