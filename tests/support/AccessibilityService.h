@@ -14,10 +14,7 @@ public:
         EXPECT_TRUE(process_.waitForReadyRead(10'000)) << "the service didn't start";
     }
 
-    ~AccessibilityService() {
-        process_.kill();
-        process_.waitForFinished();
-    }
+    ~AccessibilityService() { process_.kill(), process_.waitForFinished(); }
 
     void set(bool isOn) {
         process_.write(isOn ? "on\n" : "off\n");
