@@ -10,14 +10,8 @@ if TYPE_CHECKING:
     from tests.e2e.tour import Tour
 
 HOT_KEYS = 32  # the group of settings
-SLOTS = {
-    "Turn scanning on or off": 0,
-    "Scan": 1,
-    "Cancel the scan": 2,
-    "Show these settings": 3,
-    "Scan, second key": 4,
-}
-FIELDS |= {name: ("<II", 264 + 8 * slot) for name, slot in SLOTS.items()}  # key code, modifiers
+SLOTS = "Turn scanning on or off|Scan|Cancel the scan|Show these settings|Scan, second key"
+FIELDS |= {name: ("<II", 264 + 8 * slot) for slot, name in enumerate(SLOTS.split("|"))}
 
 COMMAND, SHIFT, OPTION, CONTROL = 0x100, 0x200, 0x800, 0x1000
 NONE = 0x80000000
@@ -53,18 +47,10 @@ PLACES = {
 
 # What else would act on them: the window, its tabs and captions, and the window manager.
 TAKEN = {
-    "Escape": (0, 0x35),
-    "Tab": (0, 0x30),
-    "shift+Tab": (SHIFT, 0x30),
-    "super+q": (COMMAND, 0x0C),
-    "ctrl+q": (CONTROL, 0x0C),
-    "ctrl+w": (CONTROL, 0x0D),
-    "ctrl+Tab": (CONTROL, 0x30),
-    "alt+s": (OPTION, 0x01),
-    "alt+h": (OPTION, 0x04),
-    "alt+F4": (OPTION, 0x76),
-    "alt+Tab": (OPTION, 0x30),
-    "super+d": (COMMAND, 0x02),
+    **{"Escape": (0, 0x35), "Tab": (0, 0x30), "shift+Tab": (SHIFT, 0x30)},
+    **{"super+q": (COMMAND, 0x0C), "ctrl+q": (CONTROL, 0x0C), "ctrl+w": (CONTROL, 0x0D)},
+    **{"ctrl+Tab": (CONTROL, 0x30), "alt+s": (OPTION, 0x01), "alt+h": (OPTION, 0x04)},
+    **{"alt+F4": (OPTION, 0x76), "alt+Tab": (OPTION, 0x30), "super+d": (COMMAND, 0x02)},
     "ctrl+alt+Left": (CONTROL | OPTION, 0x7B),
     "super+ctrl+alt+shift+x": (COMMAND | CONTROL | OPTION | SHIFT, 0x07),
 }
@@ -108,7 +94,6 @@ def open_menu(tour: "Tour", name: str, letter: str, *keys: str) -> None:
 def capture_a_hot_key(tour: "Tour") -> str:
     """Capture command and Q"""
     tour.choose_tab("Hot Keys")
-    tour.picture("hot-keys")
     begin(tour, "Scan")
     press("keydown", "super", "keydown", "shift")
     until(lambda: view(tour, "Scan").text == "command+shift+", "the held modifiers are shown")
@@ -119,36 +104,23 @@ def capture_a_hot_key(tour: "Tour") -> str:
     account = expect(tour, "Scan", COMMAND, 0x0C)
     wait_until_idle(tour)
     check(view(tour, "Scan").text == "command+Q", "the new hot key isn't shown")
-    tour.picture("captured")
     return account
 
 
 def set_to_none_and_default(tour: "Tour") -> str:
-    """Set it to none and back to default by the keyboard alone"""
-    open_menu(tour, "Scan", "n", "Down", "Return")
-    none = expect(tour, "Scan", COMMAND, NONE | 0x0C)
-    until(lambda: view(tour, "Scan").text == "-none-", "none is shown")
-    tour.picture("none")
-    open_menu(tour, "Scan", "n", "End", "Return")
-    default = expect(tour, "Scan", COMMAND, 0x4C)
-    until(lambda: view(tour, "Scan").text == "command+enter", "the default is shown")
-    return f"{none}; {default}"
-
-
-def use_the_three_buttons(tour: "Tour") -> str:
-    """Press cancel, none and default during a capture"""
-    begin(tour, "Cancel the scan")
-    tour.screen.click("Cancel", "push button")
-    wait_until_idle(tour)
-    begin(tour, "Cancel the scan")
-    tour.screen.click("None", "push button")
-    none = expect(tour, "Cancel the scan", 0, NONE | 0x35)
-    wait_until_idle(tour)
-    begin(tour, "Cancel the scan")
-    tour.screen.click("Default", "push button")
-    default = expect(tour, "Cancel the scan", 0, 0x35)
-    wait_until_idle(tour)
-    return f"nothing; {none}; {default}"
+    """Set hot keys to none and back to default, in the menu by the keyboard and in a capture"""
+    accounts = []
+    for key, code, text in ("Down", NONE | 0x0C, "-none-"), ("End", 0x4C, "command+enter"):
+        open_menu(tour, "Scan", "n", key, "Return")
+        accounts.append(expect(tour, "Scan", COMMAND, code))
+        until(lambda: view(tour, "Scan").text == text, f"{text} is shown")
+    for button, code in ("Cancel", None), ("None", NONE | 0x35), ("Default", 0x35):
+        begin(tour, "Cancel the scan")
+        tour.screen.click(button, "push button")
+        if code:
+            accounts.append(expect(tour, "Cancel the scan", 0, code))
+        wait_until_idle(tour)
+    return "; ".join(accounts)
 
 
 def hold_keys_down(tour: "Tour") -> str:
@@ -244,13 +216,6 @@ def note_the_same_keys(tour: "Tour") -> str:
 
 
 STEPS = (
-    capture_a_hot_key,
-    set_to_none_and_default,
-    use_the_three_buttons,
-    hold_keys_down,
-    press_every_key,
-    change_the_layout,
-    take_every_shortcut,
-    move_the_focus,
-    note_the_same_keys,
+    *(capture_a_hot_key, set_to_none_and_default, hold_keys_down),
+    *(press_every_key, change_the_layout, take_every_shortcut, move_the_focus, note_the_same_keys),
 )

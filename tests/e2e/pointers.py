@@ -40,27 +40,19 @@ def choose_another_pointer(tour: "Tour") -> str:
         padded = name.encode().ljust(NAME_SIZE, b"\0")
         tour.log.expect_change(POINTER, "pointerImageName", padded)
         tour.screen.find(name.rpartition("+")[0] or name, "label")
-        tour.picture(button.lower().replace(" ", "-"))
     return f"the agent heard mask {POINTER} with “{following}”, then “default”"
 
 
-def change_the_colour(tour: "Tour") -> str:
-    """Make the lines' colour a little brighter"""
+def change_colour_and_thickness(tour: "Tour") -> str:
+    """Make the lines' colour a little brighter and the lines thicker"""
     tour.screen.click("Line colour", "push button")
     tour.screen.click("Red:", "spin button")
     press("key", "Up")
-    account = tour.log.expect_change(SCAN_LINE | GUIDE_LINE, "lineColor", (101, 0, 0))
+    colour = tour.log.expect_change(SCAN_LINE | GUIDE_LINE, "lineColor", (101, 0, 0))
     press("key", "Return")
-    tour.picture("line-colour")
-    return account
-
-
-def thicken_the_lines(tour: "Tour") -> str:
-    """Press plus on the line thickness"""
     tour.screen.click("Line thickness, thicker", "push button")
-    account = tour.log.expect_change(SCAN_LINE | GUIDE_LINE, "lineThickness", 8)
-    tour.picture("line-thickness")
-    return account
+    thickness = tour.log.expect_change(SCAN_LINE | GUIDE_LINE, "lineThickness", 8)
+    return f"{colour}; {thickness}"
 
 
 def change_the_transparencies(tour: "Tour") -> str:
@@ -73,7 +65,6 @@ def change_the_transparencies(tour: "Tour") -> str:
         tour.screen.click(button, "push button")
         accounts.append(tour.log.expect_change(mask, field, value))
         tour.screen.find(f"Preview of the {shown} line", "push button")
-        tour.picture(f"{shown}-line-transparency")
     return f"{'; '.join(accounts)}; the preview showed that line each time"
 
 
@@ -81,7 +72,6 @@ def look_at_the_other_line(tour: "Tour") -> str:
     """Click the preview, and press Space in it"""
     tour.screen.click("Preview of the scan line", "push button")
     tour.screen.find("Preview of the guide line", "push button")
-    tour.picture("other-line")
     press("key", "space")
     tour.screen.find("Preview of the scan line", "push button")
     return "it showed the guide line, then the scan line again"
@@ -89,8 +79,7 @@ def look_at_the_other_line(tour: "Tour") -> str:
 
 STEPS = (
     choose_another_pointer,
-    change_the_colour,
-    thicken_the_lines,
+    change_colour_and_thickness,
     change_the_transparencies,
     look_at_the_other_line,
 )

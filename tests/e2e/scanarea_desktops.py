@@ -13,22 +13,11 @@ from pathlib import Path
 from typing import NamedTuple
 
 from tests.e2e.desktop import Desktop, ask, exit_on_signals, process_of
-from tests.e2e.scanarea import (
-    CURRENT,
-    DRAGGED,
-    NOTHING,
-    PALE_CURRENT,
-    Area,
-    Overlay,
-    Place,
-    drag,
-    expect_area,
-    let_go,
-)
+from tests.e2e.scanarea import CURRENT, DRAGGED, NOTHING, PALE_CURRENT
+from tests.e2e.scanarea import Area, Overlay, Place, drag, expect_area, let_go
 from tests.e2e.screen import press, run
-from tests.e2e.startup import mute_the_notice
-from tests.e2e.tour import PROGRAM, Tour
-from tests.e2e.waiting import Failure, check, until
+from tests.e2e.tour import PROGRAM, Tour, make_room
+from tests.e2e.waiting import PATIENCE, Failure, check, until
 
 
 class Setup(NamedTuple):
@@ -52,22 +41,9 @@ SETUPS = (
     Setup("beside", False, ("*" + LEFT, RIGHT), (400, 261), Area(100, 100, 1400, 600)),
     Setup("left-of-main", True, (LEFT, "*" + RIGHT), (1200, 261), Area(-700, 100, 1400, 600)),
     Setup("above-main", False, (UPPER, "*" + LOWER), (800, 528), Area(100, -300, 1400, 600)),
-    Setup(
-        "doubled",
-        True,
-        (),
-        (800, 256),
-        Area(50, 50, 700, 300),
-        {"QT_SCALE_FACTOR": "2"},
-    ),
-    Setup(
-        "doubled-beside",
-        False,
-        (LEFT, "*" + RIGHT),
-        (1200, 256),
-        Area(-350, 50, 700, 300),
-        {"QT_SCREEN_SCALE_FACTORS": "M1=2;M0=1"},
-    ),
+    Setup("doubled", True, (), (800, 256), Area(50, 50, 700, 300), {"QT_SCALE_FACTOR": "2"}),
+    Setup("doubled-beside", False, (LEFT, "*" + RIGHT), (1200, 256), Area(-350, 50, 700, 300),
+          {"QT_SCREEN_SCALE_FACTORS": "M1=2;M0=1"}),
 )
 
 
@@ -80,13 +56,6 @@ def set_up(setup: Setup, desktop: Desktop) -> None:
     if setup.composited:
         desktop.start("picom", "--backend", "xrender")
         until(lambda: ask("xdotool", "search", "--class", "^picom$"), "picom runs")
-
-
-def open_program(tour: Tour) -> None:
-    mute_the_notice(tour.stored)
-    tour.start()
-    tour.screen.find("Korvex", "frame")
-    tour.agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")
 
 
 def draw_everywhere(tour: Tour, setup: Setup) -> None:
@@ -112,8 +81,7 @@ def keep_to_the_overlay(tour: Tour, setup: Setup) -> None:
     """Nothing else may get its keys, or come before it."""
     overlay = Overlay(tour, setup.prompt)
     press("key", "ctrl+w", "key", "alt+h")
-    second = tour.start_program()
-    until(lambda: second.poll() is not None, "the second start ends")
+    tour.start_program().wait(PATIENCE)
     check(overlay.shows(setup.prompt), "the pane came before the overlay")
     for choice in ("Off", "On"):
         os.kill(tour.agent, signal.SIGUSR1)
@@ -141,31 +109,26 @@ def end_the_program(tour: Tour, setup: Setup) -> None:
     Overlay(tour, setup.prompt)
     drag((4, 4), (24, 24))
     tour.program.terminate()
-    until(lambda: tour.program.poll() is not None, "the program ends")
+    status = tour.program.wait(PATIENCE)
     let_go()
-    check(tour.program.returncode == 0, f"the program ended with {tour.program.returncode}")
+    check(status == 0, f"the program ended with {status}")
     tour.log.expect("PPcl")
     check(f"origin({setup.area.x:f}," in tour.stored.read_text(), "the area is not stored")
 
 
-PARTS = (
-    draw_everywhere,
-    keep_to_the_overlay,
-    take_a_display_away,
-    end_the_program,
-)
+PARTS = draw_everywhere, keep_to_the_overlay, take_a_display_away, end_the_program
 
 
 def try_setup(setup: Setup, build: Path, out: Path) -> bool:
-    out.mkdir(parents=True, exist_ok=True)
-    for old in out.glob("*"):
-        old.unlink()
+    make_room(out)
     environment = {"KORVEX_AGENT_LOG": str(out / "agent.log")} | setup.environment
     with Desktop(*SIZE, environment) as desktop:
         set_up(setup, desktop)
         tour = Tour(desktop, build, out)
         try:
-            open_program(tour)
+            tour.start()
+            tour.screen.find("Korvex", "frame")
+            tour.agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")
             for part in PARTS:
                 part(tour, setup)
         except Failure as failure:
@@ -179,11 +142,7 @@ def try_setup(setup: Setup, build: Path, out: Path) -> bool:
 def main(arguments: list[str]) -> int:
     named = {setup.name: setup for setup in SETUPS}
     if len(arguments) != 3 or arguments[2] not in named:
-        print(
-            f"Usage: python3 -m tests.e2e.scanarea_desktops BUILD_DIR OUT_DIR {'|'.join(named)}",
-            file=sys.stderr,
-        )
-        return 2
+        sys.exit(f"Usage: python3 -m tests.e2e.scanarea_desktops BUILD OUT {'|'.join(named)}")
     build, out = (Path(argument).resolve() for argument in arguments[:2])
     exit_on_signals()
     return 0 if try_setup(named[arguments[2]], build, out) else 1

@@ -71,10 +71,6 @@ class Control:
         return self.has(Atspi.StateType.CHECKED)
 
     @property
-    def selected(self) -> bool:
-        return self.has(Atspi.StateType.SELECTED)
-
-    @property
     def box(self) -> Box:
         extents = self._node.get_extents(Atspi.CoordType.SCREEN)
         right, bottom = extents.x + extents.width, extents.y + extents.height

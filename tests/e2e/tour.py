@@ -20,7 +20,7 @@ from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.screen import Screen, press
 from tests.e2e.stored import check_stored, stored_file
-from tests.e2e.waiting import Failure, check, until
+from tests.e2e.waiting import PATIENCE, Failure, check, until
 
 PROGRAM = "korvex-preferences"
 AGENT = "Korvex.prefPane/Contents/Linux/Korvex Agent.app/Contents/Linux/korvex-agent"
@@ -63,8 +63,8 @@ class Tour:
         else before."""
         press("key", "alt+F4")
         self.log.expect("PPcl")
-        until(lambda: self.program.poll() is not None, "the program ends")
-        check(self.program.returncode == 0, f"the program ended with {self.program.returncode}")
+        status = self.program.wait(PATIENCE)
+        check(status == 0, f"the program ended with {status}")
 
     def choose_tab(self, name: str) -> None:
         self.screen.click(name, "page tab")
@@ -105,65 +105,38 @@ def look_at_the_tabs(tour: Tour) -> str:
     return ", ".join(tabs)
 
 
-def lengthen_line_scan_time(tour: Tour) -> str:
-    """Press plus on the line scan time"""
+def change_three_settings(tour: Tour) -> str:
+    """Press plus on the line scan time, leave out the menu bar, choose another scan mode"""
     tour.choose_tab("Scanning")
     tour.screen.click("Line scan time, longer", "push button")
-    account = tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10.5)
+    time = tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10.5)
     slider = tour.screen.find("Line scan time", "slider")
     until(lambda: slider.value == 10.5, "the slider follows")
-    tour.picture("line-scan-time")
-    return account
-
-
-def skip_the_menu_bar(tour: Tour) -> str:
-    """Switch scanning of the menu bar off"""
     tour.screen.click("Scan the menu bar too", "check box")
-    account = tour.log.expect_change(NO_GROUP, "canScanMenuBar", 0)
-    tour.picture("menu-bar")
-    return account
-
-
-def choose_scan_mode(tour: Tour) -> str:
-    """Choose another scan mode"""
+    menu_bar = tour.log.expect_change(NO_GROUP, "canScanMenuBar", 0)
     tour.choose_tab("Triggers")
     tour.choose("Hold to scan, let go to choose")
-    account = tour.log.expect_change(TRIGGERS, "scanMode", 1)
-    tour.picture("scan-mode")
-    return account
+    return f'{time}; {menu_bar}; {tour.log.expect_change(TRIGGERS, "scanMode", 1)}'
 
 
 def switch_off_and_on(tour: Tour) -> str:
-    """Switch the agent off and on"""
-    tour.choose("Off")
-    off = tour.log.expect_change(ON_OFF, "on", 0)
-    tour.picture("switched-off")
-    tour.choose("On")
-    on = tour.log.expect_change(ON_OFF, "on", 1)
-    tour.picture("switched-on")
-    return f"{off}; {on}"
-
-
-def follow_the_agent(tour: Tour) -> str:
-    """Have the agent switch itself off and on"""
-    os.kill(tour.agent, signal.SIGUSR1)
-    tour.wait_for_choice("Off")
-    tour.picture("agent-off")
-    os.kill(tour.agent, signal.SIGUSR1)
-    tour.wait_for_choice("On")
-    tour.picture("agent-on")
-    # Had the reports been sent back, the agent would hear that before the next change.
+    """Switch the agent off and on, and have it do so itself"""
+    for choice, value in ("Off", 0), ("On", 1):
+        tour.choose(choice)
+        tour.log.expect_change(ON_OFF, "on", value)
+    for choice in "Off", "On":
+        os.kill(tour.agent, signal.SIGUSR1)
+        tour.wait_for_choice(choice)
+    # Had its reports been sent back, the agent would hear that before the next change.
     tour.choose_tab("Sound")
     tour.screen.click("Volume, louder", "push button")
     account = tour.log.expect_change(SOUNDS, "soundLevel", 51)
-    tour.picture("volume")
-    return f"the window followed both times; next heard: {account}"
+    return f"either followed the other; next heard: {account}"
 
 
 def close_the_pane(tour: Tour) -> str:
     """Close the pane"""
     tour.close()
-    tour.picture("closed")
     return f"the agent heard PPcl; {check_stored(tour.desktop.config, CHANGED | tour.noticed)}"
 
 
@@ -175,13 +148,8 @@ def open_it_again(tour: Tour) -> str:
     screen = tour.screen
     check(screen.find("Line scan time", "slider").value == 10.5, "the line scan time is lost")
     check(not screen.find("Scan the menu bar too", "check box").checked, "the menu bar is back")
-    tour.picture("again-scanning")
     tour.choose_tab("Triggers")
     tour.wait_for_choice("Hold to scan, let go to choose")
-    tour.picture("again-triggers")
-    tour.choose_tab("Sound")
-    check(screen.find("Volume", "slider").value == 51, "the volume is lost")
-    tour.picture("again-sound")
     return "the agent heard PPop from this process; the changed values are shown"
 
 
@@ -190,25 +158,19 @@ def start_it_twice(tour: Tour) -> str:
     (window,) = tour.screen.windows(PROGRAM)
     press("windowminimize", window)
     until(lambda: not tour.screen.windows(PROGRAM), "the window is minimised")
-    second = tour.start_program()
-    until(lambda: second.poll() is not None, "the second start ends")
-    check(second.returncode == 0, f"the second start ended with {second.returncode}")
+    check(tour.start_program().wait(PATIENCE) == 0, "the second start failed")
     until(lambda: tour.screen.active_window() == window, "the first window comes to the front")
     check(tour.screen.windows(PROGRAM) == [window], "there is a second window")
-    tour.picture("in-front-again")
     return "the second start ended with 0; the one window is in front again"
 
 
 def close_it_unchanged(tour: Tour) -> str:
     """Close it without a change"""
-
-    def state() -> tuple:
-        status = tour.stored.stat()
-        return status.st_ino, status.st_mtime_ns, tour.stored.read_bytes()
-
-    before = state()
+    before = tour.stored.stat()
     tour.close()
-    check(state() == before, "the file was written")
+    after = tour.stored.stat()
+    written = (after.st_ino, after.st_mtime_ns) != (before.st_ino, before.st_mtime_ns)
+    check(not written, "the file was written")
     return "the agent heard PPcl and nothing else; the file was not written"
 
 
@@ -216,14 +178,11 @@ STEPS = (
     startup.dismiss_the_notice,
     launch_the_agent,
     look_at_the_tabs,
-    lengthen_line_scan_time,
-    skip_the_menu_bar,
-    choose_scan_mode,
+    change_three_settings,
     *pointers.STEPS,
     *palette.STEPS,
     *scanarea.STEPS,
     switch_off_and_on,
-    follow_the_agent,
     *hotkeys.STEPS,
     startup.launch_at_login,
     close_the_pane,
@@ -239,19 +198,16 @@ def walk(tour: Tour) -> bool:
     for number, step in enumerate(STEPS, 1):
         try:
             print(f"{number:2} {step.__doc__}: {step(tour)}.", flush=True)
+            tour.picture(step.__name__.replace("_", "-"))
         except Exception as failure:
             print(f"{number:2} {step.__doc__}: FAILED. {failure}.", flush=True)
-            explain(failure, tour)
+            if not isinstance(failure, Failure):
+                traceback.print_exception(failure)
+            print(tour.desktop.output_of(PROGRAM), end="", file=sys.stderr)
+            with suppress(Failure):  # when the display itself is gone
+                tour.picture("failed")
             return False
     return True
-
-
-def explain(failure: Exception, tour: Tour) -> None:
-    if not isinstance(failure, Failure):
-        traceback.print_exception(failure)
-    print(tour.desktop.output_of(PROGRAM), end="", file=sys.stderr)
-    with suppress(Failure):  # when the display itself is gone
-        tour.picture("failed")
 
 
 def make_room(out: Path) -> None:
@@ -263,8 +219,7 @@ def make_room(out: Path) -> None:
 
 def main(arguments: list[str]) -> int:
     if len(arguments) != 2:
-        print("Usage: python3 -m tests.e2e.tour BUILD_DIR OUT_DIR", file=sys.stderr)
-        return 2
+        sys.exit("Usage: python3 -m tests.e2e.tour BUILD_DIR OUT_DIR")
     build, out = (Path(argument).resolve() for argument in arguments)
     make_room(out)
     exit_on_signals()
