@@ -16,6 +16,7 @@ from tests.e2e.desktop import Desktop, ask, exit_on_signals, process_of
 from tests.e2e.scanarea import CURRENT, DRAGGED, NOTHING, PALE_CURRENT
 from tests.e2e.scanarea import Area, Overlay, Place, drag, expect_area, let_go
 from tests.e2e.screen import press, run
+from tests.e2e.startup import dismiss_the_notice
 from tests.e2e.tour import PROGRAM, Tour, make_room
 from tests.e2e.waiting import PATIENCE, Failure, check, until
 
@@ -126,8 +127,7 @@ def try_setup(setup: Setup, build: Path, out: Path) -> bool:
         set_up(setup, desktop)
         tour = Tour(desktop, build, out)
         try:
-            tour.start()
-            tour.screen.find("Korvex", "frame")
+            dismiss_the_notice(tour)
             tour.agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")
             for part in PARTS:
                 part(tour, setup)
