@@ -1,12 +1,9 @@
 #pragma once
 
 #include "platform/AppKit/NSView.h"
-#include "platform/CoreServices/LaunchServices.h"
-#include "platform/CoreServices/Processes.h"
 #include "src/prefpane/VLDKorvexPane.h"
 #include "src/prefs.h"
-#include "tests/support/AgentLog.h"
-#include "tests/support/NoticeMuting.h"
+#include "tests/support/AgentTest.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -19,52 +16,18 @@
 #include <memory>
 #include <vector>
 
-/// Opens the built pane, from its real bundle, in this process, and the stand-in agent beside it as
-/// a process of its own. Nothing is open until the test says so.
-class PaneTest : public testing::Test {
+/// Opens the built pane, from its real bundle, in this process, and the stand-in agent beside it.
+/// Nothing is open until the test says so.
+class PaneTest : public AgentTest<QApplication> {
 protected:
     PaneTest() {
         std::setlocale(LC_NUMERIC, "C"); // which QApplication has changed
         registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
-        muteNotice();
     }
 
     ~PaneTest() override {
         if (pane_)
             putAway();
-        ProcessSerialNumber agent = findAgent();
-        pid_t pid;
-        if (agent != kNoProcess && GetProcessPID(&agent, &pid) == noErr)
-            kill(pid, SIGKILL);
-    }
-
-    /// Starts the agent and waits until it takes part.
-    void startAgent() {
-        const auto url = CFURLCreateFromFileSystemRepresentation(
-            KORVEX_BUNDLE "/Contents/Linux/Korvex Agent.app", true);
-        ASSERT_EQ(LSOpenCFURLRef(url.get(), nullptr), noErr);
-        waitForAgent();
-    }
-
-    void waitForAgent() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return findAgent() != kNoProcess; }, 10'000))
-            << "the agent didn't start";
-    }
-
-    void waitForNoAgent() {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return findAgent() == kNoProcess; }, 10'000))
-            << "the agent didn't quit";
-    }
-
-    static ProcessSerialNumber findAgent() {
-        ProcessSerialNumber psn = kNoProcess;
-        while (GetNextProcess(&psn) == noErr) {
-            ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
-            if (GetProcessInformation(&psn, &info) == noErr &&
-                info.processSignature == fourCharCode("Krvx"))
-                return psn;
-        }
-        return kNoProcess;
     }
 
     /// Makes the pane and shows it, as the host does.
@@ -131,14 +94,6 @@ protected:
         return masks;
     }
 
-private:
-    int argc_ = 1;
-    char name_[5] = "test";
-    char* argv_[2] = {name_, nullptr};
-    QApplication application_{argc_, argv_};
-
-protected:
-    AgentLog agentLog_;
     CFRef<CFBundle> bundle_;
     std::unique_ptr<VLDKorvexPane> pane_;
 };

@@ -6,30 +6,33 @@
 #include <QCoreApplication>
 #include <gtest/gtest.h>
 
-/// A test in a Qt application that takes part once the test says so.
-class ProcessTest : public testing::Test {
+/// A test in a Qt application of that class.
+template <class Application>
+class ApplicationTest : public testing::Test {
+    int argc_ = 1;
+    char name_[5] = "test";
+    char* argv_[2] = {name_, nullptr};
+    Application application_{argc_, argv_};
+};
+
+/// A test that takes part once it says so.
+class ProcessTest : public ApplicationTest<QCoreApplication> {
 protected:
     static bool takePart() {
         return registerCurrentProcess(fourCharCode("APPL"), fourCharCode("test"));
     }
-
-    /// The process of that signature, or kNoProcess.
-    static ProcessSerialNumber findProcess(OSType signature) {
-        ProcessSerialNumber psn = kNoProcess;
-        while (GetNextProcess(&psn) == noErr) {
-            ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
-            if (GetProcessInformation(&psn, &info) == noErr && info.processSignature == signature)
-                return psn;
-        }
-        return kNoProcess;
-    }
-
-private:
-    int argc_ = 1;
-    char name_[5] = "test";
-    char* argv_[2] = {name_, nullptr};
-    QCoreApplication application_{argc_, argv_};
 };
+
+/// The process of that signature, or kNoProcess.
+inline ProcessSerialNumber findProcess(OSType signature) {
+    ProcessSerialNumber psn = kNoProcess;
+    while (GetNextProcess(&psn) == noErr) {
+        ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
+        if (GetProcessInformation(&psn, &info) == noErr && info.processSignature == signature)
+            return psn;
+    }
+    return kNoProcess;
+}
 
 inline AppleEvent makeEvent(const ProcessSerialNumber& target, AEEventClass eventClass,
                             AEEventID eventID, std::map<AEKeyword, AEDesc> parameters = {}) {

@@ -1,16 +1,12 @@
 #include "src/prefpane/palutil.h"
 
-#include "platform/HIToolbox/Appearance.h"
 #include "platform/QuickDraw/GrafPort.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefs.h"
+#include "tests/platform/CoreFoundation/TestFiles.h"
+#include "tests/support/ProcessTest.h"
 
 #include <QApplication>
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 
 namespace {
 
@@ -18,48 +14,26 @@ namespace fs = std::filesystem;
 
 constexpr UInt32 kBoth = kButtonContentIcon | kButtonContentName;
 constexpr UInt8 kClick = 20;
+const fs::path kBuilt = KORVEX_BUNDLE "/Contents/Linux/Korvex Agent.app";
 
 /// Draws buttons into pictures, with the resources of an agent's bundle: the built one, or one that
 /// the test writes.
-class PalutilTest : public testing::Test {
+class PalutilTest : public ApplicationTest<QApplication> {
 protected:
-    PalutilTest() { prefs.on = 0; }
+    PalutilTest() {
+        writeFile(bundle_ / "Contents/Info.plist", dictionaryFile(""));
+        prefs.on = 0; // nothing is launched
+        begin(kBuilt);
+    }
 
     ~PalutilTest() override { end(); }
 
-    /// Begins a visit with the bundle at that path.
-    void begin(const std::string& agent) {
+    /// Begins another visit, with that list of actions in the test's own bundle.
+    void beginAgain(const std::string& root) {
         end();
-        begun_ = true;
-        daemonSetup(CFStringCreateWithUTF8(agent).get());
-        palutilSetup();
-    }
-
-    void beginBuilt() { begin(KORVEX_BUNDLE "/Contents/Linux/Korvex Agent.app"); }
-
-    void end() {
-        if (!std::exchange(begun_, false))
-            return;
-        palutilCleanup();
-        daemonCleanup();
-    }
-
-    /// An empty bundle of the test's own, without anything to launch.
-    static fs::path makeBundle() {
-        const fs::path bundle = fs::path(std::getenv("KORVEX_TEST_SANDBOX")) / "Test Agent.app";
-        fs::remove_all(bundle);
-        fs::create_directories(bundle / "Contents/Resources");
-        write(bundle / "Contents/Info.plist", "<plist version=\"1.0\"><dict/></plist>");
-        return bundle;
-    }
-
-    static void write(const fs::path& file, const std::string& text) {
-        std::ofstream(file, std::ios::binary) << text;
-    }
-
-    static void writePlist(const fs::path& bundle, const std::string& root) {
-        write(bundle / "Contents/Resources/btn_icons_std.plist",
-              "<plist version=\"1.0\">" + root + "</plist>");
+        writeFile(resources_ / "btn_icons_std.plist",
+                  "<plist version=\"1.0\">" + root + "</plist>");
+        begin(bundle_);
     }
 
     QImage draw(UInt8 action, const Rect& bounds, UInt32 shape, UInt32 content,
@@ -72,8 +46,10 @@ protected:
         return image;
     }
 
-    /// Where two pictures differ; null where they don't.
-    static QRect difference(const QImage& a, const QImage& b) {
+    /// Where the button differs from a blank one; null where it doesn't.
+    QRect contentOf(UInt8 action, const Rect& bounds, UInt32 content) {
+        const QImage a = draw(action, bounds, 0, content);
+        const QImage b = draw(kEmptyAction, bounds, 0, content);
         QRect found;
         for (int y = 0; y < a.height(); ++y)
             for (int x = 0; x < a.width(); ++x)
@@ -82,75 +58,56 @@ protected:
         return found;
     }
 
-    QRect contentOf(UInt8 action, const Rect& bounds, UInt32 content) {
-        return difference(draw(action, bounds, 0, content), draw(kEmptyAction, bounds, 0, content));
-    }
-
-    static std::string title(UInt8 action) {
-        const CFString* text = palutilActionTitle(action);
-        return text ? CFStringToUTF8(text) : "(none)";
-    }
+    fs::path bundle_ = makeSandboxFolder("Test Agent.app");
+    fs::path resources_ = bundle_ / "Contents/Resources";
+    QWidget widget_;
 
 private:
-    int argc_ = 1;
-    char name_[5] = "test";
-    char* argv_[2] = {name_, nullptr};
-    QApplication application_{argc_, argv_};
-    bool begun_ = false;
+    static void begin(const fs::path& agent) {
+        daemonSetup(CFStringCreateWithUTF8(agent.string()).get());
+        palutilSetup();
+    }
 
-protected:
-    QWidget widget_;
+    static void end() {
+        palutilCleanup();
+        daemonCleanup();
+    }
 };
 
-TEST_F(PalutilTest, TheIconStandsInTheSquareThatItsRoomAllows) {
-    beginBuilt();
-
+TEST_F(PalutilTest, IconAndTitleStandWhereTheirRoomAllows) {
     const struct {
         Rect bounds; ///< top, left, bottom, right
         QRect square;
     } cases[] = {
         // Two points of frame on each side; the middle is rounded down.
-        {{0, 0, 40, 40}, {4, 4, 32, 32}},    {{10, 20, 50, 61}, {24, 14, 32, 32}},
-        {{0, 0, 100, 60}, {14, 34, 32, 32}}, {{0, 0, 37, 37}, {2, 2, 32, 32}},
-        {{0, 0, 36, 100}, {42, 10, 16, 16}}, {{0, 0, 20, 20}, {2, 2, 16, 16}},
-        {{0, 0, 17, 30}, {8, 2, 13, 13}},    {{0, 0, 40, 15}, {2, 14, 11, 11}},
+        {{10, 20, 50, 61}, {24, 14, 32, 32}},
+        {{0, 0, 36, 100}, {42, 10, 16, 16}},
+        {{0, 0, 40, 15}, {2, 14, 11, 11}},
     };
 
     for (const auto& [bounds, square] : cases) {
-        SCOPED_TRACE(testing::Message()
-                     << bounds.right - bounds.left << " by " << bounds.bottom - bounds.top);
+        SCOPED_TRACE(bounds.right);
         const QRect drawn = contentOf(kClick, bounds, kButtonContentIcon);
         EXPECT_TRUE(square.contains(drawn)) << drawn.x() << ' ' << drawn.y();
         EXPECT_GE(drawn.width(), square.width() / 2);
     }
-}
 
-TEST_F(PalutilTest, TheTitleStandsAtTheBottomOrAloneInTheMiddle) {
-    beginBuilt();
-    const Rect bounds = {0, 0, 80, 80};
-    const QRect both = contentOf(kClick, bounds, kBoth);
-    const QRect icon = contentOf(kClick, bounds, kButtonContentIcon);
-    const QRect name = contentOf(kClick, bounds, kButtonContentName);
-    EXPECT_LT(both.top(), icon.top()) << "the title pushes the icon up";
-    EXPECT_LT(both.bottom(), 78);
-    EXPECT_GT(both.bottom(), 65);
-    EXPECT_NEAR(name.center().y(), 40, 5);
-    EXPECT_NEAR(name.center().x(), 40, 2);
+    const QRect both = contentOf(kClick, {0, 0, 80, 80}, kBoth);
+    EXPECT_LT(both.top(), 24) << "the title pushes the icon up";
+    EXPECT_NEAR(both.bottom(), 72, 6);
+    EXPECT_NEAR(contentOf(kClick, {0, 0, 80, 80}, kButtonContentName).center().y(), 40, 5);
     // A long title is cut short, not drawn over the neighbour.
     EXPECT_TRUE(QRect(0, 0, 24, 80).contains(contentOf(30, {0, 0, 80, 24}, kButtonContentName)));
 }
 
 TEST_F(PalutilTest, ShapeSelectionAndContentShowAndNothingElseDoes) {
-    beginBuilt();
     const Rect bounds = {0, 0, 40, 40};
     const QImage square = draw(kClick, bounds, 0, kBoth);
-    EXPECT_EQ(draw(kClick, bounds, 2, kBoth), square);
     EXPECT_NE(draw(kClick, bounds, kButtonShapeRounded, kBoth), square);
     EXPECT_NE(draw(kClick, bounds, 0, kBoth, 1), square);
     const QImage blank = draw(kEmptyAction, bounds, 0, kBoth);
     EXPECT_EQ(draw(kClick, bounds, 0, 0), blank);
-    for (const int action : {40, 41, 255})
-        EXPECT_EQ(draw(static_cast<UInt8>(action), bounds, 0, kBoth), blank) << action;
+    EXPECT_EQ(draw(255, bounds, 0, kBoth), blank);
     EXPECT_NE(draw(kEmptyAction, bounds, 0, kBoth, 1), blank) << "a blank button can be selected";
     for (const Rect tiny : {Rect{0, 0, 0, 0}, Rect{5, 5, 6, 6}, Rect{0, 0, 3, 90}})
         draw(kClick, tiny, 0, kBoth);
@@ -158,73 +115,43 @@ TEST_F(PalutilTest, ShapeSelectionAndContentShowAndNothingElseDoes) {
 
 TEST_F(PalutilTest, WhateverIsWrongWithTheListYieldsLessContent) {
     const std::string entry = "<dict><key>title</key><string>Go</string></dict>";
-    std::string many;
-    for (int i = 0; i < 500; ++i)
-        many += entry;
+    const QString many = QString::fromStdString(entry).repeated(500);
 
     const struct {
-        const char* what;
-        std::string root; ///< empty: no file
-        std::vector<UInt8> titled;
+        std::string root, titles; ///< of the actions 0, 1, 2, 39, 40 and 255: whether there is one
     } cases[] = {
-        {"no file", "", {}},
-        {"a dictionary", entry, {}},
-        {"not a list", "<array><dict>", {}},
-        {"three entries", "<array>" + entry + entry + entry + "</array>", {0, 1, 2}},
-        {"500 entries", "<array>" + many + "</array>", {0, 1, 2, 3, 39}},
-        {"wrong types",
-         "<array><string>no</string><dict><key>title</key><integer>1</integer></dict>" + entry +
+        {entry, "000000"},
+        {"<array><dict>", "000000"},
+        {"<array>" + many.toStdString() + "</array>", "111100"},
+        {"<array><string>no</string><dict><key>title</key><integer>1</integer></dict>" + entry +
              "<dict><key>icon</key><true/></dict></array>",
-         {2}},
+         "001000"},
     };
 
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.what);
-        const fs::path bundle = makeBundle();
-        if (!test.root.empty())
-            writePlist(bundle, test.root);
-        begin(bundle);
-        for (const int action : {0, 1, 2, 3, 39, 40, 255}) {
-            const auto number = static_cast<UInt8>(action);
-            const bool titled =
-                std::find(test.titled.begin(), test.titled.end(), number) != test.titled.end();
-            EXPECT_EQ(title(number), titled ? "Go" : "(none)") << action;
-            draw(number, {0, 0, 40, 40}, 0, kBoth);
+    for (const auto& [root, expected] : cases) {
+        beginAgain(root);
+        std::string titles;
+        for (const UInt8 action : std::initializer_list<UInt8>{0, 1, 2, 39, 40, 255}) {
+            titles += palutilActionTitle(action) ? '1' : '0';
+            draw(action, {0, 0, 40, 40}, 0, kBoth);
         }
+        EXPECT_EQ(titles, expected) << root.substr(0, 80);
     }
-    begin("/nowhere/Korvex Agent.app");
-    EXPECT_EQ(title(kClick), "(none)");
 }
 
 TEST_F(PalutilTest, AnIconThatCantBeReadLeavesTheTitleInTheMiddle) {
-    const std::string noise = [] {
-        std::string bytes = "icns";
-        for (unsigned i = 1; bytes.size() < 4000; i = i * 1103515245 + 12345)
-            bytes += static_cast<char>(i >> 16);
-        return bytes;
-    }();
-    const fs::path built = fs::path(KORVEX_BUNDLE) /
-                           "Contents/Linux/Korvex Agent.app/Contents/Resources/btn_click.icns";
-    std::ifstream file(built, std::ios::binary);
-    const std::string whole(std::istreambuf_iterator<char>(file), {});
-    ASSERT_GT(whole.size(), 1000U);
-
-    const fs::path bundle = makeBundle();
-    writePlist(bundle, "<array><dict/><dict/>"
-                       "<dict><key>title</key><string>Go</string><key>icon</key>"
-                       "<string>it</string></dict></array>");
+    const std::string whole = readFile(kBuilt / "Contents/Resources/btn_click.icns");
     const Rect bounds = {0, 0, 60, 60};
-    begin(bundle);
-    const QImage alone = draw(2, bounds, 0, kButtonContentName);
-    EXPECT_EQ(draw(2, bounds, 0, kBoth), alone) << "a missing file";
-    for (const std::string& bytes : {std::string(), std::string(1, '\0'), noise, whole.substr(0, 7),
-                                     std::string(64, '\0'), whole.substr(0, 40)}) {
-        write(bundle / "Contents/Resources/it.icns", bytes);
-        begin(bundle);
-        EXPECT_EQ(draw(2, bounds, 0, kBoth), alone) << bytes.size() << " bytes";
+    for (const std::string& bytes :
+         {std::string(), "icns" + std::string(4000, '\x7f'), whole.substr(0, 40), whole}) {
+        beginAgain("<array><dict/><dict><key>title</key><string>Go</string>"
+                   "<key>icon</key><string>it</string></dict></array>");
+        const QImage alone = draw(1, bounds, 0, kButtonContentName);
+        EXPECT_EQ(draw(1, bounds, 0, kBoth), alone) << "a missing file";
+        writeFile(resources_ / "it.icns", bytes);
+        EXPECT_EQ(draw(1, bounds, 0, kBoth) == alone, bytes != whole) << bytes.size() << " bytes";
+        fs::remove(resources_ / "it.icns");
     }
-    write(bundle / "Contents/Resources/it.icns", whole);
-    EXPECT_NE(draw(2, bounds, 0, kBoth), alone) << "failures aren't remembered";
 }
 
 } // namespace

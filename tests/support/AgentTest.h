@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/CoreServices/LaunchServices.h"
+#include "tests/support/AgentLog.h"
+#include "tests/support/NoticeMuting.h"
+#include "tests/support/ProcessTest.h"
+
+#include <csignal>
+
+/// A test with the bundle's agent beside it as a process of its own, once the test starts it. It
+/// goes with the test.
+template <class Application>
+class AgentTest : public ApplicationTest<Application> {
+protected:
+    AgentTest() { muteNotice(); }
+
+    ~AgentTest() override {
+        if (const pid_t agent = agentPID())
+            kill(agent, SIGKILL);
+    }
+
+    /// Starts the agent and waits until it takes part.
+    static void startAgent() {
+        const auto url = CFURLCreateFromFileSystemRepresentation(
+            KORVEX_BUNDLE "/Contents/Linux/Korvex Agent.app", true);
+        ASSERT_EQ(LSOpenCFURLRef(url.get(), nullptr), noErr);
+        waitForAgent();
+    }
+
+    static void waitForAgent() {
+        ASSERT_TRUE(QTest::qWaitFor([] { return agentPID() != 0; }, 20'000))
+            << "the agent didn't start";
+    }
+
+    static void waitForNoAgent() {
+        ASSERT_TRUE(QTest::qWaitFor([] { return agentPID() == 0; }, 10'000))
+            << "the agent didn't quit";
+    }
+
+    static ProcessSerialNumber findAgent() { return findProcess(fourCharCode("Krvx")); }
+
+    /// 0 when it doesn't run.
+    static pid_t agentPID() {
+        const ProcessSerialNumber agent = findAgent();
+        pid_t pid = 0;
+        return agent != kNoProcess && GetProcessPID(&agent, &pid) == noErr ? pid : 0;
+    }
+
+    static std::filesystem::path storedFile() {
+        return std::filesystem::path(std::getenv("XDG_CONFIG_HOME")) /
+               "Preferences/org.korvex.Agent.plist";
+    }
+
+    AgentLog agentLog_;
+};
