@@ -6,6 +6,7 @@
 #include "tests/support/ProcessTest.h"
 
 #include <csignal>
+#include <sys/wait.h>
 
 /// A test with the bundle's agent beside it as a process of its own, once the test starts it. It
 /// goes with the test.
@@ -32,8 +33,13 @@ protected:
             << "the agent didn't start";
     }
 
+    /// Returns when nothing is left of it: while its process ends, it isn't launched again.
     static void waitForNoAgent() {
-        ASSERT_TRUE(QTest::qWaitFor([] { return agentPID() == 0; }, 10'000))
+        const auto hasChild = [] {
+            siginfo_t info;
+            return waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) == 0;
+        };
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !agentPID() && !hasChild(); }, 10'000))
             << "the agent didn't quit";
     }
 

@@ -88,7 +88,9 @@ TEST_F(PaneLifeTest, AnAgentThatDiesOrHangsLosesNothing) {
     click("volumeDecBtn");
     waitForAgent(); // the master switch is on, so a change brings it up again
     click("volumeDecBtn");
-    const QJsonObject event = agentLog_.next();
+    QJsonObject event = agentLog_.next();
+    if (recordField<UInt32>(event, offsetof(PrefsRecord, soundLevel)) == 49)
+        event = agentLog_.next(); // it came up in time for the first one
     EXPECT_EQ(event["mask"].toInteger(), kChangeSounds);
     EXPECT_EQ(recordField<double>(event, offsetof(PrefsRecord, lineScanTime)), 13.0);
     EXPECT_EQ(recordField<UInt32>(event, offsetof(PrefsRecord, soundLevel)), 48u);
