@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-// The base folders of the XDG Base Directory Specification, as the environment names them now. A
+// The user's and the system's base folders (XDG), as the environment names them now. A
 // value that is unset, empty or not absolute counts as unset.
 
 /// $XDG_CONFIG_HOME, or .config in the home folder.
