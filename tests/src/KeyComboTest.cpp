@@ -74,8 +74,6 @@ TEST(KeyComboTest, NamesCombinations) {
         {0x1B00, 0x79, "command+control+shift+option+ fn page down"}, // the longest
         {0xFFFFE4FF, 0x00, "A"},                                      // all that have no name
         {0x0300, 0xFFFF, "command+shift+"},
-        {0x0800, 128, "option+"},
-        {0x0100, 0x0A, "command+"},
         {0x1B00, -1, "-none-"},
         {0x0100, static_cast<SInt32>(0x8000004C), "-none-"},
     };

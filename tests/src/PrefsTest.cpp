@@ -115,20 +115,16 @@ const struct {
     std::string bytes; ///< the field's after loading, hexadecimal; empty: the factory's
 } kTexts[] = {
     {"on", "No", AT(on), "00"},
-    {"soundLevel", "50", AT(soundLevel), ""},
     {"soundLevel", "0x" + std::string(60, '0') + "5", AT(soundLevel), "05000000"},
     {"soundLevel", "0x" + std::string(61, '0') + "5", AT(soundLevel), ""},
     {"scanner.preScanDelay", "2,5 s", AT(preScanDelay), "0000000000000040"},
     {"scanner.preScanDelay", "fast", AT(preScanDelay), ""},
-    {"scanner.scanArea", "origin(1,2); size(3)", AT(scanArea), ""},
     {"scanner.lineColor", "[0x1ff80,0x80,0x0]", AT(lineColor), "80ff80000000"},
     {"palette.buttonSize", "(70000,40)", AT(buttonSize), ""},
     {"palette.buttonActions", "[ 4294967296]", AT(buttonActions), "0015"},
-    {"palette.buttonActions", "[ 5  6]", AT(buttonActions), "0515"},
     {"palette.buttonActions", "[ 1 2 3 4 5 6 7 8 9 10]", AT(buttonActions) + 8, "09000000"},
     {"hotkeys.keys", "[ {1,2} {0x2,0x200}", AT(hotKeys), "07000000001200000200000000020000"},
     {"hotkeys.keys", "[ {0x1,0x100", AT(hotKeys), "01000000000100004c000000"},
-    {"scanner.pointerImageName", std::string(98, 'a'), AT(pointerImageName), "6161"},
     {"scanner.pointerImageName", std::string(99, 'a'), AT(pointerImageName), "00"},
     {"scanner.pointerImageName", "\u4e2d", AT(pointerImageName), "00"},
 };
@@ -158,19 +154,6 @@ TEST(PrefsTest, ValuesOfOtherTypesLeaveTextFields) {
     expected.scanMode = 2;
     prefsSetup();
     EXPECT_EQ(bytesOf(prefs), bytesOf(expected));
-}
-
-TEST(PrefsTest, AnUnsignedValueIsSeenAtOnceAndSavedOnceByTheFlush) {
-    prefsSetUnsignedValue(CFSTR("axreq.lastShown"), 42);
-    EXPECT_EQ(prefsGetUnsignedValue(CFSTR("axreq.lastShown")), 42u);
-    EXPECT_FALSE(fs::exists(kDomainFile));
-    prefsFlushChanges();
-    EXPECT_THAT(storedTexts(), HasSubstr("|axreq.lastShown=0x0000002a|"));
-    fs::remove(kDomainFile);
-    prefsWereChanged();
-    prefsWerentChanged();
-    prefsCleanup();
-    EXPECT_FALSE(fs::exists(kDomainFile)) << "it was saved already";
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "platform/IconServices/IconImages.h"
 #include "src/fsutil.h"
 #include "src/iconutil.h"
-#include "src/imageutil.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/TestIcons.h"
 
@@ -90,39 +89,11 @@ TEST_F(ResourceUtilsTest, EveryIconFileIsRegisteredOnceAndNoNumberTwice) {
     const IconRef mended = icon("noise");
     EXPECT_TRUE(mended) << "a failure isn't kept";
     EXPECT_EQ(registeredAs(4), mended);
-    fs::remove(resources_ / "red.icns");
-    EXPECT_EQ(icon("red"), nullptr) << "the bundle has it no more";
     EXPECT_EQ(red->images().atLeast(32).width(), 32) << "the file is read when it is registered";
 
     iconUtilCleanup();
     EXPECT_EQ(registeredAs(1), nullptr);
     EXPECT_EQ(registeredAs(4), nullptr);
-    iconUtilSetup();
-    const IconRef again = icon("noise");
-    ASSERT_TRUE(again);
-    EXPECT_EQ(registeredAs(5), again);
-}
-
-/// Runs this very test again, as a copy of the program that lies in a bundle.
-TEST_F(ResourceUtilsTest, TheMainBundleHasPicturesAndIcons) {
-    if (!std::getenv("TEST_IN_BUNDLE")) {
-        write("picture.pict", std::string(512, 'h') + "picture");
-        write("icon.icns", pngFamily({{16, Qt::red}, {64, Qt::blue}}));
-        write("../Linux/test", readFile("/proc/self/exe"));
-        const fs::path program = resources_ / "../Linux/test";
-        fs::permissions(program, fs::perms::owner_all);
-        setenv("TEST_IN_BUNDLE", "1", 1);
-        EXPECT_EQ(std::system((program.string() + " --gtest_filter=*MainBundle* >&2").c_str()), 0);
-        return;
-    }
-    ASSERT_TRUE(CFBundleGetMainBundle());
-    const Handle picture = imageUtilGetResourcePict(CFSTR("picture"));
-    ASSERT_TRUE(picture);
-    EXPECT_EQ(std::string(*picture, *picture + GetHandleSize(picture)), "picture");
-    const auto suite = imageUtilGetResourceIcon(CFSTR("icon"));
-    ASSERT_TRUE(suite);
-    EXPECT_EQ(suite->images().atLeast(64).pixelColor(0, 0), QColor(Qt::blue));
-    EXPECT_FALSE(imageUtilGetResourceIcon(CFSTR("none")));
 }
 
 } // namespace

@@ -77,12 +77,9 @@ TEST_F(DaemonTest, OnlyAReportOfAnotherStateIsKeptAndNoneIsSentBack) {
         int answer;
         UInt8 after;
     } cases[] = {
-        {"the same, off", 0, kOnOff, off, noErr, 0},
         {"off", 1, kOnOff, off, noErr, 0},
         {"on, other byte", 0, kOnOff, state(typeBoolean, {2}), noErr, 1},
-        {"no state", 1, kOnOff, {}, errAEDescNotFound, 1},
         {"two bytes", 1, kOnOff, state(typeBoolean, {0, 0}), noErr, 1},
-        {"mistyped", 1, kOnOff, state(typeUInt32, {0}), errAECoercionFail, 1},
         {"an event for the agent", 1, fourCharCode("SAPr"), off, errAEEventNotHandled, 1},
     };
 

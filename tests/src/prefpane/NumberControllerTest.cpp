@@ -10,10 +10,8 @@ TEST(NumberControllerTest, WritesAreClampedAndTruncatedByKind) {
         double min, max, written, stored;
     } cases[] = {
         {kNumberKindDouble, 1, 60, 0.5, 1},
-        {kNumberKindSInt32, -100, 100, 2.95, 3},
         {kNumberKindSInt32, -100, 100, 2.85, 2},
         {kNumberKindSInt32, -100, 100, -2.95, -3},
-        {kNumberKindUInt32, 0, 100, 49.5, 49},
         {kNumberKindUInt32, -10, 100, -5, 0},
         {kNumberKindUInt32, 0, 1e300, 1e10, 4294967295.0},
     };

@@ -1,6 +1,5 @@
 #include "tests/support/PaneFixture.h"
 #include "tests/support/SignalProcess.h"
-#include "tests/support/TestBundle.h"
 
 #include <QRadioButton>
 
@@ -19,6 +18,10 @@ protected:
     }
 
     static void signalAgent(int signal) { signalProcess(agentPID(), signal); }
+
+    static long countOpenFiles() {
+        return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+    }
 
     static long residentKilobytes() {
         std::ifstream file("/proc/self/statm");
