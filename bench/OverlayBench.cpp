@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <algorithm>
 #include <functional>
 
 namespace {
@@ -31,15 +32,21 @@ void sendMouse(UInt32 kind, QPoint place) {
     overlayHandler(nullptr, &mouse, nullptr);
 }
 
+bool isPaintedOverlay(const QWidget* window) {
+    const QBackingStore* store = window->backingStore();
+    return window->isVisible() && store && store->size() == kWorld.size();
+}
+
 /// Calls `work` in the middle of a drag, and gives the seconds that it says it took.
 double inDrag(const std::function<double(QWidget&)>& work) {
     double seconds = -1;
     QTimer waiting;
     QObject::connect(&waiting, &QTimer::timeout, [&] {
-        QWidget* overlay = QApplication::topLevelWidgets().constFirst();
-        const QBackingStore* store = overlay->backingStore();
-        if (!store || store->size() != kWorld.size())
+        const auto windows = QApplication::topLevelWidgets();
+        const auto found = std::ranges::find_if(windows, isPaintedOverlay);
+        if (found == windows.end())
             return; // not painted yet
+        QWidget* overlay = *found;
         sendMouse(kEventMouseDown, kDragged.topLeft());
         sendMouse(kEventMouseDragged, kDragged.bottomRight());
         seconds = work(*overlay);

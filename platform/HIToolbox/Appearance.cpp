@@ -2,7 +2,9 @@
 
 #include "platform/QuickDraw/GrafPort.h"
 
+#include <QCache>
 #include <QFontMetrics>
+#include <QStaticText>
 #include <QStyle>
 #include <QStyleOptionButton>
 
@@ -16,6 +18,8 @@ constexpr int kContentInset = 2;
 constexpr double kLabelScale = 10.0 / 12.0;
 /// How much smaller a line may become to have room; beyond that it is cut short.
 constexpr double kLeastTextScale = 0.75;
+/// How many lines are kept laid out: the palette's names, some in two sizes.
+constexpr int kMostLines = 100;
 /// The width of the rings that mark a button as pushed in, whatever little the style makes of that,
 /// and as the keyboard's.
 constexpr int kRing = 2;
@@ -32,15 +36,34 @@ void scaleFont(QFont& font, double scale) {
         font.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() * scale))));
 }
 
-QFont themeFont(const GrafPort& port, ThemeFontID id) {
-    QFont font = port.widget().font();
-    if (id == kThemeLabelFont)
-        scaleFont(font, kLabelScale);
-    return font;
+/// Kept from one text to the next: a new font costs Qt a search among all there are.
+const QFont& labelFont(const QFont& textFont) {
+    static QFont lastTextFont, label;
+    static bool isMade = false;
+    if (!isMade || textFont != lastTextFont) {
+        lastTextFont = label = textFont;
+        scaleFont(label, kLabelScale);
+        isMade = true;
+    }
+    return label;
 }
 
-int textFlags(bool wrapToWidth, int alignment) {
-    return alignment | (wrapToWidth ? Qt::TextWordWrap : Qt::TextSingleLine);
+const QFont& themeFont(const GrafPort& port, ThemeFontID id) {
+    const QFont& textFont = port.widget().font();
+    return id == kThemeLabelFont ? labelFont(textFont) : textFont;
+}
+
+/// A line that is laid out already: the same few names are drawn again and again.
+const QStaticText& laidOut(const CFString* text, const QFont& font) {
+    static auto& lines = *new QCache<std::pair<QString, QFont>, QStaticText>(kMostLines);
+    const std::pair key(toQString(text).replace(u'\n', u' '), font);
+    if (const QStaticText* known = lines.object(key))
+        return *known;
+    auto* made = new QStaticText(key.first);
+    made->setTextFormat(Qt::PlainText);
+    made->prepare({}, font);
+    lines.insert(key, made);
+    return *made;
 }
 
 /// Where a ring's middle runs, so that its outer side meets the edge.
@@ -48,16 +71,20 @@ QRectF insideEdge(const QRect& bounds) {
     return QRectF(bounds).adjusted(kRing / 2.0, kRing / 2.0, -kRing / 2.0, -kRing / 2.0);
 }
 
-/// Makes the painter's font smaller, within reason, until the line has room in the width; a line
-/// that is still too long is cut short.
-QString fittedLine(QPainter& painter, const QString& line, int width) {
-    const int needed = painter.fontMetrics().horizontalAdvance(line);
-    if (needed <= width)
-        return line;
+/// Draws a line in the middle of the width. One that is too long is drawn smaller, within reason,
+/// and then cut short.
+void drawLine(QPainter& painter, const QRect& place, const QStaticText& line) {
+    const double room = place.width() - line.size().width();
+    if (room >= 0) {
+        painter.drawStaticText(QPointF(place.x() + std::floor(room / 2), place.y()), line);
+        return;
+    }
     QFont font = painter.font();
-    scaleFont(font, std::max(kLeastTextScale, static_cast<double>(width) / needed));
+    scaleFont(font, std::max(kLeastTextScale, place.width() / line.size().width()));
     painter.setFont(font);
-    return painter.fontMetrics().elidedText(line, Qt::ElideRight, width);
+    const QString shortened =
+        painter.fontMetrics().elidedText(line.text(), Qt::ElideRight, place.width());
+    painter.drawText(place, Qt::AlignHCenter | Qt::TextSingleLine, shortened);
 }
 
 void drawFace(GrafPort& port, const QRect& bounds, ThemeButtonKind kind, bool on) {
@@ -131,10 +158,15 @@ OSStatus GetThemeTextDimensions(const CFString* text, ThemeFontID font, ThemeDra
     GrafPort* port = GrafPort::current();
     if (!port)
         return kThemeNoPortErr;
-    const QFontMetrics metrics(themeFont(*port, font), port->painter().device());
-    const QRect space(0, 0, wrapToWidth ? bounds->h : 0, 0);
-    const QRect extent = metrics.boundingRect(space, textFlags(wrapToWidth, 0), toQString(text));
-    *bounds = {static_cast<SInt16>(extent.height()), static_cast<SInt16>(extent.width())};
+    const QFont& textFont = themeFont(*port, font);
+    const QFontMetrics metrics(textFont, port->painter().device());
+    const QSizeF extent =
+        wrapToWidth
+            ? QSizeF(metrics.boundingRect({0, 0, bounds->h, 0}, Qt::TextWordWrap, toQString(text))
+                         .size())
+            : laidOut(text, textFont).size();
+    *bounds = {static_cast<SInt16>(std::ceil(extent.height())),
+               static_cast<SInt16>(std::ceil(extent.width()))};
     if (baseline)
         *baseline = static_cast<SInt16>(-metrics.descent());
     return noErr;
@@ -156,10 +188,10 @@ OSStatus DrawThemeTextBox(const CFString* text, ThemeFontID font, ThemeDrawState
     } else {
         painter.setPen(port->widget().palette().color(QPalette::ButtonText));
     }
-    QString line = toQString(text);
-    if (!wrapToWidth)
-        line = fittedLine(painter, line, place.width());
-    painter.drawText(place, textFlags(wrapToWidth, Qt::AlignHCenter | Qt::AlignTop), line);
+    if (wrapToWidth)
+        painter.drawText(place, Qt::TextWordWrap | Qt::AlignHCenter, toQString(text));
+    else
+        drawLine(painter, place, laidOut(text, painter.font()));
     painter.restore();
     return noErr;
 }
