@@ -31,14 +31,14 @@ void ChangedParts::addWhole(const CGRect& area) {
 void ChangedParts::addBetween(const CGRect& before, const CGRect& now) {
     const CGRect a = CGRectStandardize(before);
     const CGRect b = CGRectStandardize(now);
-    const auto [origin, size] = CGRectUnion(a, b);
+    const CGRect both = CGRectUnion(a, b);
     const auto addColumn = [&](CGFloat x1, CGFloat x2) {
         if (x1 != x2)
-            add(CGRectMake(std::min(x1, x2), origin.y, std::abs(x2 - x1), size.height));
+            add(CGRectMake(std::min(x1, x2), both.origin.y, std::abs(x2 - x1), both.size.height));
     };
     const auto addRow = [&](CGFloat y1, CGFloat y2) {
         if (y1 != y2)
-            add(CGRectMake(origin.x, std::min(y1, y2), size.width, std::abs(y2 - y1)));
+            add(CGRectMake(both.origin.x, std::min(y1, y2), both.size.width, std::abs(y2 - y1)));
     };
     addColumn(a.origin.x, b.origin.x);
     addColumn(a.origin.x + a.size.width, b.origin.x + b.size.width);

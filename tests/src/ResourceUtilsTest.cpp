@@ -81,7 +81,7 @@ TEST_F(ResourceUtilsTest, EveryIconFileIsRegisteredOnceAndNoNumberTwice) {
     ASSERT_TRUE(red);
     EXPECT_EQ(icon("red"), red);
     EXPECT_EQ(registeredAs(1), red);
-    for (const UInt32 type : {2, 3}) {
+    for (const UInt32 type : {2U, 3U}) {
         EXPECT_EQ(icon("noise"), nullptr);
         EXPECT_EQ(registeredAs(type), nullptr);
     }

@@ -10,7 +10,6 @@ using testing::ElementsAre;
 
 namespace {
 
-constexpr OSType kApplication = fourCharCode("APPL");
 constexpr OSType kTool = fourCharCode("tool");
 
 TEST(ProcessNameTest, NamesTellTypeSignatureProcessAndSerialNumber) {

@@ -11,11 +11,12 @@ constexpr AEEventClass kTestClass = fourCharCode("Test");
 constexpr AEEventID kAnswerCode = fourCharCode("code"); ///< answers its direct object, two bytes
 constexpr AEEventID kOther = fourCharCode("none");      ///< isn't handled
 constexpr DescType typeCode = fourCharCode("shor");
+constexpr OSType kApplication = fourCharCode("APPL");
 
 /// Another process that takes part; it is there when the constructor returns.
 class TestPeer {
 public:
-    explicit TestPeer(OSType type = fourCharCode("APPL")) {
+    explicit TestPeer(OSType type = kApplication) {
         process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         process_.start(QStringLiteral(TEST_PEER), {QString::number(type)});
         // It prints its serial number when it takes part.
