@@ -22,10 +22,6 @@ CFRef<CFMutableDictionary> CFDictionaryCreateMutableCopy(const CFDictionary* dic
     return CFRef<CFMutableDictionary>::adopt(new CFMutableDictionary(dictionary->items()));
 }
 
-CFIndex CFDictionaryGetCount(const CFDictionary* dictionary) {
-    return static_cast<CFIndex>(dictionary->items().size());
-}
-
 const CFType* CFDictionaryGetValue(const CFDictionary* dictionary, const CFString* key) {
     const auto found = dictionary->items().find(key->text());
     return found == dictionary->items().end() ? nullptr : found->second.get();
@@ -34,8 +30,4 @@ const CFType* CFDictionaryGetValue(const CFDictionary* dictionary, const CFStrin
 void CFDictionarySetValue(CFMutableDictionary* dictionary, const CFString* key,
                           const CFType* value) {
     dictionary->items().insert_or_assign(key->text(), CFRef<const CFType>::retain(value));
-}
-
-void CFDictionaryRemoveValue(CFMutableDictionary* dictionary, const CFString* key) {
-    dictionary->items().erase(key->text());
 }

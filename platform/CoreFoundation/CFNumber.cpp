@@ -69,23 +69,6 @@ CFRef<CFNumber> CFNumberCreate(CFNumberType type, const void* value) {
     return nullptr;
 }
 
-bool CFNumberGetValue(const CFNumber* number, CFNumberType type, void* value) {
-    std::int64_t integer = 0;
-    if (type == kCFNumberDoubleType) {
-        *static_cast<double*>(value) = number->doubleValue();
-        return number->isFloat() ||
-               (exactInteger(number->doubleValue(), integer) && integer == number->integerValue());
-    }
-    integer = number->integerValue();
-    const bool exact = !number->isFloat() || exactInteger(number->doubleValue(), integer);
-    if (type == kCFNumberSInt64Type) {
-        *static_cast<std::int64_t*>(value) = integer;
-        return exact;
-    }
-    *static_cast<SInt32*>(value) = static_cast<SInt32>(integer);
-    return exact && integer == static_cast<SInt32>(integer);
-}
-
 bool CFBoolean::isEqual(const CFType& other) const {
     return value_ == static_cast<const CFBoolean&>(other).value_;
 }

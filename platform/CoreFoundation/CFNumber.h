@@ -29,8 +29,6 @@ private:
 
 CFTypeID CFNumberGetTypeID();
 CFRef<CFNumber> CFNumberCreate(CFNumberType type, const void* value);
-/// Converts to `type` at `value`; false when the number doesn't fit it exactly.
-bool CFNumberGetValue(const CFNumber* number, CFNumberType type, void* value);
 
 class CFBoolean final : public CFType {
 public:
