@@ -2,7 +2,7 @@
 // them, against clearing and filling the same areas through a bare painter on the same picture.
 
 #include "bench/Figures.h"
-#include "platform/HIToolbox/CarbonEvent.h"
+#include "platform/HIToolbox/detail/EventRecord.h"
 #include "src/prefpane/choosearea.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 // through Qt; and what the icons and titles cost on the first visit of its tab.
 
 #include "bench/Figures.h"
-#include "platform/AppKit/ViewWidget.h"
+#include "platform/AppKit/detail/ViewWidget.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/PaletteView.h"
 #include "src/prefpane/palutil.h"

@@ -2,7 +2,7 @@
 // through Qt; and the longest frame while a transparency is dragged.
 
 #include "bench/Figures.h"
-#include "platform/AppKit/ViewWidget.h"
+#include "platform/AppKit/detail/ViewWidget.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/SampleScanView.h"
 #include "src/prefpane/palutil.h"

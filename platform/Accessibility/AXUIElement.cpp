@@ -1,6 +1,6 @@
 #include "platform/Accessibility/AXUIElement.h"
 
-#include "platform/CoreServices/SessionBus.h"
+#include "platform/CoreServices/detail/SessionBus.h"
 
 #include <QCoreApplication>
 #include <QDBusPendingCallWatcher>

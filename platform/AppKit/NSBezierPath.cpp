@@ -1,6 +1,6 @@
 #include "platform/AppKit/NSBezierPath.h"
 
-#include "platform/QuickDraw/GrafPort.h"
+#include "platform/QuickDraw/detail/GrafPort.h"
 
 void NSBezierPath::setDefaultLineWidth(float width) {
     GrafPort* port = GrafPort::current();

@@ -1,6 +1,6 @@
 #include "platform/AppKit/NSColor.h"
 
-#include "platform/QuickDraw/GrafPort.h"
+#include "platform/QuickDraw/detail/GrafPort.h"
 
 #include <QGuiApplication>
 

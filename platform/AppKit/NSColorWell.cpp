@@ -1,6 +1,6 @@
 #include "platform/AppKit/NSColorWell.h"
 
-#include "platform/AppKit/ColorWellButton.h"
+#include "platform/AppKit/detail/ColorWellButton.h"
 
 #include <QColorDialog>
 

@@ -1,6 +1,6 @@
 #include "platform/AppKit/NSControl.h"
 
-#include "platform/AppKit/KeyboardFocus.h"
+#include "platform/AppKit/detail/KeyboardFocus.h"
 
 #include <QVariant>
 #include <QWidget>

@@ -1,6 +1,6 @@
 #include "platform/AppKit/NSFont.h"
 
-#include "platform/QuickDraw/GrafPort.h"
+#include "platform/QuickDraw/detail/GrafPort.h"
 
 #include <QFontInfo>
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 #include "platform/AppKit/NSGraphics.h"
 
-#include "platform/QuickDraw/Frame.h"
-#include "platform/QuickDraw/GrafPort.h"
+#include "platform/QuickDraw/detail/Frame.h"
+#include "platform/QuickDraw/detail/GrafPort.h"
 
 void NSEraseRect(const NSRect& rect) {
     if (GrafPort* port = GrafPort::current())

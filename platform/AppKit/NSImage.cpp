@@ -1,6 +1,6 @@
 #include "platform/AppKit/NSImage.h"
 
-#include "platform/IconServices/IconImages.h"
+#include "platform/IconServices/detail/IconImages.h"
 
 #include <QIcon>
 #include <QPixmap>

@@ -1,6 +1,6 @@
 #include "platform/AppKit/NSMatrix.h"
 
-#include "platform/AppKit/KeyboardFocus.h"
+#include "platform/AppKit/detail/KeyboardFocus.h"
 
 #include <QButtonGroup>
 #include <QRadioButton>

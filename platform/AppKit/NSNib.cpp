@@ -1,7 +1,7 @@
 #include "platform/AppKit/NSNib.h"
 
-#include "platform/AppKit/FormLoader.h"
-#include "platform/AppKit/NibWiring.h"
+#include "platform/AppKit/detail/FormLoader.h"
+#include "platform/AppKit/detail/NibWiring.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
 #include "platform/AppKit/NSPopUpButton.h"
 
-#include "platform/AppKit/PopUpButtonWidget.h"
+#include "platform/AppKit/detail/PopUpButtonWidget.h"
 
 #include <algorithm>
 

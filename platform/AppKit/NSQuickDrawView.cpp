@@ -1,6 +1,6 @@
 #include "platform/AppKit/NSQuickDrawView.h"
 
-#include "platform/AppKit/ViewWidget.h"
+#include "platform/AppKit/detail/ViewWidget.h"
 
 GrafPtr NSQuickDrawView::qdPort() const {
     return static_cast<const ViewWidget*>(widget())->port();

@@ -1,6 +1,6 @@
 #include "platform/AppKit/NSSlider.h"
 
-#include "platform/AppKit/SliderWidget.h"
+#include "platform/AppKit/detail/SliderWidget.h"
 
 #include <QVariant>
 

@@ -1,6 +1,6 @@
 #include "platform/AppKit/NSStringDrawing.h"
 
-#include "platform/QuickDraw/GrafPort.h"
+#include "platform/QuickDraw/detail/GrafPort.h"
 
 namespace {
 

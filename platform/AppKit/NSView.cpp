@@ -1,8 +1,8 @@
 #include "platform/AppKit/NSView.h"
 
-#include "platform/AppKit/KeyboardFocus.h"
 #include "platform/AppKit/NSEvent.h"
-#include "platform/AppKit/ViewWidget.h"
+#include "platform/AppKit/detail/KeyboardFocus.h"
+#include "platform/AppKit/detail/ViewWidget.h"
 
 #include <QWidget>
 

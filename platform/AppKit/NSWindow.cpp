@@ -1,7 +1,7 @@
 #include "platform/AppKit/NSWindow.h"
 
 #include "platform/AppKit/NSView.h"
-#include "platform/HIToolbox/HostedWindow.h"
+#include "platform/HIToolbox/detail/HostedWindow.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 #include "platform/CoreFoundation/CFBundle.h"
 
-#include "platform/CoreFoundation/CFFileReading.h"
 #include "platform/CoreFoundation/CFPropertyList.h"
+#include "platform/CoreFoundation/detail/FileReading.h"
 
 #include <algorithm>
 #include <dlfcn.h>

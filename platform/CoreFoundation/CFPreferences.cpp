@@ -1,8 +1,8 @@
 #include "platform/CoreFoundation/CFPreferences.h"
 
-#include "platform/CoreFoundation/CFPreferencesDomain.h"
-#include "platform/CoreFoundation/CFTextEncoding.h"
-#include "platform/CoreFoundation/XDGFolders.h"
+#include "platform/CoreFoundation/detail/PreferencesDomain.h"
+#include "platform/CoreFoundation/detail/TextEncoding.h"
+#include "platform/CoreFoundation/detail/XDGFolders.h"
 
 #include <charconv>
 #include <map>
@@ -17,15 +17,15 @@ const CFString* const kCFPreferencesAnyApplication = CFSTR(".GlobalPreferences")
 
 namespace {
 
-using Readers = CFPreferencesDomain::Readers;
-using Domains = std::map<std::u16string, CFPreferencesDomain>;
+using Readers = PreferencesDomain::Readers;
+using Domains = std::map<std::u16string, PreferencesDomain>;
 
 Domains& domainsOf(Readers readers) {
     static auto& domains = *new std::map<Readers, Domains>; // kept until the process is gone
     return domains[readers];
 }
 
-CFPreferencesDomain* findDomain(const CFString* name, Readers readers) {
+PreferencesDomain* findDomain(const CFString* name, Readers readers) {
     Domains& domains = domainsOf(readers);
     const auto known = domains.find(name->text());
     if (known != domains.end())
@@ -40,13 +40,13 @@ CFPreferencesDomain* findDomain(const CFString* name, Readers readers) {
     return &domains.try_emplace(name->text(), path, readers).first->second;
 }
 
-CFPreferencesDomain* findDomain(const CFString* name, const CFString* user) {
+PreferencesDomain* findDomain(const CFString* name, const CFString* user) {
     if (user == kCFPreferencesCurrentUser)
         return findDomain(name, Readers::ThisUser);
     return user == kCFPreferencesAnyUser ? findDomain(name, Readers::Everyone) : nullptr;
 }
 
-const CFType* valueIn(const CFPreferencesDomain* domain, const CFString* key) {
+const CFType* valueIn(const PreferencesDomain* domain, const CFString* key) {
     return domain ? domain->value(key) : nullptr;
 }
 
@@ -125,11 +125,11 @@ CFRef<const CFType> CFPreferencesCopyValue(const CFString* key, const CFString* 
 
 void CFPreferencesSetValue(const CFString* key, const CFType* value, const CFString* domain,
                            const CFString* user, const CFString*) {
-    if (CFPreferencesDomain* found = findDomain(domain, user))
+    if (PreferencesDomain* found = findDomain(domain, user))
         found->setValue(key, value);
 }
 
 bool CFPreferencesSynchronize(const CFString* domain, const CFString* user, const CFString*) {
-    CFPreferencesDomain* found = findDomain(domain, user);
+    PreferencesDomain* found = findDomain(domain, user);
     return found && found->synchronize();
 }

@@ -1,8 +1,8 @@
 #include "platform/CoreFoundation/CFPropertyList.h"
 
-#include "platform/CoreFoundation/CFDate.h"
-#include "platform/CoreFoundation/CFPropertyListGuard.h"
-#include "platform/CoreFoundation/CFTextEncoding.h"
+#include "platform/CoreFoundation/detail/CFDate.h"
+#include "platform/CoreFoundation/detail/PropertyListGuard.h"
+#include "platform/CoreFoundation/detail/TextEncoding.h"
 
 #include <algorithm>
 #include <clocale>

@@ -1,6 +1,6 @@
 #include "platform/CoreFoundation/CFString.h"
 
-#include "platform/CoreFoundation/CFTextEncoding.h"
+#include "platform/CoreFoundation/detail/TextEncoding.h"
 
 #include <QStringView>
 

@@ -1,6 +1,6 @@
 #include "platform/CoreGraphics/CGContext.h"
 
-#include "platform/QuickDraw/GrafPort.h"
+#include "platform/QuickDraw/detail/GrafPort.h"
 
 CGContext::CGContext(GrafPort& port)
     : port_(port), height_(static_cast<CGFloat>(port.size().height())) {

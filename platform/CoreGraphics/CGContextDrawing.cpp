@@ -1,6 +1,6 @@
 #include "platform/CoreGraphics/CGContext.h"
 
-#include "platform/QuickDraw/GrafPort.h"
+#include "platform/QuickDraw/detail/GrafPort.h"
 
 #include <QPainterPath>
 

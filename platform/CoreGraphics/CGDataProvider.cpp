@@ -1,6 +1,6 @@
 #include "platform/CoreGraphics/CGDataProvider.h"
 
-#include "platform/CoreFoundation/CFFileReading.h"
+#include "platform/CoreFoundation/detail/FileReading.h"
 
 CFRef<CGDataProvider> CGDataProviderCreateWithURL(const CFURL* url) {
     CFFileContents file = CFReadRegularFile(url->path(), kCGMaxImageFileSize);

@@ -1,6 +1,6 @@
 #include "platform/CoreGraphics/CGDirectDisplay.h"
 
-#include "platform/CoreGraphics/DisplayPlaces.h"
+#include "platform/CoreGraphics/detail/DisplayPlaces.h"
 
 #include <QGuiApplication>
 #include <QScreen>

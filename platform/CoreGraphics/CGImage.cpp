@@ -1,6 +1,6 @@
 #include "platform/CoreGraphics/CGImage.h"
 
-#include "platform/CoreGraphics/DecodedImage.h"
+#include "platform/CoreGraphics/detail/DecodedImage.h"
 
 CGImage::CGImage(const QImage& image) : image_(std::make_unique<const QImage>(image)) {}
 

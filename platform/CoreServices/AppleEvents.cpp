@@ -1,7 +1,7 @@
 #include "platform/CoreServices/AppleEvents.h"
 
-#include "platform/CoreServices/AppleEventObject.h"
-#include "platform/CoreServices/SessionBus.h"
+#include "platform/CoreServices/detail/AppleEventObject.h"
+#include "platform/CoreServices/detail/SessionBus.h"
 
 #include <algorithm>
 #include <bit>

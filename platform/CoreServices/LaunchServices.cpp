@@ -1,9 +1,9 @@
 #include "platform/CoreServices/LaunchServices.h"
 
 #include "platform/CoreFoundation/CFBundle.h"
-#include "platform/CoreServices/AccessibilitySettings.h"
-#include "platform/CoreServices/DetachedProcess.h"
-#include "platform/CoreServices/InstalledApplications.h"
+#include "platform/CoreServices/detail/AccessibilitySettings.h"
+#include "platform/CoreServices/detail/DetachedProcess.h"
+#include "platform/CoreServices/detail/InstalledApplications.h"
 
 #include <map>
 #include <memory>

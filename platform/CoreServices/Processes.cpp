@@ -1,8 +1,8 @@
 #include "platform/CoreServices/Processes.h"
 
-#include "platform/CoreServices/AppleEventObject.h"
-#include "platform/CoreServices/ProcessName.h"
-#include "platform/CoreServices/SessionBus.h"
+#include "platform/CoreServices/detail/AppleEventObject.h"
+#include "platform/CoreServices/detail/ProcessName.h"
+#include "platform/CoreServices/detail/SessionBus.h"
 
 #include <QCoreApplication>
 #include <QDBusPendingReply>

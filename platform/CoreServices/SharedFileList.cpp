@@ -1,9 +1,9 @@
 #include "platform/CoreServices/SharedFileList.h"
 
 #include "platform/CoreFoundation/CFBundle.h"
-#include "platform/CoreFoundation/CFFileReplacement.h"
-#include "platform/CoreFoundation/XDGFolders.h"
-#include "platform/CoreServices/AutostartEntry.h"
+#include "platform/CoreFoundation/detail/FileReplacement.h"
+#include "platform/CoreFoundation/detail/XDGFolders.h"
+#include "platform/CoreServices/detail/AutostartEntry.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #include "platform/HIToolbox/Appearance.h"
 
-#include "platform/QuickDraw/GrafPort.h"
+#include "platform/QuickDraw/detail/GrafPort.h"
 
 #include <QCache>
 #include <QFontMetrics>

@@ -1,6 +1,6 @@
 #include "platform/HIToolbox/HotKeyMode.h"
 
-#include "platform/HIToolbox/HeldKeys.h"
+#include "platform/HIToolbox/detail/HeldKeys.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>

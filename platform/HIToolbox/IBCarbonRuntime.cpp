@@ -1,7 +1,7 @@
 #include "platform/HIToolbox/IBCarbonRuntime.h"
 
-#include "platform/HIToolbox/FormReader.h"
-#include "platform/HIToolbox/NibWindow.h"
+#include "platform/HIToolbox/detail/FormReader.h"
+#include "platform/HIToolbox/detail/NibWindow.h"
 
 class CarbonNib {
 public:

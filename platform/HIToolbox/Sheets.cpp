@@ -1,7 +1,7 @@
 #include "platform/HIToolbox/Sheets.h"
 
-#include "platform/HIToolbox/CarbonWindow.h"
-#include "platform/HIToolbox/SheetShade.h"
+#include "platform/HIToolbox/detail/CarbonWindow.h"
+#include "platform/HIToolbox/detail/SheetShade.h"
 
 OSStatus ShowSheetWindow(WindowRef sheet, WindowRef parent) {
     new SheetShade(&parent->widget(), &sheet->widget()); // which the parent owns

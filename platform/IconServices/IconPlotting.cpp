@@ -1,5 +1,5 @@
-#include "platform/IconServices/IconImages.h"
 #include "platform/IconServices/Icons.h"
+#include "platform/IconServices/detail/IconImages.h"
 
 #include <QPainter>
 

@@ -1,8 +1,8 @@
 #include "platform/IconServices/Icons.h"
 
-#include "platform/CoreFoundation/CFFileReading.h"
-#include "platform/IconServices/ApplicationIcon.h"
-#include "platform/IconServices/IconFamily.h"
+#include "platform/CoreFoundation/detail/FileReading.h"
+#include "platform/IconServices/detail/ApplicationIcon.h"
+#include "platform/IconServices/detail/IconFamily.h"
 
 #include <map>
 #include <utility>

@@ -1,5 +1,5 @@
-#include "platform/QuickDraw/Frame.h"
-#include "platform/QuickDraw/GrafPort.h"
+#include "platform/QuickDraw/detail/Frame.h"
+#include "platform/QuickDraw/detail/GrafPort.h"
 
 #include <limits>
 

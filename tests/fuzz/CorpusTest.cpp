@@ -1,5 +1,5 @@
 #include "platform/CoreFoundation/CFPropertyList.h"
-#include "platform/IconServices/IconFamily.h"
+#include "platform/IconServices/detail/IconFamily.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/TestIcons.h"
 

@@ -1,4 +1,4 @@
-#include "platform/IconServices/IconImages.h"
+#include "platform/IconServices/detail/IconImages.h"
 #include "src/fsutil.h"
 #include "src/iconutil.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/CoreServices/FileCache.h"
+#include "platform/CoreServices/detail/FileCache.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <gtest/gtest.h>

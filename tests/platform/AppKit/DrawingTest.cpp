@@ -1,7 +1,7 @@
 #include "platform/AppKit/NSColor.h"
 #include "platform/AppKit/NSGraphics.h"
 #include "platform/CoreGraphics/CGImage.h"
-#include "platform/QuickDraw/GrafPort.h"
+#include "platform/QuickDraw/detail/GrafPort.h"
 #include "tests/platform/AppKit/TestForm.h"
 
 #include <QBitmap>

@@ -1,4 +1,4 @@
-#include "platform/CoreGraphics/DisplayPlaces.h"
+#include "platform/CoreGraphics/detail/DisplayPlaces.h"
 
 #include <gtest/gtest.h>
 

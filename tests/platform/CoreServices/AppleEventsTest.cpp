@@ -1,5 +1,5 @@
-#include "platform/CoreServices/AppleEventObject.h"
-#include "platform/CoreServices/ProcessName.h"
+#include "platform/CoreServices/detail/AppleEventObject.h"
+#include "platform/CoreServices/detail/ProcessName.h"
 #include "tests/platform/CoreServices/TestPeer.h"
 
 #include <QDBusConnection>

@@ -1,4 +1,4 @@
-#include "platform/CoreServices/SessionBus.h"
+#include "platform/CoreServices/detail/SessionBus.h"
 #include "tests/platform/CoreServices/TestPeer.h"
 
 #include <QElapsedTimer>

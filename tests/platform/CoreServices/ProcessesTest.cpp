@@ -1,5 +1,5 @@
-#include "platform/CoreServices/ProcessName.h"
-#include "platform/CoreServices/SessionBus.h"
+#include "platform/CoreServices/detail/ProcessName.h"
+#include "platform/CoreServices/detail/SessionBus.h"
 #include "tests/platform/CoreServices/TestPeer.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 #include "platform/HIToolbox/CarbonEvents.h"
-#include "platform/HIToolbox/CarbonWindow.h"
+#include "platform/HIToolbox/detail/CarbonWindow.h"
 
 #include <QApplication>
 #include <QTest>

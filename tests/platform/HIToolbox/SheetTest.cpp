@@ -1,9 +1,9 @@
 #include "platform/CoreFoundation/CFBundle.h"
-#include "platform/HIToolbox/CarbonWindow.h"
 #include "platform/HIToolbox/CommandEvents.h"
-#include "platform/HIToolbox/HostedWindow.h"
 #include "platform/HIToolbox/IBCarbonRuntime.h"
 #include "platform/HIToolbox/Sheets.h"
+#include "platform/HIToolbox/detail/CarbonWindow.h"
+#include "platform/HIToolbox/detail/HostedWindow.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <QAccessible>

@@ -1,6 +1,6 @@
 #include "platform/CoreServices/LaunchServices.h"
-#include "platform/IconServices/IconImages.h"
 #include "platform/IconServices/Icons.h"
+#include "platform/IconServices/detail/IconImages.h"
 #include "tests/support/TestApplications.h"
 #include "tests/support/TestIcons.h"
 

@@ -1,4 +1,4 @@
-#include "platform/IconServices/IconFamily.h"
+#include "platform/IconServices/detail/IconFamily.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/TestIcons.h"
 

@@ -1,6 +1,6 @@
-#include "platform/IconServices/IconImages.h"
 #include "platform/IconServices/Icons.h"
-#include "platform/QuickDraw/GrafPort.h"
+#include "platform/IconServices/detail/IconImages.h"
+#include "platform/QuickDraw/detail/GrafPort.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

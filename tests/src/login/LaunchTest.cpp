@@ -2,7 +2,7 @@
 
 #include "platform/CoreFoundation/CFPreferences.h"
 #include "platform/CoreServices/Gestalt.h"
-#include "platform/HIToolbox/CarbonControl.h"
+#include "platform/HIToolbox/detail/CarbonControl.h"
 #include "platform/Security/Authorization.h"
 #include "src/login/LoginItemAPI.h"
 #include "tests/support/TestApplication.h"

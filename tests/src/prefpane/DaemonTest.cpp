@@ -1,7 +1,7 @@
 #include "src/prefpane/Daemon.h"
 
-#include "platform/CoreServices/AppleEventObject.h"
-#include "platform/CoreServices/SessionBus.h"
+#include "platform/CoreServices/detail/AppleEventObject.h"
+#include "platform/CoreServices/detail/SessionBus.h"
 #include "tests/support/PaneFixture.h"
 #include "tests/support/SignalProcess.h"
 

@@ -1,6 +1,6 @@
 #include "platform/AppKit/NSMenuItem.h"
 #include "platform/AppKit/NSPopUpButton.h"
-#include "platform/AppKit/ViewWidget.h"
+#include "platform/AppKit/detail/ViewWidget.h"
 #include "src/prefpane/PreferenceWrangler.h"
 #include "tests/support/PaneFixture.h"
 

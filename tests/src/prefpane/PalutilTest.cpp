@@ -1,6 +1,6 @@
 #include "src/prefpane/palutil.h"
 
-#include "platform/QuickDraw/GrafPort.h"
+#include "platform/QuickDraw/detail/GrafPort.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefs.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"

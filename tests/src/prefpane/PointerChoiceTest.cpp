@@ -1,4 +1,4 @@
-#include "platform/AppKit/ViewWidget.h"
+#include "platform/AppKit/detail/ViewWidget.h"
 #include "src/prefpane/PreferenceWrangler.h"
 #include "src/prefpane/ptrman.h"
 #include "tests/support/PaneFixture.h"

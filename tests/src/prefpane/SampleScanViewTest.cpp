@@ -1,6 +1,6 @@
 #include "src/prefpane/SampleScanView.h"
 
-#include "platform/AppKit/ViewWidget.h"
+#include "platform/AppKit/detail/ViewWidget.h"
 #include "src/prefpane/palutil.h"
 #include "tests/support/AgentBundle.h"
 

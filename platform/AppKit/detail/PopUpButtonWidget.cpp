@@ -1,0 +1,147 @@
+#include "platform/AppKit/detail/PopUpButtonWidget.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QKeyEvent>
+#include <QRegularExpression>
+#include <QStyleOptionButton>
+
+namespace {
+
+constexpr int kMinimumHeight = 24; // points that a finger or a trembling hand needs
+
+} // namespace
+
+/// Tells assistive technology of the menu, of which Qt's own interface for buttons knows nothing.
+class PopUpButtonInterface final : public QAccessibleWidget {
+public:
+    explicit PopUpButtonInterface(PopUpButtonWidget* button)
+        : QAccessibleWidget(button, QAccessible::ButtonMenu), button_(button) {}
+
+    static QAccessibleInterface* make(const QString&, QObject* object) {
+        auto* button = dynamic_cast<PopUpButtonWidget*>(object);
+        return button ? new PopUpButtonInterface(button) : nullptr;
+    }
+
+    QString text(QAccessible::Text kind) const override {
+        const QString own = QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Name || !own.isEmpty())
+            return own;
+        static const QRegularExpression kMnemonic(QStringLiteral("&(.)"));
+        return button_->text().replace(kMnemonic, QStringLiteral("\\1"));
+    }
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.hasPopup = true;
+        state.expandable = true;
+        state.expanded = button_->isMenuOpen();
+        state.collapsed = !state.expanded;
+        return state;
+    }
+
+    // The menu is a part of its button, as a combo box's list is.
+    int childCount() const override { return 1; }
+
+    QAccessibleInterface* child(int index) const override {
+        return index == 0 ? QAccessible::queryAccessibleInterface(&button_->menu_) : nullptr;
+    }
+
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return child && child->object() == &button_->menu_ ? 0 : -1;
+    }
+
+    QStringList actionNames() const override {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (button_->isEnabled())
+            names.prepend(pressAction());
+        return names;
+    }
+
+    void doAction(const QString& name) override {
+        if (name == pressAction())
+            button_->openMenu();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    PopUpButtonWidget* button_;
+};
+
+PopUpButtonWidget::PopUpButtonWidget(QWidget* parent)
+    : QPushButton(parent), menu_(*new PopUpMenu(this)) {
+    [[maybe_unused]] static const bool installed = [] {
+        QAccessible::installFactory(PopUpButtonInterface::make);
+        return true;
+    }();
+    setMinimumHeight(kMinimumHeight);
+    menu_.onChosen = [this](const QString& title) { onChosen(title); };
+    menu_.onClosed = [this] { showIsOpen(false); };
+    // By the key that the caption underlines.
+    connect(this, &QPushButton::clicked, this, [this] { openMenu(); });
+}
+
+void PopUpButtonWidget::openMenu(std::optional<QPoint> pressedAt) {
+    if (!isEnabled() || !isVisible() || isMenuOpen())
+        return;
+    const std::vector<PopUpEntry> shown = entries();
+    if (shown.empty() || !isEnabled())
+        return;
+    setFocus(Qt::OtherFocusReason);
+    menu_.setAccessibleName(QAccessible::queryAccessibleInterface(this)->text(QAccessible::Name));
+    menu_.open(shown, pressedAt);
+    showIsOpen(true);
+}
+
+void PopUpButtonWidget::showIsOpen(bool isOpen) {
+    setDown(isOpen);
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void PopUpButtonWidget::initStyleOption(QStyleOptionButton* option) const {
+    QPushButton::initStyleOption(option);
+    option->features |= QStyleOptionButton::HasMenu;
+}
+
+QSize PopUpButtonWidget::sizeHint() const {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const int arrow = style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
+    return QPushButton::sizeHint() + QSize(arrow, 0);
+}
+
+void PopUpButtonWidget::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        openMenu(event->globalPosition().toPoint());
+}
+
+void PopUpButtonWidget::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Down:
+        // The key that closed the menu may still be held down.
+        if (!event->isAutoRepeat())
+            openMenu();
+        return;
+    default:
+        QPushButton::keyPressEvent(event);
+    }
+}
+
+void PopUpButtonWidget::changeEvent(QEvent* event) {
+    QPushButton::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        menu_.close();
+}
+
+void PopUpButtonWidget::hideEvent(QHideEvent* event) {
+    QPushButton::hideEvent(event);
+    menu_.close();
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/AppKit/detail/PopUpMenu.h"
+
+#include <QPushButton>
+
+/// The widget behind an NSPopUpButton: a button that opens a menu when it is pressed.
+class PopUpButtonWidget final : public QPushButton {
+public:
+    explicit PopUpButtonWidget(QWidget* parent);
+
+    bool isMenuOpen() const { return menu_.isVisible(); }
+
+    /// `pressedAt`: see PopUpMenu::open.
+    void openMenu(std::optional<QPoint> pressedAt = {});
+
+    QSize sizeHint() const override;
+
+    std::function<std::vector<PopUpEntry>()> entries; ///< asked each time before the menu opens
+    std::function<void(const QString& title)> onChosen;
+
+protected:
+    void initStyleOption(QStyleOptionButton* option) const override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    friend class PopUpButtonInterface;
+
+    void showIsOpen(bool isOpen);
+
+    PopUpMenu& menu_; ///< a child
+};

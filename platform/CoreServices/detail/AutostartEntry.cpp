@@ -1,0 +1,116 @@
+#include "platform/CoreServices/detail/AutostartEntry.h"
+
+#include "platform/CoreServices/detail/DesktopEntry.h"
+
+#include <string_view>
+#include <vector>
+
+namespace {
+
+constexpr std::string_view kExecutables = "/Contents/Linux/";
+
+/// The arguments of an Exec value, without field codes. Outside of double quotes a backslash stands
+/// for itself.
+std::vector<std::string> execArguments(std::string_view exec) {
+    std::vector<std::string> arguments;
+    bool quoted = false, begun = false;
+    for (std::size_t i = 0; i < exec.size(); ++i) {
+        const char next = i + 1 < exec.size() ? exec[i + 1] : '\0';
+        if (exec[i] == '"') {
+            quoted = !quoted;
+        } else if (exec[i] == ' ' && !quoted) {
+            begun = false;
+            continue;
+        }
+        if (!begun)
+            arguments.emplace_back();
+        begun = true;
+        if (exec[i] == '"')
+            continue;
+        if (exec[i] == '%') {
+            ++i;
+            if (next != '%')
+                continue;
+        } else if (quoted && exec[i] == '\\' && next != '\0') {
+            ++i;
+        }
+        arguments.back() += exec[i];
+    }
+    return arguments;
+}
+
+/// The bundle that the executable belongs to, or nothing.
+std::string bundleOf(const std::string& executable) {
+    const std::size_t folder = executable.rfind(kExecutables);
+    if (!executable.starts_with('/') || folder == std::string::npos ||
+        executable.find('/', folder + kExecutables.size()) != std::string::npos)
+        return {};
+    return executable.substr(0, folder);
+}
+
+std::string applicationOf(std::string_view exec) {
+    const std::vector<std::string> arguments = execArguments(exec);
+    for (const std::string& argument : arguments)
+        if (std::string bundle = bundleOf(argument); !bundle.empty())
+            return bundle;
+    return !arguments.empty() && arguments.front().starts_with('/') ? arguments.front() : "";
+}
+
+/// Whether a desktop's own tool has switched the entry off.
+bool isSwitchedOff(const DesktopEntry& entry) {
+    for (const char* key : {"X-GNOME-Autostart-enabled", "X-MATE-Autostart-enabled"})
+        if (desktopEntryValue(entry, key) == "false")
+            return true;
+    return false;
+}
+
+/// A text as a value of type string.
+std::string escaped(std::string_view text) {
+    constexpr std::string_view meanings = "\n\t\r\\", letters = "ntr\\";
+    std::string value;
+    for (const char c : text) {
+        const std::size_t escape = meanings.find(c);
+        if (escape == meanings.npos)
+            value += c;
+        else
+            value.append({'\\', letters[escape]});
+    }
+    return value;
+}
+
+/// One argument of an Exec value.
+std::string quotedArgument(std::string_view argument) {
+    std::string quoted = "\"";
+    for (const char c : argument) {
+        if (std::string_view("\"`$\\").find(c) != std::string_view::npos)
+            quoted += '\\';
+        quoted += c;
+        if (c == '%')
+            quoted += '%';
+    }
+    return quoted + '"';
+}
+
+std::string entryText(const std::string& name, const std::string& program,
+                      const std::string& more) {
+    return "[Desktop Entry]\nType=Application\nName=" + escaped(name) +
+           "\nExec=" + escaped(quotedArgument(program)) + '\n' + more + '\n';
+}
+
+} // namespace
+
+std::optional<AutostartEntry> readAutostartEntry(const std::string& path) {
+    const DesktopEntry entry = readDesktopEntry(path);
+    if (desktopEntryValue(entry, "Type") != "Application")
+        return std::nullopt;
+    return AutostartEntry{applicationOf(desktopEntryValue(entry, "Exec")),
+                          isInstalledApplication(entry) && !isSwitchedOff(entry)};
+}
+
+std::string autostartEntryText(const std::string& name, const std::string& executable) {
+    return entryText(name, executable, "TryExec=" + escaped(executable));
+}
+
+std::string hiddenAutostartEntryText(const std::string& name, const std::string& application) {
+    return entryText(name, application, "Hidden=true");
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/HIToolbox/Controls.h"
+#include "platform/HIToolbox/detail/EventRecord.h"
+
+#include <QAbstractButton>
+
+/// A button or check box of a Carbon window.
+class CarbonControl {
+public:
+    /// The form's properties of the button say what it is; see IBCarbonRuntime.h. What it sends as
+    /// a command goes to `windowTarget`. Neither is owned, and both outlive the control.
+    CarbonControl(QAbstractButton& button, CarbonEventTarget& windowTarget);
+
+    QAbstractButton& button() const { return button_; }
+
+    CarbonEventTarget& target() { return target_; }
+
+    const ControlID& id() const { return id_; }
+
+    /// 0 for none.
+    UInt32 command() const { return command_; }
+
+private:
+    void hit();
+
+    QAbstractButton& button_;
+    CarbonEventTarget& windowTarget_;
+    CarbonEventTarget target_;
+    ControlID id_;
+    UInt32 command_;
+};

@@ -1,0 +1,53 @@
+#include "platform/HIToolbox/detail/HeldKeys.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+
+#include <bitset>
+#include <cstdlib>
+#include <limits>
+#include <memory>
+#include <xcb/xcb.h>
+
+namespace {
+
+/// Of a press that came before anybody counted.
+constexpr quint64 kBefore = std::numeric_limits<quint64>::max();
+constexpr quint32 kKeyCount = 256; ///< X11's scan codes
+
+/// The keys that X11's server knows to be down; none on other displays.
+std::bitset<kKeyCount> keysDown() {
+    std::bitset<kKeyCount> keys;
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    xcb_connection_t* display = x11 ? x11->connection() : nullptr;
+    if (!display) // Qt's offscreen platform has the interface, but no connection
+        return keys;
+    const std::unique_ptr<xcb_query_keymap_reply_t, decltype(&std::free)> reply(
+        xcb_query_keymap_reply(display, xcb_query_keymap(display), nullptr), std::free);
+    for (quint32 key = 0; reply && key < kKeyCount; ++key)
+        keys[key] = reply->keys[key / 8] >> (key % 8) & 1;
+    return keys;
+}
+
+} // namespace
+
+void HeldKeys::reset() {
+    since_.clear();
+    const auto down = keysDown();
+    for (quint32 key = 0; key < kKeyCount; ++key)
+        if (down[key])
+            since_[key] = kBefore;
+}
+
+bool HeldKeys::isRepeat(const QKeyEvent& press) {
+    const auto [key, isNew] = since_.try_emplace(press.nativeScanCode(), press.timestamp());
+    return press.isAutoRepeat() || (!isNew && key->second != press.timestamp());
+}
+
+bool HeldKeys::isUp(const QKeyEvent& release) {
+    const quint32 key = release.nativeScanCode();
+    if (release.isAutoRepeat() || (key < kKeyCount && keysDown()[key]))
+        return false;
+    since_.erase(key);
+    return true;
+}

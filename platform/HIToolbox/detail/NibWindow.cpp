@@ -1,0 +1,31 @@
+#include "platform/HIToolbox/detail/NibWindow.h"
+
+#include <QShortcut>
+#include <QVariant>
+
+NibWindow::NibWindow(std::unique_ptr<QWidget> own) : CarbonWindow(std::move(own)) {
+    for (auto* button : widget().findChildren<QAbstractButton*>()) {
+        controls_.push_back(std::make_unique<CarbonControl>(*button, target()));
+        if (button->property("cancelButton").toBool())
+            new QShortcut(QKeySequence(Qt::Key_Escape), &widget(), button, &QAbstractButton::click,
+                          Qt::WidgetWithChildrenShortcut);
+    }
+}
+
+// The widget lives on for a moment: nothing of it may reach the controls any more.
+NibWindow::~NibWindow() {
+    for (const auto& control : controls_)
+        control->button().disconnect();
+}
+
+OSStatus GetControlByID(WindowRef window, const ControlID* id, ControlRef* control) {
+    if (const auto* nibWindow = dynamic_cast<const NibWindow*>(window)) {
+        for (const auto& each : nibWindow->controls()) {
+            if (each->id() == *id) {
+                *control = each.get();
+                return noErr;
+            }
+        }
+    }
+    return errControlNotFound;
+}

@@ -1,0 +1,130 @@
+#include "platform/IconServices/detail/ApplicationIcon.h"
+
+#include "platform/CoreFoundation/detail/FileReading.h"
+#include "platform/CoreFoundation/detail/XDGFolders.h"
+#include "platform/CoreGraphics/detail/DecodedImage.h"
+#include "platform/CoreServices/detail/FileCache.h"
+#include "platform/IconServices/detail/IconFamily.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <vector>
+
+namespace {
+
+/// What a drawing is taken to measure, in pixels: enough for 32 points at any density.
+constexpr int kDrawingSide = 256;
+
+/// The folders of the hicolor theme that applications install their icons in, and the suffix there.
+constexpr struct {
+    const char *folder, *suffix;
+} kThemeFolders[] = {
+    {"16x16", ".png"},   {"22x22", ".png"},    {"24x24", ".png"},   {"32x32", ".png"},
+    {"36x36", ".png"},   {"48x48", ".png"},    {"64x64", ".png"},   {"72x72", ".png"},
+    {"96x96", ".png"},   {"128x128", ".png"},  {"192x192", ".png"}, {"256x256", ".png"},
+    {"512x512", ".png"}, {"scalable", ".svg"},
+};
+
+/// A file that belongs to an icon, and the state that it was read in.
+struct IconFile {
+    std::string path;
+    FileState state;
+
+    bool operator==(const IconFile&) const = default;
+};
+
+/// Files that aren't there are left out.
+class IconFiles {
+public:
+    void add(const std::string& path) {
+        if (const FileState state = stateOfFile(path); state.exists)
+            files_.push_back({path, state});
+    }
+
+    const std::vector<IconFile>& files() const { return files_; }
+
+    bool areSettled() const {
+        return std::ranges::all_of(files_, [](const auto& file) { return file.state.isSettled(); });
+    }
+
+private:
+    std::vector<IconFile> files_;
+};
+
+/// The first data folder that has the icon in its hicolor theme gives all sizes of it, else the
+/// first that has it among its pixmaps.
+IconFiles filesOfNamedIcon(const std::string& name) {
+    IconFiles files;
+    if (name.empty() || name.find('/') != name.npos)
+        return files;
+    for (const std::string& data : xdgDataFolders()) {
+        const std::string theme = data + "/icons/hicolor";
+        if (!stateOfFile(theme).exists)
+            continue;
+        for (const auto& [folder, suffix] : kThemeFolders)
+            files.add(theme + '/' + folder + "/apps/" + name + suffix);
+        if (!files.files().empty())
+            return files;
+    }
+    for (const std::string& data : xdgDataFolders())
+        for (const char* suffix : {".png", ".svg", ".xpm"})
+            if (files.files().empty())
+                files.add(data + "/pixmaps/" + name + suffix);
+    return files;
+}
+
+IconFiles filesOfApplication(const InstalledApplication& application) {
+    const std::filesystem::path icon = application.icon;
+    if (!application.isBundle && !icon.is_absolute())
+        return filesOfNamedIcon(application.icon);
+    IconFiles files;
+    std::string path = application.icon;
+    if (application.isBundle) {
+        path = application.path + "/Contents/Resources/" + icon.filename().string();
+        if (!path.ends_with(".icns"))
+            path += ".icns";
+    }
+    files.add(path);
+    return files;
+}
+
+void addFile(IconImages& images, const std::string& path) {
+    const std::string suffix = std::filesystem::path(path).extension();
+    const CFRef<const CFData> data = CFReadRegularFile(path, kMaxIconFamilySize).data;
+    if (!data)
+        return;
+    if (suffix == ".icns")
+        images = imagesOfIconFamily(data);
+    for (const char* format : {"png", "xpm"})
+        if (suffix == std::string(".") + format)
+            images.add(imageSize(data->bytes(), format),
+                       [data, format] { return decodeImage(data->bytes(), format); });
+    if (suffix == ".svg" && !imageSize(data->bytes(), "svg").isEmpty())
+        images.add({kDrawingSide, kDrawingSide},
+                   [data] { return decodeImage(data->bytes(), "svg", kDrawingSide); });
+}
+
+CFRef<Icon> readIcon(const IconFiles& files) {
+    IconImages images;
+    for (const IconFile& file : files.files())
+        addFile(images, file.path);
+    return images.anyDecodes() ? CFRef<Icon>::adopt(new Icon(std::move(images))) : nullptr;
+}
+
+} // namespace
+
+CFRef<Icon> iconOfApplication(const InstalledApplication& application) {
+    struct Known {
+        std::vector<IconFile> files;
+        bool settled = false;
+        CFRef<Icon> icon;
+    };
+
+    static std::map<std::string, Known> icons; // by the application's path
+    const IconFiles files = filesOfApplication(application);
+    Known& known = icons[application.path];
+    if (!known.settled || known.files != files.files())
+        known = {files.files(), files.areSettled(), readIcon(files)};
+    return known.icon;
+}
