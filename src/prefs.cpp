@@ -1,7 +1,7 @@
 #include "src/prefs.h"
 
 #include "platform/CoreFoundation/CFPreferences.h"
-#include "src/prefsforms.h"
+#include "src/settings.h"
 
 #include <cstdio>
 
@@ -13,72 +13,16 @@ namespace {
 
 bool prefsNeedSaving = false;
 
-/// One stored setting: its key, the form of its text, and its place in the record.
-struct StoredField {
-    const char* key;
-    const PrefsForm* form;
-    std::size_t offset;
-
-    void* address() const { return reinterpret_cast<UInt8*>(&prefs) + offset; }
-};
-
-// Loading and saving both walk this table.
-#define FIELD(key, form, field)                                                                    \
-    { key, &form, offsetof(PrefsRecord, field) }
-constexpr StoredField kStoredFields[] = {
-    FIELD("on", kFlagForm, on),
-    FIELD("playClickSounds", kFlagForm, playClickSounds),
-    FIELD("playDragPrompts", kFlagForm, playDragPrompts),
-    FIELD("priorityScheduling", kFlagForm, priorityScheduling),
-    FIELD("launchAtLogin", kFlagForm, launchAtLogin),
-    FIELD("activateAtLaunch", kFlagForm, activateAtLaunch),
-    FIELD("soundLevel", kHexWordForm, soundLevel),
-    FIELD("scanner.canScanMenuBar", kFlagForm, canScanMenuBar),
-    FIELD("scanner.minTriggerDuration", kRealForm, minTriggerDuration),
-    FIELD("scanner.afterClickDelay", kRealForm, afterClickDelay),
-    FIELD("scanner.preScanDelay", kRealForm, preScanDelay),
-    FIELD("scanner.inverseReleaseTime", kRealForm, inverseReleaseTime),
-    FIELD("scanner.stepScanCancelTime", kRealForm, stepScanCancelTime),
-    FIELD("scanner.wantHotKeyTrigger", kFlagForm, wantHotKeyTrigger),
-    FIELD("scanner.wantMouseClickTrigger", kFlagForm, wantMouseClickTrigger),
-    FIELD("scanner.triggerOnRelease", kFlagForm, triggerOnRelease),
-    FIELD("scanner.fakeMouse2SwitchMode", kFlagForm, fakeMouse2SwitchMode),
-    FIELD("scanner.scanMode", kDecimalForm, scanMode),
-    FIELD("scanner.scanArea", kRectangleForm, scanArea),
-    FIELD("scanner.useScanArea", kFlagForm, useScanArea),
-    FIELD("scanner.lineScanCanEndKybdMode", kFlagForm, lineScanCanEndKybdMode),
-    FIELD("scanner.lineScanTime", kRealForm, lineScanTime),
-    FIELD("scanner.pointerScanTime", kRealForm, pointerScanTime),
-    FIELD("scanner.menuScanSpeedScaleFactor", kRealForm, menuScanSpeedScaleFactor),
-    FIELD("scanner.useScanAcceleration", kFlagForm, useScanAcceleration),
-    FIELD("scanner.autoRepeatTime", kRealForm, autoRepeatTime),
-    FIELD("scanner.clickDuration", kRealForm, clickDuration),
-    FIELD("scanner.interClickDelay", kRealForm, interClickDelay),
-    FIELD("scanner.lineColor", kColourForm, lineColor),
-    FIELD("scanner.lineThickness", kDecimalForm, lineThickness),
-    FIELD("scanner.lineTransparency", kRealForm, lineTransparency),
-    FIELD("scanner.lineGhostTransparency", kRealForm, lineGhostTransparency),
-    FIELD("scanner.pointerImageName", kTextForm, pointerImageName),
-    FIELD("hotkeys.keys", kHotKeyListForm, hotKeys),
-    FIELD("palette.borderGap", kDecimalForm, borderGap),
-    FIELD("palette.buttonGap", kDecimalForm, buttonGap),
-    FIELD("palette.buttonSize", kSizeForm, buttonSize),
-    FIELD("palette.buttonShape", kHexWordForm, buttonShape),
-    FIELD("palette.buttonContent", kHexWordForm, buttonContent),
-    FIELD("palette.buttonActions", kActionListForm, buttonActions),
-};
-#undef FIELD
-
 } // namespace
 
 void prefsSetup() {
-    for (const StoredField& field : kStoredFields)
-        field.form->load(CFSTR(field.key), field.address());
+    for (const Setting& setting : kSettings)
+        setting.form->load(CFSTR(setting.key), setting.in(prefs));
 }
 
 bool savePrefs() {
-    for (const StoredField& field : kStoredFields)
-        field.form->save(CFSTR(field.key), field.address());
+    for (const Setting& setting : kSettings)
+        setting.form->save(CFSTR(setting.key), setting.in(prefs));
     return CFPreferencesAppSynchronize(kAgentBundleID);
 }
 

@@ -35,6 +35,8 @@ enum : ChangeMask {
 
 constexpr int kNumHotKeys = 5;
 constexpr int kNumPaletteSlots = 9;
+constexpr int kMinButtonSize = 20; ///< points, as is the next; of a palette button's side
+constexpr int kMaxButtonSize = 100;
 
 // Doubles sit at 4-byte alignment in the record, as in the agent.
 #pragma pack(push, 4)
@@ -54,7 +56,7 @@ struct LineColor {
     UInt16 red, green, blue; ///< 0 to 255 each
 };
 
-/// Height comes first in memory, width first in the stored text. Points, 20 to 100 each.
+/// Height comes first in memory, width first in the stored text. Points.
 struct ButtonSize {
     SInt16 height, width;
 };

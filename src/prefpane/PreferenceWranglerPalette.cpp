@@ -16,9 +16,6 @@ namespace {
 constexpr UInt8 defaultActions[kNumPaletteSlots] = {20, 21, 22, 1, 2, 0, 0, 0, 0};
 constexpr SInt32 kLastSlot = kNumPaletteSlots - 1;
 
-constexpr SInt32 kMinButtonSize = 20; // points, as are the next two
-constexpr SInt32 kMaxButtonSize = 100;
-
 bool isEmptySlot(SInt32 slot) {
     return prefs.buttonActions[slot] == kEmptyAction;
 }

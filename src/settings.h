@@ -1,0 +1,181 @@
+#pragma once
+
+#include "src/prefs.h"
+#include "src/prefsforms.h"
+
+#include <cstddef>
+#include <span>
+
+/// What a number may be and how it is stepped and shown.
+struct SettingLimits {
+    double minimum = 0;
+    double maximum = 0;
+    double step = 0;              ///< of the minus and plus buttons; 0: the value isn't stepped
+    const char* format = nullptr; ///< printf, exactly one double conversion; null: not a number
+    const char* unit = "";        ///< in words; empty: none
+};
+
+/// The kind of object that the wrangler's outlet for the setting takes.
+enum class SettingControl { other, slider, bumper, check };
+
+/// All that is said of one setting: how it is stored, where it lies in the record, what a change of
+/// it reports, what it is called and what it may be. Everything else that concerns all settings is
+/// derived from the rows of kSettings. Texts live for ever; none is null where not said.
+struct Setting {
+    const char* key;       ///< in the domain kAgentBundleID
+    const PrefsForm* form; ///< of the stored text, and with it the field's type
+    std::size_t offset;    ///< of the field in PrefsRecord
+    std::size_t size;      ///< of the field, in bytes
+    ChangeMask changes;    ///< the groups that a change of it reports; 0 for none
+    const char* name;      ///< in words, as in "Line scan time: 12.5 sec"
+    SettingLimits limits = {};
+    std::span<const char* const> choices = {}; ///< a choice's values in words, from 0 on
+    SettingControl control = SettingControl::other;
+    const char* outlet = nullptr; ///< the wrangler's, of the control; null for `other`
+    const char* action = nullptr; ///< what a check box sends; null for any other control
+
+    bool isNumber() const { return limits.format != nullptr; }
+
+    const void* in(const PrefsRecord& record) const {
+        return reinterpret_cast<const UInt8*>(&record) + offset;
+    }
+
+    void* in(PrefsRecord& record) const { return reinterpret_cast<UInt8*>(&record) + offset; }
+};
+
+namespace settingrows {
+
+constexpr SettingLimits seconds(double minimum, double maximum) {
+    return {minimum, maximum, 0.5, "%5.1f sec", "seconds"};
+}
+
+constexpr SettingLimits percent(double minimum, double maximum, double step) {
+    return {minimum, maximum, step, "%3.0f%%", "percent"};
+}
+
+constexpr SettingLimits points(double minimum, double maximum) {
+    return {minimum, maximum, 1, "%3.0f points", "points"};
+}
+
+inline constexpr SettingLimits kMilliseconds = {10, 300, 1, "%3.0f ms", "milliseconds"};
+inline constexpr SettingLimits kVolume = {0, 100, 1, "%3.0f", ""};
+
+inline constexpr const char* kScanModes[] = {"Press to start, press to choose",
+                                             "Hold to scan, let go to choose",
+                                             "Each press moves one step"};
+inline constexpr const char* kPressOrRelease[] = {"When I press", "When I let go"};
+inline constexpr const char* kScanAreas[] = {"The whole screen", "Only my own area"};
+inline constexpr const char* kCorners[] = {"Square", "Rounded"};
+
+inline constexpr ChangeMask kBothLines = kChangeScanLineLook | kChangeGuideLineLook;
+
+// A row's key, form, place and group.
+#define SETTING(key, form, field, changes)                                                         \
+    key, &form, offsetof(PrefsRecord, field), sizeof(PrefsRecord::field), changes
+#define SLIDER(outlet) {}, SettingControl::slider, outlet
+#define BUMPER(outlet) {}, SettingControl::bumper, outlet
+#define CHECK(outlet, action) {}, {}, SettingControl::check, outlet, action
+
+/// In the record's order, which is that of loading and saving.
+// clang-format off
+inline constexpr Setting kRows[] = {
+    {SETTING("on", kFlagForm, on, kChangeOnOff), "Scanning"},
+    {SETTING("playClickSounds", kFlagForm, playClickSounds, kChangeSounds),
+     "A sound for each click", CHECK("playClickSoundsCheck", "changedPlayClickSounds:")},
+    {SETTING("playDragPrompts", kFlagForm, playDragPrompts, kChangeSounds),
+     "Prompts while dragging", CHECK("playDragPrompts", "changedPlayDragPrompts:")},
+    {SETTING("priorityScheduling", kFlagForm, priorityScheduling, 0), "Priority over other programs"},
+    {SETTING("launchAtLogin", kFlagForm, launchAtLogin, kChangeLaunch), "Start at login"},
+    {SETTING("activateAtLaunch", kFlagForm, activateAtLaunch, kChangeLaunch), "Scan from the start"},
+    {SETTING("soundLevel", kHexWordForm, soundLevel, kChangeSounds),
+     "Volume", kVolume, SLIDER("volume")},
+    {SETTING("scanner.canScanMenuBar", kFlagForm, canScanMenuBar, 0),
+     "Scan the menu bar too", CHECK("canScanMenuBarCheck", "changedCanScanMenuBar:")},
+    {SETTING("scanner.minTriggerDuration", kRealForm, minTriggerDuration, kChangeTriggers),
+     "Shortest press that counts", seconds(0, 5), SLIDER("minTriggerDuration")},
+    {SETTING("scanner.afterClickDelay", kRealForm, afterClickDelay, kChangeTriggers),
+     "Ignore presses after a click for", seconds(0, 10), SLIDER("afterClickDelay")},
+    {SETTING("scanner.preScanDelay", kRealForm, preScanDelay, kChangeTriggers),
+     "Wait before the scan starts", seconds(0, 10), SLIDER("preScanDelayTime")},
+    {SETTING("scanner.inverseReleaseTime", kRealForm, inverseReleaseTime, kChangeTriggers),
+     "Wait after letting go", seconds(0, 10), SLIDER("inverseReleaseTime")},
+    {SETTING("scanner.stepScanCancelTime", kRealForm, stepScanCancelTime, kChangeTriggers),
+     "Stop without a press for", seconds(1, 60), SLIDER("stepScanCancelTime")},
+    {SETTING("scanner.wantHotKeyTrigger", kFlagForm, wantHotKeyTrigger, kChangeTriggers),
+     "Listen to hot keys", CHECK("wantHotKeyTriggerCheck", "changedWantHotKeyTrigger:")},
+    {SETTING("scanner.wantMouseClickTrigger", kFlagForm, wantMouseClickTrigger, kChangeTriggers),
+     "Listen to mouse clicks", CHECK("wantMouseClickTriggerCheck", "changedWantMouseClickTrigger:")},
+    {SETTING("scanner.triggerOnRelease", kFlagForm, triggerOnRelease, kChangeTriggers),
+     "A press counts", {}, kPressOrRelease},
+    {SETTING("scanner.fakeMouse2SwitchMode", kFlagForm, fakeMouse2SwitchMode, 0),
+     "Second mouse button as a second switch"},
+    {SETTING("scanner.scanMode", kDecimalForm, scanMode, kChangeTriggers),
+     "Scan mode", {}, kScanModes},
+    {SETTING("scanner.scanArea", kRectangleForm, scanArea, kChangeScanArea), "My own area"},
+    {SETTING("scanner.useScanArea", kFlagForm, useScanArea, kChangeScanArea),
+     "Scan", {}, kScanAreas},
+    {SETTING("scanner.lineScanCanEndKybdMode", kFlagForm, lineScanCanEndKybdMode,
+             kChangeKeyboardMode),
+     "Line scan ends keyboard mode",
+     CHECK("lineScanCanEndKybdModeCheck", "changedLineScanCanEndKyndMode:")},
+    {SETTING("scanner.lineScanTime", kRealForm, lineScanTime, kChangeScanSpeed),
+     "Line scan time", seconds(1, 60), SLIDER("lineScanTime")},
+    {SETTING("scanner.pointerScanTime", kRealForm, pointerScanTime, kChangeScanSpeed),
+     "Pointer scan time", seconds(1, 60), SLIDER("pointerScanTime")},
+    {SETTING("scanner.menuScanSpeedScaleFactor", kRealForm, menuScanSpeedScaleFactor,
+             kChangeScanSpeed),
+     "Speed in menus", percent(10, 200, 5), SLIDER("menuScanSpeedScaleFactor")},
+    {SETTING("scanner.useScanAcceleration", kFlagForm, useScanAcceleration, kChangeScanSpeed),
+     "Start slowly, then speed up",
+     CHECK("useScanAccelerationCheck", "changedUseScanAcceleration:")},
+    {SETTING("scanner.autoRepeatTime", kRealForm, autoRepeatTime, kChangeScanSpeed),
+     "Time between repeats", seconds(0.5, 20), SLIDER("autoRepeatTime")},
+    {SETTING("scanner.clickDuration", kRealForm, clickDuration, kChangeScanSpeed),
+     "Length of a click", kMilliseconds, SLIDER("clickTime")},
+    {SETTING("scanner.interClickDelay", kRealForm, interClickDelay, 0), "Pause between clicks"},
+    {SETTING("scanner.lineColor", kColourForm, lineColor, kBothLines), "Line colour"},
+    {SETTING("scanner.lineThickness", kDecimalForm, lineThickness, kBothLines),
+     "Line thickness", points(1, 50), BUMPER("lineThickness")},
+    {SETTING("scanner.lineTransparency", kRealForm, lineTransparency, kChangeScanLineLook),
+     "Scan line transparency", percent(0, 95, 1), SLIDER("lineTransparency")},
+    {SETTING("scanner.lineGhostTransparency", kRealForm, lineGhostTransparency,
+             kChangeGuideLineLook),
+     "Guide line transparency", percent(0, 100, 1), SLIDER("guideTransparency")},
+    {SETTING("scanner.pointerImageName", kTextForm, pointerImageName, kChangePointer), "Pointer"},
+    {SETTING("hotkeys.keys", kHotKeyListForm, hotKeys, kChangeHotKeys), "Hot keys"},
+    {SETTING("palette.borderGap", kDecimalForm, borderGap, kChangePalette),
+     "Space around the edge of the palette", points(0, 100), BUMPER("borderGap")},
+    {SETTING("palette.buttonGap", kDecimalForm, buttonGap, kChangePalette),
+     "Space between palette buttons", points(0, 100), BUMPER("buttonGap")},
+    {SETTING("palette.buttonSize", kSizeForm, buttonSize, kChangePalette),
+     "Size of palette buttons", {kMinButtonSize, kMaxButtonSize}},
+    {SETTING("palette.buttonShape", kHexWordForm, buttonShape, kChangePalette),
+     "Corners of palette buttons", {}, kCorners},
+    {SETTING("palette.buttonContent", kHexWordForm, buttonContent, kChangePalette),
+     "Shown on palette buttons"},
+    {SETTING("palette.buttonActions", kActionListForm, buttonActions, kChangePalette),
+     "Palette buttons"},
+};
+// clang-format on
+
+#undef SETTING
+#undef SLIDER
+#undef BUMPER
+#undef CHECK
+
+/// Whether each field lies after the one before.
+consteval bool isInRecordOrder() {
+    std::size_t end = 0;
+    for (const Setting& row : kRows) {
+        if (row.offset < end)
+            return false;
+        end = row.offset + row.size;
+    }
+    return true;
+}
+
+static_assert(isInRecordOrder());
+
+} // namespace settingrows
+
+inline constexpr std::span<const Setting> kSettings = settingrows::kRows;
