@@ -26,8 +26,8 @@ CFBundle* findBundle(Matches matches) {
 }
 
 CFRef<const CFDictionary> readInfo(const std::string& bundlePath) {
-    const CFFileContents file =
-        CFReadRegularFile(bundlePath + "/Contents/Info.plist", kCFPropertyListMaxSize);
+    const FileContents file =
+        readRegularFile(bundlePath + "/Contents/Info.plist", kCFPropertyListMaxSize);
     const auto root = file.data ? CFPropertyListCreateFromXMLData(file.data.get()) : nullptr;
     return CFRef<const CFDictionary>::retain(dynamicCFCast<CFDictionary>(root.get()));
 }

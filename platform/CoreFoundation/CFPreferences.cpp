@@ -1,11 +1,9 @@
 #include "platform/CoreFoundation/CFPreferences.h"
 
-#include "platform/CoreFoundation/detail/PreferencesDomain.h"
+#include "platform/CoreFoundation/detail/PreferencesFiles.h"
 #include "platform/CoreFoundation/detail/TextEncoding.h"
-#include "platform/CoreFoundation/detail/XDGFolders.h"
 
 #include <charconv>
-#include <map>
 #include <optional>
 #include <strings.h>
 
@@ -17,42 +15,27 @@ const CFString* const kCFPreferencesAnyApplication = CFSTR(".GlobalPreferences")
 
 namespace {
 
-using Readers = PreferencesDomain::Readers;
-using Domains = std::map<std::u16string, PreferencesDomain>;
-
-Domains& domainsOf(Readers readers) {
-    static auto& domains = *new std::map<Readers, Domains>; // kept until the process is gone
-    return domains[readers];
-}
-
-PreferencesDomain* findDomain(const CFString* name, Readers readers) {
-    Domains& domains = domainsOf(readers);
-    const auto known = domains.find(name->text());
-    if (known != domains.end())
-        return &known->second;
-
-    const auto fileName = encodeText(name->text(), kCFStringEncodingUTF8);
-    if (!fileName || fileName->empty() ||
-        fileName->find_first_of(std::string_view("/\0", 2)) != std::string::npos)
-        return nullptr;
-    const std::string folder = readers == Readers::ThisUser ? xdgConfigHome() : xdgSystemConfig();
-    const std::string path = folder + "/Preferences/" + *fileName + ".plist";
-    return &domains.try_emplace(name->text(), path, readers).first->second;
-}
-
-PreferencesDomain* findDomain(const CFString* name, const CFString* user) {
-    if (user == kCFPreferencesCurrentUser)
-        return findDomain(name, Readers::ThisUser);
-    return user == kCFPreferencesAnyUser ? findDomain(name, Readers::Everyone) : nullptr;
-}
-
-const CFType* valueIn(const PreferencesDomain* domain, const CFString* key) {
-    return domain ? domain->value(key) : nullptr;
+const CFType* everyonesValue(const PreferencesFiles& files, const CFString* key) {
+    for (const PreferencesDomain& domain : files.everyones)
+        if (const CFType* value = domain.value(key))
+            return value;
+    return nullptr;
 }
 
 const CFType* appValue(const CFString* key, const CFString* domain) {
-    const CFType* own = valueIn(findDomain(domain, Readers::ThisUser), key);
-    return own ? own : valueIn(findDomain(domain, Readers::Everyone), key);
+    const PreferencesFiles* files = preferencesFiles(domain);
+    if (!files)
+        return nullptr;
+    const CFType* own = files->own.value(key);
+    return own ? own : everyonesValue(*files, key);
+}
+
+/// Where the user's values are written; null when there is no such file.
+PreferencesDomain* writtenDomain(const CFString* name, const CFString* user) {
+    PreferencesFiles* files = preferencesFiles(name);
+    if (files && user == kCFPreferencesCurrentUser)
+        return &files->own;
+    return files && user == kCFPreferencesAnyUser ? &files->everyones.front() : nullptr;
 }
 
 /// The text of a string of ASCII characters, else none.
@@ -120,16 +103,20 @@ bool CFPreferencesAppSynchronize(const CFString* domain) {
 
 CFRef<const CFType> CFPreferencesCopyValue(const CFString* key, const CFString* domain,
                                            const CFString* user, const CFString*) {
-    return CFRef<const CFType>::retain(valueIn(findDomain(domain, user), key));
+    const PreferencesFiles* files = preferencesFiles(domain);
+    if (files && user == kCFPreferencesCurrentUser)
+        return CFRef<const CFType>::retain(files->own.value(key));
+    return CFRef<const CFType>::retain(
+        files && user == kCFPreferencesAnyUser ? everyonesValue(*files, key) : nullptr);
 }
 
 void CFPreferencesSetValue(const CFString* key, const CFType* value, const CFString* domain,
                            const CFString* user, const CFString*) {
-    if (PreferencesDomain* found = findDomain(domain, user))
+    if (PreferencesDomain* found = writtenDomain(domain, user))
         found->setValue(key, value);
 }
 
 bool CFPreferencesSynchronize(const CFString* domain, const CFString* user, const CFString*) {
-    PreferencesDomain* found = findDomain(domain, user);
+    PreferencesDomain* found = writtenDomain(domain, user);
     return found && found->synchronize();
 }

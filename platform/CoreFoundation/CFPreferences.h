@@ -4,8 +4,9 @@
 
 // Preferences: one property list a domain and user. This user's domain `com.example.app` is the
 // file $XDG_CONFIG_HOME/Preferences/com.example.app.plist; all users' domain is Preferences/… under
-// the first folder of $XDG_CONFIG_DIRS. Application-level reads look in this user's file, then in
-// all users', which so serves as an administrator's defaults; they don't look in the global domain.
+// the folders of $XDG_CONFIG_DIRS, read in their order and written in the first. Application-level
+// reads look in this user's file, then in all users', which so serve as an administrator's
+// defaults; they don't look in the global domain.
 //
 // The process keeps each domain in memory from its first use. Setting a value changes that copy and
 // marks the key; synchronising takes the domain's lock, reads the file afresh, applies the marked

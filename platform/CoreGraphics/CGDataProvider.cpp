@@ -3,7 +3,7 @@
 #include "platform/CoreFoundation/detail/FileReading.h"
 
 CFRef<CGDataProvider> CGDataProviderCreateWithURL(const CFURL* url) {
-    CFFileContents file = CFReadRegularFile(url->path(), kCGMaxImageFileSize);
+    FileContents file = readRegularFile(url->path(), kCGMaxImageFileSize);
     if (!file.data)
         return nullptr;
     return CFRef<CGDataProvider>::adopt(new CGDataProvider(std::move(file.data)));

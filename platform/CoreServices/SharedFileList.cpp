@@ -87,8 +87,8 @@ std::string freePath(const std::string& folder, const std::string& identifier,
 }
 
 bool replaceFile(const LSSharedFileList& list, const std::string& path, const std::string& text) {
-    CFPendingFile file(path, text, list.isGlobal() ? 0644 : 0600);
-    return file.isWritten() && file.putInPlace();
+    PendingFile file(path, text, list.isGlobal() ? 0644 : 0600);
+    return file.error() == 0 && file.putInPlace() == 0;
 }
 
 /// Makes the file the last of its folder, also where the clock has been set back or is too coarse.
@@ -176,7 +176,7 @@ CFRef<LSSharedFileListItem> LSSharedFileListInsertItemURL(LSSharedFileList* list
 
     const std::string folder = list->folder();
     std::vector<EntryFile> others;
-    if (!CFMakeFolders(folder, list->isGlobal() ? 0755 : 0700) || !listEntryFiles(folder, others))
+    if (makeFolders(folder, list->isGlobal() ? 0755 : 0700) != 0 || !listEntryFiles(folder, others))
         return nullptr;
     const std::string name = bundleText(bundle.get(), "CFBundleName");
     const std::string path = freePath(folder, identifier, bundle->path());

@@ -33,7 +33,7 @@ OSErr RegisterIconRefFromFSRef(OSType creator, OSType iconType, const FSRef* fil
     const std::pair key(creator, iconType);
     if (registeredIcons().contains(key))
         return paramErr;
-    const CFFileContents content = CFReadRegularFile(file->path, kMaxIconFamilySize);
+    const FileContents content = readRegularFile(file->path, kMaxIconFamilySize);
     if (!content.data)
         return fnfErr;
     CFRef<Icon> made = makeIcon(content.data);

@@ -7,13 +7,15 @@
 
 namespace {
 
-CFFileContents readOpenFile(int file, std::size_t limit) {
+FileContents readOpenFile(int file, std::size_t limit) {
     struct stat info {};
 
-    if (fstat(file, &info) != 0 || !S_ISREG(info.st_mode))
-        return {CFFileStatus::Unreadable, nullptr};
+    if (fstat(file, &info) != 0)
+        return {FileStatus::Unreadable, nullptr, errno};
+    if (!S_ISREG(info.st_mode))
+        return {FileStatus::Unreadable, nullptr};
     if (static_cast<std::size_t>(info.st_size) > limit)
-        return {CFFileStatus::TooLarge, nullptr};
+        return {FileStatus::TooLarge, nullptr};
 
     // One byte more than the size, so that a file that grows meanwhile is noticed.
     std::vector<UInt8> bytes(static_cast<std::size_t>(info.st_size) + 1);
@@ -23,28 +25,28 @@ CFFileContents readOpenFile(int file, std::size_t limit) {
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)
-            return {CFFileStatus::Unreadable, nullptr};
+            return {FileStatus::Unreadable, nullptr, errno};
         if (got == 0)
             break;
         filled += static_cast<std::size_t>(got);
         if (filled > limit)
-            return {CFFileStatus::TooLarge, nullptr};
+            return {FileStatus::TooLarge, nullptr};
         if (filled == bytes.size())
             bytes.resize(filled * 2);
     }
     bytes.resize(filled);
-    return {CFFileStatus::Read, CFRef<CFData>::adopt(new CFData(std::move(bytes)))};
+    return {FileStatus::Read, CFRef<CFData>::adopt(new CFData(std::move(bytes)))};
 }
 
 } // namespace
 
-CFFileContents CFReadRegularFile(const std::string& path, std::size_t limit) {
+FileContents readRegularFile(const std::string& path, std::size_t limit) {
     const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (file < 0) {
         const bool missing = errno == ENOENT || errno == ENOTDIR;
-        return {missing ? CFFileStatus::Missing : CFFileStatus::Unreadable, nullptr};
+        return {missing ? FileStatus::Missing : FileStatus::Unreadable, nullptr, errno};
     }
-    CFFileContents contents = readOpenFile(file, limit);
+    FileContents contents = readOpenFile(file, limit);
     close(file);
     return contents;
 }

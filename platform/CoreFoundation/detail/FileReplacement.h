@@ -4,50 +4,38 @@
 #include <string_view>
 
 // Steps of replacing a file so that at every moment, a crash and a full disk included, its name
-// stands for the whole old or the whole new content.
-
-/// An exclusive lock between processes, held while the object lives. It lies on a file of its own,
-/// since the guarded file itself is another one after each replacement.
-class CFFileLock {
-public:
-    /// Waits up to two seconds for another holder.
-    CFFileLock(const std::string& path, unsigned mode);
-    ~CFFileLock();
-    CFFileLock(const CFFileLock&) = delete;
-    CFFileLock& operator=(const CFFileLock&) = delete;
-
-    bool isHeld() const { return held_; }
-
-private:
-    int file_;
-    bool held_ = false;
-};
+// stands for the whole old or the whole new content. Errors are errno's numbers, 0 for none.
 
 /// Makes the folder and those above it that are missing.
-bool CFMakeFolders(const std::string& path, unsigned mode);
+int makeFolders(const std::string& path, unsigned mode);
 
 /// The path at the end of the symbolic links at `path`, whether or not a file is there.
-std::string CFResolveLinks(std::string path);
+std::string resolveLinks(std::string path);
 
 /// A new file's content beside the place where it is going to be, on disk already. Removed again
-/// unless it was put there.
-class CFPendingFile {
+/// unless it was put there. What a crash left at its name, <destination>.new, is removed first.
+class PendingFile {
 public:
-    CFPendingFile(const std::string& destination, std::string_view content, unsigned mode);
-    ~CFPendingFile();
-    CFPendingFile(const CFPendingFile&) = delete;
-    CFPendingFile& operator=(const CFPendingFile&) = delete;
+    PendingFile(const std::string& destination, std::string_view content, unsigned mode);
+    ~PendingFile();
+    PendingFile(const PendingFile&) = delete;
+    PendingFile& operator=(const PendingFile&) = delete;
 
-    bool isWritten() const { return written_; }
+    /// Of writing it.
+    int error() const { return error_; }
 
     /// Renames it over what is at the destination.
-    bool putInPlace();
+    int putInPlace();
 
 private:
+    int write(std::string_view content, unsigned mode) const;
+
     std::string destination_;
     std::string path_;
-    bool written_ = false;
+    int error_;
+    bool isThere_;
 };
 
-/// Gives the file a second name, `path`.damaged-<n> with the first free n.
-bool CFKeepAside(const std::string& path);
+/// Gives the file a second name, `path`.damaged-<n> with the first free n. Empty with errno set
+/// when it can't.
+std::string keepAside(const std::string& path);

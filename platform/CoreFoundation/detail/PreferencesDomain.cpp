@@ -1,7 +1,12 @@
 #include "platform/CoreFoundation/detail/PreferencesDomain.h"
 
+#include "platform/CoreFoundation/detail/FileLock.h"
 #include "platform/CoreFoundation/detail/FileReading.h"
 #include "platform/CoreFoundation/detail/FileReplacement.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <unistd.h>
 
 namespace {
 
@@ -20,6 +25,48 @@ CFRef<const CFType> storableValue(const CFString* key, const CFType* value) {
     const auto copy = CFPropertyListCreateDeepCopy(entry.get());
     const auto* stored = dynamicCFCast<CFDictionary>(copy.get());
     return CFRef<const CFType>::retain(stored ? CFDictionaryGetValue(stored, key) : nullptr);
+}
+
+FileTrouble troubleOf(int error) {
+    switch (error) {
+    case EACCES:
+    case EPERM:
+        return FileTrouble::NotAllowed;
+    case EROFS:
+        return FileTrouble::ReadOnly;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+        return FileTrouble::Full;
+    case EWOULDBLOCK:
+        return FileTrouble::InUse;
+    case EISDIR:
+    case ENOTDIR:
+    case EEXIST:
+    case ELOOP:
+        return FileTrouble::InTheWay;
+    default:
+        return FileTrouble::Failed;
+    }
+}
+
+PreferencesOutcome failure(int error, const std::string& path) {
+    return {troubleOf(error), path, false, error};
+}
+
+/// Writes the whole document to a file beside the target and puts it there. With `aside`, what is
+/// there is kept under the name that it gets.
+PreferencesOutcome replaceFile(const std::string& target, const std::string& document,
+                               unsigned mode, std::string* aside = nullptr) {
+    if (document.empty())
+        return {FileTrouble::TooLarge, target};
+    PendingFile file(target, document, mode);
+    if (file.error() != 0)
+        return failure(file.error(), target);
+    if (aside && (*aside = keepAside(target)).empty())
+        return failure(errno, target);
+    const int error = file.putInPlace();
+    return error != 0 ? failure(error, target) : PreferencesOutcome{FileTrouble::None, target};
 }
 
 } // namespace
@@ -44,40 +91,59 @@ void PreferencesDomain::setValue(const CFString* key, const CFType* newValue) {
 }
 
 bool PreferencesDomain::synchronize() {
-    if (changes_.empty()) {
+    if (!isUnsaved()) {
         const FileState state = refresh();
         return state == FileState::Sound || state == FileState::Missing;
     }
-    if (!CFMakeFolders(path_.substr(0, path_.rfind('/')), folderMode(readers_)))
-        return false;
-    const CFFileLock lock(path_ + ".lock", fileMode(readers_));
-    return lock.isHeld() && write(refresh());
+    saved_ = save();
+    return saved_.trouble == FileTrouble::None;
+}
+
+PreferencesOutcome PreferencesDomain::save() {
+    if (const int error = makeFolders(folder(), folderMode(readers_)))
+        return failure(error, folder());
+    const FileLock lock(path_ + ".lock", fileMode(readers_));
+    if (lock.error() != 0)
+        return failure(lock.error(), path_ + ".lock");
+    return write(refresh());
 }
 
 /// Takes the file's content in, unless it is the one that is known.
 PreferencesDomain::FileState PreferencesDomain::refresh() {
-    const CFFileContents file = CFReadRegularFile(path_, kCFPropertyListMaxSize);
+    const FileContents file = readRegularFile(path_, kCFPropertyListMaxSize);
     switch (file.status) {
-    case CFFileStatus::Unreadable:
-        return FileState::Unreadable;
-    case CFFileStatus::TooLarge:
-        return FileState::Damaged;
-    case CFFileStatus::Missing:
+    case FileStatus::Unreadable:
+        return note(FileState::Unreadable, file.error);
+    case FileStatus::TooLarge:
+        return note(FileState::Damaged);
+    case FileStatus::Missing:
         stored_ = CFDictionaryCreateMutable();
         content_ = nullptr;
-        return FileState::Missing;
-    case CFFileStatus::Read:
+        return note(FileState::Missing);
+    case FileStatus::Read:
         break;
     }
     if (CFEqual(file.data.get(), content_.get()))
-        return FileState::Sound;
+        return note(FileState::Sound);
     const auto root = CFPropertyListCreateFromXMLData(file.data.get());
     const auto* dictionary = dynamicCFCast<CFDictionary>(root.get());
     if (!dictionary)
-        return FileState::Damaged;
+        return note(FileState::Damaged);
     stored_ = CFRef<const CFDictionary>::retain(dictionary);
     content_ = file.data;
-    return FileState::Sound;
+    return note(FileState::Sound);
+}
+
+/// Keeps what the file's state means for the user; `error` is errno for an unreadable one.
+PreferencesDomain::FileState PreferencesDomain::note(FileState state, int error) {
+    if (state == FileState::Unreadable)
+        loaded_ =
+            error != 0 ? failure(error, path_) : PreferencesOutcome{FileTrouble::InTheWay, path_};
+    else if (state == FileState::Damaged)
+        loaded_ = {FileTrouble::Damaged, path_};
+    else if (!loaded_.isKeptAside)
+        loaded_ = {FileTrouble::None, path_};
+    return state;
 }
 
 /// The stored values with the changes in them.
@@ -93,19 +159,37 @@ CFRef<const CFDictionary> PreferencesDomain::merged() const {
 }
 
 /// Called under the lock, with what `refresh` just found.
-bool PreferencesDomain::write(FileState state) {
+PreferencesOutcome PreferencesDomain::write(FileState state) {
+    if (state == FileState::Unreadable)
+        return loaded_;
     CFRef<const CFDictionary> values = merged();
     const std::string document = CFPropertyListToXML(values.get());
-    if (state == FileState::Unreadable || document.empty())
-        return false;
-    const std::string target = CFResolveLinks(path_);
-    CFPendingFile file(target, document, fileMode(readers_));
-    if (!file.isWritten() || (state == FileState::Damaged && !CFKeepAside(target)) ||
-        !file.putInPlace())
-        return false;
+    const std::string target = resolveLinks(path_);
+    const bool isDamaged = state == FileState::Damaged;
+    std::string aside;
+    PreferencesOutcome outcome =
+        replaceFile(target, document, fileMode(readers_), isDamaged ? &aside : nullptr);
+    if (!aside.empty())
+        loaded_ = {FileTrouble::Damaged, aside, true};
+    if (outcome.trouble != FileTrouble::None)
+        return outcome;
     stored_ = std::move(values);
     content_ = CFDataCreate(reinterpret_cast<const UInt8*>(document.data()),
                             static_cast<CFIndex>(document.size()));
     changes_.clear();
-    return true;
+    return outcome;
+}
+
+PreferencesOutcome PreferencesDomain::saveOutlook() const {
+    std::string above = folder();
+    while (above.rfind('/') != 0 && access(above.c_str(), F_OK) != 0 && errno == ENOENT)
+        above.erase(above.rfind('/'));
+    if (!std::filesystem::is_directory(above))
+        return failure(ENOTDIR, above);
+    return access(above.c_str(), W_OK | X_OK) == 0 ? PreferencesOutcome{FileTrouble::None, path_}
+                                                   : failure(errno, above);
+}
+
+PreferencesOutcome PreferencesDomain::saveCopy(const std::string& path) const {
+    return replaceFile(resolveLinks(path), CFPropertyListToXML(merged().get()), fileMode(readers_));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/CoreFoundation/CFPropertyList.h"
+#include "platform/CoreFoundation/PreferencesOutcome.h"
 
 /// One domain of one user scope: its values in memory, and the file behind them. CFPreferences.h
 /// says how they meet.
@@ -16,16 +17,35 @@ public:
     void setValue(const CFString* key, const CFType* value);
     bool synchronize();
 
+    // See PreferencesOutcome.h.
+
+    const PreferencesOutcome& loadOutcome() const { return loaded_; }
+
+    const PreferencesOutcome& saveOutcome() const { return saved_; }
+
+    PreferencesOutcome saveOutlook() const;
+
+    bool isUnsaved() const { return !changes_.empty(); }
+
+    PreferencesOutcome saveCopy(const std::string& path) const;
+
 private:
     enum class FileState { Sound, Missing, Damaged, Unreadable };
 
     FileState refresh();
+    FileState note(FileState state, int error = 0);
     CFRef<const CFDictionary> merged() const;
-    bool write(FileState state);
+
+    std::string folder() const { return path_.substr(0, path_.rfind('/')); }
+
+    PreferencesOutcome save();
+    PreferencesOutcome write(FileState state);
 
     std::string path_;
     Readers readers_;
     CFRef<const CFDictionary> stored_; ///< the file's values when last read or written
     CFRef<const CFData> content_;      ///< the bytes of that file, or null
     CFDictionary::Items changes_;      ///< what was set since; null for a key that was removed
+    PreferencesOutcome loaded_;
+    PreferencesOutcome saved_;
 };

@@ -39,8 +39,12 @@ std::string xdgConfigHome() {
     return folder.empty() ? homeFolder() + "/.config" : folder;
 }
 
+std::vector<std::string> xdgSystemConfigFolders() {
+    return foldersOfVariable("XDG_CONFIG_DIRS", {"/etc/xdg"});
+}
+
 std::string xdgSystemConfig() {
-    return foldersOfVariable("XDG_CONFIG_DIRS", {"/etc/xdg"}).front();
+    return xdgSystemConfigFolders().front();
 }
 
 std::vector<std::string> xdgDataFolders() {

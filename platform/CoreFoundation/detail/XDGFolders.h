@@ -9,7 +9,10 @@
 /// $XDG_CONFIG_HOME, or .config in the home folder.
 std::string xdgConfigHome();
 
-/// The first absolute folder of $XDG_CONFIG_DIRS, or /etc/xdg.
+/// The absolute folders of $XDG_CONFIG_DIRS, or /etc/xdg. Never empty; the first wins.
+std::vector<std::string> xdgSystemConfigFolders();
+
+/// The first of them, where this machine's files are written.
 std::string xdgSystemConfig();
 
 /// $XDG_DATA_HOME, or .local/share in the home folder; then the absolute folders of $XDG_DATA_DIRS,

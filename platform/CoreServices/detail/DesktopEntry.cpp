@@ -44,7 +44,7 @@ bool isExecutable(const std::string& program) {
 } // namespace
 
 DesktopEntry readDesktopEntry(const std::string& path) {
-    const CFFileContents file = CFReadRegularFile(path, kMaxEntrySize);
+    const FileContents file = readRegularFile(path, kMaxEntrySize);
     if (!file.data)
         return {};
     const auto bytes = file.data->bytes();

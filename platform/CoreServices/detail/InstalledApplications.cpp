@@ -56,7 +56,7 @@ OSType codeOfText(const CFString* text) {
 }
 
 BundleInfo readBundleInfo(const std::string& path) {
-    const CFFileContents file = CFReadRegularFile(path, kCFPropertyListMaxSize);
+    const FileContents file = readRegularFile(path, kCFPropertyListMaxSize);
     const auto root = file.data ? CFPropertyListCreateFromXMLData(file.data.get()) : nullptr;
     const auto* info = dynamicCFCast<CFDictionary>(root.get());
     if (!info)

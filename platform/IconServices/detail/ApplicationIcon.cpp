@@ -91,7 +91,7 @@ IconFiles filesOfApplication(const InstalledApplication& application) {
 
 void addFile(IconImages& images, const std::string& path) {
     const std::string suffix = std::filesystem::path(path).extension();
-    const CFRef<const CFData> data = CFReadRegularFile(path, kMaxIconFamilySize).data;
+    const CFRef<const CFData> data = readRegularFile(path, kMaxIconFamilySize).data;
     if (!data)
         return;
     if (suffix == ".icns")

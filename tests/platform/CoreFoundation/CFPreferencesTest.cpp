@@ -1,4 +1,5 @@
 #include "platform/CoreFoundation/CFPreferences.h"
+#include "platform/CoreFoundation/PreferencesOutcome.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <csignal>
@@ -90,12 +91,14 @@ TEST_F(CFPreferencesTest, ReadersTakeWhatReadsAsTheirType) {
 
 TEST_F(CFPreferencesTest, AllUsersValuesAreDefaults) {
     // What isn't absolute in the environment doesn't count.
-    const std::string relative = "relative::";
+    const std::string relative = "relative::", vendors = makeSandboxFolder("vendor");
     setenv("XDG_CONFIG_HOME", "relative", 1);
-    setenv("XDG_CONFIG_DIRS", (relative + std::getenv("XDG_CONFIG_DIRS")).c_str(), 1);
+    setenv("XDG_CONFIG_DIRS", (relative + std::getenv("XDG_CONFIG_DIRS") + ':' + vendors).c_str(),
+           1);
     writeFile(everyones_, file("a=admin b=admin"));
+    writeFile(fs::path(vendors) / "Preferences" / everyones_.filename(), file("b=v d=vendor"));
     set("a", "mine");
-    EXPECT_EQ(get("a") + get("b"), "mineadmin");
+    EXPECT_EQ(get("a") + get("b") + get("d"), "mineadminvendor");
     EXPECT_FALSE(fs::exists(own_)) << "before synchronising";
     set("b", "admin"); // chosen by this user too: stored, though it changes nothing now
     EXPECT_TRUE(synchronize());
@@ -161,6 +164,7 @@ TEST_F(CFPreferencesTest, DamagedFileIsKeptAside) {
         writeFile(own_.string() + ".damaged-1", "earlier");
         EXPECT_EQ(get("a"), "-");
         EXPECT_FALSE(synchronize());
+        EXPECT_EQ(preferencesLoadOutcome(domain_.get()).path, own_);
         set("b", "2");
         EXPECT_TRUE(synchronize());
         EXPECT_EQ(stored(own_), file("b=2"));
@@ -172,6 +176,9 @@ TEST_F(CFPreferencesTest, DamagedFileIsKeptAside) {
         EXPECT_TRUE(synchronize());
         EXPECT_EQ(stored(own_), file("b=2 c=3")) << "damaged later, replaced by what is known";
         EXPECT_EQ(readFile(own_.string() + ".damaged-3"), "garbage");
+        const PreferencesOutcome outcome = preferencesLoadOutcome(domain_.get());
+        EXPECT_TRUE(outcome.trouble == FileTrouble::Damaged && outcome.isKeptAside);
+        EXPECT_EQ(outcome.path, own_.string() + ".damaged-3");
     }
 }
 
@@ -192,9 +199,13 @@ TEST_F(CFPreferencesTest, WhatIsInTheWayIsLeftAloneAndTheMarksStay) {
     useDomain("org.example.obstacles");
     const fs::path folder = own_.parent_path();
     writeFile(own_, file("a=1"));
-    const auto expectRefused = [&](const char* what, const std::function<void()>& clear) {
+    const auto expectRefused = [&](const char* what, FileTrouble trouble, const fs::path& path,
+                                   const std::function<void()>& clear) {
         set("b", std::string(2000, 'x'));
         EXPECT_FALSE(synchronize()) << what;
+        const PreferencesOutcome outcome = preferencesSaveOutcome(domain_.get());
+        EXPECT_TRUE(outcome.trouble == trouble && preferencesAreUnsaved(domain_.get())) << what;
+        EXPECT_EQ(outcome.path, path) << what;
         clear();
         EXPECT_EQ(stored(own_), file("a=1")) << what;
         for (const char* left : {".new", ".damaged-1"})
@@ -205,7 +216,7 @@ TEST_F(CFPreferencesTest, WhatIsInTheWayIsLeftAloneAndTheMarksStay) {
     fs::permissions(folder, fs::perms(0777));
     fs::permissions(own_, fs::perms::none);
     ASSERT_EQ(geteuid() == 0 ? seteuid(65534) : 0, 0); // root reads everything
-    expectRefused("unreadable", [&] {
+    expectRefused("unreadable", FileTrouble::NotAllowed, own_, [&] {
         ASSERT_EQ(seteuid(getuid()), 0);
         fs::permissions(own_, fs::perms(0600));
     });
@@ -215,24 +226,32 @@ TEST_F(CFPreferencesTest, WhatIsInTheWayIsLeftAloneAndTheMarksStay) {
     getrlimit(RLIMIT_FSIZE, &sizes);
     const rlimit small{1000, sizes.rlim_max};
     setrlimit(RLIMIT_FSIZE, &small);
-    expectRefused("full disk", [&] { setrlimit(RLIMIT_FSIZE, &sizes); });
+    expectRefused("full disk", FileTrouble::Full, own_, [&] { setrlimit(RLIMIT_FSIZE, &sizes); });
 
-    const int lock = open((own_.string() + ".lock").c_str(), O_RDWR | O_CREAT, 0600);
+    const std::string lockPath = own_.string() + ".lock";
+    const int lock = open(lockPath.c_str(), O_RDWR | O_CREAT, 0600);
     ASSERT_EQ(flock(lock, LOCK_EX), 0);
-    expectRefused("somebody holds the lock", [&] { close(lock); });
+    expectRefused("somebody holds the lock", FileTrouble::InUse, lockPath, [&] { close(lock); });
 
     fs::rename(own_, aside);
     ASSERT_EQ(mkfifo(own_.c_str(), 0600), 0);
-    expectRefused("no regular file", [&] { fs::rename(aside, own_); });
+    expectRefused("no regular file", FileTrouble::InTheWay, own_, [&] { fs::rename(aside, own_); });
 
     fs::rename(folder, aside);
     writeFile(folder, "in the way");
-    expectRefused("no folder", [&] {
+    EXPECT_EQ(preferencesSaveOutlook(domain_.get()).path, folder);
+    const fs::path copy = config / "copy.plist";
+    EXPECT_EQ(preferencesSaveCopy(domain_.get(), copy).trouble, FileTrouble::None);
+    expectRefused("no folder", FileTrouble::InTheWay, folder, [&] {
         fs::remove(folder);
         fs::rename(aside, folder);
     });
 
+    ASSERT_EQ(mkfifo((own_.string() + ".new").c_str(), 0600), 0); // left behind: goes
+    EXPECT_EQ(preferencesSaveOutlook(domain_.get()).trouble, FileTrouble::None);
     EXPECT_TRUE(synchronize());
+    EXPECT_EQ(readFile(copy), readFile(own_));
+    EXPECT_FALSE(preferencesAreUnsaved(domain_.get()));
     EXPECT_EQ(stored(own_), file("a=1 b=" + std::string(2000, 'x')));
 }
 

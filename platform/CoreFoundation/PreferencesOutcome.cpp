@@ -1,0 +1,44 @@
+#include "platform/CoreFoundation/PreferencesOutcome.h"
+
+#include "platform/CoreFoundation/detail/PreferencesFiles.h"
+
+#include <functional>
+
+namespace {
+
+/// What the operation says of this user's file; InTheWay for a name that is no file's.
+template <class Operation>
+PreferencesOutcome askOwnFile(const CFString* domain, Operation operation) {
+    const PreferencesFiles* files = preferencesFiles(domain);
+    return files ? operation(files->own) : PreferencesOutcome{FileTrouble::InTheWay, {}};
+}
+
+} // namespace
+
+PreferencesOutcome preferencesLoadOutcome(const CFString* domain) {
+    return askOwnFile(domain, std::mem_fn(&PreferencesDomain::loadOutcome));
+}
+
+PreferencesOutcome preferencesSaveOutcome(const CFString* domain) {
+    return askOwnFile(domain, std::mem_fn(&PreferencesDomain::saveOutcome));
+}
+
+PreferencesOutcome preferencesSaveOutlook(const CFString* domain) {
+    return askOwnFile(domain, std::mem_fn(&PreferencesDomain::saveOutlook));
+}
+
+bool preferencesAreUnsaved(const CFString* domain) {
+    const PreferencesFiles* files = preferencesFiles(domain);
+    return files && files->own.isUnsaved();
+}
+
+PreferencesOutcome preferencesSaveCopy(const CFString* domain, const std::string& path) {
+    return askOwnFile(domain, [&](const auto& own) { return own.saveCopy(path); });
+}
+
+std::vector<const CFString*> preferencesDomainsInUse() {
+    std::vector<const CFString*> names;
+    for (const auto& [key, files] : allPreferencesFiles())
+        names.push_back(files.name.get());
+    return names;
+}
