@@ -42,7 +42,7 @@ Arguments parseArguments(int argc, char** argv) {
 std::string findOwnBundle() {
     std::error_code error;
     const auto folder = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
-    for (const char* place : {"..", ".", "../lib/korvex"}) {
+    for (const char* place : {"..", KORVEX_DIR_FROM_PROGRAM}) {
         const auto bundle = (folder / place / "Korvex.prefPane").lexically_normal();
         if (std::filesystem::is_directory(bundle, error))
             return bundle;
