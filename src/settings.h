@@ -31,7 +31,8 @@ struct Setting {
     SettingLimits limits = {};
     std::span<const char* const> choices = {}; ///< a choice's values in words, from 0 on
     SettingControl control = SettingControl::other;
-    const char* outlet = nullptr; ///< the wrangler's, of the control; null for `other`
+    const char* outlet = nullptr; ///< the wrangler's, of the control; null for `other`, which has
+                                  ///< an outlet outside of this table or none
     const char* action = nullptr; ///< what a check box sends; null for any other control
 
     bool isNumber() const { return limits.format != nullptr; }
@@ -75,6 +76,7 @@ inline constexpr ChangeMask kBothLines = kChangeScanLineLook | kChangeGuideLineL
 #define SLIDER(outlet) {}, SettingControl::slider, outlet
 #define BUMPER(outlet) {}, SettingControl::bumper, outlet
 #define CHECK(outlet, action) {}, {}, SettingControl::check, outlet, action
+#define ACTION(action) {}, {}, SettingControl::other, nullptr, action
 
 /// In the record's order, which is that of loading and saving.
 // clang-format off
@@ -85,8 +87,10 @@ inline constexpr Setting kRows[] = {
     {SETTING("playDragPrompts", kFlagForm, playDragPrompts, kChangeSounds),
      "Prompts while dragging", CHECK("playDragPrompts", "changedPlayDragPrompts:")},
     {SETTING("priorityScheduling", kFlagForm, priorityScheduling, 0), "Priority over other programs"},
-    {SETTING("launchAtLogin", kFlagForm, launchAtLogin, kChangeLaunch), "Start at login"},
-    {SETTING("activateAtLaunch", kFlagForm, activateAtLaunch, kChangeLaunch), "Scan from the start"},
+    {SETTING("launchAtLogin", kFlagForm, launchAtLogin, kChangeLaunch),
+     "Start at login", ACTION("changedLaunchAtLogin:")},
+    {SETTING("activateAtLaunch", kFlagForm, activateAtLaunch, kChangeLaunch),
+     "Scan from the start", ACTION("changedActivateAtLaunch:")},
     {SETTING("soundLevel", kHexWordForm, soundLevel, kChangeSounds),
      "Volume", kVolume, SLIDER("volume")},
     {SETTING("scanner.canScanMenuBar", kFlagForm, canScanMenuBar, 0),
@@ -162,6 +166,7 @@ inline constexpr Setting kRows[] = {
 #undef SLIDER
 #undef BUMPER
 #undef CHECK
+#undef ACTION
 
 /// Whether each field lies after the one before.
 consteval bool isInRecordOrder() {

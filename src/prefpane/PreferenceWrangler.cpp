@@ -24,54 +24,31 @@ void wranglerSetMasterOnOff(bool on) {
 
 std::span<const NSOutlet> PreferenceWrangler::outlets() const {
     using W = PreferenceWrangler;
-    static constexpr NSOutlet table[] = {
+    static constexpr NSOutlet own[] = {
         nsOutlet<&W::activateAtLaunch_>("activateAtLaunch"),
         nsOutlet<&W::addButtonBtn_>("addButtonBtn"),
-        nsOutlet<&W::autoRepeatTime_>("autoRepeatTime"),
-        nsOutlet<&W::borderGap_>("borderGap"),
         nsOutlet<&W::buttonContentIconCheck_>("buttonContentIconCheck"),
         nsOutlet<&W::buttonContentNameCheck_>("buttonContentNameCheck"),
-        nsOutlet<&W::buttonGap_>("buttonGap"),
         nsOutlet<&W::buttonHeight_>("buttonHeight"),
         nsOutlet<&W::buttonShapeRadios_>("buttonShapeRadios"),
         nsOutlet<&W::buttonSize_>("buttonSize"),
         nsOutlet<&W::buttonWidth_>("buttonWidth"),
-        nsOutlet<&W::canScanMenuBarCheck_>("canScanMenuBarCheck"),
-        nsOutlet<&W::clickTime_>("clickTime"),
-        nsOutlet<&W::guideTransparency_>("guideTransparency"),
-        nsOutlet<&W::inverseReleaseTime_>("inverseReleaseTime"),
         nsOutlet<&W::launchAtLogin_>("launchAtLogin"),
         nsOutlet<&W::lineColor_>("lineColor"),
-        nsOutlet<&W::lineScanCanEndKybdModeCheck_>("lineScanCanEndKybdModeCheck"),
-        nsOutlet<&W::lineScanTime_>("lineScanTime"),
-        nsOutlet<&W::lineThickness_>("lineThickness"),
-        nsOutlet<&W::lineTransparency_>("lineTransparency"),
         nsOutlet<&W::masterOnOffRadios_>("masterOnOffRadios"),
-        nsOutlet<&W::menuScanSpeedScaleFactor_>("menuScanSpeedScaleFactor"),
-        nsOutlet<&W::minTriggerDuration_>("minTriggerDuration"),
         nsOutlet<&W::palettePrompt_>("palettePrompt"),
         nsOutlet<&W::paletteView_>("paletteView"),
-        nsOutlet<&W::playClickSoundsCheck_>("playClickSoundsCheck"),
-        nsOutlet<&W::playDragPrompts_>("playDragPrompts"),
-        nsOutlet<&W::pointerScanTime_>("pointerScanTime"),
-        nsOutlet<&W::afterClickDelay_>("afterClickDelay"),
         nsOutlet<&W::pointerName_>("pointerName"),
-        nsOutlet<&W::preScanDelayTime_>("preScanDelayTime"),
         nsOutlet<&W::removeButtonBtn_>("removeButtonBtn"),
         nsOutlet<&W::resetActionsBtn_>("resetActionsBtn"),
         nsOutlet<&W::sampleScanImage_>("sampleScanImage"),
         nsOutlet<&W::scanAreaText_>("scanAreaText"),
         nsOutlet<&W::scanModeRadios_>("scanModeRadios"),
         nsOutlet<&W::setActionBtn_>("setActionBtn"),
-        nsOutlet<&W::stepScanCancelTime_>("stepScanCancelTime"),
         nsOutlet<&W::swapWithBtn_>("swapWithBtn"),
         nsOutlet<&W::prefsTabs_>("prefsTabs"),
         nsOutlet<&W::triggerOnReleaseRadios_>("triggerOnReleaseRadios"),
-        nsOutlet<&W::useScanAccelerationCheck_>("useScanAccelerationCheck"),
         nsOutlet<&W::useScanAreaRadios_>("useScanAreaRadios"),
-        nsOutlet<&W::volume_>("volume"),
-        nsOutlet<&W::wantHotKeyTriggerCheck_>("wantHotKeyTriggerCheck"),
-        nsOutlet<&W::wantMouseClickTriggerCheck_>("wantMouseClickTriggerCheck"),
         nsOutlet<&W::masterOnOffKey_>("masterOnOffKey"),
         nsOutlet<&W::masterOnOffKeyBtn_>("masterOnOffKeyBtn"),
         nsOutlet<&W::masterOnOffKeyNote_>("masterOnOffKeyNote"),
@@ -93,24 +70,18 @@ std::span<const NSOutlet> PreferenceWrangler::outlets() const {
         nsOutlet<&W::defaultKeyBtn_>("defaultKeyBtn"),
         nsOutlet<&W::noKeyBtn_>("noKeyBtn"),
     };
+    static const auto table = withSettings<NSOutlet>(own);
     return table;
 }
 
 std::span<const NSAction> PreferenceWrangler::actions() const {
     using W = PreferenceWrangler;
-    static constexpr NSAction table[] = {
+    static constexpr NSAction own[] = {
         nsAction<&W::showHelp>("showHelp:"),
         nsAction<&W::changedMasterOnOff>("changedMasterOnOff:"),
-        nsAction<&W::changedWantMouseClickTrigger>("changedWantMouseClickTrigger:"),
-        nsAction<&W::changedWantHotKeyTrigger>("changedWantHotKeyTrigger:"),
         nsAction<&W::changedUseScanArea>("changedUseScanArea:"),
-        nsAction<&W::changedUseScanAcceleration>("changedUseScanAcceleration:"),
         nsAction<&W::changedTriggerOnRelease>("changedTriggerOnRelease:"),
         nsAction<&W::changedScanMode>("changedScanMode:"),
-        nsAction<&W::changedPlayDragPrompts>("changedPlayDragPrompts:"),
-        nsAction<&W::changedPlayClickSounds>("changedPlayClickSounds:"),
-        nsAction<&W::changedLineScanCanEndKyndMode>("changedLineScanCanEndKyndMode:"),
-        nsAction<&W::changedCanScanMenuBar>("changedCanScanMenuBar:"),
         nsAction<&W::changedLineColor>("changedLineColor:"),
         nsAction<&W::setCustomScanArea>("setCustomScanArea:"),
         nsAction<&W::setHotKeyToNone>("setHotKeyToNone:"),
@@ -119,8 +90,6 @@ std::span<const NSAction> PreferenceWrangler::actions() const {
         nsAction<&W::captureHotKey>("captureHotKey:"),
         nsAction<&W::removeHotKey>("removeHotKey:"),
         nsAction<&W::resetHotKey>("resetHotKey:"),
-        nsAction<&W::changedLaunchAtLogin>("changedLaunchAtLogin:"),
-        nsAction<&W::changedActivateAtLaunch>("changedActivateAtLaunch:"),
         nsAction<&W::addPaletteBtn>("addPaletteBtn:"),
         nsAction<&W::setPaletteBtnAction>("setPaletteBtnAction:"),
         nsAction<&W::removePaletteButton>("removePaletteButton:"),
@@ -132,6 +101,7 @@ std::span<const NSAction> PreferenceWrangler::actions() const {
         nsAction<&W::previousPointer>("previousPointer:"),
         nsAction<&W::nextPointer>("nextPointer:"),
     };
+    static const auto table = withSettings<NSAction>(own);
     return table;
 }
 
@@ -142,52 +112,20 @@ void PreferenceWrangler::awakeFromNib() {
 void PreferenceWrangler::setup() {
     NumberController::setChangeTarget(this);
 
-    struct SliderRow {
-        SliderController* controller;
-        void* field;
-        double step;
-        ChangeMask changes;
-        const char* format;
-    };
-
-    constexpr auto kSeconds = "%5.1f sec";
-    constexpr auto kMilliseconds = "%3.0f ms";
-    constexpr auto kPercent = "%3.0f%%";
-    const SliderRow sliders[] = {
-        {autoRepeatTime_, &prefs.autoRepeatTime, 0.5, kChangeScanSpeed, kSeconds},
-        {guideTransparency_, &prefs.lineGhostTransparency, 1.0, kChangeGuideLineLook, kPercent},
-        {inverseReleaseTime_, &prefs.inverseReleaseTime, 0.5, kChangeTriggers, kSeconds},
-        {stepScanCancelTime_, &prefs.stepScanCancelTime, 0.5, kChangeTriggers, kSeconds},
-        {preScanDelayTime_, &prefs.preScanDelay, 0.5, kChangeTriggers, kSeconds},
-        {lineScanTime_, &prefs.lineScanTime, 0.5, kChangeScanSpeed, kSeconds},
-        {lineTransparency_, &prefs.lineTransparency, 1.0, kChangeScanLineLook, kPercent},
-        {menuScanSpeedScaleFactor_, &prefs.menuScanSpeedScaleFactor, 5.0, kChangeScanSpeed,
-         kPercent},
-        {minTriggerDuration_, &prefs.minTriggerDuration, 0.5, kChangeTriggers, kSeconds},
-        {pointerScanTime_, &prefs.pointerScanTime, 0.5, kChangeScanSpeed, kSeconds},
-        {afterClickDelay_, &prefs.afterClickDelay, 0.5, kChangeTriggers, kSeconds},
-        {clickTime_, &prefs.clickDuration, 1.0, kChangeScanSpeed, kMilliseconds},
-    };
-    for (const SliderRow& row : sliders)
-        row.controller->setDoubleKindAt(row.field, row.step, row.changes, row.format);
-    volume_->setKind(kNumberKindUInt32, &prefs.soundLevel, 1.0, kChangeSounds, "%3.0f");
+    setupNumbers();
 
     const struct {
         BumperController* controller;
-        SInt32* value;
-        double min, max;
+        SInt32* pending;
         ChangeMask changes;
     } bumpers[] = {
-        {borderGap_, &prefs.borderGap, 0, 100, kChangePalette},
-        {buttonGap_, &prefs.buttonGap, 0, 100, kChangePalette},
-        {lineThickness_, &prefs.lineThickness, 1, 50, kChangeScanLineLook | kChangeGuideLineLook},
-        {buttonHeight_, &buttonHeightChange_, -10, 10, kChangeButtonHeightBump},
-        {buttonSize_, &buttonSizeChange_, -10, 10, kChangeButtonSizeBump},
-        {buttonWidth_, &buttonWidthChange_, -10, 10, kChangeButtonWidthBump},
+        {buttonHeight_, &buttonHeightChange_, kChangeButtonHeightBump},
+        {buttonSize_, &buttonSizeChange_, kChangeButtonSizeBump},
+        {buttonWidth_, &buttonWidthChange_, kChangeButtonWidthBump},
     };
 
-    for (const auto& row : bumpers)
-        row.controller->setKind(kNumberKindSInt32, row.value, row.min, row.max, 1, row.changes);
+    for (const auto& [controller, pending, changes] : bumpers)
+        controller->setKind(kNumberKindSInt32, pending, -10, 10, 1, changes);
 
     paletteView_->setTarget(this);
     addActionMenuToCtl(addButtonBtn_, selector("addPaletteBtn:"));
@@ -197,29 +135,9 @@ void PreferenceWrangler::setup() {
 }
 
 void PreferenceWrangler::loadValues() {
-    NumberController* const controllers[] = {
-        autoRepeatTime_,
-        clickTime_,
-        guideTransparency_,
-        preScanDelayTime_,
-        inverseReleaseTime_,
-        stepScanCancelTime_,
-        lineScanTime_,
-        lineTransparency_,
-        menuScanSpeedScaleFactor_,
-        minTriggerDuration_,
-        pointerScanTime_,
-        afterClickDelay_,
-        volume_,
-        borderGap_,
-        buttonGap_,
-        buttonHeight_,
-        buttonSize_,
-        buttonWidth_,
-        lineThickness_,
-    };
-    for (NumberController* controller : controllers)
-        controller->update();
+    loadNumbers();
+    for (NumberController* bumper : {buttonHeight_, buttonSize_, buttonWidth_})
+        bumper->update();
 
     updateMasterOnOff();
     scanModeRadios_->selectCellWithTag(prefs.scanMode);
@@ -229,24 +147,8 @@ void PreferenceWrangler::loadValues() {
     updateScanAreaText();
     updateLaunchUI();
 
-    const struct {
-        NSButton* check;
-        UInt32 state;
-    } checks[] = {
-        {canScanMenuBarCheck_, prefs.canScanMenuBar},
-        {lineScanCanEndKybdModeCheck_, prefs.lineScanCanEndKybdMode},
-        {playClickSoundsCheck_, prefs.playClickSounds},
-        {playDragPrompts_, prefs.playDragPrompts},
-        {useScanAccelerationCheck_, prefs.useScanAcceleration},
-        {wantHotKeyTriggerCheck_, prefs.wantHotKeyTrigger},
-        {wantMouseClickTriggerCheck_, prefs.wantMouseClickTrigger},
-        {buttonContentIconCheck_, prefs.buttonContent & kButtonContentIcon},
-        {buttonContentNameCheck_, prefs.buttonContent & kButtonContentName},
-    };
-
-    for (const auto& [check, state] : checks)
-        check->setState(state ? NSOnState : NSOffState);
-
+    loadFlags();
+    loadButtonContent();
     loadHotKeys();
     lineColor_->setColor(NSColor::colorWithDeviceRed(prefs.lineColor.red / 255.0,
                                                      prefs.lineColor.green / 255.0,

@@ -3,8 +3,10 @@
 #include "platform/AppKit/NSPopUpButton.h"
 #include "src/prefpane/NumberController.h"
 #include "src/prefpane/PaletteView.h"
+#include "src/settings.h"
 
 #include <array>
+#include <vector>
 
 class BumperController;
 class CFType;
@@ -16,7 +18,6 @@ class NSMenuItem;
 class NSTabView;
 class NSTextField;
 class SampleScanView;
-class SliderController;
 
 /// The pane's one controller: it binds every control to its field of `prefs`, shows the fields in
 /// the controls, and carries every edit to the store and to the agent. The interface file makes it
@@ -58,16 +59,9 @@ public:
     void updateScanAreaRadios();
 
     void changedMasterOnOff(NSMatrix* sender);
-    void changedWantMouseClickTrigger(NSButton* sender);
-    void changedWantHotKeyTrigger(NSButton* sender);
     void changedUseScanArea(NSMatrix* sender);
-    void changedUseScanAcceleration(NSButton* sender);
     void changedTriggerOnRelease(NSMatrix* sender);
     void changedScanMode(NSMatrix* sender);
-    void changedPlayDragPrompts(NSButton* sender);
-    void changedPlayClickSounds(NSButton* sender);
-    void changedLineScanCanEndKyndMode(NSButton* sender);
-    void changedCanScanMenuBar(NSButton* sender);
     void changedLineColor(NSColorWell* sender);
 
     // PreferenceWranglerHotKeys.cpp: hot keys
@@ -91,8 +85,6 @@ public:
     /// Makes the system's login items agree with the setting, and shows both settings of the start.
     /// Without the agent's bundle the login items stay as they are.
     void updateLaunchUI();
-    void changedLaunchAtLogin(NSButton* sender);
-    void changedActivateAtLaunch(NSButton* sender);
 
     // PreferenceWranglerPalette.cpp: the palette's buttons. An edit leaves nothing selected.
 
@@ -155,43 +147,40 @@ private:
 
     /// Shows the name of the pointer that the preview draws.
     void updatePointerName();
-    void setFlag(UInt8& flag, NSButton* sender, ChangeMask changes);
     void commitPaletteEdit();
     /// Says what is selected and what a swap waits for.
     void updatePalettePrompt();
+    void loadButtonContent();
     void setButtonContent(UInt32 bit, NSButton* sender);
+
+    // PreferenceWranglerSettings.cpp: what the table of settings says of numbers and check boxes
+
+    template <std::size_t Row>
+    struct SettingWiring;
+    /// `own` and the entries of the settings' outlets, or of their check boxes' actions.
+    template <class Entry>
+    static std::vector<Entry> withSettings(std::span<const Entry> own);
+    void setupNumbers();
+    void loadNumbers();
+    void loadFlags();
+    void setFlag(const Setting& setting, const NSButton& sender);
+
+    /// Each setting's control, by its row; null for one without an outlet in its row.
+    std::array<NSObject*, kSettings.size()> settingControls_ = {};
 
     NSButton* activateAtLaunch_ = nullptr;
     NSPopUpButton* addButtonBtn_ = nullptr;
-    SliderController* autoRepeatTime_ = nullptr;
-    BumperController* borderGap_ = nullptr;
     NSButton* buttonContentIconCheck_ = nullptr;
     NSButton* buttonContentNameCheck_ = nullptr;
-    BumperController* buttonGap_ = nullptr;
     BumperController* buttonHeight_ = nullptr;
     NSMatrix* buttonShapeRadios_ = nullptr;
     BumperController* buttonSize_ = nullptr;
     BumperController* buttonWidth_ = nullptr;
-    NSButton* canScanMenuBarCheck_ = nullptr;
-    SliderController* clickTime_ = nullptr;
-    SliderController* guideTransparency_ = nullptr;
-    SliderController* inverseReleaseTime_ = nullptr;
     NSButton* launchAtLogin_ = nullptr;
     NSColorWell* lineColor_ = nullptr;
-    NSButton* lineScanCanEndKybdModeCheck_ = nullptr;
-    SliderController* lineScanTime_ = nullptr;
-    BumperController* lineThickness_ = nullptr;
-    SliderController* lineTransparency_ = nullptr;
     NSMatrix* masterOnOffRadios_ = nullptr;
-    SliderController* menuScanSpeedScaleFactor_ = nullptr;
-    SliderController* minTriggerDuration_ = nullptr;
     NSTextField* palettePrompt_ = nullptr;
     PaletteView* paletteView_ = nullptr;
-    NSButton* playClickSoundsCheck_ = nullptr;
-    NSButton* playDragPrompts_ = nullptr;
-    SliderController* pointerScanTime_ = nullptr;
-    SliderController* afterClickDelay_ = nullptr;
-    SliderController* preScanDelayTime_ = nullptr;
     NSTextField* pointerName_ = nullptr;
     NSButton* removeButtonBtn_ = nullptr;
     NSButton* resetActionsBtn_ = nullptr;
@@ -199,15 +188,10 @@ private:
     NSTextField* scanAreaText_ = nullptr;
     NSMatrix* scanModeRadios_ = nullptr;
     NSPopUpButton* setActionBtn_ = nullptr;
-    SliderController* stepScanCancelTime_ = nullptr;
     NSButton* swapWithBtn_ = nullptr;
     NSTabView* prefsTabs_ = nullptr;
     NSMatrix* triggerOnReleaseRadios_ = nullptr;
-    NSButton* useScanAccelerationCheck_ = nullptr;
     NSMatrix* useScanAreaRadios_ = nullptr;
-    SliderController* volume_ = nullptr;
-    NSButton* wantHotKeyTriggerCheck_ = nullptr;
-    NSButton* wantMouseClickTriggerCheck_ = nullptr;
 
     HotKeyView* masterOnOffKey_ = nullptr;
     HotKeyView* scanKey_ = nullptr;

@@ -100,40 +100,6 @@ void PreferenceWrangler::changedMasterOnOff(NSMatrix* sender) {
     changed(force ? kChangeOnOff | kChangeForceOnOff : kChangeOnOff);
 }
 
-/// Writes a check box's state to its field and reports the change, also when the value is the same.
-void PreferenceWrangler::setFlag(UInt8& flag, NSButton* sender, ChangeMask changes) {
-    flag = sender->state() == NSOnState;
-    changed(changes);
-}
-
-void PreferenceWrangler::changedWantMouseClickTrigger(NSButton* sender) {
-    setFlag(prefs.wantMouseClickTrigger, sender, kChangeTriggers);
-}
-
-void PreferenceWrangler::changedWantHotKeyTrigger(NSButton* sender) {
-    setFlag(prefs.wantHotKeyTrigger, sender, kChangeTriggers);
-}
-
-void PreferenceWrangler::changedUseScanAcceleration(NSButton* sender) {
-    setFlag(prefs.useScanAcceleration, sender, kChangeScanSpeed);
-}
-
-void PreferenceWrangler::changedPlayDragPrompts(NSButton* sender) {
-    setFlag(prefs.playDragPrompts, sender, kChangeSounds);
-}
-
-void PreferenceWrangler::changedPlayClickSounds(NSButton* sender) {
-    setFlag(prefs.playClickSounds, sender, kChangeSounds);
-}
-
-void PreferenceWrangler::changedLineScanCanEndKyndMode(NSButton* sender) {
-    setFlag(prefs.lineScanCanEndKybdMode, sender, kChangeKeyboardMode);
-}
-
-void PreferenceWrangler::changedCanScanMenuBar(NSButton* sender) {
-    setFlag(prefs.canScanMenuBar, sender, 0); // belongs to no group; the agent still hears of it
-}
-
 void PreferenceWrangler::changedUseScanArea(NSMatrix* sender) {
     prefs.useScanArea = sender->selectedTag() != 0;
     updateScanAreaRadios();

@@ -16,11 +16,3 @@ void PreferenceWrangler::updateLaunchUI() {
     launchAtLogin_->setState(prefs.launchAtLogin);
     activateAtLaunch_->setState(prefs.activateAtLaunch);
 }
-
-void PreferenceWrangler::changedLaunchAtLogin(NSButton* sender) {
-    setFlag(prefs.launchAtLogin, sender, kChangeLaunch);
-}
-
-void PreferenceWrangler::changedActivateAtLaunch(NSButton* sender) {
-    setFlag(prefs.activateAtLaunch, sender, kChangeLaunch);
-}

@@ -173,6 +173,14 @@ void PreferenceWrangler::changedButtonShape(NSMatrix* sender) {
     changed(kChangePalette);
 }
 
+void PreferenceWrangler::loadButtonContent() {
+    const auto show = [](NSButton* check, UInt32 bit) {
+        check->setState(prefs.buttonContent & bit ? NSOnState : NSOffState);
+    };
+    show(buttonContentIconCheck_, kButtonContentIcon);
+    show(buttonContentNameCheck_, kButtonContentName);
+}
+
 void PreferenceWrangler::setButtonContent(UInt32 bit, NSButton* sender) {
     if (sender->state() == NSOnState)
         prefs.buttonContent |= bit;
