@@ -1,145 +1,164 @@
 #include "src/prefsforms.h"
 
-#include "platform/CoreFoundation/CFPreferences.h"
+#include "platform/CoreFoundation/StoredValues.h"
 
 #include <array>
 #include <cstdio>
 #include <cstring>
 #include <limits>
+#include <locale.h>
 #include <string>
 
 namespace {
 
-// Doubles lie at 4-byte alignment in the record, so fields are copied, never dereferenced in place.
 template <class T>
-T read(const void* field) {
+T get(const void* field) {
     T value;
     std::memcpy(&value, field, sizeof value);
     return value;
 }
 
 template <class T>
-void write(void* field, const T& value) {
+bool set(void* field, const T& value) {
     std::memcpy(field, &value, sizeof value);
+    return true;
 }
 
-void loadFlag(const CFString* key, void* field) {
-    bool exists = false;
-    const bool value = CFPreferencesGetAppBooleanValue(key, kAgentBundleID, &exists);
-    if (exists)
-        write<UInt8>(field, value);
+/// While it lives, this thread's numbers have a point, whatever the user's language.
+class PointLocale {
+public:
+    PointLocale() : previous_(uselocale(portable())) {}
+
+    ~PointLocale() { uselocale(previous_); }
+
+    PointLocale(const PointLocale&) = delete;
+    PointLocale& operator=(const PointLocale&) = delete;
+
+private:
+    static locale_t portable() {
+        static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
+        return locale;
+    }
+
+    locale_t previous_;
+};
+
+/// Reads a conversion a part from a text shorter than `Size` bytes; false unless all are there.
+template <std::size_t Size, class... Parts>
+bool scan(const CFType* value, const char* format, Parts*... parts) {
+    char text[Size];
+    const PointLocale locale;
+    return copyStoredText(value, text, Size) &&
+           std::sscanf(text, format, parts...) == int{sizeof...(parts)};
 }
 
-void saveFlag(const CFString* key, const void* field) {
-    static const CFString* const yes = CFSTR("yes");
-    static const CFString* const no = CFSTR("no");
-    CFPreferencesSetAppValue(key, read<UInt8>(field) ? yes : no, kAgentBundleID);
+/// Null when the text has `Size` bytes or more: no reader would take it.
+template <std::size_t Size, class... Parts>
+CFRef<const CFString> print(const char* format, Parts... parts) {
+    char text[Size];
+    const PointLocale locale;
+    const int length = std::snprintf(text, Size, format, parts...);
+    return length < int{Size} ? CFStringCreateWithCString(text, kCFStringEncodingMacRoman)
+                              : nullptr;
 }
 
-void loadDecimal(const CFString* key, void* field) {
-    bool exists = false;
-    const CFIndex value = CFPreferencesGetAppIntegerValue(key, kAgentBundleID, &exists);
-    if (exists)
-        write(field, static_cast<SInt32>(value));
+bool readFlag(const CFType* value, void* field) {
+    const auto flag = booleanFromValue(value);
+    return flag && set<UInt8>(field, *flag);
 }
 
-void saveDecimal(const CFString* key, const void* field) {
-    setPrefSInt32(key, read<SInt32>(field));
+CFRef<const CFString> writeFlag(const void* field) {
+    return CFRef<const CFString>::retain(get<UInt8>(field) ? CFSTR("yes") : CFSTR("no"));
 }
 
-void loadHexWord(const CFString* key, void* field) {
-    auto value = read<UInt32>(field);
-    getPrefUInt32(key, &value);
-    write(field, value);
+bool readDecimal(const CFType* value, void* field) {
+    const auto integer = integerFromValue(value);
+    return integer && set(field, static_cast<SInt32>(*integer));
 }
 
-void saveHexWord(const CFString* key, const void* field) {
-    setPrefUInt32(key, read<UInt32>(field));
+CFRef<const CFString> writeDecimal(const void* field) {
+    return print<64>("%ld", static_cast<long>(get<SInt32>(field)));
 }
 
-void loadReal(const CFString* key, void* field) {
-    auto value = read<double>(field);
-    getPrefDouble(key, &value);
-    write(field, value);
+bool readHexWord(const CFType* value, void* field) {
+    unsigned long word;
+    return scan<64>(value, "0x%lx", &word) && set(field, static_cast<UInt32>(word));
 }
 
-void saveReal(const CFString* key, const void* field) {
-    setPrefDouble(key, read<double>(field));
+CFRef<const CFString> writeHexWord(const void* field) {
+    return print<64>("0x%08lx", static_cast<unsigned long>(get<UInt32>(field)));
 }
 
-void loadRectangle(const CFString* key, void* field) {
-    char text[200];
+bool readReal(const CFType* value, void* field) {
+    double real;
+    return scan<64>(value, "%lf", &real) && set(field, real);
+}
+
+CFRef<const CFString> writeReal(const void* field) {
+    return print<100>("%f", get<double>(field));
+}
+
+bool readRectangle(const CFType* value, void* field) {
     double x, y, width, height;
-    if (getPrefStr(key, text, sizeof text) &&
-        std::sscanf(text, "origin(%lf,%lf); size(%lf,%lf)", &x, &y, &width, &height) == 4)
-        write(field, ScanArea{static_cast<float>(x), static_cast<float>(y),
-                              static_cast<float>(width), static_cast<float>(height)});
+    return scan<200>(value, "origin(%lf,%lf); size(%lf,%lf)", &x, &y, &width, &height) &&
+           set(field, ScanArea{static_cast<float>(x), static_cast<float>(y),
+                               static_cast<float>(width), static_cast<float>(height)});
 }
 
-void saveRectangle(const CFString* key, const void* field) {
-    const auto area = read<ScanArea>(field);
-    char text[200];
-    std::snprintf(text, sizeof text, "origin(%f,%f); size(%f,%f)", static_cast<double>(area.x),
-                  static_cast<double>(area.y), static_cast<double>(area.width),
-                  static_cast<double>(area.height));
-    setPrefStr(key, text);
+CFRef<const CFString> writeRectangle(const void* field) {
+    const auto area = get<ScanArea>(field);
+    return print<200>("origin(%f,%f); size(%f,%f)", double{area.x}, double{area.y},
+                      double{area.width}, double{area.height});
 }
 
-void loadColour(const CFString* key, void* field) {
-    char text[200];
+bool readColour(const CFType* value, void* field) {
     unsigned red, green, blue;
-    if (getPrefStr(key, text, sizeof text) &&
-        std::sscanf(text, "[0x%x,0x%x,0x%x]", &red, &green, &blue) == 3)
-        write(field, LineColor{static_cast<UInt16>(red), static_cast<UInt16>(green),
-                               static_cast<UInt16>(blue)});
+    return scan<200>(value, "[0x%x,0x%x,0x%x]", &red, &green, &blue) &&
+           set(field, LineColor{static_cast<UInt16>(red), static_cast<UInt16>(green),
+                                static_cast<UInt16>(blue)});
 }
 
-void saveColour(const CFString* key, const void* field) {
-    const auto color = read<LineColor>(field);
-    char text[200];
-    std::snprintf(text, sizeof text, "[0x%04x,0x%04x,0x%04x]", color.red, color.green, color.blue);
-    setPrefStr(key, text);
+CFRef<const CFString> writeColour(const void* field) {
+    const auto color = get<LineColor>(field);
+    return print<200>("[0x%04x,0x%04x,0x%04x]", color.red, color.green, color.blue);
 }
 
-void loadText(const CFString* key, void* field) {
+bool readText(const CFType* value, void* field) {
     // One byte less than the field has: what the agent reads back is at most 98 characters.
-    getPrefStr(key, static_cast<char*>(field), sizeof(PrefsRecord::pointerImageName) - 1);
+    return copyStoredText(value, static_cast<char*>(field),
+                          sizeof(PrefsRecord::pointerImageName) - 1);
 }
 
-void saveText(const CFString* key, const void* field) {
-    setPrefStr(key, static_cast<const char*>(field));
+CFRef<const CFString> writeText(const void* field) {
+    return CFStringCreateWithCString(static_cast<const char*>(field), kCFStringEncodingMacRoman);
 }
 
-void loadSize(const CFString* key, void* field) {
-    constexpr auto fits = [](long value) {
-        return value >= std::numeric_limits<SInt16>::min() &&
-               value <= std::numeric_limits<SInt16>::max();
+bool readSize(const CFType* value, void* field) {
+    constexpr auto fits = [](long side) {
+        return side >= std::numeric_limits<SInt16>::min() &&
+               side <= std::numeric_limits<SInt16>::max();
     };
-    char text[100];
     long width, height;
-    if (getPrefStr(key, text, sizeof text) &&
-        std::sscanf(text, "(%ld,%ld)", &width, &height) == 2 && fits(width) && fits(height))
-        write(field, ButtonSize{.height = static_cast<SInt16>(height),
-                                .width = static_cast<SInt16>(width)});
+    return scan<100>(value, "(%ld,%ld)", &width, &height) && fits(width) && fits(height) &&
+           set(field, ButtonSize{.height = static_cast<SInt16>(height),
+                                 .width = static_cast<SInt16>(width)});
 }
 
-void saveSize(const CFString* key, const void* field) {
-    const auto size = read<ButtonSize>(field);
-    char text[100];
-    std::snprintf(text, sizeof text, "(%d,%d)", size.width, size.height);
-    setPrefStr(key, text);
+CFRef<const CFString> writeSize(const void* field) {
+    const auto size = get<ButtonSize>(field);
+    return print<100>("(%d,%d)", size.width, size.height);
 }
 
 /// Fetches a list's text; false when it is no list.
-bool getList(const CFString* key, char (&text)[1000]) {
-    return getPrefStr(key, text, sizeof text) && text[0] == '[';
+bool copyList(const CFType* value, char (&text)[1000]) {
+    return copyStoredText(value, text, sizeof text) && text[0] == '[';
 }
 
-/// Stores "[ a b c]" from the entries "a ", "b ", "c ".
-void setList(const CFString* key, const std::string& entries) {
+/// "[ a b c]" from the entries "a ", "b ", "c ".
+CFRef<const CFString> list(const std::string& entries) {
     std::string text = "[ " + entries;
     text.back() = ']';
-    setPrefStr(key, text.c_str());
+    return CFStringCreateWithCString(text.c_str(), kCFStringEncodingMacRoman);
 }
 
 /// `steps` characters on, or the end of the text if that comes first.
@@ -149,10 +168,10 @@ const char* skip(const char* text, int steps) {
     return text;
 }
 
-void loadHotKeyList(const CFString* key, void* field) {
+bool readHotKeyList(const CFType* value, void* field) {
     char text[1000];
-    if (!getList(key, text))
-        return;
+    if (!copyList(value, text))
+        return false;
     auto* entries = static_cast<HotKey*>(field);
     const char* position = skip(text, 2);
     for (int i = 0; i < kNumHotKeys && *position == '{'; ++i) {
@@ -161,55 +180,67 @@ void loadHotKeyList(const CFString* key, void* field) {
             entries[i] = {static_cast<SInt32>(keyCode), static_cast<UInt32>(modifiers)};
         position = std::strchr(position, '}');
         if (!position)
-            return;
+            break;
         position = skip(position, 2);
     }
+    return true;
 }
 
-void saveHotKeyList(const CFString* key, const void* field) {
+CFRef<const CFString> writeHotKeyList(const void* field) {
     std::string entries;
-    for (const HotKey& hotKey : read<std::array<HotKey, kNumHotKeys>>(field)) {
+    for (const HotKey& hotKey : get<std::array<HotKey, kNumHotKeys>>(field)) {
         char entry[64];
         std::snprintf(entry, sizeof entry, "{0x%x,0x%x} ", static_cast<UInt32>(hotKey.keyCode),
                       hotKey.modifiers);
         entries += entry;
     }
-    setList(key, entries);
+    return list(entries);
 }
 
-void loadActionList(const CFString* key, void* field) {
+bool readActionList(const CFType* value, void* field) {
     constexpr auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
     char text[1000];
-    if (!getList(key, text))
-        return;
+    if (!copyList(value, text))
+        return false;
     auto* slots = static_cast<UInt8*>(field);
     const char* position = text + 1;
     for (int slot = 0; slot < kNumPaletteSlots; ++slot) {
         if (*position++ != ' ' || !isDigit(*position))
-            return;
+            break;
         unsigned action = 0; // wraps at 2^32, which keeps the low 8 bits right
         while (isDigit(*position))
             action = action * 10 + static_cast<unsigned>(*position++ - '0');
         slots[slot] = static_cast<UInt8>(action);
     }
+    return true;
 }
 
-void saveActionList(const CFString* key, const void* field) {
+CFRef<const CFString> writeActionList(const void* field) {
     std::string entries;
-    for (const UInt8 action : read<std::array<UInt8, kNumPaletteSlots>>(field))
+    for (const UInt8 action : get<std::array<UInt8, kNumPaletteSlots>>(field))
         entries += std::to_string(action) + ' ';
-    setList(key, entries);
+    return list(entries);
 }
 
 } // namespace
 
-constexpr PrefsForm kFlagForm{loadFlag, saveFlag};
-constexpr PrefsForm kDecimalForm{loadDecimal, saveDecimal};
-constexpr PrefsForm kHexWordForm{loadHexWord, saveHexWord};
-constexpr PrefsForm kRealForm{loadReal, saveReal};
-constexpr PrefsForm kRectangleForm{loadRectangle, saveRectangle};
-constexpr PrefsForm kColourForm{loadColour, saveColour};
-constexpr PrefsForm kTextForm{loadText, saveText};
-constexpr PrefsForm kHotKeyListForm{loadHotKeyList, saveHotKeyList};
-constexpr PrefsForm kSizeForm{loadSize, saveSize};
-constexpr PrefsForm kActionListForm{loadActionList, saveActionList};
+constexpr PrefsForm kFlagForm{readFlag, writeFlag};
+constexpr PrefsForm kDecimalForm{readDecimal, writeDecimal};
+constexpr PrefsForm kHexWordForm{readHexWord, writeHexWord};
+constexpr PrefsForm kRealForm{readReal, writeReal};
+constexpr PrefsForm kRectangleForm{readRectangle, writeRectangle};
+constexpr PrefsForm kColourForm{readColour, writeColour};
+constexpr PrefsForm kTextForm{readText, writeText};
+constexpr PrefsForm kHotKeyListForm{readHotKeyList, writeHotKeyList};
+constexpr PrefsForm kSizeForm{readSize, writeSize};
+constexpr PrefsForm kActionListForm{readActionList, writeActionList};
+
+bool copyStoredText(const CFType* value, char* buffer, CFIndex bufferSize) {
+    const auto* string = dynamicCFCast<CFString>(value);
+    if (!string)
+        return false;
+    if (CFStringGetCString(string, buffer, bufferSize, kCFStringEncodingMacRoman))
+        return true;
+    buffer[0] = '\0';
+    return false;
+}

@@ -2,21 +2,27 @@
 
 #include "src/prefs.h"
 
-/// How one kind of setting is kept in the preference domain: reading a key into a field, and
-/// writing the field under the key. Reading changes the field only when the stored value is of the
-/// form.
+/// How one kind of setting is stored: as a text of its own, which the comments below show.
+/// A field is copied, never used in place: doubles lie at 4-byte alignment in the record.
 struct PrefsForm {
-    void (*load)(const CFString* key, void* field);
-    void (*save)(const CFString* key, const void* field);
+    /// Takes a stored value over into the field. False, and the field is as it was, when the value
+    /// isn't of the form; a list may have set some of its entries.
+    bool (*read)(const CFType* value, void* field);
+    /// The text to store, or null when there is none for the field.
+    CFRef<const CFString> (*write)(const void* field);
 };
 
-extern const PrefsForm kFlagForm;       ///< UInt8: "yes" or "no"
-extern const PrefsForm kDecimalForm;    ///< SInt32: "%ld"
+extern const PrefsForm kFlagForm;       ///< UInt8: "yes" or "no"; also read from a boolean
+extern const PrefsForm kDecimalForm;    ///< SInt32: "%ld"; also read from a number
 extern const PrefsForm kHexWordForm;    ///< UInt32: "0x%08lx"
-extern const PrefsForm kRealForm;       ///< double: "%lf"
+extern const PrefsForm kRealForm;       ///< double: "%lf", with a point in every locale
 extern const PrefsForm kRectangleForm;  ///< ScanArea: "origin(%lf,%lf); size(%lf,%lf)"
 extern const PrefsForm kColourForm;     ///< LineColor: "[0x%04x,0x%04x,0x%04x]"
-extern const PrefsForm kTextForm;       ///< char[100]: the text itself, at most 98 characters
+extern const PrefsForm kTextForm;       ///< char[100]: the text, at most 98 characters, else empty
 extern const PrefsForm kHotKeyListForm; ///< HotKey[5]: "[ {0x7,0x1200} … {0x4c,0x800}]"
 extern const PrefsForm kSizeForm;       ///< ButtonSize: "(%ld,%ld)", width first
 extern const PrefsForm kActionListForm; ///< UInt8[9]: "[ 20 21 … 0]"
+
+/// Copies a string value into `buffer`, in Mac OS Roman. False, with the buffer untouched, when it
+/// is null or no string; false, with an empty text, when it doesn't fit or can't be converted.
+bool copyStoredText(const CFType* value, char* buffer, CFIndex bufferSize);

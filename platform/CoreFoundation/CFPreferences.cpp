@@ -1,11 +1,10 @@
 #include "platform/CoreFoundation/CFPreferences.h"
 
+#include "platform/CoreFoundation/StoredValues.h"
 #include "platform/CoreFoundation/detail/PreferencesFiles.h"
 #include "platform/CoreFoundation/detail/TextEncoding.h"
 
-#include <charconv>
 #include <optional>
-#include <strings.h>
 
 const CFString* const kCFPreferencesCurrentUser = CFSTR("kCFPreferencesCurrentUser");
 const CFString* const kCFPreferencesAnyUser = CFSTR("kCFPreferencesAnyUser");
@@ -38,40 +37,6 @@ PreferencesDomain* writtenDomain(const CFString* name, const CFString* user) {
     return files && user == kCFPreferencesAnyUser ? &files->everyones.front() : nullptr;
 }
 
-/// The text of a string of ASCII characters, else none.
-std::optional<std::string> asciiText(const CFType* value) {
-    const auto* string = dynamicCFCast<CFString>(value);
-    return string ? encodeText(string->text(), kCFStringEncodingASCII) : std::nullopt;
-}
-
-std::optional<bool> readBoolean(const CFType* value) {
-    if (const auto* boolean = dynamicCFCast<CFBoolean>(value))
-        return boolean->value();
-    if (const auto* number = dynamicCFCast<CFNumber>(value))
-        return number->doubleValue() != 0;
-    const auto text = asciiText(value).value_or("");
-    for (const char* yes : {"yes", "true"}) {
-        if (strcasecmp(text.c_str(), yes) == 0)
-            return true;
-    }
-    for (const char* no : {"no", "false"}) {
-        if (strcasecmp(text.c_str(), no) == 0)
-            return false;
-    }
-    return std::nullopt;
-}
-
-std::optional<CFIndex> readInteger(const CFType* value) {
-    if (const auto* number = dynamicCFCast<CFNumber>(value))
-        return number->integerValue();
-    const auto text = asciiText(value).value_or("");
-    const bool plus = text.starts_with('+') && !text.starts_with("+-");
-    const char* const last = text.data() + text.size();
-    CFIndex integer = 0;
-    const auto [end, error] = std::from_chars(text.data() + (plus ? 1 : 0), last, integer);
-    return error == std::errc() && end == last ? std::optional(integer) : std::nullopt;
-}
-
 template <class Value>
 Value report(std::optional<Value> value, bool* exists) {
     if (exists)
@@ -86,11 +51,11 @@ CFRef<const CFType> CFPreferencesCopyAppValue(const CFString* key, const CFStrin
 }
 
 bool CFPreferencesGetAppBooleanValue(const CFString* key, const CFString* domain, bool* exists) {
-    return report(readBoolean(appValue(key, domain)), exists);
+    return report(booleanFromValue(appValue(key, domain)), exists);
 }
 
 CFIndex CFPreferencesGetAppIntegerValue(const CFString* key, const CFString* domain, bool* exists) {
-    return report(readInteger(appValue(key, domain)), exists);
+    return report(integerFromValue(appValue(key, domain)), exists);
 }
 
 void CFPreferencesSetAppValue(const CFString* key, const CFType* value, const CFString* domain) {
