@@ -1,30 +1,17 @@
 #include "platform/CoreServices/AppleEvents.h"
 
-#include "platform/CoreServices/detail/AppleEventObject.h"
+#include "platform/CoreServices/detail/AppleEventMessage.h"
 #include "platform/CoreServices/detail/SessionBus.h"
+#include "platform/CoreServices/detail/StartedApplications.h"
 
 #include <algorithm>
 #include <bit>
 #include <cstring>
-#include <utility>
 
 // The bytes of integers are copied as they stand.
 static_assert(std::endian::native == std::endian::little);
 
 namespace {
-
-using HandlerKey = std::pair<AEEventClass, AEEventID>;
-
-struct InstalledHandler {
-    AEEventHandler handler;
-    void* refCon;
-};
-
-/// The application's handler table.
-std::map<HandlerKey, InstalledHandler>& handlers() {
-    static std::map<HandlerKey, InstalledHandler> table;
-    return table;
-}
 
 OSErr copyOut(const AEDesc& desc, DescType desiredType, DescType* actualType, void* data,
               std::size_t maximumSize, std::size_t* actualSize) {
@@ -124,39 +111,10 @@ OSErr AESend(const AppleEvent* event, AppleEvent* reply, AESendMode mode, SInt32
     pid_t pid = 0;
     if (GetProcessPID(&event->target, &pid) != noErr)
         return procNotFound;
+    if (event->eventClass == kCoreEventClass && event->eventID == kAEQuitApplication)
+        StartedApplications::shared().noteQuitRequest(event->target);
     const QDBusMessage message = messageOfEvent(*event);
     if ((mode & kAEWaitReply) == kAEWaitReply)
         return resultOfReply(bus.call(message, QDBus::Block, millisecondsOfTicks(timeOutInTicks)));
     return bus.send(message) ? noErr : connectionInvalid;
-}
-
-OSErr AEInstallEventHandler(AEEventClass eventClass, AEEventID eventID, AEEventHandler handler,
-                            void* refCon) {
-    if (!handler)
-        return paramErr;
-    handlers().insert_or_assign({eventClass, eventID}, InstalledHandler{handler, refCon});
-    return noErr;
-}
-
-OSErr AERemoveEventHandler(AEEventClass eventClass, AEEventID eventID, AEEventHandler handler) {
-    const auto installed = handlers().find({eventClass, eventID});
-    if (installed == handlers().end() || installed->second.handler != handler)
-        return errAEHandlerNotFound;
-    handlers().erase(installed);
-    return noErr;
-}
-
-OSErr dispatchAppleEvent(const AppleEvent& event, AppleEvent* reply) {
-    const HandlerKey keys[] = {{event.eventClass, event.eventID},
-                               {event.eventClass, typeWildCard},
-                               {typeWildCard, event.eventID},
-                               {typeWildCard, typeWildCard}};
-    for (const HandlerKey& key : keys) {
-        const auto found = handlers().find(key);
-        if (found == handlers().end())
-            continue;
-        const auto [handler, refCon] = found->second; // the handler may remove itself
-        return handler(&event, reply, refCon);
-    }
-    return errAEEventNotHandled;
 }

@@ -2,11 +2,8 @@
 
 #include "platform/CoreFoundation/CFBundle.h"
 #include "platform/CoreServices/detail/AccessibilitySettings.h"
-#include "platform/CoreServices/detail/DetachedProcess.h"
 #include "platform/CoreServices/detail/InstalledApplications.h"
-
-#include <map>
-#include <memory>
+#include "platform/CoreServices/detail/StartedApplications.h"
 
 namespace {
 
@@ -19,23 +16,12 @@ constexpr char kUniversalAccessPane[] =
 OSStatus LSOpenCFURLRef(const CFURL* url, CFRef<CFURL>* launched) {
     if (url && url->path() == kUniversalAccessPane)
         return openAccessibilitySettings() ? OSStatus{noErr} : kLSApplicationNotFoundErr;
-    const CFRef<CFBundle> bundle = url ? CFBundleCreate(url) : nullptr;
-    if (!bundle)
+    if (!url)
         return kLSApplicationNotFoundErr;
-    const CFRef<CFURL> executable = CFBundleCopyExecutableURL(bundle.get());
-    if (!executable)
-        return kLSNotAnApplicationErr;
-
-    // By executable; main thread only.
-    static std::map<std::string, std::unique_ptr<DetachedProcess>> started;
-    std::unique_ptr<DetachedProcess>& process = started[executable->path()];
-    if (!process || !process->isRunning())
-        process = DetachedProcess::start(executable->path());
-    if (!process)
-        return kLSUnknownErr;
-    if (launched)
-        *launched = CFBundleCopyBundleURL(bundle.get());
-    return noErr;
+    const OSStatus started = StartedApplications::shared().start(url);
+    if (launched && started == noErr)
+        *launched = CFBundleCopyBundleURL(CFBundleCreate(url).get());
+    return started;
 }
 
 OSStatus LSFindApplicationForInfo(OSType creator, const CFString* bundleID, const CFString* name,

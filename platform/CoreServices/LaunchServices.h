@@ -7,11 +7,14 @@ constexpr OSStatus kLSNotAnApplicationErr = -10811;
 constexpr OSStatus kLSApplicationNotFoundErr = -10814;
 
 /// Starts the application whose bundle the URL names, detached from this process: its executable is
-/// Contents/Linux/<CFBundleExecutable>. An application that this process started before and that
-/// still runs, or is still starting, isn't started a second time. Nothing waits for it to come up.
+/// Contents/Linux/<CFBundleExecutable>. Nothing waits for it to come up; LaunchTrouble.h tells
+/// whether it did. An application that this process started before and that still runs, or is still
+/// starting, isn't started a second time; one that was asked to quit ('quit') is started as soon as
+/// its process has ended.
 ///
-/// It inherits environment, current folder, output and errors; its input is /dev/null. `launched`
-/// (may be null) receives the bundle's URL. kLSApplicationNotFoundErr when the URL names no bundle,
+/// It inherits the environment. Its current folder is the root, its input and output are /dev/null,
+/// and its errors go where this process's go. `launched` (may be null)
+/// receives the bundle's URL. kLSApplicationNotFoundErr when the URL names no bundle,
 /// kLSNotAnApplicationErr when the bundle has no executable, kLSUnknownErr when that can't be
 /// started.
 ///

@@ -1,6 +1,7 @@
 #include "platform/CoreServices/detail/AccessibilitySettings.h"
 
 #include "platform/CoreServices/detail/DetachedProcess.h"
+#include "platform/CoreServices/detail/ProcessEnd.h"
 
 #include <cstdlib>
 #include <sstream>
@@ -27,8 +28,10 @@ bool open(const std::string& desktop) {
         std::vector<std::string> arguments;
         if (settings.page)
             arguments.emplace_back(settings.page);
-        if (DetachedProcess::start(settings.program, arguments))
+        if (const pid_t pid = startDetached(settings.program, arguments)) {
+            reapAtItsEnd(pid);
             return true;
+        }
     }
     return false;
 }

@@ -1,4 +1,5 @@
-#include "platform/CoreServices/detail/AppleEventObject.h"
+#include "platform/CoreServices/detail/AppleEventHandlers.h"
+#include "platform/CoreServices/detail/AppleEventMessage.h"
 #include "platform/CoreServices/detail/ProcessName.h"
 #include "tests/platform/CoreServices/TestPeer.h"
 

@@ -1,6 +1,5 @@
-#include "platform/CoreServices/LaunchServices.h"
-#include "tests/support/ProcessTest.h"
-#include "tests/support/SignalProcess.h"
+#include "platform/CoreServices/LaunchTrouble.h"
+#include "tests/platform/CoreServices/TestPeer.h"
 #include "tests/support/TestApplication.h"
 
 #include <QTest>
@@ -64,6 +63,9 @@ TEST_F(LaunchServicesTest, WhatCantBeStartedIsRefusedByReason) {
 
 TEST_F(LaunchServicesTest, OneProgramRunsAtATimeDetachedAndIsReapedAtItsEnd) {
     signal(SIGPIPE, SIG_IGN);
+    int pipe[2];
+    EXPECT_EQ(::pipe(pipe), 0);
+    dup2(pipe[1], STDOUT_FILENO);
     sigset_t blocked;
     sigemptyset(&blocked);
     sigaddset(&blocked, SIGUSR2);
@@ -74,7 +76,9 @@ TEST_F(LaunchServicesTest, OneProgramRunsAtATimeDetachedAndIsReapedAtItsEnd) {
     const pid_t first = waitForStart(1);
     EXPECT_EQ(open(), noErr) << "while it runs";
     EXPECT_EQ(getsid(first), first);
-    EXPECT_EQ(fs::read_symlink(proc(first) / "fd/0"), "/dev/null");
+    for (const char* file : {"fd/0", "fd/1"})
+        EXPECT_EQ(fs::read_symlink(proc(first) / file), "/dev/null");
+    EXPECT_EQ(fs::read_symlink(proc(first) / "cwd"), "/");
     EXPECT_EQ(std::distance(fs::directory_iterator(proc(first) / "fd"), {}), 3);
     for (const char* mask : {"SigBlk:\t", "SigIgn:\t"}) {
         const std::string status = readFile(proc(first) / "status");
@@ -96,6 +100,54 @@ TEST_F(LaunchServicesTest, OneProgramRunsAtATimeDetachedAndIsReapedAtItsEnd) {
     waitForStart(3);
 }
 
+TEST_F(LaunchServicesTest, WhatDoesntComeUpOrKeepsEndingIsTold) {
+    int told = 0;
+    setLaunchTroubleListener([&] { ++told; });
+    const auto trouble = [] {
+        const auto found = findLaunchTrouble();
+        return found ? static_cast<int>(found->trouble) : -1;
+    };
+    const auto waitForPeer = [](bool isUp) {
+        const auto is = [=] { return (findProcess(fourCharCode("peer")) != kNoProcess) == isUp; };
+        ASSERT_TRUE(QTest::qWaitFor(is, 10'000)) << isUp;
+    };
+    const auto peer = [] {
+        const ProcessSerialNumber psn = findProcess(fourCharCode("peer"));
+        pid_t pid = 0;
+        EXPECT_EQ(GetProcessPID(&psn, &pid), noErr);
+        return std::pair(psn, pid);
+    };
+
+    use("#!/bin/sh\necho $$ >>'" + pids_.string() + "'\nexec '" TEST_PEER "' " +
+        std::to_string(kApplication) + '\n');
+    EXPECT_EQ(open(), noErr);
+    waitForPeer(true);
+    const AppleEvent quit = makeEvent(peer().first, kCoreEventClass, kAEQuitApplication);
+    for (int i = 0; i < 2; ++i) { // the peer takes its time
+        AESend(&quit, nullptr, kAENoReply, kAEDefaultTimeout);
+        EXPECT_EQ(open(), noErr);
+    }
+    EXPECT_EQ(started().size(), 1u);
+    signalProcess(peer().second, SIGKILL);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return started().size() == 2; }, 10'000));
+
+    for (int endings = 0; endings < 3; ++endings) {
+        waitForPeer(true);
+        EXPECT_EQ(trouble(), -1) << endings;
+        signalProcess(peer().second, SIGKILL);
+        waitForPeer(false);
+        ASSERT_TRUE(QTest::qWaitFor([] { return waitpid(-1, nullptr, WNOHANG) == -1; }, 10'000));
+        EXPECT_TRUE(endings == 2 || open() == noErr);
+    }
+    ASSERT_TRUE(QTest::qWaitFor([&] { return told > 0 && trouble() >= 0; }));
+    EXPECT_EQ(findLaunchTrouble()->trouble, LaunchTrouble::KeepsEnding);
+    use("#!/bin/sh\necho $$ >>'" + pids_.string() + "'\nexec sleep 600\n");
+    EXPECT_EQ(launchAgain(findLaunchTrouble()->bundle), noErr);
+    EXPECT_EQ(trouble(), -1) << "it may still come up";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return trouble() >= 0; }, 12'000));
+    EXPECT_EQ(findLaunchTrouble()->trouble, LaunchTrouble::NotUp);
+}
+
 TEST_F(LaunchServicesTest, AccessibilitySettingsAreThoseOfTheDesktopThatIsRunning) {
     const struct {
         const char *desktop, *installed, *started; ///< empty: nothing
@@ -114,13 +166,14 @@ TEST_F(LaunchServicesTest, AccessibilitySettingsAreThoseOfTheDesktopThatIsRunnin
         SCOPED_TRACE(test.desktop + std::string(", ") + test.installed);
         fs::remove_all(programs);
         writeFile(programs / test.installed,
-                  "#!/bin/sh\necho \"${0##*/} $*\" > log.new; mv log.new " + log.string() + "\n");
+                  "#!/bin/sh\nlog='" + log.string() +
+                      "'\necho \"${0##*/} $*\" >\"$log.new\"; mv \"$log.new\" \"$log\"\n");
         fs::permissions(programs / test.installed, fs::perms::owner_all);
         setenv("XDG_CURRENT_DESKTOP", test.desktop, 1);
-        fs::current_path(programs);
         const bool starts = LSOpenCFURLRef(pane.get(), nullptr) == noErr;
         EXPECT_EQ(starts, *test.started != '\0');
-        EXPECT_TRUE(!starts || QTest::qWaitFor([&] { return fs::exists(log); }, 10'000));
+        const auto ended = [&] { return fs::exists(log) && waitpid(-1, nullptr, WNOHANG) == -1; };
+        EXPECT_TRUE(!starts || QTest::qWaitFor(ended, 10'000)) << "logged and reaped";
         EXPECT_EQ(readFile(log), test.started);
     }
 }

@@ -1,6 +1,6 @@
 #include "src/prefpane/Daemon.h"
 
-#include "platform/CoreServices/detail/AppleEventObject.h"
+#include "platform/CoreServices/detail/AppleEventMessage.h"
 #include "platform/CoreServices/detail/SessionBus.h"
 #include "tests/support/PaneFixture.h"
 #include "tests/support/SignalProcess.h"

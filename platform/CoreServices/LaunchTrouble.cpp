@@ -1,0 +1,17 @@
+#include "platform/CoreServices/LaunchTrouble.h"
+
+#include "platform/CoreServices/detail/StartedApplications.h"
+
+std::optional<TroubledApplication> findLaunchTrouble() {
+    return StartedApplications::shared().findTrouble();
+}
+
+void setLaunchTroubleListener(std::function<void()> listener) {
+    StartedApplications::shared().troubleListener = std::move(listener);
+}
+
+OSStatus launchAgain(const std::string& bundle) {
+    StartedApplications::shared().forgive(bundle);
+    const auto url = CFURLCreateFromFileSystemRepresentation(bundle.c_str(), true);
+    return LSOpenCFURLRef(url.get(), nullptr);
+}

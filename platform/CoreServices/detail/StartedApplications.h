@@ -1,0 +1,71 @@
+#pragma once
+
+#include "platform/CoreServices/LaunchTrouble.h"
+#include "platform/CoreServices/ProcessWatch.h"
+#include "platform/CoreServices/detail/ProcessEnd.h"
+#include "platform/CoreServices/detail/ProcessTable.h"
+
+#include <chrono>
+#include <map>
+
+class CFBundle;
+
+/// The applications that this process starts: each runs once at a time, and what becomes of it is
+/// kept, by the path of its bundle. Main thread only.
+class StartedApplications {
+public:
+    /// Lives as long as the program.
+    static StartedApplications& shared();
+
+    /// Starts the application unless it runs or is still starting. One that was asked to quit is
+    /// started once that process has ended. `url` names its bundle.
+    OSStatus start(const CFURL* url);
+
+    /// An event asks that process to quit. An application that is to start after it doesn't any
+    /// more.
+    void noteQuitRequest(const ProcessSerialNumber& psn);
+
+    /// What went wrong so far doesn't count any more.
+    void forgive(const std::string& bundle);
+
+    std::optional<TroubledApplication> findTrouble() const;
+
+    std::function<void()> troubleListener;
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    struct Application {
+        std::string executable;
+        OSType signature = 0;                ///< 0 when unknown
+        std::unique_ptr<ProcessEnd> process; ///< null when none that was started here runs
+        std::optional<Clock::time_point> awaitedSince; ///< it was to start then and isn't up yet
+        bool couldntStart = false;
+        bool startsNext = false; ///< once the one that was asked to quit has ended
+        bool isToQuit = false;   ///< `process` was asked to
+        int endings = 0;         ///< by itself
+    };
+
+    /// A process that was asked to quit.
+    struct Quitting {
+        OSType signature;
+        std::unique_ptr<ProcessEnd> process;
+    };
+
+    StartedApplications();
+    OSStatus startUnlessRunning(Application& application);
+    OSStatus launch(Application& application);
+    void await(Application& application);
+    void noteEnd(Application& application);
+    void noteQuitEnd(pid_t pid);
+    void noteProcesses();
+    bool isOf(const Application& application, pid_t pid, OSType signature) const;
+    /// Without the process `ended`, which the bus may not have missed yet.
+    bool isUp(const Application& application, pid_t ended = 0) const;
+    bool isQuitting(const Application& application) const;
+    void tell() const;
+
+    std::map<std::string, Application> applications_;
+    std::map<pid_t, Quitting> quitting_;
+    ProcessWatch processes_;
+};
