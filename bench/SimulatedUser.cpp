@@ -1,0 +1,93 @@
+#include "bench/SimulatedUser.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int kTrials = 12;
+constexpr int kMostTries = 10;
+
+double uniform(double low, double high, std::mt19937& random) {
+    return std::uniform_real_distribution<>(low, high)(random);
+}
+
+double nextPress(const SimulatedUser& user, const tryout::Sweep& sweep, double markTime,
+                 std::mt19937& random) {
+    if (uniform(0, 1, random) >= user.lapses)
+        return markTime +
+               std::normal_distribution<>(user.timing.lateness, user.timing.spread)(random);
+    return uniform(0, 2 * sweep.time, random); // half of them are none: the sweep is over
+}
+
+/// Whether the true rates, of presses that are no lapses, are what was promised.
+bool keepsPromise(const tryout::Advice& advice, tryout::Conditions tried,
+                  const tryout::Timing& truth) {
+    tried.sweep.time = advice.time;
+    if (hitRate(tried.sweep, tried.target, truth) < tryout::kQuickestRate)
+        return false;
+    tried.sweep.time = advice.surest.value_or(advice.time);
+    return !advice.surest || hitRate(tried.sweep, tried.target, truth) >= tryout::kSurestRate;
+}
+
+} // namespace
+
+const SimulatedUser kSimulatedUsers[8] = {
+    {"quick and even", {0, 0.05}},
+    {"even", {0.05, 0.1}},
+    {"late by a constant", {0.3, 0.1}},
+    {"early", {-0.2, 0.15}},
+    {"shaky", {0.1, 0.2}},
+    {"very shaky", {0, 0.3}},
+    {"lapses 1 in 12", {0.1, 0.1}, 1.0 / 12},
+    {"lapses, double presses", {0.1, 0.15}, 1.0 / 12, 0.1},
+};
+
+tryout::Conditions simulatedConditions() {
+    return {.sweep = {.travel = 500, .time = 10}, .target = 10, .delay = 1.5};
+}
+
+tryout::Measured simulateTry(const SimulatedUser& user, const tryout::Conditions& conditions,
+                             std::mt19937& random) {
+    const tryout::Sweep& sweep = conditions.sweep;
+    std::vector<double> marks;
+    for (int i = 0; i < kTrials; ++i)
+        marks.push_back(sweep.travel * (i + 0.5) / kTrials);
+    std::shuffle(marks.begin(), marks.end(), random);
+
+    tryout::Measured measured;
+    for (const double mark : marks) {
+        tryout::Trial trial{.markTime = sweep.timeAt(mark)};
+        const double press = std::max(nextPress(user, sweep, trial.markTime, random), 0.0);
+        trial.pressed = press < sweep.time;
+        if (trial.pressed) {
+            trial.offset = press - trial.markTime;
+            trial.miss = sweep.positionAt(press) - mark;
+            if (uniform(0, 1, random) < user.doublePresses)
+                measured.extras.push_back({uniform(0.1, 0.4, random), 0.05});
+        }
+        measured.trials.push_back(trial);
+    }
+    return measured;
+}
+
+SimulatedRun simulateRun(const SimulatedUser& user, tryout::Conditions conditions,
+                         std::mt19937& random) {
+    SimulatedRun run;
+    std::vector<double> earlier;
+    while (run.tries++ < kMostTries) {
+        tryout::Measured measured = simulateTry(user, conditions, random);
+        measured.earlierOffsets = earlier;
+        const tryout::Advice advice = tryout::advise(measured, conditions);
+        using enum tryout::Verdict;
+        if (advice.verdict == Keep || advice.verdict == Change)
+            return {true, keepsPromise(advice, conditions, user.timing), advice.time, run.tries};
+        if (advice.verdict == OutOfReach)
+            return run;
+        conditions.sweep.time = advice.time;
+        for (const tryout::Trial& trial : measured.trials)
+            if (trial.pressed)
+                earlier.push_back(trial.offset);
+    }
+    return run;
+}

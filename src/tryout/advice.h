@@ -1,0 +1,59 @@
+#pragma once
+
+#include "src/tryout/hitrate.h"
+#include "src/tryout/trial.h"
+
+#include <optional>
+
+/// What a try says about the sweep's time.
+namespace tryout {
+
+/// What a try was made with.
+struct Conditions {
+    Sweep sweep;                       ///< in millimetres and seconds
+    double target = 10;                ///< its size in the direction of the sweep, in millimetres
+    double delay = 0;                  ///< before each scan, in seconds
+    SettingRange times = {1, 60, 0.5}; ///< what the sweep's time can be
+};
+
+enum class Verdict {
+    NothingPressed, ///< no press at all
+    TooFew,         ///< fewer than kFewestTrials presses
+    Unsteady,       ///< too many presses that nothing asked for: those first
+    Random,         ///< the presses had nothing to do with the marks
+    Tired,          ///< they got worse from sweep to sweep
+    Keep,           ///< no other time is worth the change
+    Change,         ///< to `time`
+    TryAgain,       ///< at `time`, on the way to a better one that this try is too far from
+    OutOfReach,     ///< the slowest sweep is still too fast
+};
+
+constexpr int kFewestTrials = 8;
+/// Of all presses; from this share on those that nothing asked for come first.
+constexpr double kTooManyExtras = 0.25;
+/// Nothing is foretold for sweeps of less or more than these shares of the speed that was tried.
+constexpr double kSlowestForetold = 0.5;
+constexpr double kFastestForetold = 1.5;
+/// A change that saves a smaller share of the time for a hit isn't worth getting used to.
+constexpr double kWorthwhileSaving = 0.05;
+
+struct Advice {
+    Verdict verdict = Verdict::NothingPressed;
+    int presses = 0; ///< of the trials
+    int hits = 0;    ///< stopped within half a target of the mark
+    Timing timing;   ///< as measured: median and spread
+    Timing cautious; ///< what the advice reckons with: the worst that so few presses allow
+    double time = 0; ///< suggested for the sweep, in seconds; the tried one unless Change, TryAgain
+    double expected = 0; ///< the share of hits at `time`, if the timing is as measured
+    double promised = 0; ///< the least share that 95 of 100 users with such a try have there
+    std::optional<double> surest; ///< the time that reaches kSurestRate, where that can be foretold
+    double neededTarget = 0;      ///< OutOfReach: millimetres for kQuickestRate at the slowest
+    double neededTravel = 0;      ///< OutOfReach: or the way to be swept, in millimetres
+};
+
+Advice advise(const Measured& measured, const Conditions& conditions);
+
+/// The timing that 95 of 100 users with `presses` presses like these are no worse than.
+Timing cautiousTiming(const Timing& measured, int presses);
+
+} // namespace tryout

@@ -1,0 +1,51 @@
+#include "src/tryout/steadiness.h"
+
+#include "src/tryout/statistics.h"
+
+#include <cmath>
+
+namespace tryout {
+
+namespace {
+
+constexpr double kMost = 0.95;
+constexpr double kFew = 0.05;
+
+double roundedUp(double seconds) {
+    return std::ceil(seconds / kSteadinessStep - 1e-6) * kSteadinessStep;
+}
+
+std::optional<double> mostOf(const std::vector<double>& sample) {
+    if (sample.empty())
+        return {};
+    return roundedUp(percentile(sample, kMost));
+}
+
+} // namespace
+
+Steadiness steady(const Measured& measured) {
+    std::vector<double> readyTimes, holds, gaps, extraHolds;
+    for (const Trial& trial : measured.trials) {
+        if (trial.pressed)
+            holds.push_back(trial.hold);
+        if (trial.ready > 0)
+            readyTimes.push_back(trial.ready);
+    }
+    for (const ExtraPress& extra : measured.extras) {
+        gaps.push_back(extra.gap);
+        extraHolds.push_back(extra.hold);
+    }
+
+    Steadiness result;
+    result.preScanDelay = mostOf(readyTimes);
+    result.afterClickDelay = mostOf(gaps);
+    if (extraHolds.empty() || holds.empty())
+        return result;
+    const double shortest = roundedUp(percentile(extraHolds, kMost));
+    result.holdsOverlap = shortest > percentile(holds, kFew);
+    if (!result.holdsOverlap)
+        result.minTriggerDuration = shortest;
+    return result;
+}
+
+} // namespace tryout

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <vector>
+
+/// What one try measures. Times in seconds, from the events' own timestamps; lengths in
+/// millimetres. Nothing is about the person.
+namespace tryout {
+
+/// A sweep past one mark.
+struct Trial {
+    double markTime = 0;  ///< from the sweep's start to the line's centre crossing the mark
+    bool pressed = false; ///< else the line ran to the far edge, and what follows is 0
+    double offset = 0;    ///< of the press from the crossing; negative: early
+    double miss = 0;      ///< of the stopped line's centre from the mark; negative: short of it
+    double hold = 0;      ///< how long the key was down
+    double ready = 0;     ///< from its release to the next press that was asked for; 0: none came
+};
+
+/// A press that nothing asked for, soon after one that counted.
+struct ExtraPress {
+    double gap = 0;  ///< since the release before it
+    double hold = 0; ///< how long it lasted
+};
+
+/// The twelve sweeps of a try, as far as the user went; the first two, free, aren't in it.
+struct Measured {
+    std::vector<Trial> trials;
+    std::vector<ExtraPress> extras;
+    /// Of the tries just before, by the same user with the same trigger: they tell of the user's
+    /// timing as well.
+    std::vector<double> earlierOffsets;
+};
+
+} // namespace tryout

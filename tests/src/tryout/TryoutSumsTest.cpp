@@ -1,0 +1,160 @@
+#include "bench/SimulatedUser.h"
+#include "src/tryout/statistics.h"
+#include "src/tryout/steadiness.h"
+#include "src/tryout/words.h"
+
+#include <gtest/gtest.h>
+
+using namespace tryout;
+
+TEST(TryoutSums, RatesAndNeededTimesAreTheReferenceNumbers) {
+    const struct {
+        double spread, width, rate, needed;
+    } rows[] = {{0.05, 24, 0.79, 13}, {0.05, 44, 0.98, 7}, {0.05, 100, 1.0, 3},
+                {0.1, 24, 0.47, 26},  {0.1, 44, 0.75, 14}, {0.1, 100, 0.99, 6},
+                {0.2, 24, 0.25, 53},  {0.2, 44, 0.43, 29}, {0.2, 100, 0.81, 13}};
+
+    const Sweep sweep{.travel = 1920, .time = 10};
+    for (const auto& row : rows) {
+        EXPECT_NEAR(hitRate(sweep, row.width, {0, row.spread}), row.rate, 0.006);
+        const auto time = surestTime(sweep, row.width, {0, row.spread}, {1, 60, 0.1});
+        EXPECT_NEAR(time.value_or(0), row.needed, 0.55) << row.spread << ' ' << row.width;
+    }
+    EXPECT_NEAR(hitRate(sweep, 24, {0.1, 0.1}), 0.30, 0.005);
+    EXPECT_FALSE(surestTime(sweep, 24, {0, 0.2}, {1, 50, 0.5}));
+}
+
+TEST(TryoutSums, StraysDoNotSpoilTheStatistics) {
+    const double values[] = {0.1, 0.2, 9, 0.3, -7, 0.2, 0.15, 0.25};
+    EXPECT_DOUBLE_EQ(median(values), 0.2);
+    EXPECT_NEAR(spread(values), 1.4826 * 0.075, 1e-9);
+    EXPECT_NEAR(spreadBound(1, 12), 1.55, 0.005);
+    EXPECT_NEAR(chiSquareQuantile(0.05, 7), 2.167, 0.001);
+    EXPECT_DOUBLE_EQ(percentile(values, 0.95), 9);
+    EXPECT_DOUBLE_EQ(percentile(values, 0.05), -7);
+    EXPECT_DOUBLE_EQ(median({}), 0);
+}
+
+TEST(TryoutSums, ALineThatSpeedsUpPassesEveryPlaceWhenItSays) {
+    const Sweep sweep{.travel = 300, .time = 8, .accelerates = true};
+    for (const double place : {0.0, 20.0, 150.0, 300.0})
+        EXPECT_NEAR(sweep.positionAt(sweep.timeAt(place)), place, 1e-9);
+    EXPECT_NEAR(sweep.speedAt(100) * 0.002,
+                sweep.positionAt(sweep.timeAt(100) + 0.001) -
+                    sweep.positionAt(sweep.timeAt(100) - 0.001),
+                1e-5);
+    EXPECT_LT(sweep.speedAt(0), sweep.speedAt(300));
+}
+
+TEST(TryoutSums, TheSpeedWithTheLeastTimeForAHitIsQuickest) {
+    const Sweep sweep{.travel = 1920, .time = 10};
+    const Timing timing{0, 0.1};
+    const SettingRange range{1, 60, 0.5};
+    const auto best = quickestTime(sweep, 24, timing, 1.5, range);
+    ASSERT_TRUE(best);
+    EXPECT_GE(hitRate({1920, *best}, 24, timing), kQuickestRate);
+    const double least = timePerHit({1920, *best}, 24, timing, 1.5);
+    for (double time = range.min; time <= range.max; time += range.step) {
+        const bool isGoodEnough = hitRate({1920, time}, 24, timing) >= kQuickestRate;
+        EXPECT_FALSE(isGoodEnough && timePerHit({1920, time}, 24, timing, 1.5) < least);
+    }
+}
+
+// A short run of bench/TryoutSimulation.cpp, with room for chance: a bound too low shows at once.
+TEST(TryoutSums, TheAdvisedTimeKeepsItsPromise) {
+    std::mt19937 random(7);
+    int advised = 0, kept = 0;
+    for (const int user : {0, 1, 3, 6, 7})
+        for (int i = 0; i < 60; ++i) {
+            const auto run = simulateRun(kSimulatedUsers[user], simulatedConditions(), random);
+            advised += run.advised;
+            kept += run.kept;
+        }
+    EXPECT_GE(advised, 290);
+    EXPECT_GE(kept, 0.95 * advised);
+}
+
+namespace {
+
+/// Twelve presses: `offset` gives the lateness at the place of one in the order.
+template <typename Offset>
+Measured tryOf(Offset offset, int count = 12) {
+    Measured measured;
+    for (int i = 0; i < 12; ++i) {
+        Trial trial{.markTime = (i * 5 % 12) * 0.8};
+        trial.pressed = i < count;
+        if (trial.pressed) {
+            trial.offset = offset(i);
+            trial.miss = trial.offset * 50;
+            trial.hold = 0.3;
+        }
+        measured.trials.push_back(trial);
+    }
+    return measured;
+}
+
+Measured withExtras(Measured measured, int count) {
+    for (int i = 0; i < count; ++i)
+        measured.extras.push_back({0.15 + 0.05 * i, 0.08});
+    return measured;
+}
+
+const auto kEven = [](int i) { return i % 2 == 0 ? 0.06 : -0.06; };
+
+} // namespace
+
+TEST(TryoutAdvice, EachKindOfUserGetsWordsOfTheirOwn) {
+    const auto drift = [](int i) { return (i % 2 == 0 ? 0.03 : -0.03) * (i + 1); };
+    const auto uneven = [](int i) { return i % 6 == 1 ? 0.15 : kEven(i); };
+    const auto late = [](int i) { return 1.2 + (i % 3) * 0.2; };
+    // Presses at a quarter of the sweep, wherever the mark was.
+    const auto elsewhere = [](int i) { return 2.5 + (i % 3) * 0.1 - (i * 5 % 12) * 0.8; };
+
+    const struct {
+        const char* who;
+        Measured measured;
+        double tried;
+        Verdict verdict;
+        double time;
+        const char* words;
+    } rows[] = {
+        {"none", tryOf(kEven, 0), 10, Verdict::NothingPressed, 10, "connected"},
+        {"few", tryOf(kEven, 7), 10, Verdict::TooFew, 10, "7 of 12 sweeps"},
+        {"doubles", withExtras(tryOf(kEven), 4), 10, Verdict::Unsteady, 10, "4 of 16 presses"},
+        {"random", tryOf(elsewhere), 10, Verdict::Random, 10, "other moments"},
+        {"tired", tryOf(drift), 10, Verdict::Tired, 10, "rest"},
+        {"no spread", tryOf([](int) { return 0.05; }), 10, Verdict::Change, 7.5, "same moment"},
+        {"quick", tryOf([](int i) { return i % 2 == 0 ? 0.01 : -0.01; }), 20, Verdict::TryAgain,
+         13.5, "quicker line"},
+        {"even", tryOf(kEven), 12, Verdict::Keep, 12, "12.0 seconds suits you: we expect 8 in 10"},
+        {"uneven", withExtras(tryOf(uneven), 3), 12, Verdict::Change, 22,
+         "10 times in 12. At 22.0 seconds we expect 9 in 10, and at least 7"},
+        {"slow", tryOf(late), 10, Verdict::TryAgain, 20, "slower line"},
+        {"slowest", tryOf(late), 40, Verdict::OutOfReach, 40, "Even at 60 seconds"},
+    };
+
+    for (const auto& row : rows) {
+        Conditions tried = simulatedConditions();
+        tried.sweep.time = row.tried;
+        const Advice advice = advise(row.measured, tried);
+        EXPECT_EQ(advice.verdict, row.verdict) << row.who;
+        EXPECT_DOUBLE_EQ(advice.time, row.time) << row.who;
+        const std::string words = resultText(advice, tried, row.measured);
+        EXPECT_NE(words.find(row.words), std::string::npos) << row.who << ": " << words;
+    }
+}
+
+TEST(TryoutAdvice, SteadinessIsMeasuredWhereThereWasSomething) {
+    const Steadiness nothing = steady(tryOf(kEven));
+    EXPECT_FALSE(nothing.minTriggerDuration || nothing.afterClickDelay || nothing.preScanDelay);
+    Measured measured = withExtras(tryOf(kEven), 3);
+    measured.trials[0].ready = 1.23;
+    Steadiness found = steady(measured);
+    EXPECT_DOUBLE_EQ(found.minTriggerDuration.value_or(0), 0.1);
+    EXPECT_DOUBLE_EQ(found.afterClickDelay.value_or(0), 0.3);
+    EXPECT_DOUBLE_EQ(found.preScanDelay.value_or(0), 1.3);
+    measured.extras[1].hold = 0.4;
+    found = steady(measured);
+    EXPECT_TRUE(found.holdsOverlap && !found.minTriggerDuration);
+    EXPECT_NE(steadinessText(found).find("tells them apart"), std::string::npos);
+}
