@@ -1,0 +1,53 @@
+#include "src/history.h"
+
+namespace {
+
+constexpr double kSameStepSeconds = 2;
+
+/// Whether a setting is changed in small steps or by dragging.
+bool isGradual(const Setting& setting) {
+    return setting.isNumber() || setting.form == &kSizeForm || setting.form == &kColourForm;
+}
+
+} // namespace
+
+void History::note(const PrefsRecord& record, double time) {
+    const SettingSet changed = differences(now_, record);
+    if (changed.none())
+        return;
+    steps_.resize(position_, HistoryStep());
+    if (joinsLast(changed, time)) {
+        steps_.back().after = record;
+        steps_.back().time = time;
+        if ((differences(steps_.back().before, record) & changed).none())
+            steps_.pop_back();
+    } else {
+        steps_.push_back({changed, now_, record, time});
+    }
+    position_ = steps_.size();
+    now_ = record;
+}
+
+bool History::joinsLast(const SettingSet& changed, double time) const {
+    return !steps_.empty() && steps_.back().settings == changed && changed.count() == 1 &&
+           isGradual(kSettings[firstOf(changed)]) && time - steps_.back().time <= kSameStepSeconds;
+}
+
+const HistoryStep* History::undo(PrefsRecord& record) {
+    if (!canUndo())
+        return nullptr;
+    HistoryStep& step = steps_[--position_];
+    step.time = -kSameStepSeconds; // a change that comes next is a step of its own
+    copySettings(step.settings, step.before, record);
+    now_ = record;
+    return &step;
+}
+
+const HistoryStep* History::redo(PrefsRecord& record) {
+    if (!canRedo())
+        return nullptr;
+    HistoryStep& step = steps_[position_++];
+    copySettings(step.settings, step.after, record);
+    now_ = record;
+    return &step;
+}

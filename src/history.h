@@ -1,0 +1,45 @@
+#pragma once
+
+#include "src/differences.h"
+
+#include <optional>
+#include <vector>
+
+/// One step of a visit that can be undone: the settings that it changed, before and after.
+struct HistoryStep {
+    SettingSet settings;
+    PrefsRecord before, after;
+    double time; ///< of its last change, in seconds
+};
+
+/// The steps of one visit. It only keeps records: whoever undoes a step copies its settings into
+/// `prefs` and reports the change.
+class History {
+public:
+    explicit History(const PrefsRecord& start) : now_(start) {}
+
+    /// The user changed something at `time`, in seconds of any steady clock. What differs from the
+    /// record as last known becomes a step, and what was undone can't be redone any more. Further
+    /// changes of one number, size or colour within two seconds belong to its step. A record
+    /// without a difference is no step.
+    void note(const PrefsRecord& record, double time);
+
+    /// Something else changed the record, such as the agent's report. That is no step.
+    void follow(const PrefsRecord& record) { now_ = record; }
+
+    bool canUndo() const { return position_ > 0; }
+
+    bool canRedo() const { return position_ < steps_.size(); }
+
+    /// Takes the last step back, or does it again: puts its settings into `record` and returns it.
+    /// Null when there is none. The step stays this object's, until the next note().
+    const HistoryStep* undo(PrefsRecord& record);
+    const HistoryStep* redo(PrefsRecord& record);
+
+private:
+    bool joinsLast(const SettingSet& changed, double time) const;
+
+    PrefsRecord now_;
+    std::vector<HistoryStep> steps_;
+    std::size_t position_ = 0; ///< steps before it are done, the others undone
+};

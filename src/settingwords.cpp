@@ -1,0 +1,124 @@
+#include "src/settingwords.h"
+
+#include "src/keycombo.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+constexpr const char* kHotKeyRoles[kNumHotKeys] = {
+    "Turn scanning on or off", "Scan", "Cancel the scan", "Show these settings", "Second scan key"};
+
+template <class T>
+T get(const Setting& setting, const PrefsRecord& record) {
+    T value;
+    std::memcpy(&value, setting.in(record), sizeof value);
+    return value;
+}
+
+template <class... Parts>
+std::string print(const char* format, Parts... parts) {
+    char text[400]; // the longest double has 309 digits before the point
+    std::snprintf(text, sizeof text, format, parts...);
+    return text;
+}
+
+std::string numberText(const Setting& setting, const PrefsRecord& record) {
+    const std::string text = print(setting.limits.format, settingNumber(setting, record));
+    return text.substr(std::min(text.find_first_not_of(' '), text.size()));
+}
+
+std::string choiceText(const Setting& setting, const PrefsRecord& record) {
+    UInt32 choice = 0;
+    std::memcpy(&choice, setting.in(record), setting.size); // little-endian, as the record is
+    return choice < setting.choices.size() ? setting.choices[choice] : std::to_string(choice);
+}
+
+std::string areaText(const ScanArea& area) {
+    if (area.width <= 0 || area.height <= 0)
+        return "none";
+    return print("%g × %g at %g, %g", double{area.width}, double{area.height}, double{area.x},
+                 double{area.y});
+}
+
+std::string contentText(UInt32 content) {
+    constexpr const char* kContents[] = {"nothing", "icon", "name", "icon and name"};
+    return kContents[content & 3];
+}
+
+std::string hotKeyText(const HotKey& hotKey) {
+    const auto text = createKeyComboString(hotKey.modifiers, hotKey.keyCode);
+    return text ? CFStringToUTF8(text.get()) : "";
+}
+
+std::string hotKeysText(const HotKey (&hotKeys)[kNumHotKeys]) {
+    std::string text;
+    for (const HotKey& hotKey : hotKeys)
+        text += (text.empty() ? "" : ", ") + hotKeyText(hotKey);
+    return text;
+}
+
+std::string actionsText(const UInt8 (&actions)[kNumPaletteSlots]) {
+    const auto count = std::ranges::count_if(actions, [](UInt8 action) { return action != 0; });
+    return std::to_string(count) + (count == 1 ? " button" : " buttons");
+}
+
+/// "12.5 back to 10.0 sec": a unit that both numbers have is said once.
+std::string bothTexts(std::string before, const char* between, const std::string& after) {
+    const auto unit = after.rfind(' ');
+    if (!after.empty() && std::isdigit(static_cast<unsigned char>(after[0])) &&
+        unit != std::string::npos && before.ends_with(after.substr(unit)))
+        before.erase(before.size() - (after.size() - unit));
+    return before + between + after;
+}
+
+} // namespace
+
+double settingNumber(const Setting& setting, const PrefsRecord& record) {
+    if (setting.form == &kRealForm)
+        return get<double>(setting, record);
+    if (setting.form == &kDecimalForm)
+        return get<SInt32>(setting, record);
+    return setting.form == &kHexWordForm ? get<UInt32>(setting, record) : 0;
+}
+
+std::string settingText(const Setting& setting, const PrefsRecord& record) {
+    if (setting.isNumber())
+        return numberText(setting, record);
+    if (!setting.choices.empty())
+        return choiceText(setting, record);
+    if (setting.form == &kFlagForm)
+        return get<UInt8>(setting, record) ? "on" : "off";
+    if (setting.form == &kRectangleForm)
+        return areaText(record.scanArea);
+    if (setting.form == &kColourForm)
+        return print("#%02x%02x%02x", record.lineColor.red, record.lineColor.green,
+                     record.lineColor.blue);
+    if (setting.form == &kSizeForm)
+        return print("%d × %d points", record.buttonSize.width, record.buttonSize.height);
+    if (setting.form == &kHotKeyListForm)
+        return hotKeysText(record.hotKeys);
+    if (setting.form == &kActionListForm)
+        return actionsText(record.buttonActions);
+    if (setting.form == &kHexWordForm)
+        return contentText(record.buttonContent);
+    if (setting.form == &kRealForm)
+        return print("%g", settingNumber(setting, record));
+    const auto text = setting.form->write(setting.in(record));
+    return text ? CFStringToUTF8(text.get()) : "";
+}
+
+std::string changeText(const Setting& setting, const PrefsRecord& before, const PrefsRecord& after,
+                       const char* between) {
+    if (setting.form == &kHotKeyListForm)
+        for (int i = 0; i < kNumHotKeys; ++i)
+            if (std::memcmp(&before.hotKeys[i], &after.hotKeys[i], sizeof(HotKey)) != 0)
+                return kHotKeyRoles[i] + (": " + hotKeyText(before.hotKeys[i])) + between +
+                       hotKeyText(after.hotKeys[i]);
+    const std::string old = settingText(setting, before);
+    const std::string now = settingText(setting, after);
+    return old == now ? setting.name : setting.name + (": " + bothTexts(old, between, now));
+}

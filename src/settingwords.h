@@ -1,0 +1,18 @@
+#pragma once
+
+#include "src/settings.h"
+
+#include <string>
+
+// A setting's value in people's words and units, in UTF-8.
+
+/// As in "12.5 sec", "on", "40 × 40 points" or "control+shift+X, …".
+std::string settingText(const Setting& setting, const PrefsRecord& record);
+
+/// The number that a setting holds, in its unit; 0 for a setting that isn't a number.
+double settingNumber(const Setting& setting, const PrefsRecord& record);
+
+/// What a change did, as in "Line scan time: 12.5 back to 10.0 sec", with " back to " between the
+/// two values. Of hot keys it names the first that differs. Values that read the same aren't said.
+std::string changeText(const Setting& setting, const PrefsRecord& before, const PrefsRecord& after,
+                       const char* between);

@@ -1,0 +1,99 @@
+#include "src/history.h"
+
+#include "src/settingwords.h"
+
+#include <cstring>
+#include <gtest/gtest.h>
+
+namespace {
+
+const Setting& settingOf(const SettingSet& settings) {
+    return kSettings[firstOf(settings)];
+}
+
+TEST(HistoryTest, ChangesOfOneNumberWithinTwoSecondsAreOneStep) {
+    PrefsRecord record;
+    History history(record);
+    const auto change = [&](double lineScanTime, double time) {
+        record.lineScanTime = lineScanTime;
+        history.note(record, time);
+    };
+    change(10.5, 100);
+    change(11, 101.9);
+    change(11.5, 103.8);
+    change(12, 105.9); // later: a step of its own
+    change(11.5, 107); // and back: nothing is left of that step
+    record.soundLevel = 60;
+    history.note(record, 107.5);
+    change(12.5, 108);
+
+    EXPECT_EQ(changesOf(history.undo(record)->settings), kChangeScanSpeed);
+    EXPECT_EQ(record.lineScanTime, 11.5);
+    change(13, 108.5); // after an undo a change never joins what was before
+    history.undo(record);
+    EXPECT_EQ(record.lineScanTime, 11.5);
+    EXPECT_EQ(changesOf(history.undo(record)->settings), kChangeSounds);
+    const HistoryStep* first = history.undo(record);
+    EXPECT_EQ(changeText(settingOf(first->settings), first->after, first->before, " back to "),
+              "Line scan time: 11.5 back to 10.0 sec");
+    EXPECT_FALSE(history.canUndo());
+    const PrefsRecord factory;
+    EXPECT_EQ(std::memcmp(&record, &factory, sizeof record), 0);
+    EXPECT_EQ(history.redo(record)->after.lineScanTime, 11.5);
+    EXPECT_EQ(record.lineScanTime, 11.5);
+}
+
+TEST(HistoryTest, WhatTheAgentReportsIsNoStepAndStays) {
+    PrefsRecord record;
+    History history(record);
+    record.scanMode = 2;
+    history.note(record, 1);
+    record.on = 0;
+    history.follow(record);
+    history.note(record, 1.5);
+    history.undo(record);
+    EXPECT_EQ(record.on, 0);
+    EXPECT_EQ(record.scanMode, 0);
+    EXPECT_FALSE(history.canUndo());
+    history.redo(record);
+    EXPECT_EQ(record.scanMode, 2);
+    history.undo(record);
+    record.useScanArea = 1;
+    history.note(record, 2); // a change after an undo: no way forward any more
+    EXPECT_FALSE(history.canRedo());
+}
+
+TEST(SettingWordsTest, EverySettingReadsInPeoplesWords) {
+    PrefsRecord before, after;
+    after.on = 0;
+    after.scanMode = 1;
+    after.scanArea = {0, 10, 640, 480};
+    after.lineColor = {255, 128, 0};
+    after.menuScanSpeedScaleFactor = 65;
+    after.lineThickness = 9;
+    std::strcpy(after.pointerImageName, "big\x8e");
+    after.hotKeys[2] = {-1, 0};
+    after.buttonSize = {.height = 50, .width = 60};
+    after.buttonContent = 1;
+    after.buttonActions[0] = 0;
+    after.buttonActions[1] = 7;
+    std::string texts;
+    const SettingSet changed = differences(before, after);
+    for (std::size_t i = 0; i < kSettings.size(); ++i)
+        if (changed[i])
+            texts += changeText(kSettings[i], before, after, " to ") + "\n";
+    EXPECT_EQ(texts,
+              "Scanning: on to off\n"
+              "Scan mode: Press to start, press to choose to Hold to scan, let go to choose\n"
+              "My own area: none to 640 × 480 at 0, 10\n"
+              "Speed in menus: 60% to 65%\n"
+              "Line colour: #640000 to #ff8000\n"
+              "Line thickness: 7 to 9 points\n"
+              "Pointer: default to bigé\n"
+              "Cancel the scan: esc to -none-\n"
+              "Size of palette buttons: 40 × 40 to 60 × 50 points\n"
+              "Shown on palette buttons: icon and name to icon\n"
+              "Palette buttons: 5 to 4 buttons\n");
+}
+
+} // namespace
