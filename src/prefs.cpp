@@ -1,7 +1,11 @@
 #include "src/prefs.h"
 
 #include "platform/CoreFoundation/CFPreferences.h"
+#include "platform/CoreFoundation/PreferencesMerging.h"
 #include "src/settings.h"
+
+#include <array>
+#include <cstring>
 
 const CFString* const kAgentBundleID = CFSTR(kAgentBundleIDText);
 
@@ -10,6 +14,27 @@ PrefsRecord prefs;
 namespace {
 
 bool prefsNeedSaving = false;
+
+/// What is known of a setting. A save writes it for sure when it was chosen here; else it yields to
+/// what another program stored since it was loaded.
+struct SettingState {
+    CFRef<const CFType> loaded; ///< as stored when it was loaded; null: not there
+    bool isChosen = false;      ///< and not saved since
+};
+
+/// One a row of kSettings. Never destroyed: an exit handler may save.
+auto& settingStates = *new std::array<SettingState, kSettings.size()>;
+
+PrefsRecord lastLook; ///< the record when it was last looked through for changes
+
+void noteChanges() {
+    for (std::size_t i = 0; i < kSettings.size(); ++i) {
+        const Setting& setting = kSettings[i];
+        if (std::memcmp(setting.in(prefs), setting.in(lastLook), setting.size) != 0)
+            settingStates[i].isChosen = true;
+    }
+    lastLook = prefs;
+}
 
 void load(const CFString* key, const PrefsForm& form, void* field) {
     form.read(CFPreferencesCopyAppValue(key, kAgentBundleID).get(), field);
@@ -23,17 +48,34 @@ void save(const CFString* key, const PrefsForm& form, const void* field) {
 } // namespace
 
 void prefsSetup() {
-    for (const Setting& setting : kSettings)
-        load(CFSTR(setting.key), *setting.form, setting.in(prefs));
+    for (std::size_t i = 0; i < kSettings.size(); ++i) {
+        CFRef<const CFType>& loaded = settingStates[i].loaded;
+        loaded = CFPreferencesCopyAppValue(CFSTR(kSettings[i].key), kAgentBundleID);
+        kSettings[i].form->read(loaded.get(), kSettings[i].in(prefs));
+    }
+    lastLook = prefs;
 }
 
 bool savePrefs() {
-    for (const Setting& setting : kSettings)
-        save(CFSTR(setting.key), *setting.form, setting.in(prefs));
-    return CFPreferencesAppSynchronize(kAgentBundleID);
+    noteChanges();
+    for (std::size_t i = 0; i < kSettings.size(); ++i) {
+        const CFString* key = CFSTR(kSettings[i].key);
+        const SettingState& state = settingStates[i];
+        save(key, *kSettings[i].form, kSettings[i].in(prefs));
+        if (!state.isChosen)
+            preferencesGiveWay(key, state.loaded.get(), kAgentBundleID);
+    }
+    const bool saved = CFPreferencesAppSynchronize(kAgentBundleID);
+    if (saved)
+        for (SettingState& state : settingStates)
+            state.isChosen = false;
+    return saved;
 }
 
-void prefsWereChanged() {
+void prefsWereChanged(const void* chosen) {
+    noteChanges();
+    for (std::size_t i = 0; i < kSettings.size(); ++i)
+        settingStates[i].isChosen |= kSettings[i].in(prefs) == chosen;
     prefsNeedSaving = true;
 }
 

@@ -175,10 +175,13 @@ extern PrefsRecord prefs;
 /// doesn't parse, leaves its field as it is. Neither synchronises the domain nor marks a change.
 void prefsSetup();
 
-/// Writes every key and synchronises the domain once; returns whether that succeeded.
+/// Writes every key and synchronises the domain once; returns whether that succeeded. A setting
+/// that wasn't changed here since it was loaded or saved yields to what another program stored
+/// meanwhile.
 bool savePrefs();
 
-void prefsWereChanged();
+/// `chosen`, if not null, is a field of `prefs` that counts as changed though it may be as before.
+void prefsWereChanged(const void* chosen = nullptr);
 void prefsWerentChanged();
 
 /// Saves when the record was changed since it was last saved, else does nothing.

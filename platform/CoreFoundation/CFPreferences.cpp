@@ -1,5 +1,6 @@
 #include "platform/CoreFoundation/CFPreferences.h"
 
+#include "platform/CoreFoundation/PreferencesMerging.h"
 #include "platform/CoreFoundation/StoredValues.h"
 #include "platform/CoreFoundation/detail/PreferencesFiles.h"
 #include "platform/CoreFoundation/detail/TextEncoding.h"
@@ -84,4 +85,9 @@ void CFPreferencesSetValue(const CFString* key, const CFType* value, const CFStr
 bool CFPreferencesSynchronize(const CFString* domain, const CFString* user, const CFString*) {
     PreferencesDomain* found = writtenDomain(domain, user);
     return found && found->synchronize();
+}
+
+void preferencesGiveWay(const CFString* key, const CFType* seen, const CFString* domain) {
+    if (PreferencesDomain* found = writtenDomain(domain, kCFPreferencesCurrentUser))
+        found->giveWay(key, seen);
 }

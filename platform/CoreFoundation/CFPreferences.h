@@ -10,9 +10,9 @@
 //
 // The process keeps each domain in memory from its first use. Setting a value changes that copy and
 // marks the key; synchronising takes the domain's lock, reads the file afresh, applies the marked
-// keys, writes a new file, flushes it to disk and renames it over the old one. A key that is set to
-// the value that it already has in memory isn't marked, so that a program which stores all its
-// settings undoes nothing that another one changed meanwhile.
+// keys, writes a new file, flushes it to disk and renames it over the old one. A key is marked also
+// when it is set to the value that it has in memory: the file may hold another one by now. See
+// PreferencesMerging.h for keys that shall yield to that one.
 //
 // A file that isn't a property list with a dictionary at its root reads as empty on first use, and
 // leaves the copy in memory as it is later on. The next writing keeps it aside as

@@ -34,7 +34,7 @@ void PreferenceWrangler::changed(ChangeMask changes) {
             return;
     }
     updateUIForChanges(changes);
-    prefsWereChanged();
+    prefsWereChanged(changes & kChangeOnOff ? &prefs.on : nullptr);
     daemonSendChanges(changes, true);
 }
 

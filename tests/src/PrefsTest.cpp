@@ -144,6 +144,38 @@ TEST(PrefsTest, TextsThatDontParseLeaveTheirFields) {
     }
 }
 
+TEST(PrefsTest, WhatTheUserChoseIsStoredAndTheRestYieldsToOthers) {
+    const auto store = [](const std::string& on, const std::string& others) {
+        writeFile(kDomainFile, dictionaryFile("<key>on</key><string>" + on + "</string>" + others));
+    };
+    const std::string spelling = "<key>scanner.lineScanTime</key><string>10</string>";
+    const std::string agents = "<key>soundLevel</key><string>0x1</string>";
+    store("yes", spelling);
+    prefsSetup();
+    store("no", spelling + agents);
+    for (const bool on : {false, true}) {
+        prefs.on = on;
+        prefsWereChanged();
+    }
+    ASSERT_TRUE(savePrefs());
+    for (const char* text : {"on=yes|", "|soundLevel=0x1|", "|scanner.lineScanTime=10.000000|"})
+        EXPECT_THAT(storedTexts(), HasSubstr(text));
+
+    store("no", agents); // the visit goes on
+    prefs.buttonGap = 9;
+    ASSERT_TRUE(savePrefs());
+    for (const char* text : {"|on=no|", "|soundLevel=0x1|", "|palette.buttonGap=9|"})
+        EXPECT_THAT(storedTexts(), HasSubstr(text));
+
+    store("no", agents);
+    prefsWereChanged(&prefs.on);
+    ASSERT_TRUE(savePrefs());
+    EXPECT_THAT(storedTexts(), HasSubstr("|on=yes|"));
+    fs::remove(kDomainFile);
+    ASSERT_TRUE(savePrefs());
+    EXPECT_EQ(std::ranges::count(storedTexts(), '|'), std::ranges::count(kFactoryTexts, '|'));
+}
+
 TEST(PrefsTest, ValuesOfOtherTypesLeaveTextFields) {
     writeFile(kDomainFile, dictionaryFile("<key>on</key><false/>"
                                           "<key>scanner.scanMode</key><real>2.9</real>"

@@ -79,15 +79,21 @@ PreferencesDomain::PreferencesDomain(std::string path, Readers readers)
 const CFType* PreferencesDomain::value(const CFString* key) const {
     const auto change = changes_.find(key->text());
     return change == changes_.end() ? CFDictionaryGetValue(stored_.get(), key)
-                                    : change->second.get();
+                                    : change->second.value.get();
 }
 
 void PreferencesDomain::setValue(const CFString* key, const CFType* newValue) {
-    if (CFEqual(newValue, value(key)))
-        return;
     auto storable = newValue ? storableValue(key, newValue) : nullptr;
     if (storable || !newValue)
-        changes_.insert_or_assign(key->text(), std::move(storable));
+        changes_.insert_or_assign(key->text(), Change{std::move(storable), false, nullptr});
+}
+
+void PreferencesDomain::giveWay(const CFString* key, const CFType* seen) {
+    const auto change = changes_.find(key->text());
+    if (change == changes_.end())
+        return;
+    change->second.givesWay = true;
+    change->second.seen = CFRef<const CFType>::retain(seen);
 }
 
 bool PreferencesDomain::synchronize() {
@@ -150,8 +156,12 @@ PreferencesDomain::FileState PreferencesDomain::note(FileState state, int error)
 CFRef<const CFDictionary> PreferencesDomain::merged() const {
     CFDictionary::Items items = stored_->items();
     for (const auto& [key, change] : changes_) {
-        if (change)
-            items.insert_or_assign(key, change);
+        const auto stored = stored_->items().find(key);
+        if (change.givesWay && stored != stored_->items().end() &&
+            !CFEqual(stored->second.get(), change.seen.get()))
+            continue;
+        if (change.value)
+            items.insert_or_assign(key, change.value);
         else
             items.erase(key);
     }
@@ -163,6 +173,10 @@ PreferencesOutcome PreferencesDomain::write(FileState state) {
     if (state == FileState::Unreadable)
         return loaded_;
     CFRef<const CFDictionary> values = merged();
+    if (state == FileState::Sound && CFEqual(values.get(), stored_.get())) {
+        changes_.clear();
+        return {FileTrouble::None, path_};
+    }
     const std::string document = CFPropertyListToXML(values.get());
     const std::string target = resolveLinks(path_);
     const bool isDamaged = state == FileState::Damaged;

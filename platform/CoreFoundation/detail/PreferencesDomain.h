@@ -15,6 +15,8 @@ public:
     /// Null when the key is absent.
     const CFType* value(const CFString* key) const;
     void setValue(const CFString* key, const CFType* value);
+    /// See PreferencesMerging.h.
+    void giveWay(const CFString* key, const CFType* seen);
     bool synchronize();
 
     // See PreferencesOutcome.h.
@@ -32,6 +34,12 @@ public:
 private:
     enum class FileState { Sound, Missing, Damaged, Unreadable };
 
+    struct Change {
+        CFRef<const CFType> value; ///< null for a key that was removed
+        bool givesWay = false;     ///< to a stored value that is another than `seen`
+        CFRef<const CFType> seen;
+    };
+
     FileState refresh();
     FileState note(FileState state, int error = 0);
     CFRef<const CFDictionary> merged() const;
@@ -43,9 +51,9 @@ private:
 
     std::string path_;
     Readers readers_;
-    CFRef<const CFDictionary> stored_; ///< the file's values when last read or written
-    CFRef<const CFData> content_;      ///< the bytes of that file, or null
-    CFDictionary::Items changes_;      ///< what was set since; null for a key that was removed
+    CFRef<const CFDictionary> stored_;         ///< the file's values when last read or written
+    CFRef<const CFData> content_;              ///< the bytes of that file, or null
+    std::map<std::u16string, Change> changes_; ///< what was set since
     PreferencesOutcome loaded_;
     PreferencesOutcome saved_;
 };

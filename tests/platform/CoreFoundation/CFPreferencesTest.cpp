@@ -1,4 +1,5 @@
 #include "platform/CoreFoundation/CFPreferences.h"
+#include "platform/CoreFoundation/PreferencesMerging.h"
 #include "platform/CoreFoundation/PreferencesOutcome.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
@@ -116,14 +117,17 @@ TEST_F(CFPreferencesTest, AllUsersValuesAreDefaults) {
 }
 
 TEST_F(CFPreferencesTest, TwoWritersKeepEachOthersKeys) {
-    writeFile(own_, file("mine=1 theirs=1 both=1"));
+    writeFile(own_, file("again=1 mine=1 theirs=1 spelt=1"));
     EXPECT_EQ(get("theirs"), "1");
-    writeFile(own_, file("mine=1 theirs=2 both=2 new=2"));
+    writeFile(own_, file("again=2 mine=1 theirs=2 spelt=1 new=2"));
     set("mine", "3");
-    set("both", "3");
-    set("theirs", "1"); // as it is here: not a change
+    set("again", "1"); // as it is here: chosen anew
+    for (const char* key : {"theirs", "spelt", "gone"}) {
+        set(key, "3");
+        preferencesGiveWay(CFSTR(key), CFSTR("1"), domain_.get());
+    }
     EXPECT_TRUE(synchronize());
-    EXPECT_EQ(stored(own_), file("both=3 mine=3 new=2 theirs=2"));
+    EXPECT_EQ(stored(own_), file("again=1 gone=3 mine=3 new=2 spelt=3 theirs=2"));
 
     writeFile(own_, file("theirs=4"));
     EXPECT_TRUE(synchronize()) << "with nothing to write, it takes in what others wrote";
