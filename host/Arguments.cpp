@@ -5,10 +5,14 @@
 
 const char* const kUsage =
     "Usage: korvex-preferences [BUNDLE.prefPane]\n"
+    "       korvex-preferences --section NAME\n"
+    "       korvex-preferences --service\n"
     "       korvex-preferences --check BUNDLE.prefPane\n"
     "\n"
     "Shows the settings pane of the bundle, of Korvex's own without one.\n"
     "\n"
+    "  --section NAME  show that section of the pane, for example \"palette\"\n"
+    "  --service       wait until the session bus asks for the window\n"
     "  --check BUNDLE  load the bundle, check its interface files, show nothing\n"
     "  --help          print this text\n"
     "  --version       print the version\n";
@@ -16,27 +20,30 @@ const char* const kUsage =
 Arguments parseArguments(int argc, char** argv) {
     using Task = Arguments::Task;
     static constexpr ::option kOptions[] = {
-        {"check", required_argument, nullptr, 'c'},
-        {"help", no_argument, nullptr, 'h'},
-        {"version", no_argument, nullptr, 'v'},
-        {},
+        {"check", required_argument, nullptr, 'c'},   {"help", no_argument, nullptr, 'h'},
+        {"section", required_argument, nullptr, 's'}, {"service", no_argument, nullptr, 'b'},
+        {"version", no_argument, nullptr, 'v'},       {},
     };
     // Nothing is looked for behind the first operand, and no option goes with one.
     const int option = getopt_long(argc, argv, "+", kOptions, nullptr);
     const int operands = argc - optind;
     if (option == -1 && operands <= 1)
-        return {Task::Show, operands == 1 ? argv[optind] : ""};
+        return {Task::Show, operands == 1 ? argv[optind] : "", {}};
     if (operands == 0) {
         switch (option) {
         case 'c':
-            return {Task::Check, optarg};
+            return {Task::Check, optarg, {}};
         case 'h':
-            return {Task::Help, {}};
+            return {Task::Help, {}, {}};
+        case 's':
+            return {Task::Show, {}, optarg};
+        case 'b':
+            return {Task::Serve, {}, {}};
         case 'v':
-            return {Task::Version, {}};
+            return {Task::Version, {}, {}};
         }
     }
-    return {Task::Misuse, {}};
+    return {Task::Misuse, {}, {}};
 }
 
 std::string findOwnBundle() {

@@ -4,10 +4,11 @@
 
 /// What the command line asks for.
 struct Arguments {
-    enum class Task { Show, Check, Help, Version, Misuse };
+    enum class Task { Show, Serve, Check, Help, Version, Misuse };
 
     Task task = Task::Show;
-    std::string bundle; ///< path of the bundle; empty for the one that belongs to this program
+    std::string bundle;  ///< path of the bundle; empty for the one that belongs to this program
+    std::string section; ///< of the pane, to be shown first; empty for its own choice
 };
 
 /// The text that --help prints.

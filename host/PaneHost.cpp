@@ -1,10 +1,14 @@
 #include "host/PaneHost.h"
 
+#include "host/DesktopApplication.h"
 #include "host/PaneWindow.h"
+#include "host/Sections.h"
+#include "host/StartupNotification.h"
 #include "platform/HIToolbox/NibRequirement.h"
 
 #include <QApplication>
 
+#include <cstdio>
 #include <cstdlib>
 #include <utility>
 
@@ -77,6 +81,13 @@ void PaneHost::open() {
 
 void PaneHost::bringToFront() {
     window_->bringToFront();
+}
+
+void PaneHost::comply(const ShowRequest& request) {
+    if (!request.section.isEmpty() && !showSection(pane_->mainView()->widget(), request.section))
+        std::fprintf(stderr, "korvex-preferences: there is no section '%s'\n",
+                     request.section.toUtf8().constData());
+    completeStartup(window_->windowHandle(), request.startupID);
 }
 
 void PaneHost::putAway() {

@@ -7,6 +7,7 @@
 #include <vector>
 
 class PaneWindow;
+struct ShowRequest;
 
 /// A preference pane, its window, and the one visit that this program pays to it.
 class PaneHost {
@@ -28,6 +29,10 @@ public:
 
     /// To be called once open.
     void bringToFront();
+
+    /// To be called once open: turns to the section, when one is named, and has the desktop know
+    /// that the window is there.
+    void comply(const ShowRequest& request);
 
     /// Takes the pane out of sight, lets it save, and ends the program; once it is put away
     /// already, nothing.

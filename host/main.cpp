@@ -5,15 +5,20 @@
 #include "platform/CoreServices/Processes.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <clocale>
 #include <cstdio>
+#include <utility>
 
 namespace {
 
 /// Letters typed this close together, in milliseconds, look for one entry of a list: the usual 400
 /// leave a slow hand no second letter.
 constexpr int kSlowTypingMs = 2000;
+
+/// How long a service waits for the request that it was started for, in milliseconds.
+constexpr int kServicePatienceMs = 10'000;
 
 enum ExitStatus { kDone = 0, kFailed = 1, kMisused = 2 };
 
@@ -43,24 +48,40 @@ bool load(PaneHost& host, const std::string& bundle, Arguments::Task task) {
     return errors.empty();
 }
 
-int show(const std::string& bundle) {
+/// Shows the pane until its window is closed: at once, or as a service at the first request.
+int show(const Arguments& arguments, const QVariantMap& activation) {
     PaneHost host;
-    bool isOpen = false;
-    if (!becomeSingleInstance([&] {
-            if (isOpen)
-                host.bringToFront();
-        }))
+    bool isReady = false, isOpen = false;
+    const auto comply = [&](const ShowRequest& request) {
+        if (!isReady)
+            return;
+        if (std::exchange(isOpen, true))
+            host.bringToFront();
+        else
+            host.open();
+        host.comply(request);
+    };
+    const ShowRequest request{QString::fromStdString(arguments.section), {}};
+    if (!becomeSingleInstance(request, activation, comply))
         return kDone;
     registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
+    const std::string& bundle = arguments.bundle;
     if (!load(host, bundle.empty() ? findOwnBundle() : bundle, Arguments::Task::Show))
         return kFailed;
 
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setKeyboardInputInterval(kSlowTypingMs);
-    handleTerminationSignals([&] { host.putAway(); });
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, [&] { host.putAway(); });
-    host.open();
-    isOpen = true;
+    const auto end = [&] { isOpen ? host.putAway() : QCoreApplication::quit(); };
+    handleTerminationSignals(end);
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, end);
+    isReady = true;
+    if (arguments.task == Arguments::Task::Show)
+        comply(request);
+    else
+        QTimer::singleShot(kServicePatienceMs, [&] {
+            if (!isOpen)
+                QCoreApplication::quit();
+        });
     return QApplication::exec();
 }
 
@@ -69,13 +90,14 @@ int run(const Arguments& arguments, int argc, char** argv) {
         std::fputs("korvex-preferences: there is no display\n", stderr);
         return kFailed;
     }
+    const QVariantMap activation = activationData();
     QApplication application(argc, argv);
     // QApplication takes on the user's locale; stored numbers have a point in every one.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("korvex-preferences"));
     QApplication::setDesktopFileName(QStringLiteral("org.korvex.Preferences"));
-    if (arguments.task == Arguments::Task::Show)
-        return show(arguments.bundle);
+    if (arguments.task != Arguments::Task::Check)
+        return show(arguments, activation);
     PaneHost host;
     return load(host, arguments.bundle, Arguments::Task::Check) ? kDone : kFailed;
 }
@@ -95,6 +117,7 @@ int main(int argc, char** argv) {
         std::fputs(kUsage, stderr);
         return kMisused;
     case Arguments::Task::Show:
+    case Arguments::Task::Serve:
     case Arguments::Task::Check:
         return run(arguments, argc, argv);
     }

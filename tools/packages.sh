@@ -7,7 +7,7 @@ build_packages=(
     libplist-dev libicns-dev libqt6svg6 libxcb1-dev
     librsvg2-bin icnsutils python3
     libgtest-dev libgmock-dev libbenchmark-dev
-    dbus libglib2.0-bin desktop-file-utils
+    dbus libglib2.0-bin desktop-file-utils appstream
 )
 # A virtual display with a window manager, and what reads the screen and types on the keyboard.
 tour_packages=(

@@ -55,8 +55,8 @@ class Tour:
     def start(self) -> None:
         self.program = self.start_program()
 
-    def start_program(self) -> subprocess.Popen:
-        return self.desktop.start(self.build / "host" / PROGRAM)
+    def start_program(self, *arguments: str) -> subprocess.Popen:
+        return self.desktop.start(self.build / "host" / PROGRAM, *arguments)
 
     def close(self) -> None:
         """Has the window manager close the window. The agent must hear of that, and of nothing
@@ -154,14 +154,16 @@ def open_it_again(tour: Tour) -> str:
 
 
 def start_it_twice(tour: Tour) -> str:
-    """Start the program while its window is minimised"""
+    """Start the program for another section while its window is minimised"""
     (window,) = tour.screen.windows(PROGRAM)
     press("windowminimize", window)
     until(lambda: not tour.screen.windows(PROGRAM), "the window is minimised")
-    check(tour.start_program().wait(PATIENCE) == 0, "the second start failed")
+    second = tour.start_program("--section", "sound")
+    check(second.wait(PATIENCE) == 0, "the second start failed")
     until(lambda: tour.screen.active_window() == window, "the first window comes to the front")
     check(tour.screen.windows(PROGRAM) == [window], "there is a second window")
-    return "the second start ended with 0; the one window is in front again"
+    tour.screen.find("Volume", "slider")
+    return "the second start ended with 0; the one window is in front again, at the section"
 
 
 def close_it_unchanged(tour: Tour) -> str:
