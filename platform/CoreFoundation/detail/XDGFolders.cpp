@@ -21,6 +21,12 @@ std::string homeFolder() {
     return user ? user->pw_dir : "/";
 }
 
+/// The folder that the variable names, else the one in the home folder.
+std::string userFolder(const char* variable, const char* inHome) {
+    const std::string folder = absoluteVariable(variable);
+    return folder.empty() ? homeFolder() + inHome : folder;
+}
+
 /// The absolute ones among the folders that the variable lists, else `defaults`.
 std::vector<std::string> foldersOfVariable(const char* name, std::vector<std::string> defaults) {
     const char* value = std::getenv(name);
@@ -35,8 +41,11 @@ std::vector<std::string> foldersOfVariable(const char* name, std::vector<std::st
 } // namespace
 
 std::string xdgConfigHome() {
-    const std::string folder = absoluteVariable("XDG_CONFIG_HOME");
-    return folder.empty() ? homeFolder() + "/.config" : folder;
+    return userFolder("XDG_CONFIG_HOME", "/.config");
+}
+
+std::string xdgStateHome() {
+    return userFolder("XDG_STATE_HOME", "/.local/state");
 }
 
 std::vector<std::string> xdgSystemConfigFolders() {
@@ -50,7 +59,6 @@ std::string xdgSystemConfig() {
 std::vector<std::string> xdgDataFolders() {
     std::vector<std::string> folders =
         foldersOfVariable("XDG_DATA_DIRS", {"/usr/local/share", "/usr/share"});
-    const std::string own = absoluteVariable("XDG_DATA_HOME");
-    folders.insert(folders.begin(), own.empty() ? homeFolder() + "/.local/share" : own);
+    folders.insert(folders.begin(), userFolder("XDG_DATA_HOME", "/.local/share"));
     return folders;
 }

@@ -9,6 +9,9 @@
 /// $XDG_CONFIG_HOME, or .config in the home folder.
 std::string xdgConfigHome();
 
+/// $XDG_STATE_HOME, or .local/state in the home folder.
+std::string xdgStateHome();
+
 /// The absolute folders of $XDG_CONFIG_DIRS, or /etc/xdg. Never empty; the first wins.
 std::vector<std::string> xdgSystemConfigFolders();
 

@@ -1,0 +1,120 @@
+#include "src/profiles.h"
+
+#include "platform/CoreFoundation/UserFiles.h"
+
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t kMaxNameLength = 60; // bytes
+constexpr char kSuffix[] = ".plist";
+
+std::string folder() {
+    return userDataFolder() + "/korvex/profiles";
+}
+
+std::string pathOf(const std::string& name) {
+    return folder() + "/" + name + kSuffix;
+}
+
+std::string currentProfilePath() {
+    return userStateFolder() + "/korvex/profile";
+}
+
+std::string reasonOf(int error) {
+    return error ? std::strerror(error) : "";
+}
+
+bool isThere(const std::string& name) {
+    return profileNameFault(name).empty() && fs::exists(pathOf(name));
+}
+
+} // namespace
+
+SettingSet profileSettings() {
+    SettingSet settings;
+    for (std::size_t i = 0; i < kSettings.size(); ++i)
+        settings[i] = !(kSettings[i].changes & (kChangeOnOff | kChangeLaunch));
+    return settings;
+}
+
+std::vector<std::string> profileNames() {
+    std::vector<std::string> names;
+    std::error_code error;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder(), error))
+        if (entry.path().extension() == kSuffix && isThere(entry.path().stem()))
+            names.push_back(entry.path().stem());
+    std::ranges::sort(names);
+    return names;
+}
+
+std::string profileNameFault(const std::string& name) {
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == 0x7F; };
+    if (name.empty())
+        return "a profile needs a name";
+    if (name.size() > kMaxNameLength)
+        return "the name is too long";
+    if (name[0] == '.' || name.find('/') != std::string::npos ||
+        std::ranges::any_of(name, isControl))
+        return "a name has no slash and no control character, and doesn't begin with a point";
+    return {};
+}
+
+std::string saveProfile(const std::string& name, const PrefsRecord& record) {
+    if (const std::string fault = profileNameFault(name); !fault.empty())
+        return fault;
+    return reasonOf(writeSettingsFile(pathOf(name), profileSettings(), record));
+}
+
+SettingsOffer readProfile(const std::string& name, const PrefsRecord& base) {
+    SettingsOffer offer{.record = base, .settings = {}, .refused = {}, .error = {}};
+    if (!isThere(name)) {
+        offer.error = "there is no profile of that name";
+        return offer;
+    }
+    offer = readSettingsFile(pathOf(name), base);
+    offer.settings &= profileSettings();
+    PrefsRecord record = base;
+    copySettings(offer.settings, offer.record, record);
+    offer.record = record;
+    return offer;
+}
+
+std::string renameProfile(const std::string& name, const std::string& newName) {
+    if (const std::string fault = profileNameFault(newName); !fault.empty())
+        return fault;
+    if (!isThere(name))
+        return "there is no profile of that name";
+    if (isThere(newName))
+        return "there is a profile of that name";
+    const bool isCurrent = currentProfile() == name;
+    std::error_code error;
+    fs::rename(pathOf(name), pathOf(newName), error);
+    if (!error && isCurrent)
+        setCurrentProfile(newName);
+    return reasonOf(error.value());
+}
+
+std::string deleteProfile(const std::string& name) {
+    if (!isThere(name))
+        return "there is no profile of that name";
+    std::error_code error;
+    fs::remove(pathOf(name), error);
+    return reasonOf(error.value());
+}
+
+std::string currentProfile() {
+    std::ifstream file(currentProfilePath());
+    std::string name;
+    std::getline(file, name);
+    return isThere(name) ? name : "";
+}
+
+void setCurrentProfile(const std::string& name) {
+    replaceUserFile(currentProfilePath(), name + "\n");
+}

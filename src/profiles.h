@@ -1,0 +1,32 @@
+#pragma once
+
+#include "src/settingsfile.h"
+
+// Named states of the settings, such as "Morning" or "Tired": a file of settings each, in
+// korvex/profiles under the user's data folder. Names and messages are in UTF-8. An operation that
+// can fail returns why, in words, or an empty text.
+
+/// What a profile holds: every setting but the on/off switch and those of the login.
+SettingSet profileSettings();
+
+/// In the order of the alphabet.
+std::vector<std::string> profileNames();
+
+/// Why there can be no profile of that name; empty when there can. A name has 1 to 60 bytes,
+/// doesn't begin with a point, and holds neither a slash nor a control character.
+std::string profileNameFault(const std::string& name);
+
+/// Saves the record's settings, over a profile of the same name as well.
+std::string saveProfile(const std::string& name, const PrefsRecord& record);
+
+/// What it offers over `base`; its error is set when there is none of that name.
+SettingsOffer readProfile(const std::string& name, const PrefsRecord& base);
+
+/// Fails when the new name is taken.
+std::string renameProfile(const std::string& name, const std::string& newName);
+std::string deleteProfile(const std::string& name);
+
+/// The profile that was used or saved last; empty when there was none or it is gone. Whether the
+/// settings have changed since shows in readProfile.
+std::string currentProfile();
+void setCurrentProfile(const std::string& name);

@@ -1,0 +1,120 @@
+#include "src/settingcheck.h"
+
+#include "src/prefpane/palutil.h"
+#include "src/settingwords.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <strings.h>
+
+namespace {
+
+std::string rangeWords(const SettingLimits& limits) {
+    char text[100];
+    std::snprintf(text, sizeof text, "outside %g to %g%s%s", limits.minimum, limits.maximum,
+                  *limits.unit ? " " : "", limits.unit);
+    return text;
+}
+
+std::string choiceWords(const Setting& setting) {
+    std::string words = "none of: ";
+    for (std::size_t i = 0; i < setting.choices.size(); ++i)
+        words += (i ? ", " : "") + std::to_string(i) + " (" + setting.choices[i] + ")";
+    return words;
+}
+
+bool isWithin(const SettingLimits& limits, double value) {
+    return value >= limits.minimum && value <= limits.maximum; // false for what is no number
+}
+
+/// A choice or a word of bits, as the record has it.
+UInt32 wordIn(const Setting& setting, const PrefsRecord& record) {
+    UInt32 word = 0;
+    std::memcpy(&word, setting.in(record), setting.size); // little-endian, as the record is
+    return word;
+}
+
+void setNumber(const Setting& setting, double value, PrefsRecord& record) {
+    const auto whole = static_cast<SInt32>(std::lround(value));
+    if (setting.form == &kRealForm)
+        std::memcpy(setting.in(record), &value, sizeof value);
+    else
+        std::memcpy(setting.in(record), &whole, sizeof whole);
+}
+
+/// "12.5" and what may stand behind it: the unit, its beginning, or %.
+std::optional<double> numberFrom(const std::string& words, const std::string& unit) {
+    double value;
+    const char* const last = words.data() + words.size();
+    const auto [end, error] = std::from_chars(words.data(), last, value);
+    if (error != std::errc())
+        return std::nullopt;
+    std::string_view rest(end, static_cast<std::size_t>(last - end));
+    rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
+    const bool isUnit = rest.empty() || (rest == "%" && unit == "percent") ||
+                        (rest == "ms" && unit == "milliseconds") || unit.starts_with(rest);
+    return isUnit ? std::optional(value) : std::nullopt;
+}
+
+std::optional<UInt32> choiceFrom(const Setting& setting, const std::string& words) {
+    for (std::size_t i = 0; i < setting.choices.size(); ++i)
+        if (words == std::to_string(i) || strcasecmp(words.c_str(), setting.choices[i]) == 0)
+            return static_cast<UInt32>(i);
+    return std::nullopt;
+}
+
+} // namespace
+
+std::string settingFault(const Setting& setting, const PrefsRecord& record) {
+    if (setting.isNumber() && !isWithin(setting.limits, settingNumber(setting, record)))
+        return rangeWords(setting.limits);
+    if (!setting.choices.empty() && wordIn(setting, record) >= setting.choices.size())
+        return choiceWords(setting);
+    if (setting.form == &kRealForm && !std::isfinite(settingNumber(setting, record)))
+        return "not a number";
+    if (setting.form == &kSizeForm && !(isWithin(setting.limits, record.buttonSize.width) &&
+                                        isWithin(setting.limits, record.buttonSize.height)))
+        return rangeWords(setting.limits);
+    const auto& [red, green, blue] = record.lineColor;
+    if (setting.form == &kColourForm && std::max({red, green, blue}) > 255)
+        return "outside 0 to 255";
+    const auto& actions = record.buttonActions;
+    if (setting.form == &kActionListForm &&
+        std::ranges::any_of(actions, [](UInt8 action) { return action >= kNumActions; }))
+        return "an action that there isn't";
+    return {};
+}
+
+std::string setFromWords(const Setting& setting, const std::string& words, PrefsRecord& record) {
+    PrefsRecord changed = record;
+    if (setting.isNumber()) {
+        const auto value = numberFrom(words, setting.limits.unit);
+        if (!value)
+            return "not a number" + (*setting.limits.unit ? std::string(" in ") : "") +
+                   setting.limits.unit;
+        if (!isWithin(setting.limits, *value))
+            return rangeWords(setting.limits);
+        setNumber(setting, *value, changed);
+    } else if (!setting.choices.empty()) {
+        const auto choice = choiceFrom(setting, words);
+        if (!choice)
+            return choiceWords(setting);
+        std::memcpy(setting.in(changed), &*choice, setting.size);
+    } else {
+        const bool isOn = strcasecmp(words.c_str(), "on") == 0;
+        const bool isOff = strcasecmp(words.c_str(), "off") == 0;
+        const std::string text = setting.form != &kFlagForm ? words
+                                 : isOn                     ? "yes"
+                                 : isOff                    ? "no"
+                                                            : words;
+        if (!setting.form->read(CFStringCreateWithUTF8(text).get(), setting.in(changed)))
+            return "not a value of this setting";
+        if (std::string fault = settingFault(setting, changed); !fault.empty())
+            return fault;
+    }
+    record = changed;
+    return {};
+}

@@ -1,0 +1,63 @@
+#include "src/settingsfile.h"
+
+#include "platform/CoreFoundation/CFPropertyList.h"
+#include "platform/CoreFoundation/UserFiles.h"
+#include "src/proputil.h"
+#include "src/settingcheck.h"
+
+#include <algorithm>
+
+namespace {
+
+const Setting* findSetting(const std::string& key) {
+    const auto found = std::ranges::find(kSettings, key, &Setting::key);
+    return found == kSettings.end() ? nullptr : &*found;
+}
+
+/// Takes one value over; returns why it can't be, or an empty text.
+std::string take(const std::string& key, const CFType* value, SettingsOffer& offer) {
+    const Setting* setting = findSetting(key);
+    if (!setting)
+        return "no setting of this version";
+    PrefsRecord record = offer.record;
+    if (!setting->form->read(value, setting->in(record)))
+        return "not a value of this setting";
+    if (const std::string fault = settingFault(*setting, record); !fault.empty())
+        return fault;
+    offer.record = record;
+    offer.settings[static_cast<std::size_t>(setting - kSettings.data())] = true;
+    return {};
+}
+
+} // namespace
+
+std::string settingsDocument(const SettingSet& settings, const PrefsRecord& record) {
+    const auto dictionary = CFDictionaryCreateMutable();
+    for (std::size_t i = 0; i < kSettings.size(); ++i)
+        if (settings[i])
+            if (const auto text = kSettings[i].form->write(kSettings[i].in(record)))
+                CFDictionarySetValue(dictionary.get(), CFSTR(kSettings[i].key), text.get());
+    return CFPropertyListToXML(dictionary.get());
+}
+
+SettingsOffer readSettingsFile(const std::string& path, const PrefsRecord& base) {
+    SettingsOffer offer{.record = base, .settings = {}, .refused = {}, .error = {}};
+    const auto url = CFURLCreateFromFileSystemRepresentation(path.c_str(), false);
+    const auto list = propUtilReadFile(url.get(), CFDictionaryGetTypeID());
+    const auto* dictionary = dynamicCFCast<CFDictionary>(list.get());
+    if (!dictionary) {
+        offer.error = "not a file of settings, or it can't be read";
+        return offer;
+    }
+    for (const auto& [key, value] : dictionary->items()) {
+        const std::string name = CFStringToUTF8(CFRef<CFString>::adopt(new CFString(key)).get());
+        if (const std::string reason = take(name, value.get(), offer); !reason.empty())
+            offer.refused.push_back({name, reason});
+    }
+    return offer;
+}
+
+int writeSettingsFile(const std::string& path, const SettingSet& settings,
+                      const PrefsRecord& record) {
+    return replaceUserFile(path, settingsDocument(settings, record));
+}
