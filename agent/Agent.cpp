@@ -36,7 +36,11 @@ OSErr read(const AppleEvent& event, AEKeyword keyword, DescType type, T& value) 
 
 } // namespace
 
-Agent::Agent(const EventLog& log) : log_(log), on_(storedState()) {}
+Agent::Agent(const EventLog& log) : log_(log) {}
+
+void Agent::readStoredState() {
+    on_ = storedState();
+}
 
 template <Agent::Handler handler>
 void Agent::install(AEEventClass eventClass, AEEventID eventID) {

@@ -7,11 +7,15 @@
 /// state of its own, on or off, which it reports when it changes by itself.
 class Agent {
 public:
-    /// `log` must outlive the agent. The state is the stored one, on by default.
+    /// `log` must outlive the agent.
     explicit Agent(const EventLog& log);
 
     /// Takes events from now on. One agent a process.
     void installHandlers();
+
+    /// Takes the stored state over; on by default. To be called once this process takes part: what
+    /// a pane stores before that is read, and what it changes after that is sent.
+    void readStoredState();
 
     /// Changes the state by itself, as a hot key of a real agent does: stores and reports it.
     void flip();
@@ -29,7 +33,7 @@ private:
     void report();
 
     const EventLog& log_;
-    bool on_;
+    bool on_ = true;
     bool paneIsClosed_ = false;             ///< it said so
     ProcessSerialNumber pane_ = kNoProcess; ///< as it told when it opened
 };

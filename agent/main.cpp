@@ -61,6 +61,7 @@ int main(int argc, char** argv) {
     agent.installHandlers();
     if (!registerCurrentProcess(fourCharCode("APPL"), fourCharCode("Krvx")))
         return 1;
+    agent.readStoredState();
     signals.deliverTo([&](int signal) {
         if (signal == SIGUSR1)
             agent.flip();

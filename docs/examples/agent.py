@@ -89,7 +89,7 @@ def store_setting(key, text):
 class Agent:
     def __init__(self, bus, loop, log):
         self.bus, self.loop, self.log = bus, loop, log
-        self.on = str((read_settings() or {}).get("on", "yes")).lower() in ("yes", "true", "1")
+        self.on = True
         self.pane = None  # the bus name to report to, once a pane has said so
         self.pane_is_closed = False
         self.handlers = {
@@ -102,6 +102,12 @@ class Agent:
         """Whether this is the session's one agent now."""
         self.bus.register_object(OBJECT, EVENT, self.called, None, None)  # before the name is seen
         return self.own("org.korvex.Agent") and self.own(process_name("Krvx") + str(os.getpid()))
+
+    def read_state(self):
+        """Once this process takes part: what a pane stores before is read, what it changes later is
+        sent.
+        """
+        self.on = str((read_settings() or {}).get("on", "yes")).lower() in ("yes", "true", "1")
 
     def ask_bus(self, method, arguments):
         bus = "org.freedesktop.DBus"
@@ -168,6 +174,7 @@ def main():
         agent = Agent(Gio.bus_get_sync(Gio.BusType.SESSION), loop, log)  # ends with the session
         GLib.unix_signal_add(GLib.PRIORITY_DEFAULT, signal.SIGUSR1, agent.flip)
         if agent.take_part():
+            agent.read_state()
             loop.run()
 
 

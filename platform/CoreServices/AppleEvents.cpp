@@ -37,13 +37,13 @@ int millisecondsOfTicks(SInt32 ticks) {
 OSErr resultOfReply(const QDBusMessage& reply) {
     if (reply.type() == QDBusMessage::ReplyMessage && reply.signature() == QLatin1String("i"))
         return static_cast<OSErr>(std::clamp(reply.arguments().at(0).toInt(), -32768, 32767));
+    if (reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner"))
+        return procNotFound;
     switch (QDBusError(reply).type()) {
     case QDBusError::NoReply:
     case QDBusError::Timeout:
     case QDBusError::TimedOut:
         return sessionBus().isConnected() ? errAETimeout : connectionInvalid;
-    case QDBusError::ServiceUnknown:
-        return procNotFound;
     case QDBusError::Disconnected:
         return connectionInvalid;
     default:
@@ -108,9 +108,6 @@ OSErr AESend(const AppleEvent* event, AppleEvent* reply, AESendMode mode, SInt32
     const QDBusConnection bus = sessionBus();
     if (!bus.isConnected())
         return connectionInvalid;
-    pid_t pid = 0;
-    if (GetProcessPID(&event->target, &pid) != noErr)
-        return procNotFound;
     if (event->eventClass == kCoreEventClass && event->eventID == kAEQuitApplication)
         StartedApplications::shared().noteQuitRequest(event->target);
     const QDBusMessage message = messageOfEvent(*event);

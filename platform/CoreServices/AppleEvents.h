@@ -82,11 +82,12 @@ OSErr AEGetAttributePtr(const AppleEvent* event, AEKeyword keyword, DescType des
                         DescType* actualType, void* data, std::size_t maximumSize,
                         std::size_t* actualSize);
 
-/// Sends the event. With kAENoReply it is handed to the bus and nothing is awaited. With
-/// kAEWaitReply the call blocks until the handler has answered, for `timeOutInTicks` sixtieths of a
-/// second or, for kAEDefaultTimeout, a minute; the handler's result is then the result, or
-/// errAETimeout. procNotFound when the addressee doesn't take part; connectionInvalid without a
-/// bus. `reply` (may be null) is left empty: only the result travels back.
+/// Sends the event. With kAENoReply it is handed to the bus, nothing is awaited, and an addressee
+/// that has gone goes unnoticed. With kAEWaitReply the call blocks until the handler has answered,
+/// for `timeOutInTicks` sixtieths of a second or, for kAEDefaultTimeout, a minute; the handler's
+/// result is then the result, errAETimeout when none comes in time, or procNotFound.
+/// connectionInvalid without a bus. `reply` (may be null) is left empty: only the result travels
+/// back.
 OSErr AESend(const AppleEvent* event, AppleEvent* reply, AESendMode mode, SInt32 timeOutInTicks);
 
 /// Handles one event on the main thread; the result goes back to a sender that waits for it.

@@ -1,7 +1,11 @@
 #include "src/prefpane/Daemon.h"
 
 #include "platform/CoreServices/LaunchServices.h"
+#include "platform/CoreServices/ProcessWatch.h"
 #include "src/prefpane/PreferenceWrangler.h"
+
+#include <optional>
+#include <utility>
 
 namespace {
 
@@ -18,15 +22,26 @@ constexpr DescType typePrefsRecord = fourCharCode("KrPf");
 
 constexpr AESendMode kSimpleSendMode = kAENoReply | kAEDontRecord;
 
-ProcessSerialNumber daemonPSN; ///< the agent as last found; kNoProcess when unknown
+ProcessSerialNumber daemonPSN;   ///< the agent as last found; kNoProcess when unknown
+ProcessSerialNumber informedPSN; ///< the agent that has been told all that it can't have read
+ProcessSerialNumber quitPSN;     ///< the agent that was last asked to quit
+bool openingLaunched = false;    ///< the pane's opening launched an agent that isn't up yet
+std::optional<ChangeMask> changesOfVisit; ///< all that were made; a mask may be 0
 CFRef<const CFString> daemonExecutablePath;
 CFRef<CFBundle> daemonBundle; ///< made on first request
 AEEventHandler aehandler = nullptr;
+std::unique_ptr<ProcessWatch> processWatch;
 
-/// Whether the agent is running; daemonPSN then names it.
+/// Whether daemonPSN names a process that still runs.
 bool daemonPSNIsValid() {
     pid_t pid;
-    if (daemonPSN != kNoProcess && GetProcessPID(&daemonPSN, &pid) == noErr)
+    return daemonPSN != kNoProcess && GetProcessPID(&daemonPSN, &pid) == noErr;
+}
+
+/// Looks for the agent, unless daemonPSN still names it. When it isn't running the result is false,
+/// and daemonPSN keeps its old value.
+bool findDaemon() {
+    if (daemonPSNIsValid())
         return true;
     ProcessSerialNumber psn = kNoProcess;
     while (GetNextProcess(&psn) == noErr) {
@@ -47,10 +62,9 @@ void daemonStart() {
         LSOpenCFURLRef(url.get(), nullptr);
 }
 
-/// Makes an event for the agent; false when it isn't running.
+// What follows sends to the agent that findDaemon has just found.
+
 bool newDaemonAppleEvent(AppleEvent* event, AEEventClass eventClass, AEEventID eventID) {
-    if (!daemonPSNIsValid())
-        return false;
     AEAddressDesc address;
     return AECreateDesc(typeProcessSerialNumber, &daemonPSN, sizeof daemonPSN, &address) == noErr &&
            AECreateAppleEvent(eventClass, eventID, &address, kAutoGenerateReturnID,
@@ -73,6 +87,31 @@ void sendPaneOpened() {
         AESend(&event, &reply, kSimpleSendMode, kAEDefaultTimeout);
 }
 
+void sendRecord(ChangeMask changes, AESendMode mode) {
+    AppleEvent event, reply;
+    if (newDaemonAppleEvent(&event, kAgentEventClass, kSetAllPrefs) &&
+        AEPutParamPtr(&event, keyDirectObject, typePrefsRecord, &prefs, sizeof prefs) == noErr &&
+        AEPutParamPtr(&event, keyChanges, typeUInt32, &changes, sizeof changes) == noErr)
+        AESend(&event, &reply, mode, kAEDefaultTimeout);
+}
+
+/// Tells an agent that came up after the pane opened what it can't have read: the changes so far,
+/// which aren't stored before the pane is put away, and the pane's opening if that launched it.
+void informDaemon() {
+    if (daemonPSN == informedPSN)
+        return;
+    informedPSN = daemonPSN;
+    if (std::exchange(openingLaunched, false))
+        sendPaneOpened();
+    if (changesOfVisit)
+        sendRecord(*changesOfVisit, kAENoReply);
+}
+
+void processesChanged() {
+    if (findDaemon())
+        informDaemon();
+}
+
 /// Handles the events of the agent's class: its reports of its on/off state.
 OSErr ae(const AppleEvent* event, AppleEvent*, void*) {
     AEEventID eventID;
@@ -89,7 +128,7 @@ OSErr ae(const AppleEvent* event, AppleEvent*, void*) {
     if (size != sizeof on)
         return noErr;
     wranglerSetMasterOnOff(on != 0);
-    daemonPSNIsValid();
+    findDaemon();
     return noErr;
 }
 
@@ -100,15 +139,24 @@ void daemonSetup(const CFString* path) {
         daemonExecutablePath = CFRef<const CFString>::retain(path);
     if (AEInstallEventHandler(kAgentEventClass, typeWildCard, ae, nullptr) == noErr)
         aehandler = ae;
-    if (daemonPSNIsValid())
-        sendPaneOpened();
-    else
+    processWatch = std::make_unique<ProcessWatch>(processesChanged);
+    changesOfVisit.reset();
+    openingLaunched = !findDaemon();
+    if (openingLaunched) {
         daemonStart();
+    } else {
+        informedPSN = daemonPSN;
+        sendPaneOpened();
+    }
 }
 
 void daemonCleanup() {
-    if (daemonPSNIsValid())
+    openingLaunched = false; // the pane isn't open any more
+    if (findDaemon()) {
+        informDaemon(); // it may have read the settings just before they were stored
         sendSimpleDaemonEvent(kAgentEventClass, kPaneClosed);
+    }
+    processWatch = nullptr;
     if (aehandler)
         AERemoveEventHandler(kAgentEventClass, typeWildCard, aehandler);
     aehandler = nullptr;
@@ -117,19 +165,20 @@ void daemonCleanup() {
 }
 
 void daemonSendChanges(ChangeMask changes, bool doNotWait) {
+    const bool isRunning = findDaemon();
+    if (isRunning)
+        informDaemon();
+    changesOfVisit = changesOfVisit.value_or(0) | changes;
     if ((changes & kChangeForceOnOff) && !prefs.on) {
-        sendSimpleDaemonEvent(kCoreEventClass, kAEQuitApplication);
-        daemonPSN = kNoProcess;
+        if (isRunning)
+            sendSimpleDaemonEvent(kCoreEventClass, kAEQuitApplication);
+        quitPSN = std::exchange(daemonPSN, kNoProcess);
         return;
     }
-    if (prefs.on && !daemonPSNIsValid())
+    if (prefs.on && (!isRunning || daemonPSN == quitPSN))
         daemonStart();
-
-    AppleEvent event, reply;
-    if (newDaemonAppleEvent(&event, kAgentEventClass, kSetAllPrefs) &&
-        AEPutParamPtr(&event, keyDirectObject, typePrefsRecord, &prefs, sizeof prefs) == noErr &&
-        AEPutParamPtr(&event, keyChanges, typeUInt32, &changes, sizeof changes) == noErr)
-        AESend(&event, &reply, doNotWait ? kAENoReply : kAEWaitReply, kAEDefaultTimeout);
+    if (isRunning)
+        sendRecord(changes, doNotWait ? kAENoReply : kAEWaitReply);
 }
 
 CFBundle* daemonMainBundle() {

@@ -10,14 +10,17 @@
 /// Installs the handler for the agent's reports. Launches the agent when it isn't running, whatever
 /// its on/off state, or else tells it that the pane has opened. `path` is the agent application's;
 /// null when there is none: it can't be launched then.
+///
+/// From now on an agent that comes up later is sent the record, with all changes made so far, as
+/// soon as it takes part; first it is told that the pane has opened, if that has launched it.
 void daemonSetup(const CFString* path);
 
 /// Tells a running agent that the pane has closed, and lets everything go.
 void daemonCleanup();
 
 /// Sends the agent the record and what changed in it. With kChangeForceOnOff and `on` 0 it asks the
-/// agent to quit instead; otherwise, with `on` 1, it launches an agent that isn't running. An agent
-/// that can't be found hears nothing.
+/// agent to quit instead; otherwise, with `on` 1, it launches an agent that isn't running or was
+/// asked to quit before. While none can be found nothing is sent.
 void daemonSendChanges(ChangeMask changes, bool doNotWait);
 
 /// The agent application's bundle, where its resources are; null without a path or bundle. Borrowed

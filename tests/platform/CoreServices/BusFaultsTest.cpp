@@ -42,13 +42,15 @@ protected:
 TEST_F(BusFaultsTest, ABusThatHangsDelaysOnlyAWaitingSenderAndOneThatHasGoneNobody) {
     TestPeer peer;
     ASSERT_TRUE(waitUntil([&] { return peer.ask() == 8; }));
+    ProcessSerialNumber psn = kNoProcess;
+    EXPECT_EQ(GetNextProcess(&psn), noErr);
     signalProcess(bus_.processId(), SIGSTOP);
     QElapsedTimer timer;
     timer.start();
     const AppleEvent event = makeEvent(peer.psn(), kTestClass, kAnswerCode);
     for (int i = 0; i < 1000; ++i)
         EXPECT_EQ(AESend(&event, nullptr, kAENoReply, kAEDefaultTimeout), noErr);
-    ProcessSerialNumber psn = kNoProcess;
+    psn = kNoProcess;
     EXPECT_EQ(GetNextProcess(&psn), noErr);
     EXPECT_LT(timer.elapsed(), 5000);
     EXPECT_EQ(peer.ask(30), errAETimeout);
