@@ -1,6 +1,9 @@
 #include "platform/AppKit/NSButton.h"
 
+#include "platform/AppKit/detail/ToggleAction.h"
+
 #include <QAbstractButton>
+#include <QSignalBlocker>
 #include <QTimer>
 
 #include <cmath>
@@ -18,6 +21,7 @@ void NSButton::attachWidget(QWidget* widget) {
     NSControl::attachWidget(widget);
     auto* button = static_cast<QAbstractButton*>(widget);
     QObject::connect(button, &QAbstractButton::clicked, button, [this] { clicked(); });
+    connectToggleAction(button, [this] { sendActionOutsideEvents(); });
 }
 
 int NSButton::state() const {
@@ -25,7 +29,9 @@ int NSButton::state() const {
 }
 
 void NSButton::setState(int state) {
-    static_cast<QAbstractButton*>(widget())->setChecked(state != NSOffState);
+    auto* button = static_cast<QAbstractButton*>(widget());
+    const QSignalBlocker blocker(button);
+    button->setChecked(state != NSOffState);
 }
 
 void NSButton::setPeriodicDelay(float delay, float interval) {

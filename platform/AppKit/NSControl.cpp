@@ -1,6 +1,7 @@
 #include "platform/AppKit/NSControl.h"
 
 #include "platform/AppKit/detail/KeyboardFocus.h"
+#include "platform/HIToolbox/detail/OutsideEvents.h"
 
 #include <QVariant>
 #include <QWidget>
@@ -22,4 +23,9 @@ int NSControl::tag() const {
 void NSControl::sendAction() {
     if (target_ && action_)
         action_->send(*target_, *this);
+}
+
+void NSControl::sendActionOutsideEvents() {
+    const OutsideEvents outside;
+    sendAction();
 }

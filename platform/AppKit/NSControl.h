@@ -18,6 +18,8 @@ public:
 
 protected:
     void sendAction();
+    /// For what no event of the user's brought about: the keys held with the last one don't count.
+    void sendActionOutsideEvents();
 
 private:
     NSObject* target_ = nullptr;

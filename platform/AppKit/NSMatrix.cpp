@@ -1,9 +1,11 @@
 #include "platform/AppKit/NSMatrix.h"
 
 #include "platform/AppKit/detail/KeyboardFocus.h"
+#include "platform/AppKit/detail/ToggleAction.h"
 
 #include <QButtonGroup>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QVariant>
 
 #include <algorithm>
@@ -47,6 +49,12 @@ void NSMatrix::attachWidget(QWidget* widget) {
     for (QRadioButton* button : widget->findChildren<QRadioButton*>()) {
         group->addButton(button);
         cells_.push_back(std::make_unique<NSCell>(button));
+        connectToggleAction(button, [this, group, button] {
+            if (!button->isChecked())
+                return; // the one that is checked instead tells of both
+            chooseTabStop(group);
+            sendActionOutsideEvents();
+        });
     }
     chooseTabStop(group);
     QObject::connect(group, &QButtonGroup::buttonClicked, widget, [this, group] {
@@ -69,6 +77,7 @@ bool NSMatrix::selectCellWithTag(int tag) {
         return false;
     QAbstractButton* button = cell->button_;
     const QWidget* focus = button->window()->focusWidget();
+    const QSignalBlocker blocker(button);
     button->setChecked(true);
     chooseTabStop(button->group());
     // The arrow keys start from the cell that has the focus.

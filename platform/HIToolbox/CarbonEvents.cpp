@@ -1,5 +1,7 @@
 #include "platform/HIToolbox/CarbonEvents.h"
 
+#include "platform/HIToolbox/detail/OutsideEvents.h"
+
 #include <QApplication>
 
 namespace {
@@ -25,7 +27,7 @@ UInt32 toCarbon(Qt::KeyboardModifiers held) {
 } // namespace
 
 UInt32 GetCurrentEventKeyModifiers() {
-    return toCarbon(QGuiApplication::keyboardModifiers());
+    return OutsideEvents::areWe() ? 0 : toCarbon(QGuiApplication::keyboardModifiers());
 }
 
 UInt32 GetCurrentKeyModifiers() {

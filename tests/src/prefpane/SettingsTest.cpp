@@ -4,6 +4,8 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QLabel>
+#include <QRadioButton>
+#include <QRegularExpression>
 #include <QSlider>
 
 namespace {
@@ -15,12 +17,44 @@ protected:
 
     bool isChecked(const char* name) { return find<QAbstractButton>(name)->isChecked(); }
 
+    /// What assistive technology asks of it, long after the last key, which was held with Alt.
+    void act(const std::string& name) {
+        auto* widget = find(name.c_str());
+        QTest::keyClick(window(), Qt::Key_F13, Qt::AltModifier);
+        auto* interface = QAccessible::queryAccessibleInterface(widget);
+        if (auto* value = interface->valueInterface())
+            return value->setCurrentValue(value->minimumValue());
+        auto* actions = interface->actionInterface();
+        actions->doAction(actions->actionNames().front());
+    }
+
+    /// Every control that takes the Tab key, on its page in sight.
+    std::vector<QWidget*> controls() {
+        std::vector<QWidget*> found;
+        for (auto* widget : window()->findChildren<QWidget*>()) {
+            if (!(widget->focusPolicy() & Qt::TabFocus) ||
+                qobject_cast<QAbstractScrollArea*>(widget) ||
+                widget->objectName().startsWith(QLatin1String("qt_")))
+                continue;
+            find(widget->objectName().toLatin1());
+            QTest::qWait(0);         // for the page's layout
+            if (widget->isVisible()) // the tab bar's arrows show only when it is too narrow
+                found.push_back(widget);
+        }
+        return found;
+    }
+
     std::string text(const std::string& name) {
         return find<QLabel>(name.c_str())->text().toStdString();
     }
 };
 
-TEST_F(SettingsTest, EachControlWritesItsOwnFieldAndReportsItsGroup) {
+/// By click or by accessibility action.
+class SettingsEditTest : public SettingsTest, public testing::WithParamInterface<bool> {};
+
+INSTANTIATE_TEST_SUITE_P(ByAction, SettingsEditTest, testing::Bool());
+
+TEST_P(SettingsEditTest, EachControlWritesItsOwnFieldAndReportsItsGroup) {
     constexpr ChangeMask kLook = kChangeScanLineLook | kChangeGuideLineLook;
 
 #define AT(field) offsetof(PrefsRecord, field), sizeof(PrefsRecord::field)
@@ -70,7 +104,7 @@ TEST_F(SettingsTest, EachControlWritesItsOwnFieldAndReportsItsGroup) {
     openWithAgent();
     for (const auto& [control, offset, size, value, mask, shown] : cases) {
         SCOPED_TRACE(control);
-        click(control.c_str());
+        GetParam() ? act(control) : click(control.c_str());
         const QJsonObject event = agentLog_.next();
         EXPECT_EQ(event["mask"].toInteger(), mask);
         EXPECT_DOUBLE_EQ(size == 8   ? recordField<double>(event, offset)
@@ -104,21 +138,37 @@ TEST_F(SettingsTest, LoadingShowsTheRecordAndReportsNothingButAnEmptyScanArea) {
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
 }
 
+TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityAction) {
+    // They open a menu, a window or the help book, or end in a choice elsewhere.
+    const QRegularExpression others(
+        "^(helpBtn|prefsTabs|scanAreaBtn|lineColor|paletteView|sampleScanImage|"
+        "(add|swapWith|setAction|remove)(Button)?Btn|.*KeyBtn|.*Key2Btn)$");
+    prefs.scanArea = {0, 0, 640, 480};
+    prefs.minTriggerDuration = prefs.afterClickDelay = 1; // neither is at a limit
+    prefs.lineGhostTransparency = 50;
+    openWithAgent();
+    int tried = 0;
+    for (auto* widget : controls()) {
+        const std::string name = widget->objectName().toStdString();
+        const auto* radio = qobject_cast<QRadioButton*>(widget);
+        if (widget->objectName().contains(others) || (radio && radio->isChecked()) ||
+            !widget->isEnabled())
+            continue;
+        act(name);
+        EXPECT_EQ(agentLog_.nextName(), "SAPr") << name;
+        ++tried;
+    }
+    EXPECT_GT(tried, 60);
+    EXPECT_THAT(remainingMasks(), testing::IsEmpty());
+}
+
 TEST_F(SettingsTest, EveryControlIsNamedReachableAndLargeEnough) {
     open();
     for (const auto* slider : window()->findChildren<QSlider*>())
         EXPECT_TRUE(slider->value() >= slider->minimum() && slider->value() < slider->maximum())
             << slider->objectName().toStdString() << " can't show its default";
-    for (auto* widget : window()->findChildren<QWidget*>()) {
-        const bool isControl = widget->focusPolicy() & Qt::TabFocus;
-        if (!isControl || qobject_cast<QAbstractScrollArea*>(widget) ||
-            widget->objectName().startsWith(QLatin1String("qt_")))
-            continue;
+    for (auto* widget : controls()) {
         const std::string name = widget->objectName().toStdString();
-        find(name.c_str());
-        QTest::qWait(0); // for the page's layout
-        if (!widget->isVisible())
-            continue; // the tab bar's arrows, which show when it is too narrow
         EXPECT_GE(widget->height(), 24) << name;
         EXPECT_GE(widget->width(), 24) << name;
         auto* interface = QAccessible::queryAccessibleInterface(widget);
