@@ -25,6 +25,8 @@ Rect truncated(const NSRect& frame) {
 } // namespace
 
 std::string paletteSlotName(SInt32 index) {
+    if (!isSlot(index))
+        return {};
     const UInt8 action = prefs.buttonActions[index];
     const CFString* title = palutilActionTitle(action);
     const std::string name = title                    ? CFStringToUTF8(title)
@@ -90,6 +92,12 @@ void PaletteView::hit(SInt32 index) {
         target_->paletteBtnHit(this, index);
 }
 
+/// A key that is held down clicks once.
+void PaletteView::pressed(const NSEvent& event, SInt32 index) {
+    if (!event.isARepeat())
+        hit(index);
+}
+
 void PaletteView::mouseDown(NSEvent* event) {
     hit(btnAt(convertPoint(event->locationInWindow(), nullptr)));
 }
@@ -118,9 +126,9 @@ void PaletteView::keyDown(NSEvent* event) {
     case u' ':
     case NSCarriageReturnCharacter:
     case NSEnterCharacter:
-        return hit(cursor_);
+        return pressed(*event, cursor_);
     case NSEscapeCharacter:
-        return hit(kNoButton);
+        return pressed(*event, kNoButton);
     default:
         event->passOn();
     }

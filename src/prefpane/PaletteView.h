@@ -58,6 +58,7 @@ private:
     void redrawBtn(SInt32 index);
     SInt32 btnAt(NSPoint point) const;
     void hit(SInt32 index);
+    void pressed(const NSEvent& event, SInt32 index);
     void moveCursor(SInt32 index);
 
     SInt32 selectedBtn_ = 0;
@@ -67,5 +68,6 @@ private:
     SInt32 cursor_ = 0;
 };
 
-/// What a slot is called: its place and its action's title, "2, Double"; UTF-8.
+/// What a slot is called: its place and its action's title, "2, Double"; UTF-8. Empty for an
+/// index outside 0 to 8.
 std::string paletteSlotName(SInt32 index);

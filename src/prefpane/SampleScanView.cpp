@@ -99,7 +99,9 @@ void SampleScanView::keyDown(NSEvent* event) {
     case u' ':
     case NSCarriageReturnCharacter:
     case NSEnterCharacter:
-        return showOtherLine();
+        if (!event->isARepeat()) // a key that is held down clicks once
+            showOtherLine();
+        return;
     default:
         event->passOn();
     }

@@ -1,22 +1,36 @@
 #include "platform/AppKit/detail/KeyboardFocus.h"
 
-#include <QWidget>
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFocusFrame>
 
 namespace {
 
 using Step = QWidget* (QWidget::*)() const;
 
-bool takesFocus(const QWidget* widget) {
-    return widget->isEnabled() && widget->isVisibleTo(widget->window()) &&
-           (widget->focusPolicy() & Qt::TabFocus);
+bool takesPressesHarmlessly(const QWidget* widget) {
+    return !qobject_cast<const QAbstractButton*>(widget) && widget->isEnabled() &&
+           widget->isVisibleTo(widget->window()) && (widget->focusPolicy() & Qt::TabFocus);
 }
 
 QWidget* neighbour(const QWidget* leaving, const QWidget* group, Step step) {
     for (QWidget* next = (leaving->*step)(); next != leaving; next = (next->*step)()) {
-        if (group->isAncestorOf(next) && !leaving->isAncestorOf(next) && takesFocus(next))
+        if (group->isAncestorOf(next) && !leaving->isAncestorOf(next) &&
+            takesPressesHarmlessly(next))
             return next;
     }
     return nullptr;
+}
+
+/// A group has no mark of its own for the keyboard focus: it gets a frame while it has it.
+void focusGroup(QWidget* group) {
+    group->setFocus(Qt::OtherFocusReason);
+    auto* frame = new QFocusFrame(group);
+    frame->setWidget(group);
+    QObject::connect(qApp, &QApplication::focusChanged, frame, [=] {
+        if (group->window()->focusWidget() != group)
+            frame->deleteLater();
+    });
 }
 
 } // namespace
@@ -26,12 +40,12 @@ void moveFocusOutOf(const QWidget* leaving) {
     const QWidget* focus = window->focusWidget();
     if (!focus || window == leaving || (focus != leaving && !leaving->isAncestorOf(focus)))
         return;
-    const QWidget* group = leaving->parentWidget();
+    QWidget* group = leaving->parentWidget();
     QWidget* heir = neighbour(leaving, group, &QWidget::nextInFocusChain);
     if (!heir)
         heir = neighbour(leaving, group, &QWidget::previousInFocusChain);
-    if (!heir)
-        heir = neighbour(leaving, window, &QWidget::nextInFocusChain);
     if (heir)
         heir->setFocus(Qt::OtherFocusReason);
+    else
+        focusGroup(group);
 }

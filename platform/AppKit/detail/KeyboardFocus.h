@@ -2,7 +2,7 @@
 
 class QWidget;
 
-/// If the keyboard focus is in `leaving`, which is about to be disabled or hidden, moves it to the
-/// nearest control of the same group, so that the user's place in the window isn't lost; if the
-/// group has none left, to the next control of the window.
+/// If the keyboard focus is in `leaving`, which is about to be disabled or hidden, moves it to
+/// where one more press of a key does no harm: to the nearest control of the same group that isn't
+/// a button, or else to the group itself, from where Tab goes on in its order.
 void moveFocusOutOf(const QWidget* leaving);

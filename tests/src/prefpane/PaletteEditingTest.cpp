@@ -159,8 +159,27 @@ TEST_F(PaletteEditingTest, TheKeyboardDoesWhatClicksDo) {
     click("swapWithBtn");
     press({Qt::Key_End, Qt::Key_Right, Qt::Key_Enter});
     EXPECT_EQ(slotsOf(agentLog_.next()), "0 21 22 1 2 0 0 0 20");
-
+    press({Qt::Key_Space});
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Escape, {}, {}, true);
+    QApplication::sendEvent(viewWidget(), &repeat);
+    EXPECT_EQ(view()->selectedBtn(), 8) << "a key that is held down clicks once";
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
+}
+
+TEST_F(PaletteEditingTest, AButtonThatDisablesItselfLeavesTheKeyboardWhereOneMorePressIsHarmless) {
+    open();
+    clickSlot(1);
+    prefs.borderGap = 1;
+    prefs.lineScanTime = 1.5;
+    for (const auto& [button, heir] : {std::pair("removeButtonBtn", "paletteView"),
+                                       {"borderGapDecBtn", "borderGap"},
+                                       {"lineScanTimeDecBtn", "lineScanTimeSlider"}}) {
+        find(button)->setFocus();
+        QTest::keyClick(find(button), Qt::Key_Space);
+        EXPECT_FALSE(find(button)->isEnabled());
+        EXPECT_TRUE(find(heir)->hasFocus()) << heir;
+    }
+    EXPECT_EQ(slotsOf(prefs), "20 22 1 2 0 0 0 0 0");
 }
 
 TEST_F(PaletteEditingTest, ShapeContentAndSizeAreSetAndBounded) {
