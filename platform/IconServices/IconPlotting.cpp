@@ -25,6 +25,8 @@ OSStatus PlotIconRefInContext(CGContext* context, const CGRect* rect, IconAlignm
     if (!context || !rect || !icon || alignment != kAlignAbsoluteCenter ||
         transform != kTransformNone || labelColor || flags != kPlotIconRefNormalFlags)
         return paramErr;
+    if (!(rect->size.width > 0 && rect->size.height > 0))
+        return noErr; // or the device's whole pixels would make a speck of it
     QPainter& painter = context->painter();
     const QTransform toDevice = painter.deviceTransform();
     const QRectF area = toDevice.mapRect(context->toPainter(*rect));

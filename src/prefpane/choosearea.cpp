@@ -50,6 +50,7 @@ CGRect worldBounds;
 CGRect currentBounds;
 CGRect newBounds; ///< from where the drag began
 bool dragging = false;
+ShownAreas lastDrawn; ///< by the last frame
 OSStatus lastError = noErr;
 
 /// Makes the overlay's port the current one for a while.
@@ -113,6 +114,10 @@ void drawAreas(CGContext* context) {
     CGContextRestoreGState(context);
 }
 
+ShownAreas shownAreas() {
+    return {currentBounds, newBounds, dragging};
+}
+
 /// Draws a frame, or of it what lies in `parts`; null for all of it.
 void drawFrame(const ChangedParts* parts) {
     const OverlayPort port;
@@ -128,10 +133,13 @@ void drawFrame(const ChangedParts* parts) {
     drawPrompt(context.get());
     drawAreas(context.get());
     CGContextFlush(context.get());
+    lastDrawn = shownAreas();
 }
 
-ShownAreas shownAreas() {
-    return {currentBounds, newBounds, dragging};
+/// Draws what differs from the last frame.
+void drawChanges() {
+    const ChangedParts parts(lastDrawn, shownAreas());
+    drawFrame(&parts);
 }
 
 OSStatus handleWindowEvent(UInt32 kind) {
@@ -179,11 +187,8 @@ OSStatus handleMouseEvent(EventRef event) {
     if (GetEventParameter(event, kEventParamMouseLocation, typeHIPoint, nullptr, sizeof location,
                           nullptr, &location) != noErr)
         return eventNotHandledErr;
-    const ShownAreas before = shownAreas();
-    if (followMouse(GetEventKind(event), location)) {
-        const ChangedParts parts(before, shownAreas());
-        drawFrame(&parts);
-    }
+    if (followMouse(GetEventKind(event), location))
+        drawChanges();
     return eventNotHandledErr;
 }
 
@@ -245,7 +250,6 @@ OSStatus arrowHandler(EventHandlerCallRef, EventRef event, void*) {
     const CGSize step = arrowStep(characterOf(event));
     if (dragging || step == CGSize())
         return eventNotHandledErr;
-    const ShownAreas before = shownAreas();
     newBounds = CGRectIsEmpty(currentBounds) ? centredQuarter() : currentBounds;
     CGPoint near = newBounds.origin;
     CGPoint far{near.x + newBounds.size.width, near.y + newBounds.size.height};
@@ -253,8 +257,7 @@ OSStatus arrowHandler(EventHandlerCallRef, EventRef event, void*) {
     moved = stepInWorld(moved, step);
     newBounds = {near, {far.x - near.x, far.y - near.y}};
     currentBounds = newBounds;
-    const ChangedParts parts(before, shownAreas());
-    drawFrame(&parts);
+    drawChanges();
     return noErr;
 }
 

@@ -43,7 +43,7 @@ TEST(IconPlottingTest, TakesTheImageForThePixelsAndCentresIt) {
                  {squares, 2, CGRectMake(0, 60, 40, 40), noErr, 64, {0, 0, 80, 80}},
                  {squares, 1, CGRectMake(0, 0, 15, 40), noErr, 64, {0, 72, 15, 15}},
                  {wide, 2, CGRectMake(0, 84, 16, 16), noErr, 16, {0, 4, 32, 24}},
-                 {squares, 1, CGRectMake(5, 5, 0, 9), noErr, 16, {}},
+                 {squares, 2, CGRectMake(5, 5, 0, 9), noErr, 16, {}},
                  {{}, 1, CGRectMake(0, 0, 16, 16), noSuchIconErr, 16, {}}};
 
     for (const auto& row : cases) {
