@@ -102,10 +102,11 @@ private:
 } // namespace
 
 void* PushSymbolicHotKeyMode(OptionBits options) {
-    return options & kHIHotKeyModeAllDisabled ? new HotKeyMode : nullptr;
+    return options & kHIHotKeyModeAllDisabled ? static_cast<QObject*>(new HotKeyMode) : nullptr;
 }
 
 void PopSymbolicHotKeyMode(void* token) {
-    if (token)
-        static_cast<HotKeyMode*>(token)->end();
+    // Those of an application that is gone went with it.
+    if (qApp && qApp->children().contains(static_cast<QObject*>(token)))
+        static_cast<HotKeyMode*>(static_cast<QObject*>(token))->end();
 }

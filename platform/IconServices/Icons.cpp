@@ -13,7 +13,8 @@ constexpr OSType kApplicationType = fourCharCode("APPL");
 
 /// By creator and type.
 std::map<std::pair<OSType, OSType>, CFRef<Icon>>& registeredIcons() {
-    static std::map<std::pair<OSType, OSType>, CFRef<Icon>> icons;
+    // Never destroyed: icons are given back when the program is on its way out.
+    static auto& icons = *new std::map<std::pair<OSType, OSType>, CFRef<Icon>>;
     return icons;
 }
 

@@ -37,6 +37,10 @@ UInt32 carbonModifiers(UInt32 flags) {
 
 } // namespace
 
+HotKeyView::~HotKeyView() {
+    PopSymbolicHotKeyMode(hotKeyMode_); // of a capture that the window's end cut short
+}
+
 void HotKeyView::setIndex(int index) {
     index_ = index;
     setNeedsDisplay(true);

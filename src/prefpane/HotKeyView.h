@@ -10,6 +10,9 @@ class PreferenceWrangler;
 /// next key becomes the hot key, with the modifiers that are held then. It takes every key.
 class HotKeyView final : public NSView, public NSAccessibilityText {
 public:
+    HotKeyView() = default;
+    ~HotKeyView() override;
+
     /// Who is told of captures and changes; not owned.
     void setWrangler(PreferenceWrangler* wrangler) { wrangler_ = wrangler; }
 

@@ -17,6 +17,13 @@ NS_REGISTER_CLASS(PreferenceWrangler);
 
 PreferenceWrangler* theWrangler = nullptr;
 
+PreferenceWrangler::~PreferenceWrangler() {
+    if (theWrangler != this)
+        return;
+    theWrangler = nullptr;
+    NumberController::setChangeTarget(nullptr);
+}
+
 void wranglerSetMasterOnOff(bool on) {
     if (theWrangler)
         theWrangler->setMasterOnOff(on);

@@ -27,6 +27,9 @@ class PreferenceWrangler final : public NSObject,
                                  public PaletteViewTarget,
                                  public NSMenuDelegate {
 public:
+    PreferenceWrangler() = default;
+    ~PreferenceWrangler() override;
+
     std::span<const NSOutlet> outlets() const override;
     std::span<const NSAction> actions() const override;
     void awakeFromNib() override;
@@ -147,6 +150,8 @@ private:
 
     /// Shows the name of the pointer that the preview draws.
     void updatePointerName();
+    /// The slot that is selected in the palette view, or kNoButton.
+    SInt32 selectedSlot() const;
     void commitPaletteEdit();
     /// Says what is selected and what a swap waits for.
     void updatePalettePrompt();

@@ -61,8 +61,13 @@ SInt32 PreferenceWrangler::newPaletteBtnLocation() const {
     return slot; // -1, kNoButton, when no slot is empty
 }
 
-bool PreferenceWrangler::canAddPaletteBtn() const {
+SInt32 PreferenceWrangler::selectedSlot() const {
     const SInt32 selected = paletteView_->selectedBtn();
+    return selected >= 0 && selected <= kLastSlot ? selected : kNoButton;
+}
+
+bool PreferenceWrangler::canAddPaletteBtn() const {
+    const SInt32 selected = selectedSlot();
     return (selected != kNoButton && emptyPaletteBtnAfter(selected) != kNoButton) ||
            newPaletteBtnLocation() != kNoButton;
 }
@@ -78,7 +83,7 @@ void PreferenceWrangler::addPaletteBtn(NSMenuItem* sender) {
     if (action >= kNumActions)
         return SysBeep(1);
     UInt8* const slots = prefs.buttonActions;
-    const SInt32 selected = paletteView_->selectedBtn();
+    const SInt32 selected = selectedSlot();
     const SInt32 empty = selected == kNoButton ? kNoButton : emptyPaletteBtnAfter(selected);
     if (empty != kNoButton) {
         // With room at the row's end all of it moves, and so keeps its gaps; else the next gap
@@ -97,7 +102,7 @@ void PreferenceWrangler::addPaletteBtn(NSMenuItem* sender) {
 
 void PreferenceWrangler::setPaletteBtnAction(NSMenuItem* sender) {
     const auto action = static_cast<UInt8>(sender->tag());
-    const SInt32 selected = paletteView_->selectedBtn();
+    const SInt32 selected = selectedSlot();
     if (action >= kNumActions || selected == kNoButton || prefs.buttonActions[selected] == action)
         return;
     prefs.buttonActions[selected] = action;
@@ -105,8 +110,8 @@ void PreferenceWrangler::setPaletteBtnAction(NSMenuItem* sender) {
 }
 
 void PreferenceWrangler::removePaletteButton(NSButton*) {
-    const SInt32 selected = paletteView_->selectedBtn();
-    if (selected < 0 || selected > kLastSlot)
+    const SInt32 selected = selectedSlot();
+    if (selected == kNoButton)
         return;
     UInt8* const slots = prefs.buttonActions;
     std::copy(slots + selected + 1, slots + kNumPaletteSlots, slots + selected);
@@ -115,7 +120,7 @@ void PreferenceWrangler::removePaletteButton(NSButton*) {
 }
 
 void PreferenceWrangler::swapPaletteButtonWith(NSButton*) {
-    firstBtnToSwap_ = paletteView_->selectedBtn();
+    firstBtnToSwap_ = selectedSlot();
     updatePaletteCtls();
     // Where the other button is chosen: by keyboard it would be four Tab stops back.
     paletteView_->window().makeFirstResponder(paletteView_);
@@ -141,7 +146,7 @@ void PreferenceWrangler::resetPaletteButtons(NSButton*) {
 }
 
 void PreferenceWrangler::updatePaletteCtls() {
-    const bool hasSelection = paletteView_->selectedBtn() != kNoButton;
+    const bool hasSelection = selectedSlot() != kNoButton;
     const bool swapping = firstBtnToSwap_ != kNoButton;
     addButtonBtn_->setEnabled(!swapping && canAddPaletteBtn());
     setActionBtn_->setEnabled(hasSelection && !swapping);
@@ -151,7 +156,7 @@ void PreferenceWrangler::updatePaletteCtls() {
 }
 
 void PreferenceWrangler::updatePalettePrompt() {
-    const SInt32 selected = paletteView_->selectedBtn();
+    const SInt32 selected = selectedSlot();
     if (firstBtnToSwap_ != kNoButton)
         palettePrompt_->setStringValue("Choose the button to swap with button " +
                                        paletteSlotName(firstBtnToSwap_) +

@@ -116,4 +116,14 @@ TEST_F(HotKeyTest, MovingAwayStoresNothing) {
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
 }
 
+TEST_F(HotKeyTest, ACaptureEndsWithItsWindow) {
+    open();
+    const auto filters = qApp->children().size();
+    click("scanKey");
+    EXPECT_GT(qApp->children().size(), filters);
+    putAway();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(qApp->children().size(), filters) << "keys are taken no longer";
+}
+
 } // namespace
