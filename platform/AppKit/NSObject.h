@@ -3,7 +3,9 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <typeinfo>
+#include <utility>
 
 class NSObject;
 
@@ -52,10 +54,9 @@ namespace nswiring {
 template <class>
 struct MemberTraits;
 
-template <class OwnerType, class TargetType>
-struct MemberTraits<TargetType * OwnerType::*> {
+template <class OwnerType, class FieldType>
+struct MemberTraits<FieldType OwnerType::*> {
     using Owner = OwnerType;
-    using Target = TargetType;
 };
 
 template <class OwnerType, class SenderType>
@@ -64,22 +65,35 @@ struct MemberTraits<void (OwnerType::*)(SenderType*)> {
     using Sender = SenderType;
 };
 
+/// The field that the pointers to members lead to, one after another.
+template <auto First, auto... Rest, class Owner>
+auto& follow(Owner& owner) {
+    if constexpr (sizeof...(Rest) == 0)
+        return owner.*First;
+    else
+        return follow<Rest...>(owner.*First);
+}
+
 } // namespace nswiring
 
-/// A row of an outlet table: `nsOutlet<&PreferenceWrangler::volume>("volume")`.
-template <auto Field>
+/// A row of an outlet table: `nsOutlet<&PreferenceWrangler::volume>("volume")`. The field may lie
+/// in a part of the owner: `nsOutlet<&PreferenceWrangler::palette, &PaletteEditor::view>("view")`.
+template <auto First, auto... Rest>
 constexpr NSOutlet nsOutlet(std::string_view name) {
-    using Owner = typename nswiring::MemberTraits<decltype(Field)>::Owner;
-    using Target = typename nswiring::MemberTraits<decltype(Field)>::Target;
-    return {
-        name, &typeid(Target),
-        [](NSObject& owner, NSObject& object) {
-            auto* target = dynamic_cast<Target*>(&object);
-            if (target)
-                static_cast<Owner&>(owner).*Field = target;
-            return target != nullptr;
-        },
-        [](const NSObject& owner) { return static_cast<const Owner&>(owner).*Field != nullptr; }};
+    using Owner = typename nswiring::MemberTraits<decltype(First)>::Owner;
+    using Field = decltype(nswiring::follow<First, Rest...>(std::declval<const Owner&>()));
+    using Target = std::remove_pointer_t<std::remove_cvref_t<Field>>;
+    return {name, &typeid(Target),
+            [](NSObject& owner, NSObject& object) {
+                auto* target = dynamic_cast<Target*>(&object);
+                if (target)
+                    nswiring::follow<First, Rest...>(static_cast<Owner&>(owner)) = target;
+                return target != nullptr;
+            },
+            [](const NSObject& owner) {
+                return nswiring::follow<First, Rest...>(static_cast<const Owner&>(owner)) !=
+                       nullptr;
+            }};
 }
 
 /// A row of an action table: `nsAction<&SliderController::incValue>("incValue:")`.

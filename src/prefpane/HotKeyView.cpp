@@ -8,7 +8,6 @@
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "platform/HIToolbox/HotKeyMode.h"
 #include "src/keycombo.h"
-#include "src/prefpane/PreferenceWrangler.h"
 
 #include <utility>
 
@@ -52,7 +51,7 @@ void HotKeyView::mouseDown(NSEvent*) {
 
 bool HotKeyView::becomeFirstResponder() {
     hotKeyMode_ = PushSymbolicHotKeyMode(kHIHotKeyModeAllDisabled);
-    wrangler_->setTargetHotKey(this);
+    target_->setTargetHotKey(this);
     redraw();
     return NSView::becomeFirstResponder();
 }
@@ -60,7 +59,7 @@ bool HotKeyView::becomeFirstResponder() {
 bool HotKeyView::resignFirstResponder() {
     PopSymbolicHotKeyMode(std::exchange(hotKeyMode_, nullptr));
     starter_ = nullptr;
-    wrangler_->setTargetHotKey(nullptr);
+    target_->setTargetHotKey(nullptr);
     redraw();
     return NSView::resignFirstResponder();
 }
@@ -117,7 +116,7 @@ void HotKeyView::setToDefault() {
 
 void HotKeyView::reportChange() {
     redraw();
-    wrangler_->changed(kChangeHotKeys);
+    target_->changed(kChangeHotKeys);
 }
 
 void HotKeyView::redraw() {

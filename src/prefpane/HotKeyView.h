@@ -3,8 +3,20 @@
 #include "platform/AppKit/NSAccessibility.h"
 #include "platform/AppKit/NSView.h"
 #include "platform/CoreFoundation/CFString.h"
+#include "src/prefs.h"
 
-class PreferenceWrangler;
+class HotKeyView;
+
+/// Told of captures, and of every change of a hot key.
+class HotKeyViewTarget {
+public:
+    /// A capture into the view began; null: it is over.
+    virtual void setTargetHotKey(HotKeyView* view) = 0;
+    virtual void changed(ChangeMask changes) = 0;
+
+protected:
+    ~HotKeyViewTarget() = default;
+};
 
 /// Shows one of the record's hot keys and captures a new one: while the keyboard acts on it, the
 /// next key becomes the hot key, with the modifiers that are held then. It takes every key.
@@ -13,8 +25,8 @@ public:
     HotKeyView() = default;
     ~HotKeyView() override;
 
-    /// Who is told of captures and changes; not owned.
-    void setWrangler(PreferenceWrangler* wrangler) { wrangler_ = wrangler; }
+    /// Not owned; given before the view is in sight.
+    void setTarget(HotKeyViewTarget* target) { target_ = target; }
 
     /// The place in the record's hotKeys; -1 until one is given, when nothing is shown or stored.
     void setIndex(int index);
@@ -51,7 +63,7 @@ private:
     void redraw();
     void reportChange();
 
-    PreferenceWrangler* wrangler_ = nullptr;
+    HotKeyViewTarget* target_ = nullptr;
     int index_ = -1;
     NSView* starter_ = nullptr;  ///< of the capture, if it wasn't a click
     void* hotKeyMode_ = nullptr; ///< during a capture

@@ -3,15 +3,12 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSColorWell.h"
 #include "platform/AppKit/NSMatrix.h"
-#include "platform/AppKit/NSPopUpButton.h"
 #include "platform/AppKit/NSTabView.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/HIToolbox/AppleHelp.h"
 #include "src/prefpane/BumperController.h"
-#include "src/prefpane/HotKeyView.h"
 #include "src/prefpane/SampleScanView.h"
 #include "src/prefpane/SliderController.h"
-#include "src/prefpane/palutil.h"
 
 NS_REGISTER_CLASS(PreferenceWrangler);
 
@@ -31,51 +28,53 @@ void wranglerSetMasterOnOff(bool on) {
 
 std::span<const NSOutlet> PreferenceWrangler::outlets() const {
     using W = PreferenceWrangler;
+    using Keys = HotKeyEditor;
+    using Palette = PaletteEditor;
     static constexpr NSOutlet own[] = {
         nsOutlet<&W::activateAtLaunch_>("activateAtLaunch"),
-        nsOutlet<&W::addButtonBtn_>("addButtonBtn"),
-        nsOutlet<&W::buttonContentIconCheck_>("buttonContentIconCheck"),
-        nsOutlet<&W::buttonContentNameCheck_>("buttonContentNameCheck"),
-        nsOutlet<&W::buttonHeight_>("buttonHeight"),
-        nsOutlet<&W::buttonShapeRadios_>("buttonShapeRadios"),
-        nsOutlet<&W::buttonSize_>("buttonSize"),
-        nsOutlet<&W::buttonWidth_>("buttonWidth"),
+        nsOutlet<&W::palette_, &Palette::addButtonBtn>("addButtonBtn"),
+        nsOutlet<&W::palette_, &Palette::buttonContentIconCheck>("buttonContentIconCheck"),
+        nsOutlet<&W::palette_, &Palette::buttonContentNameCheck>("buttonContentNameCheck"),
+        nsOutlet<&W::palette_, &Palette::buttonHeight>("buttonHeight"),
+        nsOutlet<&W::palette_, &Palette::buttonShapeRadios>("buttonShapeRadios"),
+        nsOutlet<&W::palette_, &Palette::buttonSize>("buttonSize"),
+        nsOutlet<&W::palette_, &Palette::buttonWidth>("buttonWidth"),
         nsOutlet<&W::launchAtLogin_>("launchAtLogin"),
         nsOutlet<&W::lineColor_>("lineColor"),
         nsOutlet<&W::masterOnOffRadios_>("masterOnOffRadios"),
-        nsOutlet<&W::palettePrompt_>("palettePrompt"),
-        nsOutlet<&W::paletteView_>("paletteView"),
-        nsOutlet<&W::pointerName_>("pointerName"),
-        nsOutlet<&W::removeButtonBtn_>("removeButtonBtn"),
-        nsOutlet<&W::resetActionsBtn_>("resetActionsBtn"),
+        nsOutlet<&W::palette_, &Palette::palettePrompt>("palettePrompt"),
+        nsOutlet<&W::palette_, &Palette::paletteView>("paletteView"),
+        nsOutlet<&W::pointers_, &PointerChooser::pointerName>("pointerName"),
+        nsOutlet<&W::palette_, &Palette::removeButtonBtn>("removeButtonBtn"),
+        nsOutlet<&W::palette_, &Palette::resetActionsBtn>("resetActionsBtn"),
         nsOutlet<&W::sampleScanImage_>("sampleScanImage"),
         nsOutlet<&W::scanAreaText_>("scanAreaText"),
         nsOutlet<&W::scanModeRadios_>("scanModeRadios"),
-        nsOutlet<&W::setActionBtn_>("setActionBtn"),
-        nsOutlet<&W::swapWithBtn_>("swapWithBtn"),
+        nsOutlet<&W::palette_, &Palette::setActionBtn>("setActionBtn"),
+        nsOutlet<&W::palette_, &Palette::swapWithBtn>("swapWithBtn"),
         nsOutlet<&W::prefsTabs_>("prefsTabs"),
         nsOutlet<&W::triggerOnReleaseRadios_>("triggerOnReleaseRadios"),
         nsOutlet<&W::useScanAreaRadios_>("useScanAreaRadios"),
-        nsOutlet<&W::masterOnOffKey_>("masterOnOffKey"),
-        nsOutlet<&W::masterOnOffKeyBtn_>("masterOnOffKeyBtn"),
-        nsOutlet<&W::masterOnOffKeyNote_>("masterOnOffKeyNote"),
-        nsOutlet<&W::scanKey_>("scanKey"),
-        nsOutlet<&W::scanKeyBtn_>("scanKeyBtn"),
-        nsOutlet<&W::scanKeyNote_>("scanKeyNote"),
-        nsOutlet<&W::cancelScanKey_>("cancelScanKey"),
-        nsOutlet<&W::cancelScanKeyBtn_>("cancelScanKeyBtn"),
-        nsOutlet<&W::cancelScanKeyNote_>("cancelScanKeyNote"),
-        nsOutlet<&W::showPreferencesKey_>("showPreferencesKey"),
-        nsOutlet<&W::showPreferencesKeyBtn_>("showPreferencesKeyBtn"),
-        nsOutlet<&W::showPreferencesKeyNote_>("showPreferencesKeyNote"),
-        nsOutlet<&W::scanKey2_>("scanKey2"),
-        nsOutlet<&W::scanKey2Btn_>("scanKey2Btn"),
-        nsOutlet<&W::scanKey2Note_>("scanKey2Note"),
-        nsOutlet<&W::notEditingKeyPrompt_>("notEditingKeyPrompt"),
-        nsOutlet<&W::editingKeyPrompt1_>("editingKeyPrompt1"),
-        nsOutlet<&W::cancelEditBtn_>("cancelEditBtn"),
-        nsOutlet<&W::defaultKeyBtn_>("defaultKeyBtn"),
-        nsOutlet<&W::noKeyBtn_>("noKeyBtn"),
+        nsOutlet<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::view>("masterOnOffKey"),
+        nsOutlet<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::menu>("masterOnOffKeyBtn"),
+        nsOutlet<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::note>("masterOnOffKeyNote"),
+        nsOutlet<&W::hotKeys_, &Keys::scan, &HotKeyRow::view>("scanKey"),
+        nsOutlet<&W::hotKeys_, &Keys::scan, &HotKeyRow::menu>("scanKeyBtn"),
+        nsOutlet<&W::hotKeys_, &Keys::scan, &HotKeyRow::note>("scanKeyNote"),
+        nsOutlet<&W::hotKeys_, &Keys::cancelScan, &HotKeyRow::view>("cancelScanKey"),
+        nsOutlet<&W::hotKeys_, &Keys::cancelScan, &HotKeyRow::menu>("cancelScanKeyBtn"),
+        nsOutlet<&W::hotKeys_, &Keys::cancelScan, &HotKeyRow::note>("cancelScanKeyNote"),
+        nsOutlet<&W::hotKeys_, &Keys::showPreferences, &HotKeyRow::view>("showPreferencesKey"),
+        nsOutlet<&W::hotKeys_, &Keys::showPreferences, &HotKeyRow::menu>("showPreferencesKeyBtn"),
+        nsOutlet<&W::hotKeys_, &Keys::showPreferences, &HotKeyRow::note>("showPreferencesKeyNote"),
+        nsOutlet<&W::hotKeys_, &Keys::scan2, &HotKeyRow::view>("scanKey2"),
+        nsOutlet<&W::hotKeys_, &Keys::scan2, &HotKeyRow::menu>("scanKey2Btn"),
+        nsOutlet<&W::hotKeys_, &Keys::scan2, &HotKeyRow::note>("scanKey2Note"),
+        nsOutlet<&W::hotKeys_, &Keys::notEditingKeyPrompt>("notEditingKeyPrompt"),
+        nsOutlet<&W::hotKeys_, &Keys::editingKeyPrompt1>("editingKeyPrompt1"),
+        nsOutlet<&W::hotKeys_, &Keys::cancelEditBtn>("cancelEditBtn"),
+        nsOutlet<&W::hotKeys_, &Keys::defaultKeyBtn>("defaultKeyBtn"),
+        nsOutlet<&W::hotKeys_, &Keys::noKeyBtn>("noKeyBtn"),
     };
     static const auto table = withSettings<NSOutlet>(own);
     return table;
@@ -121,49 +120,28 @@ void PreferenceWrangler::setup() {
 
     setupNumbers();
 
-    const struct {
-        BumperController* controller;
-        SInt32* pending;
-        ChangeMask changes;
-    } bumpers[] = {
-        {buttonHeight_, &buttonHeightChange_, kChangeButtonHeightBump},
-        {buttonSize_, &buttonSizeChange_, kChangeButtonSizeBump},
-        {buttonWidth_, &buttonWidthChange_, kChangeButtonWidthBump},
-    };
-
-    for (const auto& [controller, pending, changes] : bumpers)
-        controller->setKind(kNumberKindSInt32, pending, -10, 10, 1, changes);
-
-    paletteView_->setTarget(this);
-    addActionMenuToCtl(addButtonBtn_, selector("addPaletteBtn:"));
-    addActionMenuToCtl(setActionBtn_, selector("setPaletteBtnAction:"));
-    setupHotKeys();
+    palette_.setup(*this, *this);
+    hotKeys_.setup(*this, *this);
     theWrangler = this;
 }
 
 void PreferenceWrangler::loadValues() {
     loadNumbers();
-    for (NumberController* bumper : {buttonHeight_, buttonSize_, buttonWidth_})
-        bumper->update();
-
     updateMasterOnOff();
     scanModeRadios_->selectCellWithTag(prefs.scanMode);
     triggerOnReleaseRadios_->selectCellWithTag(prefs.triggerOnRelease != 0);
-    buttonShapeRadios_->selectCellWithTag(static_cast<int>(prefs.buttonShape));
     updateScanAreaRadios();
     updateScanAreaText();
     updateLaunchUI();
 
     loadFlags();
-    loadButtonContent();
-    loadHotKeys();
+    hotKeys_.load();
     lineColor_->setColor(NSColor::colorWithDeviceRed(prefs.lineColor.red / 255.0,
                                                      prefs.lineColor.green / 255.0,
                                                      prefs.lineColor.blue / 255.0, 1.0));
     showSampleLineType(kSampleScanLine);
-    updatePointerName();
-    buttonHeightChange_ = buttonWidthChange_ = buttonSizeChange_ = 0;
-    resetPaletteControls();
+    pointers_.updatePointerName();
+    palette_.load();
     updateTriggerUI();
 }
 

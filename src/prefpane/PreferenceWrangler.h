@@ -1,16 +1,16 @@
 #pragma once
 
-#include "platform/AppKit/NSPopUpButton.h"
+#include "src/prefpane/HotKeyEditor.h"
+#include "src/prefpane/HotKeyView.h"
 #include "src/prefpane/NumberController.h"
-#include "src/prefpane/PaletteView.h"
+#include "src/prefpane/PaletteEditor.h"
+#include "src/prefpane/PointerChooser.h"
 #include "src/settings.h"
 
 #include <array>
 #include <vector>
 
-class BumperController;
 class CFType;
-class HotKeyView;
 class NSButton;
 class NSColorWell;
 class NSMatrix;
@@ -25,7 +25,7 @@ class SampleScanView;
 class PreferenceWrangler final : public NSObject,
                                  public NumberChangeTarget,
                                  public PaletteViewTarget,
-                                 public NSMenuDelegate {
+                                 public HotKeyViewTarget {
 public:
     PreferenceWrangler() = default;
     ~PreferenceWrangler() override;
@@ -67,21 +67,23 @@ public:
     void changedScanMode(NSMatrix* sender);
     void changedLineColor(NSColorWell* sender);
 
-    // PreferenceWranglerHotKeys.cpp: hot keys
+    // HotKeyEditor: hot keys
 
     // During a capture; they do nothing outside of one.
-    void setHotKeyToNone(NSButton* sender);
-    void setHotKeyToDefault(NSButton* sender);
-    void cancelHotKeyEdit(NSButton* sender);
+    void setHotKeyToNone(NSButton*) { hotKeys_.setHotKeyToNone(); }
+
+    void setHotKeyToDefault(NSButton*) { hotKeys_.setHotKeyToDefault(); }
+
+    void cancelHotKeyEdit(NSButton*) { hotKeys_.cancelHotKeyEdit(); }
 
     // Of the menu beside a hot key, at any time.
-    void captureHotKey(NSMenuItem* sender);
-    void removeHotKey(NSMenuItem* sender);
-    void resetHotKey(NSMenuItem* sender);
+    void captureHotKey(NSMenuItem* sender) { hotKeys_.captureHotKey(*sender); }
 
-    /// The hot key that is captured into, or null.
-    void setTargetHotKey(HotKeyView* view);
-    void updateHotKeyUI();
+    void removeHotKey(NSMenuItem* sender) { hotKeys_.removeHotKey(*sender); }
+
+    void resetHotKey(NSMenuItem* sender) { hotKeys_.resetHotKey(*sender); }
+
+    void setTargetHotKey(HotKeyView* view) override { hotKeys_.setTargetHotKey(view); }
 
     // PreferenceWranglerLaunch.cpp: launching at login
 
@@ -89,43 +91,35 @@ public:
     /// Without the agent's bundle the login items stay as they are.
     void updateLaunchUI();
 
-    // PreferenceWranglerPalette.cpp: the palette's buttons. An edit leaves nothing selected.
+    // PaletteEditor: the palette's buttons
 
-    /// Adds an item for every action that has a title; choosing it sends the selector, with the
-    /// action's number as the item's tag.
-    void addActionMenuToCtl(NSPopUpButton* ctl, SEL selector);
-    /// Gives the items of an action menu their icons, which are read only when it opens.
-    void menuNeedsUpdate(NSPopUpButton* menu) override;
-    /// The first empty slot after the given one, or kNoButton.
-    SInt32 emptyPaletteBtnAfter(SInt32 slot) const;
-    /// The first slot of the last run of empty ones, or kNoButton.
-    SInt32 newPaletteBtnLocation() const;
-    bool canAddPaletteBtn() const;
-    /// Inserts the action before the selected button or, without room after it, takes the place for
-    /// a new button. Beeps when there is none.
-    void addPaletteBtn(NSMenuItem* sender);
-    void setPaletteBtnAction(NSMenuItem* sender);
-    void removePaletteButton(NSButton* sender);
-    /// The next click in the palette view swaps the selected button with the one hit, or cancels.
-    void swapPaletteButtonWith(NSButton* sender);
-    void paletteBtnHit(PaletteView* view, SInt32 index) override;
-    void resetPaletteButtons(NSButton* sender);
-    void updatePaletteCtls();
-    /// Ends a swap and clears the selection.
-    void resetPaletteControls();
-    void changedButtonShape(NSMatrix* sender);
-    void changedButtonContentName(NSButton* sender);
-    void changedButtonContentIcon(NSButton* sender);
-    /// Folds the bumpers' pending steps into the button size.
-    void changedButtonSizes();
+    void addPaletteBtn(NSMenuItem* sender) { palette_.addPaletteBtn(*sender); }
 
-    // PreferenceWranglerPointers.cpp: the choice of a pointer
+    void setPaletteBtnAction(NSMenuItem* sender) { palette_.setPaletteBtnAction(*sender); }
 
-    void previousPointer(NSButton* sender);
-    void nextPointer(NSButton* sender);
-    /// Chooses the next pointer, or the previous one, and reports the change, also when it is the
-    /// same one. Does nothing when the agent has no pointers.
-    void bumpPointer(bool forward);
+    void removePaletteButton(NSButton*) { palette_.removePaletteButton(); }
+
+    void swapPaletteButtonWith(NSButton*) { palette_.swapPaletteButtonWith(); }
+
+    void paletteBtnHit(PaletteView* view, SInt32 index) override {
+        palette_.paletteBtnHit(view, index);
+    }
+
+    void resetPaletteButtons(NSButton*) { palette_.resetPaletteButtons(); }
+
+    void resetPaletteControls() { palette_.resetPaletteControls(); }
+
+    void changedButtonShape(NSMatrix* sender) { palette_.changedButtonShape(*sender); }
+
+    void changedButtonContentName(NSButton* sender) { palette_.changedButtonContentName(*sender); }
+
+    void changedButtonContentIcon(NSButton* sender) { palette_.changedButtonContentIcon(*sender); }
+
+    // PointerChooser: the choice of a pointer
+
+    void previousPointer(NSButton*) { pointers_.bumpPointer(false); }
+
+    void nextPointer(NSButton*) { pointers_.bumpPointer(true); }
 
     // PreferenceWranglerScanArea.cpp: the custom scan area
 
@@ -135,29 +129,6 @@ public:
     void setCustomScanArea(NSButton* sender);
 
 private:
-    /// A hot key and what stands beside it.
-    struct HotKeyRow {
-        HotKeyView* view;
-        NSPopUpButton* menu;
-        NSTextField* note;
-    };
-
-    /// In the record's order.
-    std::array<HotKeyRow, kNumHotKeys> hotKeyRows() const;
-    void setupHotKeys();
-    void loadHotKeys();
-    void updateHotKeyNotes();
-
-    /// Shows the name of the pointer that the preview draws.
-    void updatePointerName();
-    /// The slot that is selected in the palette view, or kNoButton.
-    SInt32 selectedSlot() const;
-    void commitPaletteEdit();
-    /// Says what is selected and what a swap waits for.
-    void updatePalettePrompt();
-    void loadButtonContent();
-    void setButtonContent(UInt32 bit, NSButton* sender);
-
     // PreferenceWranglerSettings.cpp: what the table of settings says of numbers and check boxes
 
     template <std::size_t Row>
@@ -174,57 +145,19 @@ private:
     std::array<NSObject*, kSettings.size()> settingControls_ = {};
 
     NSButton* activateAtLaunch_ = nullptr;
-    NSPopUpButton* addButtonBtn_ = nullptr;
-    NSButton* buttonContentIconCheck_ = nullptr;
-    NSButton* buttonContentNameCheck_ = nullptr;
-    BumperController* buttonHeight_ = nullptr;
-    NSMatrix* buttonShapeRadios_ = nullptr;
-    BumperController* buttonSize_ = nullptr;
-    BumperController* buttonWidth_ = nullptr;
     NSButton* launchAtLogin_ = nullptr;
     NSColorWell* lineColor_ = nullptr;
     NSMatrix* masterOnOffRadios_ = nullptr;
-    NSTextField* palettePrompt_ = nullptr;
-    PaletteView* paletteView_ = nullptr;
-    NSTextField* pointerName_ = nullptr;
-    NSButton* removeButtonBtn_ = nullptr;
-    NSButton* resetActionsBtn_ = nullptr;
     SampleScanView* sampleScanImage_ = nullptr;
     NSTextField* scanAreaText_ = nullptr;
     NSMatrix* scanModeRadios_ = nullptr;
-    NSPopUpButton* setActionBtn_ = nullptr;
-    NSButton* swapWithBtn_ = nullptr;
     NSTabView* prefsTabs_ = nullptr;
     NSMatrix* triggerOnReleaseRadios_ = nullptr;
     NSMatrix* useScanAreaRadios_ = nullptr;
 
-    HotKeyView* masterOnOffKey_ = nullptr;
-    HotKeyView* scanKey_ = nullptr;
-    HotKeyView* cancelScanKey_ = nullptr;
-    HotKeyView* showPreferencesKey_ = nullptr;
-    HotKeyView* scanKey2_ = nullptr;
-    NSPopUpButton* masterOnOffKeyBtn_ = nullptr;
-    NSPopUpButton* scanKeyBtn_ = nullptr;
-    NSPopUpButton* cancelScanKeyBtn_ = nullptr;
-    NSPopUpButton* showPreferencesKeyBtn_ = nullptr;
-    NSPopUpButton* scanKey2Btn_ = nullptr;
-    NSTextField* masterOnOffKeyNote_ = nullptr;
-    NSTextField* scanKeyNote_ = nullptr;
-    NSTextField* cancelScanKeyNote_ = nullptr;
-    NSTextField* showPreferencesKeyNote_ = nullptr;
-    NSTextField* scanKey2Note_ = nullptr;
-    NSTextField* notEditingKeyPrompt_ = nullptr;
-    NSTextField* editingKeyPrompt1_ = nullptr;
-    NSButton* cancelEditBtn_ = nullptr;
-    NSButton* defaultKeyBtn_ = nullptr;
-    NSButton* noKeyBtn_ = nullptr;
-    HotKeyView* targetHotKey_ = nullptr;
-
-    // Steps of the button size that changedButtonSizes has yet to apply; 0 but while it is called.
-    SInt32 buttonSizeChange_ = 0;
-    SInt32 buttonWidthChange_ = 0;
-    SInt32 buttonHeightChange_ = 0;
-    SInt32 firstBtnToSwap_ = kNoButton; ///< the slot that a swap began with
+    HotKeyEditor hotKeys_;
+    PaletteEditor palette_{*this};
+    PointerChooser pointers_{*this};
 
     const CFString* helpBookName_ = nullptr; ///< the bundle's own; null: no book
 };

@@ -28,7 +28,7 @@ UInt16 byteComponent(double component) {
 
 void PreferenceWrangler::changed(ChangeMask changes) {
     if (changes & kChangeButtonBumps) {
-        changedButtonSizes();
+        palette_.changedButtonSizes();
         changes &= ~kChangeButtonBumps;
         if (!changes)
             return;
@@ -53,9 +53,9 @@ void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {
     if (changes & kChangeLaunch)
         updateLaunchUI();
     if (changes & kChangePointer)
-        updatePointerName();
+        pointers_.updatePointerName();
     if (changes & kChangeHotKeys)
-        updateHotKeyNotes();
+        hotKeys_.updateHotKeyNotes();
 }
 
 void PreferenceWrangler::showSampleLineType(SInt32 type) {

@@ -1,4 +1,4 @@
-#include "src/prefpane/PreferenceWrangler.h"
+#include "src/prefpane/PaletteEditor.h"
 
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSMatrix.h"
@@ -6,14 +6,15 @@
 #include "platform/AppKit/NSTextField.h"
 #include "platform/AppKit/NSWindow.h"
 #include "platform/HIToolbox/CarbonEvents.h"
+#include "src/prefpane/BumperController.h"
 #include "src/prefpane/palutil.h"
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace {
 
-constexpr UInt8 defaultActions[kNumPaletteSlots] = {20, 21, 22, 1, 2, 0, 0, 0, 0};
 constexpr SInt32 kLastSlot = kNumPaletteSlots - 1;
 
 bool isEmptySlot(SInt32 slot) {
@@ -22,7 +23,36 @@ bool isEmptySlot(SInt32 slot) {
 
 } // namespace
 
-void PreferenceWrangler::addActionMenuToCtl(NSPopUpButton* ctl, SEL selector) {
+void PaletteEditor::setup(PaletteViewTarget& clicks, NSObject& menuTarget) {
+    const struct {
+        BumperController* controller;
+        SInt32* pending;
+        ChangeMask changes;
+    } bumpers[] = {
+        {buttonHeight, &buttonHeightChange_, kChangeButtonHeightBump},
+        {buttonSize, &buttonSizeChange_, kChangeButtonSizeBump},
+        {buttonWidth, &buttonWidthChange_, kChangeButtonWidthBump},
+    };
+
+    for (const auto& [controller, pending, changes] : bumpers)
+        controller->setKind(kNumberKindSInt32, pending, -10, 10, 1, changes);
+    paletteView->setTarget(&clicks);
+    addActionMenuToCtl(addButtonBtn, menuTarget.selector("addPaletteBtn:"), menuTarget);
+    addActionMenuToCtl(setActionBtn, menuTarget.selector("setPaletteBtnAction:"), menuTarget);
+}
+
+void PaletteEditor::load() {
+    for (NumberController* bumper : {buttonHeight, buttonSize, buttonWidth})
+        bumper->update();
+    buttonShapeRadios->selectCellWithTag(static_cast<int>(prefs.buttonShape));
+    for (const auto& [check, bit] : {std::pair(buttonContentIconCheck, kButtonContentIcon),
+                                     {buttonContentNameCheck, kButtonContentName}})
+        check->setState(prefs.buttonContent & bit ? NSOnState : NSOffState);
+    buttonHeightChange_ = buttonWidthChange_ = buttonSizeChange_ = 0;
+    resetPaletteControls();
+}
+
+void PaletteEditor::addActionMenuToCtl(NSPopUpButton* ctl, SEL selector, NSObject& target) {
     for (int action = 0; action < kNumActions; ++action) {
         const CFString* title = palutilActionTitle(static_cast<UInt8>(action));
         if (!title)
@@ -32,27 +62,27 @@ void PreferenceWrangler::addActionMenuToCtl(NSPopUpButton* ctl, SEL selector) {
         NSMenuItem* item = ctl->itemWithTitle(text);
         item->setTag(action);
         item->setAction(selector);
-        item->setTarget(this);
+        item->setTarget(&target);
     }
     ctl->setAutoenablesItems(false);
     ctl->setDelegate(this);
 }
 
-void PreferenceWrangler::menuNeedsUpdate(NSPopUpButton* menu) {
+void PaletteEditor::menuNeedsUpdate(NSPopUpButton* menu) {
     for (const auto& item : menu->itemArray()) {
         const auto icon = palutilCopyActionIcon(static_cast<UInt8>(item->tag()));
         item->setImage(NSImage::imageWithIconRef(icon.get()));
     }
 }
 
-SInt32 PreferenceWrangler::emptyPaletteBtnAfter(SInt32 slot) const {
+SInt32 PaletteEditor::emptyPaletteBtnAfter(SInt32 slot) const {
     for (SInt32 i = slot + 1; i <= kLastSlot; ++i)
         if (isEmptySlot(i))
             return i;
     return kNoButton;
 }
 
-SInt32 PreferenceWrangler::newPaletteBtnLocation() const {
+SInt32 PaletteEditor::newPaletteBtnLocation() const {
     SInt32 slot = kLastSlot;
     while (slot >= 0 && !isEmptySlot(slot))
         --slot;
@@ -61,25 +91,25 @@ SInt32 PreferenceWrangler::newPaletteBtnLocation() const {
     return slot; // -1, kNoButton, when no slot is empty
 }
 
-SInt32 PreferenceWrangler::selectedSlot() const {
-    const SInt32 selected = paletteView_->selectedBtn();
+SInt32 PaletteEditor::selectedSlot() const {
+    const SInt32 selected = paletteView->selectedBtn();
     return selected >= 0 && selected <= kLastSlot ? selected : kNoButton;
 }
 
-bool PreferenceWrangler::canAddPaletteBtn() const {
+bool PaletteEditor::canAddPaletteBtn() const {
     const SInt32 selected = selectedSlot();
     return (selected != kNoButton && emptyPaletteBtnAfter(selected) != kNoButton) ||
            newPaletteBtnLocation() != kNoButton;
 }
 
-void PreferenceWrangler::commitPaletteEdit() {
-    paletteView_->setNeedsDisplay(true);
+void PaletteEditor::commitPaletteEdit() {
+    paletteView->setNeedsDisplay(true);
     resetPaletteControls();
-    changed(kChangePalette);
+    changes_.changed(kChangePalette);
 }
 
-void PreferenceWrangler::addPaletteBtn(NSMenuItem* sender) {
-    const auto action = static_cast<UInt8>(sender->tag());
+void PaletteEditor::addPaletteBtn(const NSMenuItem& sender) {
+    const auto action = static_cast<UInt8>(sender.tag());
     if (action >= kNumActions)
         return SysBeep(1);
     UInt8* const slots = prefs.buttonActions;
@@ -100,8 +130,8 @@ void PreferenceWrangler::addPaletteBtn(NSMenuItem* sender) {
     commitPaletteEdit();
 }
 
-void PreferenceWrangler::setPaletteBtnAction(NSMenuItem* sender) {
-    const auto action = static_cast<UInt8>(sender->tag());
+void PaletteEditor::setPaletteBtnAction(const NSMenuItem& sender) {
+    const auto action = static_cast<UInt8>(sender.tag());
     const SInt32 selected = selectedSlot();
     if (action >= kNumActions || selected == kNoButton || prefs.buttonActions[selected] == action)
         return;
@@ -109,7 +139,7 @@ void PreferenceWrangler::setPaletteBtnAction(NSMenuItem* sender) {
     commitPaletteEdit();
 }
 
-void PreferenceWrangler::removePaletteButton(NSButton*) {
+void PaletteEditor::removePaletteButton() {
     const SInt32 selected = selectedSlot();
     if (selected == kNoButton)
         return;
@@ -119,14 +149,14 @@ void PreferenceWrangler::removePaletteButton(NSButton*) {
     commitPaletteEdit();
 }
 
-void PreferenceWrangler::swapPaletteButtonWith(NSButton*) {
+void PaletteEditor::swapPaletteButtonWith() {
     firstBtnToSwap_ = selectedSlot();
     updatePaletteCtls();
     // Where the other button is chosen: by keyboard it would be four Tab stops back.
-    paletteView_->window().makeFirstResponder(paletteView_);
+    paletteView->window().makeFirstResponder(paletteView);
 }
 
-void PreferenceWrangler::paletteBtnHit(PaletteView* view, SInt32 index) {
+void PaletteEditor::paletteBtnHit(PaletteView* view, SInt32 index) {
     if (firstBtnToSwap_ == kNoButton) {
         view->selectBtn(index);
         updatePaletteCtls();
@@ -135,74 +165,68 @@ void PreferenceWrangler::paletteBtnHit(PaletteView* view, SInt32 index) {
     if (index != kNoButton && index != firstBtnToSwap_) {
         std::swap(prefs.buttonActions[firstBtnToSwap_], prefs.buttonActions[index]);
         view->setNeedsDisplay(true);
-        changed(kChangePalette);
+        changes_.changed(kChangePalette);
     }
     resetPaletteControls();
 }
 
-void PreferenceWrangler::resetPaletteButtons(NSButton*) {
-    std::copy(std::begin(defaultActions), std::end(defaultActions), prefs.buttonActions);
+void PaletteEditor::resetPaletteButtons() {
+    const PrefsRecord defaults;
+    std::copy(std::begin(defaults.buttonActions), std::end(defaults.buttonActions),
+              prefs.buttonActions);
     commitPaletteEdit();
 }
 
-void PreferenceWrangler::updatePaletteCtls() {
+void PaletteEditor::updatePaletteCtls() {
     const bool hasSelection = selectedSlot() != kNoButton;
     const bool swapping = firstBtnToSwap_ != kNoButton;
-    addButtonBtn_->setEnabled(!swapping && canAddPaletteBtn());
-    setActionBtn_->setEnabled(hasSelection && !swapping);
-    removeButtonBtn_->setEnabled(hasSelection && !swapping);
-    swapWithBtn_->setEnabled(hasSelection);
+    addButtonBtn->setEnabled(!swapping && canAddPaletteBtn());
+    setActionBtn->setEnabled(hasSelection && !swapping);
+    removeButtonBtn->setEnabled(hasSelection && !swapping);
+    swapWithBtn->setEnabled(hasSelection);
     updatePalettePrompt();
 }
 
-void PreferenceWrangler::updatePalettePrompt() {
+void PaletteEditor::updatePalettePrompt() {
     const SInt32 selected = selectedSlot();
     if (firstBtnToSwap_ != kNoButton)
-        palettePrompt_->setStringValue("Choose the button to swap with button " +
-                                       paletteSlotName(firstBtnToSwap_) +
-                                       ". The same button again, or Escape, cancels.");
+        palettePrompt->setStringValue("Choose the button to swap with button " +
+                                      paletteSlotName(firstBtnToSwap_) +
+                                      ". The same button again, or Escape, cancels.");
     else if (selected != kNoButton)
-        palettePrompt_->setStringValue("Chosen: button " + paletteSlotName(selected) + ".");
+        palettePrompt->setStringValue("Chosen: button " + paletteSlotName(selected) + ".");
     else
-        palettePrompt_->setStringValue("Choose a button to change it.");
+        palettePrompt->setStringValue("Choose a button to change it.");
 }
 
-void PreferenceWrangler::resetPaletteControls() {
+void PaletteEditor::resetPaletteControls() {
     firstBtnToSwap_ = kNoButton;
-    paletteView_->selectBtn(kNoButton);
+    paletteView->selectBtn(kNoButton);
     updatePaletteCtls();
 }
 
-void PreferenceWrangler::changedButtonShape(NSMatrix* sender) {
-    prefs.buttonShape = static_cast<UInt32>(sender->selectedTag());
-    changed(kChangePalette);
+void PaletteEditor::changedButtonShape(const NSMatrix& sender) {
+    prefs.buttonShape = static_cast<UInt32>(sender.selectedTag());
+    changes_.changed(kChangePalette);
 }
 
-void PreferenceWrangler::loadButtonContent() {
-    const auto show = [](NSButton* check, UInt32 bit) {
-        check->setState(prefs.buttonContent & bit ? NSOnState : NSOffState);
-    };
-    show(buttonContentIconCheck_, kButtonContentIcon);
-    show(buttonContentNameCheck_, kButtonContentName);
-}
-
-void PreferenceWrangler::setButtonContent(UInt32 bit, NSButton* sender) {
-    if (sender->state() == NSOnState)
+void PaletteEditor::setButtonContent(UInt32 bit, const NSButton& sender) {
+    if (sender.state() == NSOnState)
         prefs.buttonContent |= bit;
     else
         prefs.buttonContent &= ~bit;
-    changed(kChangePalette);
+    changes_.changed(kChangePalette);
 }
 
-void PreferenceWrangler::changedButtonContentName(NSButton* sender) {
+void PaletteEditor::changedButtonContentName(const NSButton& sender) {
     setButtonContent(kButtonContentName, sender);
 }
 
-void PreferenceWrangler::changedButtonContentIcon(NSButton* sender) {
+void PaletteEditor::changedButtonContentIcon(const NSButton& sender) {
     setButtonContent(kButtonContentIcon, sender);
 }
 
-void PreferenceWrangler::changedButtonSizes() {
+void PaletteEditor::changedButtonSizes() {
     const auto limited = [](SInt32 size) {
         return static_cast<SInt16>(std::clamp(size, kMinButtonSize, kMaxButtonSize));
     };
@@ -213,5 +237,5 @@ void PreferenceWrangler::changedButtonSizes() {
     if (size.height == prefs.buttonSize.height && size.width == prefs.buttonSize.width)
         return;
     prefs.buttonSize = size;
-    changed(kChangePalette);
+    changes_.changed(kChangePalette);
 }

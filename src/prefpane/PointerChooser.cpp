@@ -1,7 +1,8 @@
-#include "src/prefpane/PreferenceWrangler.h"
+#include "src/prefpane/PointerChooser.h"
 
 #include "platform/AppKit/NSTextField.h"
 #include "src/prefpane/Daemon.h"
+#include "src/prefpane/NumberController.h"
 #include "src/prefpane/ptrman.h"
 #include "src/ptrutil.h"
 
@@ -9,25 +10,17 @@
 
 static_assert(sizeof prefs.pointerImageName == kMaxPointerNameLength + 1);
 
-void PreferenceWrangler::previousPointer(NSButton*) {
-    bumpPointer(false);
-}
-
-void PreferenceWrangler::nextPointer(NSButton*) {
-    bumpPointer(true);
-}
-
-void PreferenceWrangler::bumpPointer(bool forward) {
+void PointerChooser::bumpPointer(bool forward) {
     char name[sizeof prefs.pointerImageName] = {}; // so that nothing of a longer name stays behind
     if (!ptrmanGetNextPointer(prefs.pointerImageName, forward, name))
         return;
     std::copy(std::begin(name), std::end(name), prefs.pointerImageName);
-    changed(kChangePointer);
+    changes_.changed(kChangePointer);
 }
 
-void PreferenceWrangler::updatePointerName() {
+void PointerChooser::updatePointerName() {
     PointerImage pointer;
     const bool isThere =
         ptrutilLoadPointerFromBundle(daemonMainBundle(), prefs.pointerImageName, &pointer);
-    pointerName_->setStringValue(isThere ? ptrutilPointerTitle(prefs.pointerImageName) : "None");
+    pointerName->setStringValue(isThere ? ptrutilPointerTitle(prefs.pointerImageName) : "None");
 }
