@@ -5,17 +5,28 @@
 
 const char* const kUsage =
     "Usage: korvex-preferences [BUNDLE.prefPane]\n"
+    "       korvex-preferences COMMAND OPERANDS\n"
     "       korvex-preferences --section NAME\n"
     "       korvex-preferences --service\n"
     "       korvex-preferences --check BUNDLE.prefPane\n"
     "\n"
     "Shows the settings pane of the bundle, of Korvex's own without one.\n"
     "\n"
+    "  COMMAND         change or read settings without a window; see the command \"help\"\n"
     "  --section NAME  show that section of the pane, for example \"palette\"\n"
     "  --service       wait until the session bus asks for the window\n"
     "  --check BUNDLE  load the bundle, check its interface files, show nothing\n"
     "  --help          print this text\n"
     "  --version       print the version\n";
+
+namespace {
+
+/// A bundle is named by its path or its ending; any other word is a command.
+bool isCommand(const std::string& operand) {
+    return operand.find('/') == std::string::npos && !operand.ends_with(".prefPane");
+}
+
+} // namespace
 
 Arguments parseArguments(int argc, char** argv) {
     using Task = Arguments::Task;
@@ -27,6 +38,8 @@ Arguments parseArguments(int argc, char** argv) {
     // Nothing is looked for behind the first operand, and no option goes with one.
     const int option = getopt_long(argc, argv, "+", kOptions, nullptr);
     const int operands = argc - optind;
+    if (option == -1 && operands >= 1 && isCommand(argv[optind]))
+        return {Task::Command, {}, {}};
     if (option == -1 && operands <= 1)
         return {Task::Show, operands == 1 ? argv[optind] : "", {}};
     if (operands == 0) {

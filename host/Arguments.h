@@ -4,7 +4,7 @@
 
 /// What the command line asks for.
 struct Arguments {
-    enum class Task { Show, Serve, Check, Help, Version, Misuse };
+    enum class Task { Show, Command, Serve, Check, Help, Version, Misuse };
 
     Task task = Task::Show;
     std::string bundle;  ///< path of the bundle; empty for the one that belongs to this program

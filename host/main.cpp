@@ -1,4 +1,5 @@
 #include "host/Arguments.h"
+#include "host/Command.h"
 #include "host/PaneHost.h"
 #include "host/SingleInstance.h"
 #include "host/TerminationSignals.h"
@@ -107,6 +108,8 @@ int run(const Arguments& arguments, int argc, char** argv) {
 int main(int argc, char** argv) {
     const Arguments arguments = parseArguments(argc, argv);
     switch (arguments.task) {
+    case Arguments::Task::Command:
+        return runCommand(argc, argv);
     case Arguments::Task::Help:
         std::fputs(kUsage, stdout);
         return kDone;

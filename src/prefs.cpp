@@ -25,6 +25,7 @@ struct SettingState {
 /// One a row of kSettings. Never destroyed: an exit handler may save.
 auto& settingStates = *new std::array<SettingState, kSettings.size()>;
 
+PrefsRecord stored;   ///< the record when it was last loaded or saved
 PrefsRecord lastLook; ///< the record when it was last looked through for changes
 
 void noteChanges() {
@@ -53,7 +54,7 @@ void prefsSetup() {
         loaded = CFPreferencesCopyAppValue(CFSTR(kSettings[i].key), kAgentBundleID);
         kSettings[i].form->read(loaded.get(), kSettings[i].in(prefs));
     }
-    lastLook = prefs;
+    stored = lastLook = prefs;
 }
 
 bool savePrefs() {
@@ -69,6 +70,8 @@ bool savePrefs() {
     if (saved)
         for (SettingState& state : settingStates)
             state.isChosen = false;
+    if (saved)
+        stored = prefs;
     return saved;
 }
 
@@ -81,6 +84,10 @@ void prefsWereChanged(const void* chosen) {
 
 void prefsWerentChanged() {
     prefsNeedSaving = false;
+}
+
+bool prefsAreAsStored() {
+    return std::memcmp(&prefs, &stored, sizeof prefs) == 0;
 }
 
 void prefsFlushChanges() {

@@ -7,6 +7,8 @@
 /// The agent's bundle identifier, which is also the preference domain of all settings. The pane's
 /// own identifier is this one followed by ".PrefsPane".
 inline constexpr char kAgentBundleIDText[] = "org.korvex.Agent";
+/// The agent application's name in the pane's bundle.
+inline constexpr char kAgentApplicationName[] = "Korvex Agent.app";
 extern const CFString* const kAgentBundleID;
 
 /// The groups of settings that a change touched.
@@ -183,6 +185,9 @@ bool savePrefs();
 /// `chosen`, if not null, is a field of `prefs` that counts as changed though it may be as before.
 void prefsWereChanged(const void* chosen = nullptr);
 void prefsWerentChanged();
+
+/// Whether the record is as it was when it was last loaded or saved.
+bool prefsAreAsStored();
 
 /// Saves when the record was changed since it was last saved, else does nothing.
 void prefsFlushChanges();

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <span>
+#include <string_view>
 
 /// What a number may be and how it is stepped and shown.
 struct SettingLimits {
@@ -184,3 +185,11 @@ static_assert(isInRecordOrder());
 } // namespace settingrows
 
 inline constexpr std::span<const Setting> kSettings = settingrows::kRows;
+
+/// Null when there is none of that key.
+inline const Setting* settingOfKey(std::string_view key) {
+    for (const Setting& setting : kSettings)
+        if (key == setting.key)
+            return &setting;
+    return nullptr;
+}

@@ -5,18 +5,11 @@
 #include "src/proputil.h"
 #include "src/settingcheck.h"
 
-#include <algorithm>
-
 namespace {
-
-const Setting* findSetting(const std::string& key) {
-    const auto found = std::ranges::find(kSettings, key, &Setting::key);
-    return found == kSettings.end() ? nullptr : &*found;
-}
 
 /// Takes one value over; returns why it can't be, or an empty text.
 std::string take(const std::string& key, const CFType* value, SettingsOffer& offer) {
-    const Setting* setting = findSetting(key);
+    const Setting* setting = settingOfKey(key);
     if (!setting)
         return "no setting of this version";
     PrefsRecord record = offer.record;

@@ -101,11 +101,15 @@ CFBundle::~CFBundle() {
 /// bundle's symbols and two bundles can't clash.
 bool CFBundle::load(std::string* error) {
     const CFRef<CFURL> executable = CFBundleCopyExecutableURL(this);
-    if (!loaded_ && executable)
-        loaded_ = dlopen(executable->path().c_str(), RTLD_NOW | RTLD_LOCAL) != nullptr;
-    if (!loaded_ && error)
+    if (!library_ && executable)
+        library_ = dlopen(executable->path().c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (!library_ && error)
         *error = executable ? dlerror() : path_ + ": no executable in Contents/Linux";
-    return loaded_;
+    return library_ != nullptr;
+}
+
+void* CFBundle::symbol(const char* name) const {
+    return library_ ? dlsym(library_, name) : nullptr;
 }
 
 CFRef<CFBundle> CFBundleCreate(const CFURL* bundleURL) {
@@ -165,4 +169,8 @@ CFRef<CFURL> CFBundleCopyResourceURL(const CFBundle* bundle, const CFString* nam
 
 bool CFBundleLoadExecutable(CFBundle* bundle, std::string* error) {
     return bundle->load(error);
+}
+
+void* CFBundleGetFunctionPointerForName(CFBundle* bundle, const CFString* name) {
+    return bundle->symbol(CFStringToUTF8(name).c_str());
 }

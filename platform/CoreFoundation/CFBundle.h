@@ -14,6 +14,9 @@ public:
 
     bool load(std::string* error);
 
+    /// Null before load().
+    void* symbol(const char* name) const;
+
     CFTypeID typeID() const override { return CFTypeID::Bundle; }
 
 private:
@@ -21,7 +24,7 @@ private:
 
     std::string path_;
     CFRef<const CFDictionary> info_;
-    bool loaded_ = false;
+    void* library_ = nullptr; ///< stays open
 };
 
 /// Null when the folder has no readable Contents/Info.plist with a dictionary at its root. A folder
@@ -58,3 +61,6 @@ CFRef<CFURL> CFBundleCopyResourceURL(const CFBundle* bundle, const CFString* nam
 /// reason in `*error` if that isn't null, when it can't be loaded. Loaded code stays in the
 /// process, also when the bundle object goes.
 bool CFBundleLoadExecutable(CFBundle* bundle, std::string* error);
+
+/// The address of a function of a loaded bundle that has C linkage; null when there is none.
+void* CFBundleGetFunctionPointerForName(CFBundle* bundle, const CFString* name);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "src/history.h"
 #include "src/prefpane/HotKeyEditor.h"
 #include "src/prefpane/HotKeyView.h"
 #include "src/prefpane/NumberController.h"
@@ -67,6 +68,15 @@ public:
     void changedScanMode(NSMatrix* sender);
     void changedLineColor(NSColorWell* sender);
 
+    // PreferenceWranglerHistory.cpp: steps that can be undone, and changes of many settings at once
+
+    /// The visit's history begins with the record as it is.
+    void beginHistory();
+    /// Makes those settings the record's, as one change of what differs.
+    void adopt(const SettingSet& settings, const PrefsRecord& record);
+    void undo(NSButton* sender);
+    void redo(NSButton* sender);
+
     // HotKeyEditor: hot keys
 
     // During a capture; they do nothing outside of one.
@@ -129,6 +139,10 @@ public:
     void setCustomScanArea(NSButton* sender);
 
 private:
+    void noteStep();
+    /// After fields were set from elsewhere. A record that is as stored needs no saving any more.
+    void showAndReport(ChangeMask changes);
+
     // PreferenceWranglerSettings.cpp: what the table of settings says of numbers and check boxes
 
     template <std::size_t Row>
@@ -155,6 +169,7 @@ private:
     NSMatrix* triggerOnReleaseRadios_ = nullptr;
     NSMatrix* useScanAreaRadios_ = nullptr;
 
+    History history_{prefs};
     HotKeyEditor hotKeys_;
     PaletteEditor palette_{*this};
     PointerChooser pointers_{*this};

@@ -36,6 +36,7 @@ void PreferenceWrangler::changed(ChangeMask changes) {
     updateUIForChanges(changes);
     prefsWereChanged(changes & kChangeOnOff ? &prefs.on : nullptr);
     daemonSendChanges(changes, true);
+    noteStep();
 }
 
 void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {
@@ -71,6 +72,7 @@ void PreferenceWrangler::setMasterOnOff(bool on) {
     if ((prefs.on != 0) != on) {
         prefs.on = on;
         prefsWereChanged();
+        history_.follow(prefs);
     }
     updateMasterOnOff();
 }

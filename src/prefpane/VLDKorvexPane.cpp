@@ -2,6 +2,7 @@
 
 #include "platform/HIToolbox/AppleHelp.h"
 #include "src/AXReq/axreq.h"
+#include "src/openwindow.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/PreferenceWrangler.h"
 #include "src/prefpane/palutil.h"
@@ -27,13 +28,17 @@ void VLDKorvexPane::mainViewDidLoad() {
 }
 
 void VLDKorvexPane::willSelect() {
-    const auto agent = CFBundleCopyAuxiliaryExecutableURL(bundle(), CFSTR("Korvex Agent.app"));
+    const auto agent = CFBundleCopyAuxiliaryExecutableURL(bundle(), CFSTR(kAgentApplicationName));
     const auto path = agent ? CFURLCopyFileSystemPath(agent.get()) : CFRef<CFString>();
     daemonSetup(path.get());
     palutilSetup();
     prefsSetup();
     preferenceWrangler_->setup();
     preferenceWrangler_->loadValues();
+    preferenceWrangler_->beginHistory();
+    openWindowSetup([](const SettingSet& settings, const PrefsRecord& record) {
+        theWrangler->adopt(settings, record);
+    });
 }
 
 void VLDKorvexPane::didSelect() {
@@ -45,6 +50,7 @@ void VLDKorvexPane::didSelect() {
 }
 
 void VLDKorvexPane::didUnselect() {
+    openWindowCleanup();
     axReqCancel();
     ptrmanCleanup();
     palutilCleanup();

@@ -1,0 +1,48 @@
+#include "src/commands/command.h"
+#include "src/commands/store.h"
+#include "src/defaults.h"
+#include "src/settingcheck.h"
+
+namespace {
+
+std::size_t indexOf(const Setting* setting) {
+    return static_cast<std::size_t>(setting - kSettings.data());
+}
+
+int change(const SettingSet& settings, const PrefsRecord& record) {
+    const std::string fault = changeSettings(settings, record);
+    return fault.empty() ? int{kCommandDone} : commandFailed(fault);
+}
+
+} // namespace
+
+int runSet(const CommandLine& line) {
+    if (line.operands.size() % 2)
+        return commandFailed("every key needs a value");
+    PrefsRecord record = currentSettings();
+    SettingSet settings;
+    for (std::size_t i = 0; i < line.operands.size(); i += 2) {
+        const Setting* setting = settingOfKey(line.operands[i]);
+        if (!setting)
+            return commandFailed("there is no setting \"" + line.operands[i] + "\"");
+        const std::string fault = setFromWords(*setting, line.operands[i + 1], record);
+        if (!fault.empty())
+            return commandFailed(line.operands[i] + ": " + fault);
+        settings[indexOf(setting)] = true;
+    }
+    return change(settings, record);
+}
+
+int runReset(const CommandLine& line) {
+    SettingSet settings;
+    for (const std::string& key : line.operands) {
+        const Setting* setting = settingOfKey(key);
+        if (key == "all")
+            settings.set();
+        else if (!setting)
+            return commandFailed("there is no setting \"" + key + "\"");
+        else
+            settings[indexOf(setting)] = true;
+    }
+    return change(settings, defaultRecord());
+}

@@ -1,0 +1,112 @@
+#include "src/commands/command.h"
+#include "src/commands/json.h"
+#include "src/commands/store.h"
+#include "src/profiles.h"
+#include "src/settingwords.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+
+namespace {
+
+/// Says what an offer would change and what it has that can't be taken.
+void printOffer(const SettingsOffer& offer, const PrefsRecord& now) {
+    const SettingSet changed = differences(now, offer.record);
+    for (std::size_t i = 0; i < kSettings.size(); ++i)
+        if (changed[i])
+            std::printf("%s\n", changeText(kSettings[i], now, offer.record, " to ").c_str());
+    if (changed.none())
+        std::puts("Nothing differs from the settings as they are.");
+    for (const auto& [key, reason] : offer.refused)
+        std::fprintf(stderr, "Left out: %s: %s\n", key.c_str(), reason.c_str());
+}
+
+int take(const SettingsOffer& offer) {
+    const std::string fault = changeSettings(offer.settings, offer.record);
+    return fault.empty() ? int{kCommandDone} : commandFailed(fault);
+}
+
+int done(const std::string& fault) {
+    return fault.empty() ? int{kCommandDone} : commandFailed(fault);
+}
+
+int listProfiles(const CommandLine& line) {
+    const std::string current = currentProfile();
+    std::string items;
+    for (const std::string& name : profileNames()) {
+        const bool isCurrent = name == current;
+        if (line.json)
+            items += (items.empty() ? "" : ",\n ") +
+                     JsonObject().add("name", name).add("inUse", isCurrent ? "yes" : "no").text();
+        else
+            std::printf("%s%s\n", name.c_str(), isCurrent ? " (in use)" : "");
+    }
+    if (line.json)
+        std::printf("[%s]\n", items.c_str());
+    return kCommandDone;
+}
+
+int useProfile(const std::string& name) {
+    const PrefsRecord now = currentSettings();
+    const SettingsOffer offer = readProfile(name, now);
+    if (!offer.error.empty())
+        return commandFailed(offer.error);
+    printOffer(offer, now);
+    const int result = take(offer);
+    if (result == kCommandDone)
+        setCurrentProfile(name);
+    return result;
+}
+
+int saveCurrent(const std::string& name) {
+    const std::string fault = saveProfile(name, currentSettings());
+    if (fault.empty())
+        setCurrentProfile(name);
+    return done(fault);
+}
+
+} // namespace
+
+int runExport(const CommandLine& line) {
+    const std::string& path = line.operands[0];
+    const PrefsRecord now = currentSettings();
+    if (path == "-") {
+        std::fputs(settingsDocument(SettingSet().set(), now).c_str(), stdout);
+        return kCommandDone;
+    }
+    const int error = writeSettingsFile(std::filesystem::absolute(path), SettingSet().set(), now);
+    return error ? commandFailed(path + ": " + std::strerror(error)) : int{kCommandDone};
+}
+
+int runImport(const CommandLine& line) {
+    const PrefsRecord now = currentSettings();
+    const SettingsOffer offer = readSettingsFile(line.operands[0], now);
+    if (!offer.error.empty())
+        return commandFailed(line.operands[0] + ": " + offer.error);
+    printOffer(offer, now);
+    if (line.yes)
+        return take(offer);
+    std::puts("Nothing was changed. With --yes it is.");
+    return kCommandDone;
+}
+
+int runProfile(const CommandLine& line) {
+    const std::string& verb = line.operands[0];
+    const std::size_t count = line.operands.size();
+    if (verb == "list" && count == 1)
+        return listProfiles(line);
+    if (verb == "use" && count == 2)
+        return useProfile(line.operands[1]);
+    if (verb == "save" && count == 2)
+        return saveCurrent(line.operands[1]);
+    if (verb == "rename" && count == 3)
+        return done(renameProfile(line.operands[1], line.operands[2]));
+    if (verb == "delete" && count == 2)
+        return done(deleteProfile(line.operands[1]));
+    std::fputs("korvex-preferences: profile list, use NAME, save NAME, rename NAME NEW or "
+               "delete NAME\n",
+               stderr);
+    return kCommandMisused;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "src/commands/commands.h"
+
+#include <string>
+#include <vector>
+
+/// What follows a command's name on the command line.
+struct CommandLine {
+    std::vector<std::string> operands;
+    bool json = false; ///< --json: for programs
+    bool yes = false;  ///< --yes: don't ask
+};
+
+struct Command {
+    const char* name;
+    const char* operands; ///< as the help shows them
+    const char* does;     ///< in a sentence
+    int (*run)(const CommandLine& line);
+    std::size_t fewest = 0, most = 0; ///< operands; most 0: any number from `fewest` on
+};
+
+/// In the order of the help.
+std::span<const Command> commands();
+
+/// Prints "korvex-preferences: message" to standard error, and returns kCommandFailed.
+int commandFailed(const std::string& message);
+
+// ListCommands.cpp
+int runList(const CommandLine& line);
+int runGet(const CommandLine& line);
+
+// ChangeCommands.cpp
+int runSet(const CommandLine& line);
+int runReset(const CommandLine& line);
+
+// FileCommands.cpp
+int runExport(const CommandLine& line);
+int runImport(const CommandLine& line);
+int runProfile(const CommandLine& line);
+
+// Manual.cpp: both are made from the tables of commands and settings
+int runCompletion(const CommandLine& line);
+int runManual(const CommandLine& line);

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// An object of texts and numbers, as a text in JSON (RFC 8259).
+class JsonObject {
+public:
+    JsonObject& add(std::string_view name, std::string_view text);
+    JsonObject& add(std::string_view name, double number); ///< null when it isn't finite
+
+    std::string text() const { return "{" + members_ + "}"; }
+
+private:
+    JsonObject& addRaw(std::string_view name, const std::string& value);
+
+    std::string members_;
+};

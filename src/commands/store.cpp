@@ -1,0 +1,49 @@
+#include "src/commands/store.h"
+
+#include "platform/CoreFoundation/PreferencesOutcome.h"
+#include "src/login/launch.h"
+#include "src/openwindow.h"
+#include "src/prefpane/Daemon.h"
+
+#include <cstring>
+
+namespace {
+
+std::string savingFault() {
+    const PreferencesOutcome outcome = preferencesSaveOutcome(kAgentBundleID);
+    return "can't store the settings in " + outcome.path +
+           (outcome.error ? std::string(": ") + std::strerror(outcome.error) : "");
+}
+
+/// The window does this when it is open.
+void updateLoginItem() {
+    const CFBundle* pane = CFBundleGetBundleWithIdentifier(
+        CFSTR((std::string(kAgentBundleIDText) + ".PrefsPane").c_str()));
+    const auto agent =
+        pane ? CFBundleCopyAuxiliaryExecutableURL(pane, CFSTR(kAgentApplicationName)) : nullptr;
+    if (agent)
+        launchSetAppIsAutoLaunched(agent.get(), prefs.launchAtLogin != 0, false);
+}
+
+} // namespace
+
+PrefsRecord currentSettings() {
+    prefsSetup();
+    return prefs;
+}
+
+std::string changeSettings(const SettingSet& settings, const PrefsRecord& record) {
+    if (const auto fault = sendToWindow(settings, record))
+        return *fault;
+    prefsSetup();
+    const SettingSet changed = settings & differences(prefs, record);
+    copySettings(changed, record, prefs);
+    if (changed.none())
+        return {};
+    if (!savePrefs())
+        return savingFault();
+    if (changesOf(changed) & kChangeLaunch)
+        updateLoginItem();
+    daemonSendChanges(changesOf(changed), true);
+    return {};
+}

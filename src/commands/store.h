@@ -1,0 +1,15 @@
+#pragma once
+
+#include "src/differences.h"
+
+#include <string>
+
+// Where a command finds the settings and brings its changes: the open window, else the stored
+// settings and the running agent.
+
+/// The settings as they are now. In an open window a change may be newer than what is stored.
+PrefsRecord currentSettings();
+
+/// Makes the settings those of the record and reports what differs. Returns why that failed, in
+/// words; empty when it is done.
+std::string changeSettings(const SettingSet& settings, const PrefsRecord& record);

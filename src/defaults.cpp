@@ -1,0 +1,14 @@
+#include "src/defaults.h"
+
+#include "platform/CoreFoundation/CFPreferences.h"
+#include "src/settings.h"
+
+PrefsRecord defaultRecord() {
+    PrefsRecord record;
+    for (const Setting& setting : kSettings)
+        setting.form->read(CFPreferencesCopyValue(CFSTR(setting.key), kAgentBundleID,
+                                                  kCFPreferencesAnyUser, kCFPreferencesAnyHost)
+                               .get(),
+                           setting.in(record));
+    return record;
+}

@@ -1,0 +1,84 @@
+"""The commands, against no window and against an open one, in a fresh home on a private bus."""
+
+import json
+import os
+import subprocess
+import sys
+import time
+
+HOST, LOG = sys.argv[1], os.path.expanduser("~/agent.log")
+ENVIRONMENT = dict(os.environ, KORVEX_AGENT_LOG=LOG)
+ENVIRONMENT.pop("DISPLAY", None)
+
+
+def run(*arguments, status=0):
+    result = subprocess.run([HOST, *arguments], env=ENVIRONMENT, capture_output=True, text=True,
+                            timeout=20)
+    assert result.returncode == status, (arguments, result)
+    return result.stdout + result.stderr
+
+
+def expect(text, *arguments, status=0):
+    output = run(*arguments, status=status)
+    assert text in output, (arguments, output)
+
+
+def changes():
+    """What the agent was sent: the mask and the line scan time of each record."""
+    lines = [json.loads(line) for line in open(LOG)] if os.path.exists(LOG) else []
+    return [line["mask"] for line in lines if line["event"] == "SAPr"]
+
+
+def wait_for(condition):
+    end = time.monotonic() + 10
+    while not condition():
+        assert time.monotonic() < end
+        time.sleep(0.02)
+
+
+def without_a_window():
+    run("set", "scanner.lineScanTime", "12.5", "scanner.scanMode", "2")
+    expect('"value": 12.5', "get", "--json", "scanner.lineScanTime")
+    expect("outside 1 to 60 seconds", "set", "soundLevel", "7", "scanner.lineScanTime", "61",
+           status=1)
+    expect("50", "get", "soundLevel")  # of several changes none was made
+    expect("no setting", "get", "nonsense", status=1)
+    expect("no command", "nonsense", status=2)
+    assert len(json.loads(run("list", "--json"))) == 40
+    run("profile", "save", "Tired")
+    run("reset", "all")
+    expect("10.0 sec", "get", "scanner.lineScanTime")
+    expect("Line scan time: 10.0 to 12.5 sec", "profile", "use", "Tired")
+    run("export", "all.plist")
+    run("reset", "scanner.lineScanTime")
+    with open("all.plist") as file:
+        text = file.read().replace("<key>on<", "<key>off<")
+    with open("all.plist", "w") as file:
+        file.write(text)
+    expect("Left out: off: no setting of this version", "import", "all.plist")
+    expect("10.0 sec", "get", "scanner.lineScanTime")
+    run("import", "--yes", "all.plist")
+    expect("12.5 sec", "get", "scanner.lineScanTime")
+    run("set", "launchAtLogin", "off")
+    run("manual")
+    subprocess.run(["bash", "-n"], input=run("completion"), text=True, check=True)
+
+
+def with_an_open_window():
+    window = subprocess.Popen([HOST], env=dict(ENVIRONMENT, QT_QPA_PLATFORM="offscreen"))
+    try:
+        wait_for(lambda: os.path.exists(LOG))
+        before = run("get", "soundLevel")
+        wait_for(lambda: not run("set", "soundLevel", "77") and 0x10 in changes())
+        run("profile", "use", "Tired")
+        run("set", "soundLevel", "78", "palette.borderGap", "9")
+        wait_for(lambda: 0x18 in changes())
+        window.terminate()
+        assert window.wait(10) == 0
+        assert before != run("get", "soundLevel") == "78\n"
+    finally:
+        window.kill()
+
+
+without_a_window()
+with_an_open_window()
