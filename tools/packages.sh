@@ -4,10 +4,10 @@
 build_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgl-dev libopengl-dev
-    libplist-dev libicns-dev libqt6svg6 libxcb1-dev
+    libicns-dev libqt6svg6 libxcb1-dev
     librsvg2-bin icnsutils python3
     libgtest-dev libgmock-dev libbenchmark-dev
-    dbus libglib2.0-bin desktop-file-utils appstream
+    dbus libglib2.0-bin desktop-file-utils appstream locales
 )
 # A virtual display with a window manager, and what reads the screen and types on the keyboard.
 tour_packages=(

@@ -47,7 +47,7 @@ enum class CFTypeID : int {
     Data,
     Array,
     Dictionary,
-    Date,
+    Carried,
     URL,
     Bundle,
     DataProvider,

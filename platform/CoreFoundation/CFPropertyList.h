@@ -10,10 +10,11 @@
 /// The largest property list that is read or written, in bytes, and the deepest nesting of
 /// containers.
 constexpr std::size_t kCFPropertyListMaxSize = 1u << 20;
-constexpr std::size_t kCFPropertyListMaxDepth = 16;
+constexpr std::size_t kCFPropertyListMaxDepth = 128;
 
 /// Reads a property list, XML or binary. Null when the data isn't exactly one whole, valid property
-/// list, or exceeds the limits above: data from outside never reaches the parser unchecked.
+/// list, or exceeds the limits above. A date, or a number out of range, is carried for the next
+/// writing, but is no CFNumber.
 CFRef<const CFType> CFPropertyListCreateFromXMLData(const CFData* data);
 
 /// The list as an XML document, in memory. Empty when it holds something that a property list
@@ -22,5 +23,5 @@ CFRef<const CFType> CFPropertyListCreateFromXMLData(const CFData* data);
 std::string CFPropertyListToXML(const CFType* propertyList);
 
 /// An immutable copy, containers and texts included, that later changes of the original don't
-/// reach. Null when the value holds something that a property list can't.
+/// reach. Null when another property list can't hold the value.
 CFRef<const CFType> CFPropertyListCreateDeepCopy(const CFType* propertyList);

@@ -91,11 +91,5 @@ CFStringEncoding CFStringGetSystemEncoding() {
 }
 
 std::string CFStringToUTF8(const CFString* string) {
-    std::string bytes;
-    std::u16string_view rest = string->text();
-    while (!rest.empty()) {
-        const char32_t c = takeUTF16(rest);
-        appendUTF8(bytes, c == kInvalidCharacter ? 0xFFFD : c);
-    }
-    return bytes;
+    return encodeLossyUTF8(string->text());
 }

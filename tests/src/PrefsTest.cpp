@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 
+#include <clocale>
 #include <cstring>
 #include <gmock/gmock.h>
 #include <regex>
@@ -74,7 +75,18 @@ TEST(PrefsTest, AFreshRecordIsTheAgentsByteImageAndStoredInEveryForm) {
     EXPECT_EQ(storedTexts(), kFactoryTexts);
 }
 
+/// Numbers of this process have a comma from now on.
+void useCommas() {
+    const fs::path folder = makeSandboxFolder("locales");
+    const std::string make = "localedef -f UTF-8 -i de_DE " + (folder / "comma").string();
+    ASSERT_EQ(std::system(make.c_str()), 0);
+    setenv("LOCPATH", folder.c_str(), 1);
+    ASSERT_TRUE(std::setlocale(LC_ALL, "comma"));
+    ASSERT_EQ(std::stod("2,5"), 2.5);
+}
+
 TEST(PrefsTest, WhatIsSavedIsLoadedAgain) {
+    ASSERT_NO_FATAL_FAILURE(useCommas());
     PrefsRecord other;
     other.on = 0;
     other.useScanArea = 1;

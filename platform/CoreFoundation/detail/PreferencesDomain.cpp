@@ -3,6 +3,7 @@
 #include "platform/CoreFoundation/detail/FileLock.h"
 #include "platform/CoreFoundation/detail/FileReading.h"
 #include "platform/CoreFoundation/detail/FileReplacement.h"
+#include "platform/CoreFoundation/detail/TextEncoding.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -16,15 +17,6 @@ unsigned fileMode(PreferencesDomain::Readers readers) {
 
 unsigned folderMode(PreferencesDomain::Readers readers) {
     return readers == PreferencesDomain::Readers::ThisUser ? 0700 : 0755;
-}
-
-/// The value as it can be stored under the key, or null.
-CFRef<const CFType> storableValue(const CFString* key, const CFType* value) {
-    const auto entry = CFDictionaryCreateMutable();
-    CFDictionarySetValue(entry.get(), key, value);
-    const auto copy = CFPropertyListCreateDeepCopy(entry.get());
-    const auto* stored = dynamicCFCast<CFDictionary>(copy.get());
-    return CFRef<const CFType>::retain(stored ? CFDictionaryGetValue(stored, key) : nullptr);
 }
 
 FileTrouble troubleOf(int error) {
@@ -83,8 +75,8 @@ const CFType* PreferencesDomain::value(const CFString* key) const {
 }
 
 void PreferencesDomain::setValue(const CFString* key, const CFType* newValue) {
-    auto storable = newValue ? storableValue(key, newValue) : nullptr;
-    if (storable || !newValue)
+    auto storable = newValue ? CFPropertyListCreateDeepCopy(newValue) : nullptr;
+    if ((storable || !newValue) && isXMLText(key->text()))
         changes_.insert_or_assign(key->text(), Change{std::move(storable), false, nullptr});
 }
 

@@ -1,7 +1,9 @@
 #include "platform/CoreFoundation/detail/TextEncoding.h"
 
+#include <QStringDecoder>
+#include <QStringEncoder>
+
 #include <algorithm>
-#include <type_traits>
 
 namespace {
 
@@ -27,52 +29,21 @@ constexpr std::u16string_view kMacRomanUpperHalf =
     u"\u00AF\u02D8\u02D9\u02DA\u00B8\u02DD\u02DB\u02C7";
 static_assert(kMacRomanUpperHalf.size() == 128);
 
-constexpr unsigned char byteAt(std::string_view bytes, std::size_t index) {
-    return static_cast<unsigned char>(bytes[index]);
-}
-
-void appendUTF16(std::u16string& text, char32_t c) {
-    if (c < 0x10000) {
-        text += static_cast<char16_t>(c);
-        return;
-    }
-    text += static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10));
-    text += static_cast<char16_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
-}
-
-/// Moves the run of ASCII characters at the front of `from` to the end of `to`: nearly all text
-/// here is that, and needs no look at each character's length.
-template <class From, class To>
-void takeASCII(From& from, To& to) {
-    const auto end = std::find_if(from.begin(), from.end(), [](auto c) {
-        return static_cast<std::make_unsigned_t<decltype(c)>>(c) >= 0x80;
-    });
-    to.append(from.begin(), end);
-    from.remove_prefix(static_cast<std::size_t>(end - from.begin()));
-}
-
 std::optional<std::u16string> decodeUTF8(std::string_view bytes) {
-    std::u16string text;
-    text.reserve(bytes.size());
-    for (takeASCII(bytes, text); !bytes.empty(); takeASCII(bytes, text)) {
-        const char32_t c = takeUTF8(bytes);
-        if (c == kInvalidCharacter)
-            return std::nullopt;
-        appendUTF16(text, c);
-    }
-    return text;
+    using Flag = QStringDecoder::Flag;
+    QStringDecoder decoder(QStringDecoder::Utf8, Flag::Stateless | Flag::ConvertInitialBom);
+    const QString text = decoder(QByteArrayView(bytes));
+    if (decoder.hasError())
+        return std::nullopt;
+    return text.toStdU16String();
 }
 
-std::optional<std::string> encodeUTF8(std::u16string_view text) {
-    std::string bytes;
-    bytes.reserve(text.size());
-    for (takeASCII(text, bytes); !text.empty(); takeASCII(text, bytes)) {
-        const char32_t c = takeUTF16(text);
-        if (c == kInvalidCharacter)
-            return std::nullopt;
-        appendUTF8(bytes, c);
-    }
-    return bytes;
+/// With U+FFFD for an unpaired surrogate, which is the encoder's error.
+std::string encodeUTF8(std::u16string_view text, bool& isValid) {
+    QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
+    const QByteArray bytes = encoder(QStringView(text));
+    isValid = !encoder.hasError();
+    return bytes.toStdString();
 }
 
 /// ASCII when `upperHalf` is empty.
@@ -102,49 +73,10 @@ std::optional<std::string> encodeBytes(std::u16string_view text, std::u16string_
 
 } // namespace
 
-char32_t takeUTF8(std::string_view& bytes) {
-    const unsigned char first = byteAt(bytes, 0);
-    if (first < 0x80) {
-        bytes.remove_prefix(1);
-        return first;
-    }
-    const std::size_t length = first < 0xC2 ? 0 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
-    if (length == 0 || bytes.size() < length)
-        return kInvalidCharacter;
-    char32_t c = first & (0x7Fu >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byteAt(bytes, i) & 0xC0) != 0x80)
-            return kInvalidCharacter;
-        c = (c << 6) | (byteAt(bytes, i) & 0x3Fu);
-    }
-    const bool overlong = (length == 3 && c < 0x800) || (length == 4 && c < 0x10000);
-    if (overlong || (c >= 0xD800 && c < 0xE000) || c > 0x10FFFF)
-        return kInvalidCharacter;
-    bytes.remove_prefix(length);
-    return c;
-}
-
-char32_t takeUTF16(std::u16string_view& units) {
-    const char32_t first = units[0];
-    const bool high = first >= 0xD800 && first < 0xDC00;
-    if (high && units.size() > 1 && units[1] >= 0xDC00 && units[1] < 0xE000) {
-        const char32_t c = 0x10000 + ((first - 0xD800) << 10) + (units[1] - 0xDC00u);
-        units.remove_prefix(2);
-        return c;
-    }
-    units.remove_prefix(1);
-    return first >= 0xD800 && first < 0xE000 ? kInvalidCharacter : first;
-}
-
-void appendUTF8(std::string& bytes, char32_t c) {
-    if (c < 0x80) {
-        bytes += static_cast<char>(c);
-        return;
-    }
-    const int more = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-    bytes += static_cast<char>((0xFF00u >> (more + 1) & 0xFFu) | c >> (6 * more));
-    for (int i = more - 1; i >= 0; --i)
-        bytes += static_cast<char>(0x80u | (c >> (6 * i) & 0x3Fu));
+bool isXMLText(std::u16string_view text) {
+    return QStringView(text).isValidUtf16() && std::ranges::all_of(text, [](char16_t c) {
+               return (c >= 0x20 && c < 0xFFFE) || c == '\t' || c == '\n' || c == '\r';
+           });
 }
 
 std::optional<std::u16string> decodeText(std::string_view bytes, CFStringEncoding encoding) {
@@ -165,8 +97,16 @@ std::optional<std::string> encodeText(std::u16string_view text, CFStringEncoding
         return encodeBytes(text, kMacRomanUpperHalf);
     case kCFStringEncodingASCII:
         return encodeBytes(text, {});
-    case kCFStringEncodingUTF8:
-        return encodeUTF8(text);
+    case kCFStringEncodingUTF8: {
+        bool isValid = false;
+        std::string bytes = encodeUTF8(text, isValid);
+        return isValid ? std::optional(std::move(bytes)) : std::nullopt;
+    }
     }
     return std::nullopt;
+}
+
+std::string encodeLossyUTF8(std::u16string_view text) {
+    bool isValid = false;
+    return encodeUTF8(text, isValid);
 }

@@ -1,0 +1,139 @@
+#include "platform/CoreFoundation/CFPropertyList.h"
+#include "platform/CoreFoundation/detail/CarriedValue.h"
+#include "platform/CoreFoundation/detail/PropertyListXML.h"
+#include "platform/CoreFoundation/detail/TextEncoding.h"
+
+#include <QByteArray>
+
+#include <charconv>
+#include <cmath>
+#include <iterator>
+
+namespace {
+
+constexpr std::string_view kStart = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                                    "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+                                    "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+                                    "<plist version=\"1.0\">\n";
+constexpr std::string_view kEnd = "</plist>\n";
+
+class Writer {
+public:
+    explicit Writer(const CFType* root) : document_(kStart) {
+        write(root, 0);
+        document_ += kEnd;
+    }
+
+    std::string take() { return isSound_ ? std::move(document_) : std::string(); }
+
+private:
+    /// A line of its own, `depth` containers deep.
+    void line(std::size_t depth, std::string_view text) {
+        document_.append(depth, '\t').append(text) += '\n';
+    }
+
+    void element(std::size_t depth, const std::string& name, std::string_view content) {
+        line(depth, '<' + name + '>' + std::string(content) + "</" + name + '>');
+    }
+
+    void text(std::size_t depth, const std::string& name, std::u16string_view text) {
+        isSound_ = isSound_ && isXMLText(text);
+        std::string content;
+        for (const char c : encodeText(text, kCFStringEncodingUTF8).value_or("")) {
+            switch (c) {
+            case '&':
+                content += "&amp;";
+                break;
+            case '<':
+                content += "&lt;";
+                break;
+            case '>':
+                content += "&gt;";
+                break;
+            case '\r': // a parser takes a plain one for a line feed
+                content += "&#13;";
+                break;
+            default:
+                content += c;
+            }
+        }
+        element(depth, name, content);
+    }
+
+    void number(std::size_t depth, const CFNumber& number) {
+        if (!number.isFloat())
+            return element(depth, "integer", std::to_string(number.integerValue()));
+        const double value = number.doubleValue();
+        if (std::isnan(value) || std::isinf(value))
+            return element(depth, "real",
+                           std::isnan(value) ? "nan"
+                           : value < 0       ? "-infinity"
+                                             : "+infinity");
+        char digits[32];
+        const auto result = std::to_chars(std::begin(digits), std::end(digits), value);
+        element(depth, "real", {digits, result.ptr});
+    }
+
+    template <class Items, class WriteItem>
+    void container(std::size_t depth, const std::string& name, const Items& items,
+                   WriteItem writeItem) {
+        isSound_ = isSound_ && depth < kCFPropertyListMaxDepth;
+        if (!isSound_ || items.empty())
+            return line(depth, '<' + name + "/>");
+        line(depth, '<' + name + '>');
+        for (const auto& item : items)
+            writeItem(item);
+        line(depth, "</" + name + '>');
+    }
+
+    void array(std::size_t depth, const CFArray& array) {
+        container(depth, "array", array.items(),
+                  [&](const auto& item) { write(item.get(), depth + 1); });
+    }
+
+    void dictionary(std::size_t depth, const CFDictionary& dictionary) {
+        container(depth, "dict", dictionary.items(), [&](const auto& item) {
+            text(depth + 1, "key", item.first);
+            write(item.second.get(), depth + 1);
+        });
+    }
+
+    void data(std::size_t depth, const CFData& data) {
+        const auto* bytes = reinterpret_cast<const char*>(data.bytes().data());
+        const auto raw = QByteArray::fromRawData(bytes, std::ssize(data.bytes()));
+        element(depth, "data", raw.toBase64().toStdString());
+    }
+
+    void write(const CFType* value, std::size_t depth) {
+        switch (value ? value->typeID() : CFTypeID::URL) {
+        case CFTypeID::String:
+            return text(depth, "string", static_cast<const CFString*>(value)->text());
+        case CFTypeID::Number:
+            return number(depth, *static_cast<const CFNumber*>(value));
+        case CFTypeID::Bool:
+            return line(depth,
+                        static_cast<const CFBoolean*>(value)->value() ? "<true/>" : "<false/>");
+        case CFTypeID::Data:
+            return data(depth, *static_cast<const CFData*>(value));
+        case CFTypeID::Carried: {
+            const auto* carried = static_cast<const CarriedValue*>(value);
+            return element(depth, carried->element(), carried->text());
+        }
+        case CFTypeID::Array:
+            return array(depth, *static_cast<const CFArray*>(value));
+        case CFTypeID::Dictionary:
+            return dictionary(depth, *static_cast<const CFDictionary*>(value));
+        default:
+            isSound_ = false;
+        }
+    }
+
+    std::string document_;
+    bool isSound_ = true;
+};
+
+} // namespace
+
+std::string writeXMLPropertyList(const CFType* value) {
+    return Writer(value).take();
+}
