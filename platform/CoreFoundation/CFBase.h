@@ -74,8 +74,6 @@ public:
 
     virtual CFHashCode hash() const { return std::hash<const CFType*>()(this); }
 
-    long retainCount() const { return count_; }
-
 protected:
     CFType() = default;
     virtual ~CFType() = default;

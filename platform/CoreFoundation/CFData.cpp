@@ -19,10 +19,6 @@ CFHashCode CFData::hash() const {
     return std::hash<std::string_view>()({reinterpret_cast<const char*>(bytes_.get()), length_});
 }
 
-CFTypeID CFDataGetTypeID() {
-    return CFTypeID::Data;
-}
-
 CFRef<CFData> CFDataCreate(const UInt8* bytes, CFIndex length) {
     return CFRef<CFData>::adopt(new CFData(std::vector<UInt8>(bytes, bytes + length)));
 }
@@ -31,12 +27,4 @@ CFRef<CFData> CFDataCreateWithBytesNoCopy(CFMallocBuffer bytes, CFIndex length) 
     if (!bytes || length < 0)
         return nullptr;
     return CFRef<CFData>::adopt(new CFData(std::move(bytes), static_cast<std::size_t>(length)));
-}
-
-const UInt8* CFDataGetBytePtr(const CFData* data) {
-    return data->bytes().data();
-}
-
-CFIndex CFDataGetLength(const CFData* data) {
-    return static_cast<CFIndex>(data->bytes().size());
 }

@@ -32,12 +32,8 @@ private:
     std::size_t length_;
 };
 
-CFTypeID CFDataGetTypeID();
 CFRef<CFData> CFDataCreate(const UInt8* bytes, CFIndex length);
 
 /// Takes over a buffer of at least `length` bytes, which is freed with the object. Null when the
 /// buffer is, or for a negative length; the buffer is freed then as well.
 CFRef<CFData> CFDataCreateWithBytesNoCopy(CFMallocBuffer bytes, CFIndex length);
-
-const UInt8* CFDataGetBytePtr(const CFData* data);
-CFIndex CFDataGetLength(const CFData* data);

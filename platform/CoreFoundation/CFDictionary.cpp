@@ -18,10 +18,6 @@ CFRef<CFMutableDictionary> CFDictionaryCreateMutable() {
     return CFRef<CFMutableDictionary>::adopt(new CFMutableDictionary(CFDictionary::Items()));
 }
 
-CFRef<CFMutableDictionary> CFDictionaryCreateMutableCopy(const CFDictionary* dictionary) {
-    return CFRef<CFMutableDictionary>::adopt(new CFMutableDictionary(dictionary->items()));
-}
-
 const CFType* CFDictionaryGetValue(const CFDictionary* dictionary, const CFString* key) {
     const auto found = dictionary->items().find(key->text());
     return found == dictionary->items().end() ? nullptr : found->second.get();

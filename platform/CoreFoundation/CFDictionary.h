@@ -33,7 +33,6 @@ public:
 
 CFTypeID CFDictionaryGetTypeID();
 CFRef<CFMutableDictionary> CFDictionaryCreateMutable();
-CFRef<CFMutableDictionary> CFDictionaryCreateMutableCopy(const CFDictionary* dictionary);
 /// Borrowed; null when the key is absent.
 const CFType* CFDictionaryGetValue(const CFDictionary* dictionary, const CFString* key);
 void CFDictionarySetValue(CFMutableDictionary* dictionary, const CFString* key,

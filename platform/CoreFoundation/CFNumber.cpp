@@ -52,10 +52,6 @@ CFHashCode CFNumber::hash() const {
     return std::isnan(value) ? 0 : std::hash<double>()(value);
 }
 
-CFTypeID CFNumberGetTypeID() {
-    return CFTypeID::Number;
-}
-
 CFRef<CFNumber> CFNumberCreate(CFNumberType type, const void* value) {
     switch (type) {
     case kCFNumberSInt32Type:
@@ -71,10 +67,6 @@ CFRef<CFNumber> CFNumberCreate(CFNumberType type, const void* value) {
 
 bool CFBoolean::isEqual(const CFType& other) const {
     return value_ == static_cast<const CFBoolean&>(other).value_;
-}
-
-CFTypeID CFBooleanGetTypeID() {
-    return CFTypeID::Bool;
 }
 
 bool CFBooleanGetValue(const CFBoolean* boolean) {

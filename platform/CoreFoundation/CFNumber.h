@@ -27,7 +27,6 @@ private:
     std::variant<std::int64_t, double> value_;
 };
 
-CFTypeID CFNumberGetTypeID();
 CFRef<CFNumber> CFNumberCreate(CFNumberType type, const void* value);
 
 class CFBoolean final : public CFType {
@@ -46,7 +45,6 @@ private:
     bool value_;
 };
 
-CFTypeID CFBooleanGetTypeID();
 bool CFBooleanGetValue(const CFBoolean* boolean);
 
 /// The two booleans; each lives as long as the process.

@@ -21,10 +21,6 @@ void CFMutableString::append(std::u16string_view more) {
     text_ += more;
 }
 
-CFTypeID CFStringGetTypeID() {
-    return CFTypeID::String;
-}
-
 const CFString* CFSTR(const char* ascii) {
     using Strings = std::map<std::string, CFRef<const CFString>, std::less<>>;
     static Strings& strings = *new Strings; // outlives every static object that holds a constant

@@ -38,8 +38,6 @@ private:
     CFIndex maxLength_;
 };
 
-CFTypeID CFStringGetTypeID();
-
 /// The constant string of an ASCII literal: made once, lives as long as the process.
 const CFString* CFSTR(const char* ascii);
 

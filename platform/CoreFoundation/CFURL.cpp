@@ -22,10 +22,6 @@ CFHashCode CFURL::hash() const {
     return std::hash<std::string>()(path_);
 }
 
-CFTypeID CFURLGetTypeID() {
-    return CFTypeID::URL;
-}
-
 CFRef<CFURL> CFURLCreateWithFileSystemPath(const CFString* posixPath, bool isDirectory) {
     return CFURLCreateFromFileSystemRepresentation(CFStringToUTF8(posixPath).c_str(), isDirectory);
 }

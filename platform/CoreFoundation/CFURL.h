@@ -22,7 +22,6 @@ private:
     bool isDirectory_;
 };
 
-CFTypeID CFURLGetTypeID();
 /// A relative path is taken from the current folder. Null for an empty path.
 CFRef<CFURL> CFURLCreateWithFileSystemPath(const CFString* posixPath, bool isDirectory);
 CFRef<CFURL> CFURLCreateFromFileSystemRepresentation(const char* path, bool isDirectory);

@@ -1,11 +1,15 @@
 #include "platform/CoreFoundation/CFPropertyList.h"
+#include "platform/CoreServices/detail/DesktopEntry.h"
 #include "platform/IconServices/detail/IconFamily.h"
+#include "src/settings.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/TestIcons.h"
 
+#include <cstring>
 #include <gtest/gtest.h>
-
 #include <map>
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace {
 
@@ -35,10 +39,40 @@ void readIconFamily(std::string_view bytes) {
     }
 }
 
+void readDesktopFile(std::string_view bytes) {
+    const int file = memfd_create("entry", 0);
+    require(write(file, bytes.data(), bytes.size()) == std::ssize(bytes), "memory is a file");
+    const DesktopEntry entry = readDesktopEntry("/proc/self/fd/" + std::to_string(file));
+    close(file);
+    for (const auto& [key, value] : entry)
+        require(key.find_first_of("=\n") == key.npos && !key.ends_with(']'), "a key is a name");
+}
+
+/// The first byte chooses the setting; the others are its stored text.
+void readStoredText(std::string_view bytes) {
+    if (bytes.empty())
+        return;
+    const Setting& setting = kSettings[static_cast<UInt8>(bytes[0]) % kSettings.size()];
+    const std::string text(bytes.substr(1));
+    const auto stored = CFStringCreateWithCString(text.c_str(), kCFStringEncodingMacRoman);
+    PrefsRecord record, again;
+    setting.form->read(stored.get(), setting.in(record));
+    const auto written = setting.form->write(setting.in(record));
+    if (written && setting.form->read(written.get(), setting.in(again)))
+        require(CFEqual(setting.form->write(setting.in(again)).get(), written.get()),
+                "what is stored is read and stored the same");
+    std::memset(setting.in(record), 0, setting.size);
+    std::memset(setting.in(again), 0, setting.size);
+    require(std::memcmp(&record, &again, sizeof record) == 0, "no other field changes");
+}
+
 /// Each reads any bytes as a file of its kind and ends the process with a message when what it
 /// gives contradicts itself.
 const std::map<std::string, void (*)(std::string_view bytes)> kReaders = {
-    {"propertylist", readPropertyList}, {"iconfamily", readIconFamily}};
+    {"propertylist", readPropertyList},
+    {"iconfamily", readIconFamily},
+    {"desktopentry", readDesktopFile},
+    {"storedtext", readStoredText}};
 
 } // namespace
 

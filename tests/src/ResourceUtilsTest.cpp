@@ -67,7 +67,7 @@ TEST_F(ResourceUtilsTest, FilesAreReadFromAnOffsetOnOrNotAtAll) {
         EXPECT_EQ(handle ? GetHandleSize(handle) : -1, row.length) << row.name << row.offset;
     }
     EXPECT_EQ(countOpen(), openBefore) << "left open";
-    EXPECT_EQ(CFDataGetLength(fsGetFileContents(url(resources_ / "digits").get()).get()), 10);
+    EXPECT_EQ(fsGetFileContents(url(resources_ / "digits").get())->bytes().size(), 10u);
     EXPECT_FALSE(fsGetFileContents(url(resources_ / "huge").get()));
 }
 
