@@ -95,8 +95,9 @@ void StartedApplications::noteQuitRequest(const ProcessSerialNumber& psn) {
         return;
     const auto [pid, signature] = std::pair(asked->name.pid, asked->name.signature);
     if (!quitting_.contains(pid))
-        quitting_.emplace(pid, Quitting{signature, std::make_unique<ProcessEnd>(
-                                                       pid, [this, pid] { noteQuitEnd(pid); })});
+        quitting_.emplace(pid,
+                          Quitting{signature, std::make_unique<ProcessEnd>(
+                                                  pid, [this, pid = pid] { noteQuitEnd(pid); })});
     for (auto& [bundle, application] : applications_) {
         if (!isOf(application, pid, signature))
             continue;
