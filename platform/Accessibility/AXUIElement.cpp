@@ -17,10 +17,10 @@ const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
 
 constexpr int kPatience = 100; ///< with the first answer, in milliseconds
 
-QDBusMessage statusQuestion() {
+QDBusMessage statusQuestion(bool startsService) {
     auto question =
         QDBusMessage::createMethodCall(kService, kObject, kProperties, QStringLiteral("Get"));
-    question.setAutoStartService(false);
+    question.setAutoStartService(startsService);
     question.setArguments({QStringLiteral("org.a11y.Status"), QStringLiteral("IsEnabled")});
     return question;
 }
@@ -32,6 +32,10 @@ public:
 
     bool isOn() const { return isOn_; }
 
+    bool isKnown() const { return isKnown_; }
+
+    std::function<void()> listener;
+
 private:
     void askFirst();
     void ask();
@@ -40,6 +44,7 @@ private:
     QDBusServiceWatcher service_;
     QTimer changed_; ///< fires when anything has been announced, once for all of it
     bool isOn_ = false;
+    bool isKnown_ = false;
 };
 
 AccessibilitySwitch::AccessibilitySwitch(QObject* parent) : QObject(parent) {
@@ -56,14 +61,16 @@ AccessibilitySwitch::AccessibilitySwitch(QObject* parent) : QObject(parent) {
 }
 
 void AccessibilitySwitch::askFirst() {
-    const QDBusMessage reply = sessionBus().call(statusQuestion(), QDBus::Block, kPatience);
-    take(reply);
+    const QDBusMessage reply = sessionBus().call(statusQuestion(true), QDBus::Block, kPatience);
     if (QDBusError(reply).type() == QDBusError::NoReply)
-        ask(); // it may still wake up
+        ask(); // it is still starting, or may wake up
+    else
+        take(reply);
 }
 
 void AccessibilitySwitch::ask() {
-    auto* answer = new QDBusPendingCallWatcher(sessionBus().asyncCall(statusQuestion()), this);
+    const auto question = statusQuestion(!isKnown_);
+    auto* answer = new QDBusPendingCallWatcher(sessionBus().asyncCall(question), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         take(answer->reply());
         answer->deleteLater();
@@ -72,13 +79,28 @@ void AccessibilitySwitch::ask() {
 
 void AccessibilitySwitch::take(const QDBusMessage& reply) {
     isOn_ = QDBusPendingReply<QDBusVariant>(reply).value().variant().toBool();
+    isKnown_ = true;
+    if (listener)
+        listener();
+}
+
+AccessibilitySwitch& theSwitch() {
+    static QPointer<AccessibilitySwitch> only;
+    if (!only)
+        only = new AccessibilitySwitch(QCoreApplication::instance());
+    return *only;
 }
 
 } // namespace
 
 bool AXAPIEnabled() {
-    static QPointer<AccessibilitySwitch> theSwitch;
-    if (!theSwitch)
-        theSwitch = new AccessibilitySwitch(QCoreApplication::instance());
-    return theSwitch->isOn();
+    return theSwitch().isOn();
+}
+
+bool isAXAPIEnabledKnown() {
+    return theSwitch().isKnown();
+}
+
+void setAXAPIEnabledListener(std::function<void()> listener) {
+    theSwitch().listener = std::move(listener);
 }

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
+#include <set>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -42,36 +43,57 @@ struct EntryFile {
     timespec changed;
 };
 
-/// The folder's *.desktop files, the last changed one last. False when it can't be read.
-bool listEntryFiles(const std::string& folder, std::vector<EntryFile>& files) {
+std::string fileName(const std::string& path) {
+    return path.substr(path.rfind('/') + 1);
+}
+
+bool isAnythingAt(const std::string& path) {
     std::error_code error;
-    fs::directory_iterator each(folder, error);
-    for (; !error && each != fs::directory_iterator(); each.increment(error)) {
-        const std::string path = each->path();
-        if (path.ends_with(".desktop"))
-            files.push_back({path, changeTime(path)});
+    return fs::exists(fs::symlink_status(path, error));
+}
+
+/// The *.desktop files of the folders, the last changed one last; of one name, that of the first
+/// folder. False when a folder can't be read.
+bool listEntryFiles(const std::vector<std::string>& folders, std::vector<EntryFile>& files) {
+    std::error_code error;
+    std::set<std::string> names;
+    for (const std::string& folder : folders) {
+        fs::directory_iterator each(folder, error);
+        for (; !error && each != fs::directory_iterator(); each.increment(error)) {
+            const std::string path = each->path();
+            if (path.ends_with(".desktop") && names.insert(fileName(path)).second)
+                files.push_back({path, changeTime(path)});
+        }
+        if (error && error != std::errc::no_such_file_or_directory)
+            return false;
     }
     std::sort(files.begin(), files.end(), [](const EntryFile& a, const EntryFile& b) {
         if (isEarlier(a.changed, b.changed) || isEarlier(b.changed, a.changed))
             return isEarlier(a.changed, b.changed);
         return a.path < b.path;
     });
-    return !error || error == std::errc::no_such_file_or_directory;
-}
-
-std::string fileName(const std::string& path) {
-    return path.substr(path.rfind('/') + 1);
+    return true;
 }
 
 /// Whether an entry for the application may be written there: nothing is there, or what starts that
 /// very application, or what used to start one of its name and starts nothing any more.
 bool isFree(const std::string& path, const std::string& application) {
-    std::error_code error;
-    if (!fs::exists(fs::symlink_status(path, error)))
+    if (!isAnythingAt(path))
         return true;
     const auto entry = readAutostartEntry(path);
     return entry && (entry->application == application ||
-                     (!entry->isLive && fileName(entry->application) == fileName(application)));
+                     (!entry->isLive && isSameLoginApplication(entry->application, application)));
+}
+
+/// The path in the folder that the application's entry has unless another's is there.
+std::string ownPath(const std::string& folder, const std::string& identifier) {
+    return folder + '/' + identifier + ".desktop";
+}
+
+/// Whether the user has switched off the application's entry at that path.
+bool isSwitchedOff(const std::string& path, const std::string& application) {
+    const auto entry = readAutostartEntry(path);
+    return entry && entry->isSwitchedOff && isSameLoginApplication(entry->application, application);
 }
 
 /// A path in the folder for the application's entry; empty when all are taken.
@@ -111,7 +133,14 @@ std::string bundleText(const CFBundle* bundle, const char* key) {
 } // namespace
 
 std::string LSSharedFileList::folder() const {
-    return (isGlobal_ ? xdgSystemConfig() : xdgConfigHome()) + "/autostart";
+    return folders().front();
+}
+
+std::vector<std::string> LSSharedFileList::folders() const {
+    auto all = isGlobal_ ? xdgSystemConfigFolders() : std::vector{xdgConfigHome()};
+    for (std::string& folder : all)
+        folder += "/autostart";
+    return all;
 }
 
 CFRef<LSSharedFileList> LSSharedFileListCreate(const CFString* listType) {
@@ -128,7 +157,7 @@ OSStatus LSSharedFileListSetAuthorization(LSSharedFileList*, AuthorizationRef) {
 
 CFRef<CFArray> LSSharedFileListCopySnapshot(const LSSharedFileList* list, UInt32* seed) {
     std::vector<EntryFile> files;
-    if (!listEntryFiles(list->folder(), files))
+    if (!listEntryFiles(list->folders(), files))
         return nullptr;
     if (seed)
         *seed = 0;
@@ -153,8 +182,11 @@ OSStatus LSSharedFileListItemResolve(const LSSharedFileListItem* item, UInt32, C
 OSStatus LSSharedFileListItemRemove(LSSharedFileList* list, const LSSharedFileListItem* item) {
     const std::string& path = item->file();
     const std::string name = fileName(path);
-    std::error_code error;
-    if (!list->isGlobal() && fs::exists(xdgSystemConfig() + "/autostart/" + name, error))
+    const std::vector<std::string> systems = LSSharedFileList(true).folders();
+    const bool uncovers = std::any_of(systems.begin(), systems.end(), [&](const auto& folder) {
+        return isAnythingAt(folder + '/' + name);
+    });
+    if (!list->isGlobal() && uncovers)
         return replaceFile(*list, path, hiddenAutostartEntryText(name, item->application()))
                    ? noErr
                    : permErr;
@@ -176,7 +208,10 @@ CFRef<LSSharedFileListItem> LSSharedFileListInsertItemURL(LSSharedFileList* list
 
     const std::string folder = list->folder();
     std::vector<EntryFile> others;
-    if (makeFolders(folder, list->isGlobal() ? 0755 : 0700) != 0 || !listEntryFiles(folder, others))
+    if (!list->isGlobal() && isSwitchedOff(ownPath(folder, identifier), bundle->path()))
+        return nullptr;
+    if (makeFolders(folder, list->isGlobal() ? 0755 : 0700) != 0 ||
+        !listEntryFiles({folder}, others))
         return nullptr;
     const std::string name = bundleText(bundle.get(), "CFBundleName");
     const std::string path = freePath(folder, identifier, bundle->path());
@@ -186,4 +221,33 @@ CFRef<LSSharedFileListItem> LSSharedFileListInsertItemURL(LSSharedFileList* list
         return nullptr;
     makeLast(path, others);
     return CFRef<LSSharedFileListItem>::adopt(new LSSharedFileListItem(path, bundle->path()));
+}
+
+bool isSameLoginApplication(const std::string& path, const std::string& other) {
+    return fileName(path) == fileName(other) ||
+           CFStringCompare(CFStringCreateWithUTF8(path).get(), CFStringCreateWithUTF8(other).get(),
+                           kCFCompareCaseInsensitive) == kCFCompareEqualTo;
+}
+
+bool hideGlobalLoginItems(const CFURL* application) {
+    const LSSharedFileList global(true), own(false);
+    std::vector<EntryFile> files;
+    bool hidden = listEntryFiles(global.folders(), files);
+    for (const EntryFile& file : files) {
+        const std::string name = fileName(file.path), path = own.folder() + '/' + name;
+        const auto entry = readAutostartEntry(file.path);
+        if (entry && entry->isLive && !isAnythingAt(path) &&
+            isSameLoginApplication(entry->application, application->path()))
+            hidden &= makeFolders(own.folder(), 0700) == 0 &&
+                      replaceFile(own, path, hiddenAutostartEntryText(name, entry->application));
+    }
+    return hidden;
+}
+
+void forgetSwitchedOffLoginItem(const CFURL* application) {
+    const CFRef<CFBundle> bundle = CFBundleCreate(application);
+    const std::string path = ownPath(LSSharedFileList(false).folder(),
+                                     bundle ? bundleText(bundle.get(), "CFBundleIdentifier") : "");
+    if (bundle && isSwitchedOff(path, bundle->path()))
+        unlink(path.c_str());
 }

@@ -6,7 +6,7 @@
 #include "platform/Security/Authorization.h"
 
 // Launch Services' shared lists of the applications that are opened at login. On Linux they are the
-// autostart entries, *.desktop, of one folder: `autostart` under $XDG_CONFIG_HOME for this user and
+// autostart entries, *.desktop: `autostart` under $XDG_CONFIG_HOME for this user and
 // under the first of $XDG_CONFIG_DIRS for all users. An item is an entry that a login heeds: broken
 // files, and entries that are hidden, switched off or without their program, aren't items. Desktops
 // know no order; here items are in the order in which their files were last changed.
@@ -27,7 +27,11 @@ class LSSharedFileList final : public CFType {
 public:
     explicit LSSharedFileList(bool isGlobal) : isGlobal_(isGlobal) {}
 
+    /// Where new entries are made.
     std::string folder() const;
+
+    /// All that are searched, the first first.
+    std::vector<std::string> folders() const;
 
     bool isGlobal() const { return isGlobal_; }
 
@@ -80,10 +84,23 @@ OSStatus LSSharedFileListItemRemove(LSSharedFileList* list, const LSSharedFileLi
 /// Writes an entry that starts the application, as the last item: `after` is
 /// kLSSharedFileListItemLast, the others are null. Its file is named for the bundle's identifier,
 /// with a number where another program has that name already. Null when the URL names no bundle
-/// with an executable, or the folder can't be made or written.
+/// with an executable, or the folder can't be made or written; and when the user has switched that
+/// entry off, which is kept as it is (forgetSwitchedOffLoginItem).
 CFRef<LSSharedFileListItem> LSSharedFileListInsertItemURL(LSSharedFileList* list,
                                                           const LSSharedFileListItem* after,
                                                           const CFString* displayName,
                                                           const CFType* icon, const CFURL* url,
                                                           const CFDictionary* propertiesToSet,
                                                           const CFArray* propertiesToClear);
+
+/// Whether both paths are of one application: the same bundle, in any letter case, or copies of it
+/// in different folders.
+bool isSameLoginApplication(const std::string& path, const std::string& other);
+
+/// Keeps all users' items of the application from being heeded for this user: a hidden entry of the
+/// same file name in this user's folder takes the place of each. False when one can't be written.
+bool hideGlobalLoginItems(const CFURL* application);
+
+/// Deletes this user's entry of the application if the user has switched it off, so that it can be
+/// inserted again.
+void forgetSwitchedOffLoginItem(const CFURL* application);

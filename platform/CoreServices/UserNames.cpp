@@ -26,7 +26,7 @@ CFRef<CFString> CSCopyUserName(bool) {
     return user ? CFStringCreateWithUTF8(user->pw_name) : nullptr;
 }
 
-int getgrouplist(const char* name, int baseGroup, int* groups, int* count) {
+int userGroups(const char* name, int baseGroup, int* groups, int* count) {
     const passwd* user = getpwnam(name);
     int found = *count;
     std::vector<gid_t> own(static_cast<std::size_t>(found));

@@ -13,5 +13,5 @@ constexpr int kAdminGroup = 80;
 /// comes in as the room that there is. -1 when that is too little, or there is no such user.
 ///
 /// Linux numbers its groups as it likes. Here root and the members of sudo, wheel and admin are in
-/// kAdminGroup, and nobody else is. The C library's function of this name takes other types.
-int getgrouplist(const char* name, int baseGroup, int* groups, int* count);
+/// kAdminGroup, and nobody else is.
+int userGroups(const char* name, int baseGroup, int* groups, int* count);

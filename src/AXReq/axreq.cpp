@@ -33,7 +33,9 @@ const NibRequirementRegistration nibRequirement([] {
 WindowRef noticeWindow = nullptr;
 WindowRef parentWindow = nullptr; ///< null unless the notice is a sheet
 EventLoopTimerRef noticeTimer = nullptr;
-CFRef<CFBundle> noticeBundle; ///< null: the main bundle
+CFRef<CFBundle> noticeBundle;  ///< null: the main bundle
+bool isNoticeDoubtful = false; ///< it was shown before the system had told whether access is on
+CFRef<const CFType> dayBefore; ///< what was stored before a doubtful notice; null: nothing
 
 const CFString* lastNoticeKey() {
     return CFSTR("axReqLastNoticeDate");
@@ -51,6 +53,12 @@ bool writeLastNoticeDate(SInt32 day) {
         return false;
     CFPreferencesSetAppValue(lastNoticeKey(), number.get(), kAgentBundleID);
     return CFPreferencesAppSynchronize(kAgentBundleID);
+}
+
+/// As if the notice hadn't been shown.
+void giveDayBack() {
+    CFPreferencesSetAppValue(lastNoticeKey(), dayBefore.get(), kAgentBundleID);
+    CFPreferencesAppSynchronize(kAgentBundleID);
 }
 
 bool isNeverAgainTicked() {
@@ -96,6 +104,16 @@ OSStatus windce(EventHandlerCallRef, EventRef event, void*) {
     }
 }
 
+/// The system has told whether access is on.
+void accessTold() {
+    if (noticeWindow && AXAPIEnabled()) {
+        if (isNoticeDoubtful)
+            giveDayBack();
+        axReqCancel();
+    }
+    isNoticeDoubtful = false;
+}
+
 void timeup(EventLoopTimerRef, void*) {
     axReqCancel();
 }
@@ -122,13 +140,16 @@ bool createNoticeWindow(CFBundle* bundle, const CFString* windowName) {
 } // namespace
 
 void axReqCheckAXEnabled(CFBundle* bundle, WindowRef parent) {
-    if (AXAPIEnabled() || noticeWindow)
+    if (noticeWindow || AXAPIEnabled())
         return;
     const SInt32 day = today();
     const CFIndex lastDay =
         CFPreferencesGetAppIntegerValue(lastNoticeKey(), kAgentBundleID, nullptr);
     if (lastDay != 0 && day <= lastDay)
         return;
+    isNoticeDoubtful = !isAXAPIEnabledKnown();
+    dayBefore = CFPreferencesCopyAppValue(lastNoticeKey(), kAgentBundleID);
+    setAXAPIEnabledListener(accessTold);
     // First, so that a notice that can't be shown isn't tried again until tomorrow.
     writeLastNoticeDate(day);
 

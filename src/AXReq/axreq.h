@@ -9,7 +9,9 @@
 
 /// Shows the notice when assistive access is off, at most once a day of UTC: as a sheet on
 /// `parent`, or in a window of its own when that is null. `bundle` holds the interface file
-/// "axreq"; null stands for the main bundle. Does nothing while a notice is shown.
+/// "axreq"; null stands for the main bundle. Does nothing while a notice is shown. It goes when
+/// access is switched on meanwhile; if it turns out that access was on all the time, which a system
+/// that is still starting tells late, the day doesn't count.
 void axReqCheckAXEnabled(CFBundle* bundle, WindowRef parent);
 
 /// Takes the notice away, if one is shown. Before its parent goes.

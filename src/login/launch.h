@@ -5,9 +5,8 @@
 
 // Opening an application at login: it is put into, and taken out of, the list of this user or the
 // list of all users. A system from 10.7 on has shared lists for that, which are changed only under
-// the right "system.global-login-items."; an older one the login window's own (LoginItemAPI.h). A
-// shared list tells applications by their path, whatever the case of its letters; the login
-// window's by the bundle's name, wherever it lies.
+// the right "system.global-login-items." (sharedlists.h); an older one the login window's own
+// (loginwindowlists.h).
 //
 // `appURL` names the application's bundle; null stands for the running program's own. Main thread
 // only. Lists are read anew at every question.
@@ -30,6 +29,10 @@ CFRef<const CFURL> getRetainedAppURL(const CFURL* appURL);
 /// that already isn't written. False when the right is refused or the list can't be changed; on a
 /// system before 10.7 an item that can't be added counts as success. False without an application.
 bool launchSetAppIsAutoLaunched(const CFURL* appURL, bool autoLaunch, bool allUsers);
+
+/// To be called when the user switches launching on here: an entry that was switched off elsewhere,
+/// in the desktop's own tool, is respected by the operation above unless this came before.
+void launchForgetSwitchedOff(const CFURL* appURL);
 
 /// An application that is opened for all users shows as checked for this one; without the other
 /// check box (`showAllUsers` false) that can't be changed, and nothing else is told. 0 without an

@@ -132,6 +132,7 @@ void PreferenceWrangler::loadValues() {
     triggerOnReleaseRadios_->selectCellWithTag(prefs.triggerOnRelease != 0);
     updateScanAreaRadios();
     updateScanAreaText();
+    shownLaunchAtLogin_ = prefs.launchAtLogin != 0;
     updateLaunchUI();
 
     loadFlags();

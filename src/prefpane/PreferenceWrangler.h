@@ -98,7 +98,8 @@ public:
     // PreferenceWranglerLaunch.cpp: launching at login
 
     /// Makes the system's login items agree with the setting, and shows both settings of the start.
-    /// Without the agent's bundle the login items stay as they are.
+    /// Without the agent's bundle the login items stay as they are, and so does an item that was
+    /// switched off elsewhere unless the user has just switched the setting on.
     void updateLaunchUI();
 
     // PaletteEditor: the palette's buttons
@@ -175,6 +176,7 @@ private:
     PointerChooser pointers_{*this};
 
     const CFString* helpBookName_ = nullptr; ///< the bundle's own; null: no book
+    bool shownLaunchAtLogin_ = false;        ///< the setting as the login items last followed it
 };
 
 /// The one wrangler; null until its set-up has run once.

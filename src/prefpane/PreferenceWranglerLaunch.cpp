@@ -9,9 +9,12 @@
 void PreferenceWrangler::updateLaunchUI() {
     if (const CFBundle* agent = daemonMainBundle()) {
         const auto url = CFBundleCopyBundleURL(agent);
+        if (prefs.launchAtLogin && !shownLaunchAtLogin_)
+            launchForgetSwitchedOff(url.get()); // here the user switched it on
         launchSetAppIsAutoLaunched(url.get(), false, true);
         launchSetAppIsAutoLaunched(url.get(), prefs.launchAtLogin != 0, false);
     }
+    shownLaunchAtLogin_ = prefs.launchAtLogin != 0;
     launchAtLogin_->setEnabled(true);
     launchAtLogin_->setState(prefs.launchAtLogin);
     activateAtLaunch_->setState(prefs.activateAtLaunch);

@@ -2,6 +2,8 @@
 
 #include "platform/CoreServices/detail/DesktopEntry.h"
 
+#include <cstdlib>
+#include <sstream>
 #include <string_view>
 #include <vector>
 
@@ -56,12 +58,32 @@ std::string applicationOf(std::string_view exec) {
     return !arguments.empty() && arguments.front().starts_with('/') ? arguments.front() : "";
 }
 
-/// Whether a desktop's own tool has switched the entry off.
+constexpr char kHiddenHere[] = "X-Korvex-Hidden"; ///< of entries that only hide the system's
+
+/// Whether it is marked as deleted or switched off.
 bool isSwitchedOff(const DesktopEntry& entry) {
+    if (desktopEntryValue(entry, "Hidden") == "true")
+        return true;
     for (const char* key : {"X-GNOME-Autostart-enabled", "X-MATE-Autostart-enabled"})
         if (desktopEntryValue(entry, key) == "false")
             return true;
     return false;
+}
+
+/// Whether one of the desktops that are running is in the list, each with a semicolon after it.
+bool listsThisDesktop(const std::string& list) {
+    const char* value = std::getenv("XDG_CURRENT_DESKTOP");
+    std::istringstream running(value ? value : "");
+    for (std::string desktop; std::getline(running, desktop, ':');)
+        if ((';' + list + ';').find(';' + desktop + ';') != std::string::npos)
+            return true;
+    return false;
+}
+
+bool isForThisDesktop(const DesktopEntry& entry) {
+    const bool isRestricted = entry.contains("OnlyShowIn");
+    return (!isRestricted || listsThisDesktop(desktopEntryValue(entry, "OnlyShowIn"))) &&
+           !listsThisDesktop(desktopEntryValue(entry, "NotShowIn"));
 }
 
 /// A text as a value of type string.
@@ -104,7 +126,9 @@ std::optional<AutostartEntry> readAutostartEntry(const std::string& path) {
     if (desktopEntryValue(entry, "Type") != "Application")
         return std::nullopt;
     return AutostartEntry{applicationOf(desktopEntryValue(entry, "Exec")),
-                          isInstalledApplication(entry) && !isSwitchedOff(entry)};
+                          isInstalledApplication(entry) && !isSwitchedOff(entry) &&
+                              isForThisDesktop(entry),
+                          isSwitchedOff(entry) && !entry.contains(kHiddenHere)};
 }
 
 std::string autostartEntryText(const std::string& name, const std::string& executable) {
@@ -112,5 +136,5 @@ std::string autostartEntryText(const std::string& name, const std::string& execu
 }
 
 std::string hiddenAutostartEntryText(const std::string& name, const std::string& application) {
-    return entryText(name, application, "Hidden=true");
+    return entryText(name, application, std::string("Hidden=true\n") + kHiddenHere + "=true");
 }

@@ -10,9 +10,12 @@ struct AutostartEntry {
     /// What it starts: the bundle whose executable its Exec names, whether itself or through
     /// another program such as env; else the program, if that is an absolute path; else empty.
     std::string application;
-    /// Whether a login heeds it: it isn't marked as deleted or switched off, and the program that
-    /// its TryExec names is there. Where and when it starts is up to its other keys.
+    /// Whether a login to the desktop that is running heeds it: it isn't marked as deleted,
+    /// switched off or for other desktops only, and the program that its TryExec names is there.
     bool isLive = false;
+    /// Whether the user has marked it as deleted or switched off, in the desktop's own tool or by
+    /// hand. Entries of hiddenAutostartEntryText aren't the user's.
+    bool isSwitchedOff = false;
 };
 
 /// None when the file can't be read or isn't an application's desktop entry.

@@ -11,6 +11,12 @@
 /// once.
 QDBusConnection sessionBus();
 
+/// Lifts the connection's limit of 63 MiB for messages that came in and aren't handled yet. Beyond
+/// it libdbus stops reading until some are handled, but Qt 6.4 can't start it again from the thread
+/// that handles them: one large message from anybody would leave the connection deaf for good. The
+/// bus itself bounds what it passes on.
+void receiveWithoutPause(const QDBusConnection& connection);
+
 /// How long one call of the bus itself may take, in milliseconds; usually it is a tenth of one.
 constexpr int kBusTimeout = 1000;
 

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcutEvent>
 #include <QVariant>
 
 namespace {
@@ -63,7 +64,7 @@ SheetShade::SheetShade(QWidget* window, QWidget* sheet) : QWidget(window), sheet
     const QSize needed = (sheetSize() + space).boundedTo(window->screen()->availableSize() - space);
     window->resize(window->size().expandedTo(needed));
     place();
-    window->installEventFilter(this);
+    qApp->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget*, QWidget* now) { focusMoved(now); });
     connect(sheet, &QObject::destroyed, this, &QObject::deleteLater);
@@ -101,7 +102,15 @@ void SheetShade::place() {
 bool SheetShade::eventFilter(QObject* watched, QEvent* event) {
     if (watched == parentWidget() && event->type() == QEvent::Resize && sheet_)
         place();
-    return false;
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (event->type() != QEvent::Shortcut || !widget || widget->window() != window() || !sheet_)
+        return false;
+    // A letter of a button. What is covered may have it too, and Qt then asks either one.
+    const QKeySequence& key = static_cast<QShortcutEvent*>(event)->key();
+    for (auto* button : sheet_->findChildren<QAbstractButton*>())
+        if (button->shortcut() == key)
+            button->animateClick();
+    return true;
 }
 
 bool SheetShade::event(QEvent* event) {

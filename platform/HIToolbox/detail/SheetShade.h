@@ -3,9 +3,9 @@
 #include <QPointer>
 #include <QWidget>
 
-/// What lies between a window's content and its sheet: it dims the content, keeps clicks and the
-/// keyboard from it, and holds the sheet at the top. To a screen reader it is a notification with
-/// the sheet's name and description.
+/// What lies between a window's content and its sheet: it dims the content, keeps clicks, the
+/// keyboard and shortcut letters from it, and holds the sheet at the top. To a screen reader it is
+/// a notification with the sheet's name and description.
 class SheetShade final : public QWidget {
 public:
     /// Takes the sheet, which has no parent, and shows it. When the shade goes, the sheet is hidden

@@ -92,6 +92,31 @@ TEST_F(AXReqTest, IsShownOnceADayUntilItIsToldNeverToComeBack) {
     EXPECT_EQ(storedDay(), kNever);
 }
 
+TEST_F(AXReqTest, ALateAnswerTakesTheNoticeAwayAndGivesTheDayBack) {
+    AccessibilityService service;
+    service.set(true);
+    service.hang();
+    open();
+    ASSERT_NE(notice(), nullptr);
+    EXPECT_EQ(storedDay(), 20'000);
+    service.wakeUp();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return notice() == nullptr; }));
+    EXPECT_EQ(storedDay(), 0);
+}
+
+TEST_F(AXReqTest, LettersOfWhatTheNoticeCoversDoNothingAndItsOwnAlwaysWork) {
+    open();
+    ASSERT_NE(notice(), nullptr);
+    auto* covered = find<QAbstractButton>("canScanMenuBarCheck");
+    const bool before = covered->isChecked();
+    for (const Qt::Key key : {Qt::Key_K, Qt::Key_N}) {
+        covered->setShortcut(Qt::ALT | key); // of the notice's own too
+        QTest::keyClick(window()->windowHandle(), key, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return (notice() == nullptr) == (key == Qt::Key_N); }));
+        EXPECT_EQ(covered->isChecked(), before);
+    }
+}
+
 TEST_F(AXReqTest, TheStoredDayDecides) {
     constexpr CFIndex k2038 = 24'855; // the last day of a 32-bit time_t
 

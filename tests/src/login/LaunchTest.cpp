@@ -1,10 +1,8 @@
 #include "src/login/launch.h"
 
-#include "platform/CoreFoundation/CFPreferences.h"
 #include "platform/CoreServices/Gestalt.h"
 #include "platform/HIToolbox/detail/CarbonControl.h"
 #include "platform/Security/Authorization.h"
-#include "src/login/LoginItemAPI.h"
 #include "tests/support/TestApplication.h"
 
 #include <QApplication>
@@ -13,7 +11,6 @@
 
 #include <cstring>
 #include <map>
-#include <optional>
 #include <sys/stat.h>
 
 namespace fs = std::filesystem;
@@ -21,7 +18,6 @@ namespace fs = std::filesystem;
 namespace {
 
 // What a test wants the system to be like.
-std::optional<SInt32> version = 0x1070; // none: it can't be had
 bool makesAuthorizations = true, grantsRight = true;
 std::vector<unsigned> userGroups;
 
@@ -36,10 +32,8 @@ int authorizations = 0; // made and not freed yet
 struct AuthorizationOpaqueRef {};
 
 OSErr Gestalt(OSType selector, SInt32* response) {
-    if (selector != gestaltSystemVersion || !version)
-        return gestaltUndefSelectorErr;
-    *response = *version;
-    return noErr;
+    *response = 0x1070;
+    return selector == gestaltSystemVersion ? noErr : gestaltUndefSelectorErr;
 }
 
 OSStatus AuthorizationCreate(const AuthorizationRights*, const AuthorizationEnvironment*,
@@ -209,19 +203,43 @@ TEST_F(LaunchTest, TellsTheStatesOfBothCheckBoxes) {
     EXPECT_FALSE(launchSetAppIsAutoLaunched(nullptr, true, false)) << "the test is in no bundle";
 }
 
-TEST_F(LaunchTest, AnOldSystemKeepsItsListByTheBundlesName) {
-    version = std::nullopt;
-    const CFString* user = kCFPreferencesCurrentUser;
-    const std::string name = kApplication.filename();
-    for (const std::string& path : {"/x/" + name, std::string("/Other.app"), "/y/" + name + '/'})
-        AddLoginItemWithPropertiesToUser(user, path.c_str(), false);
-    EXPECT_EQ(state(false), 0x03u);
-    EXPECT_TRUE(set(true, false));
-    EXPECT_EQ(GetCountOfLoginItems(user), 2);
-    EXPECT_STREQ(ReturnLoginItemPropertyAtIndex(user, kLoginItemFullPath, 1), kApplication.c_str());
-    EXPECT_TRUE(set(false, false));
-    EXPECT_EQ(GetCountOfLoginItems(user), 1);
-    EXPECT_FALSE(fs::exists(kMine));
+TEST_F(LaunchTest, NothingElseStartsItForThisUser) {
+    const fs::path far = kSandbox / "etc/far/autostart";
+    setenv("XDG_CONFIG_DIRS",
+           (kSandbox.string() + "/etc/xdg:" + kSandbox.string() + "/etc/far").c_str(), 1);
+    const std::string copy = exec(startOf("/opt" / kApplication.filename()));
+    writeFile(kEveryones / "first.desktop", exec(startOf()));
+    writeFile(far / "far.desktop", exec(startOf()));
+    writeFile(far / "copy.desktop", copy);
+    writeFile(far / "first.desktop", exec("other"));
+    writeFile(kMine / "copy of mine.desktop", copy);
+    for (const bool on : {true, false}) {
+        EXPECT_TRUE(set(on, false));
+        for (const char* name : {"first.desktop", "far.desktop", "copy.desktop"})
+            EXPECT_THAT(readFile(kMine / name), testing::HasSubstr("Hidden=true")) << name;
+        EXPECT_FALSE(fs::exists(kMine / "copy of mine.desktop"));
+        EXPECT_EQ(state(true) & 0x01u, on ? 0x01u : 0u);
+    }
+    EXPECT_EQ(stateOf(far).size(), 3u) << "the administrator's";
+}
+
+TEST_F(LaunchTest, WhatTheUserSwitchedOffElsewhereStaysUntilSwitchedOnHere) {
+    setenv("XDG_CURRENT_DESKTOP", "ubuntu:GNOME", 1);
+    for (const char* off : {"Hidden=true\n", "X-GNOME-Autostart-enabled=false\n"}) {
+        const std::string text = exec(startOf(), std::string("Comment=Mine\n") + off);
+        writeFile(kMine / kEntry, text);
+        EXPECT_FALSE(set(true, false));
+        EXPECT_EQ(readFile(kMine / kEntry), text);
+        launchForgetSwitchedOff(url.get());
+        EXPECT_TRUE(set(true, false));
+        EXPECT_TRUE(launchAppIsAutoLaunched(url.get()));
+    }
+    for (const auto& [where, listed] : {std::pair("OnlyShowIn=KDE;", false),
+                                        {"NotShowIn=XFCE;GNOME", false},
+                                        {"OnlyShowIn=KDE;GNOME;", true}}) {
+        writeFile(kMine / kEntry, exec(startOf(), where + std::string("\n")));
+        EXPECT_EQ(launchAppIsAutoLaunched(url.get()), listed) << where;
+    }
 }
 
 TEST_F(LaunchTest, TheBoxesOfADialogShowTheListsAndChangeThem) {

@@ -1,9 +1,7 @@
 #include "src/login/LoginItemAPI.h"
 
-#include "platform/CoreFoundation/CFArray.h"
-#include "platform/CoreFoundation/CFDictionary.h"
-#include "platform/CoreFoundation/CFNumber.h"
 #include "platform/CoreFoundation/CFPreferences.h"
+#include "src/login/loginwindowlists.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -17,20 +15,6 @@ namespace {
 // References, since the constants are made when the program starts.
 const CFString* const& kMine = kCFPreferencesCurrentUser;
 const CFString* const& kEveryones = kCFPreferencesAnyUser;
-
-void store(const CFString* user, const CFType* list) {
-    CFPreferencesSetValue(CFSTR("AutoLaunchedApplicationDictionary"), list, CFSTR("loginwindow"),
-                          user, kCFPreferencesAnyHost);
-}
-
-CFRef<CFDictionary> makeItem(const CFType* path, const CFType* hide) {
-    const auto item = CFDictionaryCreateMutable();
-    if (path)
-        CFDictionarySetValue(item.get(), CFSTR("Path"), path);
-    if (hide)
-        CFDictionarySetValue(item.get(), CFSTR("Hide"), hide);
-    return item;
-}
 
 std::vector<std::string> paths(const CFString* user) {
     std::vector<std::string> all;
@@ -59,35 +43,14 @@ TEST(LoginItemAPITest, AddsAtTheEndAndRemovesByIndexInEachUsersOwnList) {
     EXPECT_THAT(paths(kEveryones), ElementsAre("/B.app"));
 }
 
-TEST(LoginItemAPITest, ValuesOfWrongTypesAreNoItemsAndAreKept) {
-    const CFString* path = CFSTR("/A.app");
-    const std::string longest(1024, 'a');
-
-    const struct {
-        CFRef<const CFType> item;
-        const char *path, *hide;
-    } cases[] = {
-        {makeItem(path, CFSTR("true")), "/A.app", nullptr},
-        {makeItem(nullptr, kCFBooleanTrue), nullptr, "true"},
-        {makeItem(kCFBooleanTrue, kCFBooleanFalse), nullptr, "false"},
-        {makeItem(CFStringCreateWithUTF8("/Ä.app").get(), nullptr), nullptr, nullptr},
-        {makeItem(CFStringCreateWithUTF8(longest).get(), nullptr), longest.c_str(), nullptr},
-        {makeItem(CFStringCreateWithUTF8(longest + 'a').get(), nullptr), nullptr, nullptr},
-        {CFRef<const CFType>::retain(path), nullptr, nullptr},
-    };
-
-    for (const auto& test : cases) {
-        store(kMine, CFArrayCreate(std::array{test.item.get()}).get());
-        EXPECT_STREQ(ReturnLoginItemPropertyAtIndex(kMine, kLoginItemFullPath, 0), test.path);
-        EXPECT_STREQ(ReturnLoginItemPropertyAtIndex(kMine, kLoginItemHide, 0), test.hide);
-    }
-    store(kMine, path);
-    EXPECT_EQ(GetCountOfLoginItems(kMine), 0);
-    EXPECT_FALSE(AddLoginItemWithPropertiesToUser(kMine, "/B.app", false));
-    EXPECT_TRUE(CFEqual(CFPreferencesCopyValue(CFSTR("AutoLaunchedApplicationDictionary"),
-                                               CFSTR("loginwindow"), kMine, kCFPreferencesAnyHost)
-                            .get(),
-                        path));
+TEST(LoginItemAPITest, ALoginWindowsListTellsApplicationsByTheirBundlesName) {
+    const auto url = CFURLCreateFromFileSystemRepresentation("/y/Some.app", true);
+    for (const char* path : {"/x/Some.app", "/Other.app", "/z/Some.app/"})
+        AddLoginItemWithPropertiesToUser(kMine, path, false);
+    EXPECT_TRUE(setInLoginWindowList(url.get(), true, false));
+    EXPECT_THAT(paths(kMine), ElementsAre("/Other.app", "/y/Some.app"));
+    EXPECT_TRUE(setInLoginWindowList(url.get(), false, false));
+    EXPECT_THAT(paths(kMine), ElementsAre("/Other.app"));
 }
 
 TEST(LoginItemAPITest, RefusesOtherUsersForeignPathsAndFoldersThatCantBeWritten) {
