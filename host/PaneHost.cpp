@@ -4,17 +4,35 @@
 #include "host/PaneWindow.h"
 #include "host/Sections.h"
 #include "host/StartupNotification.h"
+#include "platform/CoreServices/detail/SessionBus.h"
 #include "platform/HIToolbox/NibRequirement.h"
+#include "platform/HIToolbox/detail/CarbonWindow.h"
 
 #include <QApplication>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <utility>
+#include <unistd.h>
 
 namespace {
 
+/// From the moment when the settings are stored to the end of the program, in seconds.
+constexpr unsigned kMostSecondsToLeave = 3;
+
 PaneHost* openHost = nullptr; // for the exit handler
+int exitStatus = EXIT_SUCCESS;
+
+/// Until an answer has come back, what was sent before may still be on its way to the bus.
+void sendQueuedMessages() {
+    sessionBus().call(busMethod(QStringLiteral("GetId"), {}), QDBus::Block, kBusTimeout);
+}
+
+/// Ends the program even when the display's server hangs.
+void leaveInTime() {
+    std::signal(SIGALRM, [](int) { _exit(exitStatus); });
+    alarm(kMostSecondsToLeave);
+}
 
 } // namespace
 
@@ -65,17 +83,17 @@ void PaneHost::open() {
     const std::string label = infoText("NSPrefPaneIconLabel");
     window_->setWindowTitle(
         QString::fromStdString(label.empty() ? infoText("CFBundleName") : label));
-    window_->onClosed = [this] { putAway(); };
+    window_->onClosed = [this] { end(); };
     window_->onShown = [this] {
-        if (selected_)
+        if (isSelected_)
             pane_->didSelect();
     };
 
-    selected_ = true;
+    isSelected_ = true;
     pane_->willSelect();
     // After willSelect, so that what the pane has set up by then is still there when it is called.
     openHost = this;
-    std::atexit(putAwayAtExit);
+    std::atexit(endAtExit);
     window_->open();
 }
 
@@ -90,23 +108,34 @@ void PaneHost::comply(const ShowRequest& request) {
     completeStartup(window_->windowHandle(), request.startupID);
 }
 
-void PaneHost::putAway() {
-    window_->hide();
+bool PaneHost::store() {
+    return pane_->commitEditing();
+}
+
+void PaneHost::end() {
+    if (!isSelected_)
+        return;
+    exitStatus = store() ? EXIT_SUCCESS : EXIT_FAILURE;
+    leaveInTime();
     deselect();
-    QCoreApplication::quit();
+    window_->hide();
+    QCoreApplication::exit(exitStatus);
 }
 
 void PaneHost::deselect() {
-    if (!std::exchange(selected_, false))
-        return;
+    isSelected_ = false;
+    isRaisingPointless = true;
     pane_->didUnselect();
+    sendQueuedMessages();
 }
 
-// Qt leaves by exit() when the display's server is gone. The widgets are as good as gone then, but
+// Qt leaves by exit() when the display's server is gone. The windows are as good as gone then, but
 // the settings can still be saved.
-void PaneHost::putAwayAtExit() {
-    if (openHost)
-        openHost->deselect();
+void PaneHost::endAtExit() {
+    if (!openHost || !openHost->isSelected_)
+        return;
+    openHost->store();
+    openHost->deselect();
 }
 
 std::string PaneHost::infoText(const char* key) const {

@@ -24,7 +24,7 @@ public:
     /// After load: whether the bundle's other interface files hold what its code expects.
     bool checkWindows(std::vector<std::string>& errors);
 
-    /// Selects the pane and shows its window. When the user closes that, the program ends.
+    /// Selects the pane and shows its window. When the user closes that, the visit ends.
     void open();
 
     /// To be called once open.
@@ -34,12 +34,17 @@ public:
     /// that the window is there.
     void comply(const ShowRequest& request);
 
-    /// Takes the pane out of sight, lets it save, and ends the program; once it is put away
-    /// already, nothing.
-    void putAway();
+    /// To be called once open: has the pane store what was changed; the visit goes on. False when
+    /// that failed.
+    bool store();
+
+    /// Ends the visit and the program; once it has ended already, nothing. Everything that can
+    /// bring the end comes here. What matters goes first: the settings are stored, the agent is
+    /// told, and only then windows are touched, whose server may be dead or hang.
+    void end();
 
 private:
-    static void putAwayAtExit();
+    static void endAtExit();
 
     void deselect();
     std::string infoText(const char* key) const;
@@ -47,5 +52,5 @@ private:
     CFRef<CFBundle> bundle_;
     std::unique_ptr<NSPreferencePane> pane_;
     std::unique_ptr<PaneWindow> window_; ///< goes before the pane, whose views its widgets call
-    bool selected_ = false;
+    bool isSelected_ = false;
 };

@@ -43,7 +43,6 @@ bool PaneWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void PaneWindow::closeEvent(QCloseEvent* event) {
-    event->accept();
-    hide();
+    event->ignore(); // the visit's end hides the window
     onClosed();
 }

@@ -12,7 +12,7 @@ public:
     explicit PaneWindow(QWidget* pane);
 
     std::function<void()> onShown;  ///< called once, after the first frame is on the screen
-    std::function<void()> onClosed; ///< called when the user has closed it and it is hidden
+    std::function<void()> onClosed; ///< called when the user closes it; it is still there
 
     /// Shows the window, of the size that the pane has in its form or that its contents need, but
     /// never beyond the screen.

@@ -5,8 +5,6 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 
-#include <cstdio>
-
 namespace {
 
 constexpr int kTimeoutMs = 2000;
@@ -25,19 +23,16 @@ bool requestName(const QDBusConnection& bus) {
 
 } // namespace
 
-bool becomeSingleInstance(const ShowRequest& request, const QVariantMap& activation,
-                          std::function<void(const ShowRequest&)> onShow) {
+SingleInstance becomeSingleInstance(const ShowRequest& request, const QVariantMap& activation,
+                                    std::function<void(const ShowRequest&)> onShow) {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
-        return true;
+        return SingleInstance::First;
     exportDesktopApplication(bus, std::move(onShow));
     if (requestName(bus))
-        return true;
+        return SingleInstance::First;
     if (askDesktopApplication(bus, request, activation))
-        return false;
+        return SingleInstance::Second;
     // Either it hangs or it was about to end; in that case the name is free now.
-    if (requestName(bus))
-        return true;
-    std::fputs("korvex-preferences: it is open already, but doesn't answer\n", stderr);
-    return false;
+    return requestName(bus) ? SingleInstance::First : SingleInstance::SecondToOneThatHangs;
 }

@@ -2,10 +2,12 @@
 
 #include "host/DesktopApplication.h"
 
+enum class SingleInstance { First, Second, SecondToOneThatHangs };
+
 /// Makes this the one instance of the program in the session, which other starts of it and the
 /// desktop ask to come to the front. Each ask calls `onShow`.
 ///
-/// False when there is another instance, which has then been asked for `request`; its answer is
-/// awaited for at most two seconds. Without a session bus every start is on its own: true.
-bool becomeSingleInstance(const ShowRequest& request, const QVariantMap& activation,
-                          std::function<void(const ShowRequest&)> onShow);
+/// When there is another instance, that one has been asked for `request`; its answer is awaited for
+/// at most two seconds. Without a session bus every start is the first.
+SingleInstance becomeSingleInstance(const ShowRequest& request, const QVariantMap& activation,
+                                    std::function<void(const ShowRequest&)> onShow);

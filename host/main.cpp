@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 #include <utility>
 
@@ -23,19 +24,16 @@ constexpr int kServicePatienceMs = 10'000;
 
 enum ExitStatus { kDone = 0, kFailed = 1, kMisused = 2 };
 
-/// Chooses Qt's platform, unless the user's environment has chosen. False when there is no display.
-/// X11 comes first because on Wayland no program may place a window over all screens.
-bool choosePlatform(Arguments::Task task) {
-    constexpr const char* kVariable = "QT_QPA_PLATFORM";
-    if (qEnvironmentVariableIsSet(kVariable))
-        return true;
+constexpr const char* kPlatformVariable = "QT_QPA_PLATFORM";
+
+/// Qt's platform. Null when there is no display. X11 comes first because on Wayland no program may
+/// place a window over all screens.
+const char* choosePlatform(Arguments::Task task) {
     if (task == Arguments::Task::Check)
-        return qputenv(kVariable, "offscreen");
+        return "offscreen";
     if (!qEnvironmentVariableIsEmpty("DISPLAY"))
-        return qputenv(kVariable, "xcb;wayland");
-    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        return qputenv(kVariable, "wayland");
-    return false;
+        return "xcb;wayland";
+    return qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? nullptr : "wayland";
 }
 
 bool load(PaneHost& host, const std::string& bundle, Arguments::Task task) {
@@ -63,8 +61,15 @@ int show(const Arguments& arguments, const QVariantMap& activation) {
         host.comply(request);
     };
     const ShowRequest request{QString::fromStdString(arguments.section), {}};
-    if (!becomeSingleInstance(request, activation, comply))
+    switch (becomeSingleInstance(request, activation, comply)) {
+    case SingleInstance::First:
+        break;
+    case SingleInstance::Second:
         return kDone;
+    case SingleInstance::SecondToOneThatHangs:
+        std::fputs("korvex-preferences: it is open already, but doesn't answer\n", stderr);
+        return kFailed;
+    }
     registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
     const std::string& bundle = arguments.bundle;
     if (!load(host, bundle.empty() ? findOwnBundle() : bundle, Arguments::Task::Show))
@@ -72,9 +77,11 @@ int show(const Arguments& arguments, const QVariantMap& activation) {
 
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setKeyboardInputInterval(kSlowTypingMs);
-    const auto end = [&] { isOpen ? host.putAway() : QCoreApplication::quit(); };
-    handleTerminationSignals(end);
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, end);
+    handleTerminationSignals([&] { isOpen ? host.end() : QCoreApplication::quit(); });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, [&] {
+        if (isOpen)
+            host.store();
+    });
     isReady = true;
     if (arguments.task == Arguments::Task::Show)
         comply(request);
@@ -87,12 +94,18 @@ int show(const Arguments& arguments, const QVariantMap& activation) {
 }
 
 int run(const Arguments& arguments, int argc, char** argv) {
-    if (!choosePlatform(arguments.task)) {
+    const bool isChosen = qEnvironmentVariableIsSet(kPlatformVariable);
+    const char* platform = isChosen ? "" : choosePlatform(arguments.task);
+    if (!platform) {
         std::fputs("korvex-preferences: there is no display\n", stderr);
         return kFailed;
     }
     const QVariantMap activation = activationData();
+    if (!isChosen)
+        qputenv(kPlatformVariable, platform);
     QApplication application(argc, argv);
+    if (!isChosen)
+        qunsetenv(kPlatformVariable); // not the choice of the programs that are started from here
     // QApplication takes on the user's locale; stored numbers have a point in every one.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("korvex-preferences"));
@@ -106,6 +119,8 @@ int run(const Arguments& arguments, int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // What is written to a reader that has gone must not end the program before it has saved.
+    std::signal(SIGPIPE, SIG_IGN);
     const Arguments arguments = parseArguments(argc, argv);
     switch (arguments.task) {
     case Arguments::Task::Command:

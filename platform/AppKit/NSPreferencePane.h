@@ -5,7 +5,8 @@
 
 /// The principal class of a preference-pane bundle derives from this. The host makes it, gives it
 /// its bundle, loads its main view and then calls, in order: mainViewDidLoad once; for each visit
-/// willSelect, didSelect (the pane is in sight), didUnselect (it is out of sight again).
+/// willSelect, didSelect (the pane is in sight), didUnselect (it is out of sight again). In
+/// between, whenever what the user changed is to be stored, commitEditing.
 class NSPreferencePane : public NSObject {
 public:
     void initWithBundle(CFBundle* bundle) { bundle_ = CFRef<CFBundle>::retain(bundle); }
@@ -24,6 +25,9 @@ public:
     virtual void willSelect() {}
 
     virtual void didSelect() {}
+
+    /// Stores what the user changed; the visit goes on. False when that failed.
+    virtual bool commitEditing() { return true; }
 
     virtual void didUnselect() {}
 

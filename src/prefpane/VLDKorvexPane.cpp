@@ -49,6 +49,11 @@ void VLDKorvexPane::didSelect() {
                         mainView()->window().windowRef());
 }
 
+bool VLDKorvexPane::commitEditing() {
+    prefsFlushChanges();
+    return true;
+}
+
 void VLDKorvexPane::didUnselect() {
     openWindowCleanup();
     axReqCancel();

@@ -16,7 +16,9 @@ public:
     void willSelect() override;
     /// Tells the user when assistive access is off in the system.
     void didSelect() override;
-    /// Takes that notice away. Saves the settings if any was changed, then lets the agent go.
+    /// Saves the settings if any was changed.
+    bool commitEditing() override;
+    /// Takes that notice away, saves as above, then lets the agent go.
     void didUnselect() override;
 
 private:

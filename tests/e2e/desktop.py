@@ -92,30 +92,35 @@ class Desktop:
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
             **self.environment,
         )
-        width, height = self.size
-        screen = ("-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset")
-        os.environ["DISPLAY"] = ":" + self._start_and_ask("Xvfb", *screen, "-displayfd")
         bus = ("--session", "--nofork", f"--address=unix:path={runtime}/bus")
-        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start_and_ask(
+        _, os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start_and_ask(
             "dbus-daemon", *bus, "--print-address"
         )
+        self.open_display()
+
+    def open_display(self) -> None:
+        """Starts a display server, `display`, and its window manager."""
+        width, height = self.size
+        screen = ("-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset")
+        self.display, number = self._start_and_ask("Xvfb", *screen, "-displayfd")
+        os.environ["DISPLAY"] = ":" + number
         self.start("openbox", "--config-file", "/etc/xdg/openbox/rc.xml")
         # It can tell the desktop's number as soon as it manages windows.
         until(lambda: ask("xdotool", "get_desktop"), "the window manager is up")
 
-    def _start_and_ask(self, *command: str) -> str:
-        """Starts a server that takes a file's number as its last argument, and returns the line
-        that it writes there once it is up."""
+    def _start_and_ask(self, *command: str) -> tuple[subprocess.Popen, str]:
+        """Starts a server that takes a file's number as its last argument, and returns it with the
+        line that it writes there once it is up."""
         reader, writer = os.pipe()
         with open(reader, encoding="ascii") as answer:
             try:
-                self.start(*command, str(writer), files=(writer,))
+                server = self.start(*command, str(writer), files=(writer,))
             finally:
                 os.close(writer)
             line = answer.readline().strip()
         if not line:
             raise Failure(f"{command[0]} does not start:\n{self.output_of(command[0])}")
-        return line
+        return server, line
 
 
 def ask(*command: str) -> str:

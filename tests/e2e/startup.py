@@ -15,6 +15,7 @@ LAUNCH = 0x8000  # the group of settings that the agent is told
 
 NOTICE = "Assistive access is switched off"
 DATE = "axReqLastNoticeDate"  # in days since 1970
+NEVER = 0x7FFFFFFF  # the date of the last notice that there is
 SHOWING = "object:state-changed:showing"
 
 

@@ -81,6 +81,8 @@ void ShowWindow(WindowRef window) {
 }
 
 void SelectWindow(WindowRef window) {
+    if (isRaisingPointless)
+        return;
     window->widget().raise();
     window->widget().activateWindow();
 }

@@ -13,6 +13,10 @@
 
 class GrafPort;
 
+/// Set by the host when its window is about to go for good: raising it, which asks the display's
+/// server, would then wait for one that hangs and crash without one.
+inline bool isRaisingPointless = false;
+
 /// A top-level widget as a Carbon window.
 class CarbonWindow {
 public:

@@ -1,0 +1,143 @@
+"""Ends visits in the ways that leave no time, and checks that each ends with its change stored.
+
+    python3 -m tests.e2e.ends BUILD_DIR OUT_DIR
+
+Every visit makes a change, comes to a state and loses its display, or its display hangs and it is
+asked to end. OUT_DIR gets the agents' log. The exit status is 1 when a change is lost.
+"""
+
+import os
+import plistlib
+import signal
+import subprocess
+import sys
+from pathlib import Path
+from typing import Callable
+
+from tests.e2e import hotkeys
+from tests.e2e.desktop import Desktop, exit_on_signals, process_of
+from tests.e2e.scanarea import BUTTON
+from tests.e2e.screen import press
+from tests.e2e.startup import DATE, NEVER, NOTICE
+from tests.e2e.tour import PROGRAM, Tour, make_room
+from tests.e2e.waiting import Failure, check, until
+
+TABS = "Scanning|Triggers|Appearance|Palette|Hot Keys|Sound|Startup"
+SANITIZER_FOUND = 99  # the exit status
+
+
+def show_tab(name: str) -> Callable[[Tour], None]:
+    return lambda tour: tour.choose_tab(name)
+
+
+def show_notice(tour: Tour) -> None:
+    tour.screen.find(NOTICE, "notification")
+
+
+def capture(tour: Tour) -> None:
+    tour.choose_tab("Hot Keys")
+    hotkeys.begin(tour, "Scan")
+
+
+def show_overlay(tour: Tour) -> None:
+    tour.choose_tab("Scanning")
+    tour.screen.find(*BUTTON).focus()
+    press("key", "space")
+    until(lambda: len(tour.screen.windows(PROGRAM)) > 1, "the overlay is on the screen")
+
+
+def die(tour: Tour) -> None:
+    tour.desktop.display.kill()
+
+
+def hang_and_be_asked(tour: Tour) -> None:
+    tour.desktop.display.send_signal(signal.SIGSTOP)
+    tour.program.terminate()
+
+
+STATES = {f"the tab {name}": show_tab(name) for name in TABS.split("|")} | {
+    "the notice": show_notice,
+    "a capture": capture,
+    "the overlay": show_overlay,
+}
+# State, end, whether somebody reads the program's standard error, and the exit status.
+VISITS = (
+    *((state, die, read, 1) for state in STATES for read in (True, False)),
+    ("the tab Palette", hang_and_be_asked, True, 0),
+)
+
+
+def start_unread(tour: Tour) -> subprocess.Popen:
+    """Starts the program with a standard error that nobody reads."""
+    reader, writer = os.pipe()
+    os.close(reader)
+    with open(writer, "wb") as nobody:
+        return subprocess.Popen((tour.build / "host" / PROGRAM,), stderr=nobody)
+
+
+def change(tour: Tour) -> None:
+    """Has the agent report that it went off. The file, where it has noted that as well, goes."""
+    tour.agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")
+    name = f"org.korvex.Process1.t4150504C.s4B727678.p{tour.agent}"
+    until(lambda: process_of(name) == tour.agent, "the agent takes events")
+    os.kill(tour.agent, signal.SIGUSR1)
+    tour.wait_for_choice("Off")
+    tour.stored.unlink()
+
+
+def visit(tour: Tour, state: str, end: Callable, read: bool, status: int) -> None:
+    tour.stored.parent.mkdir(exist_ok=True)
+    tour.stored.write_bytes(plistlib.dumps({DATE: 1 if state == "the notice" else NEVER}))
+    tour.program = tour.start_program() if read else start_unread(tour)
+    tour.screen.find("Korvex", "frame")
+    change(tour)
+    STATES[state](tour)
+    end(tour)
+    until(lambda: tour.program.poll() is not None, "it ends")
+    found = tour.program.returncode
+    check(found != SANITIZER_FOUND, "the sanitizer found a fault")
+    check(found == status, f"it ended with {found}")
+    check(tour.stored.exists(), "nothing was stored")
+    check(plistlib.loads(tour.stored.read_bytes())["on"] == "no", "the change is lost")
+    until(lambda: '"PPcl"' in tour.log.path.read_text(), "the agent hears PPcl")
+
+
+def clear_away(tour: Tour) -> None:
+    """Ends what the visit leaves: the display, the agent, its log."""
+    tour.program.kill()
+    tour.desktop.display.kill()
+    if agent := process_of("org.korvex.Agent"):
+        os.kill(agent, signal.SIGTERM)
+    until(lambda: not process_of("org.korvex.Agent"), "the agent ends")
+    tour.log.path.unlink(missing_ok=True)
+
+
+def main(arguments: list[str]) -> int:
+    if len(arguments) != 2:
+        sys.exit("Usage: python3 -m tests.e2e.ends BUILD_DIR OUT_DIR")
+    build, out = (Path(argument).resolve() for argument in arguments)
+    make_room(out)
+    exit_on_signals()
+    failures = 0
+    environment = {
+        "KORVEX_AGENT_LOG": str(out / "agent.log"),
+        "ASAN_OPTIONS": f"detect_leaks=0:exitcode={SANITIZER_FOUND}",
+        "UBSAN_OPTIONS": f"exitcode={SANITIZER_FOUND}",
+    }
+    with Desktop(1024, 768, environment) as desktop:
+        for state, end, read, status in VISITS:
+            what = f"{state}, {end.__name__}, stderr {'read' if read else 'closed'}"
+            desktop.open_display()
+            tour = Tour(desktop, build, out)
+            try:
+                visit(tour, state, end, read, status)
+                print(f"{what}: saved.", flush=True)
+            except Failure as failure:
+                failures += 1
+                print(f"{what}: FAILED. {failure}.\n{desktop.output_of(PROGRAM)}", flush=True)
+            clear_away(tour)
+    return 1 if failures else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
