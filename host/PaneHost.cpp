@@ -4,6 +4,7 @@
 #include "host/PaneWindow.h"
 #include "host/Sections.h"
 #include "host/StartupNotification.h"
+#include "host/Troubles.h"
 #include "platform/CoreServices/detail/SessionBus.h"
 #include "platform/HIToolbox/NibRequirement.h"
 #include "platform/HIToolbox/detail/CarbonWindow.h"
@@ -83,14 +84,17 @@ void PaneHost::open() {
     const std::string label = infoText("NSPrefPaneIconLabel");
     window_->setWindowTitle(
         QString::fromStdString(label.empty() ? infoText("CFBundleName") : label));
-    window_->onClosed = [this] { end(); };
+    window_->onClosed = [this] { close(); };
     window_->onShown = [this] {
-        if (isSelected_)
-            pane_->didSelect();
+        if (!isSelected_)
+            return;
+        pane_->didSelect();
+        tellOfUnusableFiles();
     };
 
     isSelected_ = true;
     pane_->willSelect();
+    tellOfLaunches();
     // After willSelect, so that what the pane has set up by then is still there when it is called.
     openHost = this;
     std::atexit(endAtExit);
@@ -109,7 +113,19 @@ void PaneHost::comply(const ShowRequest& request) {
 }
 
 bool PaneHost::store() {
-    return pane_->commitEditing();
+    if (pane_->commitEditing()) {
+        withdrawNotSaved();
+        return true;
+    }
+    std::fprintf(stderr, "korvex-preferences: the settings aren't saved: %s\n",
+                 whyNotSaved().c_str());
+    tellNotSaved([this] { close(); }, [this] { end(); });
+    return false;
+}
+
+void PaneHost::close() {
+    if (store())
+        end();
 }
 
 void PaneHost::end() {

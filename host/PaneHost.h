@@ -35,7 +35,7 @@ public:
     void comply(const ShowRequest& request);
 
     /// To be called once open: has the pane store what was changed; the visit goes on. False when
-    /// that failed.
+    /// that failed: why is told in the window and on standard error.
     bool store();
 
     /// Ends the visit and the program; once it has ended already, nothing. Everything that can
@@ -46,6 +46,8 @@ public:
 private:
     static void endAtExit();
 
+    /// The user closes the window, which stays when the settings can't be stored.
+    void close();
     void deselect();
     std::string infoText(const char* key) const;
 

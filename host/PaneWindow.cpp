@@ -1,5 +1,8 @@
 #include "host/PaneWindow.h"
 
+#include "host/Strip.h"
+
+#include <QBoxLayout>
 #include <QCloseEvent>
 #include <QScreen>
 #include <QScrollArea>
@@ -12,7 +15,13 @@ PaneWindow::PaneWindow(QWidget* pane) : paneSize_(pane->size().expandedTo(pane->
     scroller->setFocusPolicy(Qt::NoFocus);
     scroller->setWidgetResizable(true);
     scroller->setWidget(pane);
-    setCentralWidget(scroller);
+    auto* content = new QWidget;
+    auto* rows = new QVBoxLayout(content);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(new Strip(content));
+    rows->addWidget(scroller, 1);
+    setCentralWidget(content);
     for (const auto key : {Qt::CTRL | Qt::Key_W, Qt::CTRL | Qt::Key_Q})
         new QShortcut(QKeySequence(key), this, this, &QWidget::close);
 }

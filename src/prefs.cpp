@@ -2,7 +2,8 @@
 
 #include "platform/CoreFoundation/CFPreferences.h"
 #include "platform/CoreFoundation/PreferencesMerging.h"
-#include "src/settings.h"
+#include "platform/CoreFoundation/PreferencesOutcome.h"
+#include "src/recovery.h"
 
 #include <array>
 #include <cstring>
@@ -37,6 +38,13 @@ void noteChanges() {
     lastLook = prefs;
 }
 
+SettingSet chosenSettings() {
+    SettingSet chosen;
+    for (std::size_t i = 0; i < kSettings.size(); ++i)
+        chosen[i] = settingStates[i].isChosen;
+    return chosen;
+}
+
 void load(const CFString* key, const PrefsForm& form, void* field) {
     form.read(CFPreferencesCopyAppValue(key, kAgentBundleID).get(), field);
 }
@@ -66,13 +74,13 @@ bool savePrefs() {
         if (!state.isChosen)
             preferencesGiveWay(key, state.loaded.get(), kAgentBundleID);
     }
-    const bool saved = CFPreferencesAppSynchronize(kAgentBundleID);
-    if (saved)
-        for (SettingState& state : settingStates)
-            state.isChosen = false;
-    if (saved)
-        stored = prefs;
-    return saved;
+    if (!CFPreferencesAppSynchronize(kAgentBundleID))
+        return false;
+    for (SettingState& state : settingStates)
+        state.isChosen = false;
+    stored = prefs;
+    recoveryForget();
+    return true;
 }
 
 void prefsWereChanged(const void* chosen) {
@@ -80,6 +88,7 @@ void prefsWereChanged(const void* chosen) {
     for (std::size_t i = 0; i < kSettings.size(); ++i)
         settingStates[i].isChosen |= kSettings[i].in(prefs) == chosen;
     prefsNeedSaving = true;
+    recoveryKeep(prefs, chosenSettings());
 }
 
 void prefsWerentChanged() {
@@ -95,6 +104,13 @@ void prefsFlushChanges() {
         return;
     prefsWerentChanged();
     savePrefs();
+}
+
+bool prefsCommit() {
+    if (!prefsNeedSaving && !preferencesAreUnsaved(kAgentBundleID))
+        return true;
+    prefsWerentChanged();
+    return savePrefs();
 }
 
 void prefsCleanup() {

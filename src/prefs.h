@@ -182,6 +182,7 @@ void prefsSetup();
 /// meanwhile.
 bool savePrefs();
 
+/// Has the change outlast a crash, too (recovery.h).
 /// `chosen`, if not null, is a field of `prefs` that counts as changed though it may be as before.
 void prefsWereChanged(const void* chosen = nullptr);
 void prefsWerentChanged();
@@ -192,7 +193,11 @@ bool prefsAreAsStored();
 /// Saves when the record was changed since it was last saved, else does nothing.
 void prefsFlushChanges();
 
-/// The same; called when the pane is put away.
+/// The same, but what an earlier save couldn't write is tried again. False when something isn't
+/// saved now.
+bool prefsCommit();
+
+/// As prefsFlushChanges; called when the pane is put away.
 void prefsCleanup();
 
 /// A single key in the "0x%08lx" form: 0 when it is absent or doesn't parse.

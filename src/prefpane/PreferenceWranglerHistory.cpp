@@ -1,5 +1,7 @@
 #include "src/prefpane/PreferenceWrangler.h"
 
+#include "src/recovery.h"
+
 #include <chrono>
 
 namespace {
@@ -42,6 +44,8 @@ void PreferenceWrangler::showAndReport(ChangeMask changes) {
     if (changes & kChangeLaunch)
         updateLaunchUI();
     changed(changes);
-    if (prefsAreAsStored())
+    if (prefsAreAsStored()) {
         prefsWerentChanged();
+        recoveryForget();
+    }
 }

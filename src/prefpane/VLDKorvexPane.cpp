@@ -1,5 +1,6 @@
 #include "src/prefpane/VLDKorvexPane.h"
 
+#include "platform/AppKit/UserMessages.h"
 #include "platform/HIToolbox/AppleHelp.h"
 #include "src/AXReq/axreq.h"
 #include "src/openwindow.h"
@@ -7,8 +8,24 @@
 #include "src/prefpane/PreferenceWrangler.h"
 #include "src/prefpane/palutil.h"
 #include "src/prefpane/ptrman.h"
+#include "src/recovery.h"
 
 NS_REGISTER_CLASS(VLDKorvexPane);
+
+namespace {
+
+/// Reports what a crashed visit had left, once it shows.
+void showRecovered(const SettingSet& recovered, PreferenceWrangler& wrangler) {
+    if (recovered.none())
+        return recoveryForget();
+    wrangler.changed(changesOf(recovered));
+    tellUser("recovery",
+             {.kind = UserMessage::Kind::Note,
+              .text = "Your last visit here ended before it could save. Its changes are "
+                      "here again."});
+}
+
+} // namespace
 
 std::span<const NSOutlet> VLDKorvexPane::outlets() const {
     static constexpr NSOutlet table[] = {
@@ -33,8 +50,10 @@ void VLDKorvexPane::willSelect() {
     daemonSetup(path.get());
     palutilSetup();
     prefsSetup();
+    const SettingSet recovered = recoveryTakeOver(prefs);
     preferenceWrangler_->setup();
     preferenceWrangler_->loadValues();
+    showRecovered(recovered, *preferenceWrangler_);
     preferenceWrangler_->beginHistory();
     openWindowSetup([](const SettingSet& settings, const PrefsRecord& record) {
         theWrangler->adopt(settings, record);
@@ -50,8 +69,7 @@ void VLDKorvexPane::didSelect() {
 }
 
 bool VLDKorvexPane::commitEditing() {
-    prefsFlushChanges();
-    return true;
+    return prefsCommit();
 }
 
 void VLDKorvexPane::didUnselect() {

@@ -102,6 +102,27 @@ def visit(tour: Tour, state: str, end: Callable, read: bool, status: int) -> Non
     until(lambda: '"PPcl"' in tour.log.path.read_text(), "the agent hears PPcl")
 
 
+def crash_and_return(tour: Tour) -> None:
+    """A visit that is killed after a change, and the next one, which must have it again."""
+    unsaved = tour.desktop.home / ".local/state/korvex"
+    tour.stored.write_bytes(plistlib.dumps({DATE: NEVER}))
+    tour.start()
+    tour.screen.find("Korvex", "frame")
+    change(tour)
+    until(lambda: list(unsaved.glob("unsaved.*")), "the change is on disk")
+    tour.program.kill()
+    tour.program.wait()
+    tour.start()
+    (text,) = until(lambda: tour.screen.names("alert"), "the user is told")
+    check("ended before it could save" in text, text)
+    tour.wait_for_choice("Off")
+    tour.picture("recovered")
+    press("key", "alt+F4")
+    until(lambda: tour.program.poll() is not None, "it ends")
+    check(plistlib.loads(tour.stored.read_bytes())["on"] == "no", "the change is lost")
+    check(not list(unsaved.iterdir()), "the file of unsaved changes is still there")
+
+
 def clear_away(tour: Tour) -> None:
     """Ends what the visit leaves: the display, the agent, its log."""
     tour.program.kill()
@@ -112,31 +133,38 @@ def clear_away(tour: Tour) -> None:
     tour.log.path.unlink(missing_ok=True)
 
 
+def succeeds(tour: Tour, what: str, step: Callable, *arguments) -> bool:
+    tour.desktop.open_display()
+    try:
+        step(tour, *arguments)
+        print(f"{what}: saved.", flush=True)
+        return True
+    except Failure as failure:
+        print(f"{what}: FAILED. {failure}.\n{tour.desktop.output_of(PROGRAM)}", flush=True)
+        return False
+    finally:
+        clear_away(tour)
+
+
 def main(arguments: list[str]) -> int:
     if len(arguments) != 2:
         sys.exit("Usage: python3 -m tests.e2e.ends BUILD_DIR OUT_DIR")
     build, out = (Path(argument).resolve() for argument in arguments)
     make_room(out)
     exit_on_signals()
-    failures = 0
     environment = {
         "KORVEX_AGENT_LOG": str(out / "agent.log"),
         "ASAN_OPTIONS": f"detect_leaks=0:exitcode={SANITIZER_FOUND}",
         "UBSAN_OPTIONS": f"exitcode={SANITIZER_FOUND}",
     }
     with Desktop(1024, 768, environment) as desktop:
-        for state, end, read, status in VISITS:
-            what = f"{state}, {end.__name__}, stderr {'read' if read else 'closed'}"
-            desktop.open_display()
-            tour = Tour(desktop, build, out)
-            try:
-                visit(tour, state, end, read, status)
-                print(f"{what}: saved.", flush=True)
-            except Failure as failure:
-                failures += 1
-                print(f"{what}: FAILED. {failure}.\n{desktop.output_of(PROGRAM)}", flush=True)
-            clear_away(tour)
-    return 1 if failures else 0
+        results = [
+            succeeds(Tour(desktop, build, out), f"{state}, {end.__name__}, read: {read}",
+                     visit, state, end, read, status)
+            for state, end, read, status in VISITS
+        ]
+        results.append(succeeds(Tour(desktop, build, out), "killed", crash_and_return))
+    return 0 if all(results) else 1
 
 
 if __name__ == "__main__":

@@ -15,7 +15,7 @@ import traceback
 from contextlib import suppress
 from pathlib import Path
 
-from tests.e2e import hotkeys, palette, pointers, scanarea, startup
+from tests.e2e import hotkeys, palette, pointers, scanarea, startup, troubles
 from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.screen import Screen, press
@@ -191,6 +191,7 @@ STEPS = (
     open_it_again,
     start_it_twice,
     close_it_unchanged,
+    troubles.fail_to_save,
     startup.log_in,
 )
 

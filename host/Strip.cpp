@@ -1,0 +1,113 @@
+#include "host/Strip.h"
+
+#include "platform/AppKit/UserMessages.h"
+
+#include <QAccessibleWidget>
+#include <QBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+constexpr int kButtonSide = 44;
+constexpr int kMargin = 12;
+constexpr int kEdge = 3; ///< the line that tells the strip from the pane, in points
+
+// Dark on light, 14 to 1, whatever the desktop's colours are.
+constexpr QColor kBackground(0xFF, 0xF1, 0xC2);
+constexpr QColor kForeground(0x2B, 0x1D, 0x00);
+constexpr QColor kEdgeColor(0x8A, 0x4B, 0x00);
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    auto* strip = dynamic_cast<Strip*>(object);
+    return strip ? new QAccessibleWidget(strip, QAccessible::AlertMessage) : nullptr;
+}
+
+} // namespace
+
+Strip::Strip(QWidget* parent)
+    : QFrame(parent), text_(new QLabel(this)), buttonRow_(new QWidget(this)),
+      buttons_(new QBoxLayout(QBoxLayout::LeftToRight, buttonRow_)) {
+    [[maybe_unused]] static const bool isKnown = [] {
+        QAccessible::installFactory(makeInterface);
+        return true;
+    }();
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, kBackground);
+    colors.setColor(QPalette::WindowText, kForeground);
+    setPalette(colors);
+    setAutoFillBackground(true);
+    text_->setWordWrap(true);
+    text_->setTextFormat(Qt::PlainText);
+    buttons_->setContentsMargins(0, 0, 0, 0);
+    auto* edge = new QWidget(this);
+    edge->setFixedHeight(kEdge);
+    edge->setAutoFillBackground(true);
+    edge->setPalette(kEdgeColor);
+    auto* content = new QVBoxLayout;
+    content->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    content->setSpacing(kMargin);
+    content->addWidget(text_);
+    content->addWidget(buttonRow_);
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addLayout(content);
+    all->addWidget(edge);
+    setMessageListener([this] { showCurrent(); });
+    showCurrent();
+}
+
+void Strip::showCurrent() {
+    // Later: one of them may be the button whose press is being handled.
+    for (auto* button : buttonRow_->findChildren<QPushButton*>()) {
+        buttons_->removeWidget(button);
+        button->hide();
+        button->deleteLater();
+    }
+    const CurrentMessage* current = currentMessage();
+    setVisible(current != nullptr);
+    if (!current)
+        return;
+    const QString text = QString::fromStdString(current->message.text);
+    text_->setText(text);
+    setAccessibleName(text);
+    const auto withdrawn = [topic = current->topic](std::function<void()> press) {
+        return [topic, press = std::move(press)] {
+            withdrawMessage(std::string(topic)); // this function goes with its button, but later
+            if (press)
+                press();
+        };
+    };
+    for (const auto& button : current->message.buttons)
+        addButton(QString::fromStdString(button.label), withdrawn(button.press));
+    addButton(tr("Hide this"), withdrawn({}));
+    arrangeButtons();
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void Strip::addButton(const QString& label, std::function<void()> press) {
+    auto* button = new QPushButton(label, buttonRow_);
+    button->setMinimumSize(std::max(kButtonSide, button->sizeHint().width() + kMargin),
+                           kButtonSide);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, std::move(press));
+    buttons_->addWidget(button);
+}
+
+void Strip::resizeEvent(QResizeEvent* event) {
+    QFrame::resizeEvent(event);
+    arrangeButtons();
+}
+
+/// Side by side, or one below the other where there isn't room for that.
+void Strip::arrangeButtons() {
+    int needed = 0;
+    for (const auto* button : buttonRow_->findChildren<QPushButton*>())
+        if (buttons_->indexOf(button) >= 0)
+            needed += button->minimumWidth() + buttons_->spacing();
+    const bool isNarrow = needed > width() - 2 * kMargin;
+    buttons_->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    buttons_->setAlignment(isNarrow ? Qt::Alignment() : Qt::AlignLeft);
+}

@@ -1,0 +1,161 @@
+#include "platform/CoreServices/StateFile.h"
+
+#include "platform/CoreFoundation/detail/FileReplacement.h"
+#include "platform/CoreFoundation/detail/XDGFolders.h"
+
+#include <algorithm>
+#include <condition_variable>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <sstream>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr unsigned kFileMode = 0600;
+constexpr unsigned kFolderMode = 0700;
+
+fs::path stateFolder() {
+    return xdgStateHome() + "/korvex";
+}
+
+/// When a process started, which with its number tells it from all others since the machine was
+/// started: in clock ticks since then. Zero for one that isn't there.
+unsigned long long startOf(pid_t process) {
+    std::ifstream file("/proc/" + std::to_string(process) + "/stat");
+    std::string text;
+    std::getline(file, text);
+    // Behind the program's name, which is in brackets and may hold any character: the state, 18
+    // numbers, and the start.
+    std::istringstream fields(text.substr(std::min(text.size(), text.rfind(')') + 1)));
+    std::string skipped;
+    for (int i = 0; i < 19; ++i)
+        fields >> skipped;
+    unsigned long long start = 0;
+    fields >> start;
+    return start;
+}
+
+/// Writes and removes on a thread of its own. Never destroyed: an exit handler may store.
+class Writer {
+public:
+    void write(std::string path, std::string content);
+    void release(std::string path);
+    void removeAll();
+
+private:
+    void run();
+
+    std::mutex busy_; ///< while the disk is written to
+    std::mutex guard_;
+    std::condition_variable changed_;
+    std::optional<std::string> content_; ///< that waits to be written
+    std::string path_;
+    std::vector<std::string> released_;
+    bool isRunning_ = false;
+};
+
+void Writer::write(std::string path, std::string content) {
+    const std::lock_guard lock(guard_);
+    path_ = std::move(path);
+    content_ = std::move(content);
+    if (!isRunning_)
+        std::thread([this] { run(); }).detach();
+    isRunning_ = true;
+    changed_.notify_one();
+}
+
+void Writer::release(std::string path) {
+    const std::lock_guard lock(guard_);
+    released_.push_back(std::move(path));
+}
+
+void Writer::removeAll() {
+    {
+        const std::lock_guard lock(guard_);
+        content_.reset();
+    }
+    const std::lock_guard written(busy_);
+    const std::lock_guard lock(guard_);
+    for (const std::string& path : std::exchange(released_, {}))
+        unlink(path.c_str());
+    if (!path_.empty())
+        unlink(path_.c_str());
+}
+
+void Writer::run() {
+    for (;;) {
+        std::unique_lock lock(guard_);
+        changed_.wait(lock, [this] { return content_.has_value(); });
+        lock.unlock();
+        const std::lock_guard writing(busy_);
+        lock.lock();
+        if (!content_)
+            continue;
+        const std::string content = *std::exchange(content_, std::nullopt);
+        const std::string path = path_;
+        const std::vector<std::string> released = std::exchange(released_, {});
+        lock.unlock();
+        makeFolders(fs::path(path).parent_path(), kFolderMode);
+        PendingFile file(path, content, kFileMode);
+        if (file.error() != 0 || file.putInPlace() != 0)
+            continue;
+        for (const std::string& left : released)
+            unlink(left.c_str());
+    }
+}
+
+Writer& writer() {
+    static Writer& only = *new Writer;
+    return only;
+}
+
+/// Whether the file is one of that name, or the beginning of one, and its process is gone.
+bool isLeft(const fs::path& file, const std::string& name) {
+    pid_t process = 0;
+    unsigned long long start = 0;
+    int length = 0;
+    const std::string whole = (file.extension() == ".new" ? file.stem() : file.filename());
+    return whole.starts_with(name + '.') &&
+           std::sscanf(whole.c_str() + name.size(), ".%d.%llu%n", &process, &start, &length) == 2 &&
+           name.size() + static_cast<std::size_t>(length) == whole.size() &&
+           startOf(process) != start;
+}
+
+} // namespace
+
+void keepStateFile(const std::string& name, std::string content) {
+    const std::string owner = std::to_string(getpid()) + '.' + std::to_string(startOf(getpid()));
+    writer().write(stateFolder() / (name + '.' + owner), std::move(content));
+}
+
+void removeStateFile() {
+    writer().removeAll();
+}
+
+std::vector<std::string> findLeftStateFiles(const std::string& name) {
+    std::error_code error;
+    std::multimap<fs::file_time_type, std::string> found;
+    for (const auto& entry : fs::directory_iterator(stateFolder(), error))
+        if (isLeft(entry.path(), name))
+            found.emplace(entry.last_write_time(error), entry.path());
+    std::vector<std::string> paths;
+    for (auto& [time, path] : found)
+        if (path.ends_with(".new"))
+            unlink(path.c_str()); // never became one
+        else
+            paths.push_back(std::move(path));
+    return paths;
+}
+
+void releaseLeftStateFile(std::string path) {
+    writer().release(std::move(path));
+}

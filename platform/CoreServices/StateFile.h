@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+// A file of this process's own that outlives a crash of it, for work that isn't stored yet:
+// $XDG_STATE_HOME/korvex/<name>.<process>.<its start>, for this user alone. The file is written
+// whole and flushed to disk, on a thread of its own. Where it can't be written there is none.
+//
+// One name a process. Main thread only; nothing here waits for more than one writing.
+
+/// Writes the content soon, in place of what was kept before. Of several that come while the disk
+/// is busy the last is written.
+void keepStateFile(const std::string& name, std::string content);
+
+/// Removes this process's file, and the left ones that were released.
+void removeStateFile();
+
+/// The paths of the files of that name whose processes are gone, the oldest first.
+std::vector<std::string> findLeftStateFiles(const std::string& name);
+
+/// Removes the left file once this process's own is on disk.
+void releaseLeftStateFile(std::string path);

@@ -1,0 +1,29 @@
+#include "src/recovery.h"
+
+#include "platform/CoreServices/StateFile.h"
+#include "src/settingsfile.h"
+
+namespace {
+
+constexpr char kFileName[] = "unsaved";
+
+} // namespace
+
+void recoveryKeep(const PrefsRecord& record, const SettingSet& changed) {
+    keepStateFile(kFileName, settingsDocument(changed, record));
+}
+
+void recoveryForget() {
+    removeStateFile();
+}
+
+SettingSet recoveryTakeOver(PrefsRecord& record) {
+    const PrefsRecord before = record;
+    for (const std::string& path : findLeftStateFiles(kFileName)) {
+        const SettingsOffer offer = readSettingsFile(path, record);
+        copySettings(offer.settings, offer.record, record);
+        if (offer.error.empty())
+            releaseLeftStateFile(path);
+    }
+    return differences(before, record);
+}
