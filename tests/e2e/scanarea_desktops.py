@@ -129,6 +129,7 @@ def try_setup(setup: Setup, build: Path, out: Path) -> bool:
         try:
             dismiss_the_notice(tour)
             tour.agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")
+            tour.log.expect("PPop")
             for part in PARTS:
                 part(tour, setup)
         except Failure as failure:

@@ -91,7 +91,8 @@ def launch_the_agent(tour: Tour) -> str:
     name = f"org.korvex.Process1.t4150504C.s4B727678.p{agent}"
     until(lambda: process_of(name) == agent, "the agent takes events")
     tour.agent = agent
-    return "it was launched and takes events"
+    tour.log.expect("PPop")
+    return "it was launched, takes events and knows of the pane"
 
 
 def look_at_the_tabs(tour: Tour) -> str:
