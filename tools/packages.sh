@@ -6,7 +6,7 @@ build_packages=(
     qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgl-dev libopengl-dev
     libicns-dev libqt6svg6 libxcb1-dev
     librsvg2-bin icnsutils python3
-    libgtest-dev libgmock-dev libbenchmark-dev
+    libgtest-dev libgmock-dev
     dbus libglib2.0-bin desktop-file-utils appstream locales
 )
 # A virtual display with a window manager, and what reads the screen and types on the keyboard.
@@ -14,7 +14,7 @@ tour_packages=(
     xvfb x11-utils x11-xkb-utils x11-xserver-utils picom openbox xdotool maim dex
     at-spi2-core python3-gi python3-pil gir1.2-atspi-2.0
 )
-check_packages=(git clang-format-14)
+check_packages=(git clang-format-14 libbenchmark-dev)
 
 # install_packages NAME... as root, or through sudo
 install_packages() {

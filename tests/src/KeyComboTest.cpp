@@ -1,10 +1,14 @@
 #include "src/keycombo.h"
 
-#include "platform/CoreFoundation/CFPreferences.h"
-#include "platform/HIToolbox/FunctionKeys.h"
+#include "platform/HIToolbox/KeyCodes.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <linux/input-event-codes.h>
+#include <map>
+#include <sstream>
 
 namespace {
 
@@ -13,74 +17,75 @@ std::string name(UInt32 modifiers, SInt32 keyCode) {
     return text ? CFStringToUTF8(text.get()) : "null";
 }
 
-/// Another program writes this user's global preferences, as a property list's entries.
-void writeGlobalPreferences(const std::string& entries) {
+/// Another program writes this user's global preferences.
+void setFunctionKeys(const std::string& value) {
     const std::string folder = std::getenv("XDG_CONFIG_HOME");
-    writeFile(folder + "/Preferences/.GlobalPreferences.plist", dictionaryFile(entries));
+    writeFile(folder + "/Preferences/.GlobalPreferences.plist",
+              dictionaryFile("<key>com.apple.keyboard.fnState</key>" + value));
 }
 
-/// By virtual key code, with fn needed.
-constexpr const char* kNames[128] = {
-    // clang-format off
-    "A", "S", "D", "F", "H", "G", "Z", "X",
-    "C", "V", "", "B", "Q", "W", "E", "R",
-    "Y", "T", "1", "2", "3", "4", "6", "5",
-    "=", "9", "7", "-", "8", "0", "]", "O",
-    "U", "[", "I", "P", "return", "L", "J", "'",
-    "k", ";", "\\", ",", "/", "N", "M", ".",
-    "tab", "space", "`", "delete", "enter", "esc", "⌃", "⌘",
-    "⇧", "caps lock", "⌥", "⌃", "⇧", "⌥", "⌃", "",
-    "", " keypad .", "", " keypad *", "", " keypad +", "", "clear",
-    "", "", "", " keypad /", "enter", "", " keypad -", "",
-    "", " keypad =", " keypad 0", " keypad 1", " keypad 2", " keypad 3", " keypad 4", " keypad 5",
-    " keypad 6", " keypad 7", "", " keypad 8", " keypad 9", "", "", "",
-    "F5", " fn F6", " fn F7", " fn F3", " fn F8", " fn F9", "", " fn F11",
-    "", " fn F13", "F16", " fn F14", "", " fn F10", "", " fn F12",
-    "", " fn F15", " fn help", "home", "page up", "⌦", "F4", " fn end",
-    "F2", " fn page down", " fn F1", "⇠", "⇢", "⇣", "⇡", "",
-    // clang-format on
+/// Keys that follow one another in the kernel's count, and what each is called: "_" for a blank, a
+/// code for a key without a name, "-" twice for a key without a code.
+const std::map<int, std::string> kKeys = {
+    {KEY_RESERVED,
+     "-- esc 1 2 3 4 5 6 7 8 9 0 - = delete tab Q W E R T Y U I O P [ ] return ⌃ A S D F G H J k L "
+     "; ' ` ⇧ \\ Z X C V B N M , . / ⇧ _keypad_* ⌥ space caps_lock _fn_F1 F2 _fn_F3 F4 F5 _fn_F6 "
+     "_fn_F7 _fn_F8 _fn_F9 _fn_F10 clear _fn_F14 _keypad_7 _keypad_8 _keypad_9 _keypad_- _keypad_4 "
+     "_keypad_5 _keypad_6 _keypad_+ _keypad_1 _keypad_2 _keypad_3 _keypad_0 _keypad_."},
+    {KEY_102ND, "0x0A _fn_F11 _fn_F12 0x5E"},
+    {KEY_KPENTER, "enter ⌃ _keypad_/ _fn_F13 ⌥ -- home ⇡ page_up ⇠ ⇢ _fn_end ⇣ _fn_page_down "
+                  "_fn_help ⌦ -- 0x4A 0x49 0x48 -- _keypad_= -- _fn_F15 -- 0x5F 0x68 0x66 0x5D ⌘ ⌃ "
+                  "0x6E"},
+    {KEY_HELP, "_fn_help"},
+    {KEY_F13, "_fn_F13 _fn_F14 _fn_F15 F16 0x40 0x4F 0x50 0x5A"},
 };
 
-TEST(KeyComboTest, NamesEveryKeyByTheFunctionKeysSettingOfTheMoment) {
-    const std::string key = "<key>com.apple.keyboard.fnState</key>";
-
-    const struct {
-        std::string entries;
-        bool isStandard;
-    } cases[] = {
-        {key + "<true/>", true},
-        {key + "<false/>", false},
-        {key + "<integer>1</integer>", false},
-        {"", kernelPrefersFunctionKeys("/sys/module/hid_apple/parameters/fnmode")},
-    };
-
-    for (const auto& [entries, isStandard] : cases) {
-        writeGlobalPreferences(entries);
-        for (int code = 0; code < 128; ++code) {
-            std::string expected = kNames[code];
-            if (isStandard && expected.starts_with(" fn "))
-                expected.erase(0, 4);
-            EXPECT_EQ(name(0, code), expected) << entries << code;
-        }
+TEST(KeyComboTest, EveryKeyHasTheNameAndCodeOfItsPlaceAndNoOtherHasOne) {
+    std::map<int, std::string> keys;
+    for (const auto& [first, names] : kKeys) {
+        std::istringstream words(names);
+        int key = first;
+        for (std::string word; words >> word; ++key)
+            keys[key] = word;
     }
+    setFunctionKeys("<false/>");
+    for (int key = -8; key < 500; ++key) {
+        SCOPED_TRACE(key);
+        const UInt16 code = virtualKeyCode(static_cast<UInt32>(key + 8)); // as X counts
+        std::string called = keys.contains(key) ? keys[key] : "--";
+        if (called == "--" || called.starts_with("0x")) {
+            EXPECT_EQ(code, called == "--" ? kNoKeyCode : std::stoul(called, nullptr, 16));
+            continue;
+        }
+        std::ranges::replace(called, '_', ' ');
+        EXPECT_EQ(name(0, code), called);
+    }
+    EXPECT_EQ(virtualKeyCode(~0U), kNoKeyCode);
 }
 
-TEST(KeyComboTest, NamesCombinations) {
+TEST(KeyComboTest, NamesCombinationsByTheFunctionKeysSettingOfTheMoment) {
     const struct {
+        const char* functionKeys;
         UInt32 modifiers;
         SInt32 keyCode;
         const char* name;
     } cases[] = {
-        {0x1B00, 0x79, "command+control+shift+option+ fn page down"}, // the longest
-        {0xFFFFE4FF, 0x00, "A"},                                      // all that have no name
-        {0x0300, 0xFFFF, "command+shift+"},
-        {0x1B00, -1, "-none-"},
-        {0x0100, static_cast<SInt32>(0x8000004C), "-none-"},
+        {"<false/>", 0x1B00, 0x79, "command+control+shift+option+ fn page down"}, // the longest
+        {"<true/>", 0, 0x79, "page down"},
+        {"<integer>1</integer>", 0, 0x79, " fn page down"},
+        {"<true/>", 0, 0x60, "F5"},
+        {"<true/>", 0xFFFFE4FF, 0x00, "A"}, // all that have no name
+        {"<true/>", 0x0300, 0xFFFF, "command+shift+"},
+        {"<true/>", 0, 0x34, "enter"},
+        {"<true/>", 0, 0x0A, ""},
+        {"<true/>", 0x1B00, -1, "-none-"},
+        {"<true/>", 0x0100, static_cast<SInt32>(0x8000004C), "-none-"},
     };
 
-    writeGlobalPreferences("<key>com.apple.keyboard.fnState</key><false/>");
-    for (const auto& test : cases)
-        EXPECT_EQ(name(test.modifiers, test.keyCode), test.name);
+    for (const auto& test : cases) {
+        setFunctionKeys(test.functionKeys);
+        EXPECT_EQ(name(test.modifiers, test.keyCode), test.name) << test.functionKeys;
+    }
 }
 
 } // namespace
