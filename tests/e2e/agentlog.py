@@ -8,9 +8,7 @@ from tests.e2e.waiting import check, until
 
 # The record's fields that the tour changes: struct's format and the offset in bytes.
 FIELDS = {
-    "on": ("<B", 0),
     "launchAtLogin": ("<B", 5),
-    "soundLevel": ("<I", 8),
     "canScanMenuBar": ("<B", 12),
     "scanMode": ("<i", 60),
     "lineScanTime": ("<d", 84),

@@ -10,19 +10,10 @@ if TYPE_CHECKING:
     from tests.e2e.tour import Tour
 
 PALETTE = 8  # the group of settings
-FIELDS |= {
-    "buttonSize": ("<2h", 312),  # height, width
-    "buttonShape": ("<I", 316),
-    "buttonContent": ("<I", 320),
-    "buttonActions": ("<9B", 324),
-}
+FIELDS |= {"buttonActions": ("<9B", 324)}
 
 # What the steps leave behind, as it is stored.
-CHANGED = {
-    "palette.buttonShape": "0x00000001",
-    "palette.buttonContent": "0x00000001",
-    "palette.buttonSize": "(41,41)",
-}
+CHANGED = {"palette.buttonActions": "[ 22 21 20 2 15 0 0 0 0]"}
 
 
 def expect_slots(tour: "Tour", *slots: int) -> str:
@@ -56,19 +47,4 @@ def edit_the_buttons(tour: "Tour") -> str:
     return f"{added}; {swapped}; {expect_slots(tour, 22, 21, 20, 2, 15, 0, 0, 0, 0)}"
 
 
-def change_the_look(tour: "Tour") -> str:
-    """Round the palette's corners, leave out the names, make the buttons larger; reset them"""
-    tour.choose("Rounded")
-    shape = tour.log.expect_change(PALETTE, "buttonShape", 1)
-    tour.picture("palette-rounded")
-    tour.screen.click("Name", "check box")
-    content = tour.log.expect_change(PALETTE, "buttonContent", 1)
-    tour.picture("palette-icons-only")
-    tour.screen.click("Palette buttons, larger", "push button")
-    size = tour.log.expect_change(PALETTE, "buttonSize", (41, 41))
-    tour.picture("palette-larger")
-    tour.screen.click("Reset all buttons", "push button")
-    return f"{shape}; {content}; {size}; {expect_slots(tour, 20, 21, 22, 1, 2, 0, 0, 0, 0)}"
-
-
-STEPS = (edit_the_buttons, change_the_look)
+STEPS = (edit_the_buttons,)

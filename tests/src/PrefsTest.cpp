@@ -4,48 +4,32 @@
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <QByteArray>
+#include <QRegularExpression>
+#include <QStringList>
 
 #include <clocale>
 #include <cstring>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <map>
 #include <regex>
+#include <sstream>
 
 namespace fs = std::filesystem;
 
-using testing::HasSubstr;
-
 namespace {
-
-/// What a save of the factory record stores.
-const std::string kFactoryTexts =
-    "activateAtLaunch=yes|"
-    "hotkeys.keys=[ {0x7,0x1200} {0x4c,0x100} {0x35,0x0} {0x7,0x1a00} {0x4c,0x800}]|"
-    "launchAtLogin=yes|on=yes|palette.borderGap=4|palette.buttonActions=[ 20 21 22 1 2 0 0 0 0]|"
-    "palette.buttonContent=0x00000003|palette.buttonGap=6|palette.buttonShape=0x00000000|"
-    "palette.buttonSize=(40,40)|playClickSounds=yes|playDragPrompts=yes|priorityScheduling=no|"
-    "scanner.afterClickDelay=0.000000|scanner.autoRepeatTime=4.000000|scanner.canScanMenuBar=yes|"
-    "scanner.clickDuration=70.000000|scanner.fakeMouse2SwitchMode=yes|"
-    "scanner.interClickDelay=10.000000|scanner.inverseReleaseTime=2.000000|"
-    "scanner.lineColor=[0x0064,0x0000,0x0000]|scanner.lineGhostTransparency=75.000000|"
-    "scanner.lineScanCanEndKybdMode=yes|scanner.lineScanTime=10.000000|scanner.lineThickness=7|"
-    "scanner.lineTransparency=5.000000|scanner.menuScanSpeedScaleFactor=60.000000|"
-    "scanner.minTriggerDuration=0.000000|scanner.pointerImageName=default|"
-    "scanner.pointerScanTime=10.000000|scanner.preScanDelay=1.500000|"
-    "scanner.scanArea=origin(0.000000,0.000000); size(0.000000,0.000000)|scanner.scanMode=0|"
-    "scanner.stepScanCancelTime=10.000000|scanner.triggerOnRelease=no|"
-    "scanner.useScanAcceleration=yes|scanner.useScanArea=no|scanner.wantHotKeyTrigger=yes|"
-    "scanner.wantMouseClickTrigger=yes|soundLevel=0x00000032|";
 
 const fs::path kDomainFile =
     fs::path(std::getenv("XDG_CONFIG_HOME")) / "Preferences/org.korvex.Agent.plist";
 
-/// The stored keys and texts, "key=text|" each, in the keys' order.
-std::string storedTexts() {
+using Texts = std::map<std::string, std::string>;
+
+/// The stored texts by their keys.
+Texts storedTexts() {
     const std::string file = readFile(kDomainFile);
     const std::regex item("<key>([^<]*)</key>\\s*<string>([^<]*)</string>");
-    std::string texts;
+    Texts texts;
     for (std::sregex_iterator it(file.begin(), file.end(), item), end; it != end; ++it)
-        texts += it->str(1) + "=" + it->str(2) + "|";
+        texts[it->str(1)] = it->str(2);
     return texts;
 }
 
@@ -60,19 +44,89 @@ std::string bytesOf(const PrefsRecord& record, std::size_t offset = 0,
     return image.toHex().toStdString();
 }
 
-TEST(PrefsTest, AFreshRecordIsTheAgentsByteImageAndStoredInEveryForm) {
-    EXPECT_EQ(
-        bytesOf(prefs),
-        "0101010100010100320000000100000000000000000000000000000000000000000000000000f83f0000"
-        "000000000040000000000000244001010001000000000000000000000000000000000000000000010000"
-        "000000000000244000000000000024400000000000004e40010000000000000000001040000000000080"
-        "5140000000000000244064000000000000000700000000000000000014400000000000c0524064656661"
-        "756c7400" +
-            std::string(2 * 92, '0') +
-            "07000000001200004c00000000010000350000000000000007000000001a00004c000000000800000400"
-            "00000600000028002800000000000300000014151601020000000000000020b05eda");
+/// What docs/agent-contract.md says of a fresh record.
+struct Contract {
+    QByteArray record = QByteArray(sizeof(PrefsRecord), '\0');
+    Texts texts;
+
+    Contract() {
+        std::istringstream page(readFile(CONTRACT));
+        std::vector<QStringList> settings;
+        std::map<QString, QStringList> forms; // the row of each
+        for (std::string line; std::getline(page, line);) {
+            QStringList cells;
+            for (const QString& cell : QString::fromStdString(line).split('|'))
+                cells << cell.trimmed().remove('`');
+            if (cells.size() == 10 && cells[1].toInt() < 340 && cells[2].toInt() > 0)
+                settings.push_back(cells);
+            else if (cells.size() == 7 && cells[2].toInt() >= 264)
+                write(cells[2].toInt(), 8, "i32", numbersIn(cells[4]) + numbersIn(cells[5]));
+            else if (cells.size() == 6)
+                forms.emplace(cells[1], cells);
+        }
+        for (const QStringList& row : settings)
+            addSetting(row, forms[row[8]]);
+    }
+
+    static QStringList numbersIn(const QString& text) {
+        static const QRegularExpression number("\\b(0x[0-9A-F]+|[0-9.]+)\\b");
+        QStringList numbers;
+        for (auto match = number.globalMatch(text); match.hasNext();)
+            numbers << match.next().captured();
+        return numbers;
+    }
+
+    void write(int offset, int size, const QString& type, const QStringList& numbers) {
+        const int each = numbers.isEmpty() ? 0 : size / static_cast<int>(numbers.size());
+        for (const QString& number : numbers) {
+            const double real = number.toDouble();
+            const qulonglong whole = number.toULongLong(nullptr, 0);
+            const void* bytes = &whole;
+            const auto single = static_cast<float>(real);
+            if (type.contains("f64"))
+                bytes = &real;
+            else if (type.contains("f32"))
+                bytes = &single;
+            std::memcpy(record.data() + offset, bytes, static_cast<std::size_t>(each));
+            offset += each;
+        }
+    }
+
+    void addSetting(const QStringList& row, const QStringList& form) {
+        const QString& fresh = row[5];
+        const QStringList numbers = numbersIn(fresh);
+        write(row[1].toInt(), row[2].toInt(), row[3], numbers);
+        QString text = form.value(2).section(": ", 0, 0);
+        if (fresh.startsWith('"'))
+            text = fresh.section('"', 1, 1);
+        if (row[3].startsWith("char"))
+            record.replace(row[1].toInt(), text.size(), text.toLatin1());
+        else if (row[8] == "flag")
+            text = numbers[0] == "0" ? "no" : "yes";
+        else if (row[8].endsWith("list"))
+            text = form[3]; // the example is of the defaults
+        static const QRegularExpression place("%(0?)(\\d*)l?([dxf])");
+        for (int i = 0; text.contains(place); ++i) {
+            const auto match = place.match(text);
+            const QString number = numbers.value(i, numbers.value(0)); // one for both of a size
+            QString written = number;
+            if (match.captured(3) == "f")
+                written = QString::number(number.toDouble(), 'f', 6);
+            else if (match.captured(3) == "x")
+                written = QString::number(number.toUInt(nullptr, 0), 16)
+                              .rightJustified(match.captured(2).toInt(), '0');
+            text.replace(match.capturedStart(), match.capturedLength(), written);
+        }
+        if (!row[7].isEmpty() && !row[8].isEmpty())
+            texts[row[7].toStdString()] = text.toStdString();
+    }
+};
+
+TEST(PrefsTest, AFreshRecordIsWhatTheContractSaysAndStoredInEveryForm) {
+    const Contract contract;
+    EXPECT_EQ(bytesOf(prefs), contract.record.toHex().toStdString());
     ASSERT_TRUE(savePrefs());
-    EXPECT_EQ(storedTexts(), kFactoryTexts);
+    EXPECT_EQ(storedTexts(), contract.texts);
 }
 
 /// Numbers of this process have a comma from now on.
@@ -108,9 +162,9 @@ TEST(PrefsTest, WhatIsSavedIsLoadedAgain) {
     std::memcpy(other.buttonActions, actions, sizeof actions);
     prefs = other;
     ASSERT_TRUE(savePrefs());
-    EXPECT_THAT(storedTexts(), HasSubstr("|scanner.pointerImageName=Fl\u00e8che\u2022|"));
-    EXPECT_THAT(storedTexts(), HasSubstr("|hotkeys.keys=[ {0xffffffff,0x0} {0x4c,0x100} {0x35,0x0}"
-                                         " {0x7,0x1a00} {0x7f,0x1b00}]|"));
+    EXPECT_EQ(storedTexts()["scanner.pointerImageName"], "Fl\u00e8che\u2022");
+    EXPECT_EQ(storedTexts()["hotkeys.keys"],
+              "[ {0xffffffff,0x0} {0x4c,0x100} {0x35,0x0} {0x7,0x1a00} {0x7f,0x1b00}]");
 
     prefs = PrefsRecord();
     prefsSetup();

@@ -4,6 +4,7 @@
 #include "tests/support/PaneFixture.h"
 
 #include <QAccessible>
+#include <QLabel>
 
 #include <linux/input-event-codes.h>
 
@@ -98,6 +99,23 @@ TEST_F(HotKeyTest, CapturesWhateverIsPressed) {
         EXPECT_FALSE(isCapturing("scanKey") || showsEditingGroup());
     }
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
+}
+
+TEST_F(HotKeyTest, HotKeysThatTheAgentCantTellApartAreNoted) {
+    prefs.hotKeys[1] = {0x69, 0xFFFFE4FF};
+    prefs.hotKeys[2] = {0x69, 0};
+    prefs.hotKeys[3].keyCode = prefs.hotKeys[4].keyCode = -1; // none, twice
+    open();
+    for (const auto& [name, note] : {std::pair("scanKey", "The same keys as “Cancel the scan”"),
+                                     {"cancelScanKey", "The same keys as “Scan”"},
+                                     {"masterOnOffKey", ""}, // the same key, other modifiers
+                                     {"showPreferencesKey", ""},
+                                     {"scanKey2", ""}}) {
+        const std::string control = name;
+        EXPECT_EQ(find<QLabel>((control + "Note").c_str())->text().toStdString(), note) << name;
+        EXPECT_THAT(find((control + "Btn").c_str())->accessibleDescription().toStdString(),
+                    testing::HasSubstr(note));
+    }
 }
 
 TEST_F(HotKeyTest, MovingAwayStoresNothing) {

@@ -24,6 +24,15 @@ TEST_F(PointerChoiceTest, ThePreviewAndTheNameTellWhatIsSet) {
     button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(button->text(QAccessible::Name), "Preview of the guide line");
     EXPECT_TRUE(button->text(QAccessible::Description).contains("75% transparent"));
+    QTest::keyClick(viewWidget(), Qt::Key_Space);
+    EXPECT_EQ(button->text(QAccessible::Name), "Preview of the scan line");
+    for (const auto& [control, line] : {std::pair("guideTransparencyDecBtn", "guide"),
+                                        {"lineThicknessIncBtn", "guide"}, // of both lines
+                                        {"lineTransparencyIncBtn", "scan"}}) {
+        click(control);
+        EXPECT_EQ(button->text(QAccessible::Name),
+                  QStringLiteral("Preview of the %1 line").arg(line));
+    }
     std::strcpy(prefs.pointerImageName, "../default");
     theWrangler->loadValues();
     EXPECT_EQ(find<QLabel>("pointerName")->text(), "None");
