@@ -44,89 +44,68 @@ std::string bytesOf(const PrefsRecord& record, std::size_t offset = 0,
     return image.toHex().toStdString();
 }
 
-/// What docs/agent-contract.md says of a fresh record.
+/// The tables of docs/agent-contract.md.
 struct Contract {
-    QByteArray record = QByteArray(sizeof(PrefsRecord), '\0');
-    Texts texts;
+    QByteArray record = QByteArray(sizeof(PrefsRecord), '\0'); ///< of all defaults
+    Texts forms;                                               ///< by key
+    Texts examples;                                            ///< by form
 
     Contract() {
         std::istringstream page(readFile(CONTRACT));
-        std::vector<QStringList> settings;
-        std::map<QString, QStringList> forms; // the row of each
         for (std::string line; std::getline(page, line);) {
             QStringList cells;
             for (const QString& cell : QString::fromStdString(line).split('|'))
                 cells << cell.trimmed().remove('`');
-            if (cells.size() == 10 && cells[1].toInt() < 340 && cells[2].toInt() > 0)
-                settings.push_back(cells);
-            else if (cells.size() == 7 && cells[2].toInt() >= 264)
-                write(cells[2].toInt(), 8, "i32", numbersIn(cells[4]) + numbersIn(cells[5]));
-            else if (cells.size() == 6)
-                forms.emplace(cells[1], cells);
+            if (cells.size() == 10 && cells[2].toInt() > 0) {
+                write(cells[1].toInt(), cells[2].toInt(), cells[3], cells[5]);
+                if (!cells[8].isEmpty())
+                    forms[cells[7].toStdString()] = cells[8].toStdString();
+            } else if (cells.size() == 7 && cells[2].toInt() > 0) {
+                write(cells[2].toInt(), 8, "hot key", cells[4] + ' ' + cells[5]);
+            } else if (cells.size() == 6) {
+                examples[cells[1].toStdString()] = cells[3].toStdString();
+            }
         }
-        for (const QStringList& row : settings)
-            addSetting(row, forms[row[8]]);
     }
 
-    static QStringList numbersIn(const QString& text) {
-        static const QRegularExpression number("\\b(0x[0-9A-F]+|[0-9.]+)\\b");
+private:
+    /// Numbers share the size evenly.
+    void write(int offset, int size, const QString& type, const QString& fresh) {
+        static const QRegularExpression kNumber("\\b(0x[0-9A-F]+|[0-9.]+)\\b");
+        if (fresh.startsWith('"')) {
+            const QByteArray text = fresh.section('"', 1, 1).toLatin1();
+            record.replace(offset, text.size(), text);
+            return;
+        }
         QStringList numbers;
-        for (auto match = number.globalMatch(text); match.hasNext();)
+        for (auto match = kNumber.globalMatch(fresh); match.hasNext();)
             numbers << match.next().captured();
-        return numbers;
-    }
-
-    void write(int offset, int size, const QString& type, const QStringList& numbers) {
-        const int each = numbers.isEmpty() ? 0 : size / static_cast<int>(numbers.size());
         for (const QString& number : numbers) {
-            const double real = number.toDouble();
+            const int each = size / static_cast<int>(numbers.size());
             const qulonglong whole = number.toULongLong(nullptr, 0);
-            const void* bytes = &whole;
-            const auto single = static_cast<float>(real);
-            if (type.contains("f64"))
-                bytes = &real;
-            else if (type.contains("f32"))
-                bytes = &single;
-            std::memcpy(record.data() + offset, bytes, static_cast<std::size_t>(each));
+            const double real = number.toDouble();
+            const float single = number.toFloat();
+            const void* bytes = type == "f64"          ? static_cast<const void*>(&real)
+                                : type.endsWith("f32") ? static_cast<const void*>(&single)
+                                                       : &whole;
+            record.replace(offset, each, static_cast<const char*>(bytes), each);
             offset += each;
         }
     }
-
-    void addSetting(const QStringList& row, const QStringList& form) {
-        const QString& fresh = row[5];
-        const QStringList numbers = numbersIn(fresh);
-        write(row[1].toInt(), row[2].toInt(), row[3], numbers);
-        QString text = form.value(2).section(": ", 0, 0);
-        if (fresh.startsWith('"'))
-            text = fresh.section('"', 1, 1);
-        if (row[3].startsWith("char"))
-            record.replace(row[1].toInt(), text.size(), text.toLatin1());
-        else if (row[8] == "flag")
-            text = numbers[0] == "0" ? "no" : "yes";
-        else if (row[8].endsWith("list"))
-            text = form[3]; // the example is of the defaults
-        static const QRegularExpression place("%(0?)(\\d*)l?([dxf])");
-        for (int i = 0; text.contains(place); ++i) {
-            const auto match = place.match(text);
-            const QString number = numbers.value(i, numbers.value(0)); // one for both of a size
-            QString written = number;
-            if (match.captured(3) == "f")
-                written = QString::number(number.toDouble(), 'f', 6);
-            else if (match.captured(3) == "x")
-                written = QString::number(number.toUInt(nullptr, 0), 16)
-                              .rightJustified(match.captured(2).toInt(), '0');
-            text.replace(match.capturedStart(), match.capturedLength(), written);
-        }
-        if (!row[7].isEmpty() && !row[8].isEmpty())
-            texts[row[7].toStdString()] = text.toStdString();
-    }
 };
 
-TEST(PrefsTest, AFreshRecordIsWhatTheContractSaysAndStoredInEveryForm) {
+TEST(PrefsTest, AFreshRecordAndTheStoredKeysAndFormsAreThoseOfTheContract) {
     const Contract contract;
     EXPECT_EQ(bytesOf(prefs), contract.record.toHex().toStdString());
     ASSERT_TRUE(savePrefs());
-    EXPECT_EQ(storedTexts(), contract.texts);
+    EXPECT_EQ(storedTexts().size(), contract.forms.size());
+    for (const auto& [key, form] : contract.forms) {
+        EXPECT_TRUE(storedTexts().contains(key)) << key;
+        setText(key.c_str(), contract.examples.at(form));
+        prefsSetup();
+        ASSERT_TRUE(savePrefs());
+        EXPECT_EQ(storedTexts()[key], contract.examples.at(form)) << key;
+    }
 }
 
 /// Numbers of this process have a comma from now on.
