@@ -1,4 +1,4 @@
-"""Steps of the tour: the custom scan area, drawn on the desktop."""
+"""The custom scan area, drawn on the desktop."""
 
 import io
 from typing import TYPE_CHECKING, NamedTuple
@@ -15,9 +15,6 @@ if TYPE_CHECKING:
 
 SCAN_AREA = 1024  # the group of settings
 FIELDS |= {"scanArea": ("<4fB", 64)}  # and, behind it, whether it is in use
-
-# What the steps leave behind, as it is stored.
-CHANGED = {"scanner.scanArea": "origin(30.000000,40.000000); size(0.000000,0.000000)"}
 
 BUTTON = "Draw my own area", "push button"
 WHOLE_SCREEN, OWN_AREA = "The whole screen", "Only my own area"
@@ -115,24 +112,3 @@ def expect_area(tour: "Tour", area: Area) -> str:
     return account
 
 
-def draw_an_area(tour: "Tour") -> str:
-    """Draw an area on the desktop and keep it, then an empty one"""
-    tour.choose_tab("Scanning")
-    prompt = tour.desktop.size[0] // 2, tour.desktop.size[1] // 3 - 5
-    overlay = Overlay(tour, prompt)
-    drag((700, 600), (400, 300), (60, 120))
-    overlay.expect({(80, 140): DRAGGED, (690, 590): DRAGGED, (40, 140): NOTHING})
-    tour.picture("area-dragged")
-    let_go()
-    overlay.expect({(80, 140): CURRENT, (40, 140): NOTHING})
-    overlay.close("Return")
-    drawn = expect_area(tour, Area(60, 120, 640, 480))
-    overlay = Overlay(tour, prompt)
-    overlay.expect({(80, 140): CURRENT})
-    press("mousemove", "30", "40", "click", "1")
-    overlay.expect({(80, 140): NOTHING})
-    overlay.close("KP_Enter")
-    return f"{drawn}; {expect_area(tour, Area(30, 40, 0, 0))}"
-
-
-STEPS = (draw_an_area,)

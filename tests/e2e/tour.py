@@ -14,7 +14,7 @@ import traceback
 from contextlib import suppress
 from pathlib import Path
 
-from tests.e2e import hotkeys, palette, pointers, scanarea, startup, troubles
+from tests.e2e import hotkeys, palette, pointers, startup, troubles
 from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.screen import Screen, press
@@ -31,7 +31,6 @@ CHANGED = {
     "scanner.lineScanTime": "10.500000",
     "scanner.scanMode": "1",
     **palette.CHANGED,
-    **scanarea.CHANGED,
     **pointers.CHANGED,
 }
 
@@ -170,7 +169,6 @@ STEPS = (
     change_three_settings,
     *pointers.STEPS,
     *palette.STEPS,
-    *scanarea.STEPS,
     *hotkeys.STEPS,
     startup.launch_at_login,
     close_the_pane,

@@ -2,18 +2,9 @@
 
 #include "platform/CoreServices/AppleEvents.h"
 #include "platform/CoreServices/Processes.h"
+#include "tests/support/ApplicationTest.h"
 
 #include <QCoreApplication>
-#include <gtest/gtest.h>
-
-/// A test in a Qt application of that class.
-template <class Application>
-class ApplicationTest : public testing::Test {
-    int argc_ = 1;
-    char name_[5] = "test";
-    char* argv_[2] = {name_, nullptr};
-    Application application_{argc_, argv_};
-};
 
 /// A test that takes part once it says so.
 class ProcessTest : public ApplicationTest<QCoreApplication> {

@@ -1,10 +1,8 @@
 #include "platform/AppKit/NSColor.h"
 #include "platform/AppKit/NSGraphics.h"
-#include "platform/CoreGraphics/CGImage.h"
 #include "platform/QuickDraw/detail/GrafPort.h"
 #include "tests/platform/AppKit/TestForm.h"
 
-#include <QBitmap>
 #include <cmath>
 
 namespace {
@@ -51,25 +49,6 @@ TEST_F(DrawingTest, FramesAreEquallyWideOnAllSidesAtAnyScale) {
             EXPECT_EQ(widths[black], std::lround(scale));
         EXPECT_EQ(image.mirrored().transformed(QTransform().rotate(90)), image) << "as wide across";
     }
-}
-
-TEST_F(DrawingTest, ImagesStandUprightWhereYGrowsUpward) {
-    QImage source(2, 2, QImage::Format_ARGB32_Premultiplied);
-    source.fill(Qt::red);
-    source.setPixel(0, 0, qRgb(0, 0, 255));
-    const auto drawn = CFRef<CGImage>::adopt(new CGImage(source));
-    const auto commands = [&] {
-        const auto context = NSGraphicsContext::currentContext()->graphicsPort();
-        CGContextTranslateCTM(context.get(), 0, 20);
-        CGContextScaleCTM(context.get(), 1, -1);
-        for (const float left : {3.0F, 3e9F})
-            CGContextDrawImage(context.get(), CGRectMake(left, 4, 2, 2), drawn.get());
-    };
-    const QImage image = draw(commands, 2);
-    const QImage drawnAt = image.createMaskFromColor(kWhite, Qt::MaskInColor);
-    EXPECT_EQ(QRegion(QBitmap::fromImage(drawnAt)).boundingRect(), QRect(6, 28, 4, 4));
-    EXPECT_EQ(image.pixel(6, 28), qRgb(0, 0, 255));
-    EXPECT_EQ(image.pixel(9, 31), qRgb(255, 0, 0));
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "platform/AppKit/NSNib.h"
 #include "platform/AppKit/NSSlider.h"
 #include "platform/AppKit/NSTextField.h"
+#include "tests/support/ApplicationTest.h"
 
 #include <QApplication>
 #include <QTest>
@@ -72,7 +73,7 @@ public:
 };
 
 /// Runs Qt offscreen and loads forms written by the test.
-class FormTest : public testing::Test {
+class FormTest : public ApplicationTest<QApplication> {
 protected:
     bool load(const std::string& xml, NSObject& owner) {
         std::ofstream(path_) << xml;
@@ -96,13 +97,5 @@ protected:
 
     std::string path_ = std::string(std::getenv("KORVEX_TEST_SANDBOX")) + "/form.ui";
     std::vector<std::string> errors_;
-
-private:
-    int argc_ = 1;
-    char name_[5] = "test";
-    char* argv_[2] = {name_, nullptr};
-    QApplication application_{argc_, argv_};
-
-protected:
     NSNib nib_;
 };

@@ -20,18 +20,6 @@ CFRef<CGImage> load(const std::string& content) {
                                             kCGRenderingIntentDefault);
 }
 
-TEST(CGImageTest, DecodesEveryDepthToTheSamePixels) {
-    QImage plain(5, 3, QImage::Format_ARGB32);
-    plain.fill(Qt::white);
-    plain.setPixelColor(4, 2, Qt::black);
-    for (const auto format : {QImage::Format_Mono, QImage::Format_Indexed8,
-                              QImage::Format_Grayscale16, QImage::Format_RGBA64}) {
-        const auto image = load(pngBytes(plain.convertToFormat(format)));
-        ASSERT_TRUE(image) << format;
-        EXPECT_EQ(image->image().convertToFormat(QImage::Format_ARGB32), plain) << format;
-    }
-}
-
 TEST(CGImageTest, WhatIsNoWholePNGOrTooLargeIsNullAndTakesNoMemory) {
     const std::string whole = pngBytes(40, 40, Qt::red);
     const std::string cut = whole.substr(0, whole.size() - 30);

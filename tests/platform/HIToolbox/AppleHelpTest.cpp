@@ -1,10 +1,10 @@
 #include "platform/HIToolbox/AppleHelp.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
+#include "tests/support/ApplicationTest.h"
 
 #include <QApplication>
 #include <QDesktopServices>
 #include <QTextBrowser>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -13,7 +13,9 @@ namespace fs = std::filesystem;
 const std::string kName = "<key>CFBundleHelpBookName</key><string>Test Help</string>";
 const std::string kFolder = "<key>CFBundleHelpBookFolder</key><string>my help</string>";
 
-TEST(AppleHelpTest, OpensThePagesOfAWholeBookAndNoOthers) {
+using AppleHelpTest = ApplicationTest<QApplication>;
+
+TEST_F(AppleHelpTest, OpensThePagesOfAWholeBookAndNoOthers) {
     const fs::path bundle = makeSandboxFolder("Test Pane.prefPane");
     const fs::path resources = bundle / "Contents/Resources";
     for (const char* page : {"my help/index.html", "my help/tabs/scanning tab.html",
@@ -48,9 +50,6 @@ TEST(AppleHelpTest, OpensThePagesOfAWholeBookAndNoOthers) {
                  {"/etc/passwd", nullptr, nullptr},
                  {"tabs", nullptr, nullptr}};
 
-    int argc = 1;
-    char program[] = "test", *argv[] = {program, nullptr};
-    const QApplication application(argc, argv);
     const std::string folder =
         "file://" + bundle.parent_path().string() + "/Test%20Pane.prefPane/Contents/Resources/";
     const auto text = [](const char* ascii) { return ascii ? CFSTR(ascii) : nullptr; };

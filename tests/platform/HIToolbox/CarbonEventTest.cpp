@@ -1,10 +1,10 @@
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "platform/HIToolbox/detail/CarbonWindow.h"
+#include "tests/support/ApplicationTest.h"
 
 #include <QApplication>
 #include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -24,19 +24,6 @@ OSStatus call(EventHandlerCallRef, EventRef, void* userData) {
     return eventNotHandledErr;
 }
 
-TEST(CarbonEventTest, AParameterIsReadByNameAndTypeUpToTheBuffersSize) {
-    CarbonEvent event(kEventClassKeyboard, kEventRawKeyDown);
-    event.with(kEventParamKeyMacCharCodes, typeChar, std::array{'a', 'b'});
-    char first[2] = {};
-    const auto read = [&](EventParamName name, EventParamType type) {
-        return GetEventParameter(&event, name, type, nullptr, 1, nullptr, first);
-    };
-    EXPECT_EQ(read(kEventParamKeyMacCharCodes, typeChar), noErr);
-    EXPECT_EQ(std::string(first, 2), std::string("a\0", 2));
-    EXPECT_EQ(read(kEventParamKeyMacCharCodes, typeHIPoint), eventParameterNotFoundErr);
-    EXPECT_EQ(read(kEventParamMouseLocation, typeChar), eventParameterNotFoundErr);
-}
-
 /// Notes the modifiers of each event that it handles.
 struct Witness final : QWidget {
     void mouseReleaseEvent(QMouseEvent*) override { noted = GetCurrentEventKeyModifiers(); }
@@ -46,11 +33,9 @@ struct Witness final : QWidget {
     UInt32 noted = ~0u;
 };
 
-TEST(CarbonEventTest, AHandlerMayDisposeOfItsWindowAndModifiersAreThoseOfTheEvent) {
-    int argc = 1;
-    char name[] = "test", *argv[] = {name, nullptr};
-    const QApplication application(argc, argv);
+using CarbonEventTest = ApplicationTest<QApplication>;
 
+TEST_F(CarbonEventTest, AHandlerMayDisposeOfItsWindowAndModifiersAreThoseOfTheEvent) {
     std::string called;
     auto* window = new CarbonWindow(std::make_unique<QWidget>());
     Handler older{'1', &called}, disposing{'2', &called, window};

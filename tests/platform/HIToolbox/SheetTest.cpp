@@ -5,13 +5,13 @@
 #include "platform/HIToolbox/detail/CarbonWindow.h"
 #include "platform/HIToolbox/detail/HostedWindow.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
+#include "tests/support/ApplicationTest.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -31,7 +31,7 @@ constexpr char kForm[] =
  </widget></ui>)";
 
 /// A window with a field, and a sheet made from an interface file, which "Cncl" disposes of.
-class SheetTest : public testing::Test {
+class SheetTest : public ApplicationTest<QApplication> {
 protected:
     SheetTest() {
         content.resize(640, 480);
@@ -69,13 +69,6 @@ protected:
         return noErr;
     }
 
-private:
-    int argc_ = 1;
-    char name_[5] = "test";
-    char* argv_[2] = {name_, nullptr};
-    QApplication application_{argc_, argv_};
-
-protected:
     QWidget content;
     QLineEdit field{&content};
     WindowRef sheet = nullptr;

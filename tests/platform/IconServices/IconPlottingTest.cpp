@@ -1,9 +1,9 @@
 #include "platform/IconServices/Icons.h"
 #include "platform/IconServices/detail/IconImages.h"
 #include "platform/QuickDraw/detail/GrafPort.h"
+#include "tests/support/ApplicationTest.h"
 
 #include <QApplication>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -21,11 +21,9 @@ CFRef<Icon> makeIcon(const std::vector<QSize>& sizes) {
     return CFRef<Icon>::adopt(new Icon(std::move(images)));
 }
 
-TEST(IconPlottingTest, TakesTheImageForThePixelsAndCentresIt) {
-    int argc = 1;
-    char name[] = "test";
-    char* argv[] = {name, nullptr};
-    const QApplication application(argc, argv);
+using IconPlottingTest = ApplicationTest<QApplication>;
+
+TEST_F(IconPlottingTest, TakesTheImageForThePixelsAndCentresIt) {
     QWidget widget;
     widget.resize(100, 100);
     const std::vector<QSize> squares = {{16, 16}, {32, 32}, {64, 64}}, wide = {{16, 12}};

@@ -1,12 +1,13 @@
 #include "src/prefpane/choosearea.h"
 
+#include "tests/support/ApplicationTest.h"
+
 #include <QApplication>
 #include <QBackingStore>
 #include <QFile>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
-#include <gtest/gtest.h>
 
 #include <functional>
 #include <random>
@@ -34,7 +35,7 @@ struct TwoDisplays {
     }
 };
 
-class ChooseAreaTest : private TwoDisplays, public testing::Test {
+class ChooseAreaTest : private TwoDisplays, public ApplicationTest<QApplication> {
 protected:
     /// Runs the chooser, and `user` once it is shown.
     bool choose(CGRect& area, const std::function<void()>& user) {
@@ -74,12 +75,6 @@ protected:
     }
 
     QWidget* overlay_ = nullptr;
-
-private:
-    int argc_ = 1;
-    char name_[5] = "test";
-    char* argv_[2] = {name_, nullptr};
-    QApplication application_{argc_, argv_};
 };
 
 constexpr CGRect kArea = {{100, 50}, {640, 480}};

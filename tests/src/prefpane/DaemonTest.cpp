@@ -7,7 +7,6 @@
 
 #include <QDBusPendingCall>
 #include <QElapsedTimer>
-#include <QRadioButton>
 
 namespace {
 
@@ -94,32 +93,6 @@ TEST_F(DaemonTest, OnlyAReportOfAnotherStateIsKeptAndNoneIsSentBack) {
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
     EXPECT_EQ(answerTo(kAgentClass, kOnOff, off), errAEEventNotHandled)
         << "after the pane was put away";
-}
-
-TEST_F(DaemonTest, AFloodOfRubbishChangesNothingAndHoldsNothingUp) {
-    openWithAgent();
-    PrefsRecord expected = prefs;
-    AppleEvent event{kAgentClass, kOnOff, {}, {}};
-    ASSERT_EQ(GetCurrentProcess(&event.target), noErr);
-    for (UInt32 i = 0; i < 5000; ++i) {
-        event.eventID = i % 3 ? kOnOff : i;
-        event.parameters = {{i % 2 ? keyDirectObject : i, {i % 5 ? typeUInt32 : typeBoolean, {}}}};
-        event.parameters[1].data.resize(i % 100 ? i : (1 << 20) + 1);
-        QDBusMessage message = messageOfEvent(event);
-        if (i % 7 == 0)
-            message.setArguments({QStringLiteral("rubbish"), i});
-        otherProgram_.send(message);
-        if (i == 2500)
-            click("volumeDecBtn"); // in the midst of it
-    }
-    EXPECT_EQ(agentLog_.next()["mask"].toInteger(), kChangeSounds);
-    // Handled after all of them.
-    EXPECT_EQ(answerTo(kAgentClass, kOnOff, state(typeBoolean, {0})), noErr);
-    expected.soundLevel -= 1;
-    expected.on = 0;
-    EXPECT_EQ(std::memcmp(&prefs, &expected, sizeof prefs), 0);
-    EXPECT_TRUE(find<QRadioButton>("masterOnOffRadios0")->isChecked());
-    EXPECT_THAT(remainingMasks(), testing::IsEmpty());
 }
 
 } // namespace

@@ -3,10 +3,10 @@
 #include "platform/AppKit/detail/ViewWidget.h"
 #include "src/prefpane/palutil.h"
 #include "tests/support/AgentBundle.h"
+#include "tests/support/ApplicationTest.h"
 
 #include <QApplication>
 #include <QTest>
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
@@ -23,7 +23,7 @@ constexpr int kFrame = 3;        // pixels of the outer frame, at most
 constexpr int kBandX = 250;      // where nothing but the band is, between the pointer and the label
 
 /// The view on its own, with an agent's bundle that has nothing but the pointers of the test.
-class SampleScanViewTest : public testing::Test {
+class SampleScanViewTest : public ApplicationTest<QApplication> {
 protected:
     SampleScanViewTest() { view_.attachWidget(&widget_), palutilSetup(); }
 
@@ -64,14 +64,7 @@ protected:
         EXPECT_NE(image.pixel(x, y + scale), kBlack) << "transparent";
     }
 
-private:
-    int argc_ = 1;
-    char name_[5] = "test";
-    char* argv_[2] = {name_, nullptr};
-    QApplication application_{argc_, argv_};
     AgentBundle bundle_;
-
-protected:
     ViewWidget widget_{nullptr};
     SampleScanView view_;
 };
