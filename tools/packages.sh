@@ -14,7 +14,7 @@ tour_packages=(
     xvfb x11-utils x11-xkb-utils x11-xserver-utils picom openbox xdotool maim dex
     at-spi2-core python3-gi python3-pil gir1.2-atspi-2.0
 )
-check_packages=(git clang-format-14 libbenchmark-dev)
+check_packages=(git clang-format-14 clang-tidy-14 libbenchmark-dev)
 
 # install_packages NAME... as root, or through sudo
 install_packages() {

@@ -92,6 +92,10 @@ def keep_to_the_overlay(tour: Tour, setup: Setup) -> None:
     check(tour.program.poll() is None, "the program has ended")
     x, y, width, height = setup.area
     expect_area(tour, Area(x, y - 10, width + 10, height + 10))
+    overlay = Overlay(tour, setup.prompt)
+    press("mousemove", "100", "100", "click", "1")
+    overlay.close("KP_Enter")
+    expect_area(tour, Area(x, y, 0, 0))
 
 
 def take_a_display_away(tour: Tour, setup: Setup) -> None:

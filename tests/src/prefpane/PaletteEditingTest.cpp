@@ -185,12 +185,16 @@ TEST_F(PaletteEditingTest, AButtonThatDisablesItselfLeavesTheKeyboardWhereOneMor
 TEST_F(PaletteEditingTest, ShapeContentAndSizeAreSetAndBounded) {
     openWithAgent();
     click("buttonShapeRadios1");
-    EXPECT_EQ(recordField<PrefsRecord>(agentLog_.next(), 0).buttonShape, 1U);
+    const QJsonObject shape = agentLog_.next();
+    EXPECT_EQ(shape["mask"].toInteger(), kChangePalette);
+    EXPECT_EQ(recordField<PrefsRecord>(shape, 0).buttonShape, 1U);
     for (const auto& [check, content] : {std::pair("buttonContentNameCheck", 1U),
                                          {"buttonContentIconCheck", 0},
                                          {"buttonContentNameCheck", 2}}) {
         click(check);
-        EXPECT_EQ(recordField<PrefsRecord>(agentLog_.next(), 0).buttonContent, content);
+        const QJsonObject event = agentLog_.next();
+        EXPECT_EQ(event["mask"].toInteger(), kChangePalette);
+        EXPECT_EQ(recordField<PrefsRecord>(event, 0).buttonContent, content);
     }
 
     const struct {
