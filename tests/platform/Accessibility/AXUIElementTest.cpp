@@ -1,6 +1,7 @@
 #include "platform/Accessibility/AXUIElement.h"
 
 #include "tests/support/AccessibilityService.h"
+#include "tests/support/ApplicationTest.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -10,12 +11,7 @@
 
 namespace {
 
-struct AXUIElementTest : testing::Test {
-    int argc = 1;
-    char name[5] = "test";
-    char* argv[2] = {name, nullptr};
-    QCoreApplication application{argc, argv};
-};
+using AXUIElementTest = ApplicationTest<QCoreApplication>;
 
 void expectSoon(bool isOn) {
     EXPECT_TRUE(QTest::qWaitFor([=] { return AXAPIEnabled() == isOn; }, 10'000)) << isOn;
