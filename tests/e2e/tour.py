@@ -14,7 +14,7 @@ import traceback
 from contextlib import suppress
 from pathlib import Path
 
-from tests.e2e import hotkeys, palette, pointers, startup, troubles
+from tests.e2e import hotkeys, palette, startup, troubles
 from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.screen import Screen, press
@@ -31,7 +31,6 @@ CHANGED = {
     "scanner.lineScanTime": "10.500000",
     "scanner.scanMode": "1",
     **palette.CHANGED,
-    **pointers.CHANGED,
 }
 
 
@@ -167,7 +166,6 @@ STEPS = (
     launch_the_agent,
     look_at_the_tabs,
     change_three_settings,
-    *pointers.STEPS,
     *palette.STEPS,
     *hotkeys.STEPS,
     startup.launch_at_login,

@@ -4,6 +4,7 @@
 #include "tests/support/PaneFixture.h"
 
 #include <QAccessible>
+#include <QColorDialog>
 #include <QLabel>
 
 namespace {
@@ -41,6 +42,28 @@ TEST_F(PointerChoiceTest, ThePreviewAndTheNameTellWhatIsSet) {
     putAway();
     char name[kMaxPointerNameLength + 1];
     EXPECT_FALSE(ptrmanGetNextPointer(nullptr, true, name)) << "names outlive the visit";
+}
+
+TEST_F(PointerChoiceTest, TheAgentHearsOfAnotherPointerAndColour) {
+    openWithAgent();
+    QJsonObject event;
+    for (const auto& [button, isDefault] :
+         {std::pair("nextPointerBtn", false), {"previousPointerBtn", true}}) {
+        click(button);
+        event = agentLog_.next();
+        EXPECT_EQ(event["mask"].toInteger(), kChangePointer);
+        const auto record = recordField<PrefsRecord>(event, 0);
+        EXPECT_EQ(std::memcmp(record.pointerImageName, PrefsRecord().pointerImageName,
+                              sizeof record.pointerImageName) == 0,
+                  isDefault);
+    }
+    click("lineColor");
+    find("lineColor")->findChild<QColorDialog*>()->setCurrentColor({101, 0, 254});
+    event = agentLog_.next();
+    EXPECT_EQ(event["mask"].toInteger(), kChangeScanLineLook | kChangeGuideLineLook);
+    const LineColor color = recordField<PrefsRecord>(event, 0).lineColor;
+    EXPECT_EQ(std::tuple(color.red, color.green, color.blue), std::tuple(101, 0, 254));
+    EXPECT_THAT(remainingMasks(), testing::IsEmpty());
 }
 
 } // namespace
