@@ -102,6 +102,7 @@ TEST_F(HotKeyTest, CapturesWhateverIsPressed) {
 }
 
 TEST_F(HotKeyTest, HotKeysThatTheAgentCantTellApartAreNoted) {
+    prefs.hotKeys[0] = {0x69, 0x0100};
     prefs.hotKeys[1] = {0x69, 0xFFFFE4FF};
     prefs.hotKeys[2] = {0x69, 0};
     prefs.hotKeys[3].keyCode = prefs.hotKeys[4].keyCode = -1; // none, twice
