@@ -1,3 +1,4 @@
+#include "host/Appearance.h"
 #include "host/Arguments.h"
 #include "host/Command.h"
 #include "host/PaneHost.h"
@@ -110,8 +111,10 @@ int run(const Arguments& arguments, int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("korvex-preferences"));
     QApplication::setDesktopFileName(QStringLiteral("org.korvex.Preferences"));
-    if (arguments.task != Arguments::Task::Check)
+    if (arguments.task != Arguments::Task::Check) {
+        Appearance::follow();
         return show(arguments, activation);
+    }
     PaneHost host;
     return load(host, arguments.bundle, Arguments::Task::Check) ? kDone : kFailed;
 }

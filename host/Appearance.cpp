@@ -1,0 +1,147 @@
+#include "host/Appearance.h"
+
+#include <QApplication>
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+namespace {
+
+const auto kService = QStringLiteral("org.freedesktop.portal.Desktop");
+const auto kPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const auto kInterface = QStringLiteral("org.freedesktop.portal.Settings");
+
+using Groups = QMap<QString, QVariantMap>;
+
+/// The portal may have to be started for it, in milliseconds.
+constexpr int kTimeoutMs = 10'000;
+
+/// Anything else stands for no wish.
+constexpr double kLeastTextScale = 0.5, kMostTextScale = 3;
+
+/// Three parts from 0 to 1; anything else stands for no wish.
+QColor color(const QVariant& value) {
+    if (!value.canConvert<QDBusArgument>())
+        return {};
+    const auto argument = value.value<QDBusArgument>();
+    if (argument.currentSignature() != QLatin1String("(ddd)"))
+        return {};
+    double parts[3];
+    argument.beginStructure();
+    for (double& part : parts)
+        argument >> part;
+    argument.endStructure();
+    for (const double part : parts)
+        if (!(part >= 0 && part <= 1))
+            return {};
+    return QColor::fromRgbF(static_cast<float>(parts[0]), static_cast<float>(parts[1]),
+                            static_cast<float>(parts[2]));
+}
+
+DesktopLook::Scheme scheme(const QVariant& value) {
+    using Scheme = DesktopLook::Scheme;
+    return value == 1U ? Scheme::Dark : value == 2U ? Scheme::Light : Scheme::Any;
+}
+
+double scale(const QVariant& value) {
+    const double wish = value.toDouble();
+    return wish >= kLeastTextScale && wish <= kMostTextScale ? wish : 1;
+}
+
+/// Those that all desktops have in common, and GNOME's for those that it says nowhere else. A value
+/// of another type stands for no wish.
+constexpr struct Wish {
+    const char *group, *key;
+    void (*take)(DesktopLook&, const QVariant&);
+} kWishes[] = {
+    {"org.freedesktop.appearance", "color-scheme",
+     [](DesktopLook& look, const QVariant& value) { look.scheme = scheme(value); }},
+    {"org.freedesktop.appearance", "contrast",
+     [](DesktopLook& look, const QVariant& value) { look.highContrast = value == 1U; }},
+    {"org.freedesktop.appearance", "reduced-motion",
+     [](DesktopLook& look, const QVariant& value) { look.reducedMotion = value == 1U; }},
+    {"org.freedesktop.appearance", "accent-color",
+     [](DesktopLook& look, const QVariant& value) { look.accent = color(value); }},
+    {"org.gnome.desktop.a11y.interface", "high-contrast",
+     [](DesktopLook& look, const QVariant& value) { look.highContrast = value == true; }},
+    {"org.gnome.desktop.interface", "enable-animations",
+     [](DesktopLook& look, const QVariant& value) { look.reducedMotion = value == false; }},
+    {"org.gnome.desktop.interface", "text-scaling-factor",
+     [](DesktopLook& look, const QVariant& value) { look.textScale = scale(value); }},
+};
+
+/// X11's server tells the resolution of text, in which the desktop has its scale.
+bool serverScalesText() {
+    return QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
+} // namespace
+
+void Appearance::follow() {
+    new Appearance(QCoreApplication::instance());
+}
+
+Appearance::Appearance(QObject* application)
+    : QObject(application), themeFont_(QApplication::font()) {
+    auto bus = QDBusConnection::sessionBus();
+    // From any sender: who owns the portal's name would be a question to wait for.
+    bus.connect(QString(), kPath, kInterface, QStringLiteral("SettingChanged"), this,
+                SLOT(settingChanged(QDBusMessage)));
+    ask();
+}
+
+void Appearance::ask() {
+    auto call =
+        QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("ReadAll"));
+    QStringList groups;
+    for (const Wish& wish : kWishes)
+        groups << QLatin1String(wish.group);
+    groups.removeDuplicates();
+    call << groups;
+    auto* watcher = new QDBusPendingCallWatcher(
+        QDBusConnection::sessionBus().asyncCall(call, kTimeoutMs), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        const QDBusMessage reply = watcher->reply();
+        if (reply.signature() != QLatin1String("a{sa{sv}}"))
+            return;
+        const auto told = qdbus_cast<Groups>(reply.arguments().constFirst());
+        for (auto group = told.begin(); group != told.end(); ++group)
+            for (auto each = group->begin(); each != group->end(); ++each)
+                take(group.key(), each.key(), each.value());
+        apply();
+    });
+}
+
+void Appearance::settingChanged(const QDBusMessage& signal) {
+    if (signal.signature() != QLatin1String("ssv"))
+        return;
+    const auto told = signal.arguments();
+    take(told[0].toString(), told[1].toString(), told[2].value<QDBusVariant>().variant());
+    apply();
+}
+
+void Appearance::take(const QString& group, const QString& key, const QVariant& value) {
+    for (const Wish& wish : kWishes)
+        if (group == QLatin1String(wish.group) && key == QLatin1String(wish.key))
+            wish.take(look_, value);
+}
+
+void Appearance::apply() {
+    if (look_ == applied_)
+        return;
+    applied_ = look_;
+    QApplication::setPalette(QPalette()); // the theme's, as it is by now
+    QApplication::setPalette(desktopPalette(look_, QApplication::palette()));
+    if (!serverScalesText() && themeFont_.pointSizeF() > 0) {
+        QFont font = themeFont_;
+        font.setPointSizeF(font.pointSizeF() * look_.textScale);
+        QApplication::setFont(font);
+    }
+    for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo,
+                              Qt::UI_AnimateTooltip, Qt::UI_FadeTooltip})
+        QApplication::setEffectEnabled(effect, !look_.reducedMotion);
+    qApp->setProperty("reducedMotion", look_.reducedMotion);
+}
