@@ -24,6 +24,11 @@ void NSButton::attachWidget(QWidget* widget) {
     connectToggleAction(button, [this] { sendActionOutsideEvents(); });
 }
 
+void NSButton::setTitle(std::string_view utf8) {
+    static_cast<QAbstractButton*>(widget())->setText(
+        QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
+}
+
 int NSButton::state() const {
     return static_cast<const QAbstractButton*>(widget())->isChecked() ? NSOnState : NSOffState;
 }

@@ -11,6 +11,8 @@ class NSButton : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;
 
+    void setTitle(std::string_view utf8);
+
     int state() const;
     void setState(int state);
 

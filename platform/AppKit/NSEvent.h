@@ -33,12 +33,17 @@ struct NSEventKey {
     bool isARepeat = false;   ///< the key was down already
 };
 
-/// A press of the mouse's left button, of a key or of a modifier key, on its way to a view.
+/// A press or release of a mouse button, of a key or of a modifier key, on its way to a view.
 class NSEvent {
 public:
-    static NSEvent mouseDown(NSPoint locationInWindow) { return {locationInWindow, {}}; }
+    static NSEvent mouseDown(NSPoint locationInWindow, double timestamp = 0) {
+        return {locationInWindow, {}, timestamp};
+    }
 
-    static NSEvent key(const NSEventKey& key) { return {{}, key}; }
+    static NSEvent key(const NSEventKey& key, double timestamp = 0) { return {{}, key, timestamp}; }
+
+    /// When it happened, not when it is handled: seconds of GetCurrentEventTime's clock.
+    double timestamp() const { return timestamp_; }
 
     /// Of the mouse; y grows downward.
     NSPoint locationInWindow() const { return locationInWindow_; }
@@ -59,10 +64,11 @@ public:
     bool isPassedOn() const { return passedOn_; }
 
 private:
-    NSEvent(NSPoint locationInWindow, const NSEventKey& key)
-        : locationInWindow_(locationInWindow), key_(key) {}
+    NSEvent(NSPoint locationInWindow, const NSEventKey& key, double timestamp)
+        : locationInWindow_(locationInWindow), key_(key), timestamp_(timestamp) {}
 
     NSPoint locationInWindow_;
     NSEventKey key_;
+    double timestamp_;
     bool passedOn_ = false;
 };

@@ -53,6 +53,12 @@ void NSView::addSubview(NSView* view) {
     subwidget->show();
 }
 
+void NSView::setHidden(bool hidden) {
+    if (hidden)
+        moveFocusOutOf(widget_);
+    widget_->setHidden(hidden);
+}
+
 NSRect NSView::frame() const {
     return toNSRect(widget_->geometry());
 }
@@ -96,6 +102,22 @@ void NSView::mouseDown(NSEvent* event) {
 }
 
 void NSView::keyDown(NSEvent* event) {
+    event->passOn();
+}
+
+void NSView::keyUp(NSEvent* event) {
+    event->passOn();
+}
+
+void NSView::otherMouseUp(NSEvent* event) {
+    event->passOn();
+}
+
+void NSView::otherMouseDown(NSEvent* event) {
+    event->passOn();
+}
+
+void NSView::mouseUp(NSEvent* event) {
     event->passOn();
 }
 

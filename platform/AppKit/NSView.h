@@ -29,6 +29,9 @@ public:
     /// superview returns to its old place.
     void addSubview(NSView* view);
 
+    /// Hidden it takes no room, and neither keyboard nor screen reader find it.
+    void setHidden(bool hidden);
+
     NSRect frame() const;  ///< in the superview's coordinates
     NSRect bounds() const; ///< in its own: origin 0, 0
     void setNeedsDisplay(bool needsDisplay);
@@ -50,7 +53,13 @@ public:
     /// Draws the view. What lies outside `dirtyRect` need not be drawn.
     virtual void drawRect(const NSRect& dirtyRect);
     virtual void mouseDown(NSEvent* event);
+    /// The left button was released, after a mouseDown that wasn't passed on.
+    virtual void mouseUp(NSEvent* event);
+    /// The same of any other button.
+    virtual void otherMouseDown(NSEvent* event);
+    virtual void otherMouseUp(NSEvent* event);
     virtual void keyDown(NSEvent* event);
+    virtual void keyUp(NSEvent* event);
 
     /// Offers a key, held with others or alone, before any shortcut sees it. Asked of the view that
     /// the keyboard acts on; true when that was its use, and it goes no further.

@@ -1,9 +1,30 @@
 #include "platform/AppKit/NSWindow.h"
 
 #include "platform/AppKit/NSView.h"
+#include "platform/AppKit/detail/ContentCover.h"
 #include "platform/HIToolbox/detail/HostedWindow.h"
 
+#include <QScreen>
 #include <QWidget>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double kMillimetresAnInch = 25.4;
+/// Points an inch; what a display says beyond these isn't true.
+constexpr double kLeastDensity = 40, kMostDensity = 400, kCommonDensity = 96;
+
+NSSize millimetresOf(const QScreen& screen) {
+    const QSizeF points = screen.geometry().size(), told = screen.physicalSize();
+    const double density =
+        told.height() > 0 ? points.height() / told.height() * kMillimetresAnInch : 0;
+    const bool isLikely = density >= kLeastDensity && density <= kMostDensity;
+    const QSizeF size = isLikely ? told : points / kCommonDensity * kMillimetresAnInch;
+    return {static_cast<float>(size.width()), static_cast<float>(size.height())};
+}
+
+} // namespace
 
 void NSWindow::makeFirstResponder(NSView* view) {
     if (view)
@@ -14,4 +35,27 @@ void NSWindow::makeFirstResponder(NSView* view) {
 
 WindowRef NSWindow::windowRef() const {
     return windowRefOf(window_);
+}
+
+void NSWindow::setContentView(NSView* view) {
+    // One at a time: the former one goes first.
+    delete ContentCover::of(window_);
+    if (view)
+        new ContentCover(window_, view->widget());
+}
+
+void NSWindow::toggleFullScreen() {
+    window_->setWindowState(window_->windowState() ^ Qt::WindowFullScreen);
+}
+
+bool NSWindow::isFullScreen() const {
+    return window_->isFullScreen();
+}
+
+NSScreen NSWindow::screen() const {
+    const QScreen& screen = *window_->screen();
+    const QSizeF points = screen.geometry().size();
+    return {{static_cast<float>(points.width()), static_cast<float>(points.height())},
+            millimetresOf(screen),
+            std::max(screen.refreshRate(), 1.0)};
 }

@@ -4,6 +4,7 @@
 
 // Timers of the main thread's event loop.
 
+using EventTime = double;          ///< seconds since the computer started
 using EventTimerInterval = double; ///< seconds
 using EventLoopRef = class CarbonEventLoop*;
 using EventLoopTimerRef = class CarbonTimer*;
@@ -15,8 +16,11 @@ constexpr EventLoopTimerUPP NewEventLoopTimerUPP(EventLoopTimerUPP function) {
 
 EventLoopRef GetMainEventLoop();
 
-/// Calls the function once, after `delay`: `interval` is 0. The timer is to be removed, whether or
-/// not it has fired.
+/// A steady clock, whatever becomes of the date.
+EventTime GetCurrentEventTime();
+
+/// Calls the function after `delay` and then, unless `interval` is 0, again and again. The timer is
+/// to be removed, whether or not it has fired.
 OSStatus InstallEventLoopTimer(EventLoopRef loop, EventTimerInterval delay,
                                EventTimerInterval interval, EventLoopTimerUPP function,
                                void* userData, EventLoopTimerRef* timer);

@@ -104,6 +104,7 @@ std::span<const NSAction> PreferenceWrangler::actions() const {
         nsAction<&W::changedButtonShape>("changedButtonShape:"),
         nsAction<&W::changedButtonContentName>("changedButtonContentName:"),
         nsAction<&W::changedButtonContentIcon>("changedButtonContentIcon:"),
+        nsAction<&W::findMySpeed>("findMySpeed:"),
         nsAction<&W::previousPointer>("previousPointer:"),
         nsAction<&W::nextPointer>("nextPointer:"),
     };

@@ -7,6 +7,7 @@
 #include "src/prefpane/PaletteEditor.h"
 #include "src/prefpane/PointerChooser.h"
 #include "src/settings.h"
+#include "src/tryout/TryPage.h"
 
 #include <array>
 #include <vector>
@@ -26,7 +27,8 @@ class SampleScanView;
 class PreferenceWrangler final : public NSObject,
                                  public NumberChangeTarget,
                                  public PaletteViewTarget,
-                                 public HotKeyViewTarget {
+                                 public HotKeyViewTarget,
+                                 public TryPageTarget {
 public:
     PreferenceWrangler() = default;
     ~PreferenceWrangler() override;
@@ -125,6 +127,11 @@ public:
     void changedButtonContentName(NSButton* sender) { palette_.changedButtonContentName(*sender); }
 
     void changedButtonContentIcon(NSButton* sender) { palette_.changedButtonContentIcon(*sender); }
+
+    // PreferenceWranglerTryout.cpp: finding the speed of the line
+
+    void findMySpeed(NSButton* sender);
+    void takeLineScanTime(double seconds) override;
 
     // PointerChooser: the choice of a pointer
 

@@ -9,6 +9,7 @@
 #include "src/prefpane/palutil.h"
 #include "src/prefpane/ptrman.h"
 #include "src/recovery.h"
+#include "src/tryout/TryPage.h"
 
 NS_REGISTER_CLASS(VLDKorvexPane);
 
@@ -73,6 +74,7 @@ bool VLDKorvexPane::commitEditing() {
 }
 
 void VLDKorvexPane::didUnselect() {
+    tryPageClose();
     openWindowCleanup();
     axReqCancel();
     ptrmanCleanup();

@@ -134,12 +134,13 @@ Advice advise(const Measured& measured, const Conditions& tried) {
     std::vector<double> offsets = measured.earlierOffsets;
     offsets.insert(offsets.end(), sample.offsets.begin(), sample.offsets.end());
     advice.timing = {median(offsets), spread(offsets)};
+    if (advice.presses >= kFewestTrials)
+        advice.cautious = cautiousTiming(advice.timing, static_cast<int>(offsets.size()));
     const auto wrong = objection(measured, sample, advice.timing.lateness);
     if (wrong) {
         advice.verdict = *wrong;
         return advice;
     }
-    advice.cautious = cautiousTiming(advice.timing, static_cast<int>(offsets.size()));
     adviseTime(advice, tried);
     advice.expected = rateAt(advice.time, tried, advice.timing);
     advice.promised = rateAt(advice.time, tried, advice.cautious);

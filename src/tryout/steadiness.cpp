@@ -26,7 +26,7 @@ std::optional<double> mostOf(const std::vector<double>& sample) {
 Steadiness steady(const Measured& measured) {
     std::vector<double> readyTimes, holds, gaps, extraHolds;
     for (const Trial& trial : measured.trials) {
-        if (trial.pressed)
+        if (trial.pressed && trial.hold > 0)
             holds.push_back(trial.hold);
         if (trial.ready > 0)
             readyTimes.push_back(trial.ready);

@@ -12,7 +12,7 @@ struct Trial {
     bool pressed = false; ///< else the line ran to the far edge, and what follows is 0
     double offset = 0;    ///< of the press from the crossing; negative: early
     double miss = 0;      ///< of the stopped line's centre from the mark; negative: short of it
-    double hold = 0;      ///< how long the key was down
+    double hold = 0;      ///< how long the key was down; 0: not known
     double ready = 0;     ///< from its release to the next press that was asked for; 0: none came
 };
 

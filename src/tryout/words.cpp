@@ -22,6 +22,39 @@ int tenths(double share) {
     return static_cast<int>(share * 10 + 1e-9);
 }
 
+const char* howToPress(Trigger::Way way) {
+    switch (way) {
+    case Trigger::Way::Release:
+        return "Press early, and let go when the line is on the mark.";
+    case Trigger::Way::Hold:
+        return "Hold your switch down to start the line, and let go when it is on the mark.";
+    default:
+        return "Press when the line is on the mark.";
+    }
+}
+
+std::string readyText(const Session& session, const Trigger& trigger) {
+    const char* begin = trigger.way == Trigger::Way::Hold ? "Hold" : "Press";
+    if (session.sweepIndex() == 0)
+        return format("A line will sweep from top to bottom. %s The first two sweeps are for "
+                      "getting used to it. Press any key or button when you are ready.",
+                      howToPress(trigger.way));
+    if (session.isFree())
+        return format("Ready. %s for free sweep %d of %d, when you like.", begin,
+                      session.sweepIndex() + 1, kFreeSweeps);
+    return format("Ready. %s for sweep %d of %d, when you like.", begin,
+                  session.sweepIndex() - kFreeSweeps + 1, kMeasuredSweeps);
+}
+
+std::string stoppedText(const Session& session) {
+    const Trial& last = session.last();
+    if (!last.pressed)
+        return "The line passed.";
+    if (std::abs(last.miss) <= session.target() / 2)
+        return "On the mark.";
+    return format("%.0f mm %s the mark.", std::abs(last.miss), last.miss < 0 ? "before" : "past");
+}
+
 std::string hitsText(const Advice& advice, const Conditions& tried, const Measured& measured) {
     return format("You stopped within %.0f mm of the mark %d times in %zu. ", tried.target / 2,
                   advice.hits, measured.trials.size());
@@ -65,6 +98,38 @@ std::string unsteadyText(const Advice& advice, const Measured& measured) {
                   measured.extras.size(), all);
 }
 
+/// The settings that would steady the presses; empty when there was nothing to measure.
+std::string steadinessText(const Steadiness& steadiness) {
+    std::string text;
+    if (steadiness.preScanDelay)
+        text += format("Ready for the next press after %.1f seconds. ", *steadiness.preScanDelay);
+    if (steadiness.afterClickDelay)
+        text += format("Ignoring presses for %.1f seconds after a click would catch most of those "
+                       "that nothing asked for. ",
+                       *steadiness.afterClickDelay);
+    if (steadiness.minTriggerDuration)
+        text +=
+            format("A shortest press of %.1f seconds would, too. ", *steadiness.minTriggerDuration);
+    if (steadiness.holdsOverlap)
+        text += "They last as long as your other presses, so no shortest press tells them apart. ";
+    if (!text.empty())
+        text.pop_back();
+    return text;
+}
+
+/// Of as many presses as any advice takes.
+std::string numbersText(const Advice& advice) {
+    if (advice.presses < kFewestTrials)
+        return {};
+    std::string text =
+        format("Lateness %.0f ms, spread %.0f ms (%.0f ms at most), from %d presses.",
+               advice.timing.lateness * 1000, advice.timing.spread * 1000,
+               advice.cautious.spread * 1000, advice.presses);
+    if (advice.surest)
+        text += format(" %d in 10 takes %.1f seconds.", tenths(kSurestRate), *advice.surest);
+    return text;
+}
+
 } // namespace
 
 std::string resultText(const Advice& advice, const Conditions& tried, const Measured& measured) {
@@ -95,32 +160,36 @@ std::string resultText(const Advice& advice, const Conditions& tried, const Meas
     return {};
 }
 
-std::string steadinessText(const Steadiness& steadiness) {
-    std::string text;
-    if (steadiness.preScanDelay)
-        text += format("Ready for the next press after %.1f seconds. ", *steadiness.preScanDelay);
-    if (steadiness.afterClickDelay)
-        text += format("Ignoring presses for %.1f seconds after a click would catch most of those "
-                       "that nothing asked for. ",
-                       *steadiness.afterClickDelay);
-    if (steadiness.minTriggerDuration)
-        text +=
-            format("A shortest press of %.1f seconds would, too. ", *steadiness.minTriggerDuration);
-    if (steadiness.holdsOverlap)
-        text += "They last as long as your other presses, so no shortest press tells them apart. ";
-    if (!text.empty())
-        text.pop_back();
-    return text;
+std::string detailsText(const Advice& advice, const Steadiness& steadiness) {
+    const std::string numbers = numbersText(advice), steady = steadinessText(steadiness);
+    return numbers + (numbers.empty() || steady.empty() ? "" : " ") + steady;
 }
 
-std::string numbersText(const Advice& advice) {
-    std::string text =
-        format("Lateness %.0f ms, spread %.0f ms (%.0f ms at most), from %d presses.",
-               advice.timing.lateness * 1000, advice.timing.spread * 1000,
-               advice.cautious.spread * 1000, advice.presses);
-    if (advice.surest)
-        text += format(" %d in 10 takes %.1f seconds.", tenths(kSurestRate), *advice.surest);
-    return text;
+std::string courseText(const Session& session, const Trigger& trigger) {
+    switch (session.phase()) {
+    case Session::Phase::Ready:
+        return readyText(session, trigger);
+    case Session::Phase::Delay:
+        return "Wait for the line.";
+    case Session::Phase::Sweeping:
+        return "Go.";
+    case Session::Phase::Stopped:
+        return stoppedText(session);
+    case Session::Phase::Done:
+        break;
+    }
+    return {};
+}
+
+std::string pastTryText(const PastTry& past) {
+    return format("%s: %.1f seconds, %.0f hits and %.0f misses, lateness %.0f ms, spread %.0f ms",
+                  past.date.c_str(), past.sweepTime, past.hits, past.misses, past.lateness * 1000,
+                  past.spread * 1000);
+}
+
+std::string pastTryRow(const PastTry& past) {
+    return format("%s   %.1f s   %.0f of %.0f   spread %.0f ms", past.date.c_str(), past.sweepTime,
+                  past.hits, past.hits + past.misses, past.spread * 1000);
 }
 
 } // namespace tryout

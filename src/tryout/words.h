@@ -1,6 +1,8 @@
 #pragma once
 
 #include "src/tryout/advice.h"
+#include "src/tryout/pasttry.h"
+#include "src/tryout/session.h"
 #include "src/tryout/steadiness.h"
 
 #include <string>
@@ -11,10 +13,14 @@ namespace tryout {
 /// What happened, and what would be better.
 std::string resultText(const Advice& advice, const Conditions& tried, const Measured& measured);
 
-/// The settings that would steady the presses; empty when there was nothing to measure.
-std::string steadinessText(const Steadiness& steadiness);
+/// The measured numbers, for a therapist, and what they say of the other settings.
+std::string detailsText(const Advice& advice, const Steadiness& steadiness);
 
-/// The measured numbers, for a therapist.
-std::string numbersText(const Advice& advice);
+/// What to do now, or what just happened.
+std::string courseText(const Session& session, const Trigger& trigger);
+
+/// A try of the history: as it is spoken, and as short as a table has it.
+std::string pastTryText(const PastTry& past);
+std::string pastTryRow(const PastTry& past);
 
 } // namespace tryout

@@ -3,6 +3,7 @@
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSView.h"
 #include "platform/AppKit/detail/ViewAccessibility.h"
+#include "platform/HIToolbox/detail/EventMoment.h"
 #include "platform/QuickDraw/detail/GrafPort.h"
 
 #include <QKeyEvent>
@@ -54,11 +55,12 @@ UInt32 modifierFlagsOf(const QKeyEvent& event) {
     return flags;
 }
 
-NSEventKey keyOf(const QKeyEvent& event) {
-    return {.character = characterOf(event),
-            .code = virtualKeyCode(event.nativeScanCode()),
-            .modifierFlags = modifierFlagsOf(event),
-            .isARepeat = event.isAutoRepeat()};
+NSEvent keyEventOf(const QKeyEvent& event) {
+    const NSEventKey key{.character = characterOf(event),
+                         .code = virtualKeyCode(event.nativeScanCode()),
+                         .modifierFlags = modifierFlagsOf(event),
+                         .isARepeat = event.isAutoRepeat()};
+    return NSEvent::key(key, momentOf(event.timestamp()));
 }
 
 } // namespace
@@ -94,15 +96,27 @@ void ViewWidget::paintEvent(QPaintEvent* event) {
 }
 
 void ViewWidget::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) {
-        event->ignore();
-        return;
-    }
-    const QPointF place = mapTo(window(), event->position());
-    NSEvent down =
-        NSEvent::mouseDown({static_cast<float>(place.x()), static_cast<float>(place.y())});
-    view_->mouseDown(&down);
+    NSEvent down = mouseEventOf(*event);
+    if (event->button() == Qt::LeftButton)
+        view_->mouseDown(&down);
+    else
+        view_->otherMouseDown(&down);
     event->setAccepted(!down.isPassedOn());
+}
+
+void ViewWidget::mouseReleaseEvent(QMouseEvent* event) {
+    NSEvent up = mouseEventOf(*event);
+    if (event->button() == Qt::LeftButton)
+        view_->mouseUp(&up);
+    else
+        view_->otherMouseUp(&up);
+    event->setAccepted(!up.isPassedOn());
+}
+
+NSEvent ViewWidget::mouseEventOf(const QMouseEvent& event) const {
+    const QPointF place = mapTo(window(), event.position());
+    return NSEvent::mouseDown({static_cast<float>(place.x()), static_cast<float>(place.y())},
+                              momentOf(event.timestamp()));
 }
 
 // Every press begins with the question whether it is a shortcut.
@@ -112,7 +126,7 @@ bool ViewWidget::isKeyTaken(QEvent& event) {
     if (event.type() != QEvent::ShortcutOverride)
         return false;
     const auto& key = static_cast<const QKeyEvent&>(event);
-    NSEvent down = NSEvent::key(keyOf(key));
+    NSEvent down = keyEventOf(key);
     isKeyTaken_ = !isModifierKey(key) && view_->performKeyEquivalent(&down);
     return isKeyTaken_;
 }
@@ -126,7 +140,7 @@ bool ViewWidget::event(QEvent* event) {
 
 void ViewWidget::keyPressEvent(QKeyEvent* event) {
     constexpr auto kModifiers = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    NSEvent down = NSEvent::key(keyOf(*event));
+    NSEvent down = keyEventOf(*event);
     if (isModifierKey(*event))
         view_->flagsChanged(&down);
     else if (event->modifiers() & kModifiers)
@@ -137,11 +151,11 @@ void ViewWidget::keyPressEvent(QKeyEvent* event) {
 }
 
 void ViewWidget::keyReleaseEvent(QKeyEvent* event) {
-    NSEvent up = NSEvent::key(keyOf(*event));
+    NSEvent up = keyEventOf(*event);
     if (isModifierKey(*event))
         view_->flagsChanged(&up);
     else
-        up.passOn();
+        view_->keyUp(&up);
     event->setAccepted(!up.isPassedOn());
 }
 

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class GrafPort;
+class NSEvent;
 class NSView;
 
 /// The widget behind a view that draws itself: it hands the view its events. The form's dynamic
@@ -26,6 +27,7 @@ protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -33,6 +35,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    NSEvent mouseEventOf(const QMouseEvent& event) const;
     bool isKeyTaken(QEvent& event);
     void updateFirstResponder();
 

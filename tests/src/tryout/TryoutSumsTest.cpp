@@ -156,5 +156,5 @@ TEST(TryoutAdvice, SteadinessIsMeasuredWhereThereWasSomething) {
     measured.extras[1].hold = 0.4;
     found = steady(measured);
     EXPECT_TRUE(found.holdsOverlap && !found.minTriggerDuration);
-    EXPECT_NE(steadinessText(found).find("tells them apart"), std::string::npos);
+    EXPECT_NE(detailsText({}, found).find("tells them apart"), std::string::npos);
 }

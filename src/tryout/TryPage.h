@@ -1,0 +1,99 @@
+#pragma once
+
+#include "platform/AppKit/NSNib.h"
+#include "platform/AppKit/NSWindow.h"
+#include "platform/CoreFoundation/CFBundle.h"
+#include "platform/HIToolbox/EventTimers.h"
+#include "src/tryout/TryView.h"
+#include "src/tryout/history.h"
+
+#include <optional>
+
+class HistoryView;
+class NSButton;
+class NSTextField;
+
+/// Who takes advice.
+class TryPageTarget {
+public:
+    /// The user wants the line to sweep in that time, in seconds. An edit as any other.
+    virtual void takeLineScanTime(double seconds) = 0;
+
+protected:
+    ~TryPageTarget() = default;
+};
+
+/// The page "Find my speed": it lets a line sweep with the settings of `prefs`, leads through the
+/// sweeps, says what they tell, and keeps them in the history. It changes no setting by itself.
+class TryPage final : public NSObject, public TryViewTarget {
+public:
+    /// The target isn't owned.
+    TryPage(NSWindow window, TryPageTarget& target);
+    ~TryPage() override;
+
+    /// Shows the page in the place of the window's content, from the form at `path`. False, with
+    /// the reasons in `errors`, when that can't be loaded.
+    bool show(const std::string& path, std::vector<std::string>& errors);
+
+    bool isLeft() const { return isLeft_; }
+
+    std::span<const NSOutlet> outlets() const override;
+    std::span<const NSAction> actions() const override;
+
+    void pressed(double moment) override;
+    void released(double moment) override;
+    void acted(double moment) override;
+    void left() override;
+
+    void leave(NSButton* sender);
+    void toggleFullScreen(NSButton* sender);
+    void takeAdvice(NSButton* sender);
+    void startAgain(NSButton* sender);
+    void exportHistory(NSButton* sender);
+    void deleteHistory(NSButton* sender);
+
+private:
+    void frame();
+    void startTry();
+    void makeSession();
+    /// Brings the page up to date with the session's phase.
+    void showPhase();
+    void showResult();
+    void showHistory(const std::string& note);
+    void close();
+
+    NSNib nib_;
+    NSWindow window_;
+    TryPageTarget& target_;
+    EventLoopTimerRef timer_ = nullptr;
+    bool isLeft_ = false;
+    bool madeFullScreen_ = false;
+
+    tryout::Conditions conditions_; ///< what the try is made with, on the whole screen
+    tryout::Trigger trigger_;
+    std::optional<tryout::Session> session_;
+    std::optional<tryout::Session::Phase> shownPhase_;
+    float sessionHeight_ = 0; ///< of the view, when the session was made
+    std::vector<double> earlierOffsets_;
+    double advised_ = 0; ///< seconds
+    tryout::History history_;
+
+    TryView* tryView_ = nullptr;
+    HistoryView* historyView_ = nullptr;
+    NSTextField* course_ = nullptr;
+    NSTextField* numbers_ = nullptr;
+    NSTextField* historyNote_ = nullptr;
+    NSButton* takeBtn_ = nullptr;
+    NSButton* keepBtn_ = nullptr;
+    NSButton* againBtn_ = nullptr;
+    NSButton* fullScreenBtn_ = nullptr;
+    NSButton* leaveBtn_ = nullptr;
+    NSButton* exportBtn_ = nullptr;
+    NSButton* deleteBtn_ = nullptr;
+};
+
+/// Opens the page in the window; brings nothing about while it is open, or without its form.
+void tryPageOpen(const CFBundle* bundle, NSWindow window, TryPageTarget& target);
+
+/// Closes the page, if it is open.
+void tryPageClose();

@@ -1,0 +1,202 @@
+#include "src/tryout/TryView.h"
+
+#include "platform/AppKit/NSColor.h"
+#include "platform/AppKit/NSEvent.h"
+#include "platform/AppKit/NSGraphics.h"
+#include "platform/AppKit/NSStringDrawing.h"
+#include "platform/HIToolbox/EventTimers.h"
+#include "src/prefs.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+NS_REGISTER_CLASS(TryView);
+
+namespace {
+
+using Phase = tryout::Session::Phase;
+
+constexpr double kDrawingTime = 0.04; ///< s, the most from a frame that is due to its drawing
+constexpr float kFrameWidth = 1, kFocusedFrameWidth = 3;
+constexpr float kMarkWidth = 2;     ///< of the lines around the mark
+constexpr double kMarkTint = 0.2;   ///< opacity inside
+constexpr float kPlaceSize = 10;    ///< of the squares that show where the line was stopped
+constexpr double kShownTargets = 3; ///< the picture of the places is at least as high as these
+constexpr float kLabelHeight = 24, kLabelMargin = 10;
+
+NSColor scanLineColor() {
+    return NSColor::colorWithDeviceRed(prefs.lineColor.red / 255.0, prefs.lineColor.green / 255.0,
+                                       prefs.lineColor.blue / 255.0,
+                                       (100 - prefs.lineTransparency) / 100);
+}
+
+NSColor markColor(double opacity) {
+    const NSColor color = NSColor::keyboardFocusIndicatorColor();
+    return NSColor::colorWithDeviceRed(color.redComponent(), color.greenComponent(),
+                                       color.blueComponent(), opacity);
+}
+
+void drawBand(const NSRect& band) {
+    markColor(kMarkTint).set();
+    NSRectFillUsingOperation(band, NSCompositeSourceOver);
+    markColor(1).set();
+    NSFrameRectWithWidth(band, kMarkWidth);
+}
+
+void drawLabel(const char* text, float x, float y) {
+    NSDrawString(CFStringCreateWithUTF8(text).get(), {x, y, 400, kLabelHeight},
+                 {NSFont::systemFontOfSize(0)});
+}
+
+bool isWithModifier(const NSEvent& event) {
+    return (event.modifierFlags() & (NSControlKeyMask | NSAlternateKeyMask | NSCommandKeyMask)) !=
+           0;
+}
+
+/// The farthest place from its mark, in millimetres.
+double farthest(const tryout::Measured& measured) {
+    double most = 0;
+    for (const tryout::Trial& trial : measured.trials)
+        most = std::max(most, std::abs(trial.miss));
+    return most;
+}
+
+} // namespace
+
+void TryView::setSession(const tryout::Session* session) {
+    session_ = session;
+    setNeedsDisplay(true);
+}
+
+void TryView::setSaying(const std::string& saying) {
+    if (saying == saying_)
+        return;
+    saying_ = saying;
+    NSAccessibilityPostNotification(this, NSAccessibilityTitleChangedNotification);
+}
+
+/// Points a millimetre.
+float TryView::scale() const {
+    return bounds().height / static_cast<float>(session_->sweep().travel);
+}
+
+bool TryView::showsLine() const {
+    return session_->phase() == Phase::Sweeping || session_->phase() == Phase::Stopped;
+}
+
+NSRect TryView::bandAround(double position) const {
+    const auto height = static_cast<float>(session_->target()) * scale();
+    return {0, static_cast<float>(position) * scale() - height / 2, bounds().width, height};
+}
+
+NSRect TryView::lineAt(double moment) const {
+    const auto thickness = static_cast<float>(prefs.lineThickness);
+    const auto middle = static_cast<float>(session_->linePosition(moment)) * scale();
+    return {0, middle - thickness / 2, bounds().width, thickness};
+}
+
+// Where the line will be when this is drawn isn't known yet, but how far it can get at most.
+void TryView::showFrame() {
+    if (!showsLine())
+        return;
+    const double now = GetCurrentEventTime();
+    const NSRect next = lineAt(now), last = lineAt(now + kDrawingTime);
+    setNeedsDisplayInRect(NSInsetRect(shown_, 0, -1));
+    setNeedsDisplayInRect({0, next.y - 1, next.width, last.y - next.y + next.height + 2});
+}
+
+void TryView::drawRect(const NSRect&) {
+    NSEraseRect(bounds());
+    if (session_->phase() == Phase::Done)
+        drawPlaces();
+    else
+        drawMark();
+    if (showsLine()) {
+        shown_ = lineAt(GetCurrentEventTime());
+        scanLineColor().set();
+        NSRectFillUsingOperation(shown_, NSCompositeSourceOver);
+    }
+    markColor(1).set();
+    NSFrameRectWithWidth(bounds(), isFirstResponder() ? kFocusedFrameWidth : kFrameWidth);
+}
+
+void TryView::drawMark() const {
+    const NSRect band = bandAround(session_->mark());
+    drawBand(band);
+    const float middle = band.y + band.height / 2;
+    NSRectFill({0, middle - kMarkWidth / 2, band.height, kMarkWidth});
+    NSRectFill({band.width - band.height, middle - kMarkWidth / 2, band.height, kMarkWidth});
+}
+
+/// Each press, from the first to the last, early above and late below the target.
+void TryView::drawPlaces() const {
+    const auto& trials = session_->measured().trials;
+    const NSRect whole = bounds();
+    const double range =
+        std::max(kShownTargets * session_->target(), 2.2 * farthest(session_->measured()));
+    const auto points = whole.height / static_cast<float>(range);
+    const float middle = whole.height / 2;
+    const auto height = static_cast<float>(session_->target()) * points;
+    drawBand({0, middle - height / 2, whole.width, height});
+    const float step = whole.width / static_cast<float>(trials.size() + 1);
+    float x = 0;
+    for (const tryout::Trial& trial : trials) {
+        x += step;
+        if (trial.pressed)
+            NSRectFill({x - kPlaceSize / 2,
+                        middle + static_cast<float>(trial.miss) * points - kPlaceSize / 2,
+                        kPlaceSize, kPlaceSize});
+    }
+    drawLabel("Early", kLabelMargin, kLabelMargin);
+    drawLabel("Late", kLabelMargin, whole.height - kLabelMargin - kLabelHeight);
+}
+
+void TryView::mouseDown(NSEvent* event) {
+    target_->pressed(event->timestamp());
+}
+
+void TryView::mouseUp(NSEvent* event) {
+    target_->released(event->timestamp());
+}
+
+void TryView::otherMouseDown(NSEvent* event) {
+    target_->pressed(event->timestamp());
+}
+
+void TryView::otherMouseUp(NSEvent* event) {
+    target_->released(event->timestamp());
+}
+
+void TryView::keyDown(NSEvent* event) {
+    if (event->charactersIgnoringModifiers() == NSEscapeCharacter)
+        target_->left();
+    else if (!event->isARepeat())
+        target_->pressed(event->timestamp());
+}
+
+void TryView::keyUp(NSEvent* event) {
+    if (!event->isARepeat())
+        target_->released(event->timestamp());
+}
+
+// A scan key may be one that is held with others.
+bool TryView::performKeyEquivalent(NSEvent* event) {
+    const bool isOurs = session_->phase() != Phase::Done && isWithModifier(*event) &&
+                        event->charactersIgnoringModifiers() != NSEscapeCharacter;
+    if (isOurs && !event->isARepeat())
+        target_->pressed(event->timestamp());
+    return isOurs;
+}
+
+std::string TryView::accessibilityValue() const {
+    if (session_->phase() == Phase::Done)
+        return {};
+    char text[60];
+    std::snprintf(text, sizeof text, "The mark is %.1f mm from the top.", session_->mark());
+    return text;
+}
+
+void TryView::accessibilityPerformPress() {
+    target_->acted(GetCurrentEventTime());
+}

@@ -1,0 +1,124 @@
+#include "src/tryout/session.h"
+
+#include <gtest/gtest.h>
+
+using namespace tryout;
+using Phase = Session::Phase;
+
+namespace {
+
+constexpr Sweep kSweep{.travel = 200, .time = 4};
+constexpr double kDelay = 1.5, kOffset = 0.1, kHold = 0.3;
+
+/// A user of whom each press is known.
+struct Presses {
+    Session session;
+    Trigger trigger;
+    double now = 1000;
+
+    explicit Presses(const Trigger& how) : session(kSweep, 10, kDelay, how, 1), trigger(how) {}
+
+    void press(double length) {
+        session.press(now);
+        session.release(now += length);
+    }
+
+    double moment() const { return kSweep.timeAt(session.mark()) + kOffset; }
+
+    /// To the end of a sweep that is stopped kOffset after the mark.
+    void sweep() {
+        session.advance(now += 5);
+        ASSERT_EQ(session.phase(), Phase::Ready);
+        if (trigger.way == Trigger::Way::Hold)
+            return press(kDelay + moment());
+        press(kHold);
+        // What counts is when the key goes down, has been down for long enough, or comes up.
+        const bool isUp = trigger.way == Trigger::Way::Release;
+        const double down = now - (isUp ? 0 : kHold - trigger.shortest) + kDelay + moment();
+        now = down - (isUp ? kHold : trigger.shortest);
+        press(kHold);
+    }
+};
+
+} // namespace
+
+TEST(TryoutSession, EachWayOfPressingStopsTheLineWhereItWas) {
+    using enum Trigger::Way;
+    const Trigger ways[] = {{Press}, {Release}, {Hold}, {Press, 0.2}, {Release, 0.2}};
+    for (const Trigger& way : ways) {
+        Presses user(way);
+        for (int i = 0; i < kFreeSweeps + kMeasuredSweeps; ++i)
+            user.sweep();
+        user.session.advance(user.now += kSettlingTime);
+        EXPECT_EQ(user.session.phase(), Phase::Done);
+        const Measured& measured = user.session.measured();
+        ASSERT_EQ(measured.trials.size(), 12U) << "the free sweeps aren't measured";
+        EXPECT_TRUE(measured.extras.empty());
+        bool isAtNearEdge = false;
+        for (const Trial& trial : measured.trials) {
+            const double room = kSweep.time - trial.markTime;
+            EXPECT_NEAR(trial.offset, std::min(kOffset, room), 1e-6);
+            EXPECT_NEAR(trial.miss, 50 * trial.offset, 1e-6);
+            EXPECT_TRUE(way.way == Hold || std::abs(trial.hold - kHold) < 1e-6);
+            EXPECT_TRUE(&trial == &measured.trials.back() || trial.ready > 4);
+            isAtNearEdge |= std::abs(trial.markTime - 0.1) < 1e-6;
+        }
+        EXPECT_TRUE(isAtNearEdge);
+    }
+}
+
+TEST(TryoutSession, PressesThatNothingAskedForAreKeptApart) {
+    const struct {
+        const char* what;
+        Trigger trigger;
+        double gap, length;
+        std::size_t extras;
+    } rows[] = {
+        {"a second press", {}, 0.2, 0.05, 1},
+        {"one that the settings ignore", {.ignoreAfter = 1}, 0.2, 0.05, 0},
+        {"one too short to count", {.shortest = 0.2}, 0.2, 0.05, 0},
+        {"the start of the next sweep", {}, kSettlingTime + 0.1, 0.05, 0},
+    };
+
+    for (const auto& row : rows) {
+        Presses user(row.trigger);
+        for (int i = 0; i <= kFreeSweeps; ++i)
+            user.sweep();
+        user.session.advance(user.now += row.gap);
+        user.press(row.length);
+        const Measured& measured = user.session.measured();
+        EXPECT_EQ(measured.trials.size(), 1U) << row.what;
+        ASSERT_EQ(measured.extras.size(), row.extras) << row.what;
+        if (row.extras > 0) {
+            EXPECT_NEAR(measured.extras[0].gap, row.gap, 1e-6);
+            EXPECT_NEAR(measured.extras[0].hold, row.length, 1e-6);
+        }
+    }
+}
+
+TEST(TryoutSession, WithoutAPressTheLinePasses) {
+    Presses user({});
+    for (int i = 0; i < kFreeSweeps; ++i)
+        user.sweep();
+    user.session.advance(user.now += 1);
+    user.press(0.1);
+    user.session.advance(user.now += kDelay);
+    EXPECT_EQ(user.session.phase(), Phase::Sweeping);
+    user.session.advance(user.now += kSweep.time + 0.2);
+    EXPECT_EQ(user.session.phase(), Phase::Stopped);
+    ASSERT_EQ(user.session.measured().trials.size(), 1U);
+    EXPECT_FALSE(user.session.measured().trials[0].pressed);
+}
+
+TEST(TryoutSession, AnAccessibilityActionPressesAndLetsGoInTurn) {
+    Presses user({Trigger::Way::Hold});
+    user.session.act(user.now);
+    user.session.advance(user.now += kDelay + 1);
+    EXPECT_EQ(user.session.phase(), Phase::Sweeping);
+    user.session.act(user.now);
+    EXPECT_EQ(user.session.phase(), Phase::Stopped);
+    EXPECT_NEAR(user.session.linePosition(user.now + 9), 50, 1e-6);
+    Presses other({Trigger::Way::Release, 0.5});
+    other.session.act(other.now);
+    EXPECT_EQ(other.session.phase(), Phase::Delay);
+}
