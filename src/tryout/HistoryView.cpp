@@ -80,7 +80,7 @@ void HistoryView::drawTable() const {
         const NSRect row = rowFrame(i);
         if (isFirstResponder() && i == current_)
             NSFrameRect(row);
-        drawText(tryout::pastTryText(tries_[static_cast<std::size_t>(i)]), NSInsetRect(row, 4, 0));
+        drawText(tryout::pastTryRow(tries_[static_cast<std::size_t>(i)]), NSInsetRect(row, 4, 0));
     }
 }
 

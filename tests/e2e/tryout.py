@@ -30,9 +30,36 @@ OFFSETS = 0, 1, -1, 2, -1, 0, 1, -2, 1, -1, 0, 1
 SPREAD = 1.4826 * STEP
 TOLERANCE = 0.02  # seconds: this process isn't on time either
 SWEEPS = 14  # two of them free
+WATCHED = 1.5  # seconds
+MOST_LATE = 2 / 60  # seconds; this process takes its time to look, too
 
 SPACE = 0x20
 NEVER = 0x7FFFFFFF  # the notice about assistive access comes no more
+
+
+class Column:
+    """One column of the screen's pixels, read from the X server."""
+
+    def __init__(self, left: int, top: int, bottom: int) -> None:
+        self._x11 = ctypes.CDLL("libX11.so.6")
+        for name in ("XOpenDisplay", "XGetImage"):
+            getattr(self._x11, name).restype = ctypes.c_void_p
+        self._x11.XDefaultRootWindow.restype = ctypes.c_ulong
+        self._x11.XGetPixel.restype = ctypes.c_ulong
+        self._display = ctypes.c_void_p(self._x11.XOpenDisplay(None))
+        self._root = ctypes.c_ulong(self._x11.XDefaultRootWindow(self._display))
+        self._place = left, top, 1, bottom - top
+
+    def line(self) -> float | None:
+        """Where the middle of the line is, in pixels from the top; nothing without a line."""
+        all_planes, z_pixmap = ctypes.c_ulong(-1), 2
+        image = ctypes.c_void_p(self._x11.XGetImage(
+            self._display, self._root, *self._place, all_planes, z_pixmap))
+        rows = range(self._place[3])
+        pixels = [self._x11.XGetPixel(image, 0, row) for row in rows]
+        self._x11.XDestroyImage(image)
+        dark = [row for row in rows if pixels[row] >> 16 & 255 > 80 and pixels[row] >> 8 & 255 < 80]
+        return sum(dark) / len(dark) + 0.5 if dark else None
 
 
 class Switch:
@@ -86,10 +113,30 @@ def sweep(tour: Tour, switch: Switch, offset: float) -> None:
     switch.press()
 
 
+def watch_the_line(tour: Tour, switch: Switch) -> str:
+    """How late each new frame shows the line, in a sweep that nobody stops."""
+    until(lambda: saying(tour)[0].startswith(("Ready", "A line")), "the page is ready")
+    box = next(each.box for each in tour.screen.shown() if "Press any key" in each.description)
+    column = Column((box.left + box.right) // 2, box.top, box.bottom)
+    started, seen, late = switch.press(), None, []
+    while time.monotonic() < started + WATCHED:
+        place, now = column.line(), time.monotonic()
+        if place is not None and place != seen and seen is not None:
+            late.append(now - started - place / SIZE[1] * SCAN_TIME)
+        seen = place
+    check(len(late) > 20 * WATCHED, f"only {len(late)} frames were seen")
+    late.sort()
+    worst = late[len(late) * 99 // 100]
+    check(worst <= MOST_LATE, f"1 frame in 100 is more than {worst * 1000:.0f} ms late")
+    return (f"{len(late)} frames in {WATCHED} s, late by {late[len(late) // 2] * 1000:.1f} ms, "
+            f"1 in 100 by more than {worst * 1000:.1f} ms")
+
+
 def do_the_sweeps(tour: Tour) -> None:
     tour.screen.click("Find my speed", "push button")
     switch = Switch()
-    for number in range(SWEEPS):
+    print(f"Watched: {watch_the_line(tour, switch)}.", flush=True)
+    for number in range(1, SWEEPS):
         steps = OFFSETS[(number - 2) % len(OFFSETS)]
         sweep(tour, switch, LATENESS + steps * STEP)
         if number == 3:
@@ -112,6 +159,7 @@ def take_the_advice(tour: Tour) -> str:
     text = saying(tour)[0]
     button = next(n for n in tour.screen.names("push button") if n.startswith("Try it at"))
     advised = float(button.split()[-1])
+    tour.log.skip()
     tour.screen.click(button, "push button")
     account = tour.log.expect_change(SCAN_SPEED, "lineScanTime", advised)
     until(lambda: saying(tour)[0].startswith("A line"), "another try begins")
