@@ -107,6 +107,7 @@ TEST(PrefsTest, AFreshRecordAndTheStoredKeysAndFormsAreThoseOfTheContract) {
     for (const auto& [key, form] : contract.forms) {
         EXPECT_TRUE(storedTexts().contains(key)) << key;
         setText(key.c_str(), contract.examples.at(form));
+        ASSERT_TRUE(CFPreferencesAppSynchronize(kAgentBundleID));
         prefsSetup();
         ASSERT_TRUE(savePrefs());
         EXPECT_EQ(storedTexts()[key], contract.examples.at(form)) << key;
