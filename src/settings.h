@@ -14,6 +14,7 @@ struct SettingLimits {
     double step = 0;              ///< of the minus and plus buttons; 0: the value isn't stepped
     const char* format = nullptr; ///< printf, exactly one double conversion; null: not a number
     const char* unit = "";        ///< in words; empty: none
+    int pageSteps = 10;           ///< steps that the buttons for many of them go
 };
 
 /// The kind of object that the wrangler's outlet for the setting takes.
@@ -48,11 +49,11 @@ struct Setting {
 namespace settingrows {
 
 constexpr SettingLimits seconds(double minimum, double maximum) {
-    return {minimum, maximum, 0.5, "%5.1f sec", "seconds"};
+    return {minimum, maximum, 0.5, "%5.1f sec", "seconds", 5};
 }
 
 constexpr SettingLimits percent(double minimum, double maximum, double step) {
-    return {minimum, maximum, step, "%3.0f%%", "percent"};
+    return {minimum, maximum, step, "%3.0f%%", "percent", step > 1 ? 5 : 10};
 }
 
 constexpr SettingLimits points(double minimum, double maximum) {

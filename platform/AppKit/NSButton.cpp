@@ -3,8 +3,10 @@
 #include "platform/AppKit/detail/ToggleAction.h"
 
 #include <QAbstractButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTimer>
+#include <QVariant>
 
 #include <cmath>
 #include <utility>
@@ -21,6 +23,9 @@ void NSButton::attachWidget(QWidget* widget) {
     NSControl::attachWidget(widget);
     auto* button = static_cast<QAbstractButton*>(widget);
     QObject::connect(button, &QAbstractButton::clicked, button, [this] { clicked(); });
+    const QString keys = button->property("keyEquivalent").toString();
+    if (!keys.isEmpty())
+        new QShortcut(QKeySequence(keys), button, button, &QAbstractButton::click);
     connectToggleAction(button, [this] { sendActionOutsideEvents(); });
 }
 

@@ -6,7 +6,8 @@ class QTimer;
 
 enum NSCellState { NSOffState = 0, NSOnState = 1 };
 
-/// A push button or check box.
+/// A push button or check box. The form's property keyEquivalent, as in "F1", names keys that click
+/// it from anywhere in its window.
 class NSButton : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;

@@ -20,6 +20,10 @@ int NSControl::tag() const {
     return widget()->property("tag").toInt();
 }
 
+void NSControl::setToolTip(std::string_view text) {
+    widget()->setToolTip(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
 void NSControl::sendAction() {
     if (target_ && action_)
         action_->send(*target_, *this);

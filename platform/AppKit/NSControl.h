@@ -16,6 +16,9 @@ public:
 
     int tag() const;
 
+    /// What is shown beside the pointer when it rests on the control; UTF-8, empty for nothing.
+    void setToolTip(std::string_view text);
+
 protected:
     void sendAction();
     /// For what no event of the user's brought about: the keys held with the last one don't count.

@@ -16,6 +16,14 @@ bool isEnabledItself(const QAbstractButton* button) {
     return button->isEnabledTo(button->parentWidget());
 }
 
+/// The widget of the innermost matrix around a button.
+const QWidget* matrixOf(const QWidget* button) {
+    const QWidget* around = button->parentWidget();
+    while (around && around->property("customClass") != QLatin1String("NSMatrix"))
+        around = around->parentWidget();
+    return around;
+}
+
 // The selected cell takes the Tab key or, when it can't, the first that can.
 void chooseTabStop(const QButtonGroup* group) {
     const QAbstractButton* stop = group->checkedButton();
@@ -47,6 +55,8 @@ void NSMatrix::attachWidget(QWidget* widget) {
     NSControl::attachWidget(widget);
     auto* group = new QButtonGroup(widget);
     for (QRadioButton* button : widget->findChildren<QRadioButton*>()) {
+        if (matrixOf(button) != widget)
+            continue;
         group->addButton(button);
         cells_.push_back(std::make_unique<NSCell>(button));
         connectToggleAction(button, [this, group, button] {

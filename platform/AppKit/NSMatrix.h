@@ -24,8 +24,9 @@ private:
 };
 
 /// A group of radio buttons, of which one at a time is selected. Its cells are the radio buttons in
-/// the widget, told apart by their tags. A click on the selected cell sends the action as well. The
-/// Tab key stops once, at the selected cell; the arrow keys go to the other cells and select them.
+/// the widget that are in no matrix inside it, told apart by their tags. A click on the selected
+/// cell sends the action as well. The Tab key stops once, at the selected cell; the arrow keys go
+/// to the other cells and select them.
 class NSMatrix final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;

@@ -15,7 +15,7 @@ NSNib::~NSNib() {
 bool NSNib::instantiate(const std::string& path, NSObject& owner,
                         std::vector<std::string>& errors) {
     FormLoader loader;
-    form_ = loader.loadFile(QString::fromStdString(path));
+    form_ = loader.loadForm(QString::fromStdString(path));
     QStringList found = loader.errors();
     if (form_) {
         QObject::connect(form_, &QObject::destroyed, [this] { form_ = nullptr; });

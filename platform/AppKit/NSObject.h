@@ -6,6 +6,7 @@
 #include <type_traits>
 #include <typeinfo>
 #include <utility>
+#include <vector>
 
 class NSObject;
 
@@ -41,6 +42,10 @@ public:
     virtual std::span<const NSOutlet> outlets() const { return {}; }
 
     virtual std::span<const NSAction> actions() const { return {}; }
+
+    /// What the interface file lays out otherwise than the code expects, in words; asked when all
+    /// outlets are filled.
+    virtual std::vector<std::string> layoutFaults() const { return {}; }
 
     /// Called once, when the whole interface file has been loaded and wired.
     virtual void awakeFromNib() {}

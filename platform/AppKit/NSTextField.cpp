@@ -1,14 +1,15 @@
 #include "platform/AppKit/NSTextField.h"
 
+#include "platform/AppKit/detail/PaneColors.h"
+#include "platform/AppKit/detail/ShownText.h"
+#include "platform/AppKit/detail/ValueField.h"
+
 #include <QEvent>
-#include <QLabel>
 #include <QVariant>
 
 namespace {
 
-constexpr float kSecondaryShare = 0.7F; // of the text's colour; 4.5 : 1 at least in usual palettes
-
-/// Keeps a label's text between the palette's colours of text and background.
+/// Keeps a label's text quieter than others, in every palette.
 class SecondaryColor final : public QObject {
 public:
     explicit SecondaryColor(QLabel* label) : QObject(label) {
@@ -24,15 +25,7 @@ public:
 
 private:
     static void follow(QLabel* label) {
-        const QPalette around = label->parentWidget()->palette();
-        const QColor text = around.color(QPalette::WindowText);
-        const QColor ground = around.color(QPalette::Window);
-        const auto blend = [](float a, float b) {
-            return a * kSecondaryShare + b * (1 - kSecondaryShare);
-        };
-        const QColor color = QColor::fromRgbF(blend(text.redF(), ground.redF()),
-                                              blend(text.greenF(), ground.greenF()),
-                                              blend(text.blueF(), ground.blueF()));
+        const QColor color = PaneColors(label->parentWidget()->palette()).quietText;
         if (label->palette().color(QPalette::WindowText) == color)
             return;
         QPalette palette;
@@ -47,16 +40,30 @@ void NSTextField::attachWidget(QWidget* widget) {
     NSControl::attachWidget(widget);
     if (widget->property("textColor").toString() == QLatin1String("secondaryLabelColor"))
         new SecondaryColor(static_cast<QLabel*>(widget));
+    if (auto* field = dynamic_cast<ValueField*>(widget))
+        field->onTyped = [this] { sendAction(); };
 }
 
 void NSTextField::setStringValue(std::string_view utf8) {
+    const QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    if (auto* field = dynamic_cast<ValueField*>(widget())) {
+        field->showText(text);
+        return;
+    }
     auto* label = static_cast<QLabel*>(widget());
     label->setTextFormat(Qt::PlainText);
-    label->setText(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
+    label->setText(text);
+    if (label->property("hidesWhenEmpty").toBool())
+        label->setVisible(!text.isEmpty());
 }
 
 std::string NSTextField::stringValue() const {
-    return static_cast<const QLabel*>(widget())->text().toStdString();
+    return shownText(widget()).toStdString();
+}
+
+void NSTextField::refuse(std::string_view why) {
+    if (auto* field = dynamic_cast<ValueField*>(widget()))
+        field->refuse(QString::fromUtf8(why.data(), static_cast<qsizetype>(why.size())));
 }
 
 void NSTextField::setDoubleValue(double value) {

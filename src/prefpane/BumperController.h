@@ -1,10 +1,22 @@
 #pragma once
 
 #include "src/prefpane/NumberController.h"
+#include "src/prefpane/NumberControls.h"
+
+#include <functional>
 
 class NSButton;
+class NSTextField;
 
-/// A number shown as a minus and a plus button only; its effect is seen elsewhere.
+/// What a bumper shows when that isn't the number it is bound to.
+struct BumperDisplay {
+    std::function<std::string()> text;      ///< the value in words
+    std::function<bool(double typed)> take; ///< sets it; false when it can't be that number
+    double least = 0, most = 0;             ///< what can be typed
+};
+
+/// A number shown as buttons for a step and for many, and a label with its value, in which another
+/// one can be typed.
 class BumperController final : public NumberController {
 public:
     std::span<const NSOutlet> outlets() const override;
@@ -14,10 +26,25 @@ public:
                               ChangeMask changes) override;
     void update() override;
 
+    /// How the label writes the number; see SettingLimits.
+    void setFormat(const char* format) { format_ = format; }
+
+    void setDisplay(BumperDisplay display) { display_ = std::move(display); }
+
     void decValue(NSButton* sender);
     void incValue(NSButton* sender);
+    void decPage(NSButton* sender);
+    void incPage(NSButton* sender);
+    void typedValue(NSTextField* sender);
 
 private:
+    NumberControls controls() const;
+
     NSButton* decBtn_ = nullptr;
     NSButton* incBtn_ = nullptr;
+    NSButton* pageDecBtn_ = nullptr;
+    NSButton* pageIncBtn_ = nullptr;
+    NSTextField* label_ = nullptr;
+    const char* format_ = "%.0f";
+    BumperDisplay display_; ///< without functions: the bound number
 };

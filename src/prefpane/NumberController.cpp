@@ -1,5 +1,7 @@
 #include "src/prefpane/NumberController.h"
 
+#include "src/prefpane/numbertext.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -88,6 +90,24 @@ void NumberController::dec() {
     const double truncated = truncValue();
     // Between two grid points, stepping down goes to the lower one.
     change(truncated < value() ? truncated : truncated - incValue_);
+}
+
+void NumberController::incPage() {
+    change(truncValue() + pageSteps_ * incValue_);
+}
+
+void NumberController::decPage() {
+    const double truncated = truncValue();
+    change(truncated - (truncated < value() ? pageSteps_ - 1 : pageSteps_) * incValue_);
+}
+
+bool NumberController::type(std::string_view text) {
+    const auto number = numberFromText(text);
+    const bool isWhole = kind_ == kNumberKindDouble || (number && std::trunc(*number) == *number);
+    if (!number || !isWhole || *number < minValue_ || *number > maxValue_)
+        return false;
+    change(*number);
+    return true;
 }
 
 void NumberController::change(double newValue) {

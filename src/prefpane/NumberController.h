@@ -3,6 +3,8 @@
 #include "platform/AppKit/NSObject.h"
 #include "src/prefs.h"
 
+#include <string_view>
+
 /// Hears of every change that a number controller made, named by its group.
 class NumberChangeTarget {
 public:
@@ -37,6 +39,10 @@ public:
 
     double maximum() const { return maxValue_; }
 
+    double step() const { return incValue_; }
+
+    int pageSteps() const { return pageSteps_; }
+
     double value() const;
 
     /// Clamps, converts to the kind and stores; reports nothing.
@@ -50,6 +56,17 @@ public:
 
     void inc();
     void dec();
+
+    /// How many steps incPage and decPage go.
+    void setPageSteps(int steps) { pageSteps_ = steps; }
+
+    void incPage();
+    void decPage();
+
+    /// Stores a number that was typed, as change does. False, with nothing stored, when the text is
+    /// no number, has a fraction that the kind can't hold, or lies outside the limits. A comma is a
+    /// point, and a unit behind the number isn't looked at.
+    bool type(std::string_view text);
 
     /// Stores a new value and, when that altered what is stored, calls changed.
     void change(double value);
@@ -65,5 +82,6 @@ private:
     double minValue_ = 0;
     double maxValue_ = 0;
     double incValue_ = 0;
+    int pageSteps_ = 10;
     ChangeMask changeMask_ = 0;
 };

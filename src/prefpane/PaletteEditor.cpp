@@ -10,6 +10,7 @@
 #include "src/prefpane/palutil.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <utility>
 
@@ -24,26 +25,63 @@ bool isEmptySlot(SInt32 slot) {
 } // namespace
 
 void PaletteEditor::setup(PaletteViewTarget& clicks, NSObject& menuTarget) {
-    const struct {
-        BumperController* controller;
-        SInt32* pending;
-        ChangeMask changes;
-    } bumpers[] = {
-        {buttonHeight, &buttonHeightChange_, kChangeButtonHeightBump},
-        {buttonSize, &buttonSizeChange_, kChangeButtonSizeBump},
-        {buttonWidth, &buttonWidthChange_, kChangeButtonWidthBump},
-    };
-
-    for (const auto& [controller, pending, changes] : bumpers)
-        controller->setKind(kNumberKindSInt32, pending, -10, 10, 1, changes);
+    setupButtonSizes();
     paletteView->setTarget(&clicks);
     addActionMenuToCtl(addButtonBtn, menuTarget.selector("addPaletteBtn:"), menuTarget);
     addActionMenuToCtl(setActionBtn, menuTarget.selector("setPaletteBtnAction:"), menuTarget);
 }
 
-void PaletteEditor::load() {
+void PaletteEditor::setupButtonSizes() {
+    const auto points = [](int size) { return std::to_string(size) + " points"; };
+    const auto both = [points] {
+        const ButtonSize size = prefs.buttonSize;
+        return size.width == size.height
+                   ? points(size.width)
+                   : std::to_string(size.width) + " × " + std::to_string(size.height);
+    };
+
+    const struct {
+        BumperController* bumper;
+        SInt32* pending;
+        ChangeMask changes;
+        std::function<std::string()> text;
+        bool width, height; ///< the sides that it is for
+    } rows[] = {
+        {buttonHeight, &buttonHeightChange_, kChangeButtonHeightBump,
+         [points] { return points(prefs.buttonSize.height); }, false, true},
+        {buttonSize, &buttonSizeChange_, kChangeButtonSizeBump, both, true, true},
+        {buttonWidth, &buttonWidthChange_, kChangeButtonWidthBump,
+         [points] { return points(prefs.buttonSize.width); }, true, false},
+    };
+
+    for (const auto& row : rows) {
+        row.bumper->setKind(kNumberKindSInt32, row.pending, -10, 10, 1, row.changes);
+        row.bumper->setFormat("%.0f points");
+        row.bumper->setDisplay({row.text,
+                                [this, width = row.width, height = row.height](double typed) {
+                                    return takeButtonSize(typed, width, height);
+                                },
+                                kMinButtonSize, kMaxButtonSize});
+    }
+}
+
+void PaletteEditor::updateButtonSizes() {
     for (NumberController* bumper : {buttonHeight, buttonSize, buttonWidth})
         bumper->update();
+}
+
+bool PaletteEditor::takeButtonSize(double typed, bool width, bool height) {
+    if (typed < kMinButtonSize || typed > kMaxButtonSize || typed != std::trunc(typed))
+        return false;
+    const auto size = static_cast<SInt32>(typed);
+    buttonWidthChange_ = width ? size - prefs.buttonSize.width : 0;
+    buttonHeightChange_ = height ? size - prefs.buttonSize.height : 0;
+    changes_.changed(kChangeButtonSizeBump);
+    return true;
+}
+
+void PaletteEditor::load() {
+    updateButtonSizes();
     buttonShapeRadios->selectCellWithTag(static_cast<int>(prefs.buttonShape));
     for (const auto& [check, bit] : {std::pair(buttonContentIconCheck, kButtonContentIcon),
                                      {buttonContentNameCheck, kButtonContentName}})

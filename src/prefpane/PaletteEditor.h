@@ -69,8 +69,13 @@ public:
     void changedButtonContentIcon(const NSButton& sender);
     /// Folds the bumpers' pending steps into the button size.
     void changedButtonSizes();
+    /// Has the bumpers of the size, which hold pending steps, show the size.
+    void updateButtonSizes();
 
 private:
+    void setupButtonSizes();
+    /// Makes the chosen sides as long as was typed, in points. False when they can't be that long.
+    bool takeButtonSize(double typed, bool width, bool height);
     /// The slot that is selected in the palette view, or kNoButton.
     SInt32 selectedSlot() const;
     void commitPaletteEdit();

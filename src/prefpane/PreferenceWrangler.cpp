@@ -42,6 +42,7 @@ std::span<const NSOutlet> PreferenceWrangler::outlets() const {
         nsOutlet<&W::launchAtLogin_>("launchAtLogin"),
         nsOutlet<&W::lineColor_>("lineColor"),
         nsOutlet<&W::masterOnOffRadios_>("masterOnOffRadios"),
+        nsOutlet<&W::masterState_>("masterState"),
         nsOutlet<&W::palette_, &Palette::palettePrompt>("palettePrompt"),
         nsOutlet<&W::palette_, &Palette::paletteView>("paletteView"),
         nsOutlet<&W::pointers_, &PointerChooser::pointerName>("pointerName"),

@@ -35,6 +35,8 @@ public:
 
     std::span<const NSOutlet> outlets() const override;
     std::span<const NSAction> actions() const override;
+    /// Sliders whose limits differ from those of their settings.
+    std::vector<std::string> layoutFaults() const override;
     void awakeFromNib() override;
 
     // PreferenceWrangler.cpp: set-up and loading
@@ -170,6 +172,7 @@ private:
     NSButton* launchAtLogin_ = nullptr;
     NSColorWell* lineColor_ = nullptr;
     NSMatrix* masterOnOffRadios_ = nullptr;
+    NSTextField* masterState_ = nullptr;
     SampleScanView* sampleScanImage_ = nullptr;
     NSTextField* scanAreaText_ = nullptr;
     NSMatrix* scanModeRadios_ = nullptr;

@@ -3,6 +3,7 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSColorWell.h"
 #include "platform/AppKit/NSMatrix.h"
+#include "platform/AppKit/NSTextField.h"
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/SampleScanView.h"
@@ -51,6 +52,8 @@ void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {
         showSampleLineType(kSampleGuideLine);
     if (changes & kPreviewChanges)
         sampleScanImage_->setNeedsDisplay(true);
+    if (changes & kChangePalette)
+        palette_.updateButtonSizes();
     if (changes & kChangeLaunch)
         updateLaunchUI();
     if (changes & kChangePointer)
@@ -66,6 +69,8 @@ void PreferenceWrangler::showSampleLineType(SInt32 type) {
 void PreferenceWrangler::updateMasterOnOff() {
     masterOnOffRadios_->selectCellWithTag(prefs.on);
     masterOnOffRadios_->setEnabled(true);
+    masterState_->setStringValue(prefs.on ? "Ready for your switch"
+                                          : "Your switch does nothing now");
 }
 
 void PreferenceWrangler::setMasterOnOff(bool on) {

@@ -3,6 +3,7 @@
 #include "platform/AppKit/NSButton.h"
 #include "src/prefpane/BumperController.h"
 #include "src/prefpane/SliderController.h"
+#include "src/prefpane/numbertext.h"
 
 #include <utility>
 
@@ -79,13 +80,30 @@ void PreferenceWrangler::setupNumbers() {
     for (std::size_t row = 0; row < kSettings.size(); ++row) {
         const Setting& setting = kSettings[row];
         const SettingLimits& limits = setting.limits;
+        if (auto* number = dynamic_cast<NumberController*>(settingControls_[row]))
+            number->setPageSteps(limits.pageSteps);
         if (auto* slider = dynamic_cast<SliderController*>(settingControls_[row]))
             slider->setKind(kindOf(setting), setting.in(prefs), limits.step, setting.changes,
                             limits.format);
         else if (auto* bumper = dynamic_cast<BumperController*>(settingControls_[row]))
-            bumper->setKind(kindOf(setting), setting.in(prefs), limits.minimum, limits.maximum,
-                            limits.step, setting.changes);
+            bumper
+                ->setKind(kindOf(setting), setting.in(prefs), limits.minimum, limits.maximum,
+                          limits.step, setting.changes)
+                ->setFormat(limits.format);
     }
+}
+
+std::vector<std::string> PreferenceWrangler::layoutFaults() const {
+    std::vector<std::string> faults;
+    for (std::size_t row = 0; row < kSettings.size(); ++row) {
+        const auto* slider = dynamic_cast<const SliderController*>(settingControls_[row]);
+        const SettingLimits& limits = kSettings[row].limits;
+        if (slider && !slider->hasLimits(limits.minimum, limits.maximum))
+            faults.push_back("minValue and maxValue of '" + std::string(kSettings[row].outlet) +
+                             "' aren't " + numberText("%g", limits.minimum) + " and " +
+                             numberText("%g", limits.maximum));
+    }
+    return faults;
 }
 
 void PreferenceWrangler::loadNumbers() {

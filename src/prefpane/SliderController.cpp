@@ -3,9 +3,8 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSSlider.h"
 #include "platform/AppKit/NSTextField.h"
-#include "src/prefpane/StepButtons.h"
+#include "src/prefpane/numbertext.h"
 
-#include <cstdio>
 #include <initializer_list>
 
 NS_REGISTER_CLASS(SliderController);
@@ -14,6 +13,8 @@ std::span<const NSOutlet> SliderController::outlets() const {
     static constexpr NSOutlet table[] = {
         nsOutlet<&SliderController::decBtn_>("decBtn"),
         nsOutlet<&SliderController::incBtn_>("incBtn"),
+        nsOutlet<&SliderController::pageDecBtn_>("pageDecBtn"),
+        nsOutlet<&SliderController::pageIncBtn_>("pageIncBtn"),
         nsOutlet<&SliderController::title_>("title"),
         nsOutlet<&SliderController::label_>("label"),
         nsOutlet<&SliderController::slider_>("slider"),
@@ -25,6 +26,9 @@ std::span<const NSAction> SliderController::actions() const {
     static constexpr NSAction table[] = {
         nsAction<&SliderController::decValue>("decValue:"),
         nsAction<&SliderController::incValue>("incValue:"),
+        nsAction<&SliderController::decPage>("decPage:"),
+        nsAction<&SliderController::incPage>("incPage:"),
+        nsAction<&SliderController::typedValue>("typedValue:"),
         nsAction<&SliderController::changedValue>("changedValue:"),
     };
     return table;
@@ -33,7 +37,7 @@ std::span<const NSAction> SliderController::actions() const {
 SliderController* SliderController::setKind(SInt32 kind, void* at, double inc, ChangeMask changes,
                                             const char* labelFormat) {
     labelFormat_ = labelFormat ? labelFormat : "";
-    setStepButtonsAutoRepeat(decBtn_, incBtn_);
+    controls().setAutoRepeat();
     NumberController::setKind(kind, at, slider_->minValue(), slider_->maxValue(), inc, changes);
     return this;
 }
@@ -43,17 +47,18 @@ SliderController* SliderController::setDoubleKindAt(void* at, double inc, Change
     return setKind(kNumberKindDouble, at, inc, changes, labelFormat);
 }
 
+NumberControls SliderController::controls() const {
+    return {decBtn_, incBtn_, pageDecBtn_, pageIncBtn_, label_, labelFormat_.c_str()};
+}
+
 void SliderController::update() {
     const double v = value();
-    updateStepButtons(*this, decBtn_, incBtn_);
     slider_->setDoubleValue(v);
-    if (labelFormat_.empty()) {
+    if (labelFormat_.empty())
         label_->setDoubleValue(v);
-        return;
-    }
-    char text[400]; // the longest double has 309 digits before the point
-    std::snprintf(text, sizeof text, labelFormat_.c_str(), v);
-    label_->setStringValue(text);
+    else
+        label_->setStringValue(numberText(labelFormat_.c_str(), v));
+    controls().update(*this, label_->stringValue());
 }
 
 bool SliderController::isPresent() const {
@@ -83,6 +88,25 @@ void SliderController::incValue(NSButton*) {
     inc();
 }
 
+void SliderController::decPage(NSButton*) {
+    NumberController::decPage();
+}
+
+void SliderController::incPage(NSButton*) {
+    NumberController::incPage();
+}
+
 void SliderController::changedValue(NSSlider* sender) {
     change(sender->doubleValue());
+}
+
+void SliderController::typedValue(NSTextField* sender) {
+    if (type(sender->stringValue()))
+        update(); // shows the same value as other values are shown
+    else
+        controls().refuse(minimum(), maximum());
+}
+
+bool SliderController::hasLimits(double min, double max) const {
+    return slider_->minValue() == min && slider_->maxValue() == max;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "src/prefpane/NumberController.h"
+#include "src/prefpane/NumberControls.h"
 
 #include <string>
 
@@ -9,8 +10,8 @@ class NSSlider;
 class NSTextField;
 class NSView;
 
-/// A number shown as a caption, a slider, a minus and a plus button and a value label. Its limits
-/// are the slider's own.
+/// A number shown as a caption, a slider, buttons for a step and for many, and a value label, in
+/// which another value can be typed. Its limits are the slider's own.
 class SliderController final : public NumberController {
 public:
     std::span<const NSOutlet> outlets() const override;
@@ -31,13 +32,23 @@ public:
 
     void decValue(NSButton* sender);
     void incValue(NSButton* sender);
+    void decPage(NSButton* sender);
+    void incPage(NSButton* sender);
     void changedValue(NSSlider* sender);
+    void typedValue(NSTextField* sender);
+
+    /// Whether the slider is laid out with these limits.
+    bool hasLimits(double min, double max) const;
 
 private:
     using NumberController::setKind;
 
+    NumberControls controls() const;
+
     NSButton* decBtn_ = nullptr;
     NSButton* incBtn_ = nullptr;
+    NSButton* pageDecBtn_ = nullptr;
+    NSButton* pageIncBtn_ = nullptr;
     NSTextField* title_ = nullptr;
     NSTextField* label_ = nullptr;
     NSSlider* slider_ = nullptr;

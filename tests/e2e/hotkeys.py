@@ -56,7 +56,7 @@ def expect(tour: "Tour", name: str, modifiers: int, code: int) -> str:
 
 def capture(tour: "Tour", name: str, *combinations: tuple[str, int, int]) -> None:
     """Clicks the hot key and presses the keys, in one go, for each of them."""
-    place = view(tour, name).box.centre
+    place = tour.screen.bring_into_view(view(tour, name)).centre
     for keys, modifiers, code in combinations:
         press("mousemove", *place, "click", "1", "key", keys)
         expect(tour, name, modifiers, code)
@@ -72,7 +72,7 @@ def open_menu(tour: "Tour", name: str, letter: str, *keys: str) -> None:
 
 def capture_a_hot_key(tour: "Tour") -> str:
     """Capture command and Q"""
-    tour.choose_tab("Hot Keys")
+    tour.choose_tab("Presses")
     begin(tour, "Scan")
     press("keydown", "super", "keydown", "shift")
     until(lambda: view(tour, "Scan").text == "command+shift+", "the held modifiers are shown")

@@ -43,7 +43,7 @@ def edit_the_buttons(tour: "Tour") -> str:
     swapped = expect_slots(tour, 22, 21, 20, 1, 2, 15, 0, 0, 0)
     tour.picture("palette-swapped")
     choose_slot(tour, "2, Double")
-    press("key", "Right", "Right", "space", "alt+r")
+    press("key", "Right", "Right", "space", "alt+m")
     return f"{added}; {swapped}; {expect_slots(tour, 22, 21, 20, 2, 15, 0, 0, 0, 0)}"
 
 

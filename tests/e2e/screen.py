@@ -146,17 +146,17 @@ class Screen:
 
     def click(self, name: str, role: str) -> Control:
         control = self.find(name, role)
-        self._bring_into_view(control)
-        press("mousemove", *until_at_rest(lambda: control.box).centre, "click", "1")
+        press("mousemove", *self.bring_into_view(control).centre, "click", "1")
         return control
 
-    def _bring_into_view(self, control: Control) -> None:
-        """Turns the wheel until the whole control is in sight."""
+    def bring_into_view(self, control: Control) -> Box:
+        """Turns the wheel until the whole control is in sight, and says where it then is."""
         while frame := control.cut_off_by():
             box = control.box
             wheel = WHEEL_UP if box.top < frame.top else WHEEL_DOWN
             press("mousemove", *frame.centre, "click", wheel)
             until(lambda: control.box != box, f"the page scrolls towards “{control.name}”")
+        return until_at_rest(lambda: control.box)
 
     def windows(self, program: str) -> list[str]:
         """The numbers of a program's windows that are in sight."""

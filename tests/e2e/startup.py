@@ -49,11 +49,11 @@ def launch_at_login(tour) -> str:
     """Switch launching at login off and on"""
     entry = tour.desktop.config / "autostart/org.korvex.Agent.desktop"
     check(entry.exists(), f"{entry} was not written when the pane first opened")
-    tour.choose_tab("Startup")
-    tour.screen.click("Start Korvex", "check box")
+    tour.choose_tab("General")
+    tour.screen.click("Start Korvex when you log in", "check box")
     off = tour.log.expect_change(LAUNCH, "launchAtLogin", 0)
     check(not entry.exists(), f"{entry} is still there")
-    tour.screen.click("Start Korvex", "check box")
+    tour.screen.click("Start Korvex when you log in", "check box")
     on = tour.log.expect_change(LAUNCH, "launchAtLogin", 1)
     check(entry.exists(), f"{entry} is not there")
     said = subprocess.run(("desktop-file-validate", entry), capture_output=True, check=False)

@@ -110,7 +110,7 @@ def change_three_settings(tour: Tour) -> str:
     until(lambda: slider.value == 10.5, "the slider follows")
     tour.screen.click("Scan the menu bar too", "check box")
     menu_bar = tour.log.expect_change(NO_GROUP, "canScanMenuBar", 0)
-    tour.choose_tab("Triggers")
+    tour.choose_tab("Presses")
     tour.choose("Hold to scan, let go to choose")
     return f'{time}; {menu_bar}; {tour.log.expect_change(TRIGGERS, "scanMode", 1)}'
 
@@ -133,7 +133,7 @@ def open_it_again(tour: Tour) -> str:
     screen = tour.screen
     check(screen.find("Line scan time", "slider").value == 10.5, "the line scan time is lost")
     check(not screen.find("Scan the menu bar too", "check box").checked, "the menu bar is back")
-    tour.choose_tab("Triggers")
+    tour.choose_tab("Presses")
     tour.wait_for_choice("Hold to scan, let go to choose")
     return "the agent heard PPop from this process; the changed values are shown"
 
@@ -143,7 +143,7 @@ def start_it_twice(tour: Tour) -> str:
     (window,) = tour.screen.windows(PROGRAM)
     press("windowminimize", window)
     until(lambda: not tour.screen.windows(PROGRAM), "the window is minimised")
-    second = tour.start_program("--section", "sound")
+    second = tour.start_program("--section", "general")
     check(second.wait(PATIENCE) == 0, "the second start failed")
     until(lambda: tour.screen.active_window() == window, "the first window comes to the front")
     check(tour.screen.windows(PROGRAM) == [window], "there is a second window")

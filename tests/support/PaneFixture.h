@@ -8,7 +8,7 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QScrollArea>
-#include <QTabWidget>
+#include <QStackedWidget>
 #include <QTest>
 #include <gmock/gmock.h>
 
@@ -67,10 +67,10 @@ protected:
             ADD_FAILURE() << "the form has no " << name;
             std::abort();
         }
-        auto* tabs = window()->findChild<QTabWidget*>(QStringLiteral("prefsTabs"));
-        for (int i = 0; i < tabs->count(); ++i)
-            if (tabs->widget(i)->isAncestorOf(widget))
-                tabs->setCurrentIndex(i);
+        auto* pages = window()->findChild<QStackedWidget*>(QStringLiteral("prefsTabs"));
+        for (int i = 0; i < pages->count(); ++i)
+            if (pages->widget(i)->isAncestorOf(widget))
+                pages->setCurrentIndex(i);
         for (QWidget* parent = widget->parentWidget(); parent; parent = parent->parentWidget())
             if (auto* area = qobject_cast<QScrollArea*>(parent))
                 area->ensureWidgetVisible(widget);

@@ -1,29 +1,93 @@
 #include "platform/AppKit/detail/FormLoader.h"
 
 #include "platform/AppKit/detail/ColorWellButton.h"
+#include "platform/AppKit/detail/HeaderBar.h"
+#include "platform/AppKit/detail/NumberRow.h"
+#include "platform/AppKit/detail/OptionRow.h"
+#include "platform/AppKit/detail/PageArea.h"
+#include "platform/AppKit/detail/PaneStyle.h"
 #include "platform/AppKit/detail/PopUpButtonWidget.h"
+#include "platform/AppKit/detail/SectionFrame.h"
+#include "platform/AppKit/detail/SettingRow.h"
 #include "platform/AppKit/detail/SliderWidget.h"
+#include "platform/AppKit/detail/SwitchCell.h"
 #include "platform/AppKit/detail/ViewWidget.h"
+#include "platform/AppKit/detail/WrapRow.h"
 
 #include <QWidget>
 
-FormLoader::FormLoader() : knownWidgets_(availableWidgets()) {}
+namespace {
+
+template <class Widget>
+QWidget* make(QWidget* parent) {
+    return new Widget(parent);
+}
+
+const struct {
+    const char* className;
+    QWidget* (*make)(QWidget* parent);
+} kOwnWidgets[] = {
+    {"QSlider", make<SliderWidget>},
+    {"NSColorWell", make<ColorWellButton>},
+    {"NSPopUpButton", make<PopUpButtonWidget>},
+    {"NumberRow", make<NumberRow>},
+    {"CheckRow", make<CheckRow>},
+    {"RadioRow", make<RadioRow>},
+    {"SettingRow", make<SettingRow>},
+    {"SwitchCell", make<SwitchCell>},
+    {"WrapRow", make<WrapRow>},
+    {"HeaderBar", make<HeaderBar>},
+    {"PageArea", make<PageArea>},
+    {"SectionFrame", make<SectionFrame>},
+};
+
+/// Makes the Tab key follow the order of the widgets, which is also a screen reader's.
+QWidget* orderTabs(QWidget* widget, QWidget* previous) {
+    for (QObject* child : widget->children()) {
+        auto* next = qobject_cast<QWidget*>(child);
+        if (!next || next->isWindow())
+            continue;
+        if (next->focusPolicy() != Qt::NoFocus) {
+            QWidget::setTabOrder(previous, next);
+            previous = next;
+        }
+        previous = orderTabs(next, previous);
+    }
+    return previous;
+}
+
+} // namespace
+
+FormLoader::FormLoader() : knownWidgets_(availableWidgets()) {
+    PaneStyle::install();
+}
+
+QWidget* FormLoader::loadForm(const QString& path) {
+    QWidget* form = loadFile(path);
+    if (!form)
+        return nullptr;
+    for (FormPart* part : parts_)
+        part->build();
+    for (auto* widget : form->findChildren<QWidget*>())
+        widget->updateGeometry(); // or the layouts around it would remember its size before
+    orderTabs(form, form);
+    return form;
+}
 
 QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, const QString& name) {
     QWidget* widget = nullptr;
-    if (className == QLatin1String("QSlider"))
-        widget = new SliderWidget(parent);
-    else if (className == QLatin1String("NSColorWell"))
-        widget = new ColorWellButton(parent);
-    else if (className == QLatin1String("NSPopUpButton"))
-        widget = new PopUpButtonWidget(parent);
-    else if (knownWidgets_.contains(className))
+    for (const auto& own : kOwnWidgets)
+        if (className == QLatin1String(own.className))
+            widget = own.make(parent);
+    if (!widget && knownWidgets_.contains(className))
         return QUiLoader::createWidget(className, parent, name);
-    else {
+    if (!widget) {
         // Promoted to one of the pane's views, which draws it.
         widget = new ViewWidget(parent);
         widget->setProperty("customClass", className);
     }
+    if (auto* part = dynamic_cast<FormPart*>(widget))
+        parts_.push_back(part);
     widget->setObjectName(name);
     return widget;
 }

@@ -40,12 +40,14 @@ void moveFocusOutOf(const QWidget* leaving) {
     const QWidget* focus = window->focusWidget();
     if (!focus || window == leaving || (focus != leaving && !leaving->isAncestorOf(focus)))
         return;
-    QWidget* group = leaving->parentWidget();
-    QWidget* heir = neighbour(leaving, group, &QWidget::nextInFocusChain);
-    if (!heir)
-        heir = neighbour(leaving, group, &QWidget::previousInFocusChain);
-    if (heir)
-        heir->setFocus(Qt::OtherFocusReason);
-    else
-        focusGroup(group);
+    QWidget* const row = leaving->parentWidget();
+    for (QWidget* group : {row, row->parentWidget()}) {
+        for (const Step step : {&QWidget::nextInFocusChain, &QWidget::previousInFocusChain}) {
+            if (QWidget* heir = group ? neighbour(leaving, group, step) : nullptr) {
+                heir->setFocus(Qt::OtherFocusReason);
+                return;
+            }
+        }
+    }
+    focusGroup(row);
 }

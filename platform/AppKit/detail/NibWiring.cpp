@@ -10,9 +10,10 @@
 #include "platform/AppKit/detail/ColorWellButton.h"
 #include "platform/AppKit/detail/PopUpButtonWidget.h"
 #include "platform/AppKit/detail/SliderWidget.h"
+#include "platform/AppKit/detail/ValueField.h"
 
 #include <QLabel>
-#include <QTabWidget>
+#include <QStackedWidget>
 #include <QVariant>
 
 #include <algorithm>
@@ -48,9 +49,9 @@ NSView* makeStandardView(const QWidget* widget) {
         return new NSPopUpButton;
     if (qobject_cast<const QAbstractButton*>(widget))
         return new NSButton;
-    if (qobject_cast<const QLabel*>(widget))
+    if (qobject_cast<const QLabel*>(widget) || dynamic_cast<const ValueField*>(widget))
         return new NSTextField;
-    if (qobject_cast<const QTabWidget*>(widget))
+    if (qobject_cast<const QStackedWidget*>(widget))
         return new NSTabView;
     return new NSView;
 }
@@ -66,6 +67,9 @@ NSView* NibWiring::wireForm(QWidget* form) {
     NSView* view = wire(form, nullptr);
     for (const Named& named : named_)
         checkOutlets(*named.object, named.name);
+    if (errors_.isEmpty())
+        for (const Named& named : named_)
+            checkLayout(*named.object, named.name);
     return view;
 }
 
@@ -182,6 +186,11 @@ void NibWiring::checkOutlets(const NSObject& object, const QString& name) {
                                                   static_cast<qsizetype>(outlet.name.size())),
                                 name);
     }
+}
+
+void NibWiring::checkLayout(const NSObject& object, const QString& name) {
+    for (const std::string& fault : object.layoutFaults())
+        errors_ << name + QStringLiteral(": ") + QString::fromStdString(fault);
 }
 
 void NibWiring::report(const QWidget* widget, const QString& message) {

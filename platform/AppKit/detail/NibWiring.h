@@ -40,6 +40,7 @@ private:
     void connectAction(const QWidget* widget, NSView& view);
     void checkCells(const QWidget* widget, const NSMatrix& matrix);
     void checkOutlets(const NSObject& object, const QString& name);
+    void checkLayout(const NSObject& object, const QString& name);
     void report(const QWidget* widget, const QString& message);
 
     std::vector<std::unique_ptr<NSObject>>& objects_;

@@ -1,8 +1,9 @@
 #include "platform/AppKit/detail/SliderWidget.h"
 
+#include "platform/AppKit/detail/ShownText.h"
+
 #include <QAccessible>
 #include <QAccessibleWidget>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QStyleOptionSlider>
@@ -86,6 +87,11 @@ void SliderWidget::setDoubleValue(double value) {
     doubleValue_ = limited;
 }
 
+QSize SliderWidget::sizeHint() const {
+    const QSize own = QSlider::sizeHint();
+    return preferredWidth_ ? QSize(preferredWidth_, own.height()) : own;
+}
+
 int SliderWidget::positionOf(double value) const {
     const double part = (value - minValue_) / (maxValue_ - minValue_);
     return minimum() + static_cast<int>(std::lround(part * (maximum() - minimum())));
@@ -107,10 +113,9 @@ void SliderWidget::sliderChange(SliderChange change) {
 }
 
 QString SliderWidget::valueText() const {
-    for (const auto* label : parent()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) {
-        if (!label->buddy() && label->property("outlet").isValid())
-            return label->text().trimmed();
-    }
+    for (const auto* each : parent()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (each->property("outlet") == QLatin1String("label"))
+            return shownText(each).trimmed();
     return {};
 }
 

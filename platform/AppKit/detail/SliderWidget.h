@@ -19,6 +19,11 @@ public:
     /// Goes to the nearest position; emits nothing.
     void setDoubleValue(double value);
 
+    /// How wide it would like to be, in points.
+    void setPreferredWidth(int width) { preferredWidth_ = width; }
+
+    QSize sizeHint() const override;
+
     /// The text of the value label beside the slider, without blanks around it; may be empty.
     QString valueText() const;
 
@@ -36,4 +41,5 @@ private:
     double minValue_ = 0;
     double maxValue_ = 1;
     double doubleValue_ = 0;
+    int preferredWidth_ = 0; ///< 0: as the style likes it
 };

@@ -172,7 +172,7 @@ TEST_F(PaletteEditingTest, AButtonThatDisablesItselfLeavesTheKeyboardWhereOneMor
     prefs.borderGap = 1;
     prefs.lineScanTime = 1.5;
     for (const auto& [button, heir] : {std::pair("removeButtonBtn", "paletteView"),
-                                       {"borderGapDecBtn", "borderGap"},
+                                       {"borderGapDecBtn", "borderGapLabel"},
                                        {"lineScanTimeDecBtn", "lineScanTimeSlider"}}) {
         find(button)->setFocus();
         QTest::keyClick(find(button), Qt::Key_Space);

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QLabel>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QSlider>
@@ -45,7 +46,7 @@ protected:
     }
 
     std::string text(const std::string& name) {
-        return find<QLabel>(name.c_str())->text().toStdString();
+        return find<QLineEdit>(name.c_str())->text().toStdString();
     }
 };
 
@@ -119,6 +120,42 @@ TEST_P(SettingsEditTest, EachControlWritesItsOwnFieldAndReportsItsGroup) {
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
 }
 
+TEST_F(SettingsTest, ATypedValueIsTakenOrRefusedAndKept) {
+    const struct {
+        const char* field;
+        const char* typed;
+        const char* shown;
+        ChangeMask mask = 0; ///< 0: refused, and nothing is sent
+    } cases[] = {
+        {"lineScanTimeLabel", "12,5", " 12.5 sec", kChangeScanSpeed},
+        {"lineScanTimeLabel", "60.1 sec", " 12.5 sec"},
+        {"lineScanTimeLabel", "1e1", " 12.5 sec"},
+        {"lineThicknessLabel", "3.5", "  7 points"},
+        {"volumeLabel", "loud", " 50"},
+        {"buttonSizeLabel", "52", "52 points", kChangePalette},
+        {"buttonWidthLabel", " 20 points", "20 points", kChangePalette},
+        {"buttonSizeLabel", "101", "20 × 52"},
+    };
+
+    openWithAgent();
+    for (const auto& [name, typed, shown, mask] : cases) {
+        auto* field = find<QLineEdit>(name);
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, typed);
+        QTest::keyClick(field, Qt::Key_Return);
+        EXPECT_EQ(text(name), shown) << typed;
+        if (mask) {
+            EXPECT_EQ(agentLog_.next()["mask"].toInteger(), mask) << typed;
+        }
+    }
+    EXPECT_EQ(find<QLabel>("buttonSizeExplanation")->text(),
+              "<b>Only 20 points to 100 points can be set.</b>");
+    click("lineScanTimePageIncBtn");
+    EXPECT_EQ(text("lineScanTimeLabel"), " 15.0 sec");
+    EXPECT_THAT(remainingMasks(), testing::ElementsAre(kChangeScanSpeed));
+}
+
 TEST_F(SettingsTest, LoadingShowsTheRecordAndReportsNothingButAnEmptyScanArea) {
     prefs.on = prefs.canScanMenuBar = 0;
     prefs.scanMode = 2;
@@ -141,11 +178,14 @@ TEST_F(SettingsTest, LoadingShowsTheRecordAndReportsNothingButAnEmptyScanArea) {
 TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityAction) {
     // They open a menu, a window or the help book, or end in a choice elsewhere.
     const QRegularExpression others(
-        "^(helpBtn|prefsTabs|scanAreaBtn|lineColor|paletteView|sampleScanImage|"
+        "^(helpBtn|sections.*|.*Label|scanAreaBtn|lineColor|paletteView|sampleScanImage|"
         "(add|swapWith|setAction|remove)(Button)?Btn|.*KeyBtn|.*Key2Btn)$");
     prefs.scanArea = {0, 0, 640, 480};
-    prefs.minTriggerDuration = prefs.afterClickDelay = 1; // neither is at a limit
-    prefs.lineGhostTransparency = 50;
+    prefs.minTriggerDuration = prefs.afterClickDelay = 4; // none comes to a limit
+    prefs.preScanDelay = prefs.inverseReleaseTime = 6;
+    prefs.autoRepeatTime = 10;
+    prefs.lineTransparency = prefs.lineGhostTransparency = 50;
+    prefs.borderGap = prefs.buttonGap = 30;
     openWithAgent();
     int tried = 0;
     for (auto* widget : controls()) {
@@ -169,8 +209,8 @@ TEST_F(SettingsTest, EveryControlIsNamedReachableAndLargeEnough) {
             << slider->objectName().toStdString() << " can't show its default";
     for (auto* widget : controls()) {
         const std::string name = widget->objectName().toStdString();
-        EXPECT_GE(widget->height(), 24) << name;
-        EXPECT_GE(widget->width(), 24) << name;
+        EXPECT_GE(widget->height(), 44) << name;
+        EXPECT_GE(widget->width(), 44) << name;
         auto* interface = QAccessible::queryAccessibleInterface(widget);
         EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty()) << name;
     }

@@ -1,0 +1,96 @@
+#include "platform/AppKit/detail/NumberRow.h"
+
+#include "platform/AppKit/detail/RowLayout.h"
+#include "platform/AppKit/detail/RowText.h"
+#include "platform/AppKit/detail/SliderWidget.h"
+#include "platform/AppKit/detail/ValueField.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+#include <QVariant>
+
+#include <cmath>
+
+namespace {
+
+constexpr int kGap = 6; // points between neighbouring controls
+constexpr int kSliderWidth = 150;
+constexpr int kLeastSliderWidth = 48;
+constexpr double kPageShare = 10; // positions that the page keys go
+
+} // namespace
+
+template <class Part>
+Part* NumberRow::make(const char* suffix, const char* outlet, const char* action) {
+    auto* part = new Part(this);
+    part->setObjectName(objectName() + QLatin1String(suffix));
+    part->setProperty("outlet", QLatin1String(outlet));
+    if (action)
+        part->setProperty("action", QLatin1String(action));
+    part->setAccessibleName(accessibleName());
+    part->setAccessibleDescription(accessibleDescription());
+    return part;
+}
+
+QAbstractButton* NumberRow::makeButton(const char* suffix, const char* outlet, const char* action,
+                                       const char* text, const QString& name) {
+    auto* button = make<QToolButton>(suffix, outlet, action);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setText(QString::fromUtf8(text));
+    button->setAccessibleName(name);
+    return button;
+}
+
+void NumberRow::addSlider(QHBoxLayout& controls) {
+    auto* slider = make<SliderWidget>("Slider", "slider", "changedValue:");
+    slider->setOrientation(Qt::Horizontal);
+    const double range = property("maxValue").toDouble() - property("minValue").toDouble();
+    slider->setRange(
+        0, static_cast<int>(std::lround(range * std::pow(10, property("decimals").toInt()))));
+    slider->setPageStep(kPageShare);
+    for (const char* limit : {"minValue", "maxValue"})
+        slider->setProperty(limit, property(limit));
+    slider->setMinimumWidth(kLeastSliderWidth);
+    slider->setPreferredWidth(kSliderWidth);
+    controls.addWidget(slider, 1);
+}
+
+void NumberRow::build() {
+    const QString caption = property("caption").toString();
+    if (accessibleName().isEmpty())
+        setAccessibleName(withoutMnemonic(caption));
+    const auto named = [this](const char* property, const char* how) {
+        return accessibleName() + QLatin1String(how) + this->property(property).toString();
+    };
+    const bool hasSlider = property("maxValue").isValid();
+
+    const RowText text(*this, caption, accessibleDescription());
+    explanation_ = text.explanation;
+    auto* controls = new QHBoxLayout;
+    controls->setContentsMargins(0, 0, 0, 0);
+    controls->setSpacing(kGap);
+    controls->addWidget(
+        makeButton("PageDecBtn", "pageDecBtn", "decPage:", "−−", named("less", ", much ")));
+    controls->addWidget(makeButton("DecBtn", "decBtn", "decValue:", "−", named("less", ", ")));
+    if (hasSlider)
+        addSlider(*controls);
+    controls->addWidget(makeButton("IncBtn", "incBtn", "incValue:", "+", named("more", ", ")));
+    controls->addWidget(
+        makeButton("PageIncBtn", "pageIncBtn", "incPage:", "++", named("more", ", much ")));
+    auto* field = make<ValueField>("Label", "label", "typedValue:");
+    field->setExplanation(text.explanation);
+    controls->addWidget(field);
+    if (hasSlider)
+        text.caption->setProperty("outlet", QStringLiteral("title"));
+    text.caption->setBuddy(field);
+    new RowLayout(this, text.layout(), controls, rowIndent(*this));
+}
+
+void NumberRow::setCompact(bool compact) {
+    showExplanation(*this, explanation_, compact);
+}
+
+void NumberRow::paintEvent(QPaintEvent*) {
+    drawRowLine(*this);
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/AppKit/detail/FormPart.h"
+#include "platform/AppKit/detail/RowText.h"
+
+#include <QWidget>
+
+class QAbstractButton;
+class QHBoxLayout;
+class QLabel;
+
+/// A row of the form for a number. It builds the caption, the explanation, minus and plus buttons
+/// for a step and for many, a slider, and a field with the value, each named for assistive
+/// technology, as outlets of the controller that the row's customClass makes: decBtn, incBtn,
+/// pageDecBtn, pageIncBtn, label and, with limits, title and slider. The form's properties:
+///
+/// - caption, with a letter marked by “&”; accessibleName, if it differs from the caption;
+///   accessibleDescription, the explanation that is shown;
+/// - less, more: what its buttons do, as in "Line scan time, longer";
+/// - minValue, maxValue, decimals: the slider's limits and how many digits behind the point it
+///   reaches; without limits there is no slider;
+/// - indented: the row belongs to the radio button above it.
+class NumberRow final : public QWidget, public FormPart, public CompactRow {
+public:
+    using QWidget::QWidget;
+
+    void build() override;
+    void setCompact(bool compact) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    template <class Part>
+    Part* make(const char* suffix, const char* outlet, const char* action);
+    QAbstractButton* makeButton(const char* suffix, const char* outlet, const char* action,
+                                const char* text, const QString& name);
+    void addSlider(QHBoxLayout& controls);
+
+    QLabel* explanation_ = nullptr; ///< null for none
+};

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "platform/AppKit/detail/RowText.h"
+
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QStyle>
+#include <QStyleOptionButton>
+
+/// Where a button that is a whole row has its parts, and how it draws them.
+class OptionLook {
+public:
+    /// `indicatorAtRight`: of a check box; a radio button has it before its text.
+    OptionLook(const QAbstractButton& button, bool indicatorAtRight, bool isCompact)
+        : button_(button), indicatorAtRight_(indicatorAtRight), isCompact_(isCompact) {}
+
+    int widthHint() const;
+    int heightForWidth(int width) const;
+    void draw(QWidget& row, QStyle::PrimitiveElement indicator, const QStyleOption& option) const;
+
+private:
+    QString explanation() const { return isCompact_ ? QString() : button_.accessibleDescription(); }
+
+    QSize textSize(int width) const;
+    QRect textRect(const QRect& rect) const;
+    QRect indicatorRect(const QRect& rect) const;
+
+    const QAbstractButton& button_;
+    bool indicatorAtRight_;
+    bool isCompact_; ///< without its explanation
+};
+
+/// A check box or radio button that is a whole row, with its accessible description beneath its
+/// text. A click anywhere in the row is one on the button. The form's property `indented`: see
+/// NumberRow.
+template <class Button>
+class OptionRow final : public Button, public CompactRow {
+public:
+    explicit OptionRow(QWidget* parent) : Button(parent) {
+        QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+        policy.setHeightForWidth(true);
+        this->setSizePolicy(policy);
+    }
+
+    QSize sizeHint() const override {
+        const int width = look().widthHint();
+        return {width, look().heightForWidth(width)};
+    }
+
+    QSize minimumSizeHint() const override { return {44, 44}; }
+
+    int heightForWidth(int width) const override { return look().heightForWidth(width); }
+
+    void setCompact(bool compact) override {
+        isCompact_ = compact;
+        this->setToolTip(compact ? this->accessibleDescription() : QString());
+        this->updateGeometry();
+        this->update();
+    }
+
+protected:
+    bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
+
+    void paintEvent(QPaintEvent*) override {
+        QStyleOptionButton option;
+        this->initStyleOption(&option);
+        look().draw(*this,
+                    kIsCheck ? QStyle::PE_IndicatorCheckBox : QStyle::PE_IndicatorRadioButton,
+                    option);
+    }
+
+private:
+    static constexpr bool kIsCheck = std::is_same_v<Button, QCheckBox>;
+
+    OptionLook look() const { return OptionLook(*this, kIsCheck, isCompact_); }
+
+    bool isCompact_ = false;
+};
+
+using CheckRow = OptionRow<QCheckBox>;
+using RadioRow = OptionRow<QRadioButton>;

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QScrollArea>
+
+/// A page that scrolls up and down when its contents don't fit, and asks for room for all of them.
+class PageArea final : public QScrollArea {
+public:
+    explicit PageArea(QWidget* parent);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+};

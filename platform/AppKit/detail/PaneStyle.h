@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/// The desktop's own style, with marks, rings and targets that can be seen and hit: a ring of 3
+/// points around what has the keyboard, borders and indicators of 3 : 1 at least against what is
+/// around them, controls of 44 points at least, rows in quiet cards. All colours come from the
+/// palette.
+class PaneStyle final : public QProxyStyle {
+public:
+    /// Makes it the application's style. Calling it again does nothing.
+    static void install();
+
+    void polish(QPalette& palette) override;
+    using QProxyStyle::polish;
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
+};
+
+namespace panestyle {
+
+constexpr int kTarget = 44;    ///< points, the least side of what can be clicked
+constexpr int kIndicator = 24; ///< of a check box, a radio button, a slider's knob
+constexpr qreal kRing = 3;     ///< the width of the ring around what has the keyboard
+constexpr qreal kBorder = 1.5;
+constexpr qreal kRadius = 8; ///< of a control's corners
+
+/// Draws a rounded box whose border lies inside `bounds`.
+void drawBox(QPainter& painter, const QRectF& bounds, const QBrush& fill, const QColor& border,
+             qreal width, qreal radius = kRadius);
+
+/// Draws the ring around what has the keyboard.
+void drawRing(QPainter& painter, const QWidget& widget, const QRectF& bounds);
+
+} // namespace panestyle

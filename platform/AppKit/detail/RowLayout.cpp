@@ -1,0 +1,107 @@
+#include "platform/AppKit/detail/RowLayout.h"
+
+#include <QWidget>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kSide = 16;      // points, as all here: the margins of a row
+constexpr int kNarrowSide = 8; // in a row narrower than
+constexpr int kNarrow = 500;
+constexpr int kAbove = 9;
+constexpr int kGap = 16;         // between text and controls side by side
+constexpr int kGapBeneath = 6;   // and one above the other
+constexpr int kTextColumn = 13;  // in heights of a line, the least width of a text beside controls
+constexpr int kLeastHeight = 44; // of what a row shows
+
+int heightFor(const QLayoutItem& item, int width) {
+    return item.hasHeightForWidth() ? item.heightForWidth(width) : item.sizeHint().height();
+}
+
+} // namespace
+
+RowLayout::RowLayout(QWidget* row, QLayout* text, QLayout* controls, int indent)
+    : QLayout(row), indent_(indent) {
+    setContentsMargins(0, 0, 0, 0);
+    for (QLayout* layout : {text, controls}) {
+        addChildLayout(layout);
+        items_ << layout;
+    }
+}
+
+RowLayout::~RowLayout() {
+    qDeleteAll(items_);
+}
+
+void RowLayout::addItem(QLayoutItem* item) {
+    items_ << item;
+}
+
+int RowLayout::count() const {
+    return static_cast<int>(items_.size());
+}
+
+QLayoutItem* RowLayout::itemAt(int index) const {
+    return items_.value(index);
+}
+
+QLayoutItem* RowLayout::takeAt(int index) {
+    return index < count() ? items_.takeAt(index) : nullptr;
+}
+
+QMargins RowLayout::margins(int width) const {
+    return width < kNarrow ? QMargins(kNarrowSide + indent_ / 2, kAbove, kNarrowSide, kAbove)
+                           : QMargins(kSide + indent_, kAbove, kSide, kAbove);
+}
+
+RowLayout::Places RowLayout::places(const QRect& rect) const {
+    const QRect room = rect.marginsRemoved(margins(rect.width()));
+    const QLayoutItem& text = *items_[0];
+    const QLayoutItem& controls = *items_[1];
+    const int column = kTextColumn * parentWidget()->fontMetrics().height();
+    const int beside = room.width() - kGap - column;
+    if (beside < controls.minimumSize().width()) {
+        const int above = heightFor(text, room.width());
+        const int beneath = heightFor(controls, room.width());
+        return {QRect(room.x(), room.y(), room.width(), above),
+                QRect(room.x(), room.y() + above + kGapBeneath, room.width(), beneath),
+                2 * kAbove + above + kGapBeneath + beneath};
+    }
+    const int width = std::min(beside, controls.sizeHint().width());
+    const int left = room.width() - kGap - width;
+    const int height = std::max({heightFor(text, left), heightFor(controls, width), kLeastHeight});
+    return {QRect(room.x(), room.y(), left, std::max(height, room.height())),
+            QRect(room.x() + left + kGap, room.y(), width, std::max(height, room.height())),
+            2 * kAbove + height};
+}
+
+QSize RowLayout::sizeHint() const {
+    const int width =
+        items_[0]->sizeHint().width() + kGap + items_[1]->sizeHint().width() + 2 * kSide + indent_;
+    return {width, heightForWidth(width)};
+}
+
+QSize RowLayout::minimumSize() const {
+    const QMargins around = margins(0);
+    return {items_[1]->minimumSize().width() + around.left() + around.right(), kLeastHeight};
+}
+
+bool RowLayout::hasHeightForWidth() const {
+    return true;
+}
+
+int RowLayout::heightForWidth(int width) const {
+    return places(QRect(0, 0, width, 0)).height;
+}
+
+void RowLayout::setGeometry(const QRect& rect) {
+    QLayout::setGeometry(rect);
+    const Places where = places(rect);
+    items_[0]->setGeometry(where.text);
+    items_[1]->setGeometry(where.controls);
+}
+
+Qt::Orientations RowLayout::expandingDirections() const {
+    return Qt::Horizontal;
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QLayout>
+
+/// The layout of a row: its text at the left and its controls at the right or, where that would
+/// leave the text too little room, the controls beneath it.
+class RowLayout final : public QLayout {
+public:
+    /// Owns both layouts. `indent`: from the row's left edge to its text, in points, besides the
+    /// margin.
+    RowLayout(QWidget* row, QLayout* text, QLayout* controls, int indent);
+    ~RowLayout() override;
+
+    void addItem(QLayoutItem* item) override;
+    int count() const override;
+    QLayoutItem* itemAt(int index) const override;
+    QLayoutItem* takeAt(int index) override;
+    QSize sizeHint() const override;
+    QSize minimumSize() const override;
+    bool hasHeightForWidth() const override;
+    int heightForWidth(int width) const override;
+    void setGeometry(const QRect& rect) override;
+    Qt::Orientations expandingDirections() const override;
+
+private:
+    struct Places {
+        QRect text, controls;
+        int height; ///< of the row
+    };
+
+    Places places(const QRect& rect) const;
+    QMargins margins(int width) const;
+
+    int indent_;
+    QList<QLayoutItem*> items_; ///< the text, the controls
+};

@@ -1,0 +1,70 @@
+#include "platform/AppKit/detail/RowText.h"
+
+#include "platform/AppKit/detail/PaneColors.h"
+#include "platform/AppKit/detail/PaneStyle.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QVBoxLayout>
+#include <QVariant>
+
+namespace {
+
+constexpr int kSubordinate = panestyle::kIndicator + 12; // points: under the text of a radio button
+constexpr int kLineGap = 2;
+
+QLabel* makeLabel(QWidget& row, const QString& text, const char* suffix) {
+    auto* label = new QLabel(text, &row);
+    label->setObjectName(row.objectName() + QLatin1String(suffix));
+    label->setWordWrap(true);
+    label->setMinimumWidth(1);
+    return label;
+}
+
+} // namespace
+
+RowText::RowText(QWidget& row, const QString& captionText, const QString& explanationText)
+    : caption(makeLabel(row, captionText, "Title")),
+      explanation(explanationText.isEmpty() ? nullptr
+                                            : makeLabel(row, explanationText, "Explanation")) {
+    if (explanation)
+        explanation->setProperty("textColor", QStringLiteral("secondaryLabelColor"));
+}
+
+QLayout* RowText::layout() const {
+    auto* lines = new QVBoxLayout;
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(kLineGap);
+    lines->addStretch();
+    lines->addWidget(caption);
+    if (explanation)
+        lines->addWidget(explanation);
+    lines->addStretch();
+    return lines;
+}
+
+void showExplanation(QWidget& row, QLabel* explanation, bool compact) {
+    if (!explanation)
+        return;
+    explanation->setVisible(!compact);
+    if (row.toolTip().isEmpty() || row.toolTip() == row.accessibleDescription())
+        row.setToolTip(compact ? row.accessibleDescription() : QString());
+}
+
+QString withoutMnemonic(QString text) {
+    static const QRegularExpression kMnemonic(QStringLiteral("&(.)"));
+    return text.replace(kMnemonic, QStringLiteral("\\1"));
+}
+
+int rowIndent(const QWidget& row) {
+    return row.property("indented").toBool() ? kSubordinate : 0;
+}
+
+void drawRowLine(QWidget& row) {
+    if (row.y() <= row.parentWidget()->contentsRect().y())
+        return;
+    QPainter painter(&row);
+    painter.setPen(PaneColors(row.palette()).cardLine);
+    painter.drawLine(rowIndent(row), 0, row.width(), 0);
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QTabBar>
+
+/// The list of sections at a window's side: a tab bar with its texts upright, an icon before each.
+/// A tab's data is its icon's name. Alt with a section's letter goes there, see `onLetter`.
+class SectionBar final : public QTabBar {
+public:
+    explicit SectionBar(QWidget* parent);
+
+    std::function<void()> onLetter; ///< called when a letter has chosen the current section
+
+protected:
+    QSize tabSizeHint(int index) const override;
+    QSize minimumTabSizeHint(int index) const override;
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+};

@@ -1,0 +1,179 @@
+#include "platform/AppKit/detail/SectionFrame.h"
+
+#include "platform/AppKit/detail/PaneColors.h"
+#include "platform/AppKit/detail/RowText.h"
+#include "platform/AppKit/detail/SectionBar.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPainter>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QVariant>
+
+namespace {
+
+constexpr int kListMargin = 10; // points, as the margins of a page
+constexpr int kPageSide = 28;
+constexpr int kPageAbove = 18;
+constexpr int kNarrowPageSide = 10;
+constexpr int kNarrow = 50; // in heights of a line: in a window below that width,
+constexpr int kLow = 28;    // or height, there is a button instead of the list
+constexpr int kMostNumbered = 9;
+
+} // namespace
+
+void SectionFrame::build() {
+    pages_ = findChild<QStackedWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    bar_ = new SectionBar(this);
+    bar_->setObjectName(objectName() + QStringLiteral("Bar"));
+    bar_->setAccessibleName(accessibleName());
+    bar_->setAccessibleDescription(accessibleDescription());
+    pages_->raise(); // after the list, for the reading order
+    auto* list = new QVBoxLayout;
+    list->setContentsMargins(kListMargin, kListMargin, kListMargin, kListMargin);
+    list->addWidget(bar_);
+    list->addStretch();
+    auto* columns = qobject_cast<QBoxLayout*>(layout());
+    columns->insertLayout(0, list);
+    columns->setStretchFactor(pages_, 1);
+    button_ = window()->findChild<QPushButton*>(property("menuButton").toString());
+    addSections();
+    addShortcuts();
+    showCurrent();
+}
+
+void SectionFrame::addSections() {
+    menu_ = new QMenu(this);
+    for (int index = 0; index < pages_->count(); ++index) {
+        const QWidget* page = pages_->widget(index);
+        bar_->setTabData(bar_->addTab(page->windowTitle()), page->property("icon"));
+        QAction* action = menu_->addAction(page->windowTitle());
+        action->setCheckable(true);
+        connect(action, &QAction::triggered, this, [this, index] { choose(index); });
+    }
+    connect(bar_, &QTabBar::currentChanged, pages_, &QStackedWidget::setCurrentIndex);
+    connect(pages_, &QStackedWidget::currentChanged, this, [this] { showCurrent(); });
+    bar_->onLetter = [this] { enterPage(); };
+    if (button_) {
+        button_->setMenu(menu_);
+        button_->hide();
+    }
+}
+
+void SectionFrame::addShortcuts() {
+    const auto add = [this](const QKeySequence& keys, auto go) {
+        new QShortcut(keys, this, this, go, Qt::WindowShortcut);
+    };
+    const auto step = [this](int places) {
+        const int count = pages_->count();
+        choose((pages_->currentIndex() + places + count) % count);
+    };
+    for (const auto key : {Qt::Key_Tab, Qt::Key_PageDown})
+        add(QKeySequence(Qt::CTRL | key), [step] { step(1); });
+    for (const auto keys : {Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, Qt::CTRL | Qt::Key_PageUp})
+        add(QKeySequence(keys), [step] { step(-1); });
+    for (int index = 0; index < std::min(pages_->count(), kMostNumbered); ++index)
+        add(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + index)),
+            [this, index] { choose(index); });
+}
+
+/// Goes to a section, and takes the keyboard along when it was in the one that is left.
+void SectionFrame::choose(int section) {
+    const QWidget* focus = window()->focusWidget();
+    const bool wasInside = !focus || pages_->isAncestorOf(focus);
+    pages_->setCurrentIndex(section);
+    if (wasInside)
+        enterPage();
+}
+
+void SectionFrame::enterPage() {
+    QWidget* page = pages_->currentWidget();
+    for (auto* each : page->findChildren<QWidget*>()) { // in the reading order
+        if (each->isVisible() && each->isEnabled() && (each->focusPolicy() & Qt::TabFocus)) {
+            each->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
+}
+
+void SectionFrame::showCurrent() {
+    const int current = pages_->currentIndex();
+    bar_->setCurrentIndex(current);
+    for (int index = 0; index < menu_->actions().size(); ++index)
+        menu_->actions().at(index)->setChecked(index == current);
+    if (!button_)
+        return;
+    const QString title = withoutMnemonic(bar_->tabText(current));
+    button_->setText(title);
+    button_->setAccessibleName(tr("Section: %1").arg(title));
+}
+
+void SectionFrame::fitWindow() {
+    const int line = fontMetrics().height();
+    const QSize size = window()->size();
+    setLow(size.height() < kLow * line);
+    setNarrow(button_ && (isLow_ || size.width() < kNarrow * line));
+}
+
+void SectionFrame::setNarrow(bool narrow) {
+    isNarrow_ = narrow;
+    const bool hadFocus = bar_->hasFocus() || (button_ && button_->hasFocus());
+    bar_->setVisible(!narrow);
+    if (button_)
+        button_->setVisible(narrow);
+    for (auto* widget : window()->findChildren<QWidget*>())
+        if (widget->property("wideOnly").toBool())
+            widget->setVisible(!narrow);
+    if (hadFocus)
+        narrow ? button_->setFocus() : bar_->setFocus();
+    const int side = narrow ? 0 : kListMargin;
+    layout()->itemAt(0)->layout()->setContentsMargins(side, side, side, side);
+    const int aside = narrow ? kNarrowPageSide : kPageSide;
+    const int above = narrow ? kNarrowPageSide : kPageAbove;
+    for (auto* part : pages_->findChildren<QWidget*>())
+        if (part->property("pagePart").toBool())
+            part->layout()->setContentsMargins(aside, above, aside, above);
+    update();
+}
+
+void SectionFrame::setLow(bool low) {
+    if (low == isLow_)
+        return;
+    isLow_ = low;
+    for (auto* widget : pages_->findChildren<QWidget*>())
+        if (auto* row = dynamic_cast<CompactRow*>(widget))
+            row->setCompact(low);
+}
+
+void SectionFrame::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    fitWindow();
+}
+
+// The keyboard starts here, not at what stands above.
+void SectionFrame::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    fitWindow();
+    if (!window()->focusWidget())
+        isNarrow_ ? enterPage() : bar_->setFocus();
+}
+
+void SectionFrame::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitWindow();
+}
+
+void SectionFrame::paintEvent(QPaintEvent*) {
+    if (isNarrow_)
+        return;
+    const PaneColors colors(palette());
+    QPainter painter(this);
+    const int edge = pages_->x();
+    painter.fillRect(0, 0, edge, height(), colors.card);
+    painter.setPen(colors.cardLine);
+    painter.drawLine(edge - 1, 0, edge - 1, height());
+}

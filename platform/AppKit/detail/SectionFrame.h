@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/AppKit/detail/FormPart.h"
+
+#include <QWidget>
+
+class QMenu;
+class QPushButton;
+class QStackedWidget;
+class SectionBar;
+
+/// The window's sections: a list of them beside a stack, which the form lays out in it, of pages.
+/// A page's window title, with a letter marked by “&”, is its section's, its property `icon` names
+/// the section's icon; the parts of pages with the property `pagePart` get their margins here. In a
+/// narrow or low window the list gives way to one button with a menu; it stands where the form has
+/// put the button that the property `menuButton` names. Widgets of the window whose property
+/// `wideOnly` is true vanish with the list. In a low window the rows go without their explanations.
+///
+/// From anywhere in the window Ctrl+Tab, Ctrl+Shift+Tab, Ctrl+Page Up and Page Down go to the
+/// neighbouring section, Alt+1 to Alt+9 to the one in that place, and Alt with its letter to the
+/// first control in it.
+class SectionFrame final : public QWidget, public FormPart {
+public:
+    using QWidget::QWidget;
+
+    void build() override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void addSections();
+    void addShortcuts();
+    void choose(int section);
+    void enterPage();
+    void showCurrent();
+    void fitWindow();
+    void setNarrow(bool narrow);
+    void setLow(bool low);
+
+    QStackedWidget* pages_ = nullptr;
+    SectionBar* bar_ = nullptr;
+    QPushButton* button_ = nullptr; ///< the form's; null when it has none
+    QMenu* menu_ = nullptr;
+    bool isNarrow_ = false;
+    bool isLow_ = false;
+};

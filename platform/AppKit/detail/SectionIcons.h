@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QRectF>
+#include <QString>
+
+class QColor;
+class QPainter;
+
+/// Draws a section's icon, of this project's own, in one colour into a square. Names: scanning,
+/// presses, look, palette, general; any other draws nothing.
+void drawSectionIcon(QPainter& painter, const QString& name, const QRectF& square,
+                     const QColor& color);

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/AppKit/detail/FormPart.h"
+#include "platform/AppKit/detail/RowText.h"
+
+#include <QWidget>
+
+/// A row of the form with any controls: those that the form lays out in it. It builds the caption
+/// and the explanation, from the properties `caption` and accessibleDescription, and puts the
+/// controls at the right of them. Alt with the caption's letter acts on the row's first control.
+class SettingRow final : public QWidget, public FormPart, public CompactRow {
+public:
+    using QWidget::QWidget;
+
+    void build() override;
+    void setCompact(bool compact) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QLabel* explanation_ = nullptr; ///< null for none
+};

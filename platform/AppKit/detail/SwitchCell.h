@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QRadioButton>
+
+/// One side of a switch: radio buttons that stand side by side and are drawn as one control. The
+/// arrow keys go to the other side without choosing it; Space chooses.
+class SwitchCell final : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool hitButton(const QPoint& place) const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    SwitchCell* other(int step) const;
+};

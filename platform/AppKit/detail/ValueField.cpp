@@ -1,0 +1,103 @@
+#include "platform/AppKit/detail/ValueField.h"
+
+#include <QAccessible>
+#include <QKeyEvent>
+#include <QLabel>
+
+namespace {
+
+constexpr int kMargin = 6;   // points beside the text
+constexpr int kPadding = 32; // with the frame, both sides together
+
+} // namespace
+
+ValueField::ValueField(QWidget* parent) : QLineEdit(parent) {
+    setAlignment(Qt::AlignRight);
+    setTextMargins(kMargin, 0, kMargin, 0);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(this, &QLineEdit::textEdited, this, &ValueField::withdrawRefusal);
+}
+
+void ValueField::showText(const QString& text) {
+    if (text == shown_ && text == this->text())
+        return;
+    shown_ = text;
+    setText(shown_);
+    if (hasFocus())
+        selectAll();
+}
+
+void ValueField::setExplanation(QLabel* label) {
+    explanation_ = label;
+}
+
+void ValueField::refuse(const QString& why) {
+    setText(shown_);
+    selectAll();
+    withdrawRefusal();
+    setAccessibleDescription(why);
+    if (explanation_) {
+        reason_ = explanation_->text();
+        explanation_->setText(QStringLiteral("<b>%1</b>").arg(why.toHtmlEscaped()));
+    }
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void ValueField::withdrawRefusal() {
+    if (reason_.isEmpty())
+        return;
+    explanation_->setText(reason_);
+    setAccessibleDescription(reason_);
+    reason_.clear();
+}
+
+QSize ValueField::sizeHint() const {
+    const QSize own = QLineEdit::sizeHint();
+    return {fontMetrics().horizontalAdvance(QStringLiteral("000.0 sec")) + kPadding, own.height()};
+}
+
+QSize ValueField::minimumSizeHint() const {
+    return sizeHint();
+}
+
+void ValueField::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        commit();
+        selectAll();
+        break;
+    case Qt::Key_Escape:
+        setText(shown_);
+        selectAll();
+        withdrawRefusal();
+        break;
+    case Qt::Key_Space:
+        // One press too many of a button that has just gone.
+        if (selectedText() != text())
+            QLineEdit::keyPressEvent(event);
+        break;
+    default:
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+void ValueField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+        QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
+}
+
+void ValueField::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason)
+        return;
+    commit();
+    deselect();
+}
+
+void ValueField::commit() {
+    if (text() != shown_ && onTyped)
+        onTyped();
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/AppKit/detail/FormPart.h"
+
+#include <QWidget>
+
+/// Controls side by side, as the form's horizontal layout has them, that go on in a new line where
+/// there is no room for one more.
+class WrapRow final : public QWidget, public FormPart {
+public:
+    using QWidget::QWidget;
+
+    void build() override;
+};

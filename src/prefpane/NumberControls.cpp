@@ -1,0 +1,46 @@
+#include "src/prefpane/NumberControls.h"
+
+#include "platform/AppKit/NSButton.h"
+#include "platform/AppKit/NSTextField.h"
+#include "src/prefpane/NumberController.h"
+#include "src/prefpane/numbertext.h"
+
+void NumberControls::setAutoRepeat() const {
+    constexpr float kDelaySeconds = 1.0f;
+    constexpr float kIntervalSeconds = 0.25f;
+    for (NSButton* button : {dec, inc, pageDec, pageInc})
+        button->setPeriodicDelay(kDelaySeconds, kIntervalSeconds);
+}
+
+void NumberControls::update(const NumberController& controller, const std::string& shown) const {
+    const double value = controller.value();
+    const double step = controller.step();
+
+    const struct {
+        NSButton* button;
+        double worth;
+        bool enabled;
+    } buttons[] = {
+        {dec, -step, value > controller.minimum()},
+        {pageDec, -step * controller.pageSteps(), value > controller.minimum()},
+        {inc, step, controller.maximum() > value},
+        {pageInc, step * controller.pageSteps(), controller.maximum() > value},
+    };
+
+    for (const auto& [button, worth, enabled] : buttons) {
+        const std::string words =
+            text(worth < 0 ? -worth : worth) + (worth < 0 ? " less" : " more");
+        button->setEnabled(enabled);
+        button->setToolTip(words);
+        // The value first: a screen reader that is at the button hears it when it changes.
+        button->setAccessibilityHelp(shown + ". " + words + ".");
+    }
+}
+
+void NumberControls::refuse(double least, double most) const {
+    label->refuse("Only " + text(least) + " to " + text(most) + " can be set.");
+}
+
+std::string NumberControls::text(double number) const {
+    return numberWords(*format ? format : "%g", number);
+}
