@@ -27,6 +27,9 @@ public:
     /// Something else changed the record, such as the agent's report. That is no step.
     void follow(const PrefsRecord& record) { now_ = record; }
 
+    /// The record as last known.
+    const PrefsRecord& now() const { return now_; }
+
     bool canUndo() const { return position_ > 0; }
 
     bool canRedo() const { return position_ < steps_.size(); }

@@ -4,6 +4,8 @@
 #include "platform/AppKit/detail/KeyboardFocus.h"
 #include "platform/AppKit/detail/ViewWidget.h"
 
+#include <QScrollArea>
+#include <QStackedWidget>
 #include <QWidget>
 
 namespace {
@@ -135,4 +137,13 @@ bool NSView::becomeFirstResponder() {
 
 bool NSView::resignFirstResponder() {
     return true;
+}
+
+void NSView::scrollToVisible() {
+    for (QWidget* leaf = widget_; QWidget* parent = leaf->parentWidget(); leaf = parent) {
+        if (auto* stack = qobject_cast<QStackedWidget*>(parent))
+            stack->setCurrentWidget(leaf);
+        if (auto* area = qobject_cast<QScrollArea*>(parent))
+            area->ensureWidgetVisible(widget_);
+    }
 }

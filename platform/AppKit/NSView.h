@@ -34,6 +34,8 @@ public:
 
     NSRect frame() const;  ///< in the superview's coordinates
     NSRect bounds() const; ///< in its own: origin 0, 0
+    /// Turns every stack of pages to the one with this view, and scrolls to it.
+    void scrollToVisible();
     void setNeedsDisplay(bool needsDisplay);
     void setNeedsDisplayInRect(const NSRect& rect);
 

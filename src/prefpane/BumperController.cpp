@@ -39,6 +39,10 @@ NumberControls BumperController::controls() const {
     return {decBtn_, incBtn_, pageDecBtn_, pageIncBtn_, label_, format_};
 }
 
+NSView* BumperController::view() const {
+    return label_;
+}
+
 void BumperController::update() {
     label_->setStringValue(display_.text ? display_.text() : numberText(format_, value()));
     controls().update(*this, label_->stringValue());

@@ -24,6 +24,7 @@ public:
 
     BumperController* setKind(SInt32 kind, void* at, double min, double max, double inc,
                               ChangeMask changes) override;
+    NSView* view() const override;
     void update() override;
 
     /// How the label writes the number; see SettingLimits.

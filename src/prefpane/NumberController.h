@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/AppKit/NSObject.h"
+#include "platform/AppKit/NSView.h"
 #include "src/prefs.h"
 
 #include <string_view>
@@ -47,6 +47,9 @@ public:
 
     /// Clamps, converts to the kind and stores; reports nothing.
     void set(double value);
+
+    /// The control that shows the number; null when there is none.
+    virtual NSView* view() const { return nullptr; }
 
     /// Brings the controls up to date with the stored value.
     virtual void update() {}

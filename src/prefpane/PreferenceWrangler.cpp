@@ -54,7 +54,9 @@ std::span<const NSOutlet> PreferenceWrangler::outlets() const {
         nsOutlet<&W::palette_, &Palette::setActionBtn>("setActionBtn"),
         nsOutlet<&W::palette_, &Palette::swapWithBtn>("swapWithBtn"),
         nsOutlet<&W::prefsTabs_>("prefsTabs"),
+        nsOutlet<&W::redoBtn_>("redoBtn"),
         nsOutlet<&W::triggerOnReleaseRadios_>("triggerOnReleaseRadios"),
+        nsOutlet<&W::undoBtn_>("undoBtn"),
         nsOutlet<&W::useScanAreaRadios_>("useScanAreaRadios"),
         nsOutlet<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::view>("masterOnOffKey"),
         nsOutlet<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::menu>("masterOnOffKeyBtn"),
@@ -85,6 +87,8 @@ std::span<const NSAction> PreferenceWrangler::actions() const {
     using W = PreferenceWrangler;
     static constexpr NSAction own[] = {
         nsAction<&W::showHelp>("showHelp:"),
+        nsAction<&W::undo>("undo:"),
+        nsAction<&W::redo>("redo:"),
         nsAction<&W::changedMasterOnOff>("changedMasterOnOff:"),
         nsAction<&W::changedUseScanArea>("changedUseScanArea:"),
         nsAction<&W::changedTriggerOnRelease>("changedTriggerOnRelease:"),

@@ -78,6 +78,8 @@ public:
     void beginHistory();
     /// Makes those settings the record's, as one change of what differs.
     void adopt(const SettingSet& settings, const PrefsRecord& record);
+    /// Takes the last step back, or does it again: brings its control into sight and says in words
+    /// what became of it.
     void undo(NSButton* sender);
     void redo(NSButton* sender);
 
@@ -150,6 +152,11 @@ public:
 
 private:
     void noteStep();
+    void showStep(const HistoryStep& step, const PrefsRecord& before, const PrefsRecord& after,
+                  const char* between);
+    void updateHistoryUI();
+    /// The view that shows a setting; null for one without a control.
+    NSView* viewOf(std::size_t row) const;
     /// After fields were set from elsewhere. A record that is as stored needs no saving any more.
     void showAndReport(ChangeMask changes);
 
@@ -177,7 +184,9 @@ private:
     NSTextField* scanAreaText_ = nullptr;
     NSMatrix* scanModeRadios_ = nullptr;
     NSTabView* prefsTabs_ = nullptr;
+    NSButton* redoBtn_ = nullptr;
     NSMatrix* triggerOnReleaseRadios_ = nullptr;
+    NSButton* undoBtn_ = nullptr;
     NSMatrix* useScanAreaRadios_ = nullptr;
 
     History history_{prefs};

@@ -1,10 +1,18 @@
 #include "src/prefpane/PreferenceWrangler.h"
 
+#include "platform/AppKit/NSButton.h"
+#include "platform/AppKit/NSColorWell.h"
+#include "platform/AppKit/NSMatrix.h"
+#include "platform/AppKit/NSTextField.h"
+#include "platform/AppKit/UserMessages.h"
 #include "src/recovery.h"
+#include "src/settingwords.h"
 
 #include <chrono>
 
 namespace {
+
+constexpr char kTopic[] = "undo";
 
 double secondsNow() {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
@@ -15,10 +23,15 @@ double secondsNow() {
 
 void PreferenceWrangler::beginHistory() {
     history_ = History(prefs);
+    updateHistoryUI();
 }
 
 void PreferenceWrangler::noteStep() {
+    if (!differences(history_.now(), prefs).any())
+        return;
     history_.note(prefs, secondsNow());
+    withdrawMessage(kTopic);
+    updateHistoryUI();
 }
 
 void PreferenceWrangler::adopt(const SettingSet& settings, const PrefsRecord& record) {
@@ -31,12 +44,26 @@ void PreferenceWrangler::adopt(const SettingSet& settings, const PrefsRecord& re
 
 void PreferenceWrangler::undo(NSButton*) {
     if (const HistoryStep* step = history_.undo(prefs))
-        showAndReport(changesOf(step->settings));
+        showStep(*step, step->after, step->before, " back to ");
 }
 
 void PreferenceWrangler::redo(NSButton*) {
     if (const HistoryStep* step = history_.redo(prefs))
-        showAndReport(changesOf(step->settings));
+        showStep(*step, step->before, step->after, " to ");
+}
+
+void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& before,
+                                  const PrefsRecord& after, const char* between) {
+    const std::size_t first = firstOf(step.settings);
+    std::string text = changeText(kSettings[first], before, after, between);
+    if (const std::size_t others = step.settings.count() - 1; others > 0)
+        text +=
+            ", and " + std::to_string(others) + (others == 1 ? " setting" : " settings") + " more";
+    showAndReport(changesOf(step.settings));
+    if (NSView* view = viewOf(first))
+        view->scrollToVisible();
+    tellUser(kTopic, {.kind = UserMessage::Kind::Note, .text = text + "."});
+    updateHistoryUI();
 }
 
 void PreferenceWrangler::showAndReport(ChangeMask changes) {
@@ -48,4 +75,40 @@ void PreferenceWrangler::showAndReport(ChangeMask changes) {
         prefsWerentChanged();
         recoveryForget();
     }
+}
+
+void PreferenceWrangler::updateHistoryUI() {
+    undoBtn_->setEnabled(history_.canUndo());
+    redoBtn_->setEnabled(history_.canRedo());
+}
+
+NSView* PreferenceWrangler::viewOf(std::size_t row) const {
+    if (const auto* number = dynamic_cast<NumberController*>(settingControls_[row]))
+        return number->view();
+    if (auto* check = dynamic_cast<NSButton*>(settingControls_[row]))
+        return check;
+
+    const struct {
+        std::size_t offset;
+        NSView* view;
+    } views[] = {
+        {offsetof(PrefsRecord, launchAtLogin), launchAtLogin_},
+        {offsetof(PrefsRecord, activateAtLaunch), activateAtLaunch_},
+        {offsetof(PrefsRecord, triggerOnRelease), triggerOnReleaseRadios_},
+        {offsetof(PrefsRecord, scanMode), scanModeRadios_},
+        {offsetof(PrefsRecord, scanArea), scanAreaText_},
+        {offsetof(PrefsRecord, useScanArea), useScanAreaRadios_},
+        {offsetof(PrefsRecord, lineColor), lineColor_},
+        {offsetof(PrefsRecord, pointerImageName), pointers_.pointerName},
+        {offsetof(PrefsRecord, hotKeys), hotKeys_.scan.view},
+        {offsetof(PrefsRecord, buttonSize), palette_.buttonShapeRadios},
+        {offsetof(PrefsRecord, buttonShape), palette_.buttonShapeRadios},
+        {offsetof(PrefsRecord, buttonContent), palette_.buttonContentIconCheck},
+        {offsetof(PrefsRecord, buttonActions), palette_.paletteView},
+    };
+
+    for (const auto& [offset, view] : views)
+        if (offset == kSettings[row].offset)
+            return view;
+    return nullptr;
 }

@@ -51,6 +51,10 @@ NumberControls SliderController::controls() const {
     return {decBtn_, incBtn_, pageDecBtn_, pageIncBtn_, label_, labelFormat_.c_str()};
 }
 
+NSView* SliderController::view() const {
+    return label_;
+}
+
 void SliderController::update() {
     const double v = value();
     slider_->setDoubleValue(v);

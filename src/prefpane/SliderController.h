@@ -24,6 +24,7 @@ public:
     SliderController* setDoubleKindAt(void* at, double inc, ChangeMask changes,
                                       const char* labelFormat);
 
+    NSView* view() const override;
     void update() override;
 
     /// Takes the five views out of their container, or puts them back.

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <mutex>
 #include <sys/stat.h>
 #include <system_error>
 #include <thread>
@@ -37,30 +38,39 @@ void flushFolder(const std::string& path) {
     close(folder);
 }
 
-/// The flush under way. Never destroyed: exit handlers save as well.
-std::thread& folderFlush() {
-    static std::thread& flush = *new std::thread;
+/// The flush under way. Files are replaced from several threads.
+struct FolderFlush {
+    std::mutex guard;
+    std::thread thread;
+    bool exitWaits = false; ///< an exit handler waits for the thread
+};
+
+/// Never destroyed: exit handlers save as well.
+FolderFlush& folderFlush() {
+    static FolderFlush& flush = *new FolderFlush;
     return flush;
 }
 
-bool exitWaitsForFlush = false;
-
 void finishFlush() {
-    exitWaitsForFlush = false;
-    if (folderFlush().joinable())
-        folderFlush().join();
+    FolderFlush& flush = folderFlush();
+    const std::lock_guard lock(flush.guard);
+    flush.exitWaits = false;
+    if (flush.thread.joinable())
+        flush.thread.join();
 }
 
 /// Flushes the folder, so that the new name outlasts a power cut, on a thread of its own: it takes
 /// as long as flushing the file did, and whether the old or the new file is found after a power
 /// cut, it is whole. At most one is under way, and the process ends after it.
 void flushFolderSoon(const std::string& path) {
-    if (folderFlush().joinable())
-        folderFlush().join();
-    if (!exitWaitsForFlush)
-        exitWaitsForFlush = std::atexit(finishFlush) == 0;
+    FolderFlush& flush = folderFlush();
+    const std::lock_guard lock(flush.guard);
+    if (flush.thread.joinable())
+        flush.thread.join();
+    if (!flush.exitWaits)
+        flush.exitWaits = std::atexit(finishFlush) == 0;
     try {
-        folderFlush() = std::thread([path] { flushFolder(path); });
+        flush.thread = std::thread([path] { flushFolder(path); });
     } catch (const std::system_error&) {
         flushFolder(path);
     }

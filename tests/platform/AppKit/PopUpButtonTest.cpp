@@ -145,7 +145,8 @@ TEST_F(PopUpButtonTest, DisablingItClosesItAndItsActionMayDoSo) {
     key(Qt::Key_Home);
     key(Qt::Key_Return);
     EXPECT_EQ(owner_.sent, 1);
-    EXPECT_TRUE(find("group")->hasFocus()) << "where one more press does nothing";
+    EXPECT_FALSE(qobject_cast<QAbstractButton*>(QApplication::focusWidget()))
+        << "where one more press does nothing";
 }
 
 TEST_F(PopUpButtonTest, ShowsAsMuchAsItCanBesideTheButtonInColumnsThatArrowsWalk) {
