@@ -26,7 +26,7 @@ constexpr QRect kDragged(100, 100, 7000, 1900);
 constexpr QRect kPrompt(1700, 700, 440, 82); // about
 
 void sendMouse(UInt32 kind, QPoint place) {
-    CarbonEvent mouse(kEventClassMouse, kind);
+    EventRecord mouse(kEventClassMouse, kind);
     mouse.with(kEventParamMouseLocation, typeHIPoint,
                CGPoint{static_cast<CGFloat>(place.x()), static_cast<CGFloat>(place.y())});
     overlayHandler(nullptr, &mouse, nullptr);
@@ -50,7 +50,7 @@ double inDrag(const std::function<double(QWidget&)>& work) {
         sendMouse(kEventMouseDown, kDragged.topLeft());
         sendMouse(kEventMouseDragged, kDragged.bottomRight());
         seconds = work(*overlay);
-        CarbonEvent escape(kEventClassKeyboard, kEventRawKeyDown);
+        EventRecord escape(kEventClassKeyboard, kEventRawKeyDown);
         escape.with(kEventParamKeyMacCharCodes, typeChar, '\x1b');
         overlayHandler(nullptr, &escape, nullptr);
     });

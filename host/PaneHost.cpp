@@ -5,6 +5,7 @@
 #include "host/Sections.h"
 #include "host/StartupNotification.h"
 #include "host/Troubles.h"
+#include "platform/AppKit/ClassRegistry.h"
 #include "platform/CoreServices/detail/SessionBus.h"
 #include "platform/HIToolbox/NibRequirement.h"
 #include "platform/HIToolbox/detail/CarbonWindow.h"
@@ -61,7 +62,7 @@ bool PaneHost::load(const std::string& path, std::vector<std::string>& errors) {
         return fail(path, reason);
 
     const std::string className = infoText("NSPrincipalClass");
-    const NSClassEntry* entry = NSClassFromString(className);
+    const RegisteredClass* entry = NSClassFromString(className);
     if (!entry)
         return fail(info, "NSPrincipalClass '" + className + "' is no class of the bundle");
     std::unique_ptr<NSObject> object(entry->make());

@@ -42,14 +42,14 @@ protected:
 };
 
 /// A view that draws one text, its value. Texts are UTF-8.
-class NSAccessibilityText {
+class NSAccessibilityStaticText {
 public:
     virtual std::string accessibilityValue() const = 0;
     /// What it is about to do, in place of its help; empty for nothing in particular.
     virtual std::string accessibilityStatus() const = 0;
 
 protected:
-    ~NSAccessibilityText() = default;
+    ~NSAccessibilityStaticText() = default;
 };
 
 enum NSAccessibilityNotification {
@@ -68,4 +68,4 @@ enum NSAccessibilityViewNotification { NSAccessibilityTitleChangedNotification }
 void NSAccessibilityPostNotification(NSView* view, NSAccessibilityViewNotification notification);
 
 /// Tells a running screen reader that the view's value or status changed.
-void NSAccessibilityPostValueChanged(const NSAccessibilityText& view);
+void postValueChanged(const NSAccessibilityStaticText& view);

@@ -23,8 +23,6 @@ public:
 
     double blueComponent() const { return blue_; }
 
-    double alphaComponent() const { return alpha_; }
-
 private:
     NSColor(double red, double green, double blue, double alpha)
         : red_(red), green_(green), blue_(blue), alpha_(alpha) {}

@@ -26,7 +26,7 @@ enum NSEventModifierFlags : UInt32 {
 };
 
 /// The key of an event.
-struct NSEventKey {
+struct EventKey {
     char16_t character = 0; ///< one of the constants above or a letter; 0 when it has neither
     UInt16 code = kNoKeyCode;
     UInt32 modifierFlags = 0; ///< what was held beside it
@@ -40,7 +40,7 @@ public:
         return {locationInWindow, {}, timestamp};
     }
 
-    static NSEvent key(const NSEventKey& key, double timestamp = 0) { return {{}, key, timestamp}; }
+    static NSEvent key(const EventKey& key, double timestamp = 0) { return {{}, key, timestamp}; }
 
     /// When it happened, not when it is handled: seconds of GetCurrentEventTime's clock.
     double timestamp() const { return timestamp_; }
@@ -64,11 +64,11 @@ public:
     bool isPassedOn() const { return passedOn_; }
 
 private:
-    NSEvent(NSPoint locationInWindow, const NSEventKey& key, double timestamp)
+    NSEvent(NSPoint locationInWindow, const EventKey& key, double timestamp)
         : locationInWindow_(locationInWindow), key_(key), timestamp_(timestamp) {}
 
     NSPoint locationInWindow_;
-    NSEventKey key_;
+    EventKey key_;
     double timestamp_;
     bool passedOn_ = false;
 };

@@ -27,10 +27,6 @@ void NSRectFillUsingOperation(const NSRect& rect, NSCompositingOperation operati
     painter.setCompositionMode(before);
 }
 
-void NSFrameRect(const NSRect& rect) {
-    NSFrameRectWithWidth(rect, 1);
-}
-
 void NSFrameRectWithWidth(const NSRect& rect, float width) {
     if (GrafPort* port = GrafPort::current())
         fillFrame(port->painter(), QRectF(rect.x, rect.y, rect.width, rect.height), double{width},

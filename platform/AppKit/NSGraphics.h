@@ -18,8 +18,7 @@ enum NSCompositingOperation {
 void NSRectFill(const NSRect& rect);
 void NSRectFillUsingOperation(const NSRect& rect, NSCompositingOperation operation);
 
-/// Draws along the inside of the rectangle's edges in the current colour, one point wide.
-void NSFrameRect(const NSRect& rect);
+/// Draws along the inside of the rectangle's edges in the current colour; the width in points.
 void NSFrameRectWithWidth(const NSRect& rect, float width);
 
 /// What drawing goes by: its colour and its line width.

@@ -4,20 +4,20 @@
 
 namespace {
 
-QFont fontOf(const GrafPort& port, const NSStringAttributes& attributes) {
+QFont fontOf(const GrafPort& port, const TextAttributes& attributes) {
     QFont font = port.widget().font();
     if (attributes.font.pointSize() > 0)
         font.setPointSizeF(attributes.font.pointSize());
     return font;
 }
 
-QFontMetricsF metricsOf(GrafPort& port, const NSStringAttributes& attributes) {
+QFontMetricsF metricsOf(GrafPort& port, const TextAttributes& attributes) {
     return QFontMetricsF(fontOf(port, attributes), port.painter().device());
 }
 
 } // namespace
 
-NSSize sizeWithAttributes(const CFString* text, const NSStringAttributes& attributes) {
+NSSize sizeWithAttributes(const CFString* text, const TextAttributes& attributes) {
     GrafPort* port = GrafPort::current();
     if (!port)
         return {};
@@ -26,7 +26,7 @@ NSSize sizeWithAttributes(const CFString* text, const NSStringAttributes& attrib
     return {static_cast<float>(width), static_cast<float>(metrics.height())};
 }
 
-void drawAtPoint(const CFString* text, NSPoint point, const NSStringAttributes& attributes) {
+void drawAtPoint(const CFString* text, NSPoint point, const TextAttributes& attributes) {
     GrafPort* port = GrafPort::current();
     if (!port)
         return;
@@ -39,7 +39,7 @@ void drawAtPoint(const CFString* text, NSPoint point, const NSStringAttributes& 
     painter.restore();
 }
 
-void NSDrawString(const CFString* text, const NSRect& rect, const NSStringAttributes& attributes) {
+void NSDrawString(const CFString* text, const NSRect& rect, const TextAttributes& attributes) {
     GrafPort* port = GrafPort::current();
     if (!port)
         return;

@@ -5,16 +5,16 @@
 #include "platform/CoreFoundation/CFString.h"
 
 /// How a text is drawn; its colour is that of the view's other texts.
-struct NSStringAttributes {
+struct TextAttributes {
     NSFont font;
 };
 
 /// The room that one line of text takes, in points.
-NSSize sizeWithAttributes(const CFString* text, const NSStringAttributes& attributes);
+NSSize sizeWithAttributes(const CFString* text, const TextAttributes& attributes);
 /// Draws one line of text in black, whatever the colour of other texts, with its top-left corner at
 /// the point.
-void drawAtPoint(const CFString* text, NSPoint point, const NSStringAttributes& attributes);
+void drawAtPoint(const CFString* text, NSPoint point, const TextAttributes& attributes);
 
 /// Draws one line of text from the rectangle's left side, in the middle of its height. A text that
 /// is too wide is shortened in its middle. See NSGraphics.h.
-void NSDrawString(const CFString* text, const NSRect& rect, const NSStringAttributes& attributes);
+void NSDrawString(const CFString* text, const NSRect& rect, const TextAttributes& attributes);

@@ -8,15 +8,6 @@
 #include <QStackedWidget>
 #include <QWidget>
 
-namespace {
-
-NSRect toNSRect(const QRect& rect) {
-    return {static_cast<float>(rect.x()), static_cast<float>(rect.y()),
-            static_cast<float>(rect.width()), static_cast<float>(rect.height())};
-}
-
-} // namespace
-
 void NSView::attachWidget(QWidget* widget) {
     widget_ = widget;
     if (auto* own = dynamic_cast<ViewWidget*>(widget))
@@ -61,12 +52,8 @@ void NSView::setHidden(bool hidden) {
     widget_->setHidden(hidden);
 }
 
-NSRect NSView::frame() const {
-    return toNSRect(widget_->geometry());
-}
-
 NSRect NSView::bounds() const {
-    return toNSRect(widget_->rect());
+    return {0, 0, static_cast<float>(widget_->width()), static_cast<float>(widget_->height())};
 }
 
 void NSView::setNeedsDisplay(bool needsDisplay) {

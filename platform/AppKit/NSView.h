@@ -32,8 +32,7 @@ public:
     /// Hidden it takes no room, and neither keyboard nor screen reader find it.
     void setHidden(bool hidden);
 
-    NSRect frame() const;  ///< in the superview's coordinates
-    NSRect bounds() const; ///< in its own: origin 0, 0
+    NSRect bounds() const; ///< in its own coordinates: origin 0, 0
     /// Turns every stack of pages to the one with this view, and scrolls to it.
     void scrollToVisible();
     void setNeedsDisplay(bool needsDisplay);

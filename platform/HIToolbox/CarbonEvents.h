@@ -76,7 +76,7 @@ struct EventTypeSpec {
 };
 
 /// An event on its way; borrowed, until the handler returns.
-using EventRef = class CarbonEvent*;
+using EventRef = class EventRecord*;
 
 UInt32 GetEventClass(EventRef event);
 UInt32 GetEventKind(EventRef event);

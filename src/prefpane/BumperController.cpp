@@ -1,29 +1,30 @@
 #include "src/prefpane/BumperController.h"
 
+#include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSTextField.h"
 #include "src/prefpane/numbertext.h"
 
-NS_REGISTER_CLASS(BumperController);
+REGISTER_CLASS(BumperController);
 
-std::span<const NSOutlet> BumperController::outlets() const {
-    static constexpr NSOutlet table[] = {
-        nsOutlet<&BumperController::decBtn_>("decBtn"),
-        nsOutlet<&BumperController::incBtn_>("incBtn"),
-        nsOutlet<&BumperController::pageDecBtn_>("pageDecBtn"),
-        nsOutlet<&BumperController::pageIncBtn_>("pageIncBtn"),
-        nsOutlet<&BumperController::label_>("label"),
+std::span<const Outlet> BumperController::outlets() const {
+    static constexpr Outlet table[] = {
+        outletRow<&BumperController::decBtn_>("decBtn"),
+        outletRow<&BumperController::incBtn_>("incBtn"),
+        outletRow<&BumperController::pageDecBtn_>("pageDecBtn"),
+        outletRow<&BumperController::pageIncBtn_>("pageIncBtn"),
+        outletRow<&BumperController::label_>("label"),
     };
     return table;
 }
 
-std::span<const NSAction> BumperController::actions() const {
-    static constexpr NSAction table[] = {
-        nsAction<&BumperController::decValue>("decValue:"),
-        nsAction<&BumperController::incValue>("incValue:"),
-        nsAction<&BumperController::decPage>("decPage:"),
-        nsAction<&BumperController::incPage>("incPage:"),
-        nsAction<&BumperController::typedValue>("typedValue:"),
+std::span<const Action> BumperController::actions() const {
+    static constexpr Action table[] = {
+        actionRow<&BumperController::decValue>("decValue:"),
+        actionRow<&BumperController::incValue>("incValue:"),
+        actionRow<&BumperController::decPage>("decPage:"),
+        actionRow<&BumperController::incPage>("incPage:"),
+        actionRow<&BumperController::typedValue>("typedValue:"),
     };
     return table;
 }

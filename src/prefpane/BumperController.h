@@ -19,8 +19,8 @@ struct BumperDisplay {
 /// one can be typed.
 class BumperController final : public NumberController {
 public:
-    std::span<const NSOutlet> outlets() const override;
-    std::span<const NSAction> actions() const override;
+    std::span<const Outlet> outlets() const override;
+    std::span<const Action> actions() const override;
 
     BumperController* setKind(SInt32 kind, void* at, double min, double max, double inc,
                               ChangeMask changes) override;

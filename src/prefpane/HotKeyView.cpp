@@ -1,5 +1,6 @@
 #include "src/prefpane/HotKeyView.h"
 
+#include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSBezierPath.h"
 #include "platform/AppKit/NSColor.h"
 #include "platform/AppKit/NSEvent.h"
@@ -11,7 +12,7 @@
 
 #include <utility>
 
-NS_REGISTER_CLASS(HotKeyView);
+REGISTER_CLASS(HotKeyView);
 
 namespace {
 
@@ -121,7 +122,7 @@ void HotKeyView::reportChange() {
 
 void HotKeyView::redraw() {
     setNeedsDisplay(true);
-    NSAccessibilityPostValueChanged(*this);
+    postValueChanged(*this);
 }
 
 CFRef<CFString> HotKeyView::combination() const {

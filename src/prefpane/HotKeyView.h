@@ -20,7 +20,7 @@ protected:
 
 /// Shows one of the record's hot keys and captures a new one: while the keyboard acts on it, the
 /// next key becomes the hot key, with the modifiers that are held then. It takes every key.
-class HotKeyView final : public NSView, public NSAccessibilityText {
+class HotKeyView final : public NSView, public NSAccessibilityStaticText {
 public:
     HotKeyView() = default;
     ~HotKeyView() override;

@@ -1,5 +1,6 @@
 #include "src/prefpane/PaletteView.h"
 
+#include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSEvent.h"
 #include "platform/HIToolbox/Appearance.h"
 #include "src/prefpane/palutil.h"
@@ -8,7 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
-NS_REGISTER_CLASS(PaletteView);
+REGISTER_CLASS(PaletteView);
 
 namespace {
 

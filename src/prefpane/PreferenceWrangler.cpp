@@ -1,5 +1,6 @@
 #include "src/prefpane/PreferenceWrangler.h"
 
+#include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSColorWell.h"
 #include "platform/AppKit/NSMatrix.h"
@@ -10,7 +11,7 @@
 #include "src/prefpane/SampleScanView.h"
 #include "src/prefpane/SliderController.h"
 
-NS_REGISTER_CLASS(PreferenceWrangler);
+REGISTER_CLASS(PreferenceWrangler);
 
 PreferenceWrangler* theWrangler = nullptr;
 
@@ -26,94 +27,94 @@ void wranglerSetMasterOnOff(bool on) {
         theWrangler->setMasterOnOff(on);
 }
 
-std::span<const NSOutlet> PreferenceWrangler::outlets() const {
+std::span<const Outlet> PreferenceWrangler::outlets() const {
     using W = PreferenceWrangler;
     using Keys = HotKeyEditor;
     using Palette = PaletteEditor;
-    static constexpr NSOutlet own[] = {
-        nsOutlet<&W::activateAtLaunch_>("activateAtLaunch"),
-        nsOutlet<&W::palette_, &Palette::addButtonBtn>("addButtonBtn"),
-        nsOutlet<&W::palette_, &Palette::buttonContentIconCheck>("buttonContentIconCheck"),
-        nsOutlet<&W::palette_, &Palette::buttonContentNameCheck>("buttonContentNameCheck"),
-        nsOutlet<&W::palette_, &Palette::buttonHeight>("buttonHeight"),
-        nsOutlet<&W::palette_, &Palette::buttonShapeRadios>("buttonShapeRadios"),
-        nsOutlet<&W::palette_, &Palette::buttonSize>("buttonSize"),
-        nsOutlet<&W::palette_, &Palette::buttonWidth>("buttonWidth"),
-        nsOutlet<&W::launchAtLogin_>("launchAtLogin"),
-        nsOutlet<&W::lineColor_>("lineColor"),
-        nsOutlet<&W::masterOnOffRadios_>("masterOnOffRadios"),
-        nsOutlet<&W::masterState_>("masterState"),
-        nsOutlet<&W::palette_, &Palette::palettePrompt>("palettePrompt"),
-        nsOutlet<&W::palette_, &Palette::paletteView>("paletteView"),
-        nsOutlet<&W::pointers_, &PointerChooser::pointerName>("pointerName"),
-        nsOutlet<&W::palette_, &Palette::removeButtonBtn>("removeButtonBtn"),
-        nsOutlet<&W::palette_, &Palette::resetActionsBtn>("resetActionsBtn"),
-        nsOutlet<&W::sampleScanImage_>("sampleScanImage"),
-        nsOutlet<&W::scanAreaText_>("scanAreaText"),
-        nsOutlet<&W::scanModeRadios_>("scanModeRadios"),
-        nsOutlet<&W::palette_, &Palette::setActionBtn>("setActionBtn"),
-        nsOutlet<&W::palette_, &Palette::swapWithBtn>("swapWithBtn"),
-        nsOutlet<&W::prefsTabs_>("prefsTabs"),
-        nsOutlet<&W::redoBtn_>("redoBtn"),
-        nsOutlet<&W::triggerOnReleaseRadios_>("triggerOnReleaseRadios"),
-        nsOutlet<&W::undoBtn_>("undoBtn"),
-        nsOutlet<&W::useScanAreaRadios_>("useScanAreaRadios"),
-        nsOutlet<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::view>("masterOnOffKey"),
-        nsOutlet<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::menu>("masterOnOffKeyBtn"),
-        nsOutlet<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::note>("masterOnOffKeyNote"),
-        nsOutlet<&W::hotKeys_, &Keys::scan, &HotKeyRow::view>("scanKey"),
-        nsOutlet<&W::hotKeys_, &Keys::scan, &HotKeyRow::menu>("scanKeyBtn"),
-        nsOutlet<&W::hotKeys_, &Keys::scan, &HotKeyRow::note>("scanKeyNote"),
-        nsOutlet<&W::hotKeys_, &Keys::cancelScan, &HotKeyRow::view>("cancelScanKey"),
-        nsOutlet<&W::hotKeys_, &Keys::cancelScan, &HotKeyRow::menu>("cancelScanKeyBtn"),
-        nsOutlet<&W::hotKeys_, &Keys::cancelScan, &HotKeyRow::note>("cancelScanKeyNote"),
-        nsOutlet<&W::hotKeys_, &Keys::showPreferences, &HotKeyRow::view>("showPreferencesKey"),
-        nsOutlet<&W::hotKeys_, &Keys::showPreferences, &HotKeyRow::menu>("showPreferencesKeyBtn"),
-        nsOutlet<&W::hotKeys_, &Keys::showPreferences, &HotKeyRow::note>("showPreferencesKeyNote"),
-        nsOutlet<&W::hotKeys_, &Keys::scan2, &HotKeyRow::view>("scanKey2"),
-        nsOutlet<&W::hotKeys_, &Keys::scan2, &HotKeyRow::menu>("scanKey2Btn"),
-        nsOutlet<&W::hotKeys_, &Keys::scan2, &HotKeyRow::note>("scanKey2Note"),
-        nsOutlet<&W::hotKeys_, &Keys::notEditingKeyPrompt>("notEditingKeyPrompt"),
-        nsOutlet<&W::hotKeys_, &Keys::editingKeyPrompt1>("editingKeyPrompt1"),
-        nsOutlet<&W::hotKeys_, &Keys::cancelEditBtn>("cancelEditBtn"),
-        nsOutlet<&W::hotKeys_, &Keys::defaultKeyBtn>("defaultKeyBtn"),
-        nsOutlet<&W::hotKeys_, &Keys::noKeyBtn>("noKeyBtn"),
+    static constexpr Outlet own[] = {
+        outletRow<&W::activateAtLaunch_>("activateAtLaunch"),
+        outletRow<&W::palette_, &Palette::addButtonBtn>("addButtonBtn"),
+        outletRow<&W::palette_, &Palette::buttonContentIconCheck>("buttonContentIconCheck"),
+        outletRow<&W::palette_, &Palette::buttonContentNameCheck>("buttonContentNameCheck"),
+        outletRow<&W::palette_, &Palette::buttonHeight>("buttonHeight"),
+        outletRow<&W::palette_, &Palette::buttonShapeRadios>("buttonShapeRadios"),
+        outletRow<&W::palette_, &Palette::buttonSize>("buttonSize"),
+        outletRow<&W::palette_, &Palette::buttonWidth>("buttonWidth"),
+        outletRow<&W::launchAtLogin_>("launchAtLogin"),
+        outletRow<&W::lineColor_>("lineColor"),
+        outletRow<&W::masterOnOffRadios_>("masterOnOffRadios"),
+        outletRow<&W::masterState_>("masterState"),
+        outletRow<&W::palette_, &Palette::palettePrompt>("palettePrompt"),
+        outletRow<&W::palette_, &Palette::paletteView>("paletteView"),
+        outletRow<&W::pointers_, &PointerChooser::pointerName>("pointerName"),
+        outletRow<&W::palette_, &Palette::removeButtonBtn>("removeButtonBtn"),
+        outletRow<&W::palette_, &Palette::resetActionsBtn>("resetActionsBtn"),
+        outletRow<&W::sampleScanImage_>("sampleScanImage"),
+        outletRow<&W::scanAreaText_>("scanAreaText"),
+        outletRow<&W::scanModeRadios_>("scanModeRadios"),
+        outletRow<&W::palette_, &Palette::setActionBtn>("setActionBtn"),
+        outletRow<&W::palette_, &Palette::swapWithBtn>("swapWithBtn"),
+        outletRow<&W::prefsTabs_>("prefsTabs"),
+        outletRow<&W::redoBtn_>("redoBtn"),
+        outletRow<&W::triggerOnReleaseRadios_>("triggerOnReleaseRadios"),
+        outletRow<&W::undoBtn_>("undoBtn"),
+        outletRow<&W::useScanAreaRadios_>("useScanAreaRadios"),
+        outletRow<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::view>("masterOnOffKey"),
+        outletRow<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::menu>("masterOnOffKeyBtn"),
+        outletRow<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::note>("masterOnOffKeyNote"),
+        outletRow<&W::hotKeys_, &Keys::scan, &HotKeyRow::view>("scanKey"),
+        outletRow<&W::hotKeys_, &Keys::scan, &HotKeyRow::menu>("scanKeyBtn"),
+        outletRow<&W::hotKeys_, &Keys::scan, &HotKeyRow::note>("scanKeyNote"),
+        outletRow<&W::hotKeys_, &Keys::cancelScan, &HotKeyRow::view>("cancelScanKey"),
+        outletRow<&W::hotKeys_, &Keys::cancelScan, &HotKeyRow::menu>("cancelScanKeyBtn"),
+        outletRow<&W::hotKeys_, &Keys::cancelScan, &HotKeyRow::note>("cancelScanKeyNote"),
+        outletRow<&W::hotKeys_, &Keys::showPreferences, &HotKeyRow::view>("showPreferencesKey"),
+        outletRow<&W::hotKeys_, &Keys::showPreferences, &HotKeyRow::menu>("showPreferencesKeyBtn"),
+        outletRow<&W::hotKeys_, &Keys::showPreferences, &HotKeyRow::note>("showPreferencesKeyNote"),
+        outletRow<&W::hotKeys_, &Keys::scan2, &HotKeyRow::view>("scanKey2"),
+        outletRow<&W::hotKeys_, &Keys::scan2, &HotKeyRow::menu>("scanKey2Btn"),
+        outletRow<&W::hotKeys_, &Keys::scan2, &HotKeyRow::note>("scanKey2Note"),
+        outletRow<&W::hotKeys_, &Keys::notEditingKeyPrompt>("notEditingKeyPrompt"),
+        outletRow<&W::hotKeys_, &Keys::editingKeyPrompt1>("editingKeyPrompt1"),
+        outletRow<&W::hotKeys_, &Keys::cancelEditBtn>("cancelEditBtn"),
+        outletRow<&W::hotKeys_, &Keys::defaultKeyBtn>("defaultKeyBtn"),
+        outletRow<&W::hotKeys_, &Keys::noKeyBtn>("noKeyBtn"),
     };
-    static const auto table = withSettings<NSOutlet>(own);
+    static const auto table = withSettings<Outlet>(own);
     return table;
 }
 
-std::span<const NSAction> PreferenceWrangler::actions() const {
+std::span<const Action> PreferenceWrangler::actions() const {
     using W = PreferenceWrangler;
-    static constexpr NSAction own[] = {
-        nsAction<&W::showHelp>("showHelp:"),
-        nsAction<&W::undo>("undo:"),
-        nsAction<&W::redo>("redo:"),
-        nsAction<&W::changedMasterOnOff>("changedMasterOnOff:"),
-        nsAction<&W::changedUseScanArea>("changedUseScanArea:"),
-        nsAction<&W::changedTriggerOnRelease>("changedTriggerOnRelease:"),
-        nsAction<&W::changedScanMode>("changedScanMode:"),
-        nsAction<&W::changedLineColor>("changedLineColor:"),
-        nsAction<&W::setCustomScanArea>("setCustomScanArea:"),
-        nsAction<&W::setHotKeyToNone>("setHotKeyToNone:"),
-        nsAction<&W::setHotKeyToDefault>("setHotKeyToDefault:"),
-        nsAction<&W::cancelHotKeyEdit>("cancelHotKeyEdit:"),
-        nsAction<&W::captureHotKey>("captureHotKey:"),
-        nsAction<&W::removeHotKey>("removeHotKey:"),
-        nsAction<&W::resetHotKey>("resetHotKey:"),
-        nsAction<&W::addPaletteBtn>("addPaletteBtn:"),
-        nsAction<&W::setPaletteBtnAction>("setPaletteBtnAction:"),
-        nsAction<&W::removePaletteButton>("removePaletteButton:"),
-        nsAction<&W::swapPaletteButtonWith>("swapPaletteButtonWith:"),
-        nsAction<&W::resetPaletteButtons>("resetPaletteButtons:"),
-        nsAction<&W::changedButtonShape>("changedButtonShape:"),
-        nsAction<&W::changedButtonContentName>("changedButtonContentName:"),
-        nsAction<&W::changedButtonContentIcon>("changedButtonContentIcon:"),
-        nsAction<&W::findMySpeed>("findMySpeed:"),
-        nsAction<&W::previousPointer>("previousPointer:"),
-        nsAction<&W::nextPointer>("nextPointer:"),
+    static constexpr Action own[] = {
+        actionRow<&W::showHelp>("showHelp:"),
+        actionRow<&W::undo>("undo:"),
+        actionRow<&W::redo>("redo:"),
+        actionRow<&W::changedMasterOnOff>("changedMasterOnOff:"),
+        actionRow<&W::changedUseScanArea>("changedUseScanArea:"),
+        actionRow<&W::changedTriggerOnRelease>("changedTriggerOnRelease:"),
+        actionRow<&W::changedScanMode>("changedScanMode:"),
+        actionRow<&W::changedLineColor>("changedLineColor:"),
+        actionRow<&W::setCustomScanArea>("setCustomScanArea:"),
+        actionRow<&W::setHotKeyToNone>("setHotKeyToNone:"),
+        actionRow<&W::setHotKeyToDefault>("setHotKeyToDefault:"),
+        actionRow<&W::cancelHotKeyEdit>("cancelHotKeyEdit:"),
+        actionRow<&W::captureHotKey>("captureHotKey:"),
+        actionRow<&W::removeHotKey>("removeHotKey:"),
+        actionRow<&W::resetHotKey>("resetHotKey:"),
+        actionRow<&W::addPaletteBtn>("addPaletteBtn:"),
+        actionRow<&W::setPaletteBtnAction>("setPaletteBtnAction:"),
+        actionRow<&W::removePaletteButton>("removePaletteButton:"),
+        actionRow<&W::swapPaletteButtonWith>("swapPaletteButtonWith:"),
+        actionRow<&W::resetPaletteButtons>("resetPaletteButtons:"),
+        actionRow<&W::changedButtonShape>("changedButtonShape:"),
+        actionRow<&W::changedButtonContentName>("changedButtonContentName:"),
+        actionRow<&W::changedButtonContentIcon>("changedButtonContentIcon:"),
+        actionRow<&W::findMySpeed>("findMySpeed:"),
+        actionRow<&W::previousPointer>("previousPointer:"),
+        actionRow<&W::nextPointer>("nextPointer:"),
     };
-    static const auto table = withSettings<NSAction>(own);
+    static const auto table = withSettings<Action>(own);
     return table;
 }
 

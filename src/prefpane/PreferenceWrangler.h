@@ -33,8 +33,8 @@ public:
     PreferenceWrangler() = default;
     ~PreferenceWrangler() override;
 
-    std::span<const NSOutlet> outlets() const override;
-    std::span<const NSAction> actions() const override;
+    std::span<const Outlet> outlets() const override;
+    std::span<const Action> actions() const override;
     /// Sliders whose limits differ from those of their settings.
     std::vector<std::string> layoutFaults() const override;
     void awakeFromNib() override;

@@ -51,13 +51,13 @@ struct PreferenceWrangler::SettingWiring {
                                                          static_cast<NSButton&>(sender));
     }
 
-    static void addTo(std::vector<NSOutlet>& outlets) {
+    static void addTo(std::vector<Outlet>& outlets) {
         constexpr const Setting& kSetting = kSettings[Row];
         if constexpr (kSetting.outlet)
             outlets.push_back({kSetting.outlet, &typeOf(kSetting.control), connect, isConnected});
     }
 
-    static void addTo(std::vector<NSAction>& actions) {
+    static void addTo(std::vector<Action>& actions) {
         if constexpr (kSettings[Row].action)
             actions.push_back({kSettings[Row].action, &typeid(NSButton), isCheckBox, send});
     }
@@ -73,8 +73,8 @@ std::vector<Entry> PreferenceWrangler::withSettings(std::span<const Entry> own) 
     return all;
 }
 
-template std::vector<NSOutlet> PreferenceWrangler::withSettings(std::span<const NSOutlet>);
-template std::vector<NSAction> PreferenceWrangler::withSettings(std::span<const NSAction>);
+template std::vector<Outlet> PreferenceWrangler::withSettings(std::span<const Outlet>);
+template std::vector<Action> PreferenceWrangler::withSettings(std::span<const Action>);
 
 void PreferenceWrangler::setupNumbers() {
     for (std::size_t row = 0; row < kSettings.size(); ++row) {

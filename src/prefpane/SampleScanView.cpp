@@ -1,5 +1,6 @@
 #include "src/prefpane/SampleScanView.h"
 
+#include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSColor.h"
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSGraphics.h"
@@ -16,7 +17,7 @@
 #include <cstdio>
 #include <limits>
 
-NS_REGISTER_CLASS(SampleScanView);
+REGISTER_CLASS(SampleScanView);
 
 namespace {
 
@@ -131,7 +132,7 @@ void SampleScanView::drawScanLine() {
     context->setShouldAntialias(antialiases);
 
     const auto text = CFStringCreateWithUTF8(label);
-    const NSStringAttributes attributes{NSFont::systemFontOfSize(NSFont::smallSystemFontSize())};
+    const TextAttributes attributes{NSFont::systemFontOfSize(NSFont::smallSystemFontSize())};
     const NSSize size = sizeWithAttributes(text.get(), attributes);
     drawAtPoint(text.get(), {whole.x + whole.width - size.width - kLabelMargin, top + thickness},
                 attributes);

@@ -1,5 +1,6 @@
 #include "src/prefpane/SliderController.h"
 
+#include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSSlider.h"
 #include "platform/AppKit/NSTextField.h"
@@ -7,29 +8,29 @@
 
 #include <initializer_list>
 
-NS_REGISTER_CLASS(SliderController);
+REGISTER_CLASS(SliderController);
 
-std::span<const NSOutlet> SliderController::outlets() const {
-    static constexpr NSOutlet table[] = {
-        nsOutlet<&SliderController::decBtn_>("decBtn"),
-        nsOutlet<&SliderController::incBtn_>("incBtn"),
-        nsOutlet<&SliderController::pageDecBtn_>("pageDecBtn"),
-        nsOutlet<&SliderController::pageIncBtn_>("pageIncBtn"),
-        nsOutlet<&SliderController::title_>("title"),
-        nsOutlet<&SliderController::label_>("label"),
-        nsOutlet<&SliderController::slider_>("slider"),
+std::span<const Outlet> SliderController::outlets() const {
+    static constexpr Outlet table[] = {
+        outletRow<&SliderController::decBtn_>("decBtn"),
+        outletRow<&SliderController::incBtn_>("incBtn"),
+        outletRow<&SliderController::pageDecBtn_>("pageDecBtn"),
+        outletRow<&SliderController::pageIncBtn_>("pageIncBtn"),
+        outletRow<&SliderController::title_>("title"),
+        outletRow<&SliderController::label_>("label"),
+        outletRow<&SliderController::slider_>("slider"),
     };
     return table;
 }
 
-std::span<const NSAction> SliderController::actions() const {
-    static constexpr NSAction table[] = {
-        nsAction<&SliderController::decValue>("decValue:"),
-        nsAction<&SliderController::incValue>("incValue:"),
-        nsAction<&SliderController::decPage>("decPage:"),
-        nsAction<&SliderController::incPage>("incPage:"),
-        nsAction<&SliderController::typedValue>("typedValue:"),
-        nsAction<&SliderController::changedValue>("changedValue:"),
+std::span<const Action> SliderController::actions() const {
+    static constexpr Action table[] = {
+        actionRow<&SliderController::decValue>("decValue:"),
+        actionRow<&SliderController::incValue>("incValue:"),
+        actionRow<&SliderController::decPage>("decPage:"),
+        actionRow<&SliderController::incPage>("incPage:"),
+        actionRow<&SliderController::typedValue>("typedValue:"),
+        actionRow<&SliderController::changedValue>("changedValue:"),
     };
     return table;
 }

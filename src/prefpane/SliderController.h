@@ -14,8 +14,8 @@ class NSView;
 /// which another value can be typed. Its limits are the slider's own.
 class SliderController final : public NumberController {
 public:
-    std::span<const NSOutlet> outlets() const override;
-    std::span<const NSAction> actions() const override;
+    std::span<const Outlet> outlets() const override;
+    std::span<const Action> actions() const override;
 
     /// `labelFormat` is a printf format with exactly one double conversion; null leaves the
     /// number's look to the label.

@@ -1,5 +1,6 @@
 #include "src/prefpane/VLDKorvexPane.h"
 
+#include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/UserMessages.h"
 #include "platform/HIToolbox/AppleHelp.h"
 #include "src/AXReq/axreq.h"
@@ -11,7 +12,7 @@
 #include "src/recovery.h"
 #include "src/tryout/TryPage.h"
 
-NS_REGISTER_CLASS(VLDKorvexPane);
+REGISTER_CLASS(VLDKorvexPane);
 
 namespace {
 
@@ -28,9 +29,9 @@ void showRecovered(const SettingSet& recovered, PreferenceWrangler& wrangler) {
 
 } // namespace
 
-std::span<const NSOutlet> VLDKorvexPane::outlets() const {
-    static constexpr NSOutlet table[] = {
-        nsOutlet<&VLDKorvexPane::preferenceWrangler_>("preferenceWrangler"),
+std::span<const Outlet> VLDKorvexPane::outlets() const {
+    static constexpr Outlet table[] = {
+        outletRow<&VLDKorvexPane::preferenceWrangler_>("preferenceWrangler"),
     };
     return table;
 }

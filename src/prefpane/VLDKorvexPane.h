@@ -8,7 +8,7 @@ class PreferenceWrangler;
 /// as the host shows the pane and puts it away.
 class VLDKorvexPane final : public NSPreferencePane {
 public:
-    std::span<const NSOutlet> outlets() const override;
+    std::span<const Outlet> outlets() const override;
 
     /// Makes the help book known.
     void mainViewDidLoad() override;

@@ -1,5 +1,6 @@
 #include "src/tryout/HistoryView.h"
 
+#include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSColor.h"
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSGraphics.h"
@@ -9,7 +10,7 @@
 #include <algorithm>
 #include <cmath>
 
-NS_REGISTER_CLASS(HistoryView);
+REGISTER_CLASS(HistoryView);
 
 namespace {
 
@@ -79,7 +80,7 @@ void HistoryView::drawTable() const {
     for (int i = firstRow(); i < accessibilityCount(); ++i) {
         const NSRect row = rowFrame(i);
         if (isFirstResponder() && i == current_)
-            NSFrameRect(row);
+            NSFrameRectWithWidth(row, 1);
         drawText(tryout::pastTryRow(tries_[static_cast<std::size_t>(i)]), NSInsetRect(row, 4, 0));
     }
 }

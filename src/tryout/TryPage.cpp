@@ -36,34 +36,34 @@ TryPage::~TryPage() {
     window_.setContentView(nullptr);
 }
 
-std::span<const NSOutlet> TryPage::outlets() const {
+std::span<const Outlet> TryPage::outlets() const {
     using P = TryPage;
-    static constexpr NSOutlet table[] = {
-        nsOutlet<&P::tryView_>("tryView"),
-        nsOutlet<&P::historyView_>("historyView"),
-        nsOutlet<&P::course_>("course"),
-        nsOutlet<&P::numbers_>("numbers"),
-        nsOutlet<&P::historyNote_>("historyNote"),
-        nsOutlet<&P::takeBtn_>("takeBtn"),
-        nsOutlet<&P::keepBtn_>("keepBtn"),
-        nsOutlet<&P::againBtn_>("againBtn"),
-        nsOutlet<&P::fullScreenBtn_>("fullScreenBtn"),
-        nsOutlet<&P::leaveBtn_>("leaveBtn"),
-        nsOutlet<&P::exportBtn_>("exportBtn"),
-        nsOutlet<&P::deleteBtn_>("deleteBtn"),
+    static constexpr Outlet table[] = {
+        outletRow<&P::tryView_>("tryView"),
+        outletRow<&P::historyView_>("historyView"),
+        outletRow<&P::course_>("course"),
+        outletRow<&P::numbers_>("numbers"),
+        outletRow<&P::historyNote_>("historyNote"),
+        outletRow<&P::takeBtn_>("takeBtn"),
+        outletRow<&P::keepBtn_>("keepBtn"),
+        outletRow<&P::againBtn_>("againBtn"),
+        outletRow<&P::fullScreenBtn_>("fullScreenBtn"),
+        outletRow<&P::leaveBtn_>("leaveBtn"),
+        outletRow<&P::exportBtn_>("exportBtn"),
+        outletRow<&P::deleteBtn_>("deleteBtn"),
     };
     return table;
 }
 
-std::span<const NSAction> TryPage::actions() const {
+std::span<const Action> TryPage::actions() const {
     using P = TryPage;
-    static constexpr NSAction table[] = {
-        nsAction<&P::leave>("leave:"),
-        nsAction<&P::toggleFullScreen>("toggleFullScreen:"),
-        nsAction<&P::takeAdvice>("takeAdvice:"),
-        nsAction<&P::startAgain>("startAgain:"),
-        nsAction<&P::exportHistory>("exportHistory:"),
-        nsAction<&P::deleteHistory>("deleteHistory:"),
+    static constexpr Action table[] = {
+        actionRow<&P::leave>("leave:"),
+        actionRow<&P::toggleFullScreen>("toggleFullScreen:"),
+        actionRow<&P::takeAdvice>("takeAdvice:"),
+        actionRow<&P::startAgain>("startAgain:"),
+        actionRow<&P::exportHistory>("exportHistory:"),
+        actionRow<&P::deleteHistory>("deleteHistory:"),
     };
     return table;
 }

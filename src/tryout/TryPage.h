@@ -37,8 +37,8 @@ public:
 
     bool isLeft() const { return isLeft_; }
 
-    std::span<const NSOutlet> outlets() const override;
-    std::span<const NSAction> actions() const override;
+    std::span<const Outlet> outlets() const override;
+    std::span<const Action> actions() const override;
 
     void pressed(double moment) override;
     void released(double moment) override;

@@ -1,5 +1,6 @@
 #include "src/tryout/TryView.h"
 
+#include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSColor.h"
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSGraphics.h"
@@ -11,7 +12,7 @@
 #include <cmath>
 #include <cstdio>
 
-NS_REGISTER_CLASS(TryView);
+REGISTER_CLASS(TryView);
 
 namespace {
 

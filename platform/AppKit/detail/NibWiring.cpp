@@ -1,5 +1,6 @@
 #include "platform/AppKit/detail/NibWiring.h"
 
+#include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSColorWell.h"
 #include "platform/AppKit/NSMatrix.h"
@@ -99,7 +100,7 @@ NSObject* NibWiring::makeCustomObject(QWidget* widget, const QString& className)
     NSObject* object = nullptr;
     if (className == QLatin1String("NSMatrix"))
         object = new NSMatrix;
-    else if (const NSClassEntry* entry = NSClassFromString(className.toStdString()))
+    else if (const RegisteredClass* entry = NSClassFromString(className.toStdString()))
         object = entry->make();
     if (!object) {
         report(widget, QStringLiteral("no class %1").arg(className));
@@ -135,7 +136,7 @@ void NibWiring::connectOutlet(const QWidget* widget, NSObject& object) {
     const std::string key = name.toStdString();
     const auto outlets = target.outlets();
     const auto outlet = std::find_if(outlets.begin(), outlets.end(),
-                                     [&](const NSOutlet& each) { return each.name == key; });
+                                     [&](const Outlet& each) { return each.name == key; });
     if (outlet == outlets.end())
         report(widget, QStringLiteral("%1 has no outlet '%2'").arg(className(target), name));
     else if (!connected_.emplace(&target, outlet->name).second)
@@ -179,7 +180,7 @@ void NibWiring::checkCells(const QWidget* widget, const NSMatrix& matrix) {
 }
 
 void NibWiring::checkOutlets(const NSObject& object, const QString& name) {
-    for (const NSOutlet& outlet : object.outlets()) {
+    for (const Outlet& outlet : object.outlets()) {
         if (!outlet.isConnected(object))
             errors_ << QStringLiteral("outlet '%1' of %2 is empty")
                            .arg(QString::fromUtf8(outlet.name.data(),

@@ -14,7 +14,7 @@ namespace {
 /// A text that can be read from end to end but not edited or selected.
 class TextAccessibility final : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
-    TextAccessibility(ViewWidget& widget, NSAccessibilityText& text)
+    TextAccessibility(ViewWidget& widget, NSAccessibilityStaticText& text)
         : QAccessibleWidget(&widget, QAccessible::EditableText), text_(text), told_(value()) {}
 
     void* interface_cast(QAccessible::InterfaceType type) override {
@@ -78,17 +78,17 @@ public:
 private:
     QString value() const { return QString::fromStdString(text_.accessibilityValue()); }
 
-    NSAccessibilityText& text_;
+    NSAccessibilityStaticText& text_;
     QString told_; ///< the value that was told last
 };
 
 } // namespace
 
-QAccessibleInterface* makeTextAccessibility(ViewWidget& widget, NSAccessibilityText& text) {
+QAccessibleInterface* makeTextAccessibility(ViewWidget& widget, NSAccessibilityStaticText& text) {
     return new TextAccessibility(widget, text);
 }
 
-void NSAccessibilityPostValueChanged(const NSAccessibilityText& view) {
+void postValueChanged(const NSAccessibilityStaticText& view) {
     if (!QAccessible::isActive())
         return;
     auto* widget = dynamic_cast<const NSView&>(view).widget();

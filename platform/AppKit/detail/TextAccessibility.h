@@ -1,8 +1,8 @@
 #pragma once
 
-class NSAccessibilityText;
+class NSAccessibilityStaticText;
 class QAccessibleInterface;
 class ViewWidget;
 
 /// What a screen reader is told of a view that draws one text. The caller owns the result.
-QAccessibleInterface* makeTextAccessibility(ViewWidget& widget, NSAccessibilityText& text);
+QAccessibleInterface* makeTextAccessibility(ViewWidget& widget, NSAccessibilityStaticText& text);

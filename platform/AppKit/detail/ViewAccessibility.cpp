@@ -179,7 +179,7 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
         return new ListInterface(widget, *list);
     if (auto* button = dynamic_cast<NSAccessibilityButton*>(view))
         return new ButtonInterface(widget, *button);
-    if (auto* text = dynamic_cast<NSAccessibilityText*>(view))
+    if (auto* text = dynamic_cast<NSAccessibilityStaticText*>(view))
         return makeTextAccessibility(*widget, *text);
     return nullptr;
 }

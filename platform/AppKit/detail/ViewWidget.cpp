@@ -56,10 +56,10 @@ UInt32 modifierFlagsOf(const QKeyEvent& event) {
 }
 
 NSEvent keyEventOf(const QKeyEvent& event) {
-    const NSEventKey key{.character = characterOf(event),
-                         .code = virtualKeyCode(event.nativeScanCode()),
-                         .modifierFlags = modifierFlagsOf(event),
-                         .isARepeat = event.isAutoRepeat()};
+    const EventKey key{.character = characterOf(event),
+                       .code = virtualKeyCode(event.nativeScanCode()),
+                       .modifierFlags = modifierFlagsOf(event),
+                       .isARepeat = event.isAutoRepeat()};
     return NSEvent::key(key, momentOf(event.timestamp()));
 }
 

@@ -30,11 +30,11 @@ void CarbonControl::hit() {
     const ControlRef self = this;
     const UInt32 command = command_;
     CarbonEventTarget& window = windowTarget_;
-    CarbonEvent event(kEventClassControl, kEventControlHit);
+    EventRecord event(kEventClassControl, kEventControlHit);
     event.with(kEventParamDirectObject, typeControlRef, self);
     if (target_.send(event) != eventNotHandledErr || command == 0)
         return;
-    CarbonEvent process(kEventClassCommand, kEventCommandProcess);
+    EventRecord process(kEventClassCommand, kEventCommandProcess);
     process.with(kEventParamDirectObject, typeHICommand, HICommand{0, command, {0, 0}});
     window.send(process);
 }

@@ -31,7 +31,7 @@ public:
 
     CarbonEventTarget& target() { return target_; }
 
-    OSStatus send(CarbonEvent event) { return target_.send(event); }
+    OSStatus send(EventRecord event) { return target_.send(event); }
 
     /// Null for a window whose picture is its widgets' alone.
     virtual GrafPort* port() { return nullptr; }

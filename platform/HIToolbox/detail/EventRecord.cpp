@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-const CarbonEvent::Parameter* CarbonEvent::find(EventParamName name, EventParamType type) const {
+const EventRecord::Parameter* EventRecord::find(EventParamName name, EventParamType type) const {
     const auto found =
         std::find_if(parameters_.begin(), parameters_.end(),
                      [&](const Parameter& each) { return each.name == name && each.type == type; });
@@ -22,7 +22,7 @@ EventHandlerRef CarbonEventTarget::install(EventHandlerUPP function,
     return handlers_->emplace_back(std::move(handler)).get();
 }
 
-OSStatus CarbonEventTarget::send(CarbonEvent& event) {
+OSStatus CarbonEventTarget::send(EventRecord& event) {
     const auto handlers = handlers_;
     for (std::size_t i = handlers->size(); i-- > 0;) {
         if (i >= handlers->size())

@@ -8,15 +8,15 @@
 #include <vector>
 
 /// An event, as those make it who send it.
-class CarbonEvent {
+class EventRecord {
 public:
-    CarbonEvent(OSType eventClass, UInt32 eventKind) : type_{eventClass, eventKind} {}
+    EventRecord(OSType eventClass, UInt32 eventKind) : type_{eventClass, eventKind} {}
 
     const EventTypeSpec& type() const { return type_; }
 
     /// Adds a parameter of the value's bytes; one name once.
     template <class T>
-    CarbonEvent& with(EventParamName name, EventParamType type, const T& value) {
+    EventRecord& with(EventParamName name, EventParamType type, const T& value) {
         static_assert(std::is_trivially_copyable_v<T>);
         std::vector<std::byte> bytes(sizeof value);
         std::memcpy(bytes.data(), &value, sizeof value);
@@ -53,7 +53,7 @@ public:
 
     /// Calls the handlers for the event's type, newest first, until one returns something else than
     /// eventNotHandledErr. Gives the last one's result; without any, eventNotHandledErr.
-    OSStatus send(CarbonEvent& event);
+    OSStatus send(EventRecord& event);
 
 private:
     friend OSStatus RemoveEventHandler(EventHandlerRef);

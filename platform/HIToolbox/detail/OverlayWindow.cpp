@@ -76,7 +76,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override {
         if (!window)
             return;
-        CarbonEvent key(kEventClassKeyboard,
+        EventRecord key(kEventClassKeyboard,
                         event->isAutoRepeat() ? kEventRawKeyRepeat : kEventRawKeyDown);
         if (const auto character = characterOf(*event))
             key.with(kEventParamKeyMacCharCodes, typeChar, *character);
@@ -89,7 +89,7 @@ private:
             return;
         const QPointF place =
             event.position() / window->port_.unitsAPoint() + window->bounds().topLeft();
-        CarbonEvent mouse(kEventClassMouse, kind);
+        EventRecord mouse(kEventClassMouse, kind);
         mouse.with(kEventParamMouseLocation, typeHIPoint,
                    CGPoint{static_cast<CGFloat>(place.x()), static_cast<CGFloat>(place.y())});
         window->send(std::move(mouse));

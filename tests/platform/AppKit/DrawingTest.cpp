@@ -30,7 +30,7 @@ TEST_F(DrawingTest, FramesAreEquallyWideOnAllSidesAtAnyScale) {
         SCOPED_TRACE(scale);
         const auto frames = [] {
             NSColor::blackColor().set();
-            NSFrameRect({1, 1, 18, 18});
+            NSFrameRectWithWidth({1, 1, 18, 18}, 1);
             const Rect rect{5, 5, 15, 15};
             PenNormal();
             FrameRect(&rect);

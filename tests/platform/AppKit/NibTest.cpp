@@ -1,3 +1,4 @@
+#include "platform/AppKit/ClassRegistry.h"
 #include "tests/platform/AppKit/TestForm.h"
 
 #include <QCheckBox>
@@ -12,17 +13,17 @@ class GroupController final : public ControlOwner<NSSlider> {
     void awakeFromNib() override { awoken.emplace_back("group"); }
 };
 
-NS_REGISTER_CLASS(GroupController);
+REGISTER_CLASS(GroupController);
 
 class Owner final : public NSObject {
 public:
-    std::span<const NSOutlet> outlets() const override {
-        static constexpr NSOutlet kOutlets[] = {nsOutlet<&Owner::group>("group")};
+    std::span<const Outlet> outlets() const override {
+        static constexpr Outlet kOutlets[] = {outletRow<&Owner::group>("group")};
         return kOutlets;
     }
 
-    std::span<const NSAction> actions() const override {
-        static constexpr NSAction kActions[] = {nsAction<&Owner::checked>("checked:")};
+    std::span<const Action> actions() const override {
+        static constexpr Action kActions[] = {actionRow<&Owner::checked>("checked:")};
         return kActions;
     }
 

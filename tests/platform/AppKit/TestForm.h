@@ -52,13 +52,13 @@ inline std::string formXml(const std::vector<std::string>& widgets) {
 template <class Control, class Sender = Control>
 class ControlOwner : public NSObject {
 public:
-    std::span<const NSOutlet> outlets() const override {
-        static constexpr NSOutlet kOutlets[] = {nsOutlet<&ControlOwner::control>("control")};
+    std::span<const Outlet> outlets() const override {
+        static constexpr Outlet kOutlets[] = {outletRow<&ControlOwner::control>("control")};
         return kOutlets;
     }
 
-    std::span<const NSAction> actions() const override {
-        static constexpr NSAction kActions[] = {nsAction<&ControlOwner::acted>("acted:")};
+    std::span<const Action> actions() const override {
+        static constexpr Action kActions[] = {actionRow<&ControlOwner::acted>("acted:")};
         return kActions;
     }
 
