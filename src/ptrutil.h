@@ -6,9 +6,8 @@
 #include <string>
 
 // The pointer images of the agent's bundle: PNG files in the folder Pointers of its resources. A
-// pointer's name is its file's without the extension, in the bytes of the file system. From its
-// last
-// '+' on it may give the hot spot, as in "hand+12x7": x and y in pixels from the top-left corner.
+// pointer's name is that of its file without the extension, in the bytes of the file system. After
+// its last '+' it may give the hot spot in pixels from the top-left corner: "hand+12x7".
 
 /// A pointer, owned by its caller.
 struct PointerImage {

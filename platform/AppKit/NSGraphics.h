@@ -5,8 +5,7 @@
 
 // Drawing into the view whose drawRect is running; outside of it nothing is drawn.
 
-/// Fills with the ground on which texts are written, white but in dark palettes and others of the
-/// user's making.
+/// Fills with the palette's ground for texts: white, or dark in a dark theme.
 void NSEraseRect(const NSRect& rect);
 
 enum NSCompositingOperation {

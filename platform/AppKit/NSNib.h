@@ -12,10 +12,8 @@ class QWidget;
 /// A loaded interface file: a Qt Designer form, read at run time. Dynamic properties in the form
 /// say what becomes of its widgets:
 ///
-/// - customClass: the widget makes an object of that class, found in the class registry or among
-/// the
-///   layer's own controls. An object that isn't a view owns no picture; the widget is then only the
-///   group that encloses its parts.
+/// - customClass: the widget makes an object of that class, one of the class registry or of the
+///   layer's controls. If the class isn't a view, the widget only groups the object's parts.
 /// - outlet: the field, of the object that encloses the widget, that the widget's object fills.
 /// - action: the selector that the control sends to the object that encloses it or, if that has no
 ///   such action, to the next object outward.

@@ -46,7 +46,7 @@ public:
     /// What a screen reader says of it besides; UTF-8.
     void setAccessibilityHelp(std::string_view help);
 
-    /// Whether the keyboard acts on it: it has the focus, in the active window.
+    /// Whether it has the keyboard focus, in the active window.
     bool isFirstResponder() const;
 
     // What a view of the pane's own overrides; its widget is one that the form promoted to it.
@@ -62,17 +62,17 @@ public:
     virtual void keyDown(NSEvent* event);
     virtual void keyUp(NSEvent* event);
 
-    /// Offers a key, held with others or alone, before any shortcut sees it. Asked of the view that
-    /// the keyboard acts on; true when that was its use, and it goes no further.
+    /// Offers a key press to the view that has the keyboard focus, before any shortcut sees it.
+    /// True when the view used it; it then goes no further.
     virtual bool performKeyEquivalent(NSEvent* event);
 
     /// A modifier key went down or up.
     virtual void flagsChanged(NSEvent* event);
 
-    /// The view became its window's first responder, which it stays while another window is active.
-    /// The answer, true, says nothing here.
+    /// The view became its window's first responder. It stays that while another window is active.
+    /// The result means nothing here.
     virtual bool becomeFirstResponder();
-    /// It no longer is. The answer, true, says nothing here.
+    /// It no longer is. The result means nothing here.
     virtual bool resignFirstResponder();
 
     /// Whether it can have the focus: by Tab and by click, or as its focusPolicy in the form says.

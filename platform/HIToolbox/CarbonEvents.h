@@ -119,9 +119,9 @@ OSStatus RunAppModalLoopForWindow(WindowRef window);
 /// Ends the window's loop once the event being handled is done.
 OSStatus QuitAppModalLoopForWindow(WindowRef window);
 
-/// From now on, and as long as it is shown, the window gets the keys, whatever the desktop thinks
-/// of it. While another program holds the keyboard, such as an open menu's, it is asked for again
-/// and again, for at most five seconds: then the window's modal loop ends.
+/// Gives the window every key press while it is shown. If another program holds the keyboard, such
+/// as one with an open menu, tries again for at most five seconds, then ends the window's modal
+/// loop.
 OSStatus SetUserFocusWindow(WindowRef window);
 
 /// Modifier keys as Carbon's events have them. On Linux command is the Super key and option is Alt.

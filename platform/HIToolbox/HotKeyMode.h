@@ -2,20 +2,20 @@
 
 #include "platform/CoreFoundation/CFBase.h"
 
-// A time in which no key acts anywhere but in the window that has the keyboard: the desktop's own
-// shortcuts and those of other programs rest. On X11 the window grabs the keyboard; where that
-// isn't possible, as on Wayland or while another program has grabbed it, they act as ever.
+// A mode in which keys act in the active window only. The shortcuts of the desktop and of other
+// programs rest. On X11 the window grabs the keyboard. On Wayland, or while another program has
+// grabbed the keyboard, those shortcuts act as ever.
 //
-// The grab lasts only while the window is active, and at most 30 seconds, for a screen can't be
-// locked meanwhile.
+// The grab lasts only while the window is active, and at most 30 seconds: the screen can't be
+// locked during it.
 
 using OptionBits = UInt32;
 
 enum : OptionBits { kHIHotKeyModeAllDisabled = 1 };
 
-/// Begins such a time for the active window. The token ends it.
+/// Begins the mode for the active window. The token ends it.
 void* PushSymbolicHotKeyMode(OptionBits options);
 
-/// Ends it. A key that is still held down acts nowhere until it has come up: neither its
-/// repetitions nor, if that is being handled, its press go any further.
+/// Ends the mode. Keys that are down are ignored until they come up: their repetitions, and also
+/// the press that is being handled. Does nothing for null.
 void PopSymbolicHotKeyMode(void* token);

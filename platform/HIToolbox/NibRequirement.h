@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-/// What the code expects of a Carbon interface file. A static object beside the code tells it, so
-/// that the file can be checked before a user meets the window.
+/// What the code expects in a Carbon interface file. Registered by a static object beside that
+/// code, so that the build can check the file.
 struct NibRequirement {
     const char* nib; ///< the file's name without its extension
     std::span<const char* const> windows;
@@ -22,7 +22,6 @@ public:
     explicit NibRequirementRegistration(const NibRequirement& requirement);
 };
 
-/// Loads the interface files of which the code in the process tells something and looks for what it
-/// expects. False when anything is missing or wrong; `errors` then says what, one line each,
-/// beginning with the file's path.
+/// Loads the interface file of every registered requirement and checks it. False when anything is
+/// missing or wrong; `errors` then says what, one line each, beginning with the file's path.
 bool checkCarbonNibs(const CFBundle* bundle, std::vector<std::string>& errors);

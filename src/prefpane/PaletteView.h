@@ -20,10 +20,10 @@ protected:
     ~PaletteViewTarget() = default;
 };
 
-/// The palette editor's picture of the palette: the nine slots of `prefs` in a row of square
-/// buttons that fills the view, of which one at most is selected. It reports clicks and never
-/// changes the record or its selection itself. The keyboard has a cursor of its own: the arrow
-/// keys move it, space or return clicks on it, escape clicks beside the buttons.
+/// The palette editor's picture of the palette: the nine slots of `prefs` as a row of square
+/// buttons that fills the view. At most one is selected. The view reports clicks; it changes
+/// neither the record nor its selection. By keyboard, arrows move a cursor, Space or Return clicks
+/// on it, and Escape clicks beside the buttons.
 class PaletteView final : public NSQuickDrawView, public NSAccessibilityList {
 public:
     /// Not owned; null for none.

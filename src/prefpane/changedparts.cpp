@@ -26,8 +26,8 @@ void ChangedParts::addWhole(const CGRect& area) {
     add(CGRectStandardize(area));
 }
 
-/// A point that is in only one of two areas lies between their left edges, or their right ones, and
-/// so on: four bands across both hold all that differs.
+/// Two rectangles differ only between their left edges, their right edges, their tops and their
+/// bottoms. So four bands, one for each side, cover every difference.
 void ChangedParts::addBetween(const CGRect& before, const CGRect& now) {
     const CGRect a = CGRectStandardize(before);
     const CGRect b = CGRectStandardize(now);

@@ -1,8 +1,8 @@
 #pragma once
 
 // The names of the agent's pointers (src/ptrutil.h), in the order of the folder's listing. The
-// folder is read once a visit of the pane, when a name is first asked for; without an agent or
-// folder there are no names until the next visit.
+// folder is read when a name is first asked for, and again in the next visit. Without an agent or
+// its folder there are no names.
 
 /// The longest name, in bytes.
 constexpr int kMaxPointerNameLength = 99;

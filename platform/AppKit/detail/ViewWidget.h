@@ -42,5 +42,5 @@ private:
     NSView* view_ = nullptr;
     GrafPort* port_ = nullptr;
     bool isFirstResponder_ = false;
-    bool isKeyTaken_ = false; ///< the view had a use for the key of which Qt has yet to tell
+    bool isKeyTaken_ = false; ///< the view used the key whose press event is yet to come
 };

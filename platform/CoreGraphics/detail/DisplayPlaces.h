@@ -5,10 +5,10 @@
 
 class QScreen;
 
-// Where displays and windows lie, in three spaces. The desktop's pixels: as the X server counts
-// them, one space for all displays. Qt's units: a display begins at its pixel on the desktop and is
-// then counted in units of its own scale. Points: those of the main display, from its top-left
-// corner, over the whole desktop.
+// Where displays and windows lie, in three kinds of coordinates:
+// - pixels of the desktop, as the X server counts them, over all displays;
+// - Qt's units: a display's corner in pixels, and within the display units of its own scale;
+// - points: units of the main display's scale from its top-left corner, over all displays.
 
 /// A display as Qt tells it.
 struct DisplayPlace {
@@ -22,5 +22,5 @@ struct DisplayPlace {
 
 QRectF toPoints(const DisplayPlace& display, const DisplayPlace& main);
 
-/// Qt's units, for a window that Qt counts to the display `counted`.
+/// In Qt's units. `counted` is the display that Qt takes the window to be on.
 QRect toQtUnits(const QRectF& points, const DisplayPlace& main, const DisplayPlace& counted);

@@ -6,9 +6,9 @@
 
 class QKeyEvent;
 
-/// Which keys are down, by their scan codes. Qt alone can't tell: while a key repeats, X11 reports
-/// it up and down again, and Qt, when it hasn't received the second half yet, takes the first for a
-/// real release. So the display's server is asked what is held in truth; elsewhere Qt is believed.
+/// Which keys are down, by scan code. While a key repeats, X11 reports it as released and pressed
+/// again, and Qt can take the first half for a real release. So the X server is asked which keys
+/// are down. On other platforms Qt's word is taken.
 class HeldKeys {
 public:
     /// Starts anew with what is down at this moment.

@@ -4,6 +4,6 @@
 
 class QWidget;
 
-/// The Carbon window of a top-level widget that another owns: the same at every call, and gone with
-/// the widget.
+/// The Carbon window for a top-level widget that somebody else owns. Every call gives the same one.
+/// It goes with the widget.
 WindowRef windowRefOf(QWidget* window);

@@ -10,7 +10,7 @@ void WindowPort::setPaintEventPainter(QPainter* painter) {
         painter->scale(unitsAPoint(), unitsAPoint());
 }
 
-// Not 1 only while Qt counts the window to a display of another scale than the main one's.
+// 1, unless Qt takes the window to be on a display whose scale differs from the main one's.
 double WindowPort::unitsAPoint() const {
     return QGuiApplication::primaryScreen()->devicePixelRatio() / widget_.devicePixelRatioF();
 }
