@@ -52,6 +52,10 @@ void NSView::setHidden(bool hidden) {
     widget_->setHidden(hidden);
 }
 
+void NSView::setFrameSize(const NSSize& size) {
+    widget_->setMinimumSize(static_cast<int>(size.width), static_cast<int>(size.height));
+}
+
 NSRect NSView::bounds() const {
     return {0, 0, static_cast<float>(widget_->width()), static_cast<float>(widget_->height())};
 }

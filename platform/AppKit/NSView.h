@@ -32,6 +32,9 @@ public:
     /// Hidden it takes no room, and neither keyboard nor screen reader find it.
     void setHidden(bool hidden);
 
+    /// Asks its superview for at least so much room, in points.
+    void setFrameSize(const NSSize& size);
+
     NSRect bounds() const; ///< in its own coordinates: origin 0, 0
     /// Turns every stack of pages to the one with this view, and scrolls to it.
     void scrollToVisible();

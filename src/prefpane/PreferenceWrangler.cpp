@@ -41,16 +41,19 @@ std::span<const Outlet> PreferenceWrangler::outlets() const {
         outletRow<&W::palette_, &Palette::buttonSize>("buttonSize"),
         outletRow<&W::palette_, &Palette::buttonWidth>("buttonWidth"),
         outletRow<&W::launchAtLogin_>("launchAtLogin"),
-        outletRow<&W::lineColor_>("lineColor"),
+        outletRow<&W::lineColors_, &LineColorChooser::lineColor>("lineColor"),
+        outletRow<&W::lineColors_, &LineColorChooser::lineColorGrid>("lineColorGrid"),
         outletRow<&W::masterOnOffRadios_>("masterOnOffRadios"),
         outletRow<&W::masterState_>("masterState"),
         outletRow<&W::palette_, &Palette::palettePrompt>("palettePrompt"),
         outletRow<&W::palette_, &Palette::paletteView>("paletteView"),
         outletRow<&W::pointers_, &PointerChooser::pointerName>("pointerName"),
+        outletRow<&W::pointers_, &PointerChooser::pointerGrid>("pointerGrid"),
         outletRow<&W::palette_, &Palette::removeButtonBtn>("removeButtonBtn"),
         outletRow<&W::palette_, &Palette::resetActionsBtn>("resetActionsBtn"),
         outletRow<&W::sampleScanImage_>("sampleScanImage"),
         outletRow<&W::scanAreaText_>("scanAreaText"),
+        outletRow<&W::scanAreas_, &ScanAreaChooser::scanAreaGrid>("scanAreaGrid"),
         outletRow<&W::scanModeRadios_>("scanModeRadios"),
         outletRow<&W::palette_, &Palette::setActionBtn>("setActionBtn"),
         outletRow<&W::palette_, &Palette::swapWithBtn>("swapWithBtn"),
@@ -129,6 +132,9 @@ void PreferenceWrangler::setup() {
 
     palette_.setup(*this, *this);
     hotKeys_.setup(*this, *this);
+    pointers_.setup();
+    lineColors_.setup();
+    scanAreas_.setup();
     theWrangler = this;
 }
 
@@ -144,11 +150,10 @@ void PreferenceWrangler::loadValues() {
 
     loadFlags();
     hotKeys_.load();
-    lineColor_->setColor(NSColor::colorWithDeviceRed(prefs.lineColor.red / 255.0,
-                                                     prefs.lineColor.green / 255.0,
-                                                     prefs.lineColor.blue / 255.0, 1.0));
+    lineColors_.load();
+    scanAreas_.load();
     showSampleLineType(kSampleScanLine);
-    pointers_.updatePointerName();
+    pointers_.load();
     palette_.load();
     updateTriggerUI();
 }

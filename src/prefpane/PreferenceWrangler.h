@@ -3,9 +3,11 @@
 #include "src/history.h"
 #include "src/prefpane/HotKeyEditor.h"
 #include "src/prefpane/HotKeyView.h"
+#include "src/prefpane/LineColorChooser.h"
 #include "src/prefpane/NumberController.h"
 #include "src/prefpane/PaletteEditor.h"
 #include "src/prefpane/PointerChooser.h"
+#include "src/prefpane/ScanAreaChooser.h"
 #include "src/settings.h"
 #include "src/tryout/TryPage.h"
 
@@ -70,7 +72,6 @@ public:
     void changedUseScanArea(NSMatrix* sender);
     void changedTriggerOnRelease(NSMatrix* sender);
     void changedScanMode(NSMatrix* sender);
-    void changedLineColor(NSColorWell* sender);
 
     // PreferenceWranglerHistory.cpp: steps that can be undone, and changes of many settings at once
 
@@ -143,10 +144,16 @@ public:
 
     void nextPointer(NSButton*) { pointers_.bumpPointer(true); }
 
+    // LineColorChooser: the lines' colour
+
+    void changedLineColor(NSColorWell*) { lineColors_.changedLineColor(); }
+
     // PreferenceWranglerScanArea.cpp: the custom scan area
 
     /// Shows the area in words.
     void updateScanAreaText();
+    /// Brings all that shows the area or its use up to date.
+    void showScanArea();
     /// Lets the user draw an area, and scans only that from then on, or all when it is empty.
     void setCustomScanArea(NSButton* sender);
 
@@ -177,7 +184,6 @@ private:
 
     NSButton* activateAtLaunch_ = nullptr;
     NSButton* launchAtLogin_ = nullptr;
-    NSColorWell* lineColor_ = nullptr;
     NSMatrix* masterOnOffRadios_ = nullptr;
     NSTextField* masterState_ = nullptr;
     SampleScanView* sampleScanImage_ = nullptr;
@@ -193,6 +199,8 @@ private:
     HotKeyEditor hotKeys_;
     PaletteEditor palette_{*this};
     PointerChooser pointers_{*this};
+    LineColorChooser lineColors_{*this};
+    ScanAreaChooser scanAreas_{*this};
 
     const CFString* helpBookName_ = nullptr; ///< the bundle's own; null: no book
     bool shownLaunchAtLogin_ = false;        ///< the setting as the login items last followed it

@@ -1,7 +1,6 @@
 #include "src/prefpane/PreferenceWrangler.h"
 
 #include "platform/AppKit/NSButton.h"
-#include "platform/AppKit/NSColorWell.h"
 #include "platform/AppKit/NSMatrix.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/HIToolbox/CarbonEvents.h"
@@ -17,12 +16,6 @@ constexpr ChangeMask kPreviewChanges =
 /// Whether the area can be scanned: neither side is zero or less.
 bool isUsable(const ScanArea& area) {
     return area.width > 0 && area.height > 0;
-}
-
-/// A colour component from 0 to 1 as a whole number from 0 to 255: truncated, with just enough
-/// added to keep whole numbers whole.
-UInt16 byteComponent(double component) {
-    return static_cast<UInt16>(component * 255.0 + 0.1);
 }
 
 } // namespace
@@ -54,6 +47,8 @@ void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {
         sampleScanImage_->setNeedsDisplay(true);
     if (changes & kChangePalette)
         palette_.updateButtonSizes();
+    if (changes & kChangeScanArea)
+        showScanArea();
     if (changes & kChangeLaunch)
         updateLaunchUI();
     if (changes & kChangePointer)
@@ -124,11 +119,4 @@ void PreferenceWrangler::changedScanMode(NSMatrix* sender) {
         return;
     prefs.scanMode = tag;
     changed(kChangeTriggers);
-}
-
-void PreferenceWrangler::changedLineColor(NSColorWell* sender) {
-    const NSColor color = sender->color();
-    prefs.lineColor = {byteComponent(color.redComponent()), byteComponent(color.greenComponent()),
-                       byteComponent(color.blueComponent())};
-    changed(kChangeScanLineLook | kChangeGuideLineLook);
 }

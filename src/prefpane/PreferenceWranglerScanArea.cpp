@@ -30,6 +30,12 @@ void PreferenceWrangler::updateScanAreaText() {
     scanAreaText_->setStringValue(describe(prefs.scanArea));
 }
 
+void PreferenceWrangler::showScanArea() {
+    updateScanAreaText();
+    updateScanAreaRadios();
+    scanAreas_.scanAreaGrid->reload();
+}
+
 void PreferenceWrangler::setCustomScanArea(NSButton*) {
     auto& [x, y, width, height] = prefs.scanArea;
     CGRect area = CGRectMake(x, y, width, height);
@@ -40,7 +46,6 @@ void PreferenceWrangler::setCustomScanArea(NSButton*) {
     }
     prefs.scanArea = {area.origin.x, area.origin.y, area.size.width, area.size.height};
     prefs.useScanArea = !CGRectIsEmpty(area);
-    updateScanAreaText();
     updateScanAreaRadios();
     changed(kChangeScanArea);
 }

@@ -66,12 +66,16 @@ std::vector<std::string> readPointers() {
                : std::vector<std::string>();
 }
 
+const std::vector<std::string>& allPointers() {
+    if (!pointers)
+        pointers = readPointers();
+    return *pointers;
+}
+
 } // namespace
 
 bool ptrmanGetNextPointer(const char* current, bool forward, char* out) {
-    if (!pointers)
-        pointers = readPointers();
-    const std::vector<std::string>& names = *pointers;
+    const std::vector<std::string>& names = allPointers();
     if (names.empty())
         return false;
     const auto found = std::find_if(names.begin(), names.end(), [&](const std::string& name) {
@@ -85,6 +89,14 @@ bool ptrmanGetNextPointer(const char* current, bool forward, char* out) {
         next = (isListed && found != names.begin() ? found : names.end()) - 1;
     std::memcpy(out, next->c_str(), next->size() + 1);
     return true;
+}
+
+int ptrmanCountPointers() {
+    return static_cast<int>(allPointers().size());
+}
+
+const std::string& ptrmanPointerAt(int index) {
+    return allPointers()[static_cast<std::size_t>(index)];
 }
 
 void ptrmanCleanup() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 // The names of the agent's pointers (src/ptrutil.h), in the order of the folder's listing. The
 // folder is read when a name is first asked for, and again in the next visit. Without an agent or
 // its folder there are no names.
@@ -14,6 +16,11 @@ constexpr int kMaxPointers = 250;
 /// current name that is null, empty or not listed gives the first or last name. False, with `out`
 /// left as it was, when there are no names.
 bool ptrmanGetNextPointer(const char* current, bool forward, char* out);
+
+int ptrmanCountPointers();
+
+/// The name at an index from 0 to below that count. Borrowed until the names are forgotten.
+const std::string& ptrmanPointerAt(int index);
 
 /// Forgets all names.
 void ptrmanCleanup();

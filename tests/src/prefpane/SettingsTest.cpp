@@ -178,7 +178,8 @@ TEST_F(SettingsTest, LoadingShowsTheRecordAndReportsNothingButAnEmptyScanArea) {
 TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityAction) {
     // They open a menu, a window or the help book, or end in a choice elsewhere.
     const QRegularExpression others(
-        "^(helpBtn|findMySpeed|undoBtn|redoBtn|sections.*|.*Label|scanAreaBtn|lineColor|paletteView|sampleScanImage|"
+        "^(helpBtn|findMySpeed|undoBtn|redoBtn|sections.*|.*Grid|.*Label|scanAreaBtn|lineColor|"
+        "paletteView|sampleScanImage|"
         "(add|swapWith|setAction|remove)(Button)?Btn|.*KeyBtn|.*Key2Btn)$");
     prefs.scanArea = {0, 0, 640, 480};
     prefs.minTriggerDuration = prefs.afterClickDelay = 4; // none comes to a limit

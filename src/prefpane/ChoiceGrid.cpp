@@ -1,0 +1,121 @@
+#include "src/prefpane/ChoiceGrid.h"
+
+#include "platform/AppKit/ClassRegistry.h"
+#include "platform/AppKit/NSEvent.h"
+#include "platform/HIToolbox/Appearance.h"
+
+#include <algorithm>
+
+REGISTER_CLASS(ChoiceGrid);
+
+namespace {
+
+constexpr int kColumns = 6;
+constexpr int kSide = 44; ///< of a button, in points; enough for a trembling hand
+constexpr int kGap = 6;
+
+struct Choice {
+    const ChoiceGridSource& source;
+    int index;
+};
+
+void drawChoice(const Rect* bounds, ThemeButtonKind, const ThemeButtonDrawInfo*, void* userData) {
+    const auto& [source, index] = *static_cast<const Choice*>(userData);
+    source.drawChoice(index, *bounds);
+}
+
+Rect frameOf(int index) {
+    const int top = index / kColumns * (kSide + kGap), left = index % kColumns * (kSide + kGap);
+    return {static_cast<SInt16>(top), static_cast<SInt16>(left), static_cast<SInt16>(top + kSide),
+            static_cast<SInt16>(left + kSide)};
+}
+
+NSRect viewFrameOf(int index) {
+    const Rect frame = frameOf(index);
+    return {static_cast<float>(frame.left), static_cast<float>(frame.top), kSide, kSide};
+}
+
+} // namespace
+
+void ChoiceGrid::reload() {
+    const int old = chosen_;
+    count_ = source_ ? source_->choiceCount() : 0;
+    cursor_ = std::clamp(cursor_, 0, std::max(count_ - 1, 0));
+    chosen_ = -1;
+    for (int i = count_ - 1; i >= 0; --i)
+        if (source_->isChosen(i))
+            chosen_ = i;
+    setFrameSize({kColumns * (kSide + kGap) - kGap,
+                  static_cast<float>((count_ + kColumns - 1) / kColumns * (kSide + kGap) - kGap)});
+    setNeedsDisplay(true);
+    for (const int changed : {old, chosen_})
+        if (old != chosen_)
+            NSAccessibilityPostNotification(this, changed,
+                                            NSAccessibilitySelectedChildrenChangedNotification);
+}
+
+void ChoiceGrid::drawRect(const NSRect&) {
+    for (int i = 0; i < count_; ++i) {
+        const Rect frame = frameOf(i);
+        const ThemeButtonDrawInfo info{kThemeStateActive,
+                                       source_->isChosen(i) ? kThemeButtonOn : kThemeButtonOff,
+                                       kThemeAdornmentNone};
+        Choice choice{*source_, i};
+        DrawThemeButton(&frame, kThemeRoundedBevelButton, &info, nullptr, nullptr, ::drawChoice,
+                        &choice);
+        DrawThemeFocusRect(&frame, i == cursor_ && isFirstResponder());
+    }
+}
+
+void ChoiceGrid::mouseDown(NSEvent* event) {
+    const NSPoint place = convertPoint(event->locationInWindow(), nullptr);
+    for (int i = 0; i < count_; ++i)
+        if (NSPointInRect(place, viewFrameOf(i)))
+            return accessibilityPress(i);
+}
+
+void ChoiceGrid::moveCursor(int index) {
+    if (index < 0 || index >= count_ || index == cursor_)
+        return;
+    cursor_ = index;
+    setNeedsDisplay(true);
+    NSAccessibilityPostNotification(this, cursor_,
+                                    NSAccessibilityFocusedUIElementChangedNotification);
+}
+
+void ChoiceGrid::keyDown(NSEvent* event) {
+    switch (event->charactersIgnoringModifiers()) {
+    case NSLeftArrowFunctionKey:
+        return moveCursor(cursor_ - 1);
+    case NSRightArrowFunctionKey:
+        return moveCursor(cursor_ + 1);
+    case NSUpArrowFunctionKey:
+        return moveCursor(cursor_ - kColumns);
+    case NSDownArrowFunctionKey:
+        return moveCursor(cursor_ + kColumns);
+    case NSHomeFunctionKey:
+        return moveCursor(0);
+    case NSEndFunctionKey:
+        return moveCursor(count_ - 1);
+    case u' ':
+    case NSCarriageReturnCharacter:
+    case NSEnterCharacter:
+        if (!event->isARepeat()) // a key that is held down clicks once
+            accessibilityPress(cursor_);
+        return;
+    default:
+        event->passOn();
+    }
+}
+
+NSAccessibilityElement ChoiceGrid::accessibilityElement(int index) const {
+    return {source_->choiceName(index), viewFrameOf(index), source_->isChosen(index)};
+}
+
+void ChoiceGrid::accessibilityPress(int index) {
+    if (index >= count_)
+        return;
+    moveCursor(index);
+    source_->choose(index);
+    reload();
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/AppKit/NSAccessibility.h"
+#include "platform/AppKit/NSQuickDrawView.h"
+#include "platform/QuickDraw/QuickDraw.h"
+
+/// What a grid offers to choose from. Indexes count from 0.
+class ChoiceGridSource {
+public:
+    virtual int choiceCount() const = 0;
+    virtual std::string choiceName(int index) const = 0; ///< for screen readers; UTF-8
+    virtual bool isChosen(int index) const = 0;
+    /// Draws the choice's picture inside the rectangle.
+    virtual void drawChoice(int index, const Rect& bounds) const = 0;
+    virtual void choose(int index) = 0;
+
+protected:
+    ~ChoiceGridSource() = default;
+};
+
+/// A grid of pictures, each a button that chooses what it shows. By keyboard, arrows move a cursor,
+/// and Space or Return presses the button there.
+class ChoiceGrid final : public NSQuickDrawView, public NSAccessibilityList {
+public:
+    /// Not owned; null for none.
+    void setSource(ChoiceGridSource* source) { source_ = source; }
+
+    /// Takes in the source's choices and which of them is chosen.
+    void reload();
+
+    void drawRect(const NSRect& dirtyRect) override;
+    void mouseDown(NSEvent* event) override;
+    void keyDown(NSEvent* event) override;
+
+    bool acceptsFirstResponder() const override { return true; }
+
+    int accessibilityCount() const override { return count_; }
+
+    NSAccessibilityElement accessibilityElement(int index) const override;
+
+    int accessibilityFocusedIndex() const override { return cursor_; }
+
+    void accessibilityPress(int index) override;
+
+private:
+    void moveCursor(int index);
+
+    ChoiceGridSource* source_ = nullptr;
+    int count_ = 0;
+    int cursor_ = 0;
+    int chosen_ = -1; ///< the first that is chosen, or -1; as last told to screen readers
+};
