@@ -24,7 +24,9 @@ bool functionKeysAreStandard() {
 }
 
 bool kernelPrefersFunctionKeys(const char* parameterFile) {
-    int mode = 0;
-    std::ifstream(parameterFile) >> mode;
+    std::ifstream file(parameterFile);
+    int mode = kFunctionKeysFirst; // without Apple's keyboards: others have no fn to hold
+    if (file)
+        mode = 0, file >> mode;
     return mode == kFunctionKeysFirst;
 }

@@ -6,7 +6,15 @@
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "src/prefpane/HotKeyView.h"
 
+#include <algorithm>
+
 namespace {
+
+/// How long a capture can keep keys from everyone else.
+constexpr int kCaptureSeconds = 30;
+
+constexpr const char* kClaim = "Use it here and remove it there";
+constexpr const char* kRestore = "Put back what was here";
 
 /// Whether both are assigned and the agent would take one for the other.
 bool isSameHotKey(const HotKey& a, const HotKey& b) {
@@ -31,10 +39,15 @@ void HotKeyEditor::setup(HotKeyViewTarget& viewTarget, NSObject& menuTarget) {
         std::string_view action;
     } kItems[] = {
         {"Press new keys", "captureHotKey:"},
+        {"Choose keys…", "chooseHotKey:"},
         {"None", "removeHotKey:"},
         {"Default", "resetHotKey:"},
+        {kClaim, "claimHotKey:"},
+        {kRestore, "restoreHotKey:"},
     };
 
+    menuTarget_ = &menuTarget;
+    builder.setup(menuTarget);
     int index = 0;
     for (const HotKeyRow* row : rows()) {
         row->view->setTarget(&viewTarget);
@@ -50,9 +63,17 @@ void HotKeyEditor::setup(HotKeyViewTarget& viewTarget, NSObject& menuTarget) {
     }
 }
 
+HotKeyEditor::~HotKeyEditor() {
+    stopCountingDown();
+}
+
 void HotKeyEditor::load() {
     targetHotKey_ = nullptr;
+    stopCountingDown();
     updateHotKeyUI();
+    builder.load();
+    std::copy(std::begin(prefs.hotKeys), std::end(prefs.hotKeys), now_.begin());
+    before_ = now_;
     for (const HotKeyRow* row : rows())
         row->view->setNeedsDisplay(true);
     updateHotKeyNotes();
@@ -86,11 +107,48 @@ void HotKeyEditor::resetHotKey(const NSMenuItem& sender) {
     rowOf(sender).view->setToDefault();
 }
 
+void HotKeyEditor::chooseHotKey(const NSMenuItem& sender) {
+    builder.begin(*rowOf(sender).view);
+}
+
+void HotKeyEditor::claimHotKey(const NSMenuItem& sender) {
+    for (const std::size_t other : sameAs(static_cast<std::size_t>(sender.tag())))
+        rows()[other]->view->setToNone();
+}
+
+void HotKeyEditor::restoreHotKey(const NSMenuItem& sender) {
+    rowOf(sender).view->restore(before_[static_cast<std::size_t>(sender.tag())]);
+}
+
 void HotKeyEditor::setTargetHotKey(HotKeyView* view) {
     if (view == targetHotKey_)
         return;
     targetHotKey_ = view;
     updateHotKeyUI();
+    stopCountingDown();
+    secondsLeft_ = kCaptureSeconds;
+    if (view)
+        countDown();
+}
+
+void HotKeyEditor::stopCountingDown() {
+    if (timer_)
+        RemoveEventLoopTimer(timer_);
+    timer_ = nullptr;
+}
+
+void HotKeyEditor::countDown() {
+    stopCountingDown();
+    if (secondsLeft_ == 0)
+        return cancelHotKeyEdit();
+    editingKeyPrompt1->setStringValue(
+        "Listening: press the new hot key, one key, alone or with Ctrl, Alt, Shift or Super held "
+        "down. Every key counts, Esc and Tab too. " +
+        std::to_string(secondsLeft_--) + " seconds left.");
+    const auto tick = [](EventLoopTimerRef, void* editor) {
+        static_cast<HotKeyEditor*>(editor)->countDown();
+    };
+    InstallEventLoopTimer(GetMainEventLoop(), 1.0, 0, NewEventLoopTimerUPP(tick), this, &timer_);
 }
 
 // The idle prompt and the editing group take each other's place in one container.
@@ -116,15 +174,39 @@ void HotKeyEditor::updateHotKeyUI() {
     }
 }
 
+std::vector<std::size_t> HotKeyEditor::sameAs(std::size_t index) const {
+    std::vector<std::size_t> same;
+    for (std::size_t other = 0; other < kNumHotKeys; ++other)
+        if (other != index && isSameHotKey(prefs.hotKeys[index], prefs.hotKeys[other]))
+            same.push_back(other);
+    return same;
+}
+
+void HotKeyEditor::noticeChanges() {
+    for (std::size_t i = 0; i < kNumHotKeys; ++i) {
+        const HotKey& now = prefs.hotKeys[i];
+        if (now.keyCode == now_[i].keyCode && now.modifiers == now_[i].modifiers)
+            continue;
+        before_[i] = now_[i];
+        now_[i] = now;
+    }
+}
+
 void HotKeyEditor::updateHotKeyNotes() {
+    noticeChanges();
     const auto all = rows();
     for (std::size_t i = 0; i < all.size(); ++i) {
+        const auto same = sameAs(i);
         std::string note;
-        for (std::size_t other = 0; other < all.size(); ++other)
-            if (other != i && isSameHotKey(prefs.hotKeys[i], prefs.hotKeys[other]))
-                note += (note.empty() ? "The same keys as “" : ", “") +
-                        all[other]->view->accessibilityLabel() + "”";
+        for (const std::size_t other : same)
+            note += (note.empty() ? "⚠ The same keys as “" : ", “") +
+                    all[other]->view->accessibilityLabel() + "”";
+        if (!same.empty())
+            note += ". The menu beside it offers to use them here alone, or to put back what was "
+                    "here.";
         all[i]->note->setStringValue(note);
+        for (const char* offer : {kClaim, kRestore})
+            all[i]->menu->itemWithTitle(offer)->setTarget(same.empty() ? nullptr : menuTarget_);
         const auto combination = all[i]->view->combination();
         all[i]->menu->setAccessibilityHelp(
             (combination ? "Now " + CFStringToUTF8(combination.get()) + ". " : std::string()) +

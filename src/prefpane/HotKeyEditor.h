@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/HIToolbox/EventTimers.h"
+#include "src/prefpane/HotKeyBuilder.h"
 #include "src/prefs.h"
 
 #include <array>
+#include <vector>
 
 class HotKeyView;
 class HotKeyViewTarget;
@@ -29,9 +32,15 @@ public:
     NSButton* cancelEditBtn = nullptr;
     NSButton* defaultKeyBtn = nullptr;
     NSButton* noKeyBtn = nullptr;
+    HotKeyBuilder builder;
 
-    /// Gives the views their places in the record, and the menus their items, which send
-    /// captureHotKey:, removeHotKey: and resetHotKey: to `menuTarget`. None is owned.
+    HotKeyEditor() = default;
+    ~HotKeyEditor();
+    HotKeyEditor(const HotKeyEditor&) = delete;
+    HotKeyEditor& operator=(const HotKeyEditor&) = delete;
+
+    /// Gives the views their places in the record, and the menus their items, which send their
+    /// actions to `menuTarget`. None is owned.
     void setup(HotKeyViewTarget& viewTarget, NSObject& menuTarget);
     /// Shows the record's hot keys, with no capture under way.
     void load();
@@ -43,6 +52,11 @@ public:
     void captureHotKey(const NSMenuItem& sender);
     void removeHotKey(const NSMenuItem& sender);
     void resetHotKey(const NSMenuItem& sender);
+    void chooseHotKey(const NSMenuItem& sender);
+    /// Takes the keys away from every other hot key that has them, too.
+    void claimHotKey(const NSMenuItem& sender);
+    /// Puts back what the hot key was before its last change.
+    void restoreHotKey(const NSMenuItem& sender);
 
     void setTargetHotKey(HotKeyView* view);
     /// Shows the group of prompts that goes with the target.
@@ -55,6 +69,17 @@ private:
     /// In the record's order.
     std::array<HotKeyRow*, kNumHotKeys> rows();
     HotKeyRow& rowOf(const NSMenuItem& item);
+    /// Which of the others the agent would take for this hot key.
+    std::vector<std::size_t> sameAs(std::size_t index) const;
+    void noticeChanges();
+    /// Says in the prompt how long a capture still takes keys from everyone, and ends it then.
+    void countDown();
+    void stopCountingDown();
 
-    HotKeyView* targetHotKey_ = nullptr; ///< that is captured into, or null
+    NSObject* menuTarget_ = nullptr;              ///< not owned
+    HotKeyView* targetHotKey_ = nullptr;          ///< that is captured into, or null
+    EventLoopTimerRef timer_ = nullptr;           ///< during a capture
+    int secondsLeft_ = 0;                         ///< of the capture
+    std::array<HotKey, kNumHotKeys> now_ = {};    ///< as last shown
+    std::array<HotKey, kNumHotKeys> before_ = {}; ///< what each was before its last change
 };

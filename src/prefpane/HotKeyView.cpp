@@ -91,11 +91,20 @@ bool HotKeyView::performKeyEquivalent(NSEvent* event) {
 void HotKeyView::keyDown(NSEvent* event) {
     if (index_ < 0 || event->isARepeat() || event->keyCode() == kNoKeyCode)
         return;
-    HotKey& hotKey = prefs.hotKeys[index_];
-    hotKey.modifiers = carbonModifiers(event->modifierFlags()) & kStoredModifiers;
-    hotKey.keyCode = event->keyCode();
+    setHotKey(carbonModifiers(event->modifierFlags()), event->keyCode());
+}
+
+void HotKeyView::setHotKey(UInt32 modifiers, UInt16 keyCode) {
+    if (index_ < 0)
+        return;
+    prefs.hotKeys[index_].modifiers = modifiers & kStoredModifiers;
+    prefs.hotKeys[index_].keyCode = keyCode;
     cancelEditing();
     reportChange();
+}
+
+UInt32 HotKeyView::modifiers() const {
+    return index_ < 0 ? 0 : prefs.hotKeys[index_].modifiers;
 }
 
 void HotKeyView::setToNone() {
@@ -108,11 +117,14 @@ void HotKeyView::setToNone() {
 }
 
 void HotKeyView::setToDefault() {
-    if (index_ >= 0) {
-        prefs.hotKeys[index_] = PrefsRecord().hotKeys[index_];
-        reportChange();
-    }
+    if (index_ >= 0)
+        restore(PrefsRecord().hotKeys[index_]);
     cancelEditing();
+}
+
+void HotKeyView::restore(const HotKey& hotKey) {
+    prefs.hotKeys[index_] = hotKey;
+    reportChange();
 }
 
 void HotKeyView::reportChange() {

@@ -37,9 +37,15 @@ public:
     void startEditing(NSView* starter);
     /// Ends a capture without storing anything; outside of one nothing happens.
     void cancelEditing();
+    /// Stores the key, with the modifiers of Carbon's that are to be held with it.
+    void setHotKey(UInt32 modifiers, UInt16 keyCode);
+    /// Of the hot key as stored; 0 before an index is given.
+    UInt32 modifiers() const;
     /// Takes the hot key away. What it was stays in the record, marked.
     void setToNone();
     void setToDefault();
+    /// Makes the hot key this one, whatever it is.
+    void restore(const HotKey& hotKey);
 
     /// The hot key in words; null when there is nothing to show.
     CFRef<CFString> combination() const;

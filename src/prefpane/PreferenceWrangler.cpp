@@ -31,6 +31,7 @@ std::span<const Outlet> PreferenceWrangler::outlets() const {
     using W = PreferenceWrangler;
     using Keys = HotKeyEditor;
     using Palette = PaletteEditor;
+    using Builder = HotKeyBuilder;
     static constexpr Outlet own[] = {
         outletRow<&W::activateAtLaunch_>("activateAtLaunch"),
         outletRow<&W::palette_, &Palette::addButtonBtn>("addButtonBtn"),
@@ -82,6 +83,12 @@ std::span<const Outlet> PreferenceWrangler::outlets() const {
         outletRow<&W::hotKeys_, &Keys::cancelEditBtn>("cancelEditBtn"),
         outletRow<&W::hotKeys_, &Keys::defaultKeyBtn>("defaultKeyBtn"),
         outletRow<&W::hotKeys_, &Keys::noKeyBtn>("noKeyBtn"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderTitle>("builderTitle"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderCommand>("builderCommand"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderControl>("builderControl"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderShift>("builderShift"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderOption>("builderOption"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderKey>("builderKey"),
     };
     static const auto table = withSettings<Outlet>(own);
     return table;
@@ -105,6 +112,10 @@ std::span<const Action> PreferenceWrangler::actions() const {
         actionRow<&W::captureHotKey>("captureHotKey:"),
         actionRow<&W::removeHotKey>("removeHotKey:"),
         actionRow<&W::resetHotKey>("resetHotKey:"),
+        actionRow<&W::chooseHotKey>("chooseHotKey:"),
+        actionRow<&W::claimHotKey>("claimHotKey:"),
+        actionRow<&W::restoreHotKey>("restoreHotKey:"),
+        actionRow<&W::buildHotKey>("buildHotKey:"),
         actionRow<&W::addPaletteBtn>("addPaletteBtn:"),
         actionRow<&W::setPaletteBtnAction>("setPaletteBtnAction:"),
         actionRow<&W::removePaletteButton>("removePaletteButton:"),

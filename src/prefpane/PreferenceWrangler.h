@@ -100,6 +100,14 @@ public:
 
     void resetHotKey(NSMenuItem* sender) { hotKeys_.resetHotKey(*sender); }
 
+    void chooseHotKey(NSMenuItem* sender) { hotKeys_.chooseHotKey(*sender); }
+
+    void claimHotKey(NSMenuItem* sender) { hotKeys_.claimHotKey(*sender); }
+
+    void restoreHotKey(NSMenuItem* sender) { hotKeys_.restoreHotKey(*sender); }
+
+    void buildHotKey(NSMenuItem* sender) { hotKeys_.builder.take(*sender); }
+
     void setTargetHotKey(HotKeyView* view) override { hotKeys_.setTargetHotKey(view); }
 
     // PreferenceWranglerLaunch.cpp: launching at login

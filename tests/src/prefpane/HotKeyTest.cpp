@@ -1,3 +1,4 @@
+#include "platform/AppKit/detail/PopUpButtonWidget.h"
 #include "platform/AppKit/detail/ViewWidget.h"
 #include "src/prefpane/HotKeyView.h"
 #include "src/prefpane/PreferenceWrangler.h"
@@ -50,6 +51,10 @@ protected:
         constexpr std::size_t kPlace = offsetof(PrefsRecord, hotKeys) + sizeof(HotKey);
         EXPECT_EQ(recordField<UInt32>(event, kPlace), keyCode);
         EXPECT_EQ(recordField<UInt32>(event, kPlace + 4), modifiers);
+    }
+
+    PopUpButtonWidget& popUp(const char* name) {
+        return static_cast<PopUpButtonWidget&>(*find<QPushButton>(name));
     }
 
     /// Which of the two groups is attached; both or none is a fault.
@@ -132,6 +137,32 @@ TEST_F(HotKeyTest, MovingAwayStoresNothing) {
     pane_->willSelect(); // loads anew
     EXPECT_FALSE(showsEditingGroup());
     EXPECT_EQ(agentLog_.nextName(), "PPop");
+    EXPECT_THAT(remainingMasks(), testing::IsEmpty());
+}
+
+TEST_F(HotKeyTest, AHotKeyIsBuiltWithoutAKeyAndATwiceUsedOneIsUsedOnce) {
+    openWithAgent();
+    const auto choose = [this](const char* menu, const char* title) {
+        popUp(menu).onChosen(title);
+    };
+    choose("scanKeyBtn", "Choose keys…");
+    EXPECT_TRUE(find("builderCommand")->hasFocus());
+    click("builderControl"); // besides command, which the hot key has already
+    choose("builderKey", "esc");
+    expectChange(0x1100, 0x35);
+    click("builderCommand"), click("builderControl");
+    choose("builderKey", "esc"); // as “Cancel scan”
+    expectChange(0, 0x35);
+    EXPECT_TRUE(find<QLabel>("cancelScanKeyNote")->text().contains("“Scan”"));
+    choose("scanKeyBtn", "Put back what was here");
+    expectChange(0x1100, 0x35);
+    choose("builderKey", "esc");
+    expectChange(0, 0x35);
+    choose("scanKeyBtn", "Use it here and remove it there");
+    EXPECT_EQ(shown("cancelScanKey"), "-none-");
+    EXPECT_EQ(shown("scanKey"), "esc");
+    EXPECT_FALSE(popUp("scanKeyBtn").entries().back().enabled) << "there is nothing to settle";
+    expectChange(0, 0x35);
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
 }
 

@@ -180,7 +180,7 @@ TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityActi
     const QRegularExpression others(
         "^(helpBtn|findMySpeed|undoBtn|redoBtn|sections.*|.*Grid|.*Label|scanAreaBtn|lineColor|"
         "paletteView|sampleScanImage|"
-        "(add|swapWith|setAction|remove)(Button)?Btn|.*KeyBtn|.*Key2Btn)$");
+        "(add|swapWith|setAction|remove)(Button)?Btn|.*KeyBtn|.*Key2Btn|builder.*)$");
     prefs.scanArea = {0, 0, 640, 480};
     prefs.minTriggerDuration = prefs.afterClickDelay = 4; // none comes to a limit
     prefs.preScanDelay = prefs.inverseReleaseTime = 6;
