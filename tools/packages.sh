@@ -15,6 +15,9 @@ tour_packages=(
     at-spi2-core python3-gi python3-pil gir1.2-atspi-2.0
 )
 check_packages=(git clang-format-14 clang-tidy-14 libbenchmark-dev)
+deb_packages=(git debhelper dpkg-dev)
+# A clean system to install it into, and what looks it over.
+deb_check_packages=(lintian mmdebstrap)
 
 # install_packages NAME... as root, or through sudo
 install_packages() {
