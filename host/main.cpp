@@ -7,6 +7,7 @@
 #include "platform/CoreServices/Processes.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QTimer>
 
 #include <clocale>
@@ -111,6 +112,8 @@ int run(const Arguments& arguments, int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("korvex-preferences"));
     QApplication::setDesktopFileName(QStringLiteral("org.korvex.Preferences"));
+    // For window managers that don't look into desktop entries.
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.korvex.Preferences")));
     if (arguments.task != Arguments::Task::Check) {
         Appearance::follow();
         return show(arguments, activation);
