@@ -6,6 +6,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QProxyStyle>
 
 namespace {
 
@@ -77,6 +78,16 @@ bool serverScalesText() {
     return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
+/// Adwaita's styles draw each control in colours of their own: with another palette its text could
+/// not be read.
+bool styleTakesPalette() {
+    const QStyle* style = QApplication::style();
+    if (const auto* proxy = qobject_cast<const QProxyStyle*>(style))
+        style = proxy->baseStyle();
+    return !style->name().startsWith(QLatin1String("adwaita"), Qt::CaseInsensitive) &&
+           !style->name().startsWith(QLatin1String("highcontrast"), Qt::CaseInsensitive);
+}
+
 } // namespace
 
 void Appearance::follow() {
@@ -133,8 +144,10 @@ void Appearance::apply() {
     if (look_ == applied_)
         return;
     applied_ = look_;
-    QApplication::setPalette(QPalette()); // the theme's, as it is by now
-    QApplication::setPalette(desktopPalette(look_, QApplication::palette()));
+    if (styleTakesPalette()) {
+        QApplication::setPalette(QPalette()); // the theme's, as it is by now
+        QApplication::setPalette(desktopPalette(look_, QApplication::palette()));
+    }
     if (!serverScalesText() && themeFont_.pointSizeF() > 0) {
         QFont font = themeFont_;
         font.setPointSizeF(font.pointSizeF() * look_.textScale);
