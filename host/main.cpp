@@ -1,5 +1,6 @@
 #include "host/Appearance.h"
 #include "host/Arguments.h"
+#include "host/BusProbe.h"
 #include "host/Command.h"
 #include "host/PaneHost.h"
 #include "host/SingleInstance.h"
@@ -103,6 +104,7 @@ int run(const Arguments& arguments, int argc, char** argv) {
         return kFailed;
     }
     const QVariantMap activation = activationData();
+    leaveOutHangingBus();
     if (!isChosen)
         qputenv(kPlatformVariable, platform);
     QApplication application(argc, argv);

@@ -9,6 +9,10 @@
 #include <QProcess>
 #include <gmock/gmock.h>
 
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
 namespace fs = std::filesystem;
 
 using testing::AllOf;
@@ -107,22 +111,30 @@ TEST_F(HostLifeTest, ASecondStartAsksTheFirstToComeForward) {
     }
 }
 
-TEST_F(HostLifeTest, OpensWithoutABusToo) {
+TEST_F(HostLifeTest, OpensWithoutABusTooAndWithOneThatHangs) {
+    sockaddr_un place{AF_UNIX, "hangs"}; // in the current folder
+    fs::current_path(makeSandboxFolder("bus"));
+    const int hanging = socket(AF_UNIX, SOCK_STREAM, 0);
+    ASSERT_EQ(bind(hanging, reinterpret_cast<sockaddr*>(&place), sizeof place), 0);
+    ASSERT_EQ(listen(hanging, 10), 0);
     auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
-                       QStringLiteral("unix:path=/none"));
-    host_.setProcessEnvironment(environment);
-    start();
-    // The agent, which is launched when the pane opens, says so and ends.
-    QByteArray said;
-    const auto listen = [&] {
-        said += host_.readAllStandardError();
-        return said.contains("korvex-agent: there is no session bus");
-    };
-    EXPECT_TRUE(QTest::qWaitFor(listen, 20'000)) << said.toStdString();
-    host_.terminate();
-    EXPECT_EQ(waitForEnd(), 0);
-    EXPECT_FALSE(fs::exists(storedFile()));
+    for (const char* path : {"/none", "hangs"}) {
+        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                           QStringLiteral("unix:path=") + path);
+        host_.setProcessEnvironment(environment);
+        start();
+        // The agent, which is launched when the pane opens, says so and ends.
+        QByteArray said;
+        const auto listen = [&] {
+            said += host_.readAllStandardError();
+            return said.contains("korvex-agent: there is no session bus");
+        };
+        EXPECT_TRUE(QTest::qWaitFor(listen, 20'000)) << said.toStdString();
+        host_.terminate();
+        EXPECT_EQ(waitForEnd(), 0);
+        EXPECT_FALSE(fs::exists(storedFile()));
+    }
+    close(hanging);
 }
 
 } // namespace
