@@ -52,6 +52,10 @@ void SwitchCell::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Down:
         step = 1;
         break;
+    case Qt::Key_Return: // with Alt, where Alt with Space is the window manager's
+    case Qt::Key_Enter:
+        click();
+        return;
     default:
         QRadioButton::keyPressEvent(event);
         return;

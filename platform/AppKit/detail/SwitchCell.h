@@ -3,7 +3,7 @@
 #include <QRadioButton>
 
 /// One side of a switch: radio buttons that stand side by side and are drawn as one control. The
-/// arrow keys go to the other side without choosing it; Space chooses.
+/// arrow keys go to the other side without choosing it; Space or Return chooses.
 class SwitchCell final : public QRadioButton {
 public:
     using QRadioButton::QRadioButton;
