@@ -19,11 +19,18 @@ void recoveryForget() {
 
 SettingSet recoveryTakeOver(PrefsRecord& record) {
     const PrefsRecord before = record;
-    for (const std::string& path : findLeftStateFiles(kFileName)) {
+    for (const std::string& path : findStateFiles(kFileName, StateFileOwner::Gone)) {
         const SettingsOffer offer = readSettingsFile(path, record);
         copySettings(offer.settings, offer.record, record);
         if (offer.error.empty())
             releaseLeftStateFile(path);
     }
     return differences(before, record);
+}
+
+void recoveryLookAt(PrefsRecord& record) {
+    for (const std::string& path : findStateFiles(kFileName, StateFileOwner::Running)) {
+        const SettingsOffer offer = readSettingsFile(path, record);
+        copySettings(offer.settings, offer.record, record);
+    }
 }

@@ -15,3 +15,6 @@ void recoveryForget();
 /// settings that are different now. What can't be read is ignored. Those files stay until
 /// recoveryKeep has written this program's own, or until recoveryForget.
 SettingSet recoveryTakeOver(PrefsRecord& record);
+
+/// Takes what an open window has changed and not saved yet into the record.
+void recoveryLookAt(PrefsRecord& record);

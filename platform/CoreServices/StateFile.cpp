@@ -118,8 +118,8 @@ Writer& writer() {
     return only;
 }
 
-/// Whether the file is one of that name, or the beginning of one, and its process is gone.
-bool isLeft(const fs::path& file, const std::string& name) {
+/// Whether the file is one of that name, or the beginning of one, with such an owner.
+bool belongsTo(StateFileOwner owner, const fs::path& file, const std::string& name) {
     pid_t process = 0;
     unsigned long long start = 0;
     int length = 0;
@@ -127,7 +127,7 @@ bool isLeft(const fs::path& file, const std::string& name) {
     return whole.starts_with(name + '.') &&
            std::sscanf(whole.c_str() + name.size(), ".%d.%llu%n", &process, &start, &length) == 2 &&
            name.size() + static_cast<std::size_t>(length) == whole.size() &&
-           startOf(process) != start;
+           (startOf(process) == start) == (owner == StateFileOwner::Running);
 }
 
 } // namespace
@@ -141,18 +141,18 @@ void removeStateFile() {
     writer().removeAll();
 }
 
-std::vector<std::string> findLeftStateFiles(const std::string& name) {
+std::vector<std::string> findStateFiles(const std::string& name, StateFileOwner owner) {
     std::error_code error;
     std::multimap<fs::file_time_type, std::string> found;
     for (const auto& entry : fs::directory_iterator(stateFolder(), error))
-        if (isLeft(entry.path(), name))
+        if (belongsTo(owner, entry.path(), name))
             found.emplace(entry.last_write_time(error), entry.path());
     std::vector<std::string> paths;
     for (auto& [time, path] : found)
-        if (path.ends_with(".new"))
-            unlink(path.c_str()); // never became one
-        else
+        if (!path.ends_with(".new"))
             paths.push_back(std::move(path));
+        else if (owner == StateFileOwner::Gone)
+            unlink(path.c_str()); // never became one
     return paths;
 }
 

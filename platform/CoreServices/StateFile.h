@@ -16,8 +16,11 @@ void keepStateFile(const std::string& name, std::string content);
 /// Removes this process's file, and the left ones that were released.
 void removeStateFile();
 
-/// The paths of the files of that name whose processes are gone, the oldest first.
-std::vector<std::string> findLeftStateFiles(const std::string& name);
+/// What became of the process that a state file belongs to.
+enum class StateFileOwner { Gone, Running };
+
+/// The paths of the files of that name with such an owner, the oldest first.
+std::vector<std::string> findStateFiles(const std::string& name, StateFileOwner owner);
 
 /// Removes the left file once this process's own is on disk.
 void releaseLeftStateFile(std::string path);

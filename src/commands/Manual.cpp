@@ -40,20 +40,15 @@ std::string words(std::string_view separator) {
 } // namespace
 
 int runManual(const CommandLine&) {
-    std::puts(".TH KORVEX\\-PREFERENCES 1\n.SH NAME\nkorvex\\-preferences \\- the settings of "
-              "Korvex, in a window or by command\n.SH SYNOPSIS\n.B korvex\\-preferences\n"
-              "[\\fICOMMAND\\fR [\\fB\\-\\-json\\fR] [\\fB\\-\\-yes\\fR] \\fIoperands\\fR]\n"
-              ".SH DESCRIPTION\nWithout a command it opens the settings window. A command needs no "
-              "display. It goes through the open window if there is one; else what it changes is "
-              "stored, and sent to the running agent.\n.SH COMMANDS");
+    std::puts(
+        ".SH COMMANDS\nNone needs a display. A change goes through the open window if there is "
+        "one; else it is stored, and sent to the running agent.");
     for (const Command& command : commands())
         printItem(std::string(command.name) + " " + command.operands, command.does);
-    std::puts(".SH SETTINGS");
+    std::puts(".PP\nWith\n.B \\-\\-json\nthe answers are for programs;\n.B \\-\\-yes\n"
+              "doesn't ask.\n.SH SETTINGS");
     for (const Setting& setting : kSettings)
         printItem(setting.key, describe(setting));
-    std::puts(".SH EXIT STATUS\n0 when it is done, 1 when it can't be, 2 for a wrong command.\n"
-              ".SH FILES\n.TP\n.I ~/.config/Preferences/org.korvex.Agent.plist\nthe settings\n"
-              ".TP\n.I ~/.local/share/korvex/profiles\nthe profiles");
     return kCommandDone;
 }
 

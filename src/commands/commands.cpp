@@ -19,7 +19,7 @@ constexpr Command kCommands[] = {
     {"profile", "list|use|save|rename|delete [NAME…]",
      "Lists and uses named states of the settings.", runProfile, 1, 3},
     {"completion", "", "Prints the completion for bash.", runCompletion, 0, 0},
-    {"manual", "", "Prints the manual page.", runManual, 0, 0},
+    {"manual", "", "Prints the manual page's part on commands and settings.", runManual, 0, 0},
 };
 
 int printHelp() {

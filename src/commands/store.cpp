@@ -4,6 +4,7 @@
 #include "src/login/launch.h"
 #include "src/openwindow.h"
 #include "src/prefpane/Daemon.h"
+#include "src/recovery.h"
 
 #include <cstring>
 
@@ -29,7 +30,9 @@ void updateLoginItem() {
 
 PrefsRecord currentSettings() {
     prefsSetup();
-    return prefs;
+    PrefsRecord record = prefs;
+    recoveryLookAt(record);
+    return record;
 }
 
 std::string changeSettings(const SettingSet& settings, const PrefsRecord& record) {

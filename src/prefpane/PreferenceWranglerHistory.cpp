@@ -98,7 +98,7 @@ NSView* PreferenceWrangler::viewOf(std::size_t row) const {
         {offsetof(PrefsRecord, scanMode), scanModeRadios_},
         {offsetof(PrefsRecord, scanArea), scanAreaText_},
         {offsetof(PrefsRecord, useScanArea), useScanAreaRadios_},
-        {offsetof(PrefsRecord, lineColor), lineColor_},
+        {offsetof(PrefsRecord, lineColor), lineColors_.lineColor},
         {offsetof(PrefsRecord, pointerImageName), pointers_.pointerName},
         {offsetof(PrefsRecord, hotKeys), hotKeys_.scan.view},
         {offsetof(PrefsRecord, buttonSize), palette_.buttonShapeRadios},

@@ -73,6 +73,7 @@ def with_an_open_window():
         run("profile", "use", "Tired")
         run("set", "soundLevel", "78", "palette.borderGap", "9")
         wait_for(lambda: 0x18 in changes())
+        wait_for(lambda: run("get", "soundLevel") == "78\n")  # though it isn't stored yet
         window.terminate()
         assert window.wait(10) == 0
         assert before != run("get", "soundLevel") == "78\n"
