@@ -78,6 +78,8 @@ void NumberRow::build() {
     controls->addWidget(makeButton("IncBtn", "incBtn", "incValue:", "+", named("more", ", ")));
     controls->addWidget(
         makeButton("PageIncBtn", "pageIncBtn", "incPage:", "++", named("more", ", much ")));
+    if (!hasSlider)
+        controls->addStretch();
     auto* field = make<ValueField>("Label", "label", "typedValue:");
     field->setExplanation(text.explanation);
     controls->addWidget(field);

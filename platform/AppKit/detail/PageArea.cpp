@@ -1,8 +1,15 @@
 #include "platform/AppKit/detail/PageArea.h"
 
+#include <QApplication>
 #include <QScrollBar>
 
 #include <algorithm>
+
+namespace {
+
+constexpr int kAround = 30; // points that stay in sight above and below
+
+} // namespace
 
 PageArea::PageArea(QWidget* parent) : QScrollArea(parent) {
     setFrameShape(QFrame::NoFrame);
@@ -10,6 +17,10 @@ PageArea::PageArea(QWidget* parent) : QScrollArea(parent) {
     setWidgetResizable(true);
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now && isAncestorOf(now))
+            ensureWidgetVisible(now, 0, kAround);
+    });
 }
 
 QSize PageArea::sizeHint() const {

@@ -59,8 +59,9 @@ void SectionBar::paintEvent(QPaintEvent*) {
             painter.setBrush(colors.chosen);
             painter.drawRoundedRect(row, panestyle::kRadius, panestyle::kRadius);
             painter.setBrush(colors.accent);
-            painter.drawRoundedRect(QRectF(row.x(), row.y(), kStripe, row.height()), kStripe / 2.0,
-                                    kStripe / 2.0);
+            if (!hasFocus()) // or it has the ring
+                painter.drawRoundedRect(QRectF(row.x(), row.y(), kStripe, row.height()),
+                                        kStripe / 2.0, kStripe / 2.0);
         }
         const QRectF icon(row.x() + kSide, row.center().y() - kIcon / 2, kIcon, kIcon);
         drawSectionIcon(painter, tabData(index).toString(), icon, colors.text);
