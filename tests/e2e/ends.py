@@ -22,7 +22,7 @@ from tests.e2e.startup import DATE, NEVER, NOTICE
 from tests.e2e.tour import PROGRAM, Tour, make_room
 from tests.e2e.waiting import Failure, check, until
 
-TABS = "Scanning|Triggers|Appearance|Palette|Hot Keys|Sound|Startup"
+TABS = "Scanning|Presses|Look|Palette|General"
 SANITIZER_FOUND = 99  # the exit status
 
 
@@ -35,7 +35,7 @@ def show_notice(tour: Tour) -> None:
 
 
 def capture(tour: Tour) -> None:
-    tour.choose_tab("Hot Keys")
+    tour.choose_tab("Presses")
     hotkeys.begin(tour, "Scan")
 
 

@@ -5,16 +5,15 @@ import plistlib
 from tests.e2e.screen import press
 from tests.e2e.waiting import PATIENCE, check, until
 
-SOUNDS = 16  # the group of settings
+NO_GROUP = 0  # of settings
 
 
 def fail_to_save(tour) -> str:
     """Close the pane when its folder is read-only, then try again"""
     tour.start()
     tour.log.expect("PPop")
-    tour.choose_tab("Sound")
-    tour.screen.click("Volume, louder", "push button")
-    tour.log.expect_change(SOUNDS, "soundLevel", 52)
+    tour.screen.click("Scan the menu bar too", "check box")
+    tour.log.expect_change(NO_GROUP, "canScanMenuBar", 1)
     folder = tour.stored.parent
     folder.chmod(0o500)
     press("key", "alt+F4")
@@ -25,6 +24,6 @@ def fail_to_save(tour) -> str:
     tour.screen.click("Try again", "push button")
     tour.log.expect("PPcl")
     check(tour.program.wait(PATIENCE) == 0, "the program failed")
-    stored = plistlib.loads(tour.stored.read_bytes())["soundLevel"]
-    check(stored == "0x00000034", f"{stored} is stored")
+    stored = plistlib.loads(tour.stored.read_bytes())["scanner.canScanMenuBar"]
+    check(stored == "yes", f"{stored} is stored")
     return "the window stayed and said why; then it saved and closed"
