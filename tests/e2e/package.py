@@ -13,7 +13,6 @@ from pathlib import Path
 
 from tests.e2e.desktop import Desktop, exit_on_signals
 from tests.e2e.screen import Screen, press
-from tests.e2e.stored import stored_file
 from tests.e2e.waiting import PATIENCE, check, until
 
 PROGRAM = "korvex-preferences"
@@ -72,7 +71,7 @@ def main(arguments: list[str]) -> None:
         bind(desktop.folder, root, undo)
         open_and_change(desktop, root, out)
         remove(root)
-        stored = plistlib.loads(stored_file(desktop.config).read_bytes())
+        stored = plistlib.loads((desktop.config / "Preferences/org.korvex.Agent.plist").read_bytes())
         check(stored["scanner.lineScanTime"] == "10.500000", "the user's settings are gone")
         autostart = desktop.config / "autostart"
         check(not autostart.exists(), "without an agent, something starts at login")

@@ -17,7 +17,6 @@ from pathlib import Path
 
 from tests.e2e.desktop import Desktop, exit_on_signals
 from tests.e2e.startup import DATE
-from tests.e2e.stored import FACTORY, stored_file
 from tests.e2e.tour import PROGRAM, SCAN_SPEED, Tour, make_room
 from tests.e2e.waiting import Failure, check, until
 
@@ -86,9 +85,9 @@ class Switch:
 
 
 def store_settings(desktop: Desktop) -> None:
-    file = stored_file(desktop.config)
+    file = desktop.config / "Preferences/org.korvex.Agent.plist"
     file.parent.mkdir(parents=True)
-    file.write_bytes(plistlib.dumps(FACTORY | {
+    file.write_bytes(plistlib.dumps({
         "scanner.lineScanTime": f"{SCAN_TIME:f}",
         "scanner.preScanDelay": "0.000000",
         "scanner.useScanAcceleration": "no",

@@ -18,7 +18,8 @@ PageArea::PageArea(QWidget* parent) : QScrollArea(parent) {
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        if (now && isAncestorOf(now))
+        // A control that moves away under a press would not be clicked.
+        if (now && isAncestorOf(now) && QGuiApplication::mouseButtons() == Qt::NoButton)
             ensureWidgetVisible(now, 0, kAround);
     });
 }
