@@ -117,6 +117,7 @@ int main(int argc, char** argv) {
     addOverlayFigures();
     addPaletteFigures();
     addPreviewFigures();
+    addTryFigures();
     addStartFigures();
     addLaunchFigures();
     benchmark::Initialize(&argc, argv);

@@ -33,6 +33,7 @@ void addHotKeyFigures();
 void addOverlayFigures();
 void addPaletteFigures();
 void addPreviewFigures();
+void addTryFigures();
 void addStartFigures();
 void addLaunchFigures();
 

@@ -133,6 +133,8 @@ void TryPage::showPhase() {
     tryView_->setSaying(text);
 }
 
+// The keyboard stays at the picture, where presses do nothing now: one press too many takes no
+// advice.
 void TryPage::showResult() {
     tryout::Measured measured = session_->measured();
     measured.earlierOffsets = earlierOffsets_;
@@ -148,7 +150,6 @@ void TryPage::showResult() {
     takeBtn_->setHidden(!isOffered);
     takeBtn_->setTitle(withSeconds("Try it at %.1f", advised_));
     keepBtn_->setTitle(withSeconds("Keep %.1f", conditions_.sweep.time));
-    window_.makeFirstResponder(isOffered ? takeBtn_ : againBtn_);
 
     for (const tryout::Trial& trial : measured.trials)
         if (trial.pressed && advice.verdict != tryout::Verdict::Random)

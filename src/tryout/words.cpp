@@ -80,7 +80,7 @@ std::string tryAgainText(const Advice& advice, const Conditions& tried) {
 }
 
 std::string outOfReachText(const Advice& advice, const Conditions& tried) {
-    return format("Even at %.0f seconds, the slowest, we can't expect 3 in 4. Targets %.0f mm wide "
+    return format("Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f mm wide "
                   "would make it so, or a scan area only %.0f mm across.",
                   tried.times.max, std::ceil(advice.neededTarget), std::floor(advice.neededTravel));
 }
@@ -143,7 +143,7 @@ std::string resultText(const Advice& advice, const Conditions& tried, const Meas
     case Verdict::Unsteady:
         return unsteadyText(advice, measured);
     case Verdict::Random:
-        return "The presses came at other moments than the marks, so we can't suggest a speed. "
+        return "The presses came at other moments than the marks, so we can’t suggest a speed. "
                "Wait for the line to reach the mark, then press.";
     case Verdict::Tired:
         return hits + "The presses became less even from sweep to sweep. Have a rest, then try "

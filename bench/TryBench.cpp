@@ -1,0 +1,64 @@
+// A frame of the line that sweeps on the page “Find my speed”, against the same strip straight
+// through Qt. Whether frames come in time is watched from outside: tests/e2e/tryout.py.
+
+#include "bench/Figures.h"
+#include "platform/AppKit/detail/ViewWidget.h"
+#include "platform/HIToolbox/EventTimers.h"
+#include "src/prefs.h"
+#include "src/tryout/TryView.h"
+
+#include <QImage>
+#include <QPainter>
+
+namespace {
+
+constexpr QSize kViewSize(1880, 900); // on the whole of a common screen
+constexpr QRect kStrip(0, 440, 1880, 24);
+constexpr int kFrames = 4;
+
+double secondsAFrame(ViewWidget& widget, void (*drawMore)(QPainter& painter)) {
+    widget.resize(kViewSize);
+    QImage image(kViewSize, QImage::Format_ARGB32_Premultiplied);
+    return secondsOf([&] {
+               for (int i = 0; i < kFrames; ++i) {
+                   widget.render(&image, kStrip.topLeft(), kStrip);
+                   QPainter painter(&image);
+                   painter.setClipRect(kStrip);
+                   drawMore(painter);
+               }
+           }) /
+           kFrames;
+}
+
+double frame() {
+    static ViewWidget& widget = *new ViewWidget(nullptr);
+    static TryView& view = *new TryView;
+    prefs = PrefsRecord{};
+    const double now = GetCurrentEventTime();
+    tryout::Session session({.travel = 240, .time = 10}, 10, 0, {}, 1);
+    session.press(now - 5);
+    session.release(now - 5);
+    session.advance(now);
+    view.attachWidget(&widget);
+    view.setSession(&session);
+    return secondsAFrame(widget, [](QPainter&) {});
+}
+
+double bareFrame() {
+    static ViewWidget& widget = *new ViewWidget(nullptr);
+    static NSView& view = *new NSView;
+    view.attachWidget(&widget);
+    return secondsAFrame(widget, [](QPainter& painter) {
+        painter.fillRect(QRect(QPoint(), kViewSize), Qt::white);
+        painter.fillRect(0, 300, kViewSize.width(), 37, QColor(50, 140, 200, 51));
+        painter.fillRect(0, 447, kViewSize.width(), 7, QColor(100, 0, 0, 242));
+        painter.setPen(Qt::blue);
+        painter.drawRect(0, 0, kViewSize.width() - 1, kViewSize.height() - 1);
+    });
+}
+
+} // namespace
+
+void addTryFigures() {
+    addFigure("a frame of the line that sweeps", {Limit::Times, 1.5}, frame, bareFrame);
+}
