@@ -15,7 +15,7 @@ namespace {
 using namespace panestyle;
 
 constexpr qreal kGroove = 4;
-constexpr int kPadding = 12; ///< of a button with a text, besides the style's
+constexpr int kPadding = 32; ///< of a button, both sides of its text together
 constexpr qreal kCardRadius = 10;
 constexpr int kHeadingGap = 8; ///< between a group's heading and its card
 
@@ -213,7 +213,7 @@ QSize PaneStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     const QSize own = QProxyStyle::sizeFromContents(type, option, size, widget);
     switch (type) {
     case CT_PushButton:
-        return (own + QSize(kPadding, 0)).expandedTo({kTarget, kTarget});
+        return (size + QSize(kPadding, kPadding / 2)).expandedTo({kTarget, kTarget});
     case CT_ToolButton:
         return own.expandedTo({kTarget, kTarget});
     case CT_LineEdit:

@@ -19,6 +19,8 @@ constexpr int kListMargin = 10; // points, as the margins of a page
 constexpr int kPageSide = 28;
 constexpr int kPageAbove = 18;
 constexpr int kNarrowPageSide = 10;
+constexpr QMargins kWideHeader(20, 12, 20, 12);
+constexpr QMargins kNarrowHeader(10, 8, 10, 8);
 constexpr int kNarrow = 50; // in heights of a line: in a window below that width,
 constexpr int kLow = 28;    // or height, there is a button instead of the list
 constexpr int kMostNumbered = 9;
@@ -131,12 +133,34 @@ void SectionFrame::setNarrow(bool narrow) {
         narrow ? button_->setFocus() : bar_->setFocus();
     const int side = narrow ? 0 : kListMargin;
     layout()->itemAt(0)->layout()->setContentsMargins(side, side, side, side);
+    if (button_)
+        fitHeader();
     const int aside = narrow ? kNarrowPageSide : kPageSide;
     const int above = narrow ? kNarrowPageSide : kPageAbove;
     for (auto* part : pages_->findChildren<QWidget*>())
         if (part->property("pagePart").toBool())
             part->layout()->setContentsMargins(aside, above, aside, above);
     update();
+}
+
+/// Makes what stands beside the sections' button as small as the window asks for.
+void SectionFrame::fitHeader() {
+    QWidget* header = button_->parentWidget();
+    const QMargins margins = isNarrow_ ? kNarrowHeader : kWideHeader;
+    header->layout()->setContentsMargins(margins);
+    header->layout()->setSpacing(margins.top());
+    for (auto* button : header->findChildren<QAbstractButton*>()) {
+        const QVariant brief = button->property("shortText");
+        if (!brief.isValid())
+            continue;
+        if (!button->property("longText").isValid())
+            button->setProperty("longText", button->text());
+        const QString full = button->property("longText").toString();
+        if (button->accessibleName().isEmpty())
+            button->setAccessibleName(withoutMnemonic(full));
+        button->setText(isNarrow_ ? brief.toString() : full);
+        button->setShortcut(QKeySequence::mnemonic(full));
+    }
 }
 
 void SectionFrame::setLow(bool low) {

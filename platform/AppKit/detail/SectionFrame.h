@@ -16,6 +16,8 @@ class SectionBar;
 /// put the button that the property `menuButton` names. Widgets of the window whose property
 /// `wideOnly` is true vanish with the list. In a low window the rows go without their explanations.
 ///
+/// Beside that button, buttons with the property `shortText` wear it then instead of their text.
+///
 /// From anywhere in the window Ctrl+Tab, Ctrl+Shift+Tab, Ctrl+Page Up and Page Down go to the
 /// neighbouring section, Alt+1 to Alt+9 to the one in that place, and Alt with its letter to the
 /// first control in it.
@@ -39,6 +41,7 @@ private:
     void showCurrent();
     void fitWindow();
     void setNarrow(bool narrow);
+    void fitHeader();
     void setLow(bool low);
 
     QStackedWidget* pages_ = nullptr;
