@@ -64,16 +64,16 @@ def draw_everywhere(tour: Tour, setup: Setup) -> None:
     corners = [(2, 2), (SIZE[0] - 3, 2), (2, SIZE[1] - 3), (SIZE[0] - 3, SIZE[1] - 3)]
     overlay.expect({corner: NOTHING for corner in corners})
     drag((1500, 700), (800, 400), (100, 100))
-    overlay.expect({(120, 120): DRAGGED, (1480, 680): DRAGGED, (20, 20): NOTHING})
+    overlay.expect({(120, 120): DRAGGED, (900, 680): DRAGGED, (20, 20): NOTHING})
     tour.picture("dragging")
     let_go()
-    overlay.expect({(120, 120): CURRENT, (1480, 680): CURRENT, (1550, 750): NOTHING})
+    overlay.expect({(120, 120): CURRENT, (900, 680): CURRENT, (900, 750): NOTHING})
     overlay.close("Return")
     expect_area(tour, setup.area)
 
     overlay = Overlay(tour, setup.prompt)
     drag((4, 4), (24, 24))
-    overlay.expect({(14, 14): DRAGGED, (1480, 680): PALE_CURRENT})
+    overlay.expect({(14, 14): DRAGGED, (900, 680): PALE_CURRENT})
     overlay.close("Escape")
     let_go()
 
