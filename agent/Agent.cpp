@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "agent/Agent.h"
 
 #include "platform/CoreFoundation/CFPreferences.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Draws the agent's resources into its bundle: the action list, the icons and the pointers.
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "agent/UnixSignals.h"
 
 #include <csignal>

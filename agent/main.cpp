@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The stand-in agent: a program of its own that takes the pane's events and logs them.
 //
 // KORVEX_AGENT_LOG names the file that gets a JSON object for each event; without it they go to

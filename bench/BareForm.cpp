@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The least program that loads and shows a form.
 
 #include <QApplication>

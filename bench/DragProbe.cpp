@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Opens the pane beside its real agent, drags the scan line's transparency for ten seconds at 120
 // changes a second, and prints the most main-thread time in seconds that a change took together
 // with what was drawn for it. Fails when the agent didn't receive every change, in order.

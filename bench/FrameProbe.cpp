@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A plug-in that any Qt program loads when it is told to: it reports when the program's first frame
 // is out, and how much memory is resident then, to the file descriptor KORVEX_FRAME_PROBE.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A capture of a hot key in the real form, against the sending of the change alone.
 
 #include "bench/Figures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Keeping the login items in line with the setting, in folders that are full of other programs'
 // entries.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A change on its way to the agent, against bare D-Bus calls.
 
 #include "bench/Figures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Receives changes as an agent does, and bare calls as any D-Bus program does.
 
 #include "bench/LinkPeer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Frames of the scan-area chooser over two displays of 3840 x 2160, with an area as large as one of
 // them, against clearing and filling the same areas through a bare painter on the same picture.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One redraw of the palette's editor, against the same nine buttons, icons and texts drawn straight
 // through Qt; and what the icons and titles cost on the first visit of its tab.
 

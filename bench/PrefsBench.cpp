@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Loading and storing the settings, against the bare work on a file of the same bytes.
 
 #include "bench/Figures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One redraw of the preview, against decoding its pointer and drawing the same shapes straight
 // through Qt; and the longest frame while a transparency is dragged.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A frame of the line that sweeps on the page “Find my speed”, against the same strip straight
 // through Qt. Whether frames come in time is watched from outside: tests/e2e/tryout.py.
 

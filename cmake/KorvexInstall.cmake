@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Where things are installed, under any prefix. Two components make the program, `host` and `pane`;
 # the stand-in agent is one apart, which only `cmake --install … --component agent-example` installs,
 # in a place where the pane doesn't look for an agent.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # One INTERFACE target carries the language standard, the warnings and the sanitizers; every target
 # of the project links it privately.
 add_library(korvex_options INTERFACE)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 include(GoogleTest)
 
 # add_korvex_test(NAME SOURCES file... LIBRARIES target... [TIMEOUT seconds])

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// The program's name on the session bus, which its desktop entry has as well, and its object

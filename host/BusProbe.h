@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Goes on without the session bus when it is there but doesn't answer within two seconds: whoever

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/Command.h"
 
 #include "host/Arguments.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Passes a command, such as "get" and its operands, on to the pane's library: no window is made

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/DesktopApplication.h"
 
 #include "host/ApplicationName.h"

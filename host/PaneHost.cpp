@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/PaneHost.h"
 
 #include "host/DesktopApplication.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/SingleInstance.h"
 
 #include "host/ApplicationName.h"

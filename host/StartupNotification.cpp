@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/StartupNotification.h"
 
 #include <QGuiApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/Strip.h"
 
 #include "platform/AppKit/UserMessages.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/Troubles.h"
 
 #include "platform/AppKit/UserMessages.h"

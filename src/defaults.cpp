@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/defaults.h"
 
 #include "platform/CoreFoundation/CFPreferences.h"

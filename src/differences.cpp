@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/differences.h"
 
 #include <cstring>

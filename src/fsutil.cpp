@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/fsutil.h"
 
 #include "platform/CoreServices/Files.h"

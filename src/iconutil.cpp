@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/iconutil.h"
 
 #include <unordered_map>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/imageutil.h"
 
 #include "src/fsutil.h"

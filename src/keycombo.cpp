@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/keycombo.h"
 
 #include "platform/HIToolbox/CarbonEvents.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/openwindow.h"
 
 #include "platform/CoreServices/AppleEvents.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefs.h"
 
 #include "platform/CoreFoundation/CFPreferences.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefsforms.h"
 
 #include "platform/CoreFoundation/StoredValues.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/profiles.h"
 
 #include "platform/CoreFoundation/UserFiles.h"

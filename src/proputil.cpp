@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/proputil.h"
 
 #include "platform/CoreFoundation/CFPropertyList.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/ptrutil.h"
 
 #include "src/imageutil.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/recovery.h"
 
 #include "platform/CoreServices/StateFile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/settingcheck.h"
 
 #include "src/prefpane/palutil.h"

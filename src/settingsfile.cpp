@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/settingsfile.h"
 
 #include "platform/CoreFoundation/CFPropertyList.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/settingwords.h"
 
 #include "src/keycombo.h"

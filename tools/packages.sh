@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Sourced by run, test and .ci/run: installs the Debian 12 packages that are missing. Nothing is
 # asked of the package lists when all is there.
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The palette's actions in the order of their numbers (icon name, title, drawing), and the
 application's own icon.
 

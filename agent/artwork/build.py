@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Draws the agent's resources: the action list, an icon family an action, and the pointers.
 
     build.py --list        prints the files that a build writes, one a line, relative to FOLDER

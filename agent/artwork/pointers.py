@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The pointers that can follow the scan: a name and an SVG document each, in whole pixels.
 
 A name that ends in "+XxY" gives the hot spot, in pixels from the top-left corner; without it the

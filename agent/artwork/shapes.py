@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The vocabulary of the drawings: SVG path data in named styles, rendered over a light halo.
 
 Icons are drawn on a grid of 16 units. An outline is one unit wide and runs along half units, a bold

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: MIT
 """A small agent, written from agent-contract.md alone: it takes part, writes down what the pane
 sends, and on SIGUSR1 flips its on/off state, stores it and reports it.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/Accessibility/AXUIElement.h"
 
 #include "platform/CoreServices/detail/SessionBus.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSButton.h"
 
 #include "platform/AppKit/detail/ToggleAction.h"

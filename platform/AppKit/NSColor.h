@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// A colour in the device's RGB space; components from 0 to 1.

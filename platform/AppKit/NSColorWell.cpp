@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSColorWell.h"
 
 #include "platform/AppKit/detail/ColorWellButton.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSControl.h"
 
 #include "platform/AppKit/detail/KeyboardFocus.h"

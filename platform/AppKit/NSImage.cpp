@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSImage.h"
 
 #include "platform/IconServices/detail/IconImages.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSNib.h"
 
 #include "platform/AppKit/detail/FormLoader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSObject.h"
 
 SEL NSObject::selector(std::string_view name) const {

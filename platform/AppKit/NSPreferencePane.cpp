@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSPreferencePane.h"
 
 bool NSPreferencePane::loadMainView(std::vector<std::string>& errors) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSSlider.h"
 
 #include "platform/AppKit/detail/SliderWidget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSStringDrawing.h"
 
 #include "platform/QuickDraw/detail/GrafPort.h"

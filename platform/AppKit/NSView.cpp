@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSView.h"
 
 #include "platform/AppKit/NSEvent.h"

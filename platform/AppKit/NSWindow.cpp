@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSWindow.h"
 
 #include "platform/AppKit/NSView.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreFoundation/CFBase.h"
 
 CFTypeID CFGetTypeID(const CFType* object) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreFoundation/CFURLAccess.h"
 
 #include "platform/CoreFoundation/detail/FileLock.h"

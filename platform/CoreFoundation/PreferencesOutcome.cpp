@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreFoundation/PreferencesOutcome.h"
 
 #include "platform/CoreFoundation/detail/PreferencesFiles.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreFoundation/StoredValues.h"
 
 #include "platform/CoreFoundation/CFNumber.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreGraphics/CGGeometry.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreGraphics/CGImage.h"
 
 #include <QImage>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/AppleEvents.h"
 
 #include "platform/CoreServices/detail/AppleEventMessage.h"

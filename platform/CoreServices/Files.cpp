@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/Files.h"
 
 #include <cerrno>

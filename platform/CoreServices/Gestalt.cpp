@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/Gestalt.h"
 
 OSErr Gestalt(OSType selector, SInt32* response) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/LaunchServices.h"
 
 #include "platform/CoreFoundation/CFBundle.h"

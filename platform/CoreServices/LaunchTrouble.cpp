@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/LaunchTrouble.h"
 
 #include "platform/CoreServices/detail/StartedApplications.h"

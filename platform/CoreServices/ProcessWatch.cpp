@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/ProcessWatch.h"
 
 #include "platform/CoreServices/detail/ProcessTable.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/StateFile.h"
 
 #include "platform/CoreFoundation/detail/FileReplacement.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/Appearance.h"
 
 #include "platform/QuickDraw/detail/GrafPort.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/AppleHelp.h"
 
 #include "platform/CoreFoundation/CFBundle.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/CarbonEvents.h"
 
 #include "platform/HIToolbox/detail/OutsideEvents.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/FunctionKeys.h"
 
 #include "platform/CoreFoundation/CFPreferences.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Whether the F-keys of a keyboard whose upper row has special functions act as F-keys without fn,

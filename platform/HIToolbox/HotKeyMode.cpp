@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/HotKeyMode.h"
 
 #include "platform/HIToolbox/detail/HeldKeys.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/KeyCodes.h"
 
 #include <QKeyEvent>

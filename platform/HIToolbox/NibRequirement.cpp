@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/NibRequirement.h"
 
 #include "platform/HIToolbox/detail/FormReader.h"

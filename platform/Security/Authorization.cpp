@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/Security/Authorization.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/AXReq/axreq.h"
 
 #include "platform/Accessibility/AXUIElement.h"

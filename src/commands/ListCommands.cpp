@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/commands/command.h"
 #include "src/commands/json.h"
 #include "src/commands/store.h"

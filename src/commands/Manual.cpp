@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/commands/command.h"
 #include "src/settings.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/commands/store.h"
 
 #include "platform/CoreFoundation/PreferencesOutcome.h"

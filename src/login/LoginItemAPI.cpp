@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/login/LoginItemAPI.h"
 
 #include "platform/CoreFoundation/CFArray.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/login/launch.h"
 
 namespace {

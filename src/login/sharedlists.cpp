@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/login/sharedlists.h"
 
 #include "platform/CoreServices/SharedFileList.h"

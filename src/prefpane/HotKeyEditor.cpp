@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/HotKeyEditor.h"
 
 #include "platform/AppKit/NSButton.h"

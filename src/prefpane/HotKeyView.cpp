@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/HotKeyView.h"
 
 #include "platform/AppKit/ClassRegistry.h"

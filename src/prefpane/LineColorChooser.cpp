@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/LineColorChooser.h"
 
 #include "platform/AppKit/NSColorWell.h"

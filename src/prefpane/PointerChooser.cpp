@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/PointerChooser.h"
 
 #include "platform/AppKit/NSGraphics.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/PreferenceWrangler.h"
 
 #include "platform/AppKit/ClassRegistry.h"

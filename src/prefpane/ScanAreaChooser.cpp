@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/ScanAreaChooser.h"
 
 #include "platform/AppKit/NSColor.h"

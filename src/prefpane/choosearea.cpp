@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/choosearea.h"
 
 #include "platform/CoreGraphics/CGContext.h"

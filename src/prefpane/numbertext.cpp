@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/numbertext.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/palutil.h"
 
 #include "platform/CoreServices/LaunchServices.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/ptrman.h"
 
 #include "src/prefpane/Daemon.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/tryout/TryPage.h"
 
 #include "platform/AppKit/NSButton.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/tryout/TryView.h"
 
 #include "platform/AppKit/ClassRegistry.h"

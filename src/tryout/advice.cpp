@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/tryout/advice.h"
 
 #include "src/tryout/statistics.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/tryout/pasttry.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/tryout/session.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/tryout/tryconditions.h"
 
 #include "src/settings.h"

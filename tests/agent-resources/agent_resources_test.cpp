@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreFoundation/CFPropertyList.h"
 #include "platform/IconServices/detail/IconFamily.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """What the agent says it received."""
 
 import json

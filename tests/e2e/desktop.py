@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """A desktop of its own: a virtual display, a window manager, a session bus, and a fresh home."""
 
 import ctypes

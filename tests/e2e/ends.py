@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Ends visits in the ways that leave no time, and checks that each ends with its change stored.
 
     python3 -m tests.e2e.ends BUILD_DIR OUT_DIR

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Steps of the tour: hot keys, captured from real keys."""
 
 from typing import TYPE_CHECKING

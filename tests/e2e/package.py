@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Installs a package into a clean Debian system, opens the pane there, changes a setting, and removes
 the package again. Wants root's rights.
 

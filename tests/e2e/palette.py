@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Steps of the tour: the palette's buttons."""
 
 from typing import TYPE_CHECKING

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The custom scan area, drawn on the desktop."""
 
 import io

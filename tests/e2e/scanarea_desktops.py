@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """What the scan area's overlay must bear on a desktop of each kind.
 
     python3 -m tests.e2e.scanarea_desktops BUILD_DIR OUT_DIR DESKTOP

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """What a user sees and does: controls found by the names that a screen reader tells, real clicks
 and keys, pictures."""
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Steps of the tour: the notice about assistive access, and starting the agent at login."""
 
 import os

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Drives the built pane on a virtual display, as its user does, and checks what each step does.
 
     python3 -m tests.e2e.tour BUILD_DIR OUT_DIR

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Steps of the tour: what the user is told when something fails."""
 
 import plistlib

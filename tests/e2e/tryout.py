@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """A whole try with a switch whose lateness and spread are known, by the keyboard of the X server.
 
     python3 -m tests.e2e.tryout BUILD_DIR OUT_DIR

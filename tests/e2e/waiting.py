@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Waiting for an effect. Nothing here sleeps for a fixed time: a wait ends with its effect."""
 
 import time

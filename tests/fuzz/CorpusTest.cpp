@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreFoundation/CFPropertyList.h"
 #include "platform/CoreServices/detail/DesktopEntry.h"
 #include "platform/IconServices/detail/IconFamily.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <QProcess>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/AgentTest.h"
 #include "tests/support/SignalProcess.h"
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The commands, against no window and against an open one, in a fresh home on a private bus."""
 
 import json
@@ -81,5 +82,6 @@ def with_an_open_window():
         window.kill()
 
 
+os.chdir(os.path.expanduser("~"))
 without_a_window()
 with_an_open_window()

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/recovery.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 

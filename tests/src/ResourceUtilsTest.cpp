@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/IconServices/detail/IconImages.h"
 #include "src/fsutil.h"
 #include "src/iconutil.h"

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: MIT
 """org.a11y.Bus, as far as it tells whether assistive access is on: off at first. Each line of the
 input, "on" or "off", switches it. A line of output says that it is there."""
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/ContentCover.h"
 
 #include <QEvent>

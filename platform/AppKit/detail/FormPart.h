@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// A widget of a form that stands for a whole row, frame or list: it builds what is always the same

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/NibWiring.h"
 
 #include "platform/AppKit/ClassRegistry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/NumberRow.h"
 
 #include "platform/AppKit/detail/RowLayout.h"

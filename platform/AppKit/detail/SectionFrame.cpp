@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/SectionFrame.h"
 
 #include "platform/AppKit/detail/PaneColors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/SliderWidget.h"
 
 #include "platform/AppKit/detail/ShownText.h"

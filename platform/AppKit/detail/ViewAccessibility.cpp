@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/ViewAccessibility.h"
 
 #include "platform/AppKit/NSAccessibility.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreFoundation/detail/FileReading.h"
 
 #include <cerrno>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreFoundation/detail/PreferencesFiles.h"
 
 #include "platform/CoreFoundation/detail/TextEncoding.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreFoundation/CFPropertyList.h"
 #include "platform/CoreFoundation/detail/CarriedValue.h"
 #include "platform/CoreFoundation/detail/PropertyListXML.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreGraphics/detail/DecodedImage.h"
 
 #include <QBuffer>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/detail/AccessibilitySettings.h"
 
 #include "platform/CoreServices/detail/DetachedProcess.h"

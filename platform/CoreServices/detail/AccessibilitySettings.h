@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Opens the accessibility settings of the desktop that XDG_CURRENT_DESKTOP names: GNOME, KDE,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/detail/AppleEventObject.h"
 
 #include "platform/CoreServices/detail/AppleEventHandlers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Receives events at /org/korvex/AppleEvents from now on and gives them to their handlers. False

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/detail/AutostartEntry.h"
 
 #include "platform/CoreServices/detail/DesktopEntry.h"

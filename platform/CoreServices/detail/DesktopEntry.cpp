@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/detail/DesktopEntry.h"
 
 #include "platform/CoreFoundation/detail/FileReading.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/detail/InstalledApplications.h"
 
 #include "platform/CoreFoundation/CFPropertyList.h"

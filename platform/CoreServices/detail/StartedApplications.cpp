@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/detail/StartedApplications.h"
 
 #include "platform/CoreFoundation/CFBundle.h"

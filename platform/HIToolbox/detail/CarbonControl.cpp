@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/detail/CarbonControl.h"
 
 #include "platform/HIToolbox/CommandEvents.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/detail/CarbonWindow.h"
 
 #include "platform/CoreGraphics/detail/DisplayPlaces.h"

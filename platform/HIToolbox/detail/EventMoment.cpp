@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/detail/EventMoment.h"
 
 #include "platform/HIToolbox/EventTimers.h"

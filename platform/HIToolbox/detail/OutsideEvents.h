@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// While one lives, what runs is no answer to an event of the user's, such as an action that

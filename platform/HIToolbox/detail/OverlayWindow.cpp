@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/detail/OverlayWindow.h"
 
 #include "platform/CoreFoundation/detail/TextEncoding.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/detail/SheetShade.h"
 
 #include <QAccessibleWidget>

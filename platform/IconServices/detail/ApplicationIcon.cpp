@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/IconServices/detail/ApplicationIcon.h"
 
 #include "platform/CoreFoundation/detail/FileReading.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/IconServices/detail/IconFamily.h"
 
 #include "platform/CoreGraphics/detail/DecodedImage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/IconServices/detail/JPEG2000.h"
 
 #include "platform/IconServices/detail/BigEndian.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/QuickDraw/detail/Frame.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/Accessibility/AXUIElement.h"
 
 #include "tests/support/AccessibilityService.h"

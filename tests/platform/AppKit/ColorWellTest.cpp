@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/platform/AppKit/TestForm.h"
 
 #include <QColorDialog>

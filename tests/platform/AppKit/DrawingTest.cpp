@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSColor.h"
 #include "platform/AppKit/NSGraphics.h"
 #include "platform/QuickDraw/detail/GrafPort.h"

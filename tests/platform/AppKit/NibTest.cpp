@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/ClassRegistry.h"
 #include "tests/platform/AppKit/TestForm.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSPopUpButton.h"
 #include "tests/platform/AppKit/TestForm.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/EventTimers.h"
 #include "platform/HIToolbox/detail/EventMoment.h"
 #include "tests/platform/AppKit/TestForm.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/LaunchServices.h"
 #include "tests/support/TestApplications.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/LaunchTrouble.h"
 #include "tests/platform/CoreServices/TestPeer.h"
 #include "tests/support/TestApplication.h"

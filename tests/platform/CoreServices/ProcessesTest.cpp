@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/detail/ProcessName.h"
 #include "platform/CoreServices/detail/SessionBus.h"
 #include "tests/platform/CoreServices/TestPeer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/SharedFileList.h"
 #include "tests/support/TestApplication.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A process that takes part as of the type given, and handles the tests' events.
 
 #include "tests/platform/CoreServices/TestPeer.h"

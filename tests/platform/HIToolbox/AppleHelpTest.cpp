@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/AppleHelp.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/ApplicationTest.h"

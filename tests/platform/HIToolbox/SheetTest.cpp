@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreFoundation/CFBundle.h"
 #include "platform/HIToolbox/CommandEvents.h"
 #include "platform/HIToolbox/IBCarbonRuntime.h"

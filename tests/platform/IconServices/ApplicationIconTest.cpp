@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/CoreServices/LaunchServices.h"
 #include "platform/IconServices/Icons.h"
 #include "platform/IconServices/detail/IconImages.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/Daemon.h"
 
 #include "platform/CoreServices/detail/AppleEventMessage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/PopUpButtonWidget.h"
 #include "platform/AppKit/detail/ViewWidget.h"
 #include "src/prefpane/HotKeyView.h"

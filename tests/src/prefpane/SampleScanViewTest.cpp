@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/SampleScanView.h"
 
 #include "platform/AppKit/detail/ViewWidget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/prefpane/PreferenceWrangler.h"
 #include "tests/support/PaneFixture.h"
 

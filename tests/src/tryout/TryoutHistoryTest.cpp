@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "src/tryout/history.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 

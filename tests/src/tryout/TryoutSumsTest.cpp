@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/SimulatedUser.h"
 #include "src/tryout/statistics.h"
 #include "src/tryout/steadiness.h"
