@@ -8,7 +8,7 @@ from PIL import Image
 
 from tests.e2e.agentlog import FIELDS
 from tests.e2e.desktop import ask
-from tests.e2e.screen import press, run
+from tests.e2e.screen import press, run, until_at_rest
 from tests.e2e.waiting import until
 
 if TYPE_CHECKING:
@@ -46,10 +46,12 @@ class Overlay:
 
     def __init__(self, tour: "Tour", prompt: Place):
         self._tour = tour
-        self._before = screenshot()
         self._own = self._windows()
         # By keyboard, which works whatever the scale of the display.
-        tour.screen.find(*BUTTON).focus()
+        button = tour.screen.find(*BUTTON)
+        button.focus()
+        until_at_rest(lambda: button.box)  # the page scrolls to it
+        self._before = screenshot()
         press("key", "space")
         until(lambda: self.shows(prompt), "the prompt is on the screen")
 
