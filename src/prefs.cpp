@@ -4,6 +4,7 @@
 #include "platform/CoreFoundation/CFPreferences.h"
 #include "platform/CoreFoundation/PreferencesMerging.h"
 #include "platform/CoreFoundation/PreferencesOutcome.h"
+#include "src/differences.h"
 #include "src/recovery.h"
 
 #include <array>
@@ -97,7 +98,7 @@ void prefsWerentChanged() {
 }
 
 bool prefsAreAsStored() {
-    return std::memcmp(&prefs, &stored, sizeof prefs) == 0;
+    return differences(prefs, stored).none();
 }
 
 void prefsFlushChanges() {

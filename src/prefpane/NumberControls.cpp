@@ -34,7 +34,8 @@ void NumberControls::update(const NumberController& controller, const std::strin
         button->setEnabled(enabled);
         button->setToolTip(words);
         // The value first: a screen reader that is at the button hears it when it changes.
-        button->setAccessibilityHelp(shown + ". " + words + ".");
+        std::string help = shown;
+        button->setAccessibilityHelp(help.append(". ").append(words).append("."));
     }
 }
 

@@ -15,6 +15,7 @@ constexpr double kPatience = 0.1;
 /// them those of the free sweeps.
 std::vector<double> marksFor(const Sweep& sweep, double target, unsigned seed) {
     std::vector<double> marks;
+    marks.reserve(kMeasuredSweeps + kFreeSweeps);
     const double first = target / 2, room = std::max(sweep.travel - target, 0.0);
     for (int i = 0; i < kMeasuredSweeps; ++i)
         marks.push_back(first + room * i / (kMeasuredSweeps - 1));
