@@ -110,8 +110,8 @@ void addFigure(const std::string& name, Limit limit, Measure measured, Measure f
 
 int main(int argc, char** argv) {
     const QByteArray platform = chooseDisplays();
-    static QApplication application(argc, argv); // outlives every other static object
-    qputenv("QT_QPA_PLATFORM", platform);        // for the programs that are started
+    new QApplication(argc, argv);         // never destroyed: static widgets live as long
+    qputenv("QT_QPA_PLATFORM", platform); // for the programs that are started
     addPrefsFigures();
     addLinkFigures();
     addHotKeyFigures();
