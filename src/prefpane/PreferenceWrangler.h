@@ -70,6 +70,7 @@ public:
     void updateScanAreaRadios();
 
     void changedMasterOnOff(NSMatrix* sender);
+    void switchOn();
     void changedUseScanArea(NSMatrix* sender);
     void changedTriggerOnRelease(NSMatrix* sender);
     void changedScanMode(NSMatrix* sender);
@@ -132,7 +133,8 @@ public:
         palette_.paletteBtnHit(view, index);
     }
 
-    void resetPaletteButtons(NSButton*) { palette_.resetPaletteButtons(); }
+    /// Offers to put back what was there.
+    void resetPaletteButtons(NSButton* sender);
 
     void resetPaletteControls() { palette_.resetPaletteControls(); }
 

@@ -4,7 +4,9 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSMatrix.h"
 #include "platform/AppKit/NSTextField.h"
+#include "platform/AppKit/UserMessages.h"
 #include "platform/HIToolbox/CarbonEvents.h"
+#include "src/keycombo.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/SampleScanView.h"
 
@@ -17,6 +19,22 @@ constexpr ChangeMask kPreviewChanges =
 /// Whether the area can be scanned: neither side is zero or less.
 bool isUsable(const ScanArea& area) {
     return area.width > 0 && area.height > 0;
+}
+
+constexpr char kOffTopic[] = "off";
+
+/// Whoever has switched scanning off by mistake may have no other way to act than by scanning.
+void tellHowToSwitchOn() {
+    const auto keys = createKeyComboString(prefs.hotKeys[0].modifiers, prefs.hotKeys[0].keyCode);
+    const bool hasKeys = keys && prefs.hotKeys[0].keyCode >= 0;
+    tellUser(kOffTopic, {.kind = UserMessage::Kind::Note,
+                         .text = hasKeys ? "Scanning is off. " + CFStringToUTF8(keys.get()) +
+                                               " switches it on again."
+                                         : "Scanning is off, and no hot key switches it on again.",
+                         .buttons = {{"Switch on", [] {
+                                          if (theWrangler)
+                                              theWrangler->switchOn();
+                                      }}}});
 }
 
 } // namespace
@@ -67,6 +85,8 @@ void PreferenceWrangler::updateMasterOnOff() {
     masterOnOffRadios_->setEnabled(true);
     masterState_->setStringValue(prefs.on ? "Ready for your switch"
                                           : "Your switch does nothing now");
+    if (prefs.on)
+        withdrawMessage(kOffTopic);
 }
 
 void PreferenceWrangler::setMasterOnOff(bool on) {
@@ -100,7 +120,16 @@ void PreferenceWrangler::changedMasterOnOff(NSMatrix* sender) {
     if (force)
         SysBeep(1);
     prefs.on = static_cast<UInt8>(tag);
+    updateMasterOnOff();
     changed(force ? kChangeOnOff | kChangeForceOnOff : kChangeOnOff);
+    if (!prefs.on && !force)
+        tellHowToSwitchOn();
+}
+
+void PreferenceWrangler::switchOn() {
+    prefs.on = 1;
+    updateMasterOnOff();
+    changed(kChangeOnOff);
 }
 
 void PreferenceWrangler::changedUseScanArea(NSMatrix* sender) {

@@ -53,6 +53,18 @@ void PreferenceWrangler::redo(NSButton*) {
         showStep(*step, step->before, step->after, " to ");
 }
 
+void PreferenceWrangler::resetPaletteButtons(NSButton*) {
+    const PrefsRecord before = prefs;
+    palette_.resetPaletteButtons();
+    if (differences(before, prefs).any())
+        tellUser(kTopic, {.kind = UserMessage::Kind::Note,
+                          .text = "The palette has the buttons again that Korvex came with.",
+                          .buttons = {{"Put it back", [] {
+                                           if (theWrangler)
+                                               theWrangler->undo(nullptr);
+                                       }}}});
+}
+
 void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& before,
                                   const PrefsRecord& after, const char* between) {
     const std::size_t first = firstOf(step.settings);

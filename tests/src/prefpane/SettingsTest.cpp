@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/AppKit/UserMessages.h"
 #include "src/prefpane/PreferenceWrangler.h"
 #include "tests/support/PaneFixture.h"
 
@@ -202,6 +203,25 @@ TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityActi
     }
     EXPECT_GT(tried, 60);
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
+}
+
+TEST_F(SettingsTest, WhatWasSwitchedOffOrResetIsPutBackFromTheStrip) {
+    prefs.buttonActions[0] = 5;
+    openWithAgent();
+    click("masterOnOffRadios0");
+    EXPECT_EQ(find<QLabel>("masterState")->text(), "Your switch does nothing now");
+    ASSERT_TRUE(currentMessage());
+    EXPECT_EQ(currentMessage()->message.text,
+              "Scanning is off. control+shift+X switches it on again.");
+    UserMessage(currentMessage()->message).buttons[0].press();
+    EXPECT_EQ(prefs.on, 1);
+    EXPECT_FALSE(currentMessage());
+
+    click("resetActionsBtn");
+    EXPECT_EQ(prefs.buttonActions[0], 20);
+    ASSERT_TRUE(currentMessage());
+    UserMessage(currentMessage()->message).buttons[0].press();
+    EXPECT_EQ(prefs.buttonActions[0], 5);
 }
 
 TEST_F(SettingsTest, EveryControlIsNamedReachableAndLargeEnough) {
