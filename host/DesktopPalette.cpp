@@ -48,7 +48,7 @@ double luminance(const QColor& color) {
 }
 
 double contrast(const QColor& one, const QColor& other) {
-    const auto [dark, light] = std::minmax(luminance(one), luminance(other));
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 

@@ -29,10 +29,10 @@ TEST(HistoryTest, ChangesOfOneNumberWithinTwoSecondsAreOneStep) {
     change(12.5, 108);
 
     EXPECT_EQ(changesOf(history.undo(record)->settings), kChangeScanSpeed);
-    EXPECT_EQ(record.lineScanTime, 11.5);
+    EXPECT_EQ(double{record.lineScanTime}, 11.5);
     change(13, 108.5); // after an undo a change never joins what was before
     history.undo(record);
-    EXPECT_EQ(record.lineScanTime, 11.5);
+    EXPECT_EQ(double{record.lineScanTime}, 11.5);
     EXPECT_EQ(changesOf(history.undo(record)->settings), kChangeSounds);
     const HistoryStep* first = history.undo(record);
     EXPECT_EQ(changeText(settingOf(first->settings), first->after, first->before, " back to "),
@@ -40,8 +40,8 @@ TEST(HistoryTest, ChangesOfOneNumberWithinTwoSecondsAreOneStep) {
     EXPECT_FALSE(history.canUndo());
     const PrefsRecord factory;
     EXPECT_EQ(std::memcmp(&record, &factory, sizeof record), 0);
-    EXPECT_EQ(history.redo(record)->after.lineScanTime, 11.5);
-    EXPECT_EQ(record.lineScanTime, 11.5);
+    EXPECT_EQ(double{history.redo(record)->after.lineScanTime}, 11.5);
+    EXPECT_EQ(double{record.lineScanTime}, 11.5);
 }
 
 TEST(HistoryTest, WhatTheAgentReportsIsNoStepAndStays) {

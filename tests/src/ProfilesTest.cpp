@@ -39,7 +39,7 @@ TEST(ProfilesTest, AProfileBringsBackAllButTheSwitchAndTheLogin) {
     const SettingsOffer offer = readProfile("Tired", factory);
     EXPECT_EQ(offer.error, "");
     EXPECT_EQ(changesOf(differences(factory, offer.record)), kChangeScanSpeed | kChangeHotKeys);
-    EXPECT_EQ(offer.record.lineScanTime, 20);
+    EXPECT_EQ(double{offer.record.lineScanTime}, 20);
     EXPECT_EQ(deleteProfile("Tired"), "");
     EXPECT_EQ(currentProfile(), "");
     EXPECT_NE(readProfile("Tired", factory).error, "");
@@ -61,7 +61,7 @@ TEST(ProfilesTest, OfAFileTheSoundSettingsAreOfferedAndTheOthersNamed) {
            "<key>tomorrow</key><true/></dict></plist>";
     const SettingsOffer offer = readProfile("Mixed", PrefsRecord());
     EXPECT_EQ(differences(offer.record, PrefsRecord()).count(), 1u);
-    EXPECT_EQ(offer.record.lineScanTime, 12.5);
+    EXPECT_EQ(double{offer.record.lineScanTime}, 12.5);
     std::string refused;
     for (const auto& [key, reason] : offer.refused)
         refused += key + ": " + reason + "\n";

@@ -64,7 +64,7 @@ TEST_F(RecoveryTest, TakesOverWhatCrashedProgramsChangedTheLatestLast) {
     const SettingSet recovered = recoveryTakeOver(record);
     EXPECT_EQ(recovered.count(), 1u);
     EXPECT_EQ(changesOf(recovered), kChangeScanSpeed);
-    EXPECT_EQ(record.lineScanTime, 30);
+    EXPECT_EQ(double{record.lineScanTime}, 30);
     EXPECT_EQ(record.soundLevel, 9u);
 
     EXPECT_EQ(countFiles(), 4) << "kept until there is an own file";
