@@ -1,24 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "host/Arguments.h"
 
+#include "platform/CoreFoundation/Localization.h"
+
 #include <filesystem>
 #include <getopt.h>
 
-const char* const kUsage =
-    "Usage: korvex-preferences [BUNDLE.prefPane]\n"
-    "       korvex-preferences COMMAND OPERANDS\n"
-    "       korvex-preferences --section NAME\n"
-    "       korvex-preferences --service\n"
-    "       korvex-preferences --check BUNDLE.prefPane\n"
-    "\n"
-    "Shows the settings pane of the bundle, of Korvex's own without one.\n"
-    "\n"
-    "  COMMAND         change or read settings without a window; see the command \"help\"\n"
-    "  --section NAME  show that section of the pane, for example \"palette\"\n"
-    "  --service       wait until the session bus asks for the window\n"
-    "  --check BUNDLE  load the bundle, check its interface files, show nothing\n"
-    "  --help          print this text\n"
-    "  --version       print the version\n";
+const char* const kUsage = LOCALIZABLE(
+    "Host", "Usage: korvex-preferences [BUNDLE.prefPane]\n"
+            "       korvex-preferences COMMAND OPERANDS\n"
+            "       korvex-preferences --section NAME\n"
+            "       korvex-preferences --service\n"
+            "       korvex-preferences --check BUNDLE.prefPane\n"
+            "\n"
+            "Shows the settings pane of the bundle, of Korvex's own without one.\n"
+            "\n"
+            "  COMMAND         change or read settings without a window; see the command \"help\"\n"
+            "  --section NAME  show that section of the pane, for example \"palette\"\n"
+            "  --service       wait until the session bus asks for the window\n"
+            "  --check BUNDLE  load the bundle, check its interface files, show nothing\n"
+            "  --help          print this text\n"
+            "  --version       print the version\n");
 
 namespace {
 
@@ -58,6 +60,10 @@ Arguments parseArguments(int argc, char** argv) {
         }
     }
     return {Task::Misuse, {}, {}};
+}
+
+void loadOwnLocalizations() {
+    loadLocalizations(findOwnBundle() + "/Contents/Resources");
 }
 
 std::string findOwnBundle() {

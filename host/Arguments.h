@@ -12,7 +12,7 @@ struct Arguments {
     std::string section; ///< of the pane, to be shown first; empty for its own choice
 };
 
-/// The text that --help prints.
+/// The text that --help prints, in English.
 extern const char* const kUsage;
 
 Arguments parseArguments(int argc, char** argv);
@@ -20,3 +20,6 @@ Arguments parseArguments(int argc, char** argv);
 /// The path of the bundle that lies beside this program, in its build folder or where both are
 /// installed; empty when there is none.
 std::string findOwnBundle();
+
+/// Loads the user's language from that bundle. An application object must exist.
+void loadOwnLocalizations();

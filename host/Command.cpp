@@ -3,17 +3,33 @@
 
 #include "host/Arguments.h"
 #include "platform/CoreFoundation/CFBundle.h"
+#include "platform/CoreFoundation/Localization.h"
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cstdio>
+#include <string_view>
+
+namespace {
+
+/// Answers for programs, and what is made for a package, are the same in every language.
+bool isForPeople(int argc, char** argv) {
+    return std::none_of(argv + 1, argv + argc, [](std::string_view word) {
+        return word == "--json" || word == "manual" || word == "completion";
+    });
+}
+
+} // namespace
 
 int runCommand(int argc, char** argv) {
     using Run = int (*)(int count, const char* const* arguments);
     QCoreApplication application(argc, argv);
+    if (isForPeople(argc, argv))
+        loadOwnLocalizations();
     const auto url = CFURLCreateFromFileSystemRepresentation(findOwnBundle().c_str(), true);
     const auto bundle = url ? CFBundleCreate(url.get()) : nullptr;
-    std::string error = "Korvex.prefPane: not found beside this program";
+    std::string error = localized("Host", "Korvex.prefPane: not found beside this program");
     if (!bundle || !CFBundleLoadExecutable(bundle.get(), &error)) {
         std::fprintf(stderr, "%s\n", error.c_str());
         return 1;

@@ -7,6 +7,7 @@
 #include "host/StartupNotification.h"
 #include "host/Troubles.h"
 #include "platform/AppKit/ClassRegistry.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreServices/detail/SessionBus.h"
 #include "platform/HIToolbox/NibRequirement.h"
 #include "platform/HIToolbox/detail/CarbonWindow.h"
@@ -109,8 +110,10 @@ void PaneHost::bringToFront() {
 
 void PaneHost::comply(const ShowRequest& request) {
     if (!request.section.isEmpty() && !showSection(pane_->mainView()->widget(), request.section))
-        std::fprintf(stderr, "korvex-preferences: there is no section '%s'\n",
-                     request.section.toUtf8().constData());
+        std::fprintf(
+            stderr, "korvex-preferences: %s\n",
+            filled(localized("Host", "there is no section '%1'"), {request.section.toStdString()})
+                .c_str());
     completeStartup(window_->windowHandle(), request.startupID);
 }
 
@@ -119,8 +122,9 @@ bool PaneHost::store() {
         withdrawNotSaved();
         return true;
     }
-    std::fprintf(stderr, "korvex-preferences: the settings aren't saved: %s\n",
-                 whyNotSaved().c_str());
+    std::fprintf(
+        stderr, "korvex-preferences: %s\n",
+        filled(localized("Host", "the settings aren't saved: %1"), {whyNotSaved()}).c_str());
     tellNotSaved([this] { close(); }, [this] { end(); });
     return false;
 }

@@ -2,6 +2,7 @@
 #include "host/Troubles.h"
 
 #include "platform/AppKit/UserMessages.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreFoundation/PreferencesOutcome.h"
 #include "platform/CoreServices/LaunchTrouble.h"
 
@@ -18,35 +19,24 @@ constexpr char kFiles[] = "files";
 constexpr char kSaving[] = "saving";
 constexpr char kLaunching[] = "launching";
 
-std::string translated(const char* text) {
-    return QCoreApplication::translate("Troubles", text).toStdString();
-}
-
-/// The text with a path, or another name, in the place of its %1.
-std::string filled(const char* text, const std::string& name) {
-    return QCoreApplication::translate("Troubles", text)
-        .arg(QString::fromStdString(name))
-        .toStdString();
-}
-
 std::string reasonOf(const PreferencesOutcome& outcome) {
     switch (outcome.trouble) {
     case FileTrouble::None:
         return {};
     case FileTrouble::Damaged:
-        return filled("%1 is damaged", outcome.path);
+        return filled(localized("Troubles", "%1 is damaged"), {outcome.path});
     case FileTrouble::NotAllowed:
-        return filled("no permission for %1", outcome.path);
+        return filled(localized("Troubles", "no permission for %1"), {outcome.path});
     case FileTrouble::ReadOnly:
-        return filled("%1 can only be read", outcome.path);
+        return filled(localized("Troubles", "%1 can only be read"), {outcome.path});
     case FileTrouble::Full:
-        return translated("the disk is full");
+        return localized("Troubles", "the disk is full");
     case FileTrouble::InUse:
-        return translated("another program is using the file");
+        return localized("Troubles", "another program is using the file");
     case FileTrouble::InTheWay:
-        return filled("%1 is something else than expected", outcome.path);
+        return filled(localized("Troubles", "%1 is something else than expected"), {outcome.path});
     case FileTrouble::TooLarge:
-        return filled("%1 would become too large", outcome.path);
+        return filled(localized("Troubles", "%1 would become too large"), {outcome.path});
     case FileTrouble::Failed:
         break;
     }
@@ -57,18 +47,22 @@ std::string reasonOf(const PreferencesOutcome& outcome) {
 std::string textOfUnusableFile(const CFString* domain) {
     const PreferencesOutcome load = preferencesLoadOutcome(domain);
     if (load.trouble == FileTrouble::Damaged)
-        return filled(load.isKeptAside
-                          ? "Your settings file was damaged and is kept as %1. The usual settings "
-                            "are shown instead."
-                          : "Your settings file %1 is damaged. The usual settings are shown "
-                            "instead; the file will be kept beside the new one.",
-                      load.path);
+        return filled(
+            load.isKeptAside
+                ? localized("Troubles", "Your settings file was damaged and is kept as %1. The "
+                                        "usual settings are shown instead.")
+                : localized("Troubles", "Your settings file %1 is damaged. The usual settings are "
+                                        "shown instead; the file will be kept beside the new one."),
+            {load.path});
     if (load.trouble != FileTrouble::None)
-        return filled("Your settings can’t be read: %1. The usual settings are shown instead.",
-                      reasonOf(load));
+        return filled(
+            localized("Troubles",
+                      "Your settings can’t be read: %1. The usual settings are shown instead."),
+            {reasonOf(load)});
     const PreferencesOutcome outlook = preferencesSaveOutlook(domain);
     if (outlook.trouble != FileTrouble::None)
-        return filled("What you change here can’t be saved: %1.", reasonOf(outlook));
+        return filled(localized("Troubles", "What you change here can’t be saved: %1."),
+                      {reasonOf(outlook)});
     return {};
 }
 
@@ -89,16 +83,18 @@ void saveCopy(const Buttons& buttons) {
         return;
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QString path = QFileDialog::getSaveFileName(
-        nullptr, QCoreApplication::translate("Troubles", "Save a copy of the settings"),
+        nullptr, QString::fromStdString(localized("Troubles", "Save a copy of the settings")),
         folder + '/' + QString::fromStdString(CFStringToUTF8(domain)) + QStringLiteral(".plist"));
     std::string text;
     if (path.isEmpty()) {
-        text = filled("Your settings aren’t saved: %1.", whyNotSaved());
+        text = filled(localized("Troubles", "Your settings aren’t saved: %1."), {whyNotSaved()});
     } else {
         const PreferencesOutcome outcome = preferencesSaveCopy(domain, path.toStdString());
         text = outcome.trouble == FileTrouble::None
-                   ? filled("A copy of your settings is now in %1.", outcome.path)
-                   : filled("The copy couldn’t be saved: %1.", reasonOf(outcome));
+                   ? filled(localized("Troubles", "A copy of your settings is now in %1."),
+                            {outcome.path})
+                   : filled(localized("Troubles", "The copy couldn’t be saved: %1."),
+                            {reasonOf(outcome)});
     }
     tellUser(kSaving, {.text = text, .buttons = buttons});
 }
@@ -112,11 +108,12 @@ void tellOfLaunch() {
     tellUser(
         kLaunching,
         {.text = filled(troubled->trouble == LaunchTrouble::NotUp
-                            ? "%1 didn’t start, so nothing is scanned now."
-                            : "%1 has ended by itself several times, so nothing is scanned now.",
-                        name),
-         .buttons = {
-             {filled("Start %1", name), [bundle = troubled->bundle] { launchAgain(bundle); }}}});
+                            ? localized("Troubles", "%1 didn’t start, so nothing is scanned now.")
+                            : localized("Troubles", "%1 has ended by itself several times, so "
+                                                    "nothing is scanned now."),
+                        {name}),
+         .buttons = {{filled(localized("Troubles", "Start %1"), {name}),
+                      [bundle = troubled->bundle] { launchAgain(bundle); }}}});
 }
 
 } // namespace
@@ -138,15 +135,17 @@ std::string whyNotSaved() {
 }
 
 void tellNotSaved(std::function<void()> tryAgain, std::function<void()> leave) {
-    Buttons buttons = {{translated("Try again"), std::move(tryAgain)},
-                       {translated("Close anyway"), std::move(leave)}};
+    Buttons buttons = {{localized("Troubles", "Try again"), std::move(tryAgain)},
+                       {localized("Troubles", "Close anyway"), std::move(leave)}};
     UserMessage message{
-        .text = filled("Your settings couldn’t be saved: %1. This window stays open, so that "
-                       "nothing is lost.",
-                       whyNotSaved()),
+        .text =
+            filled(localized("Troubles",
+                             "Your settings couldn’t be saved: %1. This window stays open, so that "
+                             "nothing is lost."),
+                   {whyNotSaved()}),
         .buttons = buttons};
-    message.buttons.insert(message.buttons.begin() + 1,
-                           {translated("Save a copy…"), [buttons] { saveCopy(buttons); }});
+    message.buttons.insert(message.buttons.begin() + 1, {localized("Troubles", "Save a copy…"),
+                                                         [buttons] { saveCopy(buttons); }});
     withdrawMessage(kFiles); // it says the same
     tellUser(kSaving, std::move(message));
 }

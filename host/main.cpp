@@ -6,6 +6,7 @@
 #include "host/PaneHost.h"
 #include "host/SingleInstance.h"
 #include "host/TerminationSignals.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreServices/Processes.h"
 
 #include <QApplication>
@@ -40,10 +41,21 @@ const char* choosePlatform(Arguments::Task task) {
     return qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? nullptr : "wayland";
 }
 
+void complain(const std::string& message) {
+    std::fprintf(stderr, "korvex-preferences: %s\n", message.c_str());
+}
+
+int printUsage(int argc, char** argv, std::FILE* file, ExitStatus status) {
+    QCoreApplication application(argc, argv);
+    loadOwnLocalizations();
+    std::fputs(localized("Host", kUsage).c_str(), file);
+    return status;
+}
+
 bool load(PaneHost& host, const std::string& bundle, Arguments::Task task) {
     std::vector<std::string> errors;
     if (bundle.empty())
-        errors.emplace_back("Korvex.prefPane: not found beside this program");
+        errors.push_back(localized("Host", "Korvex.prefPane: not found beside this program"));
     else if (host.load(bundle, errors) && task == Arguments::Task::Check)
         host.checkWindows(errors);
     for (const std::string& error : errors)
@@ -71,7 +83,7 @@ int show(const Arguments& arguments, const QVariantMap& activation) {
     case SingleInstance::Second:
         return kDone;
     case SingleInstance::SecondToOneThatHangs:
-        std::fputs("korvex-preferences: it is open already, but doesn't answer\n", stderr);
+        complain(localized("Host", "it is open already, but doesn't answer"));
         return kFailed;
     }
     registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
@@ -111,6 +123,8 @@ int run(const Arguments& arguments, int argc, char** argv) {
     QApplication application(argc, argv);
     if (!isChosen)
         qunsetenv(kPlatformVariable); // not the choice of the programs that are started from here
+    if (arguments.task != Arguments::Task::Check)
+        loadOwnLocalizations();
     // QApplication takes on the user's locale; stored numbers have a point in every one.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("korvex-preferences"));
@@ -135,14 +149,12 @@ int main(int argc, char** argv) {
     case Arguments::Task::Command:
         return runCommand(argc, argv);
     case Arguments::Task::Help:
-        std::fputs(kUsage, stdout);
-        return kDone;
+        return printUsage(argc, argv, stdout, kDone);
     case Arguments::Task::Version:
         std::puts("korvex-preferences " KORVEX_VERSION);
         return kDone;
     case Arguments::Task::Misuse:
-        std::fputs(kUsage, stderr);
-        return kMisused;
+        return printUsage(argc, argv, stderr, kMisused);
     case Arguments::Task::Show:
     case Arguments::Task::Serve:
     case Arguments::Task::Check:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/keycombo.h"
 
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "platform/HIToolbox/FunctionKeys.h"
 
@@ -15,9 +16,35 @@ constexpr UInt32 kKeyCharFn = 0x20000000; ///< fn must be held where F-keys have
 constexpr UInt32 kKeyCharMask = 0x0000FFFF;
 
 constexpr const char* keyStrings[] = {
-    "return", "tab",  "space",   "delete", "enter", "esc", "caps lock", "clear", "F5",  "F6",
-    "F7",     "F3",   "F8",      "F9",     "F11",   "F13", "F14",       "F10",   "F12", "F15",
-    "help",   "home", "page up", "F4",     "end",   "F2",  "page down", "F1",    "F16",
+    LOCALIZABLE("Keys", "return"),
+    LOCALIZABLE("Keys", "tab"),
+    LOCALIZABLE("Keys", "space"),
+    LOCALIZABLE("Keys", "delete"),
+    LOCALIZABLE("Keys", "enter"),
+    LOCALIZABLE("Keys", "esc"),
+    LOCALIZABLE("Keys", "caps lock"),
+    LOCALIZABLE("Keys", "clear"),
+    "F5",
+    "F6",
+    "F7",
+    "F3",
+    "F8",
+    "F9",
+    "F11",
+    "F13",
+    "F14",
+    "F10",
+    "F12",
+    "F15",
+    LOCALIZABLE("Keys", "help"),
+    LOCALIZABLE("Keys", "home"),
+    LOCALIZABLE("Keys", "page up"),
+    "F4",
+    LOCALIZABLE("Keys", "end"),
+    "F2",
+    LOCALIZABLE("Keys", "page down"),
+    "F1",
+    "F16",
 };
 
 enum KeyString : UInt32 {
@@ -79,20 +106,20 @@ constexpr UInt32 keyChars[] = {
 constexpr SInt32 kKeyCount = 128;
 static_assert(std::size(keyChars) == kKeyCount);
 
-constexpr CFIndex kMaxLength = 50; // the longest name has 42 characters
+constexpr CFIndex kMaxLength = 100; // the longest name has 42 characters in English
 
 void append(CFMutableString* text, const char* more) {
-    CFStringAppendCString(text, more, kCFStringEncodingMacRoman);
+    CFStringAppend(text, CFStringCreateWithUTF8(localized("Keys", more)).get());
 }
 
 void appendModifier(CFMutableString* text, UInt32 bit) {
     static constexpr struct {
         UInt32 bit;
         const char* name;
-    } kNames[] = {{cmdKey, "command+"},
-                  {controlKey, "control+"},
-                  {shiftKey, "shift+"},
-                  {optionKey, "option+"}};
+    } kNames[] = {{cmdKey, LOCALIZABLE("Keys", "command+")},
+                  {controlKey, LOCALIZABLE("Keys", "control+")},
+                  {shiftKey, LOCALIZABLE("Keys", "shift+")},
+                  {optionKey, LOCALIZABLE("Keys", "option+")}};
 
     for (const auto& row : kNames)
         if (row.bit == bit)
@@ -101,9 +128,9 @@ void appendModifier(CFMutableString* text, UInt32 bit) {
 
 void appendKey(CFMutableString* text, UInt32 key) {
     if (key & kKeyCharKeypad)
-        append(text, " keypad ");
+        append(text, LOCALIZABLE("Keys", " keypad "));
     if ((key & kKeyCharFn) && !functionKeysAreStandard())
-        append(text, " fn ");
+        append(text, LOCALIZABLE("Keys", " fn "));
     const UInt32 low = key & kKeyCharMask;
     if (key & kKeyCharString) {
         append(text, keyStrings[low]);
@@ -117,7 +144,7 @@ void appendKey(CFMutableString* text, UInt32 key) {
 
 CFRef<CFString> createKeyComboString(UInt32 modifiers, SInt32 keyCode) {
     if (keyCode < 0)
-        return CFStringCreateWithCString("-none-", kCFStringEncodingMacRoman);
+        return CFStringCreateWithUTF8(localized("Keys", "-none-"));
     auto text = CFStringCreateMutable(kMaxLength);
     if (!text)
         return nullptr;

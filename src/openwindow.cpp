@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/openwindow.h"
 
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreServices/AppleEvents.h"
 #include "platform/CoreServices/Processes.h"
 
@@ -58,7 +59,7 @@ std::optional<std::string> sendToWindow(const SettingSet& settings, const PrefsR
                            kAnyTransactionID, &event) != noErr ||
         AEPutParamPtr(&event, keyDirectObject, typePrefsRecord, &record, sizeof record) != noErr ||
         AEPutParamPtr(&event, keySettings, typeBits, &bits, sizeof bits) != noErr)
-        return "the change can't be sent";
+        return localized("Faults", "the change can't be sent");
     switch (AESend(&event, &reply, kAEWaitReply, kPatience)) {
     case noErr:
         return "";
@@ -66,9 +67,9 @@ std::optional<std::string> sendToWindow(const SettingSet& settings, const PrefsR
     case procNotFound:
         return std::nullopt;
     case errAETimeout:
-        return "the open window doesn't answer";
+        return localized("Faults", "the open window doesn't answer");
     default:
-        return "the open window doesn't take the change";
+        return localized("Faults", "the open window doesn't take the change");
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/profiles.h"
 
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreFoundation/UserFiles.h"
 
 #include <algorithm>
@@ -57,12 +58,14 @@ std::vector<std::string> profileNames() {
 std::string profileNameFault(const std::string& name) {
     const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == 0x7F; };
     if (name.empty())
-        return "a profile needs a name";
+        return localized("Faults", "a profile needs a name");
     if (name.size() > kMaxNameLength)
-        return "the name is too long";
+        return localized("Faults", "the name is too long");
     if (name[0] == '.' || name.find('/') != std::string::npos ||
         std::ranges::any_of(name, isControl))
-        return "a name has no slash and no control character, and doesn't begin with a point";
+        return localized(
+            "Faults",
+            "a name has no slash and no control character, and doesn't begin with a point");
     return {};
 }
 
@@ -75,7 +78,7 @@ std::string saveProfile(const std::string& name, const PrefsRecord& record) {
 SettingsOffer readProfile(const std::string& name, const PrefsRecord& base) {
     SettingsOffer offer{.record = base, .settings = {}, .refused = {}, .error = {}};
     if (!isThere(name)) {
-        offer.error = "there is no profile of that name";
+        offer.error = localized("Faults", "there is no profile of that name");
         return offer;
     }
     offer = readSettingsFile(pathOf(name), base);
@@ -90,9 +93,9 @@ std::string renameProfile(const std::string& name, const std::string& newName) {
     if (const std::string fault = profileNameFault(newName); !fault.empty())
         return fault;
     if (!isThere(name))
-        return "there is no profile of that name";
+        return localized("Faults", "there is no profile of that name");
     if (isThere(newName))
-        return "there is a profile of that name";
+        return localized("Faults", "there is a profile of that name");
     const bool isCurrent = currentProfile() == name;
     std::error_code error;
     fs::rename(pathOf(name), pathOf(newName), error);
@@ -103,7 +106,7 @@ std::string renameProfile(const std::string& name, const std::string& newName) {
 
 std::string deleteProfile(const std::string& name) {
     if (!isThere(name))
-        return "there is no profile of that name";
+        return localized("Faults", "there is no profile of that name");
     std::error_code error;
     fs::remove(pathOf(name), error);
     return reasonOf(error.value());

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "src/settingcheck.h"
 
+#include "platform/CoreFoundation/Localization.h"
+
 #include "src/prefpane/palutil.h"
 #include "src/settingwords.h"
 
@@ -14,17 +16,15 @@
 namespace {
 
 std::string rangeWords(const SettingLimits& limits) {
-    char text[100];
-    std::snprintf(text, sizeof text, "outside %g to %g%s%s", limits.minimum, limits.maximum,
-                  *limits.unit ? " " : "", limits.unit);
-    return text;
+    return filled(localized("Faults", "outside %1"), {rangeText(limits)});
 }
 
 std::string choiceWords(const Setting& setting) {
-    std::string words = "none of: ";
+    std::string words;
     for (std::size_t i = 0; i < setting.choices.size(); ++i)
-        words += (i ? ", " : "") + std::to_string(i) + " (" + setting.choices[i] + ")";
-    return words;
+        words += (i ? ", " : "") + std::to_string(i) + " (" +
+                 localized("Choices", setting.choices[i]) + ")";
+    return filled(localized("Faults", "none of: %1"), {words});
 }
 
 bool isWithin(const SettingLimits& limits, double value) {
@@ -47,8 +47,9 @@ void setNumber(const Setting& setting, double value, PrefsRecord& record) {
 }
 
 /// "12.5" and what may stand behind it: the unit, its beginning, or %.
-std::optional<double> numberFrom(const std::string& words, const std::string& unit) {
+std::optional<double> numberFrom(std::string words, const std::string& unit) {
     double value;
+    std::ranges::replace(words, ',', '.');
     const char* const last = words.data() + words.size();
     const auto [end, error] = std::from_chars(words.data(), last, value);
     if (error != std::errc())
@@ -56,13 +57,15 @@ std::optional<double> numberFrom(const std::string& words, const std::string& un
     std::string_view rest(end, static_cast<std::size_t>(last - end));
     rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
     const bool isUnit = rest.empty() || (rest == "%" && unit == "percent") ||
-                        (rest == "ms" && unit == "milliseconds") || unit.starts_with(rest);
+                        (rest == "ms" && unit == "milliseconds") || unit.starts_with(rest) ||
+                        localized("Units", unit.c_str()).starts_with(rest);
     return isUnit ? std::optional(value) : std::nullopt;
 }
 
 std::optional<UInt32> choiceFrom(const Setting& setting, const std::string& words) {
     for (std::size_t i = 0; i < setting.choices.size(); ++i)
-        if (words == std::to_string(i) || strcasecmp(words.c_str(), setting.choices[i]) == 0)
+        if (words == std::to_string(i) || strcasecmp(words.c_str(), setting.choices[i]) == 0 ||
+            words == localized("Choices", setting.choices[i]))
             return static_cast<UInt32>(i);
     return std::nullopt;
 }
@@ -75,17 +78,17 @@ std::string settingFault(const Setting& setting, const PrefsRecord& record) {
     if (!setting.choices.empty() && wordIn(setting, record) >= setting.choices.size())
         return choiceWords(setting);
     if (setting.form == &kRealForm && !std::isfinite(settingNumber(setting, record)))
-        return "not a number";
+        return localized("Faults", "not a number");
     if (setting.form == &kSizeForm && !(isWithin(setting.limits, record.buttonSize.width) &&
                                         isWithin(setting.limits, record.buttonSize.height)))
         return rangeWords(setting.limits);
     const auto& [red, green, blue] = record.lineColor;
     if (setting.form == &kColourForm && std::max({red, green, blue}) > 255)
-        return "outside 0 to 255";
+        return filled(localized("Faults", "outside %1"), {rangeText({.maximum = 255})});
     const auto& actions = record.buttonActions;
     if (setting.form == &kActionListForm &&
         std::ranges::any_of(actions, [](UInt8 action) { return action >= kNumActions; }))
-        return "an action that there isn't";
+        return localized("Faults", "an action that there isn't");
     return {};
 }
 
@@ -94,8 +97,9 @@ std::string setFromWords(const Setting& setting, const std::string& words, Prefs
     if (setting.isNumber()) {
         const auto value = numberFrom(words, setting.limits.unit);
         if (!value)
-            return "not a number" + (*setting.limits.unit ? std::string(" in ") : "") +
-                   setting.limits.unit;
+            return *setting.limits.unit ? filled(localized("Faults", "not a number in %1"),
+                                                 {localized("Units", setting.limits.unit)})
+                                        : localized("Faults", "not a number");
         if (!isWithin(setting.limits, *value))
             return rangeWords(setting.limits);
         setNumber(setting, *value, changed);
@@ -112,7 +116,7 @@ std::string setFromWords(const Setting& setting, const std::string& words, Prefs
                                  : isOff                    ? "no"
                                                             : words;
         if (!setting.form->read(CFStringCreateWithUTF8(text).get(), setting.in(changed)))
-            return "not a value of this setting";
+            return localized("Faults", "not a value of this setting");
         if (std::string fault = settingFault(setting, changed); !fault.empty())
             return fault;
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/CoreFoundation/Localization.h"
 #include "src/prefs.h"
 #include "src/prefsforms.h"
 
@@ -23,7 +24,9 @@ enum class SettingControl { other, slider, bumper, check };
 
 /// All that is said of one setting: how it is stored, where it lies in the record, what a change of
 /// it reports, what it is called and what it may be. Everything else that concerns all settings is
-/// derived from the rows of kSettings. Texts live for ever; none is null where not said.
+/// derived from the rows of kSettings. Texts live for ever; none is null where not said. Names,
+/// formats, units and choices are English: `localized` has them in the tables that they are marked
+/// with.
 struct Setting {
     const char* key;       ///< in the domain kAgentBundleID
     const PrefsForm* form; ///< of the stored text, and with it the field's type
@@ -50,26 +53,39 @@ struct Setting {
 namespace settingrows {
 
 constexpr SettingLimits seconds(double minimum, double maximum) {
-    return {minimum, maximum, 0.5, "%5.1f sec", "seconds", 5};
+    return {
+        minimum, maximum, 0.5, LOCALIZABLE("Formats", "%5.1f sec"), LOCALIZABLE("Units", "seconds"),
+        5};
 }
 
 constexpr SettingLimits percent(double minimum, double maximum, double step) {
-    return {minimum, maximum, step, "%3.0f%%", "percent", step > 1 ? 5 : 10};
+    return {minimum,
+            maximum,
+            step,
+            LOCALIZABLE("Formats", "%3.0f%%"),
+            LOCALIZABLE("Units", "percent"),
+            step > 1 ? 5 : 10};
 }
 
 constexpr SettingLimits points(double minimum, double maximum) {
-    return {minimum, maximum, 1, "%3.0f points", "points"};
+    return {minimum, maximum, 1, LOCALIZABLE("Formats", "%3.0f points"),
+            LOCALIZABLE("Units", "points")};
 }
 
-inline constexpr SettingLimits kMilliseconds = {10, 300, 1, "%3.0f ms", "milliseconds"};
+inline constexpr SettingLimits kMilliseconds = {10, 300, 1, LOCALIZABLE("Formats", "%3.0f ms"),
+                                                LOCALIZABLE("Units", "milliseconds")};
 inline constexpr SettingLimits kVolume = {0, 100, 1, "%3.0f", ""};
 
-inline constexpr const char* kScanModes[] = {"Press to start, press to choose",
-                                             "Hold to scan, let go to choose",
-                                             "Each press moves one step"};
-inline constexpr const char* kPressOrRelease[] = {"When I press", "When I let go"};
-inline constexpr const char* kScanAreas[] = {"The whole screen", "Only my own area"};
-inline constexpr const char* kCorners[] = {"Square", "Rounded"};
+inline constexpr const char* kScanModes[] = {
+    LOCALIZABLE("Choices", "Press to start, press to choose"),
+    LOCALIZABLE("Choices", "Hold to scan, let go to choose"),
+    LOCALIZABLE("Choices", "Each press moves one step")};
+inline constexpr const char* kPressOrRelease[] = {LOCALIZABLE("Choices", "When I press"),
+                                                  LOCALIZABLE("Choices", "When I let go")};
+inline constexpr const char* kScanAreas[] = {LOCALIZABLE("Choices", "The whole screen"),
+                                             LOCALIZABLE("Choices", "Only my own area")};
+inline constexpr const char* kCorners[] = {LOCALIZABLE("Choices", "Square"),
+                                           LOCALIZABLE("Choices", "Rounded")};
 
 inline constexpr ChangeMask kBothLines = kChangeScanLineLook | kChangeGuideLineLook;
 
@@ -84,84 +100,84 @@ inline constexpr ChangeMask kBothLines = kChangeScanLineLook | kChangeGuideLineL
 /// In the record's order, which is that of loading and saving.
 // clang-format off
 inline constexpr Setting kRows[] = {
-    {SETTING("on", kFlagForm, on, kChangeOnOff), "Scanning"},
+    {SETTING("on", kFlagForm, on, kChangeOnOff), LOCALIZABLE("Settings", "Scanning")},
     {SETTING("playClickSounds", kFlagForm, playClickSounds, kChangeSounds),
-     "A sound for each click", CHECK("playClickSoundsCheck", "changedPlayClickSounds:")},
+     LOCALIZABLE("Settings", "A sound for each click"), CHECK("playClickSoundsCheck", "changedPlayClickSounds:")},
     {SETTING("playDragPrompts", kFlagForm, playDragPrompts, kChangeSounds),
-     "Prompts while dragging", CHECK("playDragPrompts", "changedPlayDragPrompts:")},
-    {SETTING("priorityScheduling", kFlagForm, priorityScheduling, 0), "Priority over other programs"},
+     LOCALIZABLE("Settings", "Prompts while dragging"), CHECK("playDragPrompts", "changedPlayDragPrompts:")},
+    {SETTING("priorityScheduling", kFlagForm, priorityScheduling, 0), LOCALIZABLE("Settings", "Priority over other programs")},
     {SETTING("launchAtLogin", kFlagForm, launchAtLogin, kChangeLaunch),
-     "Start at login", ACTION("changedLaunchAtLogin:")},
+     LOCALIZABLE("Settings", "Start at login"), ACTION("changedLaunchAtLogin:")},
     {SETTING("activateAtLaunch", kFlagForm, activateAtLaunch, kChangeLaunch),
-     "Scan from the start", ACTION("changedActivateAtLaunch:")},
+     LOCALIZABLE("Settings", "Scan from the start"), ACTION("changedActivateAtLaunch:")},
     {SETTING("soundLevel", kHexWordForm, soundLevel, kChangeSounds),
-     "Volume", kVolume, SLIDER("volume")},
+     LOCALIZABLE("Settings", "Volume"), kVolume, SLIDER("volume")},
     {SETTING("scanner.canScanMenuBar", kFlagForm, canScanMenuBar, 0),
-     "Scan the menu bar too", CHECK("canScanMenuBarCheck", "changedCanScanMenuBar:")},
+     LOCALIZABLE("Settings", "Scan the menu bar too"), CHECK("canScanMenuBarCheck", "changedCanScanMenuBar:")},
     {SETTING("scanner.minTriggerDuration", kRealForm, minTriggerDuration, kChangeTriggers),
-     "Shortest press that counts", seconds(0, 5), SLIDER("minTriggerDuration")},
+     LOCALIZABLE("Settings", "Shortest press that counts"), seconds(0, 5), SLIDER("minTriggerDuration")},
     {SETTING("scanner.afterClickDelay", kRealForm, afterClickDelay, kChangeTriggers),
-     "Ignore presses after a click for", seconds(0, 10), SLIDER("afterClickDelay")},
+     LOCALIZABLE("Settings", "Ignore presses after a click for"), seconds(0, 10), SLIDER("afterClickDelay")},
     {SETTING("scanner.preScanDelay", kRealForm, preScanDelay, kChangeTriggers),
-     "Wait before the scan starts", seconds(0, 10), SLIDER("preScanDelayTime")},
+     LOCALIZABLE("Settings", "Wait before the scan starts"), seconds(0, 10), SLIDER("preScanDelayTime")},
     {SETTING("scanner.inverseReleaseTime", kRealForm, inverseReleaseTime, kChangeTriggers),
-     "Wait after letting go", seconds(0, 10), SLIDER("inverseReleaseTime")},
+     LOCALIZABLE("Settings", "Wait after letting go"), seconds(0, 10), SLIDER("inverseReleaseTime")},
     {SETTING("scanner.stepScanCancelTime", kRealForm, stepScanCancelTime, kChangeTriggers),
-     "Stop without a press for", seconds(1, 60), SLIDER("stepScanCancelTime")},
+     LOCALIZABLE("Settings", "Stop without a press for"), seconds(1, 60), SLIDER("stepScanCancelTime")},
     {SETTING("scanner.wantHotKeyTrigger", kFlagForm, wantHotKeyTrigger, kChangeTriggers),
-     "Listen to hot keys", CHECK("wantHotKeyTriggerCheck", "changedWantHotKeyTrigger:")},
+     LOCALIZABLE("Settings", "Listen to hot keys"), CHECK("wantHotKeyTriggerCheck", "changedWantHotKeyTrigger:")},
     {SETTING("scanner.wantMouseClickTrigger", kFlagForm, wantMouseClickTrigger, kChangeTriggers),
-     "Listen to mouse clicks", CHECK("wantMouseClickTriggerCheck", "changedWantMouseClickTrigger:")},
+     LOCALIZABLE("Settings", "Listen to mouse clicks"), CHECK("wantMouseClickTriggerCheck", "changedWantMouseClickTrigger:")},
     {SETTING("scanner.triggerOnRelease", kFlagForm, triggerOnRelease, kChangeTriggers),
-     "A press counts", {}, kPressOrRelease},
+     LOCALIZABLE("Settings", "A press counts"), {}, kPressOrRelease},
     {SETTING("scanner.fakeMouse2SwitchMode", kFlagForm, fakeMouse2SwitchMode, 0),
-     "Second mouse button as a second switch"},
+     LOCALIZABLE("Settings", "Second mouse button as a second switch")},
     {SETTING("scanner.scanMode", kDecimalForm, scanMode, kChangeTriggers),
-     "Scan mode", {}, kScanModes},
-    {SETTING("scanner.scanArea", kRectangleForm, scanArea, kChangeScanArea), "My own area"},
+     LOCALIZABLE("Settings", "Scan mode"), {}, kScanModes},
+    {SETTING("scanner.scanArea", kRectangleForm, scanArea, kChangeScanArea), LOCALIZABLE("Settings", "My own area")},
     {SETTING("scanner.useScanArea", kFlagForm, useScanArea, kChangeScanArea),
-     "Scan", {}, kScanAreas},
+     LOCALIZABLE("Settings", "Scan"), {}, kScanAreas},
     {SETTING("scanner.lineScanCanEndKybdMode", kFlagForm, lineScanCanEndKybdMode,
              kChangeKeyboardMode),
-     "Line scan ends keyboard mode",
+     LOCALIZABLE("Settings", "Line scan ends keyboard mode"),
      CHECK("lineScanCanEndKybdModeCheck", "changedLineScanCanEndKyndMode:")},
     {SETTING("scanner.lineScanTime", kRealForm, lineScanTime, kChangeScanSpeed),
-     "Line scan time", seconds(1, 60), SLIDER("lineScanTime")},
+     LOCALIZABLE("Settings", "Line scan time"), seconds(1, 60), SLIDER("lineScanTime")},
     {SETTING("scanner.pointerScanTime", kRealForm, pointerScanTime, kChangeScanSpeed),
-     "Pointer scan time", seconds(1, 60), SLIDER("pointerScanTime")},
+     LOCALIZABLE("Settings", "Pointer scan time"), seconds(1, 60), SLIDER("pointerScanTime")},
     {SETTING("scanner.menuScanSpeedScaleFactor", kRealForm, menuScanSpeedScaleFactor,
              kChangeScanSpeed),
-     "Speed in menus", percent(10, 200, 5), SLIDER("menuScanSpeedScaleFactor")},
+     LOCALIZABLE("Settings", "Speed in menus"), percent(10, 200, 5), SLIDER("menuScanSpeedScaleFactor")},
     {SETTING("scanner.useScanAcceleration", kFlagForm, useScanAcceleration, kChangeScanSpeed),
-     "Start slowly, then speed up",
+     LOCALIZABLE("Settings", "Start slowly, then speed up"),
      CHECK("useScanAccelerationCheck", "changedUseScanAcceleration:")},
     {SETTING("scanner.autoRepeatTime", kRealForm, autoRepeatTime, kChangeScanSpeed),
-     "Time between repeats", seconds(0.5, 20), SLIDER("autoRepeatTime")},
+     LOCALIZABLE("Settings", "Time between repeats"), seconds(0.5, 20), SLIDER("autoRepeatTime")},
     {SETTING("scanner.clickDuration", kRealForm, clickDuration, kChangeScanSpeed),
-     "Length of a click", kMilliseconds, SLIDER("clickTime")},
-    {SETTING("scanner.interClickDelay", kRealForm, interClickDelay, 0), "Pause between clicks"},
-    {SETTING("scanner.lineColor", kColourForm, lineColor, kBothLines), "Line colour"},
+     LOCALIZABLE("Settings", "Length of a click"), kMilliseconds, SLIDER("clickTime")},
+    {SETTING("scanner.interClickDelay", kRealForm, interClickDelay, 0), LOCALIZABLE("Settings", "Pause between clicks")},
+    {SETTING("scanner.lineColor", kColourForm, lineColor, kBothLines), LOCALIZABLE("Settings", "Line colour")},
     {SETTING("scanner.lineThickness", kDecimalForm, lineThickness, kBothLines),
-     "Line thickness", points(1, 50), BUMPER("lineThickness")},
+     LOCALIZABLE("Settings", "Line thickness"), points(1, 50), BUMPER("lineThickness")},
     {SETTING("scanner.lineTransparency", kRealForm, lineTransparency, kChangeScanLineLook),
-     "Scan line transparency", percent(0, 95, 1), SLIDER("lineTransparency")},
+     LOCALIZABLE("Settings", "Scan line transparency"), percent(0, 95, 1), SLIDER("lineTransparency")},
     {SETTING("scanner.lineGhostTransparency", kRealForm, lineGhostTransparency,
              kChangeGuideLineLook),
-     "Guide line transparency", percent(0, 100, 1), SLIDER("guideTransparency")},
-    {SETTING("scanner.pointerImageName", kTextForm, pointerImageName, kChangePointer), "Pointer"},
-    {SETTING("hotkeys.keys", kHotKeyListForm, hotKeys, kChangeHotKeys), "Hot keys"},
+     LOCALIZABLE("Settings", "Guide line transparency"), percent(0, 100, 1), SLIDER("guideTransparency")},
+    {SETTING("scanner.pointerImageName", kTextForm, pointerImageName, kChangePointer), LOCALIZABLE("Settings", "Pointer")},
+    {SETTING("hotkeys.keys", kHotKeyListForm, hotKeys, kChangeHotKeys), LOCALIZABLE("Settings", "Hot keys")},
     {SETTING("palette.borderGap", kDecimalForm, borderGap, kChangePalette),
-     "Space around the edge of the palette", points(0, 100), BUMPER("borderGap")},
+     LOCALIZABLE("Settings", "Space around the edge of the palette"), points(0, 100), BUMPER("borderGap")},
     {SETTING("palette.buttonGap", kDecimalForm, buttonGap, kChangePalette),
-     "Space between palette buttons", points(0, 100), BUMPER("buttonGap")},
+     LOCALIZABLE("Settings", "Space between palette buttons"), points(0, 100), BUMPER("buttonGap")},
     {SETTING("palette.buttonSize", kSizeForm, buttonSize, kChangePalette),
-     "Size of palette buttons", {kMinButtonSize, kMaxButtonSize}},
+     LOCALIZABLE("Settings", "Size of palette buttons"), {kMinButtonSize, kMaxButtonSize}},
     {SETTING("palette.buttonShape", kHexWordForm, buttonShape, kChangePalette),
-     "Corners of palette buttons", {}, kCorners},
+     LOCALIZABLE("Settings", "Corners of palette buttons"), {}, kCorners},
     {SETTING("palette.buttonContent", kHexWordForm, buttonContent, kChangePalette),
-     "Shown on palette buttons"},
+     LOCALIZABLE("Settings", "Shown on palette buttons")},
     {SETTING("palette.buttonActions", kActionListForm, buttonActions, kChangePalette),
-     "Palette buttons"},
+     LOCALIZABLE("Settings", "Palette buttons")},
 };
 // clang-format on
 

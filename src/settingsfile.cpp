@@ -2,6 +2,7 @@
 #include "src/settingsfile.h"
 
 #include "platform/CoreFoundation/CFPropertyList.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreFoundation/UserFiles.h"
 #include "src/proputil.h"
 #include "src/settingcheck.h"
@@ -12,10 +13,10 @@ namespace {
 std::string take(const std::string& key, const CFType* value, SettingsOffer& offer) {
     const Setting* setting = settingOfKey(key);
     if (!setting)
-        return "no setting of this version";
+        return localized("Faults", "no setting of this version");
     PrefsRecord record = offer.record;
     if (!setting->form->read(value, setting->in(record)))
-        return "not a value of this setting";
+        return localized("Faults", "not a value of this setting");
     if (const std::string fault = settingFault(*setting, record); !fault.empty())
         return fault;
     offer.record = record;
@@ -40,7 +41,7 @@ SettingsOffer readSettingsFile(const std::string& path, const PrefsRecord& base)
     const auto list = propUtilReadFile(url.get(), CFDictionaryGetTypeID());
     const auto* dictionary = dynamicCFCast<CFDictionary>(list.get());
     if (!dictionary) {
-        offer.error = "not a file of settings, or it can't be read";
+        offer.error = localized("Faults", "not a file of settings, or it can't be read");
         return offer;
     }
     for (const auto& [key, value] : dictionary->items()) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "src/settingwords.h"
 
+#include "platform/CoreFoundation/Localization.h"
+
 #include "src/keycombo.h"
 
 #include <algorithm>
@@ -11,7 +13,9 @@
 namespace {
 
 constexpr const char* kHotKeyRoles[kNumHotKeys] = {
-    "Turn scanning on or off", "Scan", "Cancel the scan", "Show these settings", "Second scan key"};
+    LOCALIZABLE("HotKeys", "Turn scanning on or off"), LOCALIZABLE("HotKeys", "Scan"),
+    LOCALIZABLE("HotKeys", "Cancel the scan"), LOCALIZABLE("HotKeys", "Show these settings"),
+    LOCALIZABLE("HotKeys", "Second scan key")};
 
 template <class T>
 T get(const Setting& setting, const PrefsRecord& record) {
@@ -24,30 +28,34 @@ template <class... Parts>
 std::string print(const char* format, Parts... parts) {
     char text[400]; // the longest double has 309 digits before the point
     std::snprintf(text, sizeof text, format, parts...);
-    return text;
+    return localizedNumbers(text);
 }
 
 std::string numberText(const Setting& setting, const PrefsRecord& record) {
-    const std::string text = print(setting.limits.format, settingNumber(setting, record));
+    const std::string text =
+        print(localized("Formats", setting.limits.format).c_str(), settingNumber(setting, record));
     return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
 
 std::string choiceText(const Setting& setting, const PrefsRecord& record) {
     UInt32 choice = 0;
     std::memcpy(&choice, setting.in(record), setting.size); // little-endian, as the record is
-    return choice < setting.choices.size() ? setting.choices[choice] : std::to_string(choice);
+    return choice < setting.choices.size() ? localized("Choices", setting.choices[choice])
+                                           : std::to_string(choice);
 }
 
 std::string areaText(const ScanArea& area) {
     if (area.width <= 0 || area.height <= 0)
-        return "none";
-    return print("%g × %g at %g, %g", double{area.width}, double{area.height}, double{area.x},
-                 double{area.y});
+        return localized("Settings", "none", "an area");
+    return print(localized("Settings", "%g × %g at %g, %g", "width, height, x, y").c_str(),
+                 double{area.width}, double{area.height}, double{area.x}, double{area.y});
 }
 
 std::string contentText(UInt32 content) {
-    constexpr const char* kContents[] = {"nothing", "icon", "name", "icon and name"};
-    return kContents[content & 3];
+    constexpr const char* kContents[] = {
+        LOCALIZABLE("Settings", "nothing"), LOCALIZABLE("Settings", "icon"),
+        LOCALIZABLE("Settings", "name"), LOCALIZABLE("Settings", "icon and name")};
+    return localized("Settings", kContents[content & 3]);
 }
 
 std::string hotKeyText(const HotKey& hotKey) {
@@ -63,17 +71,19 @@ std::string hotKeysText(const HotKey (&hotKeys)[kNumHotKeys]) {
 }
 
 std::string actionsText(const UInt8 (&actions)[kNumPaletteSlots]) {
-    const auto count = std::ranges::count_if(actions, [](UInt8 action) { return action != 0; });
-    return std::to_string(count) + (count == 1 ? " button" : " buttons");
+    const auto count =
+        static_cast<int>(std::ranges::count_if(actions, [](UInt8 action) { return action != 0; }));
+    return count == 1 ? localized("Settings", "1 button")
+                      : localized("Settings", "%n buttons", "", count);
 }
 
-/// "12.5 back to 10.0 sec": a unit that both numbers have is said once.
-std::string bothTexts(std::string before, const char* between, const std::string& after) {
+/// "12.5" of "12.5 sec": a unit that the number after it has, too, is said once.
+std::string withoutUnit(std::string before, const std::string& after) {
     const auto unit = after.rfind(' ');
     if (!after.empty() && std::isdigit(static_cast<unsigned char>(after[0])) &&
         unit != std::string::npos && before.ends_with(after.substr(unit)))
         before.erase(before.size() - (after.size() - unit));
-    return before + between + after;
+    return before;
 }
 
 } // namespace
@@ -92,14 +102,16 @@ std::string settingText(const Setting& setting, const PrefsRecord& record) {
     if (!setting.choices.empty())
         return choiceText(setting, record);
     if (setting.form == &kFlagForm)
-        return get<UInt8>(setting, record) ? "on" : "off";
+        return get<UInt8>(setting, record) ? localized("Settings", "on")
+                                           : localized("Settings", "off");
     if (setting.form == &kRectangleForm)
         return areaText(record.scanArea);
     if (setting.form == &kColourForm)
         return print("#%02x%02x%02x", record.lineColor.red, record.lineColor.green,
                      record.lineColor.blue);
     if (setting.form == &kSizeForm)
-        return print("%d × %d points", record.buttonSize.width, record.buttonSize.height);
+        return print(localized("Settings", "%d × %d points").c_str(), record.buttonSize.width,
+                     record.buttonSize.height);
     if (setting.form == &kHotKeyListForm)
         return hotKeysText(record.hotKeys);
     if (setting.form == &kActionListForm)
@@ -113,13 +125,23 @@ std::string settingText(const Setting& setting, const PrefsRecord& record) {
 }
 
 std::string changeText(const Setting& setting, const PrefsRecord& before, const PrefsRecord& after,
-                       const char* between) {
+                       const char* pattern) {
+    const std::string form = localized("Changes", pattern);
     if (setting.form == &kHotKeyListForm)
         for (int i = 0; i < kNumHotKeys; ++i)
             if (std::memcmp(&before.hotKeys[i], &after.hotKeys[i], sizeof(HotKey)) != 0)
-                return kHotKeyRoles[i] + (": " + hotKeyText(before.hotKeys[i])) + between +
-                       hotKeyText(after.hotKeys[i]);
+                return filled(form, {localized("HotKeys", kHotKeyRoles[i]),
+                                     hotKeyText(before.hotKeys[i]), hotKeyText(after.hotKeys[i])});
     const std::string old = settingText(setting, before);
     const std::string now = settingText(setting, after);
-    return old == now ? setting.name : setting.name + (": " + bothTexts(old, between, now));
+    const std::string name = localized("Settings", setting.name);
+    return old == now ? name : filled(form, {name, withoutUnit(old, now), now});
+}
+
+std::string rangeText(const SettingLimits& limits) {
+    return *limits.unit ? filled(localized("Units", "%1 to %2 %3", "as in 1 to 60 seconds"),
+                                 {print("%g", limits.minimum), print("%g", limits.maximum),
+                                  localized("Units", limits.unit)})
+                        : filled(localized("Units", "%1 to %2", "as in 0 to 100"),
+                                 {print("%g", limits.minimum), print("%g", limits.maximum)});
 }

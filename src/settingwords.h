@@ -3,6 +3,8 @@
 
 #include "src/settings.h"
 
+#include "platform/CoreFoundation/Localization.h"
+
 #include <string>
 
 // A setting's value in people's words and units, in UTF-8.
@@ -13,7 +15,13 @@ std::string settingText(const Setting& setting, const PrefsRecord& record);
 /// The number that a setting holds, in its unit; 0 for a setting that isn't a number.
 double settingNumber(const Setting& setting, const PrefsRecord& record);
 
-/// What a change did, as in "Line scan time: 12.5 back to 10.0 sec", with " back to " between the
-/// two values. Of hot keys it names the first that differs. Values that read the same aren't said.
+inline constexpr char kSettingBecomes[] = LOCALIZABLE("Changes", "%1: %2 to %3");
+inline constexpr char kSettingBecomesAgain[] = LOCALIZABLE("Changes", "%1: %2 back to %3");
+
+/// What a change did, as in "Line scan time: 12.5 back to 10.0 sec", by one of the patterns above.
+/// Of hot keys it names the first that differs. Values that read the same aren't said.
 std::string changeText(const Setting& setting, const PrefsRecord& before, const PrefsRecord& after,
-                       const char* between);
+                       const char* pattern);
+
+/// "1 to 60 seconds", of limits that are.
+std::string rangeText(const SettingLimits& limits);

@@ -4,7 +4,7 @@
 
 build_packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgl-dev libopengl-dev
+    qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev libgl-dev libopengl-dev
     libicns-dev libqt6svg6 libxcb1-dev
     librsvg2-bin icnsutils python3
     libgtest-dev libgmock-dev

@@ -4,6 +4,7 @@
 #include "platform/AppKit/detail/ColorWellButton.h"
 
 #include <QColorDialog>
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -23,7 +24,7 @@ NSColor toNSColor(const QColor& color) {
 }
 
 QString inWords(const QColor& color) {
-    return QStringLiteral("Red %1, green %2, blue %3, each of 255")
+    return QCoreApplication::translate("NSColorWell", "Red %1, green %2, blue %3, each of 255")
         .arg(color.red())
         .arg(color.green())
         .arg(color.blue());

@@ -2,6 +2,7 @@
 #include "platform/HIToolbox/AppleHelp.h"
 
 #include "platform/CoreFoundation/CFBundle.h"
+#include "platform/CoreFoundation/Localization.h"
 
 #include <QDesktopServices>
 #include <QUrl>
@@ -31,6 +32,15 @@ fs::path findPage(const fs::path& folder, const fs::path& page) {
     return inside.empty() || *inside.begin() == ".." ? fs::path() : file;
 }
 
+/// The book in the user's language; empty when there is none.
+fs::path localizedBook(const fs::path& book) {
+    std::error_code error;
+    const fs::path folder = fs::path(localizationFolder()) / book.filename();
+    return localizationFolder().empty() || !fs::exists(folder / kStartPage, error)
+               ? fs::path()
+               : fs::canonical(folder, error);
+}
+
 } // namespace
 
 OSStatus AHRegisterHelpBook(const FSRef* bundleRef) {
@@ -49,7 +59,9 @@ OSStatus AHRegisterHelpBook(const FSRef* bundleRef) {
 
     const CFRef<CFURL> url = CFBundleCopyResourceURL(bundle.get(), folderName, nullptr, nullptr);
     std::error_code error;
-    const fs::path folder = url ? fs::canonical(url->path(), error) : fs::path();
+    fs::path folder = url ? fs::canonical(url->path(), error) : fs::path();
+    if (const fs::path own = localizedBook(folder); !own.empty())
+        folder = own;
     if (folder.empty() || findPage(folder, kStartPage).empty())
         return kAHInternalErr;
     books()[name->text()] = folder;

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/commands/command.h"
+
+#include "platform/CoreFoundation/Localization.h"
 #include "src/commands/store.h"
 #include "src/defaults.h"
 #include "src/settingcheck.h"
@@ -19,13 +21,14 @@ int change(const SettingSet& settings, const PrefsRecord& record) {
 
 int runSet(const CommandLine& line) {
     if (line.operands.size() % 2)
-        return commandFailed("every key needs a value");
+        return commandFailed(localized("Commands", "every key needs a value"));
     PrefsRecord record = currentSettings();
     SettingSet settings;
     for (std::size_t i = 0; i < line.operands.size(); i += 2) {
         const Setting* setting = settingOfKey(line.operands[i]);
         if (!setting)
-            return commandFailed("there is no setting \"" + line.operands[i] + "\"");
+            return commandFailed(
+                filled(localized("Commands", "there is no setting \"%1\""), {line.operands[i]}));
         const std::string fault = setFromWords(*setting, line.operands[i + 1], record);
         if (!fault.empty())
             return commandFailed(line.operands[i] + ": " + fault);
@@ -41,7 +44,8 @@ int runReset(const CommandLine& line) {
         if (key == "all")
             settings.set();
         else if (!setting)
-            return commandFailed("there is no setting \"" + key + "\"");
+            return commandFailed(
+                filled(localized("Commands", "there is no setting \"%1\""), {key}));
         else
             settings[indexOf(setting)] = true;
     }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/commands/command.h"
+
+#include "platform/CoreFoundation/Localization.h"
 #include "src/commands/json.h"
 #include "src/commands/store.h"
 #include "src/profiles.h"
@@ -17,11 +19,13 @@ void printOffer(const SettingsOffer& offer, const PrefsRecord& now) {
     const SettingSet changed = differences(now, offer.record);
     for (std::size_t i = 0; i < kSettings.size(); ++i)
         if (changed[i])
-            std::printf("%s\n", changeText(kSettings[i], now, offer.record, " to ").c_str());
+            std::printf("%s\n",
+                        changeText(kSettings[i], now, offer.record, kSettingBecomes).c_str());
     if (changed.none())
-        std::puts("Nothing differs from the settings as they are.");
+        std::puts(localized("Commands", "Nothing differs from the settings as they are.").c_str());
     for (const auto& [key, reason] : offer.refused)
-        std::fprintf(stderr, "Left out: %s: %s\n", key.c_str(), reason.c_str());
+        std::fprintf(stderr, "%s\n",
+                     filled(localized("Commands", "Left out: %1: %2"), {key, reason}).c_str());
 }
 
 int take(const SettingsOffer& offer) {
@@ -42,7 +46,8 @@ int listProfiles(const CommandLine& line) {
             items += (items.empty() ? "" : ",\n ") +
                      JsonObject().add("name", name).add("inUse", isCurrent ? "yes" : "no").text();
         else
-            std::printf("%s%s\n", name.c_str(), isCurrent ? " (in use)" : "");
+            std::puts(
+                (isCurrent ? filled(localized("Commands", "%1 (in use)"), {name}) : name).c_str());
     }
     if (line.json)
         std::printf("[%s]\n", items.c_str());
@@ -89,7 +94,7 @@ int runImport(const CommandLine& line) {
     printOffer(offer, now);
     if (line.yes)
         return take(offer);
-    std::puts("Nothing was changed. With --yes it is.");
+    std::puts(localized("Commands", "Nothing was changed. With --yes it is.").c_str());
     return kCommandDone;
 }
 
@@ -106,8 +111,7 @@ int runProfile(const CommandLine& line) {
         return done(renameProfile(line.operands[1], line.operands[2]));
     if (verb == "delete" && count == 2)
         return done(deleteProfile(line.operands[1]));
-    std::fputs("korvex-preferences: profile list, use NAME, save NAME, rename NAME NEW or "
-               "delete NAME\n",
-               stderr);
+    commandFailed(localized("Commands", "profile list, use NAME, save NAME, rename NAME NEW or "
+                                        "delete NAME"));
     return kCommandMisused;
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/commands/command.h"
+
+#include "platform/CoreFoundation/Localization.h"
 #include "src/commands/json.h"
 #include "src/commands/store.h"
 #include "src/defaults.h"
@@ -15,16 +17,13 @@ std::string storedText(const Setting& setting, const PrefsRecord& record) {
 }
 
 /// "1 to 60 seconds", the choices, or nothing.
-std::string rangeText(const Setting& setting) {
+std::string choiceText(const Setting& setting) {
     if (const SettingLimits& limits = setting.limits; limits.maximum > 0) {
-        char text[100];
-        std::snprintf(text, sizeof text, "%g to %g%s%s", limits.minimum, limits.maximum,
-                      *limits.unit ? " " : "", limits.unit);
-        return text;
+        return rangeText(limits);
     }
     std::string choices;
     for (const char* choice : setting.choices)
-        choices += (choices.empty() ? "" : ", ") + std::string(choice);
+        choices += (choices.empty() ? "" : ", ") + localized("Choices", choice);
     return choices;
 }
 
@@ -42,7 +41,7 @@ void printListJson(const PrefsRecord& now, const PrefsRecord& defaults) {
     for (const Setting& setting : kSettings) {
         JsonObject object = describe(setting, now);
         object.add("name", setting.name).add("default", settingText(setting, defaults));
-        object.add("range", rangeText(setting)).add("unit", setting.limits.unit);
+        object.add("range", choiceText(setting)).add("unit", setting.limits.unit);
         items += (items.empty() ? "" : ",\n ") + object.text();
     }
     std::printf("[%s]\n", items.c_str());
@@ -61,11 +60,14 @@ int runList(const CommandLine& line) {
     for (std::size_t i = 0; i < kSettings.size(); ++i) {
         const Setting& setting = kSettings[i];
         std::printf("%s = %s\n    %s", setting.key, settingText(setting, now).c_str(),
-                    setting.name);
-        if (const std::string range = rangeText(setting); !range.empty())
+                    localized("Settings", setting.name).c_str());
+        if (const std::string range = choiceText(setting); !range.empty())
             std::printf(" (%s)", range.c_str());
         if (changed[i])
-            std::printf("; default: %s", settingText(setting, defaults).c_str());
+            std::fputs(
+                filled(localized("Commands", "; default: %1"), {settingText(setting, defaults)})
+                    .c_str(),
+                stdout);
         std::puts("");
     }
     return kCommandDone;
@@ -77,7 +79,8 @@ int runGet(const CommandLine& line) {
     for (const std::string& key : line.operands) {
         const Setting* setting = settingOfKey(key);
         if (!setting)
-            return commandFailed("there is no setting \"" + key + "\"");
+            return commandFailed(
+                filled(localized("Commands", "there is no setting \"%1\""), {key}));
         if (line.json)
             items += (items.empty() ? "" : ",\n ") + describe(*setting, now).text();
         else

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "src/commands/command.h"
 
+#include "platform/CoreFoundation/Localization.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
@@ -8,31 +10,53 @@
 namespace {
 
 constexpr Command kCommands[] = {
-    {"list", "", "Shows every setting: its key, value, default, range and what it is.", runList, 0,
-     0},
-    {"get", "KEY…", "Shows the value of settings.", runGet, 1, 0},
-    {"set", "KEY VALUE…", "Changes settings.", runSet, 2, 0},
-    {"reset", "KEY…", "Puts settings back to their defaults; \"all\" stands for all of them.",
+    {"list", "",
+     LOCALIZABLE("Commands", "Shows every setting: its key, value, default, range and what it is."),
+     runList, 0, 0},
+    {"get", LOCALIZABLE("Commands", "KEY…"),
+     LOCALIZABLE("Commands", "Shows the value of settings."), runGet, 1, 0},
+    {"set", LOCALIZABLE("Commands", "KEY VALUE…"), LOCALIZABLE("Commands", "Changes settings."),
+     runSet, 2, 0},
+    {"reset", LOCALIZABLE("Commands", "KEY…"),
+     LOCALIZABLE("Commands",
+                 "Puts settings back to their defaults; \"all\" stands for all of them."),
      runReset, 1, 0},
-    {"export", "FILE", "Writes the settings to a file; - stands for standard output.", runExport, 1,
-     1},
-    {"import", "FILE", "Shows what a file would change; with --yes, changes it.", runImport, 1, 1},
-    {"profile", "list|use|save|rename|delete [NAME…]",
-     "Lists and uses named states of the settings.", runProfile, 1, 3},
-    {"completion", "", "Prints the completion for bash.", runCompletion, 0, 0},
-    {"manual", "", "Prints the manual page's part on commands and settings.", runManual, 0, 0},
+    {"export", LOCALIZABLE("Commands", "FILE"),
+     LOCALIZABLE("Commands", "Writes the settings to a file; - stands for standard output."),
+     runExport, 1, 1},
+    {"import", LOCALIZABLE("Commands", "FILE"),
+     LOCALIZABLE("Commands", "Shows what a file would change; with --yes, changes it."), runImport,
+     1, 1},
+    {"profile", LOCALIZABLE("Commands", "list|use|save|rename|delete [NAME…]"),
+     LOCALIZABLE("Commands", "Lists and uses named states of the settings."), runProfile, 1, 3},
+    {"completion", "", LOCALIZABLE("Commands", "Prints the completion for bash."), runCompletion, 0,
+     0},
+    {"manual", "",
+     LOCALIZABLE("Commands", "Prints the manual page's part on commands and settings."), runManual,
+     0, 0},
 };
 
+/// Empty when the command takes none.
+std::string operandsOf(const Command& command) {
+    return *command.operands ? localized("Commands", command.operands) : "";
+}
+
 int printHelp() {
-    std::puts("Usage: korvex-preferences COMMAND [--json] [--yes] …\n");
+    std::printf(
+        "%s\n\n",
+        localized("Commands", "Usage: korvex-preferences COMMAND [--json] [--yes] …").c_str());
     for (const Command& command : kCommands)
-        std::printf("  %s %s\n      %s\n", command.name, command.operands, command.does);
-    std::puts("\n  --json  answers for programs\n  --yes   doesn't ask");
+        std::printf("  %s %s\n      %s\n", command.name, operandsOf(command).c_str(),
+                    localized("Commands", command.does).c_str());
+    std::printf("\n  --json  %s\n  --yes   %s\n",
+                localized("Commands", "answers for programs").c_str(),
+                localized("Commands", "doesn't ask").c_str());
     return kCommandDone;
 }
 
 int misused(const std::string& message) {
-    std::fprintf(stderr, "korvex-preferences: %s\nSee korvex-preferences help.\n", message.c_str());
+    commandFailed(message);
+    std::fprintf(stderr, "%s\n", localized("Commands", "See korvex-preferences help.").c_str());
     return kCommandMisused;
 }
 
@@ -72,13 +96,15 @@ int korvexRunCommand(int count, const char* const* arguments) {
     const auto* command =
         std::ranges::find_if(kCommands, [&](const Command& known) { return name == known.name; });
     if (command == std::end(kCommands))
-        return misused("there is no command \"" + name + "\"");
+        return misused(filled(localized("Commands", "there is no command \"%1\""), {name}));
     CommandLine line;
     if (!parse({arguments + 1, arguments + count}, line))
-        return misused("there is no such option");
+        return misused(localized("Commands", "there is no such option"));
     const std::size_t most = command->most ? command->most : command->fewest ? SIZE_MAX : 0;
     if (line.operands.size() < command->fewest || line.operands.size() > most)
-        return misused(name + std::string(" takes ") +
-                       (*command->operands ? command->operands : "no operand"));
+        return misused(
+            *command->operands
+                ? filled(localized("Commands", "%1 takes %2"), {name, operandsOf(*command)})
+                : filled(localized("Commands", "%1 takes no operand"), {name}));
     return command->run(line);
 }

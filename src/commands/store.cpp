@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/commands/store.h"
 
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreFoundation/PreferencesOutcome.h"
 #include "src/login/launch.h"
 #include "src/openwindow.h"
@@ -13,8 +14,9 @@ namespace {
 
 std::string savingFault() {
     const PreferencesOutcome outcome = preferencesSaveOutcome(kAgentBundleID);
-    return "can't store the settings in " + outcome.path +
-           (outcome.error ? std::string(": ") + std::strerror(outcome.error) : "");
+    const std::string fault =
+        filled(localized("Commands", "can't store the settings in %1"), {outcome.path});
+    return outcome.error ? fault + ": " + std::strerror(outcome.error) : fault;
 }
 
 /// The window does this when it is open.

@@ -4,6 +4,7 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSPopUpButton.h"
 #include "platform/AppKit/NSTextField.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "src/keycombo.h"
 #include "src/prefpane/HotKeyView.h"
@@ -67,13 +68,15 @@ void HotKeyBuilder::enable(bool enabled) {
 
 void HotKeyBuilder::load() {
     view_ = nullptr;
-    builderTitle->setStringValue("First choose “Choose keys…” in the menu beside a hot key.");
+    builderTitle->setStringValue(
+        localized("HotKeys", "First choose “Choose keys…” in the menu beside a hot key."));
     enable(false);
 }
 
 void HotKeyBuilder::begin(HotKeyView& view) {
     view_ = &view;
-    builderTitle->setStringValue("New keys for “" + view.accessibilityLabel() + "”");
+    builderTitle->setStringValue(
+        filled(localized("HotKeys", "New keys for “%1”"), {view.accessibilityLabel()}));
     for (const auto& [box, bit] : modifiersOf(*this))
         box->setState(view.modifiers() & bit ? NSOnState : NSOffState);
     enable(true);

@@ -4,6 +4,7 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSPopUpButton.h"
 #include "platform/AppKit/NSTextField.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "src/prefpane/HotKeyView.h"
 
@@ -14,8 +15,8 @@ namespace {
 /// How long a capture can keep keys from everyone else.
 constexpr int kCaptureSeconds = 30;
 
-constexpr const char* kClaim = "Use it here and remove it there";
-constexpr const char* kRestore = "Put back what was here";
+constexpr const char* kClaim = LOCALIZABLE("HotKeys", "Use it here and remove it there");
+constexpr const char* kRestore = LOCALIZABLE("HotKeys", "Put back what was here");
 
 /// Whether both are assigned and the agent would take one for the other.
 bool isSameHotKey(const HotKey& a, const HotKey& b) {
@@ -39,10 +40,10 @@ void HotKeyEditor::setup(HotKeyViewTarget& viewTarget, NSObject& menuTarget) {
         const char* title;
         std::string_view action;
     } kItems[] = {
-        {"Press new keys", "captureHotKey:"},
-        {"Choose keys…", "chooseHotKey:"},
-        {"None", "removeHotKey:"},
-        {"Default", "resetHotKey:"},
+        {LOCALIZABLE("HotKeys", "Press new keys"), "captureHotKey:"},
+        {LOCALIZABLE("HotKeys", "Choose keys…"), "chooseHotKey:"},
+        {LOCALIZABLE("HotKeys", "None"), "removeHotKey:"},
+        {LOCALIZABLE("HotKeys", "Default"), "resetHotKey:"},
         {kClaim, "claimHotKey:"},
         {kRestore, "restoreHotKey:"},
     };
@@ -53,7 +54,8 @@ void HotKeyEditor::setup(HotKeyViewTarget& viewTarget, NSObject& menuTarget) {
     for (const HotKeyRow* row : rows()) {
         row->view->setTarget(&viewTarget);
         row->view->setIndex(index);
-        for (const auto& [title, action] : kItems) {
+        for (const auto& [text, action] : kItems) {
+            const std::string title = localized("HotKeys", text);
             row->menu->addItemWithTitle(title);
             NSMenuItem* item = row->menu->itemWithTitle(title);
             item->setTag(index);
@@ -142,10 +144,11 @@ void HotKeyEditor::countDown() {
     stopCountingDown();
     if (secondsLeft_ == 0)
         return cancelHotKeyEdit();
-    editingKeyPrompt1->setStringValue(
-        "Listening: press the new hot key, one key, alone or with Ctrl, Alt, Shift or Super held "
-        "down. Every key counts, Esc and Tab too. " +
-        std::to_string(secondsLeft_--) + " seconds left.");
+    editingKeyPrompt1->setStringValue(filled(
+        localized("HotKeys", "Listening: press the new hot key, one key, alone or with Ctrl, "
+                             "Alt, Shift or Super held down. Every key counts, Esc and Tab "
+                             "too. %1 seconds left."),
+        {std::to_string(secondsLeft_--)}));
     const auto tick = [](EventLoopTimerRef, void* editor) {
         static_cast<HotKeyEditor*>(editor)->countDown();
     };
@@ -198,19 +201,25 @@ void HotKeyEditor::updateHotKeyNotes() {
     const auto all = rows();
     for (std::size_t i = 0; i < all.size(); ++i) {
         const auto same = sameAs(i);
-        std::string note;
+        std::string names, note;
         for (const std::size_t other : same)
-            note += (note.empty() ? "⚠ The same keys as “" : ", “") +
-                    all[other]->view->accessibilityLabel() + "”";
+            names += (names.empty() ? "" : ", ") +
+                     filled(localized("HotKeys", "“%1”"), {all[other]->view->accessibilityLabel()});
         if (!same.empty())
-            note += ". The menu beside it offers to use them here alone, or to put back what was "
-                    "here.";
+            note =
+                filled(localized("HotKeys", "⚠ The same keys as %1. The menu beside it offers to "
+                                            "use them here alone, or to put back what was here."),
+                       {names});
         all[i]->note->setStringValue(note);
         for (const char* offer : {kClaim, kRestore})
-            all[i]->menu->itemWithTitle(offer)->setTarget(same.empty() ? nullptr : menuTarget_);
+            all[i]
+                ->menu->itemWithTitle(localized("HotKeys", offer))
+                ->setTarget(same.empty() ? nullptr : menuTarget_);
         const auto combination = all[i]->view->combination();
         all[i]->menu->setAccessibilityHelp(
-            (combination ? "Now " + CFStringToUTF8(combination.get()) + ". " : std::string()) +
+            (combination
+                 ? filled(localized("HotKeys", "Now %1. "), {CFStringToUTF8(combination.get())})
+                 : std::string()) +
             note);
     }
 }

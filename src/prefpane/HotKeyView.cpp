@@ -7,6 +7,7 @@
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSGraphics.h"
 #include "platform/AppKit/NSStringDrawing.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "platform/HIToolbox/HotKeyMode.h"
 #include "src/keycombo.h"
@@ -174,5 +175,5 @@ std::string HotKeyView::accessibilityValue() const {
 }
 
 std::string HotKeyView::accessibilityStatus() const {
-    return isFirstResponder() ? "Capturing: press the new keys." : "";
+    return isFirstResponder() ? localized("HotKeys", "Capturing: press the new keys.") : "";
 }

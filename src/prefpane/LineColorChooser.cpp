@@ -3,6 +3,7 @@
 
 #include "platform/AppKit/NSColorWell.h"
 #include "platform/AppKit/NSGraphics.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "src/prefpane/NumberController.h"
 
 #include <iterator>
@@ -19,10 +20,18 @@ struct NamedColor {
 
 /// The twelve of strongest contrast with one another, from Kenneth Kelly's list of 1965.
 constexpr NamedColor kColors[] = {
-    {"White", {255, 255, 255}}, {"Black", {0, 0, 0}},      {"Yellow", {255, 179, 0}},
-    {"Purple", {128, 62, 117}}, {"Orange", {255, 104, 0}}, {"Light blue", {166, 189, 215}},
-    {"Red", {193, 0, 32}},      {"Buff", {206, 162, 98}},  {"Grey", {129, 112, 102}},
-    {"Green", {0, 125, 52}},    {"Pink", {246, 118, 142}}, {"Blue", {0, 83, 138}},
+    {LOCALIZABLE("Colour", "White"), {255, 255, 255}},
+    {LOCALIZABLE("Colour", "Black"), {0, 0, 0}},
+    {LOCALIZABLE("Colour", "Yellow"), {255, 179, 0}},
+    {LOCALIZABLE("Colour", "Purple"), {128, 62, 117}},
+    {LOCALIZABLE("Colour", "Orange"), {255, 104, 0}},
+    {LOCALIZABLE("Colour", "Light blue"), {166, 189, 215}},
+    {LOCALIZABLE("Colour", "Red"), {193, 0, 32}},
+    {LOCALIZABLE("Colour", "Buff"), {206, 162, 98}},
+    {LOCALIZABLE("Colour", "Grey"), {129, 112, 102}},
+    {LOCALIZABLE("Colour", "Green"), {0, 125, 52}},
+    {LOCALIZABLE("Colour", "Pink"), {246, 118, 142}},
+    {LOCALIZABLE("Colour", "Blue"), {0, 83, 138}},
 };
 
 NSColor toNSColor(const LineColor& color) {
@@ -56,7 +65,7 @@ int LineColorChooser::choiceCount() const {
 }
 
 std::string LineColorChooser::choiceName(int index) const {
-    return kColors[index].name;
+    return localized("Colour", kColors[index].name);
 }
 
 bool LineColorChooser::isChosen(int index) const {

@@ -3,6 +3,7 @@
 
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSTextField.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "src/prefpane/NumberController.h"
 #include "src/prefpane/numbertext.h"
 
@@ -29,8 +30,9 @@ void NumberControls::update(const NumberController& controller, const std::strin
     };
 
     for (const auto& [button, worth, enabled] : buttons) {
-        const std::string words =
-            text(worth < 0 ? -worth : worth) + (worth < 0 ? " less" : " more");
+        const std::string words = worth < 0
+                                      ? filled(localized("Numbers", "%1 less"), {text(-worth)})
+                                      : filled(localized("Numbers", "%1 more"), {text(worth)});
         button->setEnabled(enabled);
         button->setToolTip(words);
         // The value first: a screen reader that is at the button hears it when it changes.
@@ -40,7 +42,8 @@ void NumberControls::update(const NumberController& controller, const std::strin
 }
 
 void NumberControls::refuse(double least, double most) const {
-    label->refuse("Only " + text(least) + " to " + text(most) + " can be set.");
+    label->refuse(
+        filled(localized("Numbers", "Only %1 to %2 can be set."), {text(least), text(most)}));
 }
 
 std::string NumberControls::text(double number) const {

@@ -6,6 +6,7 @@
 #include "platform/AppKit/NSMenuItem.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/AppKit/NSWindow.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "src/prefpane/BumperController.h"
 #include "src/prefpane/palutil.h"
@@ -33,7 +34,9 @@ void PaletteEditor::setup(PaletteViewTarget& clicks, NSObject& menuTarget) {
 }
 
 void PaletteEditor::setupButtonSizes() {
-    const auto points = [](int size) { return std::to_string(size) + " points"; };
+    const auto points = [](int size) {
+        return filled(localized("Palette", "%1 points"), {std::to_string(size)});
+    };
     const auto both = [points] {
         const ButtonSize size = prefs.buttonSize;
         return size.width == size.height
@@ -57,7 +60,7 @@ void PaletteEditor::setupButtonSizes() {
 
     for (const auto& row : rows) {
         row.bumper->setKind(kNumberKindSInt32, row.pending, -10, 10, 1, row.changes);
-        row.bumper->setFormat("%.0f points");
+        row.bumper->setFormat(LOCALIZABLE("Formats", "%.0f points"));
         row.bumper->setDisplay({row.text,
                                 [this, width = row.width, height = row.height](double typed) {
                                     return takeButtonSize(typed, width, height);
@@ -229,13 +232,15 @@ void PaletteEditor::updatePaletteCtls() {
 void PaletteEditor::updatePalettePrompt() {
     const SInt32 selected = selectedSlot();
     if (firstBtnToSwap_ != kNoButton)
-        palettePrompt->setStringValue("Choose the button to swap with button " +
-                                      paletteSlotName(firstBtnToSwap_) +
-                                      ". The same button again, or Escape, cancels.");
+        palettePrompt->setStringValue(
+            filled(localized("Palette", "Choose the button to swap with button %1. The same button "
+                                        "again, or Escape, cancels."),
+                   {paletteSlotName(firstBtnToSwap_)}));
     else if (selected != kNoButton)
-        palettePrompt->setStringValue("Chosen: button " + paletteSlotName(selected) + ".");
+        palettePrompt->setStringValue(
+            filled(localized("Palette", "Chosen: button %1."), {paletteSlotName(selected)}));
     else
-        palettePrompt->setStringValue("Choose a button to change it.");
+        palettePrompt->setStringValue(localized("Palette", "Choose a button to change it."));
 }
 
 void PaletteEditor::resetPaletteControls() {

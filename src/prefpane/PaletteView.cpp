@@ -3,6 +3,7 @@
 
 #include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSEvent.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/Appearance.h"
 #include "src/prefpane/palutil.h"
 #include "src/prefs.h"
@@ -32,9 +33,11 @@ std::string paletteSlotName(SInt32 index) {
     const UInt8 action = prefs.buttonActions[index];
     const CFString* title = palutilActionTitle(action);
     const std::string name = title                    ? CFStringToUTF8(title)
-                             : action == kEmptyAction ? std::string("Empty slot")
-                                                      : "Action " + std::to_string(action);
-    return std::to_string(index + 1) + ", " + name;
+                             : action == kEmptyAction ? localized("Palette", "Empty slot")
+                                                      : filled(localized("Palette", "Action %1"),
+                                                               {std::to_string(action)});
+    return filled(localized("Palette", "%1, %2", "number and name of a button"),
+                  {std::to_string(index + 1), name});
 }
 
 void PaletteView::selectBtn(SInt32 index) {

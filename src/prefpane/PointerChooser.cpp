@@ -3,6 +3,7 @@
 
 #include "platform/AppKit/NSGraphics.h"
 #include "platform/AppKit/NSTextField.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/NumberController.h"
 #include "src/prefpane/ptrman.h"
@@ -38,7 +39,8 @@ void PointerChooser::updatePointerName() {
     PointerImage pointer;
     const bool isThere =
         ptrutilLoadPointerFromBundle(daemonMainBundle(), prefs.pointerImageName, &pointer);
-    pointerName->setStringValue(isThere ? ptrutilPointerTitle(prefs.pointerImageName) : "None");
+    pointerName->setStringValue(isThere ? ptrutilPointerTitle(prefs.pointerImageName)
+                                        : localized("Pointer", "None"));
     pointerGrid->reload();
 }
 

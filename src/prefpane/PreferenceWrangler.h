@@ -171,7 +171,7 @@ public:
 private:
     void noteStep();
     void showStep(const HistoryStep& step, const PrefsRecord& before, const PrefsRecord& after,
-                  const char* between);
+                  const char* pattern);
     void updateHistoryUI();
     /// The view that shows a setting; null for one without a control.
     NSView* viewOf(std::size_t row) const;

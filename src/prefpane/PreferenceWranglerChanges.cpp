@@ -5,6 +5,7 @@
 #include "platform/AppKit/NSMatrix.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/AppKit/UserMessages.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "src/keycombo.h"
 #include "src/prefpane/Daemon.h"
@@ -27,14 +28,17 @@ constexpr char kOffTopic[] = "off";
 void tellHowToSwitchOn() {
     const auto keys = createKeyComboString(prefs.hotKeys[0].modifiers, prefs.hotKeys[0].keyCode);
     const bool hasKeys = keys && prefs.hotKeys[0].keyCode >= 0;
-    tellUser(kOffTopic, {.kind = UserMessage::Kind::Note,
-                         .text = hasKeys ? "Scanning is off. " + CFStringToUTF8(keys.get()) +
-                                               " switches it on again."
-                                         : "Scanning is off, and no hot key switches it on again.",
-                         .buttons = {{"Switch on", [] {
-                                          if (theWrangler)
-                                              theWrangler->switchOn();
-                                      }}}});
+    tellUser(
+        kOffTopic,
+        {.kind = UserMessage::Kind::Note,
+         .text = hasKeys
+                     ? filled(localized("Switch", "Scanning is off. %1 switches it on again."),
+                              {CFStringToUTF8(keys.get())})
+                     : localized("Switch", "Scanning is off, and no hot key switches it on again."),
+         .buttons = {{localized("Switch", "Switch on"), [] {
+                          if (theWrangler)
+                              theWrangler->switchOn();
+                      }}}});
 }
 
 } // namespace
@@ -83,8 +87,8 @@ void PreferenceWrangler::showSampleLineType(SInt32 type) {
 void PreferenceWrangler::updateMasterOnOff() {
     masterOnOffRadios_->selectCellWithTag(prefs.on);
     masterOnOffRadios_->setEnabled(true);
-    masterState_->setStringValue(prefs.on ? "Ready for your switch"
-                                          : "Your switch does nothing now");
+    masterState_->setStringValue(prefs.on ? localized("Switch", "Ready for your switch")
+                                          : localized("Switch", "Your switch does nothing now"));
     if (prefs.on)
         withdrawMessage(kOffTopic);
 }

@@ -6,6 +6,7 @@
 #include "platform/AppKit/NSMatrix.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/AppKit/UserMessages.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "src/recovery.h"
 #include "src/settingwords.h"
 
@@ -45,37 +46,41 @@ void PreferenceWrangler::adopt(const SettingSet& settings, const PrefsRecord& re
 
 void PreferenceWrangler::undo(NSButton*) {
     if (const HistoryStep* step = history_.undo(prefs))
-        showStep(*step, step->after, step->before, " back to ");
+        showStep(*step, step->after, step->before, kSettingBecomesAgain);
 }
 
 void PreferenceWrangler::redo(NSButton*) {
     if (const HistoryStep* step = history_.redo(prefs))
-        showStep(*step, step->before, step->after, " to ");
+        showStep(*step, step->before, step->after, kSettingBecomes);
 }
 
 void PreferenceWrangler::resetPaletteButtons(NSButton*) {
     const PrefsRecord before = prefs;
     palette_.resetPaletteButtons();
     if (differences(before, prefs).any())
-        tellUser(kTopic, {.kind = UserMessage::Kind::Note,
-                          .text = "The palette has the buttons again that Korvex came with.",
-                          .buttons = {{"Put it back", [] {
-                                           if (theWrangler)
-                                               theWrangler->undo(nullptr);
-                                       }}}});
+        tellUser(kTopic,
+                 {.kind = UserMessage::Kind::Note,
+                  .text = localized("Changes",
+                                    "The palette has the buttons again that Korvex came with."),
+                  .buttons = {{localized("Changes", "Put it back"), [] {
+                                   if (theWrangler)
+                                       theWrangler->undo(nullptr);
+                               }}}});
 }
 
 void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& before,
-                                  const PrefsRecord& after, const char* between) {
+                                  const PrefsRecord& after, const char* pattern) {
     const std::size_t first = firstOf(step.settings);
-    std::string text = changeText(kSettings[first], before, after, between);
-    if (const std::size_t others = step.settings.count() - 1; others > 0)
-        text +=
-            ", and " + std::to_string(others) + (others == 1 ? " setting" : " settings") + " more";
+    std::string text = changeText(kSettings[first], before, after, pattern);
+    if (const int others = static_cast<int>(step.settings.count()) - 1; others > 0)
+        text = filled(others == 1 ? localized("Changes", "%1, and 1 setting more")
+                                  : localized("Changes", "%1, and %n settings more", "", others),
+                      {text});
     showAndReport(changesOf(step.settings));
     if (NSView* view = viewOf(first))
         view->scrollToVisible();
-    tellUser(kTopic, {.kind = UserMessage::Kind::Note, .text = text + "."});
+    tellUser(kTopic, {.kind = UserMessage::Kind::Note,
+                      .text = filled(localized("Changes", "%1.", "a sentence"), {text})});
     updateHistoryUI();
 }
 

@@ -2,6 +2,7 @@
 #include "src/prefpane/PreferenceWrangler.h"
 
 #include "platform/AppKit/NSTextField.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "src/prefpane/choosearea.h"
 
 #include <cstdio>
@@ -10,19 +11,21 @@ namespace {
 
 std::string describe(const ScanArea& area) {
     if (area.width <= 0 || area.height <= 0)
-        return "none";
+        return localized("Settings", "none", "an area");
     char text[100];
-    std::snprintf(text, sizeof text, "%g × %g at %g, %g", double{area.width}, double{area.height},
-                  double{area.x}, double{area.y});
-    return text;
+    std::snprintf(text, sizeof text,
+                  localized("Settings", "%g × %g at %g, %g", "width, height, x, y").c_str(),
+                  double{area.width}, double{area.height}, double{area.x}, double{area.y});
+    return localizedNumbers(text);
 }
 
 /// What keeps the user from drawing an area, and what helps.
-const char* explain(OSStatus error) {
+std::string explain(OSStatus error) {
     return error == errCouldntSetUserFocus
-               ? "Another program holds the keyboard. Close its menus, then try again."
-               : "This desktop lets no window cover the screens. Log in to a session with X11 "
-                 "(Xorg) to draw an area.";
+               ? localized("ScanArea",
+                           "Another program holds the keyboard. Close its menus, then try again.")
+               : localized("ScanArea", "This desktop lets no window cover the screens. Log in to a "
+                                       "session with X11 (Xorg) to draw an area.");
 }
 
 } // namespace

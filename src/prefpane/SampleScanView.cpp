@@ -6,6 +6,7 @@
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSGraphics.h"
 #include "platform/AppKit/NSStringDrawing.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/Appearance.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/palutil.h"
@@ -39,8 +40,8 @@ struct LineLook {
 
 LineLook lookOf(SInt32 lineType) {
     if (lineType == kSampleScanLine)
-        return {"Scan Line", prefs.lineTransparency};
-    return {"Guide Line", prefs.lineGhostTransparency};
+        return {LOCALIZABLE("Preview", "Scan Line"), prefs.lineTransparency};
+    return {LOCALIZABLE("Preview", "Guide Line"), prefs.lineGhostTransparency};
 }
 
 NSColor lineColor(double transparency) {
@@ -132,7 +133,7 @@ void SampleScanView::drawScanLine() {
     NSRectFillUsingOperation({whole.x + 1, top, whole.width - 2, thickness}, NSCompositeSourceOver);
     context->setShouldAntialias(antialiases);
 
-    const auto text = CFStringCreateWithUTF8(label);
+    const auto text = CFStringCreateWithUTF8(localized("Preview", label));
     const TextAttributes attributes{NSFont::systemFontOfSize(NSFont::smallSystemFontSize())};
     const NSSize size = sizeWithAttributes(text.get(), attributes);
     drawAtPoint(text.get(), {whole.x + whole.width - size.width - kLabelMargin, top + thickness},
@@ -175,14 +176,17 @@ void SampleScanView::drawPointer() {
 }
 
 std::string SampleScanView::accessibilityTitle() const {
-    return lineSampleType_ == kSampleScanLine ? "Preview of the scan line"
-                                              : "Preview of the guide line";
+    return lineSampleType_ == kSampleScanLine ? localized("Preview", "Preview of the scan line")
+                                              : localized("Preview", "Preview of the guide line");
 }
 
 std::string SampleScanView::accessibilityValue() const {
-    char text[160];
+    char text[400];
     std::snprintf(text, sizeof text,
-                  "%d points thick, %.0f%% transparent, red %u, green %u, blue %u, each of 255.",
+                  localized("Preview",
+                            "%d points thick, %.0f%% transparent, red %u, green %u, blue "
+                            "%u, each of 255.")
+                      .c_str(),
                   prefs.lineThickness, lookOf(lineSampleType_).transparency, prefs.lineColor.red,
                   prefs.lineColor.green, prefs.lineColor.blue);
     return text;

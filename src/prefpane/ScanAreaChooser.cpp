@@ -3,6 +3,7 @@
 
 #include "platform/AppKit/NSColor.h"
 #include "platform/AppKit/NSGraphics.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreGraphics/CGDirectDisplay.h"
 #include "src/prefpane/NumberController.h"
 
@@ -22,12 +23,18 @@ struct Part {
 };
 
 constexpr Part kParts[] = {
-    {"Whole screen", 0, 0, 6, 6},        {"Left half", 0, 0, 3, 6},
-    {"Right half", 3, 0, 3, 6},          {"Top half", 0, 0, 6, 3},
-    {"Bottom half", 0, 3, 6, 3},         {"Left third", 0, 0, 2, 6},
-    {"Middle third", 2, 0, 2, 6},        {"Right third", 4, 0, 2, 6},
-    {"Top left quarter", 0, 0, 3, 3},    {"Top right quarter", 3, 0, 3, 3},
-    {"Bottom left quarter", 0, 3, 3, 3}, {"Bottom right quarter", 3, 3, 3, 3},
+    {LOCALIZABLE("ScanArea", "Whole screen"), 0, 0, 6, 6},
+    {LOCALIZABLE("ScanArea", "Left half"), 0, 0, 3, 6},
+    {LOCALIZABLE("ScanArea", "Right half"), 3, 0, 3, 6},
+    {LOCALIZABLE("ScanArea", "Top half"), 0, 0, 6, 3},
+    {LOCALIZABLE("ScanArea", "Bottom half"), 0, 3, 6, 3},
+    {LOCALIZABLE("ScanArea", "Left third"), 0, 0, 2, 6},
+    {LOCALIZABLE("ScanArea", "Middle third"), 2, 0, 2, 6},
+    {LOCALIZABLE("ScanArea", "Right third"), 4, 0, 2, 6},
+    {LOCALIZABLE("ScanArea", "Top left quarter"), 0, 0, 3, 3},
+    {LOCALIZABLE("ScanArea", "Top right quarter"), 3, 0, 3, 3},
+    {LOCALIZABLE("ScanArea", "Bottom left quarter"), 0, 3, 3, 3},
+    {LOCALIZABLE("ScanArea", "Bottom right quarter"), 3, 3, 3, 3},
 };
 
 constexpr int kPartCount = std::size(kParts);
@@ -62,9 +69,10 @@ int ScanAreaChooser::choiceCount() const {
 }
 
 std::string ScanAreaChooser::choiceName(int index) const {
-    const std::string part = kParts[index % kPartCount].name;
+    const std::string part = localized("ScanArea", kParts[index % kPartCount].name);
     return displays_.size() < 2 ? part
-                                : part + ", display " + std::to_string(index / kPartCount + 1);
+                                : filled(localized("ScanArea", "%1, display %2"),
+                                         {part, std::to_string(index / kPartCount + 1)});
 }
 
 bool ScanAreaChooser::isChosen(int index) const {

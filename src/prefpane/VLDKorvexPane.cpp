@@ -3,6 +3,7 @@
 
 #include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/UserMessages.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/AppleHelp.h"
 #include "src/AXReq/axreq.h"
 #include "src/openwindow.h"
@@ -24,8 +25,8 @@ void showRecovered(const SettingSet& recovered, PreferenceWrangler& wrangler) {
     wrangler.changed(changesOf(recovered));
     tellUser("recovery",
              {.kind = UserMessage::Kind::Note,
-              .text = "Your last visit here ended before it could save. Its changes are "
-                      "here again."});
+              .text = localized("Recovery", "Your last visit here ended before it could save. Its "
+                                            "changes are here again.")});
 }
 
 } // namespace

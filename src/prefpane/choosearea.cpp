@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/prefpane/choosearea.h"
 
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/CoreGraphics/CGDirectDisplay.h"
 #include "platform/HIToolbox/Appearance.h"
@@ -23,9 +24,10 @@ constexpr EventTypeSpec arrowEvents[] = {
     {kEventClassKeyboard, kEventRawKeyRepeat},
 };
 
-constexpr auto kPrompt = "Your current custom scan rectangle (if any) is shown in light blue.\r"
-                         "Click and drag across the desktop select a new area then\r"
-                         "press RETURN to accept it or ESC to cancel.";
+constexpr auto kPrompt =
+    LOCALIZABLE("ScanArea", "Your current custom scan rectangle (if any) is shown in light blue.\r"
+                            "Click and drag across the desktop select a new area then\r"
+                            "press RETURN to accept it or ESC to cancel.");
 
 constexpr UInt32 kMaxDisplays = 20;
 constexpr CGFloat kArrowStep = 10; ///< points
@@ -85,7 +87,8 @@ void drawArea(CGContext* context, const CGRect& area, const Look& look) {
 
 /// In the upper part of the main display. Not drawn when it can't be measured.
 void drawPrompt(CGContext* context) {
-    static const CFString* const text = CFSTR(kPrompt);
+    static const auto prompt = CFStringCreateWithUTF8(localized("ScanArea", kPrompt));
+    const CFString* const text = prompt.get();
     const auto [origin, size] = CGDisplayBounds(CGMainDisplayID());
     Point extent{0, static_cast<SInt16>(static_cast<int>(size.width) / 2)};
     if (GetThemeTextDimensions(text, kThemeSystemFont, kThemeStateActive, true, &extent, nullptr) !=

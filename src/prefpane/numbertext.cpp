@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "src/prefpane/numbertext.h"
 
+#include "platform/CoreFoundation/Localization.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
@@ -18,8 +20,8 @@ std::string_view withoutBlanks(std::string_view text) {
 
 std::string numberText(const char* format, double number) {
     char text[400]; // the longest double has 309 digits before the point
-    std::snprintf(text, sizeof text, format, number);
-    return text;
+    std::snprintf(text, sizeof text, localized("Formats", format).c_str(), number);
+    return localizedNumbers(text);
 }
 
 std::string numberWords(const char* format, double number) {

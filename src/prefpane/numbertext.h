@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-/// The number as the format, printf's with one double conversion, writes it.
+/// The number as the format, printf's with one double conversion, writes it in the user's language.
 std::string numberText(const char* format, double number);
 
 /// The same without blanks before it.

@@ -6,6 +6,7 @@
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSGraphics.h"
 #include "platform/AppKit/NSStringDrawing.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "src/tryout/words.h"
 
 #include <algorithm>
@@ -57,7 +58,7 @@ void HistoryView::drawRect(const NSRect&) {
 void HistoryView::drawChart() const {
     const NSRect whole = bounds();
     const float width = whole.width * kChartShare - 2 * kMargin;
-    drawText("Spread of your presses", {kMargin, 2, width, kLabelHeight});
+    drawText(localized("Try", "Spread of your presses"), {kMargin, 2, width, kLabelHeight});
     const std::size_t count = std::min<std::size_t>(tries_.size(), kMostPoints);
     const std::span<const tryout::PastTry> shown(tries_.end() - static_cast<std::ptrdiff_t>(count),
                                                  tries_.end());

@@ -3,6 +3,7 @@
 
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSTextField.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "src/settings.h"
 #include "src/tryout/HistoryView.h"
 #include "src/tryout/tryconditions.h"
@@ -20,9 +21,9 @@ using Phase = tryout::Session::Phase;
 std::unique_ptr<TryPage> page;
 
 std::string withSeconds(const char* form, double seconds) {
-    char text[80];
-    std::snprintf(text, sizeof text, form, seconds);
-    return text;
+    char text[200];
+    std::snprintf(text, sizeof text, localized("Try", form).c_str(), seconds);
+    return localizedNumbers(text);
 }
 
 } // namespace
@@ -149,8 +150,8 @@ void TryPage::showResult() {
     const bool isOffered =
         advice.verdict == tryout::Verdict::Change || advice.verdict == tryout::Verdict::TryAgain;
     takeBtn_->setHidden(!isOffered);
-    takeBtn_->setTitle(withSeconds("Try it at %.1f", advised_));
-    keepBtn_->setTitle(withSeconds("Keep %.1f", conditions_.sweep.time));
+    takeBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Try it at %.1f"), advised_));
+    keepBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Keep %.1f"), conditions_.sweep.time));
 
     for (const tryout::Trial& trial : measured.trials)
         if (trial.pressed && advice.verdict != tryout::Verdict::Random)
@@ -158,7 +159,7 @@ void TryPage::showResult() {
     const bool isStored =
         advice.presses == 0 || history_.add(pastTry(advice, conditions_, measured,
                                                     trigger_.way != tryout::Trigger::Way::Press));
-    showHistory(isStored ? "" : "This try couldn’t be stored. ");
+    showHistory(isStored ? "" : localized("Try", "This try couldn’t be stored. "));
 }
 
 void TryPage::showHistory(const std::string& note) {
@@ -167,7 +168,7 @@ void TryPage::showHistory(const std::string& note) {
     exportBtn_->setHidden(isEmpty);
     deleteBtn_->setHidden(isEmpty);
     historyView_->setTries(history_.tries());
-    historyNote_->setStringValue(note + "Your tries stay on this computer.");
+    historyNote_->setStringValue(note + localized("Try", "Your tries stay on this computer."));
 }
 
 void TryPage::pressed(double moment) {
@@ -197,7 +198,8 @@ void TryPage::leave(NSButton*) {
 void TryPage::toggleFullScreen(NSButton*) {
     madeFullScreen_ = !window_.isFullScreen();
     window_.toggleFullScreen();
-    fullScreenBtn_->setTitle(madeFullScreen_ ? "In the window" : "Full screen");
+    fullScreenBtn_->setTitle(madeFullScreen_ ? localized("Try", "In the window")
+                                             : localized("Try", "Full screen"));
     window_.makeFirstResponder(tryView_);
 }
 
@@ -213,14 +215,16 @@ void TryPage::startAgain(NSButton*) {
 
 void TryPage::exportHistory(NSButton*) {
     const std::string path = history_.exportCopy();
-    showHistory(path.empty() ? "The copy couldn’t be written. " : "Saved as " + path + ". ");
+    showHistory(path.empty() ? localized("Try", "The copy couldn’t be written. ")
+                             : filled(localized("Try", "Saved as %1. "), {path}));
 }
 
 void TryPage::deleteHistory(NSButton*) {
     const bool isDeleted = history_.clear();
     if (isDeleted)
         window_.makeFirstResponder(againBtn_);
-    showHistory(isDeleted ? "All tries are deleted. " : "The tries couldn’t be deleted. ");
+    showHistory(isDeleted ? localized("Try", "All tries are deleted. ")
+                          : localized("Try", "The tries couldn’t be deleted. "));
 }
 
 void TryPage::close() {

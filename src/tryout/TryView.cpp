@@ -6,6 +6,7 @@
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSGraphics.h"
 #include "platform/AppKit/NSStringDrawing.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/EventTimers.h"
 #include "src/prefs.h"
 
@@ -150,8 +151,9 @@ void TryView::drawPlaces() const {
                         middle + static_cast<float>(trial.miss) * points - kPlaceSize / 2,
                         kPlaceSize, kPlaceSize});
     }
-    drawLabel("Early", kLabelMargin, kLabelMargin);
-    drawLabel("Late", kLabelMargin, whole.height - kLabelMargin - kLabelHeight);
+    drawLabel(localized("Try", "Early").c_str(), kLabelMargin, kLabelMargin);
+    drawLabel(localized("Try", "Late").c_str(), kLabelMargin,
+              whole.height - kLabelMargin - kLabelHeight);
 }
 
 void TryView::mouseDown(NSEvent* event) {
@@ -195,7 +197,8 @@ std::string TryView::accessibilityValue() const {
     if (session_->phase() == Phase::Done)
         return {};
     char text[60];
-    std::snprintf(text, sizeof text, "The mark is %.1f mm from the top.", session_->mark());
+    std::snprintf(text, sizeof text, localized("Try", "The mark is %.1f mm from the top.").c_str(),
+                  session_->mark());
     return text;
 }
 

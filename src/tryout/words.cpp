@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "src/tryout/words.h"
 
+#include "platform/CoreFoundation/Localization.h"
+
 #include <cmath>
 #include <cstdarg>
 #include <cstdio>
@@ -10,12 +12,12 @@ namespace tryout {
 namespace {
 
 [[gnu::format(printf, 1, 2)]] std::string format(const char* form, ...) {
-    char text[400];
+    char text[1000];
     std::va_list values;
     va_start(values, form);
-    std::vsnprintf(text, sizeof text, form, values);
+    std::vsnprintf(text, sizeof text, localized("Try", form).c_str(), values);
     va_end(values);
-    return text;
+    return localizedNumbers(text);
 }
 
 /// Of ten, rounded down: what is promised is kept. The last digits of a share aren't trusted.
@@ -23,96 +25,132 @@ int tenths(double share) {
     return static_cast<int>(share * 10 + 1e-9);
 }
 
-const char* howToPress(Trigger::Way way) {
+std::string howToPress(Trigger::Way way) {
     switch (way) {
     case Trigger::Way::Release:
-        return "Press early, and let go when the line is on the mark.";
+        return localized("Try", "Press early, and let go when the line is on the mark.");
     case Trigger::Way::Hold:
-        return "Hold your switch down to start the line, and let go when it is on the mark.";
+        return localized(
+            "Try", "Hold your switch down to start the line, and let go when it is on the mark.");
     default:
-        return "Press when the line is on the mark.";
+        return localized("Try", "Press when the line is on the mark.");
     }
 }
 
 std::string readyText(const Session& session, const Trigger& trigger) {
-    const char* begin = trigger.way == Trigger::Way::Hold ? "Hold" : "Press";
+    const bool isHold = trigger.way == Trigger::Way::Hold;
     if (session.sweepIndex() == 0)
-        return format("A line will sweep from top to bottom. %s The first two sweeps are for "
-                      "getting used to it. Press any key or button when you are ready.",
-                      howToPress(trigger.way));
+        return format(
+            LOCALIZABLE("Try",
+                        "A line will sweep from top to bottom. %s The first two sweeps are for "
+                        "getting used to it. Press any key or button when you are ready."),
+            howToPress(trigger.way).c_str());
     if (session.isFree())
-        return format("Ready. %s for free sweep %d of %d, when you like.", begin,
-                      session.sweepIndex() + 1, kFreeSweeps);
-    return format("Ready. %s for sweep %d of %d, when you like.", begin,
+        return format(
+            isHold ? LOCALIZABLE("Try", "Ready. Hold for free sweep %d of %d, when you like.")
+                   : LOCALIZABLE("Try", "Ready. Press for free sweep %d of %d, when you like."),
+            session.sweepIndex() + 1, kFreeSweeps);
+    return format(isHold ? LOCALIZABLE("Try", "Ready. Hold for sweep %d of %d, when you like.")
+                         : LOCALIZABLE("Try", "Ready. Press for sweep %d of %d, when you like."),
                   session.sweepIndex() - kFreeSweeps + 1, kMeasuredSweeps);
 }
 
 std::string stoppedText(const Session& session) {
     const Trial& last = session.last();
     if (!last.pressed)
-        return "The line passed.";
+        return localized("Try", "The line passed.");
     if (std::abs(last.miss) <= session.target() / 2)
-        return "On the mark.";
-    return format("%.0f mm %s the mark.", std::abs(last.miss), last.miss < 0 ? "before" : "past");
+        return localized("Try", "On the mark.");
+    return format(last.miss < 0 ? LOCALIZABLE("Try", "%.0f mm before the mark.")
+                                : LOCALIZABLE("Try", "%.0f mm past the mark."),
+                  std::abs(last.miss));
 }
 
 std::string hitsText(const Advice& advice, const Conditions& tried, const Measured& measured) {
-    return format("You stopped within %.0f mm of the mark %d times in %zu. ", tried.target / 2,
-                  advice.hits, measured.trials.size());
+    return format(LOCALIZABLE("Try", "You stopped within %.0f mm of the mark %d times in %zu. "),
+                  tried.target / 2, advice.hits, measured.trials.size());
 }
 
 std::string evenText(const Advice& advice) {
     if (advice.timing.spread >= kFinestSpread)
         return {};
-    return "Your presses all came at the same moment, as far as this computer can tell. ";
+    return localized(
+        "Try", "Your presses all came at the same moment, as far as this computer can tell. ");
 }
 
-std::string expectationText(const Advice& advice) {
+std::string keepText(const Advice& advice) {
     const int expected = tenths(advice.expected), promised = tenths(advice.promised);
     if (expected <= promised)
-        return format("we expect at least %d in 10.", promised);
-    return format("we expect %d in 10, and at least %d.", expected, promised);
+        return format(LOCALIZABLE("Try", "%.1f seconds suits you: we expect at least %d in 10."),
+                      advice.time, promised);
+    return format(
+        LOCALIZABLE("Try", "%.1f seconds suits you: we expect %d in 10, and at least %d."),
+        advice.time, expected, promised);
+}
+
+std::string changeText(const Advice& advice) {
+    const int expected = tenths(advice.expected), promised = tenths(advice.promised);
+    if (expected <= promised)
+        return format(LOCALIZABLE("Try", "At %.1f seconds we expect at least %d in 10."),
+                      advice.time, promised);
+    return format(LOCALIZABLE("Try", "At %.1f seconds we expect %d in 10, and at least %d."),
+                  advice.time, expected, promised);
 }
 
 std::string tryAgainText(const Advice& advice, const Conditions& tried) {
-    return format("A %s line is likely to suit you better. Try it at %.1f seconds, and we can "
-                  "tell.",
-                  advice.time > tried.sweep.time ? "slower" : "quicker", advice.time);
+    return format(advice.time > tried.sweep.time
+                      ? LOCALIZABLE("Try", "A slower line is likely to suit you better. Try it at "
+                                           "%.1f seconds, and we can tell.")
+                      : LOCALIZABLE("Try", "A quicker line is likely to suit you better. Try it at "
+                                           "%.1f seconds, and we can tell."),
+                  advice.time);
 }
 
 std::string outOfReachText(const Advice& advice, const Conditions& tried) {
-    return format("Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f mm wide "
-                  "would make it so, or a scan area only %.0f mm across.",
-                  tried.times.max, std::ceil(advice.neededTarget), std::floor(advice.neededTravel));
+    return format(
+        LOCALIZABLE(
+            "Try",
+            "Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f mm wide "
+            "would make it so, or a scan area only %.0f mm across."),
+        tried.times.max, std::ceil(advice.neededTarget), std::floor(advice.neededTravel));
 }
 
 std::string tooFewText(const Advice& advice, const Measured& measured) {
-    return format("You pressed in %d of %zu sweeps. From %d on we can suggest a speed. Try once "
-                  "more when you like; a slower line gives you more time.",
-                  advice.presses, measured.trials.size(), kFewestTrials);
+    return format(
+        LOCALIZABLE("Try",
+                    "You pressed in %d of %zu sweeps. From %d on we can suggest a speed. Try once "
+                    "more when you like; a slower line gives you more time."),
+        advice.presses, measured.trials.size(), kFewestTrials);
 }
 
 std::string unsteadyText(const Advice& advice, const Measured& measured) {
     const auto all = static_cast<std::size_t>(advice.presses) + measured.extras.size();
-    return format("%zu of %zu presses came when nothing asked for them. Before the speed, make "
-                  "the presses steadier.",
-                  measured.extras.size(), all);
+    return format(
+        LOCALIZABLE("Try",
+                    "%zu of %zu presses came when nothing asked for them. Before the speed, make "
+                    "the presses steadier."),
+        measured.extras.size(), all);
 }
 
 /// The settings that would steady the presses; empty when there was nothing to measure.
 std::string steadinessText(const Steadiness& steadiness) {
     std::string text;
     if (steadiness.preScanDelay)
-        text += format("Ready for the next press after %.1f seconds. ", *steadiness.preScanDelay);
+        text += format(LOCALIZABLE("Try", "Ready for the next press after %.1f seconds. "),
+                       *steadiness.preScanDelay);
     if (steadiness.afterClickDelay)
-        text += format("Ignoring presses for %.1f seconds after a click would catch most of those "
-                       "that nothing asked for. ",
-                       *steadiness.afterClickDelay);
+        text += format(
+            LOCALIZABLE("Try",
+                        "Ignoring presses for %.1f seconds after a click would catch most of those "
+                        "that nothing asked for. "),
+            *steadiness.afterClickDelay);
     if (steadiness.minTriggerDuration)
-        text +=
-            format("A shortest press of %.1f seconds would, too. ", *steadiness.minTriggerDuration);
+        text += format(LOCALIZABLE("Try", "A shortest press of %.1f seconds would, too. "),
+                       *steadiness.minTriggerDuration);
     if (steadiness.holdsOverlap)
-        text += "They last as long as your other presses, so no shortest press tells them apart. ";
+        text += localized(
+            "Try",
+            "They last as long as your other presses, so no shortest press tells them apart. ");
     if (!text.empty())
         text.pop_back();
     return text;
@@ -122,12 +160,13 @@ std::string steadinessText(const Steadiness& steadiness) {
 std::string numbersText(const Advice& advice) {
     if (advice.presses < kFewestTrials)
         return {};
-    std::string text =
-        format("Lateness %.0f ms, spread %.0f ms (%.0f ms at most), from %d presses.",
-               advice.timing.lateness * 1000, advice.timing.spread * 1000,
-               advice.cautious.spread * 1000, advice.presses);
+    std::string text = format(
+        LOCALIZABLE("Try", "Lateness %.0f ms, spread %.0f ms (%.0f ms at most), from %d presses."),
+        advice.timing.lateness * 1000, advice.timing.spread * 1000, advice.cautious.spread * 1000,
+        advice.presses);
     if (advice.surest)
-        text += format(" %d in 10 takes %.1f seconds.", tenths(kSurestRate), *advice.surest);
+        text += format(LOCALIZABLE("Try", " %d in 10 takes %.1f seconds."), tenths(kSurestRate),
+                       *advice.surest);
     return text;
 }
 
@@ -137,22 +176,27 @@ std::string resultText(const Advice& advice, const Conditions& tried, const Meas
     const std::string hits = hitsText(advice, tried, measured) + evenText(advice);
     switch (advice.verdict) {
     case Verdict::NothingPressed:
-        return "No press arrived. Look whether your switch is connected and counts as a trigger, "
-               "then try once more.";
+        return localized(
+            "Try",
+            "No press arrived. Look whether your switch is connected and counts as a trigger, "
+            "then try once more.");
     case Verdict::TooFew:
         return tooFewText(advice, measured);
     case Verdict::Unsteady:
         return unsteadyText(advice, measured);
     case Verdict::Random:
-        return "The presses came at other moments than the marks, so we can’t suggest a speed. "
-               "Wait for the line to reach the mark, then press.";
+        return localized(
+            "Try", "The presses came at other moments than the marks, so we can’t suggest a speed. "
+                   "Wait for the line to reach the mark, then press.");
     case Verdict::Tired:
-        return hits + "The presses became less even from sweep to sweep. Have a rest, then try "
-                      "once more.";
+        return hits +
+               localized("Try",
+                         "The presses became less even from sweep to sweep. Have a rest, then try "
+                         "once more.");
     case Verdict::Keep:
-        return hits + format("%.1f seconds suits you: ", advice.time) + expectationText(advice);
+        return hits + keepText(advice);
     case Verdict::Change:
-        return hits + format("At %.1f seconds ", advice.time) + expectationText(advice);
+        return hits + changeText(advice);
     case Verdict::TryAgain:
         return hits + tryAgainText(advice, tried);
     case Verdict::OutOfReach:
@@ -171,9 +215,9 @@ std::string courseText(const Session& session, const Trigger& trigger) {
     case Session::Phase::Ready:
         return readyText(session, trigger);
     case Session::Phase::Delay:
-        return "Wait for the line.";
+        return localized("Try", "Wait for the line.");
     case Session::Phase::Sweeping:
-        return "Go.";
+        return localized("Try", "Go.");
     case Session::Phase::Stopped:
         return stoppedText(session);
     case Session::Phase::Done:
@@ -183,14 +227,17 @@ std::string courseText(const Session& session, const Trigger& trigger) {
 }
 
 std::string pastTryText(const PastTry& past) {
-    return format("%s: %.1f seconds, %.0f hits and %.0f misses, lateness %.0f ms, spread %.0f ms",
-                  past.date.c_str(), past.sweepTime, past.hits, past.misses, past.lateness * 1000,
-                  past.spread * 1000);
+    return format(
+        LOCALIZABLE(
+            "Try", "%s: %.1f seconds, %.0f hits and %.0f misses, lateness %.0f ms, spread %.0f ms"),
+        past.date.c_str(), past.sweepTime, past.hits, past.misses, past.lateness * 1000,
+        past.spread * 1000);
 }
 
 std::string pastTryRow(const PastTry& past) {
-    return format("%s   %.1f s   %.0f of %.0f   spread %.0f ms", past.date.c_str(), past.sweepTime,
-                  past.hits, past.hits + past.misses, past.spread * 1000);
+    return format(LOCALIZABLE("Try", "%s   %.1f s   %.0f of %.0f   spread %.0f ms"),
+                  past.date.c_str(), past.sweepTime, past.hits, past.hits + past.misses,
+                  past.spread * 1000);
 }
 
 } // namespace tryout

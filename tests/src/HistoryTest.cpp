@@ -35,8 +35,9 @@ TEST(HistoryTest, ChangesOfOneNumberWithinTwoSecondsAreOneStep) {
     EXPECT_EQ(double{record.lineScanTime}, 11.5);
     EXPECT_EQ(changesOf(history.undo(record)->settings), kChangeSounds);
     const HistoryStep* first = history.undo(record);
-    EXPECT_EQ(changeText(settingOf(first->settings), first->after, first->before, " back to "),
-              "Line scan time: 11.5 back to 10.0 sec");
+    EXPECT_EQ(
+        changeText(settingOf(first->settings), first->after, first->before, kSettingBecomesAgain),
+        "Line scan time: 11.5 back to 10.0 sec");
     EXPECT_FALSE(history.canUndo());
     const PrefsRecord factory;
     EXPECT_EQ(std::memcmp(&record, &factory, sizeof record), 0);
@@ -82,7 +83,7 @@ TEST(SettingWordsTest, EverySettingReadsInPeoplesWords) {
     const SettingSet changed = differences(before, after);
     for (std::size_t i = 0; i < kSettings.size(); ++i)
         if (changed[i])
-            texts += changeText(kSettings[i], before, after, " to ") + "\n";
+            texts += changeText(kSettings[i], before, after, kSettingBecomes) + "\n";
     EXPECT_EQ(texts,
               "Scanning: on to off\n"
               "Scan mode: Press to start, press to choose to Hold to scan, let go to choose\n"

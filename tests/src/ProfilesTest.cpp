@@ -89,7 +89,7 @@ const struct {
 } kWords[] = {
     {"scanner.lineScanTime", "12.5", "12.5 sec"},
     {"scanner.lineScanTime", "12.5 sec", "12.5 sec"},
-    {"scanner.lineScanTime", "12,5", "not a number in seconds"},
+    {"scanner.lineScanTime", "12,5", "12.5 sec"},
     {"scanner.lineScanTime", "nan", "outside 1 to 60 seconds"},
     {"scanner.menuScanSpeedScaleFactor", "65%", "65%"},
     {"scanner.menuScanSpeedScaleFactor", "65 points", "not a number in percent"},

@@ -6,6 +6,7 @@
 #include "platform/AppKit/detail/SliderWidget.h"
 #include "platform/AppKit/detail/ValueField.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
@@ -61,9 +62,12 @@ void NumberRow::build() {
     const QString caption = property("caption").toString();
     if (accessibleName().isEmpty())
         setAccessibleName(withoutMnemonic(caption));
-    const auto named = [this](const char* property, const char* how) {
-        return accessibleName() + QLatin1String(how) + this->property(property).toString();
+    const auto named = [this](const char* property, const QString& how) {
+        return how.arg(accessibleName(), this->property(property).toString());
     };
+    //: As in "Line scan time, longer"
+    const QString step = QCoreApplication::translate("NumberRow", "%1, %2");
+    const QString page = QCoreApplication::translate("NumberRow", "%1, much %2");
     const bool hasSlider = property("maxValue").isValid();
 
     const RowText text(*this, caption, accessibleDescription());
@@ -72,13 +76,13 @@ void NumberRow::build() {
     controls->setContentsMargins(0, 0, 0, 0);
     controls->setSpacing(kGap);
     controls->addWidget(
-        makeButton("PageDecBtn", "pageDecBtn", "decPage:", "−−", named("less", ", much ")));
-    controls->addWidget(makeButton("DecBtn", "decBtn", "decValue:", "−", named("less", ", ")));
+        makeButton("PageDecBtn", "pageDecBtn", "decPage:", "−−", named("less", page)));
+    controls->addWidget(makeButton("DecBtn", "decBtn", "decValue:", "−", named("less", step)));
     if (hasSlider)
         addSlider(*controls);
-    controls->addWidget(makeButton("IncBtn", "incBtn", "incValue:", "+", named("more", ", ")));
+    controls->addWidget(makeButton("IncBtn", "incBtn", "incValue:", "+", named("more", step)));
     controls->addWidget(
-        makeButton("PageIncBtn", "pageIncBtn", "incPage:", "++", named("more", ", much ")));
+        makeButton("PageIncBtn", "pageIncBtn", "incPage:", "++", named("more", page)));
     if (!hasSlider)
         controls->addStretch();
     auto* field = make<ValueField>("Label", "label", "typedValue:");

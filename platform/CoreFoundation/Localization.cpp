@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "platform/CoreFoundation/Localization.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include <filesystem>
+
+namespace {
+
+/// The table of all texts of a language.
+constexpr char kTableFile[] = "Localizable.qm";
+
+std::string folderInUse;
+char decimalPoint = '.';
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// The languages that the user reads, the best first, up to English, which needs no table.
+QStringList languagesBeforeEnglish() {
+    QStringList languages;
+    if (QLocale::system().language() == QLocale::C)
+        return languages;
+    for (QString language : QLocale::system().uiLanguages()) {
+        language.replace('-', '_');
+        if (language == QLatin1String("en") || language.startsWith(QLatin1String("en_")))
+            break;
+        languages << language << language.section('_', 0, 0);
+    }
+    return languages;
+}
+
+/// The application owns what it loads; it lives as long.
+void install(const QString& file, const QString& folder) {
+    auto* translator = new QTranslator(QCoreApplication::instance());
+    if (translator->load(file, folder))
+        QCoreApplication::installTranslator(translator);
+    else
+        delete translator;
+}
+
+} // namespace
+
+std::string localized(const char* table, const char* text, const char* comment, int count) {
+    return QCoreApplication::translate(table, text, comment, count).toStdString();
+}
+
+std::string filled(const std::string& text, std::initializer_list<std::string> parts) {
+    std::string result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::size_t number =
+            text[i] == '%' && i + 1 < text.size() ? static_cast<std::size_t>(text[i + 1] - '0') : 0;
+        if (number < 1 || number > parts.size()) {
+            result += text[i];
+            continue;
+        }
+        result += parts.begin()[number - 1];
+        ++i;
+    }
+    return result;
+}
+
+std::string localizedNumbers(std::string text) {
+    for (std::size_t i = 1; i + 1 < text.size(); ++i)
+        if (text[i] == '.' && isDigit(text[i - 1]) && isDigit(text[i + 1]))
+            text[i] = decimalPoint;
+    return text;
+}
+
+void loadLocalizations(const std::string& resources) {
+    const QString point = QLocale::system().decimalPoint();
+    decimalPoint = point == QLatin1String(",") ? ',' : '.';
+    for (const QString& language : languagesBeforeEnglish()) {
+        const std::string folder = resources + '/' + language.toStdString() + ".lproj";
+        if (!std::filesystem::exists(folder + '/' + kTableFile))
+            continue;
+        folderInUse = folder;
+        // Qt's own texts, as in the dialogs for files and colours; ours come first.
+        install("qtbase_" + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+        install(QLatin1String(kTableFile), QString::fromStdString(folder));
+        return;
+    }
+}
+
+const std::string& localizationFolder() {
+    return folderInUse;
+}
