@@ -2,6 +2,7 @@
 #include "platform/AppKit/detail/PageArea.h"
 
 #include <QApplication>
+#include <QLayout>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -35,6 +36,14 @@ QSize PageArea::sizeHint() const {
 }
 
 QSize PageArea::minimumSizeHint() const {
+    // A page that isn't shown doesn't hear that its parts have become narrower, or have gone.
+    if (widget() && !isVisible()) {
+        const auto parts = widget()->findChildren<QWidget*>();
+        for (auto part = parts.rbegin(); part != parts.rend(); ++part)
+            if ((*part)->layout())
+                (*part)->layout()->activate();
+        widget()->layout()->activate();
+    }
     const int width = widget() ? widget()->minimumSizeHint().width() : 0;
     return {width + verticalScrollBar()->sizeHint().width(), 100};
 }
