@@ -12,7 +12,6 @@ struct Limit {
         Times, ///< of its floor
         Plus,  ///< more than its floor, in seconds
         Bytes, ///< more than its floor, in bytes
-        Under, ///< in seconds; there is no floor
     };
 
     Kind kind;
@@ -24,18 +23,20 @@ struct Limit {
 using Measure = double (*)();
 
 /// Registers a figure, and the floor that it is held against in the same run, with the benchmark
-/// library. `floor` is null for Limit::Under.
-void addFigure(const std::string& name, Limit limit, Measure measured, Measure floor = nullptr);
+/// library.
+void addFigure(const std::string& name, Limit limit, Measure measured, Measure floor);
 
 // One function a subject, each in a file of its own; the order is the order of the runs.
 void addPrefsFigures();
 void addLinkFigures();
-void addHotKeyFigures();
 void addOverlayFigures();
 void addPaletteFigures();
 void addPreviewFigures();
 void addTryFigures();
+void addHotKeyFigures();
+void addChangeFigures();
 void addStartFigures();
+void addCommandFigures();
 void addLaunchFigures();
 
 /// Has the QApplication that is made next find the displays that the overlay is measured on. Gives

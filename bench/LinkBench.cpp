@@ -2,74 +2,13 @@
 // A change on its way to the agent, against bare D-Bus calls.
 
 #include "bench/Figures.h"
-#include "bench/LinkPeer.h"
-#include "platform/CoreServices/Processes.h"
+#include "bench/Peer.h"
 #include "src/prefpane/Daemon.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QProcess>
-
-#include <fcntl.h>
-#include <sys/mman.h>
-#include <unistd.h>
 
 namespace {
-
-/// The process that receives what is measured, and the memory in which it notes when.
-class Peer {
-public:
-    Peer() {
-        QCoreApplication::processEvents();
-        const int file = memfd_create("link", 0);
-        note_ = static_cast<LinkNote*>(
-            ftruncate(file, sizeof(LinkNote)) == 0
-                ? mmap(nullptr, sizeof(LinkNote), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0)
-                : MAP_FAILED);
-        process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        process_.start(QStringLiteral(LINK_PEER), {QString::number(file)});
-        process_.waitForReadyRead(10'000); // it says when it takes part
-        close(file);
-    }
-
-    ~Peer() {
-        process_.kill();
-        process_.waitForFinished();
-    }
-
-    /// Seconds from the call of `send` until the peer has what it sends.
-    template <class Send>
-    double oneWay(Send&& send) {
-        const auto before = note_->count.load();
-        const auto start = linkClock();
-        send();
-        while (note_->count.load() == before)
-            if (linkClock() - start > 1'000'000'000)
-                return -1;
-        return static_cast<double>(note_->received - start) * 1e-9;
-    }
-
-    /// Waits until the peer has everything that was sent.
-    void settle(std::uint64_t sent) {
-        while (note_->count.load() < sent)
-            usleep(100);
-    }
-
-    LinkNote& note() { return *note_; }
-
-private:
-    QProcess process_;
-    LinkNote* note_;
-};
-
-Peer& peer() {
-    static const bool registered =
-        registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
-    static Peer instance;
-    (void)registered;
-    return instance;
-}
 
 void sendChange() {
     daemonSendChanges(0x200, true);

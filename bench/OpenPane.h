@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "src/prefpane/VLDKorvexPane.h"
+
+class QWidget;
+
+/// The pane, shown as the host shows it, for as long as the program runs. The receiving process
+/// (Peer.h) is its agent.
+class OpenPane {
+public:
+    static OpenPane& instance();
+
+    QWidget& window() const { return *window_; }
+
+    /// The window's part of that name; ends the program when there is none.
+    template <class Part>
+    Part& part(const char* name) const;
+
+    /// Shows the section that the part is in.
+    void showSectionOf(const QWidget& part) const;
+
+private:
+    OpenPane();
+
+    CFRef<CFBundle> bundle_;
+    VLDKorvexPane pane_;
+    QWidget* window_;
+};
