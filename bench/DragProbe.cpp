@@ -2,20 +2,28 @@
 // Opens the pane beside its real agent, drags the scan line's transparency for ten seconds at 120
 // changes a second, and prints the most main-thread time in seconds that a change took together
 // with what was drawn for it. Fails when the agent didn't receive every change, in order.
+// With "bare" it drags a slider of a window that draws the same preview, shows the value and sends
+// a record's bytes, straight through Qt.
 
+#include "bench/BarePreview.h"
 #include "platform/AppKit/NSView.h"
 #include "platform/CoreServices/Processes.h"
 #include "src/prefpane/VLDKorvexPane.h"
 #include "src/prefs.h"
 
 #include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLabel>
+#include <QPainter>
 #include <QSlider>
-#include <QTabWidget>
+#include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <chrono>
@@ -111,10 +119,46 @@ void killAgent() {
         kill(pid, SIGTERM);
 }
 
-} // namespace
+class BarePreview : public QWidget {
+public:
+    BarePreview() { setFixedSize(kPreviewSize); }
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        drawBarePreview(*this, painter);
+    }
+};
+
+void sendBareChange() {
+    auto message = QDBusMessage::createSignal(QStringLiteral("/bench"), QStringLiteral("org.bench"),
+                                              QStringLiteral("Change"));
+    message << QByteArray(sizeof(PrefsRecord), '\0');
+    QDBusConnection::sessionBus().send(message);
+}
+
+int dragBare() {
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* slider = new QSlider(Qt::Horizontal);
+    auto* value = new QLabel;
+    auto* preview = new BarePreview;
+    for (QWidget* part : {static_cast<QWidget*>(preview), static_cast<QWidget*>(slider),
+                          static_cast<QWidget*>(value)})
+        layout->addWidget(part);
+    QObject::connect(slider, &QSlider::valueChanged, [=](int position) {
+        value->setNum(position);
+        preview->update();
+        sendBareChange();
+    });
+    window.show();
+    waitFor([&] { return window.isVisible(); });
+    std::vector<double> sent;
+    std::printf("%.9f\n", drag(*slider, sent));
+    return EXIT_SUCCESS;
+}
+
+int dragInPane() {
     const QTemporaryDir folder;
     const QString log = folder.filePath(QStringLiteral("agent.log"));
     qputenv("KORVEX_AGENT_LOG", log.toUtf8());
@@ -131,8 +175,10 @@ int main(int argc, char** argv) {
     pane.willSelect();
     QWidget* window = pane.mainView()->widget();
     auto* slider = window->findChild<QSlider*>(QStringLiteral("lineTransparencySlider"));
-    window->findChild<QTabWidget*>(QStringLiteral("prefsTabs"))
-        ->setCurrentWidget(window->findChild<QWidget*>(QStringLiteral("appearanceTab")));
+    auto* sections = window->findChild<QStackedWidget*>(QStringLiteral("prefsTabs"));
+    for (int i = 0; i < sections->count(); ++i)
+        if (sections->widget(i)->isAncestorOf(slider))
+            sections->setCurrentIndex(i);
     window->show();
     const bool agentRuns = waitFor([] { return findAgent() != kNoProcess; });
 
@@ -144,4 +190,11 @@ int main(int argc, char** argv) {
     killAgent();
     std::printf("%.9f\n", longest);
     return agentRuns && arrived && inOrder ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    return argc > 1 && std::strcmp(argv[1], "bare") == 0 ? dragBare() : dragInPane();
 }

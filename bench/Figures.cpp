@@ -74,9 +74,8 @@ bool judge(const Figure& figure, const std::map<std::string, double>& medians) {
     }
     const bool within = value <= amount;
     std::printf("%-58s %11s %11s %11s %11s%s\n", figure.name.c_str(),
-                shown(measured->second, kind).c_str(),
-                shown(floor->second, kind).c_str(), result.c_str(), limit.c_str(),
-                within ? "" : "  OVER");
+                shown(measured->second, kind).c_str(), shown(floor->second, kind).c_str(),
+                result.c_str(), limit.c_str(), within ? "" : "  OVER");
     return within;
 }
 
@@ -101,7 +100,7 @@ void addFigure(const std::string& name, Limit limit, Measure measured, Measure f
             (name + suffix).c_str(), [measure = measure, limit](benchmark::State& state) {
                 run(state, measure, limit.kind);
             });
-        registered->UseManualTime()->MinTime(0.1)->Repetitions(9)->ReportAggregatesOnly();
+        registered->UseManualTime()->MinTime(0.02)->Repetitions(9)->ReportAggregatesOnly();
     }
 }
 

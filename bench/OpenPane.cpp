@@ -6,7 +6,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QTabWidget>
+#include <QStackedWidget>
 
 #include <cstdlib>
 #include <string>
@@ -45,7 +45,7 @@ template QWidget& OpenPane::part(const char* name) const;
 template QAbstractButton& OpenPane::part(const char* name) const;
 
 void OpenPane::showSectionOf(const QWidget& part) const {
-    auto* tabs = window_->findChild<QTabWidget*>(QStringLiteral("prefsTabs"));
+    auto* tabs = window_->findChild<QStackedWidget*>(QStringLiteral("prefsTabs"));
     for (int i = 0; i < tabs->count(); ++i)
         if (tabs->widget(i)->isAncestorOf(&part))
             tabs->setCurrentIndex(i);

@@ -68,8 +68,7 @@ double drawWholeFrame() {
 
 double drawDragFrame() {
     return inDrag([](QWidget&) {
-        return secondsOf(
-            [] { sendMouse(kEventMouseDragged, kDragged.bottomRight() + kDragStep); });
+        return secondsOf([] { sendMouse(kEventMouseDragged, kDragged.bottomRight() + kDragStep); });
     });
 }
 

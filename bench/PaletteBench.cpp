@@ -51,11 +51,6 @@ void beginVisit() {
     palutilSetup();
 }
 
-void endVisit() {
-    palutilCleanup();
-    daemonCleanup();
-}
-
 double redraw() {
     static Editor& editor = *new Editor; // outlives the application, as its palette must not
     static bool begun = false;
@@ -113,21 +108,8 @@ double redrawBare() {
            kRedraws;
 }
 
-/// List and icons read from the disk: the first drawing of a visit less the second.
-double firstDraw() {
-    beginVisit();
-    Editor editor;
-    QImage image = blankImage();
-    const double first = secondsOf([&] { editor.draw(image); });
-    const double second = secondsOf([&] { editor.draw(image); });
-    endVisit();
-    return std::max(first - second, 0.0);
-}
-
 } // namespace
 
 void addPaletteFigures() {
-    addFigure("first drawing of the palette's tab, more than the next", {Limit::Under, 0.050},
-              firstDraw);
     addFigure("redraw of the palette's editor", {Limit::Times, 1.5}, redraw, redrawBare);
 }

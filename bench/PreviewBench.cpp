@@ -84,6 +84,6 @@ double longestBareFrame() {
 
 void addPreviewFigures() {
     addFigure("redraw of the preview", {Limit::Times, 2}, redraw, redrawBare);
-    addFigure("longest frame while a transparency is dragged", {Limit::Times, 2}, longestFrame,
+    addFigure("longest frame while a transparency is dragged", {Limit::Times, 3}, longestFrame,
               longestBareFrame);
 }

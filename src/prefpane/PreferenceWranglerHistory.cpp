@@ -84,11 +84,12 @@ void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& be
     updateHistoryUI();
 }
 
+/// The agent hears it first: showing every value takes longer.
 void PreferenceWrangler::showAndReport(ChangeMask changes) {
+    changed(changes);
     loadValues();
     if (changes & kChangeLaunch)
         updateLaunchUI();
-    changed(changes);
     if (prefsAreAsStored()) {
         prefsWerentChanged();
         recoveryForget();
