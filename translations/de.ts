@@ -5,34 +5,34 @@
     <name>Changes</name>
     <message>
         <source>The palette has the buttons again that Korvex came with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Palette hat wieder die Knöpfe, mit denen Korvex kam.</translation>
     </message>
     <message>
         <source>Put it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>%1, and 1 setting more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, und 1 Einstellung mehr</translation>
     </message>
     <message>
         <source>%1.</source>
         <comment>a sentence</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>%1: %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 wird %3</translation>
     </message>
     <message>
         <source>%1: %2 back to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 wird wieder %3</translation>
     </message>
     <message numerus="yes">
         <source>%1, and %n settings more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, und %n Einstellung mehr</numerusform>
+            <numerusform>%1, und %n Einstellungen mehr</numerusform>
         </translation>
     </message>
 </context>
@@ -40,303 +40,303 @@
     <name>Choices</name>
     <message>
         <source>Press to start, press to choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken zum Starten, drücken zum Wählen</translation>
     </message>
     <message>
         <source>Hold to scan, let go to choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Halten zum Scannen, loslassen zum Wählen</translation>
     </message>
     <message>
         <source>Each press moves one step</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Druck geht einen Schritt weiter</translation>
     </message>
     <message>
         <source>When I press</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn ich drücke</translation>
     </message>
     <message>
         <source>When I let go</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn ich loslasse</translation>
     </message>
     <message>
         <source>The whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Der ganze Bildschirm</translation>
     </message>
     <message>
         <source>Only my own area</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur mein eigener Bereich</translation>
     </message>
     <message>
         <source>Square</source>
-        <translation type="unfinished"></translation>
+        <translation>Eckig</translation>
     </message>
     <message>
         <source>Rounded</source>
-        <translation type="unfinished"></translation>
+        <translation>Rund</translation>
     </message>
 </context>
 <context>
     <name>Colour</name>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiß</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarz</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelb</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Lila</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange</translation>
     </message>
     <message>
         <source>Light blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Hellblau</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot</translation>
     </message>
     <message>
         <source>Buff</source>
-        <translation type="unfinished"></translation>
+        <translation>Sand</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Grau</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün</translation>
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosa</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blau</translation>
     </message>
 </context>
 <context>
     <name>Commands</name>
     <message>
         <source>every key needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>zu jedem Schlüssel gehört ein Wert</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Einstellung „%1“</translation>
     </message>
     <message>
         <source>Shows every setting: its key, value, default, range and what it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt jede Einstellung: Schlüssel, Wert, Standard, Bereich und was sie ist.</translation>
     </message>
     <message>
         <source>KEY…</source>
-        <translation type="unfinished"></translation>
+        <translation>SCHLÜSSEL…</translation>
     </message>
     <message>
         <source>Shows the value of settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt den Wert von Einstellungen.</translation>
     </message>
     <message>
         <source>KEY VALUE…</source>
-        <translation type="unfinished"></translation>
+        <translation>SCHLÜSSEL WERT…</translation>
     </message>
     <message>
         <source>Changes settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändert Einstellungen.</translation>
     </message>
     <message>
         <source>Puts settings back to their defaults; &quot;all&quot; stands for all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt Einstellungen auf den Standard zurück; „all“ steht für alle.</translation>
     </message>
     <message>
         <source>FILE</source>
-        <translation type="unfinished"></translation>
+        <translation>DATEI</translation>
     </message>
     <message>
         <source>Writes the settings to a file; - stands for standard output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Einstellungen in eine Datei; - steht für die Standardausgabe.</translation>
     </message>
     <message>
         <source>Shows what a file would change; with --yes, changes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, was eine Datei ändern würde; mit --yes wird es geändert.</translation>
     </message>
     <message>
         <source>list|use|save|rename|delete [NAME…]</source>
-        <translation type="unfinished"></translation>
+        <translation>list|use|save|rename|delete [NAME…]</translation>
     </message>
     <message>
         <source>Lists and uses named states of the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listet und nutzt benannte Stände der Einstellungen.</translation>
     </message>
     <message>
         <source>Prints the completion for bash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt die Vervollständigung für bash aus.</translation>
     </message>
     <message>
         <source>Prints the manual page&apos;s part on commands and settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt den Teil der Handbuchseite über Befehle und Einstellungen aus.</translation>
     </message>
     <message>
         <source>Usage: korvex-preferences COMMAND [--json] [--yes] …</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: korvex-preferences BEFEHL [--json] [--yes] …</translation>
     </message>
     <message>
         <source>answers for programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Antworten für Programme</translation>
     </message>
     <message>
         <source>doesn&apos;t ask</source>
-        <translation type="unfinished"></translation>
+        <translation>fragt nicht nach</translation>
     </message>
     <message>
         <source>See korvex-preferences help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Siehe korvex-preferences help.</translation>
     </message>
     <message>
         <source>there is no command &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keinen Befehl „%1“</translation>
     </message>
     <message>
         <source>there is no such option</source>
-        <translation type="unfinished"></translation>
+        <translation>diese Option gibt es nicht</translation>
     </message>
     <message>
         <source>%1 takes %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 braucht %2</translation>
     </message>
     <message>
         <source>%1 takes no operand</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nimmt keine Angabe</translation>
     </message>
     <message>
         <source>Nothing differs from the settings as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ist anders als in den jetzigen Einstellungen.</translation>
     </message>
     <message>
         <source>Left out: %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Weggelassen: %1: %2</translation>
     </message>
     <message>
         <source>%1 (in use)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (in Gebrauch)</translation>
     </message>
     <message>
         <source>Nothing was changed. With --yes it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts wurde geändert. Mit --yes geschieht es.</translation>
     </message>
     <message>
         <source>profile list, use NAME, save NAME, rename NAME NEW or delete NAME</source>
-        <translation type="unfinished"></translation>
+        <translation>profile list, use NAME, save NAME, rename NAME NEU oder delete NAME</translation>
     </message>
     <message>
         <source>; default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>; Standard: %1</translation>
     </message>
     <message>
         <source>can&apos;t store the settings in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die Einstellungen können nicht in %1 gespeichert werden</translation>
     </message>
 </context>
 <context>
     <name>Faults</name>
     <message>
         <source>the change can&apos;t be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>die Änderung kann nicht gesendet werden</translation>
     </message>
     <message>
         <source>the open window doesn&apos;t answer</source>
-        <translation type="unfinished"></translation>
+        <translation>das offene Fenster antwortet nicht</translation>
     </message>
     <message>
         <source>the open window doesn&apos;t take the change</source>
-        <translation type="unfinished"></translation>
+        <translation>das offene Fenster nimmt die Änderung nicht an</translation>
     </message>
     <message>
         <source>a profile needs a name</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Profil braucht einen Namen</translation>
     </message>
     <message>
         <source>the name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name ist zu lang</translation>
     </message>
     <message>
         <source>a name has no slash and no control character, and doesn&apos;t begin with a point</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Name hat keinen Schrägstrich und kein Steuerzeichen und beginnt nicht mit einem Punkt</translation>
     </message>
     <message>
         <source>there is no profile of that name</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt kein Profil mit diesem Namen</translation>
     </message>
     <message>
         <source>there is a profile of that name</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt schon ein Profil mit diesem Namen</translation>
     </message>
     <message>
         <source>outside %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht im Bereich %1</translation>
     </message>
     <message>
         <source>none of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nichts davon: %1</translation>
     </message>
     <message>
         <source>not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Zahl</translation>
     </message>
     <message>
         <source>an action that there isn&apos;t</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Aktion, die es nicht gibt</translation>
     </message>
     <message>
         <source>not a number in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Zahl in %1</translation>
     </message>
     <message>
         <source>not a value of this setting</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Wert dieser Einstellung</translation>
     </message>
     <message>
         <source>no setting of this version</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Einstellung dieser Version</translation>
     </message>
     <message>
         <source>not a file of settings, or it can&apos;t be read</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Datei mit Einstellungen, oder nicht lesbar</translation>
     </message>
 </context>
 <context>
     <name>Formats</name>
     <message>
         <source>%.0f points</source>
-        <translation type="unfinished"></translation>
+        <translation>%.0f Punkte</translation>
     </message>
     <message>
         <source>%5.1f sec</source>
-        <translation type="unfinished"></translation>
+        <translation>%5.1f s</translation>
     </message>
     <message>
         <source>%3.0f%%</source>
-        <translation type="unfinished"></translation>
+        <translation>%3.0f %%</translation>
     </message>
     <message>
         <source>%3.0f points</source>
-        <translation type="unfinished"></translation>
+        <translation>%3.0f Punkte</translation>
     </message>
     <message>
         <source>%3.0f ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%3.0f ms</translation>
     </message>
 </context>
 <context>
@@ -357,188 +357,202 @@ Shows the settings pane of the bundle, of Korvex&apos;s own without one.
   --help          print this text
   --version       print the version
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: korvex-preferences [BÜNDEL.prefPane]
+        korvex-preferences BEFEHL ANGABEN
+        korvex-preferences --section NAME
+        korvex-preferences --service
+        korvex-preferences --check BÜNDEL.prefPane
+
+Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
+
+  BEFEHL          ändert oder liest Einstellungen ohne Fenster; siehe den Befehl „help“
+  --section NAME  zeigt diesen Abschnitt, zum Beispiel „palette“
+  --service       wartet, bis der Sitzungsbus das Fenster verlangt
+  --check BÜNDEL  lädt das Bündel, prüft seine Formulare, zeigt nichts
+  --help          gibt diesen Text aus
+  --version       gibt die Version aus
+</translation>
     </message>
     <message>
         <source>Korvex.prefPane: not found beside this program</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex.prefPane: nicht neben diesem Programm gefunden</translation>
     </message>
     <message>
         <source>it is open already, but doesn&apos;t answer</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist schon offen, antwortet aber nicht</translation>
     </message>
     <message>
         <source>there is no section &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keinen Abschnitt „%1“</translation>
     </message>
     <message>
         <source>the settings aren&apos;t saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die Einstellungen sind nicht gespeichert: %1</translation>
     </message>
 </context>
 <context>
     <name>HotKeys</name>
     <message>
         <source>First choose “Choose keys…” in the menu beside a hot key.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie zuerst „Tasten wählen…“ im Menü neben einer Tastenkombination.</translation>
     </message>
     <message>
         <source>New keys for “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Tasten für „%1“</translation>
     </message>
     <message>
         <source>Use it here and remove it there</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier verwenden und dort entfernen</translation>
     </message>
     <message>
         <source>Put back what was here</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorige Tasten zurückholen</translation>
     </message>
     <message>
         <source>Press new keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Tasten drücken</translation>
     </message>
     <message>
         <source>Choose keys…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten wählen…</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Listening: press the new hot key, one key, alone or with Ctrl, Alt, Shift or Super held down. Every key counts, Esc and Tab too. %1 seconds left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie jetzt die neue Taste, allein oder zusammen mit Strg, Alt, Umschalt oder Super. Jede Taste zählt, auch Esc und Tab. Noch %1 Sekunden.</translation>
     </message>
     <message>
         <source>“%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“</translation>
     </message>
     <message>
         <source>⚠ The same keys as %1. The menu beside it offers to use them here alone, or to put back what was here.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Dieselben Tasten wie %1. Das Menü daneben bietet an, sie nur hier zu verwenden oder die vorigen zurückzuholen.</translation>
     </message>
     <message>
         <source>Now %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt %1. </translation>
     </message>
     <message>
         <source>Capturing: press the new keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme: Drücken Sie die neuen Tasten.</translation>
     </message>
     <message>
         <source>Turn scanning on or off</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen ein- oder ausschalten</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen</translation>
     </message>
     <message>
         <source>Cancel the scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Scan abbrechen</translation>
     </message>
     <message>
         <source>Show these settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Einstellungen zeigen</translation>
     </message>
     <message>
         <source>Second scan key</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweite Scan-Taste</translation>
     </message>
 </context>
 <context>
     <name>Keys</name>
     <message>
         <source>return</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenschalter</translation>
     </message>
     <message>
         <source>tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab</translation>
     </message>
     <message>
         <source>space</source>
-        <translation type="unfinished"></translation>
+        <translation>Leertaste</translation>
     </message>
     <message>
         <source>delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabe</translation>
     </message>
     <message>
         <source>esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>caps lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Feststelltaste</translation>
     </message>
     <message>
         <source>clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>home</source>
-        <translation type="unfinished"></translation>
+        <translation>Pos1</translation>
     </message>
     <message>
         <source>page up</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild auf</translation>
     </message>
     <message>
         <source>end</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende</translation>
     </message>
     <message>
         <source>page down</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild ab</translation>
     </message>
     <message>
         <source>command+</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl+</translation>
     </message>
     <message>
         <source>control+</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg+</translation>
     </message>
     <message>
         <source>shift+</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschalt+</translation>
     </message>
     <message>
         <source>option+</source>
-        <translation type="unfinished"></translation>
+        <translation>Wahl+</translation>
     </message>
     <message>
         <source> keypad </source>
-        <translation type="unfinished"></translation>
+        <translation> Ziffernblock </translation>
     </message>
     <message>
         <source> fn </source>
-        <translation type="unfinished"></translation>
+        <translation> fn </translation>
     </message>
     <message>
         <source>-none-</source>
-        <translation type="unfinished"></translation>
+        <translation>-keine-</translation>
     </message>
 </context>
 <context>
     <name>NSColorWell</name>
     <message>
         <source>Red %1, green %2, blue %3, each of 255</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot %1, Grün %2, Blau %3, jeweils von 255</translation>
     </message>
 </context>
 <context>
@@ -546,1188 +560,1188 @@ Shows the settings pane of the bundle, of Korvex&apos;s own without one.
     <message>
         <source>%1, %2</source>
         <extracomment>As in &quot;Line scan time, longer&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1, much %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, viel %2</translation>
     </message>
 </context>
 <context>
     <name>Numbers</name>
     <message>
         <source>%1 less</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 weniger</translation>
     </message>
     <message>
         <source>%1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mehr</translation>
     </message>
     <message>
         <source>Only %1 to %2 can be set.</source>
-        <translation type="unfinished"></translation>
+        <translation>Möglich ist nur %1 bis %2.</translation>
     </message>
 </context>
 <context>
     <name>Palette</name>
     <message>
         <source>%1 points</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Punkte</translation>
     </message>
     <message>
         <source>Choose the button to swap with button %1. The same button again, or Escape, cancels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie den Knopf, mit dem Knopf %1 tauschen soll. Derselbe Knopf noch einmal oder Escape bricht ab.</translation>
     </message>
     <message>
         <source>Chosen: button %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählt: Knopf %1.</translation>
     </message>
     <message>
         <source>Choose a button to change it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen Knopf, um ihn zu ändern.</translation>
     </message>
     <message>
         <source>Empty slot</source>
-        <translation type="unfinished"></translation>
+        <translation>Leerer Platz</translation>
     </message>
     <message>
         <source>Action %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktion %1</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <comment>number and name of a button</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>Pane</name>
     <message>
         <source>Korvex</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex</translation>
     </message>
     <message>
         <source>Chooses another section of the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt einen anderen Abschnitt der Einstellungen.</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen</translation>
     </message>
     <message>
         <source>Scanning with Korvex</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Korvex scannen</translation>
     </message>
     <message>
         <source>&lt;p&gt;Off stops scanning and keeps all settings. Hold Alt (Option) while you click to quit Korvex itself, or to start it.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;„Aus“ beendet das Scannen und behält alle Einstellungen. Halten Sie Alt (Wahl) beim Klicken, um Korvex selbst zu beenden oder zu starten.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Turns scanning off and on. Your settings stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet das Scannen aus und ein. Ihre Einstellungen bleiben, wie sie sind.</translation>
     </message>
     <message>
         <source>Stops scanning. With Alt held, quits Korvex.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beendet das Scannen. Mit Alt wird Korvex beendet.</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Makes Korvex ready to scan. With Alt held, starts Korvex if it is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Macht Korvex bereit zum Scannen. Mit Alt wird Korvex gestartet, falls es nicht läuft.</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Takes the last change of this visit back. Ctrl+Z does the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt die letzte Änderung dieses Besuchs zurück. Strg+Z tut dasselbe.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Takes the last change of this visit back. Ctrl+Z does the same.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Nimmt die letzte Änderung dieses Besuchs zurück. Strg+Z tut dasselbe.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Makes a change again that was undone. Ctrl+Shift+Z does the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Macht eine zurückgenommene Änderung noch einmal. Strg+Umschalt+Z tut dasselbe.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Makes a change again that was undone. Ctrl+Shift+Z does the same.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Macht eine zurückgenommene Änderung noch einmal. Strg+Umschalt+Z tut dasselbe.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Opens the Korvex help in your web browser. F1 does the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet die Hilfe zu Korvex in Ihrem Browser. F1 tut dasselbe.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Opens the Korvex help in your web browser.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Öffnet die Hilfe zu Korvex in Ihrem Browser.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>Sections of the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitte der Einstellungen</translation>
     </message>
     <message>
         <source>The arrow keys choose a section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pfeiltasten wählen einen Abschnitt.</translation>
     </message>
     <message>
         <source>&amp;Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Scannen</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>&amp;Line crosses the screen in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Linie überquert den Bildschirm in</translation>
     </message>
     <message>
         <source>shorter</source>
-        <translation type="unfinished"></translation>
+        <translation>kürzer</translation>
     </message>
     <message>
         <source>longer</source>
-        <translation type="unfinished"></translation>
+        <translation>länger</translation>
     </message>
     <message>
         <source>Line scan time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit des Linien-Scans</translation>
     </message>
     <message>
         <source>More time makes it easier to stop the line in the right place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit mehr Zeit halten Sie die Linie leichter an der richtigen Stelle an.</translation>
     </message>
     <message>
         <source>&lt;p&gt;At 60 seconds, pressing one second late moves the line by only a sixtieth of the screen.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Bei 60 Sekunden verschiebt eine Sekunde Verspätung die Linie nur um ein Sechzigstel des Bildschirms.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Pointer &amp;crosses the screen in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeiger überquert den Bildschirm in</translation>
     </message>
     <message>
         <source>Pointer scan time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit des Zeiger-Scans</translation>
     </message>
     <message>
         <source>Once you have stopped the line, the pointer moves along it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn Sie die Linie angehalten haben, läuft der Zeiger an ihr entlang.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Many people need as long here as for the line, because this press decides where the click lands.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Viele brauchen hier so lange wie für die Linie, denn dieser Druck entscheidet, wo geklickt wird.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Speed in &amp;menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo in &amp;Menüs</translation>
     </message>
     <message>
         <source>slower</source>
-        <translation type="unfinished"></translation>
+        <translation>langsamer</translation>
     </message>
     <message>
         <source>faster</source>
-        <translation type="unfinished"></translation>
+        <translation>schneller</translation>
     </message>
     <message>
         <source>100% is as fast as on the rest of the screen. Menu items are small, so slower is easier.</source>
-        <translation type="unfinished"></translation>
+        <translation>100 % ist so schnell wie sonst auf dem Bildschirm. Menüeinträge sind klein, langsamer ist leichter.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Below 100 a menu gives you more time than the rest of the screen; above 100 it saves waiting.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Unter 100 haben Sie im Menü mehr Zeit als sonst; über 100 warten Sie weniger.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Start slowly, then speed up</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsam beginnen, dann schneller werden</translation>
     </message>
     <message>
         <source>Gives you time for things near the start without a long wait for those far away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt Ihnen Zeit für Dinge am Anfang, ohne langes Warten auf die entfernten.</translation>
     </message>
     <message>
         <source>Try it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausprobieren</translation>
     </message>
     <message>
         <source>Press your switch a few times and see which speed suits you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie einige Male und sehen Sie, welches Tempo Ihnen passt.</translation>
     </message>
     <message>
         <source>Find my speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Mein Tempo finden</translation>
     </message>
     <message>
         <source>Find my speed…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mein Tempo finden…</translation>
     </message>
     <message>
         <source>Pauses and clicks</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausen und Klicks</translation>
     </message>
     <message>
         <source>&amp;Wait before the scan starts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Warten, bevor der Scan beginnt</translation>
     </message>
     <message>
         <source>Time to get ready after your first press. 0 starts at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit, sich nach dem ersten Druck bereit zu machen. 0 beginnt sofort.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Enough to settle back and look at the screen before anything moves.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Genug, um sich zurechtzusetzen und auf den Bildschirm zu sehen, bevor sich etwas bewegt.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>R&amp;epeat an action every</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eine Aktion wiederholen alle</translation>
     </message>
     <message>
         <source>Time between repeats</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit zwischen Wiederholungen</translation>
     </message>
     <message>
         <source>Actions such as scrolling go on at this pace until you press again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktionen wie das Blättern gehen in diesem Takt weiter, bis Sie wieder drücken.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Short suits scrolling; long leaves time to stop after a single repeat.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Kurz passt zum Blättern; lang lässt Zeit, nach einer einzigen Wiederholung anzuhalten.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Length of a clic&amp;k</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge eines &amp;Klicks</translation>
     </message>
     <message>
         <source>How long Korvex holds the mouse button down. Make it longer if a program misses clicks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie lange Korvex die Maustaste drückt. Länger, wenn ein Programm Klicks übersieht.</translation>
     </message>
     <message>
         <source>&lt;p&gt;A few programs, games above all, miss a click of less than 50; above 300 many see a long press.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Manche Programme, vor allem Spiele, übersehen einen Klick unter 50; über 300 gilt er bei vielen als langer Druck.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>What is scanned</source>
-        <translation type="unfinished"></translation>
+        <translation>Was gescannt wird</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen</translation>
     </message>
     <message>
         <source>Which part of the screen is scanned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Welcher Teil des Bildschirms gescannt wird.</translation>
     </message>
     <message>
         <source>The whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Der ganze Bildschirm</translation>
     </message>
     <message>
         <source>The line crosses the whole screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Linie überquert den ganzen Bildschirm.</translation>
     </message>
     <message>
         <source>Only my own area</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur mein eigener Bereich</translation>
     </message>
     <message>
         <source>A smaller area takes less time. You can choose this once an area has been drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein kleinerer Bereich braucht weniger Zeit. Das geht, sobald ein Bereich gezeichnet ist.</translation>
     </message>
     <message>
         <source>Part of the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Teil des Bildschirms</translation>
     </message>
     <message>
         <source>Scans only that part from now on: the whole screen, a half, a third or a quarter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannt von nun an nur diesen Teil: den ganzen Bildschirm, eine Hälfte, ein Drittel oder ein Viertel.</translation>
     </message>
     <message>
         <source>Parts of the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Teile des Bildschirms</translation>
     </message>
     <message>
         <source>The arrow keys go from one to the next; Space chooses it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pfeiltasten gehen vom einen zum nächsten; die Leertaste wählt ihn.</translation>
     </message>
     <message>
         <source>My own area</source>
-        <translation type="unfinished"></translation>
+        <translation>Mein eigener Bereich</translation>
     </message>
     <message>
         <source>Drag across the screen, or move the area&apos;s lower right corner with the arrow keys and, with Shift, its upper left one. Return keeps the area, Esc leaves all as it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie über den Bildschirm, oder bewegen Sie die rechte untere Ecke des Bereichs mit den Pfeiltasten und, mit Umschalt, die linke obere. Return behält den Bereich, Esc lässt alles, wie es war.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keiner</translation>
     </message>
     <message>
         <source>Width × height at left, top, in points on the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite × Höhe bei links, oben, in Punkten auf dem Bildschirm.</translation>
     </message>
     <message>
         <source>Draw my own area</source>
-        <translation type="unfinished"></translation>
+        <translation>Meinen eigenen Bereich zeichnen</translation>
     </message>
     <message>
         <source>Covers the screen. Drag across it, or move the area&apos;s lower right corner with the arrow keys and, with Shift, its upper left one. Return keeps the area, Esc leaves all as it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedeckt den Bildschirm. Ziehen Sie darüber, oder bewegen Sie die rechte untere Ecke des Bereichs mit den Pfeiltasten und, mit Umschalt, die linke obere. Return behält den Bereich, Esc lässt alles, wie es war.</translation>
     </message>
     <message>
         <source>&amp;Draw…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeich&amp;nen…</translation>
     </message>
     <message>
         <source>Scan the menu bar too</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch die Menüleiste scannen</translation>
     </message>
     <message>
         <source>Turn this off if you never use the menu bar and want it skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalten Sie das aus, wenn Sie die Menüleiste nie brauchen und sie übersprungen werden soll.</translation>
     </message>
     <message>
         <source>Line scan ends keyboard mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Linien-Scan beendet den Tastaturmodus</translation>
     </message>
     <message>
         <source>Starting the scan line then leaves the on-screen keyboard, so you need no extra step to get back to the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn die Linie startet, verlassen Sie damit die Bildschirmtastatur und brauchen keinen weiteren Schritt zurück zum Bildschirm.</translation>
     </message>
     <message>
         <source>P&amp;resses</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drücken</translation>
     </message>
     <message>
         <source>Presses</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken</translation>
     </message>
     <message>
         <source>Way of scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Art zu scannen</translation>
     </message>
     <message>
         <source>Scan mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Scan-Art</translation>
     </message>
     <message>
         <source>How your switch controls the scan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie Ihr Schalter den Scan steuert.</translation>
     </message>
     <message>
         <source>Press to start, press to choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken zum Starten, drücken zum Wählen</translation>
     </message>
     <message>
         <source>The scan moves by itself. Press once to start it and again at the thing you want.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Scan läuft von selbst. Drücken Sie einmal zum Starten und noch einmal beim Gewünschten.</translation>
     </message>
     <message>
         <source>A press counts</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Druck zählt</translation>
     </message>
     <message>
         <source>Choose “let go” if you can time that better.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie „loslasse“, wenn Sie das besser treffen.</translation>
     </message>
     <message>
         <source>Used by this way of scanning only. Choose “let go” if you can time that better.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur bei dieser Art zu scannen. Wählen Sie „loslasse“, wenn Sie das besser treffen.</translation>
     </message>
     <message>
         <source>When I press</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn ich drücke</translation>
     </message>
     <message>
         <source>When I let go</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn ich loslasse</translation>
     </message>
     <message>
         <source>Hold to scan, let go to choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Halten zum Scannen, loslassen zum Wählen</translation>
     </message>
     <message>
         <source>The scan moves while you hold your switch down and stops when you let go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Scan läuft, solange Sie den Schalter halten, und hält beim Loslassen an.</translation>
     </message>
     <message>
         <source>Wait after &amp;letting go</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten nach dem L&amp;oslassen</translation>
     </message>
     <message>
         <source>Press again within this time to go on. After it, Korvex chooses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie in dieser Zeit wieder, um weiterzumachen. Danach wählt Korvex.</translation>
     </message>
     <message>
         <source>&lt;p&gt;A few seconds let you put right a hand that slipped off the switch.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Mit einigen Sekunden können Sie ausgleichen, dass die Hand vom Schalter gerutscht ist.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Each press moves one step</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Druck geht einen Schritt weiter</translation>
     </message>
     <message>
         <source>Nothing moves until you press, so there is no moment to miss.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts bewegt sich, bis Sie drücken; Sie können keinen Moment verpassen.</translation>
     </message>
     <message>
         <source>Stop without a press &amp;for</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden ohne Druck nach</translation>
     </message>
     <message>
         <source>The scan ends after this time without a press.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Scan endet nach dieser Zeit ohne Druck.</translation>
     </message>
     <message>
         <source>&lt;p&gt;A long time lets you rest between steps; a short one clears the screen soon after you stop.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Eine lange Zeit lässt Sie zwischen den Schritten ruhen; eine kurze räumt den Bildschirm bald nach dem Aufhören.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Steadier presses</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruhiger drücken</translation>
     </message>
     <message>
         <source>Shortest press that &amp;counts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kürzester Druck, der zählt</translation>
     </message>
     <message>
         <source>Shorter ones, as from a tremor, are ignored. 0 counts all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kürzere, etwa durch Zittern, zählen nicht. Bei 0 zählen alle.</translation>
     </message>
     <message>
         <source>&lt;p&gt;A few tenths of a second filter out most tremor; more than a second makes every press deliberate.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Einige Zehntelsekunden filtern das meiste Zittern; über einer Sekunde ist jeder Druck Absicht.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&amp;Ignore presses after a click for</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nach einem Klick nicht beachten für</translation>
     </message>
     <message>
         <source>Stops an unwanted second press from counting. 0 ignores none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verhindert, dass ein ungewollter zweiter Druck zählt. 0 beachtet alle.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Half a second stops most accidental double presses; longer leaves time for a spasm to pass.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Eine halbe Sekunde fängt die meisten doppelten Drücke ab; länger lässt einen Krampf vorübergehen.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Your switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Schalter</translation>
     </message>
     <message>
         <source>Listen to hot keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Tasten hören</translation>
     </message>
     <message>
         <source>For a switch or switch box that types a key. Leave this or mouse clicks on, or nothing you press will start a scan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für einen Schalter, der eine Taste tippt. Lassen Sie dies oder die Mausklicks an, sonst startet nichts einen Scan.</translation>
     </message>
     <message>
         <source>Listen to mouse clicks</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Mausklicks hören</translation>
     </message>
     <message>
         <source>For a switch that is connected as a mouse button, or for the mouse itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für einen Schalter, der als Maustaste angeschlossen ist, oder für die Maus selbst.</translation>
     </message>
     <message>
         <source>Keys that work everywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten, die überall wirken</translation>
     </message>
     <message>
         <source>Press the new hot key: one key, alone or with Ctrl, Alt, Shift or Super held down. Every key counts, Esc and Tab too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie die neue Taste, allein oder zusammen mit Strg, Alt, Umschalt oder Super. Jede Taste zählt, auch Esc und Tab.</translation>
     </message>
     <message>
         <source>Keeps the hot key as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lässt die Taste, wie sie ist.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Goes back to the usual hot key.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kehrt zur üblichen Taste zurück.</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Takes the hot key away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt die Taste weg.</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>To change a hot key, click it, or open the menu beside it and choose “Press new keys”. The next key that you press becomes the hot key. Without a keyboard, choose “Choose keys…”. In its name, “command” is the Super or Windows key and “option” is Alt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um eine Taste zu ändern, klicken Sie darauf, oder öffnen Sie das Menü daneben und wählen „Neue Tasten drücken“. Die nächste Taste, die Sie drücken, gilt. Ohne Tastatur wählen Sie „Tasten wählen…“. „Befehl“ im Namen ist die Super- oder Windows-Taste, „Wahl“ ist Alt.</translation>
     </message>
     <message>
         <source>Sca&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;cannen</translation>
     </message>
     <message>
         <source>Starts a scan and stops it: the key that your switch types.</source>
-        <translation type="unfinished"></translation>
+        <translation>Startet einen Scan und hält ihn an: die Taste, die Ihr Schalter tippt.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Click, then press the new keys.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Klicken Sie, dann drücken Sie die neuen Tasten.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Change: Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern: Scannen</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern</translation>
     </message>
     <message>
         <source>Scan, s&amp;econd key</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen, &amp;zweite Taste</translation>
     </message>
     <message>
         <source>Does the same, for a second switch or a key in another place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tut dasselbe, für einen zweiten Schalter oder eine Taste an anderer Stelle.</translation>
     </message>
     <message>
         <source>Scan, second key</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen, zweite Taste</translation>
     </message>
     <message>
         <source>Change: Scan, second key</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern: Scannen, zweite Taste</translation>
     </message>
     <message>
         <source>C&amp;ancel the scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Scan abb&amp;rechen</translation>
     </message>
     <message>
         <source>Takes the line away without a click.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt die Linie ohne Klick weg.</translation>
     </message>
     <message>
         <source>Cancel the scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Scan abbrechen</translation>
     </message>
     <message>
         <source>Change: Cancel the scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern: Scan abbrechen</translation>
     </message>
     <message>
         <source>&amp;Turn scanning on or off</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen &amp;ein- oder ausschalten</translation>
     </message>
     <message>
         <source>Does what the switch at the top of this window does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tut, was der Schalter oben in diesem Fenster tut.</translation>
     </message>
     <message>
         <source>Turn scanning on or off</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen ein- oder ausschalten</translation>
     </message>
     <message>
         <source>Change: Turn scanning on or off</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern: Scannen ein- oder ausschalten</translation>
     </message>
     <message>
         <source>Sho&amp;w these settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Einste&amp;llungen zeigen</translation>
     </message>
     <message>
         <source>Opens this window from wherever you are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet dieses Fenster von überall her.</translation>
     </message>
     <message>
         <source>Show these settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Einstellungen zeigen</translation>
     </message>
     <message>
         <source>Change: Show these settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern: Diese Einstellungen zeigen</translation>
     </message>
     <message>
         <source>To hold while the key is pressed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gehalten, während die Taste gedrückt wird.</translation>
     </message>
     <message>
         <source>command (Super)</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl (Super)</translation>
     </message>
     <message>
         <source>control</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg</translation>
     </message>
     <message>
         <source>shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschalt</translation>
     </message>
     <message>
         <source>option (Alt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wahl (Alt)</translation>
     </message>
     <message>
         <source>Choose a key</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Taste wählen</translation>
     </message>
     <message>
         <source>The key that you choose becomes the hot key, with the boxes that are ticked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gewählte Taste gilt, zusammen mit den angekreuzten Feldern.</translation>
     </message>
     <message>
         <source>L&amp;ook</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aussehen</translation>
     </message>
     <message>
         <source>Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussehen</translation>
     </message>
     <message>
         <source>Click to see the other line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie, um die andere Linie zu sehen.</translation>
     </message>
     <message>
         <source>With it are two sample buttons and the pointer. Shows the other line when pressed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dazu zwei Beispielknöpfe und der Zeiger. Zeigt beim Drücken die andere Linie.</translation>
     </message>
     <message>
         <source>Scan line and guide line</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanlinie und Führungslinie</translation>
     </message>
     <message>
         <source>&amp;Line colour</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Linienfarbe</translation>
     </message>
     <message>
         <source>Choose a colour that stands out from your windows and desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie eine Farbe, die sich von Ihren Fenstern und dem Schreibtisch abhebt.</translation>
     </message>
     <message>
         <source>Line colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienfarbe</translation>
     </message>
     <message>
         <source>Strong colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Kräftige Farben</translation>
     </message>
     <message>
         <source>Twelve colours that stand out from one another as far as colours can.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwölf Farben, die sich so gut voneinander abheben, wie Farben es können.</translation>
     </message>
     <message>
         <source>Strong line colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Kräftige Linienfarben</translation>
     </message>
     <message>
         <source>Line &amp;thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie&amp;ndicke</translation>
     </message>
     <message>
         <source>thinner</source>
-        <translation type="unfinished"></translation>
+        <translation>dünner</translation>
     </message>
     <message>
         <source>thicker</source>
-        <translation type="unfinished"></translation>
+        <translation>dicker</translation>
     </message>
     <message>
         <source>A thick line is easier to see; a thin one hides less.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine dicke Linie ist leichter zu sehen, eine dünne verdeckt weniger.</translation>
     </message>
     <message>
         <source>Scan line transparenc&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Transparenz der Scanlinie</translation>
     </message>
     <message>
         <source>more solid</source>
-        <translation type="unfinished"></translation>
+        <translation>deckender</translation>
     </message>
     <message>
         <source>more transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>durchsichtiger</translation>
     </message>
     <message>
         <source>0% is solid. A higher value lets you see what is beneath the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>0 % deckt ganz. Ein höherer Wert lässt sehen, was unter der Linie ist.</translation>
     </message>
     <message>
         <source>&lt;p&gt;It stops short of 100 so that the scan line can never vanish.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Es endet vor 100, damit die Scanlinie nie verschwindet.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Gui&amp;de line transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparenz der &amp;Führungslinie</translation>
     </message>
     <message>
         <source>The guide line goes with the scan line. 100% hides it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Führungslinie begleitet die Scanlinie. 100 % blendet sie aus.</translation>
     </message>
     <message>
         <source>&lt;p&gt;At 100 the guide line is invisible, for those whom a second line distracts.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Bei 100 ist die Führungslinie unsichtbar, falls eine zweite Linie ablenkt.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiger</translation>
     </message>
     <message>
         <source>Poi&amp;nter</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeiger</translation>
     </message>
     <message>
         <source>What moves along the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was an der Linie entlangläuft.</translation>
     </message>
     <message>
         <source>Previous pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Voriger Zeiger</translation>
     </message>
     <message>
         <source>Chooses the pointer before this one. Before the first comes the last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt den Zeiger davor. Vor dem ersten kommt der letzte.</translation>
     </message>
     <message>
         <source>Next pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Zeiger</translation>
     </message>
     <message>
         <source>Chooses the pointer after this one. After the last comes the first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt den Zeiger danach. Nach dem letzten kommt der erste.</translation>
     </message>
     <message>
         <source>All pointers</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Zeiger</translation>
     </message>
     <message>
         <source>Choose a large one, or one whose colour you find quickly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen großen oder einen, dessen Farbe Sie schnell finden.</translation>
     </message>
     <message>
         <source>The palette’s buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Knöpfe der Palette</translation>
     </message>
     <message>
         <source>Corners</source>
-        <translation type="unfinished"></translation>
+        <translation>Ecken</translation>
     </message>
     <message>
         <source>Corners of the palette’s buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Ecken der Palettenknöpfe</translation>
     </message>
     <message>
         <source>The shape of each button of the palette.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Form jedes Palettenknopfs.</translation>
     </message>
     <message>
         <source>Square</source>
-        <translation type="unfinished"></translation>
+        <translation>Eckig</translation>
     </message>
     <message>
         <source>Rounded</source>
-        <translation type="unfinished"></translation>
+        <translation>Rund</translation>
     </message>
     <message>
         <source>Show the icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild zeigen</translation>
     </message>
     <message>
         <source>Each button of the palette shows the picture of its action.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Palettenknopf zeigt das Bild seiner Aktion.</translation>
     </message>
     <message>
         <source>Show the name</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen zeigen</translation>
     </message>
     <message>
         <source>Each button of the palette shows the name of its action.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Palettenknopf zeigt den Namen seiner Aktion.</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>kleiner</translation>
     </message>
     <message>
         <source>larger</source>
-        <translation type="unfinished"></translation>
+        <translation>größer</translation>
     </message>
     <message>
         <source>Palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Palettenknöpfe</translation>
     </message>
     <message>
         <source>Larger buttons are easier to see and to hit. 20 to 100 points each way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größere Knöpfe sind leichter zu sehen und zu treffen. 20 bis 100 Punkte je Seite.</translation>
     </message>
     <message>
         <source>Width alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur die Breite</translation>
     </message>
     <message>
         <source>narrower</source>
-        <translation type="unfinished"></translation>
+        <translation>schmaler</translation>
     </message>
     <message>
         <source>wider</source>
-        <translation type="unfinished"></translation>
+        <translation>breiter</translation>
     </message>
     <message>
         <source>Palette buttons’ width</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite der Palettenknöpfe</translation>
     </message>
     <message>
         <source>Wider buttons have room for longer names.</source>
-        <translation type="unfinished"></translation>
+        <translation>Breitere Knöpfe haben Platz für längere Namen.</translation>
     </message>
     <message>
         <source>Height alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur die Höhe</translation>
     </message>
     <message>
         <source>lower</source>
-        <translation type="unfinished"></translation>
+        <translation>niedriger</translation>
     </message>
     <message>
         <source>higher</source>
-        <translation type="unfinished"></translation>
+        <translation>höher</translation>
     </message>
     <message>
         <source>Palette buttons’ height</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe der Palettenknöpfe</translation>
     </message>
     <message>
         <source>Higher buttons have room for a larger icon above the name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhere Knöpfe haben Platz für ein größeres Bild über dem Namen.</translation>
     </message>
     <message>
         <source>Around the edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Rand</translation>
     </message>
     <message>
         <source>Space around the edge of the palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand am Rand der Palette</translation>
     </message>
     <message>
         <source>Between the buttons and the edge of the palette.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen den Knöpfen und dem Rand der Palette.</translation>
     </message>
     <message>
         <source>Between the buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen den Knöpfen</translation>
     </message>
     <message>
         <source>Space between palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand zwischen Palettenknöpfen</translation>
     </message>
     <message>
         <source>More space makes it harder to hit the wrong button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit mehr Abstand trifft man seltener den falschen Knopf.</translation>
     </message>
     <message>
         <source>&amp;Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Palette</translation>
     </message>
     <message>
         <source>Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette</translation>
     </message>
     <message>
         <source>Buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Knöpfe</translation>
     </message>
     <message>
         <source>The nine places of the palette. The arrow keys move between them, Space chooses one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die neun Plätze der Palette. Die Pfeiltasten gehen zwischen ihnen, die Leertaste wählt einen.</translation>
     </message>
     <message>
         <source>Add a button</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Knopf hinzufügen</translation>
     </message>
     <message>
         <source>Puts a new button before the chosen one or, with none chosen, after the last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt einen neuen Knopf vor den gewählten oder, wenn keiner gewählt ist, hinter den letzten.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Puts a new button before the chosen one or, with none chosen, after the last.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Setzt einen neuen Knopf vor den gewählten oder, wenn keiner gewählt ist, hinter den letzten.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>A&amp;dd</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzu&amp;fügen</translation>
     </message>
     <message>
         <source>Change the chosen button</source>
-        <translation type="unfinished"></translation>
+        <translation>Den gewählten Knopf ändern</translation>
     </message>
     <message>
         <source>Gives the chosen button another action.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt dem gewählten Knopf eine andere Aktion.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Gives the chosen button another action.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Gibt dem gewählten Knopf eine andere Aktion.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Cha&amp;nge</source>
-        <translation type="unfinished"></translation>
+        <translation>Ä&amp;ndern</translation>
     </message>
     <message>
         <source>Remove the chosen button</source>
-        <translation type="unfinished"></translation>
+        <translation>Den gewählten Knopf entfernen</translation>
     </message>
     <message>
         <source>Takes the chosen button away; those after it move up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt den gewählten Knopf weg; die folgenden rücken auf.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Takes the chosen button away; those after it move up.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Nimmt den gewählten Knopf weg; die folgenden rücken auf.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>Swap the chosen button</source>
-        <translation type="unfinished"></translation>
+        <translation>Den gewählten Knopf tauschen</translation>
     </message>
     <message>
         <source>Then choose the button that it is to change places with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie dann den Knopf, mit dem er den Platz tauscht.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Then choose the button that it is to change places with.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Wählen Sie dann den Knopf, mit dem er den Platz tauscht.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>S&amp;wap…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tauschen…</translation>
     </message>
     <message>
         <source>Reset all buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Knöpfe zurücksetzen</translation>
     </message>
     <message>
         <source>Puts the five buttons back that Korvex came with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stellt die fünf Knöpfe wieder her, mit denen Korvex kam.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Puts the five buttons back that Korvex came with.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Stellt die fünf Knöpfe wieder her, mit denen Korvex kam.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>R&amp;eset all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;zurücksetzen</translation>
     </message>
     <message>
         <source>A new button goes before the chosen one. With none chosen it goes after the last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein neuer Knopf kommt vor den gewählten. Ist keiner gewählt, kommt er hinter den letzten.</translation>
     </message>
     <message>
         <source>&amp;General</source>
-        <translation type="unfinished"></translation>
+        <translation>All&amp;gemein</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Ton</translation>
     </message>
     <message>
         <source>A sound for each click</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ton bei jedem Klick</translation>
     </message>
     <message>
         <source>Tells you that Korvex has clicked, even when you look elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagt Ihnen, dass Korvex geklickt hat, auch wenn Sie woanders hinsehen.</translation>
     </message>
     <message>
         <source>Prompts while dragging</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweise beim Ziehen</translation>
     </message>
     <message>
         <source>Tells you when something was picked up and let go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagt Ihnen, wenn etwas aufgenommen und losgelassen wurde.</translation>
     </message>
     <message>
         <source>&amp;Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lautstärke</translation>
     </message>
     <message>
         <source>quieter</source>
-        <translation type="unfinished"></translation>
+        <translation>leiser</translation>
     </message>
     <message>
         <source>louder</source>
-        <translation type="unfinished"></translation>
+        <translation>lauter</translation>
     </message>
     <message>
         <source>How loud these sounds are, from 0, silent, to 100.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie laut diese Töne sind, von 0, stumm, bis 100.</translation>
     </message>
     <message>
         <source>&lt;p&gt;At 50 there is room to go louder in a noisy place and quieter at night.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Bei 50 geht es an lauten Orten noch lauter und nachts leiser.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Starting Korvex</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex starten</translation>
     </message>
     <message>
         <source>Start Korvex when you log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex beim Anmelden starten</translation>
     </message>
     <message>
         <source>Your switch works from the first moment, and nobody has to start Korvex for you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Schalter wirkt vom ersten Moment an, und niemand muss Korvex für Sie starten.</translation>
     </message>
     <message>
         <source>Turn scanning on when Korvex starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen einschalten, wenn Korvex startet</translation>
     </message>
     <message>
         <source>Otherwise Korvex waits until you turn scanning on, here or with its key.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst wartet Korvex, bis Sie das Scannen einschalten, hier oder mit der Taste.</translation>
     </message>
 </context>
 <context>
     <name>Pointer</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
 </context>
 <context>
     <name>Preview</name>
     <message>
         <source>Scan Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanlinie</translation>
     </message>
     <message>
         <source>Guide Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Führungslinie</translation>
     </message>
     <message>
         <source>Preview of the scan line</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau der Scanlinie</translation>
     </message>
     <message>
         <source>Preview of the guide line</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau der Führungslinie</translation>
     </message>
     <message>
         <source>%d points thick, %.0f%% transparent, red %u, green %u, blue %u, each of 255.</source>
-        <translation type="unfinished"></translation>
+        <translation>%d Punkte dick, %.0f %% transparent, Rot %u, Grün %u, Blau %u, jeweils von 255.</translation>
     </message>
 </context>
 <context>
     <name>Recovery</name>
     <message>
         <source>Your last visit here ended before it could save. Its changes are here again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr letzter Besuch hier endete, bevor gespeichert werden konnte. Die Änderungen sind wieder da.</translation>
     </message>
 </context>
 <context>
     <name>ScanArea</name>
     <message>
         <source>Your current custom scan rectangle (if any) is shown in light blue.<byte value="xd"/>Click and drag across the desktop select a new area then<byte value="xd"/>press RETURN to accept it or ESC to cancel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr eigener Scanbereich (falls es einen gibt) ist hellblau gezeigt.<byte value="xd"/>Klicken Sie und ziehen Sie über den Schreibtisch, um einen neuen zu wählen.<byte value="xd"/>Dann nimmt RETURN ihn an, oder ESC bricht ab.</translation>
     </message>
     <message>
         <source>Another program holds the keyboard. Close its menus, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hält die Tastatur. Schließen Sie seine Menüs, dann versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>This desktop lets no window cover the screens. Log in to a session with X11 (Xorg) to draw an area.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Schreibtisch darf kein Fenster die Bildschirme bedecken. Melden Sie sich in einer Sitzung mit X11 (Xorg) an, um einen Bereich zu zeichnen.</translation>
     </message>
     <message>
         <source>Whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzer Bildschirm</translation>
     </message>
     <message>
         <source>Left half</source>
-        <translation type="unfinished"></translation>
+        <translation>Linke Hälfte</translation>
     </message>
     <message>
         <source>Right half</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechte Hälfte</translation>
     </message>
     <message>
         <source>Top half</source>
-        <translation type="unfinished"></translation>
+        <translation>Obere Hälfte</translation>
     </message>
     <message>
         <source>Bottom half</source>
-        <translation type="unfinished"></translation>
+        <translation>Untere Hälfte</translation>
     </message>
     <message>
         <source>Left third</source>
-        <translation type="unfinished"></translation>
+        <translation>Linkes Drittel</translation>
     </message>
     <message>
         <source>Middle third</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittleres Drittel</translation>
     </message>
     <message>
         <source>Right third</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechtes Drittel</translation>
     </message>
     <message>
         <source>Top left quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>Viertel links oben</translation>
     </message>
     <message>
         <source>Top right quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>Viertel rechts oben</translation>
     </message>
     <message>
         <source>Bottom left quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>Viertel links unten</translation>
     </message>
     <message>
         <source>Bottom right quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>Viertel rechts unten</translation>
     </message>
     <message>
         <source>%1, display %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Bildschirm %2</translation>
     </message>
 </context>
 <context>
     <name>SectionFrame</name>
     <message>
         <source>Section: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt: %1</translation>
     </message>
 </context>
 <context>
@@ -1735,210 +1749,210 @@ Shows the settings pane of the bundle, of Korvex&apos;s own without one.
     <message>
         <source>none</source>
         <comment>an area</comment>
-        <translation type="unfinished"></translation>
+        <translation>keiner</translation>
     </message>
     <message>
         <source>%g × %g at %g, %g</source>
         <comment>width, height, x, y</comment>
-        <translation type="unfinished"></translation>
+        <translation>%g × %g bei %g; %g</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen</translation>
     </message>
     <message>
         <source>A sound for each click</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ton bei jedem Klick</translation>
     </message>
     <message>
         <source>Prompts while dragging</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweise beim Ziehen</translation>
     </message>
     <message>
         <source>Priority over other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorrang vor anderen Programmen</translation>
     </message>
     <message>
         <source>Start at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Anmelden starten</translation>
     </message>
     <message>
         <source>Scan from the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Anfang an scannen</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Lautstärke</translation>
     </message>
     <message>
         <source>Scan the menu bar too</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch die Menüleiste scannen</translation>
     </message>
     <message>
         <source>Shortest press that counts</source>
-        <translation type="unfinished"></translation>
+        <translation>Kürzester Druck, der zählt</translation>
     </message>
     <message>
         <source>Ignore presses after a click for</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach einem Klick nicht beachten für</translation>
     </message>
     <message>
         <source>Wait before the scan starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten, bevor der Scan beginnt</translation>
     </message>
     <message>
         <source>Wait after letting go</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten nach dem Loslassen</translation>
     </message>
     <message>
         <source>Stop without a press for</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden ohne Druck nach</translation>
     </message>
     <message>
         <source>Listen to hot keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Tasten hören</translation>
     </message>
     <message>
         <source>Listen to mouse clicks</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Mausklicks hören</translation>
     </message>
     <message>
         <source>A press counts</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Druck zählt</translation>
     </message>
     <message>
         <source>Second mouse button as a second switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweite Maustaste als zweiter Schalter</translation>
     </message>
     <message>
         <source>Scan mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Scan-Art</translation>
     </message>
     <message>
         <source>My own area</source>
-        <translation type="unfinished"></translation>
+        <translation>Mein eigener Bereich</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen</translation>
     </message>
     <message>
         <source>Line scan ends keyboard mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Linien-Scan beendet den Tastaturmodus</translation>
     </message>
     <message>
         <source>Line scan time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit des Linien-Scans</translation>
     </message>
     <message>
         <source>Pointer scan time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit des Zeiger-Scans</translation>
     </message>
     <message>
         <source>Speed in menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo in Menüs</translation>
     </message>
     <message>
         <source>Start slowly, then speed up</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsam beginnen, dann schneller werden</translation>
     </message>
     <message>
         <source>Time between repeats</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit zwischen Wiederholungen</translation>
     </message>
     <message>
         <source>Length of a click</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge eines Klicks</translation>
     </message>
     <message>
         <source>Pause between clicks</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause zwischen Klicks</translation>
     </message>
     <message>
         <source>Line colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienfarbe</translation>
     </message>
     <message>
         <source>Line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Liniendicke</translation>
     </message>
     <message>
         <source>Scan line transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparenz der Scanlinie</translation>
     </message>
     <message>
         <source>Guide line transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparenz der Führungslinie</translation>
     </message>
     <message>
         <source>Pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiger</translation>
     </message>
     <message>
         <source>Hot keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkombinationen</translation>
     </message>
     <message>
         <source>Space around the edge of the palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand am Rand der Palette</translation>
     </message>
     <message>
         <source>Space between palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand zwischen Palettenknöpfen</translation>
     </message>
     <message>
         <source>Size of palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe der Palettenknöpfe</translation>
     </message>
     <message>
         <source>Corners of palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Ecken der Palettenknöpfe</translation>
     </message>
     <message>
         <source>Shown on palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf den Palettenknöpfen gezeigt</translation>
     </message>
     <message>
         <source>Palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Palettenknöpfe</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>nichts</translation>
     </message>
     <message>
         <source>icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>icon and name</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild und Name</translation>
     </message>
     <message>
         <source>1 button</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Knopf</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>ein</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>aus</translation>
     </message>
     <message>
         <source>%d × %d points</source>
-        <translation type="unfinished"></translation>
+        <translation>%d × %d Punkte</translation>
     </message>
     <message numerus="yes">
         <source>%n buttons</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Knopf</numerusform>
+            <numerusform>%n Knöpfe</numerusform>
         </translation>
     </message>
 </context>
@@ -1946,479 +1960,479 @@ Shows the settings pane of the bundle, of Korvex&apos;s own without one.
     <name>Strip</name>
     <message>
         <source>Hide this</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausblenden</translation>
     </message>
 </context>
 <context>
     <name>Switch</name>
     <message>
         <source>Scanning is off. %1 switches it on again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Scannen ist aus. %1 schaltet es wieder ein.</translation>
     </message>
     <message>
         <source>Scanning is off, and no hot key switches it on again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Scannen ist aus, und keine Taste schaltet es wieder ein.</translation>
     </message>
     <message>
         <source>Switch on</source>
-        <translation type="unfinished"></translation>
+        <translation>Einschalten</translation>
     </message>
     <message>
         <source>Ready for your switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit für Ihren Schalter</translation>
     </message>
     <message>
         <source>Your switch does nothing now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Schalter tut jetzt nichts</translation>
     </message>
 </context>
 <context>
     <name>Troubles</name>
     <message>
         <source>%1 is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist beschädigt</translation>
     </message>
     <message>
         <source>no permission for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Erlaubnis für %1</translation>
     </message>
     <message>
         <source>%1 can only be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nur gelesen werden</translation>
     </message>
     <message>
         <source>the disk is full</source>
-        <translation type="unfinished"></translation>
+        <translation>der Datenträger ist voll</translation>
     </message>
     <message>
         <source>another program is using the file</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Programm verwendet die Datei</translation>
     </message>
     <message>
         <source>%1 is something else than expected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist etwas anderes als erwartet</translation>
     </message>
     <message>
         <source>%1 would become too large</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 würde zu groß</translation>
     </message>
     <message>
         <source>Your settings file was damaged and is kept as %1. The usual settings are shown instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Einstellungsdatei war beschädigt und ist als %1 aufbewahrt. Gezeigt werden die üblichen Einstellungen.</translation>
     </message>
     <message>
         <source>Your settings file %1 is damaged. The usual settings are shown instead; the file will be kept beside the new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Einstellungsdatei %1 ist beschädigt. Gezeigt werden die üblichen Einstellungen; die Datei wird neben der neuen aufbewahrt.</translation>
     </message>
     <message>
         <source>Your settings can’t be read: %1. The usual settings are shown instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Einstellungen können nicht gelesen werden: %1. Gezeigt werden die üblichen Einstellungen.</translation>
     </message>
     <message>
         <source>What you change here can’t be saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Sie hier ändern, kann nicht gespeichert werden: %1.</translation>
     </message>
     <message>
         <source>Save a copy of the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kopie der Einstellungen speichern</translation>
     </message>
     <message>
         <source>Your settings aren’t saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Einstellungen sind nicht gespeichert: %1.</translation>
     </message>
     <message>
         <source>A copy of your settings is now in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kopie Ihrer Einstellungen ist jetzt in %1.</translation>
     </message>
     <message>
         <source>The copy couldn’t be saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopie konnte nicht gespeichert werden: %1.</translation>
     </message>
     <message>
         <source>%1 didn’t start, so nothing is scanned now.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht gestartet, darum wird jetzt nichts gescannt.</translation>
     </message>
     <message>
         <source>%1 has ended by itself several times, so nothing is scanned now.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat sich mehrmals selbst beendet, darum wird jetzt nichts gescannt.</translation>
     </message>
     <message>
         <source>Start %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 starten</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch einmal versuchen</translation>
     </message>
     <message>
         <source>Close anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Trotzdem schließen</translation>
     </message>
     <message>
         <source>Your settings couldn’t be saved: %1. This window stays open, so that nothing is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Einstellungen konnten nicht gespeichert werden: %1. Dieses Fenster bleibt offen, damit nichts verloren geht.</translation>
     </message>
     <message>
         <source>Save a copy…</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kopie speichern…</translation>
     </message>
 </context>
 <context>
     <name>Try</name>
     <message>
         <source>Spread of your presses</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung Ihrer Drücke</translation>
     </message>
     <message>
         <source>Try it at %.1f</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit %.1f probieren</translation>
     </message>
     <message>
         <source>Keep %.1f</source>
-        <translation type="unfinished"></translation>
+        <translation>%.1f behalten</translation>
     </message>
     <message>
         <source>This try couldn’t be stored. </source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Versuch konnte nicht gespeichert werden. </translation>
     </message>
     <message>
         <source>Your tries stay on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Versuche bleiben auf diesem Computer.</translation>
     </message>
     <message>
         <source>In the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Fenster</translation>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzer Bildschirm</translation>
     </message>
     <message>
         <source>The copy couldn’t be written. </source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopie konnte nicht geschrieben werden. </translation>
     </message>
     <message>
         <source>Saved as %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert als %1. </translation>
     </message>
     <message>
         <source>All tries are deleted. </source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Versuche sind gelöscht. </translation>
     </message>
     <message>
         <source>The tries couldn’t be deleted. </source>
-        <translation type="unfinished"></translation>
+        <translation>Die Versuche konnten nicht gelöscht werden. </translation>
     </message>
     <message>
         <source>Early</source>
-        <translation type="unfinished"></translation>
+        <translation>Früh</translation>
     </message>
     <message>
         <source>Late</source>
-        <translation type="unfinished"></translation>
+        <translation>Spät</translation>
     </message>
     <message>
         <source>The mark is %.1f mm from the top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Marke ist %.1f mm vom oberen Rand entfernt.</translation>
     </message>
     <message>
         <source>Press early, and let go when the line is on the mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie früh, und lassen Sie los, wenn die Linie auf der Marke ist.</translation>
     </message>
     <message>
         <source>Hold your switch down to start the line, and let go when it is on the mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Halten Sie den Schalter gedrückt, um die Linie zu starten, und lassen Sie los, wenn sie auf der Marke ist.</translation>
     </message>
     <message>
         <source>Press when the line is on the mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie, wenn die Linie auf der Marke ist.</translation>
     </message>
     <message>
         <source>A line will sweep from top to bottom. %s The first two sweeps are for getting used to it. Press any key or button when you are ready.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Linie läuft von oben nach unten. %s Die ersten zwei Durchläufe sind zum Eingewöhnen. Drücken Sie eine Taste oder einen Knopf, wenn Sie bereit sind.</translation>
     </message>
     <message>
         <source>Ready. Hold for free sweep %d of %d, when you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit. Halten Sie für den freien Durchlauf %d von %d, wann Sie möchten.</translation>
     </message>
     <message>
         <source>Ready. Press for free sweep %d of %d, when you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit. Drücken Sie für den freien Durchlauf %d von %d, wann Sie möchten.</translation>
     </message>
     <message>
         <source>Ready. Hold for sweep %d of %d, when you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit. Halten Sie für Durchlauf %d von %d, wann Sie möchten.</translation>
     </message>
     <message>
         <source>Ready. Press for sweep %d of %d, when you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit. Drücken Sie für Durchlauf %d von %d, wann Sie möchten.</translation>
     </message>
     <message>
         <source>The line passed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Linie ist vorbeigelaufen.</translation>
     </message>
     <message>
         <source>On the mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf der Marke.</translation>
     </message>
     <message>
         <source>%.0f mm before the mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>%.0f mm vor der Marke.</translation>
     </message>
     <message>
         <source>%.0f mm past the mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>%.0f mm hinter der Marke.</translation>
     </message>
     <message>
         <source>You stopped within %.0f mm of the mark %d times in %zu. </source>
-        <translation type="unfinished"></translation>
+        <translation>Im Abstand von %.0f mm zur Marke haben Sie %d Mal von %zu angehalten. </translation>
     </message>
     <message>
         <source>Your presses all came at the same moment, as far as this computer can tell. </source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Drücke kamen alle im selben Moment, soweit dieser Computer es sagen kann. </translation>
     </message>
     <message>
         <source>%.1f seconds suits you: we expect at least %d in 10.</source>
-        <translation type="unfinished"></translation>
+        <translation>%.1f Sekunden passen zu Ihnen: Wir erwarten mindestens %d von 10.</translation>
     </message>
     <message>
         <source>%.1f seconds suits you: we expect %d in 10, and at least %d.</source>
-        <translation type="unfinished"></translation>
+        <translation>%.1f Sekunden passen zu Ihnen: Wir erwarten %d von 10, und mindestens %d.</translation>
     </message>
     <message>
         <source>At %.1f seconds we expect at least %d in 10.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei %.1f Sekunden erwarten wir mindestens %d von 10.</translation>
     </message>
     <message>
         <source>At %.1f seconds we expect %d in 10, and at least %d.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei %.1f Sekunden erwarten wir %d von 10, und mindestens %d.</translation>
     </message>
     <message>
         <source>A slower line is likely to suit you better. Try it at %.1f seconds, and we can tell.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine langsamere Linie passt wohl besser zu Ihnen. Probieren Sie es mit %.1f Sekunden, dann können wir es sagen.</translation>
     </message>
     <message>
         <source>A quicker line is likely to suit you better. Try it at %.1f seconds, and we can tell.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine schnellere Linie passt wohl besser zu Ihnen. Probieren Sie es mit %.1f Sekunden, dann können wir es sagen.</translation>
     </message>
     <message>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f mm wide would make it so, or a scan area only %.0f mm across.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch bei %.0f Sekunden, dem Langsamsten, können wir nicht 3 von 4 erwarten. Ziele von %.0f mm Breite würden es möglich machen, oder ein Scanbereich von nur %.0f mm.</translation>
     </message>
     <message>
         <source>You pressed in %d of %zu sweeps. From %d on we can suggest a speed. Try once more when you like; a slower line gives you more time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben in %d von %zu Durchläufen gedrückt. Ab %d können wir ein Tempo vorschlagen. Versuchen Sie es noch einmal, wenn Sie möchten; eine langsamere Linie gibt Ihnen mehr Zeit.</translation>
     </message>
     <message>
         <source>%zu of %zu presses came when nothing asked for them. Before the speed, make the presses steadier.</source>
-        <translation type="unfinished"></translation>
+        <translation>%zu von %zu Drücken kamen, als nichts danach fragte. Sorgen Sie vor dem Tempo für ruhigere Drücke.</translation>
     </message>
     <message>
         <source>Ready for the next press after %.1f seconds. </source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit für den nächsten Druck nach %.1f Sekunden. </translation>
     </message>
     <message>
         <source>Ignoring presses for %.1f seconds after a click would catch most of those that nothing asked for. </source>
-        <translation type="unfinished"></translation>
+        <translation>%.1f Sekunden nach einem Klick keine Drücke zu beachten würde die meisten ungefragten abfangen. </translation>
     </message>
     <message>
         <source>A shortest press of %.1f seconds would, too. </source>
-        <translation type="unfinished"></translation>
+        <translation>Ein kürzester Druck von %.1f Sekunden würde das auch. </translation>
     </message>
     <message>
         <source>They last as long as your other presses, so no shortest press tells them apart. </source>
-        <translation type="unfinished"></translation>
+        <translation>Sie dauern so lange wie Ihre anderen Drücke, darum unterscheidet kein kürzester Druck sie. </translation>
     </message>
     <message>
         <source>Lateness %.0f ms, spread %.0f ms (%.0f ms at most), from %d presses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verspätung %.0f ms, Streuung %.0f ms (höchstens %.0f ms), aus %d Drücken.</translation>
     </message>
     <message>
         <source> %d in 10 takes %.1f seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation> %d von 10 brauchen %.1f Sekunden.</translation>
     </message>
     <message>
         <source>No press arrived. Look whether your switch is connected and counts as a trigger, then try once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Druck kam an. Sehen Sie nach, ob Ihr Schalter angeschlossen ist und als Auslöser zählt, dann versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>The presses came at other moments than the marks, so we can’t suggest a speed. Wait for the line to reach the mark, then press.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Drücke kamen in anderen Momenten als die Marken, darum können wir kein Tempo vorschlagen. Warten Sie, bis die Linie die Marke erreicht, dann drücken Sie.</translation>
     </message>
     <message>
         <source>The presses became less even from sweep to sweep. Have a rest, then try once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Drücke wurden von Durchlauf zu Durchlauf ungleichmäßiger. Ruhen Sie sich aus, dann versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>Wait for the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten Sie auf die Linie.</translation>
     </message>
     <message>
         <source>Go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los.</translation>
     </message>
     <message>
         <source>%s: %.1f seconds, %.0f hits and %.0f misses, lateness %.0f ms, spread %.0f ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%s: %.1f Sekunden, %.0f Treffer und %.0f daneben, Verspätung %.0f ms, Streuung %.0f ms</translation>
     </message>
     <message>
         <source>%s   %.1f s   %.0f of %.0f   spread %.0f ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%s   %.1f s   %.0f von %.0f   Streuung %.0f ms</translation>
     </message>
 </context>
 <context>
     <name>Units</name>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden</translation>
     </message>
     <message>
         <source>percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent</translation>
     </message>
     <message>
         <source>points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte</translation>
     </message>
     <message>
         <source>milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisekunden</translation>
     </message>
     <message>
         <source>%1 to %2 %3</source>
         <comment>as in 1 to 60 seconds</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2 %3</translation>
     </message>
     <message>
         <source>%1 to %2</source>
         <comment>as in 0 to 100</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2</translation>
     </message>
 </context>
 <context>
     <name>axreq</name>
     <message>
         <source>Korvex</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex</translation>
     </message>
     <message>
         <source>Assistive access is switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Zugriff für Hilfsmittel ist ausgeschaltet</translation>
     </message>
     <message>
         <source>Korvex needs it to find the windows, menus and buttons on your screen. While it is off, Korvex can’t scan. “Open settings” shows you where to switch it on. This notice closes by itself after half a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex braucht ihn, um Fenster, Menüs und Knöpfe auf Ihrem Bildschirm zu finden. Solange er aus ist, kann Korvex nicht scannen. „Einstellungen öffnen“ zeigt Ihnen, wo Sie ihn einschalten. Dieser Hinweis schließt sich nach einer halben Minute von selbst.</translation>
     </message>
     <message>
         <source>Don’t show this again</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht mehr zeigen</translation>
     </message>
     <message>
         <source>Takes effect when you choose “Not now”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wirkt, wenn Sie „Nicht jetzt“ wählen.</translation>
     </message>
     <message>
         <source>&amp;Don’t show this again</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht &amp;mehr zeigen</translation>
     </message>
     <message>
         <source>Open settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen öffnen</translation>
     </message>
     <message>
         <source>Shows where assistive access is switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, wo der Zugriff für Hilfsmittel eingeschaltet wird.</translation>
     </message>
     <message>
         <source>Open sett&amp;ings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einstellungen öffnen</translation>
     </message>
     <message>
         <source>Not now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht jetzt</translation>
     </message>
     <message>
         <source>Closes this notice until tomorrow. The Escape key does the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließt diesen Hinweis bis morgen. Die Escape-Taste tut dasselbe.</translation>
     </message>
     <message>
         <source>&amp;Not now</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nicht jetzt</translation>
     </message>
 </context>
 <context>
     <name>tryout</name>
     <message>
         <source>Find my speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Mein Tempo finden</translation>
     </message>
     <message>
         <source>Gives the line the whole screen, as in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt der Linie den ganzen Bildschirm, wie im Gebrauch.</translation>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzer Bildschirm</translation>
     </message>
     <message>
         <source>Goes back to the settings. Nothing changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kehrt zu den Einstellungen zurück. Nichts ändert sich.</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlassen</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Press any key or button, or use this button’s press action. Escape leaves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie eine Taste oder einen Knopf, oder nutzen Sie die Drück-Aktion dieses Knopfs. Escape verlässt die Seite.</translation>
     </message>
     <message>
         <source>Sets the line scan time and lets you try it. You can go back at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stellt die Zeit des Linien-Scans ein und lässt Sie sie probieren. Sie können jederzeit zurück.</translation>
     </message>
     <message>
         <source>Try it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausprobieren</translation>
     </message>
     <message>
         <source>Keep it</source>
-        <translation type="unfinished"></translation>
+        <translation>Behalten</translation>
     </message>
     <message>
         <source>Starts another try with the same settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginnt einen weiteren Versuch mit denselben Einstellungen.</translation>
     </message>
     <message>
         <source>Once more</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch einmal</translation>
     </message>
     <message>
         <source>Your tries</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Versuche</translation>
     </message>
     <message>
         <source>One line a try, the last one at the end. The arrow keys go through them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zeile je Versuch, der letzte am Ende. Die Pfeiltasten gehen durch die Liste.</translation>
     </message>
     <message>
         <source>Writes a copy of all tries to your documents.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt eine Kopie aller Versuche in Ihre Dokumente.</translation>
     </message>
     <message>
         <source>Save as CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Als CSV speichern</translation>
     </message>
     <message>
         <source>Deletes what this page has kept of your tries.</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht, was diese Seite von Ihren Versuchen behalten hat.</translation>
     </message>
     <message>
         <source>Delete all tries</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Versuche löschen</translation>
     </message>
 </context>
 </TS>
