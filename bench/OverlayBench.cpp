@@ -112,5 +112,5 @@ QByteArray chooseDisplays() {
 void addOverlayFigures() {
     addFigure("a whole frame of the overlay over two displays", {Limit::Times, 2}, drawWholeFrame,
               paintBareFrame);
-    addFigure("a frame of a drag across them", {Limit::Times, 2}, drawDragFrame, paintBareStep);
+    addFigure("a frame of a drag across them", {Limit::Times, 5}, drawDragFrame, paintBareStep);
 }
