@@ -146,7 +146,7 @@ void PaneHost::end() {
 
 void PaneHost::deselect() {
     isSelected_ = false;
-    isRaisingPointless = true;
+    areWindowsLeft = true;
     pane_->didUnselect();
     sendQueuedMessages();
 }

@@ -2,6 +2,7 @@
 #include "host/SingleInstance.h"
 
 #include "host/ApplicationName.h"
+#include "platform/CoreServices/detail/SessionBus.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -29,6 +30,7 @@ SingleInstance becomeSingleInstance(const ShowRequest& request, const QVariantMa
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return SingleInstance::First;
+    receiveWithoutPause(bus);
     exportDesktopApplication(bus, std::move(onShow));
     if (requestName(bus))
         return SingleInstance::First;

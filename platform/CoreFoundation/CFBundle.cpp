@@ -123,7 +123,7 @@ CFBundle* CFBundleGetBundleWithIdentifier(const CFString* identifier) {
 }
 
 CFBundle* CFBundleGetMainBundle() {
-    static const CFRef<CFBundle> bundle = openMainBundle();
+    static const auto& bundle = *new CFRef<CFBundle>(openMainBundle());
     return bundle.get();
 }
 

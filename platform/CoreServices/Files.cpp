@@ -12,7 +12,7 @@ namespace {
 
 /// The file descriptor of each open fork.
 std::map<SInt16, int>& openForks() {
-    static std::map<SInt16, int> forks;
+    static auto& forks = *new std::map<SInt16, int>;
     return forks;
 }
 

@@ -10,6 +10,7 @@ OSStatus ShowSheetWindow(WindowRef sheet, WindowRef parent) {
 }
 
 OSStatus HideSheetWindow(WindowRef sheet) {
-    delete dynamic_cast<SheetShade*>(sheet->widget().parentWidget());
+    if (!areWindowsLeft)
+        delete dynamic_cast<SheetShade*>(sheet->widget().parentWidget());
     return noErr;
 }

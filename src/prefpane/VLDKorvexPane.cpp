@@ -77,11 +77,11 @@ bool VLDKorvexPane::commitEditing() {
 }
 
 void VLDKorvexPane::didUnselect() {
-    tryPageClose();
     openWindowCleanup();
     axReqCancel();
     ptrmanCleanup();
     palutilCleanup();
     prefsCleanup();
     daemonCleanup();
+    tryPageClose(); // last, since it touches the window, whose server may hang
 }

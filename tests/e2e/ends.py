@@ -64,7 +64,7 @@ STATES = {f"the tab {name}": show_tab(name) for name in TABS.split("|")} | {
 # State, end, whether somebody reads the program's standard error, and the exit status.
 VISITS = (
     *((state, die, read, 1) for state in STATES for read in (True, False)),
-    ("the tab Palette", hang_and_be_asked, True, 0),
+    *((state, hang_and_be_asked, True, 0) for state in ("the tab Palette", "the notice")),
 )
 
 
@@ -81,6 +81,8 @@ def change(tour: Tour) -> None:
     tour.agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")
     name = f"org.korvex.Process1.t4150504C.s4B727678.p{tour.agent}"
     until(lambda: process_of(name) == tour.agent, "the agent takes events")
+    inherited = Path(f"/proc/{tour.agent}/environ").read_bytes()
+    check(b"QT_QPA_PLATFORM" not in inherited, "the agent has the host's choice of platform")
     os.kill(tour.agent, signal.SIGUSR1)
     tour.wait_for_choice("Off")
     tour.stored.unlink()

@@ -30,7 +30,7 @@ FileCache<DesktopEntry> desktopEntries;          ///< by path
 
 /// The identifier that each creator code was last found with.
 std::map<OSType, std::string>& identifiersOfCreators() {
-    static std::map<OSType, std::string> identifiers;
+    static auto& identifiers = *new std::map<OSType, std::string>;
     return identifiers;
 }
 

@@ -13,7 +13,7 @@ QString formatProcessName(const ProcessName& process) {
 }
 
 std::optional<ProcessName> parseProcessName(const QString& busName) {
-    static const QRegularExpression form(QStringLiteral(
+    static const auto& form = *new QRegularExpression(QStringLiteral(
         "\\Aorg\\.korvex\\.Process1\\.t([0-9A-Fa-f]{8})\\.s([0-9A-Fa-f]{8})\\.p([1-9][0-9]*)\\z"));
     const QRegularExpressionMatch match = form.match(busName);
     bool fits = false;
@@ -25,7 +25,7 @@ std::optional<ProcessName> parseProcessName(const QString& busName) {
 }
 
 std::optional<ProcessSerialNumber> parseUniqueName(const QString& uniqueName) {
-    static const QRegularExpression form(QStringLiteral("\\A:([0-9]+)\\.([0-9]+)\\z"));
+    static const auto& form = *new QRegularExpression(QStringLiteral("\\A:([0-9]+)\\.([0-9]+)\\z"));
     const QRegularExpressionMatch match = form.match(uniqueName);
     bool highFits = false, lowFits = false;
     const ProcessSerialNumber psn{match.captured(1).toUInt(&highFits),

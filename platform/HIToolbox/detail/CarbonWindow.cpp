@@ -19,6 +19,8 @@ CarbonWindow::CarbonWindow(std::unique_ptr<QWidget> widget) : widget_(std::move(
 
 CarbonWindow::~CarbonWindow() {
     endModal(noErr);
+    if (areWindowsLeft)
+        leaveWidget();
     if (!widget_)
         return;
     widget_->hide();
@@ -82,7 +84,7 @@ void ShowWindow(WindowRef window) {
 }
 
 void SelectWindow(WindowRef window) {
-    if (isRaisingPointless)
+    if (areWindowsLeft)
         return;
     window->widget().raise();
     window->widget().activateWindow();

@@ -14,9 +14,10 @@
 
 class GrafPort;
 
-/// Set by the host when its window is about to go for good: raising it, which asks the display's
-/// server, would then wait for one that hangs and crash without one.
-inline bool isRaisingPointless = false;
+/// Set by the host when its window is about to go for good. From then on windows are left as they
+/// are: raising or hiding one asks the display's server, which would wait for one that hangs and
+/// crash without one.
+inline bool areWindowsLeft = false;
 
 /// A top-level widget as a Carbon window.
 class CarbonWindow {
@@ -24,6 +25,7 @@ public:
     /// Takes the widget, which has no parent.
     explicit CarbonWindow(std::unique_ptr<QWidget> widget);
     /// Hides the widget at once. It is deleted later, because one of its events may be on its way.
+    /// When windows are left, neither.
     virtual ~CarbonWindow();
     CarbonWindow(const CarbonWindow&) = delete;
     CarbonWindow& operator=(const CarbonWindow&) = delete;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/detail/SheetShade.h"
 
+#include "platform/HIToolbox/detail/CarbonWindow.h"
+
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QPainter>
@@ -78,7 +80,7 @@ SheetShade::SheetShade(QWidget* window, QWidget* sheet) : QWidget(window), sheet
 
 SheetShade::~SheetShade() {
     disconnect(qApp, nullptr, this, nullptr);
-    if (!sheet_)
+    if (!sheet_ || areWindowsLeft) // the sheet goes with the shade then
         return;
     sheet_->disconnect(this);
     giveKeyboardBack();

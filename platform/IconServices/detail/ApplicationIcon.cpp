@@ -122,7 +122,8 @@ CFRef<Icon> iconOfApplication(const InstalledApplication& application) {
         CFRef<Icon> icon;
     };
 
-    static std::map<std::string, Known> icons; // by the application's path
+    // By the application's path. Never destroyed: an exit handler may still draw.
+    static auto& icons = *new std::map<std::string, Known>;
     const IconFiles files = filesOfApplication(application);
     Known& known = icons[application.path];
     if (!known.settled || known.files != files.files())
