@@ -125,7 +125,7 @@ void tellOfUnusableFiles() {
 }
 
 void tellOfLaunches() {
-    setLaunchTroubleListener(tellOfLaunch);
+    [[maybe_unused]] static const auto& watch = *new LaunchWatch(tellOfLaunch);
     tellOfLaunch();
 }
 

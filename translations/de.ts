@@ -1985,6 +1985,14 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>Your switch does nothing now</source>
         <translation>Ihr Schalter tut jetzt nichts</translation>
     </message>
+    <message>
+        <source>Korvex is starting…</source>
+        <translation>Korvex startet …</translation>
+    </message>
+    <message>
+        <source>Korvex isn’t running</source>
+        <translation>Korvex läuft nicht</translation>
+    </message>
 </context>
 <context>
     <name>Troubles</name>

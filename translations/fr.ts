@@ -1971,6 +1971,14 @@ Shows the settings pane of the bundle, of Korvex&apos;s own without one.
         <source>Your switch does nothing now</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Korvex is starting…</source>
+        <translation>Korvex démarre…</translation>
+    </message>
+    <message>
+        <source>Korvex isn’t running</source>
+        <translation>Korvex n’est pas en marche</translation>
+    </message>
 </context>
 <context>
     <name>Troubles</name>

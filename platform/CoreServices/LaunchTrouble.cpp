@@ -7,8 +7,22 @@ std::optional<TroubledApplication> findLaunchTrouble() {
     return StartedApplications::shared().findTrouble();
 }
 
-void setLaunchTroubleListener(std::function<void()> listener) {
-    StartedApplications::shared().troubleListener = std::move(listener);
+bool isLaunching(const std::string& bundle) {
+    return StartedApplications::shared().isLaunching(bundle);
+}
+
+struct LaunchWatch::Connection {
+    QMetaObject::Connection made;
+};
+
+LaunchWatch::LaunchWatch(std::function<void()> onChange)
+    : connection_(std::make_unique<Connection>()) {
+    connection_->made = QObject::connect(&StartedApplications::shared().changed(), &QTimer::timeout,
+                                         std::move(onChange));
+}
+
+LaunchWatch::~LaunchWatch() {
+    QObject::disconnect(connection_->made);
 }
 
 OSStatus launchAgain(const std::string& bundle) {

@@ -124,7 +124,7 @@ bool belongsTo(StateFileOwner owner, const fs::path& file, const std::string& na
     pid_t process = 0;
     unsigned long long start = 0;
     int length = 0;
-    const std::string whole = (file.extension() == ".new" ? file.stem() : file.filename());
+    const std::string own = file.filename(), whole = own.substr(0, own.find(kPendingSuffix));
     return whole.starts_with(name + '.') &&
            std::sscanf(whole.c_str() + name.size(), ".%d.%llu%n", &process, &start, &length) == 2 &&
            name.size() + static_cast<std::size_t>(length) == whole.size() &&
@@ -150,7 +150,7 @@ std::vector<std::string> findStateFiles(const std::string& name, StateFileOwner 
             found.emplace(entry.last_write_time(error), entry.path());
     std::vector<std::string> paths;
     for (auto& [time, path] : found)
-        if (!path.ends_with(".new"))
+        if (path.find(kPendingSuffix, path.rfind('/')) == path.npos)
             paths.push_back(std::move(path));
         else if (owner == StateFileOwner::Gone)
             unlink(path.c_str()); // never became one

@@ -2,6 +2,7 @@
 #include "src/prefpane/Daemon.h"
 
 #include "platform/CoreServices/LaunchServices.h"
+#include "platform/CoreServices/LaunchTrouble.h"
 #include "platform/CoreServices/ProcessWatch.h"
 #include "src/prefpane/PreferenceWrangler.h"
 
@@ -32,6 +33,7 @@ CFRef<const CFString> daemonExecutablePath;
 CFRef<CFBundle> daemonBundle; ///< made on first request
 AEEventHandler aehandler = nullptr;
 std::unique_ptr<ProcessWatch> processWatch;
+std::unique_ptr<LaunchWatch> launchWatch;
 
 /// Whether daemonPSN names a process that still runs.
 bool daemonPSNIsValid() {
@@ -111,6 +113,7 @@ void informDaemon() {
 void processesChanged() {
     if (findDaemon())
         informDaemon();
+    wranglerShowAgentState();
 }
 
 /// Handles the events of the agent's class: its reports of its on/off state.
@@ -141,6 +144,7 @@ void daemonSetup(const CFString* path) {
     if (AEInstallEventHandler(kAgentEventClass, typeWildCard, ae, nullptr) == noErr)
         aehandler = ae;
     processWatch = std::make_unique<ProcessWatch>(processesChanged);
+    launchWatch = std::make_unique<LaunchWatch>(wranglerShowAgentState);
     changesOfVisit.reset();
     openingLaunched = !findDaemon();
     if (openingLaunched) {
@@ -158,6 +162,7 @@ void daemonCleanup() {
         sendSimpleDaemonEvent(kAgentEventClass, kPaneClosed);
     }
     processWatch = nullptr;
+    launchWatch = nullptr;
     if (aehandler)
         AERemoveEventHandler(kAgentEventClass, typeWildCard, aehandler);
     aehandler = nullptr;
@@ -180,6 +185,14 @@ void daemonSendChanges(ChangeMask changes, bool doNotWait) {
         daemonStart();
     if (isRunning)
         sendRecord(changes, doNotWait ? kAENoReply : kAEWaitReply);
+}
+
+AgentState daemonState() {
+    if (findDaemon() && daemonPSN != quitPSN)
+        return AgentState::Running;
+    const bool isAwaited =
+        daemonExecutablePath && isLaunching(CFStringToUTF8(daemonExecutablePath.get()));
+    return isAwaited ? AgentState::Starting : AgentState::NotRunning;
 }
 
 CFBundle* daemonMainBundle() {

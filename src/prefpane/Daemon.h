@@ -24,6 +24,15 @@ void daemonCleanup();
 /// asked to quit before. While none can be found nothing is sent.
 void daemonSendChanges(ChangeMask changes, bool doNotWait);
 
+enum class AgentState {
+    Running,
+    Starting,   ///< started less than ten seconds ago
+    NotRunning, ///< and not known to come up
+};
+
+/// As far as is known now. Whenever it changes, wranglerShowAgentState is called.
+AgentState daemonState();
+
 /// The agent application's bundle, where its resources are; null without a path or bundle. Borrowed
 /// until daemonCleanup.
 CFBundle* daemonMainBundle();

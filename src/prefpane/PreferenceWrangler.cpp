@@ -28,6 +28,11 @@ void wranglerSetMasterOnOff(bool on) {
         theWrangler->setMasterOnOff(on);
 }
 
+void wranglerShowAgentState() {
+    if (theWrangler)
+        theWrangler->updateMasterState();
+}
+
 std::span<const Outlet> PreferenceWrangler::outlets() const {
     using W = PreferenceWrangler;
     using Keys = HotKeyEditor;

@@ -62,6 +62,8 @@ public:
     void updateUIForChanges(ChangeMask changes);
 
     void updateMasterOnOff();
+    /// Says what the switch does now, which is no more than is known.
+    void updateMasterState();
     /// The agent reported its state: it is kept, and not sent back.
     void setMasterOnOff(bool on);
     void updateTriggerUI();
@@ -222,3 +224,6 @@ extern PreferenceWrangler* theWrangler;
 
 /// The running agent was switched on or off. Does nothing while there is no wrangler.
 void wranglerSetMasterOnOff(bool on);
+
+/// Says beside the on/off control whether the agent runs.
+void wranglerShowAgentState();

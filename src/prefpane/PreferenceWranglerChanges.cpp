@@ -24,6 +24,20 @@ bool isUsable(const ScanArea& area) {
 
 constexpr char kOffTopic[] = "off";
 
+std::string stateText(bool isOn) {
+    if (!isOn)
+        return localized("Switch", "Your switch does nothing now");
+    switch (daemonState()) {
+    case AgentState::Running:
+        return localized("Switch", "Ready for your switch");
+    case AgentState::Starting:
+        return localized("Switch", "Korvex is starting…");
+    case AgentState::NotRunning:
+        break;
+    }
+    return localized("Switch", "Korvex isn’t running");
+}
+
 /// Whoever has switched scanning off by mistake may have no other way to act than by scanning.
 void tellHowToSwitchOn() {
     const auto keys = createKeyComboString(prefs.hotKeys[0].modifiers, prefs.hotKeys[0].keyCode);
@@ -87,10 +101,13 @@ void PreferenceWrangler::showSampleLineType(SInt32 type) {
 void PreferenceWrangler::updateMasterOnOff() {
     masterOnOffRadios_->selectCellWithTag(prefs.on);
     masterOnOffRadios_->setEnabled(true);
-    masterState_->setStringValue(prefs.on ? localized("Switch", "Ready for your switch")
-                                          : localized("Switch", "Your switch does nothing now"));
+    updateMasterState();
     if (prefs.on)
         withdrawMessage(kOffTopic);
+}
+
+void PreferenceWrangler::updateMasterState() {
+    masterState_->setStringValue(stateText(prefs.on != 0));
 }
 
 void PreferenceWrangler::setMasterOnOff(bool on) {

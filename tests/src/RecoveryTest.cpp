@@ -21,7 +21,7 @@ protected:
         std::error_code error;
         const fs::directory_iterator files(state_ / "korvex", error);
         return std::count_if(begin(files), end(files), [](const auto& file) {
-            return file.path().extension() != ".new"; // still being written
+            return file.path().string().find(".new") == std::string::npos; // still being written
         });
     }
 

@@ -2,6 +2,7 @@
 #include "platform/CoreFoundation/detail/FileReplacement.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
@@ -18,6 +19,11 @@ namespace {
 
 constexpr int kMostLinks = 40;
 constexpr int kMostDamagedFiles = 1000;
+constexpr std::chrono::minutes kLongestWrite{1};
+
+/// Ends the names of pending files; the X are replaced.
+constexpr char kUniqueEnd[] = ".kvXXXXXX";
+constexpr std::string_view kOwnEnd = ".kv";
 
 int writeAll(int file, std::string_view content) {
     while (!content.empty()) {
@@ -77,6 +83,30 @@ void flushFolderSoon(const std::string& path) {
     }
 }
 
+/// Whether the file beside the destination was never put in place and nobody writes it any more.
+bool isLeftover(const fs::directory_entry& file, const std::string& destination) {
+    const std::string name = file.path().filename();
+    const std::string start =
+        fs::path(destination).filename().string() + std::string(kPendingSuffix);
+    if (!name.starts_with(start))
+        return false;
+    const std::string end = name.substr(start.size());
+    const bool isOurs =
+        end.size() == std::string_view(kUniqueEnd).size() && end.starts_with(kOwnEnd);
+    std::error_code error;
+    return (end.empty() || isOurs) &&
+           (!fs::is_regular_file(file.symlink_status(error)) ||
+            fs::file_time_type::clock::now() - file.last_write_time(error) > kLongestWrite);
+}
+
+void removeLeftovers(const std::string& destination) {
+    std::error_code error;
+    fs::directory_iterator file(fs::path(destination).parent_path(), error);
+    for (; !error && file != fs::directory_iterator(); file.increment(error))
+        if (isLeftover(*file, destination))
+            unlink(file->path().c_str());
+}
+
 } // namespace
 
 int makeFolders(const std::string& path, unsigned mode) {
@@ -102,18 +132,17 @@ std::string resolveLinks(std::string path) {
 }
 
 PendingFile::PendingFile(const std::string& destination, std::string_view content, unsigned mode)
-    : destination_(destination), path_(destination + ".new"), error_(write(content, mode)),
-      isThere_(error_ == 0) {}
+    : destination_(destination), path_(destination + std::string(kPendingSuffix) + kUniqueEnd),
+      error_(write(content, mode)), isThere_(error_ == 0) {}
 
 PendingFile::~PendingFile() {
     if (isThere_)
         unlink(path_.c_str());
 }
 
-int PendingFile::write(std::string_view content, unsigned mode) const {
-    // Whatever is there, a pipe or a link included, is nobody's: the caller holds the lock.
-    unlink(path_.c_str());
-    const int file = open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+int PendingFile::write(std::string_view content, unsigned mode) {
+    removeLeftovers(destination_);
+    const int file = mkostemp(path_.data(), O_CLOEXEC);
     if (file < 0)
         return errno;
     int error = fchmod(file, mode) == 0 ? writeAll(file, content) : errno;

@@ -13,8 +13,12 @@ int makeFolders(const std::string& path, unsigned mode);
 /// The path at the end of the symbolic links at `path`, whether or not a file is there.
 std::string resolveLinks(std::string path);
 
+/// Begins what follows the destination's name in the names of files that aren't put in place yet.
+constexpr std::string_view kPendingSuffix = ".new";
+
 /// A new file's content beside the place where it is going to be, on disk already. Removed again
-/// unless it was put there. What a crash left at its name, <destination>.new, is removed first.
+/// unless it was put there. Its name is its own, so that writers without a lock never take each
+/// other's. What crashes left is removed first, once it is a minute old.
 class PendingFile {
 public:
     PendingFile(const std::string& destination, std::string_view content, unsigned mode);
@@ -29,7 +33,7 @@ public:
     int putInPlace();
 
 private:
-    int write(std::string_view content, unsigned mode) const;
+    int write(std::string_view content, unsigned mode);
 
     std::string destination_;
     std::string path_;

@@ -33,7 +33,9 @@ StartedApplications& StartedApplications::shared() {
     return only;
 }
 
-StartedApplications::StartedApplications() : processes_([this] { noteProcesses(); }) {}
+StartedApplications::StartedApplications() : processes_([this] { noteProcesses(); }) {
+    changed_.setSingleShot(true);
+}
 
 OSStatus StartedApplications::start(const CFURL* url) {
     const CFRef<CFBundle> bundle = CFBundleCreate(url);
@@ -79,6 +81,7 @@ OSStatus StartedApplications::launch(Application& application) {
 void StartedApplications::await(Application& application) {
     application.awaitedSince = Clock::now();
     QTimer::singleShot(kPatience, QCoreApplication::instance(), [this] { tell(); });
+    tell();
 }
 
 void StartedApplications::noteEnd(Application& application) {
@@ -157,19 +160,25 @@ std::optional<TroubledApplication> StartedApplications::findTrouble() const {
             continue;
         if (application.endings > kMostEndings)
             return TroubledApplication{bundle, LaunchTrouble::KeepsEnding};
-        const auto since = application.awaitedSince;
-        if (application.couldntStart || (since && Clock::now() - *since >= kPatience))
+        if (application.couldntStart || (application.awaitedSince && !isAwaited(application)))
             return TroubledApplication{bundle, LaunchTrouble::NotUp};
     }
     return std::nullopt;
 }
 
-void StartedApplications::tell() const {
-    QMetaObject::invokeMethod(
-        QCoreApplication::instance(),
-        [this] {
-            if (troubleListener)
-                troubleListener();
-        },
-        Qt::QueuedConnection);
+bool StartedApplications::isAwaited(const Application& application) const {
+    const auto since = application.awaitedSince;
+    return since && Clock::now() - *since < kPatience;
+}
+
+bool StartedApplications::isLaunching(const std::string& bundle) const {
+    const auto found = applications_.find(bundle);
+    if (found == applications_.end())
+        return false;
+    const Application& application = found->second;
+    return isAwaited(application) && (application.startsNext || application.process);
+}
+
+void StartedApplications::tell() {
+    changed_.start(0);
 }

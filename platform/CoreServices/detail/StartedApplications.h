@@ -31,7 +31,11 @@ public:
 
     std::optional<TroubledApplication> findTrouble() const;
 
-    std::function<void()> troubleListener;
+    /// See LaunchTrouble.h.
+    bool isLaunching(const std::string& bundle) const;
+
+    /// Times out after anything has changed, once for all that happened meanwhile.
+    const QTimer& changed() const { return changed_; }
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -64,9 +68,11 @@ private:
     /// Without the process `ended`, which the bus may not have missed yet.
     bool isUp(const Application& application, pid_t ended = 0) const;
     bool isQuitting(const Application& application) const;
-    void tell() const;
+    bool isAwaited(const Application& application) const;
+    void tell();
 
     std::map<std::string, Application> applications_;
     std::map<pid_t, Quitting> quitting_;
+    QTimer changed_;
     ProcessWatch processes_;
 };

@@ -3,6 +3,7 @@
 
 #include "platform/CoreFoundation/CFString.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -18,6 +19,14 @@ inline void writeFile(const std::filesystem::path& path, std::string_view bytes)
 inline std::string readFile(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// How many files beside that one were to replace it and haven't.
+inline long countPending(const std::filesystem::path& path) {
+    const std::string start = path.filename().string() + ".new";
+    return std::count_if(
+        std::filesystem::directory_iterator(path.parent_path()), {},
+        [&](const auto& file) { return file.path().filename().string().starts_with(start); });
 }
 
 /// An XML property list with `body` in its root dictionary.

@@ -102,7 +102,7 @@ TEST_F(LaunchServicesTest, OneProgramRunsAtATimeDetachedAndIsReapedAtItsEnd) {
 
 TEST_F(LaunchServicesTest, WhatDoesntComeUpOrKeepsEndingIsTold) {
     int told = 0;
-    setLaunchTroubleListener([&] { ++told; });
+    const LaunchWatch watch([&] { ++told; });
     const auto trouble = [] {
         const auto found = findLaunchTrouble();
         return found ? static_cast<int>(found->trouble) : -1;
@@ -137,8 +137,10 @@ TEST_F(LaunchServicesTest, WhatDoesntComeUpOrKeepsEndingIsTold) {
         signalProcess(peer().second, SIGKILL);
         waitForPeer(false);
         ASSERT_TRUE(QTest::qWaitFor([] { return waitpid(-1, nullptr, WNOHANG) == -1; }, 10'000));
-        EXPECT_TRUE(endings == 2 || open() == noErr);
+        EXPECT_FALSE(isLaunching(bundle_.string()));
+        EXPECT_TRUE(endings == 2 || (open() == noErr && isLaunching(bundle_.string())));
     }
+    told = 0;
     ASSERT_TRUE(QTest::qWaitFor([&] { return told > 0 && trouble() >= 0; }));
     EXPECT_EQ(findLaunchTrouble()->trouble, LaunchTrouble::KeepsEnding);
     use("#!/bin/sh\necho $$ >>'" + pids_.string() + "'\nexec sleep 600\n");
@@ -146,6 +148,7 @@ TEST_F(LaunchServicesTest, WhatDoesntComeUpOrKeepsEndingIsTold) {
     EXPECT_EQ(trouble(), -1) << "it may still come up";
     ASSERT_TRUE(QTest::qWaitFor([&] { return trouble() >= 0; }, 12'000));
     EXPECT_EQ(findLaunchTrouble()->trouble, LaunchTrouble::NotUp);
+    EXPECT_FALSE(isLaunching(findLaunchTrouble()->bundle));
 }
 
 TEST_F(LaunchServicesTest, AccessibilitySettingsAreThoseOfTheDesktopThatIsRunning) {

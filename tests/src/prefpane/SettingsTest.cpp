@@ -2,6 +2,7 @@
 #include "platform/AppKit/UserMessages.h"
 #include "src/prefpane/PreferenceWrangler.h"
 #include "tests/support/PaneFixture.h"
+#include "tests/support/SignalProcess.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -222,6 +223,22 @@ TEST_F(SettingsTest, WhatWasSwitchedOffOrResetIsPutBackFromTheStrip) {
     ASSERT_TRUE(currentMessage());
     UserMessage(currentMessage()->message).buttons[0].press();
     EXPECT_EQ(prefs.buttonActions[0], 5);
+}
+
+TEST_F(SettingsTest, TheSwitchClaimsNoMoreThanIsKnownOfTheAgent) {
+    const auto says = [&](const char* words) {
+        const auto* state = find<QLabel>("masterState");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return state->text() == words; }, 12'000))
+            << words << ", but it says " << state->text().toStdString();
+    };
+    open(); // which starts it
+    says("Ready for your switch");
+    signalProcess(agentPID(), SIGKILL);
+    says("Korvex isn’t running");
+    click("masterOnOffRadios0");
+    says("Your switch does nothing now");
+    click("masterOnOffRadios1");
+    says("Ready for your switch");
 }
 
 TEST_F(SettingsTest, EveryControlIsNamedReachableAndLargeEnough) {
