@@ -2,19 +2,14 @@
 #include "host/Sections.h"
 
 #include <QStackedWidget>
-#include <QTabWidget>
 
 namespace {
 
-/// Turns every book that the page lies in to it.
+/// Turns every stack that the page lies in to it.
 void turnTo(QWidget* page) {
-    for (QWidget* leaf = page; QWidget* book = leaf->parentWidget(); leaf = book) {
-        if (auto* stack = qobject_cast<QStackedWidget*>(book))
+    for (QWidget* leaf = page; QWidget* around = leaf->parentWidget(); leaf = around)
+        if (auto* stack = qobject_cast<QStackedWidget*>(around))
             stack->setCurrentWidget(leaf);
-        // A tab widget's own stack lies between it and its pages.
-        if (auto* tabs = qobject_cast<QTabWidget*>(book); tabs && tabs->isAncestorOf(page))
-            tabs->setCurrentIndex(tabs->indexOf(page));
-    }
 }
 
 } // namespace

@@ -40,6 +40,9 @@ public:
         return least;
     }
 
+    // Not downwards as well, which is the default: the card around it would grow with the page.
+    Qt::Orientations expandingDirections() const override { return Qt::Horizontal; }
+
     bool hasHeightForWidth() const override { return true; }
 
     int heightForWidth(int width) const override {

@@ -16,6 +16,7 @@ namespace {
 constexpr int kMargin = 16;     ///< around the sheet, in points
 constexpr int kWidestText = 80; ///< of a sheet, in characters of average width
 constexpr int kDimming = 110;   ///< of 255
+constexpr int kRadius = 8;      ///< of the sheet's corners, in points
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     auto* shade = dynamic_cast<SheetShade*>(object);
@@ -132,7 +133,14 @@ bool SheetShade::event(QEvent* event) {
 }
 
 void SheetShade::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(rect(), QColor(0, 0, 0, kDimming));
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor(0, 0, 0, kDimming));
+    if (!sheet_)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(sheet_->palette().window());
+    painter.drawRoundedRect(sheet_->geometry(), kRadius, kRadius);
 }
 
 bool SheetShade::focusNextPrevChild(bool next) {
