@@ -255,4 +255,53 @@ TEST_F(SettingsTest, EveryControlIsNamedReachableAndLargeEnough) {
     }
 }
 
+TEST_F(SettingsTest, SectionsAreReachedByKeyFromAnywhere) {
+    open();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+    const auto* pages = window()->findChild<QStackedWidget*>(QStringLiteral("prefsTabs"));
+
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        int section;
+        bool goesIn; ///< the keyboard, from outside the page
+    } presses[] = {
+        {Qt::Key_4, Qt::AltModifier, 3, false},
+        {Qt::Key_Tab, Qt::ControlModifier, 4, false},
+        {Qt::Key_PageDown, Qt::ControlModifier, 0, false}, // after the last
+        {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier, 4, false},
+        {Qt::Key_PageUp, Qt::ControlModifier, 3, false},
+        {Qt::Key_R, Qt::AltModifier, 1, true},
+    };
+
+    for (const auto& [key, modifiers, section, goesIn] : presses) {
+        auto* start = window()->findChild<QWidget*>(QStringLiteral("helpBtn"));
+        start->setFocus();
+        QTest::keyClick(start, key, modifiers);
+        EXPECT_EQ(pages->currentIndex(), section) << key;
+        EXPECT_EQ(pages->currentWidget()->isAncestorOf(window()->focusWidget()), goesIn) << key;
+    }
+}
+
+TEST_F(SettingsTest, ANarrowWindowHasAButtonInsteadOfTheList) {
+    open();
+    auto* bar = window()->findChild<QWidget*>(QStringLiteral("sectionsBar"));
+    auto* button = window()->findChild<QWidget*>(QStringLiteral("sectionsBtn"));
+    for (const int width : {400, 1200}) {
+        window()->resize(width, 900);
+        EXPECT_EQ(bar->isVisible(), width == 1200);
+        EXPECT_EQ(button->isVisible(), width == 400);
+    }
+}
+
+TEST_F(SettingsTest, ArrowsOnTheSwitchMoveWithoutChoosing) {
+    openWithAgent();
+    auto* on = find<QAbstractButton>("masterOnOffRadios1");
+    on->setFocus();
+    QTest::keyClick(on, Qt::Key_Left);
+    EXPECT_EQ(window()->focusWidget()->objectName(), QLatin1String("masterOnOffRadios0"));
+    EXPECT_TRUE(on->isChecked());
+    EXPECT_THAT(remainingMasks(), testing::IsEmpty());
+}
+
 } // namespace
