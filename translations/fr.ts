@@ -5,34 +5,34 @@
     <name>Changes</name>
     <message>
         <source>The palette has the buttons again that Korvex came with.</source>
-        <translation type="unfinished"></translation>
+        <translation>La palette a de nouveau les boutons fournis avec Korvex.</translation>
     </message>
     <message>
         <source>Put it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Les remettre</translation>
     </message>
     <message>
         <source>%1, and 1 setting more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, et 1 autre réglage</translation>
     </message>
     <message>
         <source>%1.</source>
         <comment>a sentence</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>%1: %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2 devient %3</translation>
     </message>
     <message>
         <source>%1: %2 back to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2 redevient %3</translation>
     </message>
     <message numerus="yes">
         <source>%1, and %n settings more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, et %n autre réglage</numerusform>
+            <numerusform>%1, et %n autres réglages</numerusform>
         </translation>
     </message>
 </context>
@@ -40,303 +40,303 @@
     <name>Choices</name>
     <message>
         <source>Press to start, press to choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyer pour lancer, appuyer pour choisir</translation>
     </message>
     <message>
         <source>Hold to scan, let go to choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenir pour balayer, relâcher pour choisir</translation>
     </message>
     <message>
         <source>Each press moves one step</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque appui avance d’un pas</translation>
     </message>
     <message>
         <source>When I press</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand j’appuie</translation>
     </message>
     <message>
         <source>When I let go</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand je relâche</translation>
     </message>
     <message>
         <source>The whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout l’écran</translation>
     </message>
     <message>
         <source>Only my own area</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement ma zone</translation>
     </message>
     <message>
         <source>Square</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrés</translation>
     </message>
     <message>
         <source>Rounded</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrondis</translation>
     </message>
 </context>
 <context>
     <name>Colour</name>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Blanc</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation type="unfinished"></translation>
+        <translation>Noir</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Jaune</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Violet</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange</translation>
     </message>
     <message>
         <source>Light blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu clair</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rouge</translation>
     </message>
     <message>
         <source>Buff</source>
-        <translation type="unfinished"></translation>
+        <translation>Chamois</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Vert</translation>
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rose</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu</translation>
     </message>
 </context>
 <context>
     <name>Commands</name>
     <message>
         <source>every key needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>chaque clé demande une valeur</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de réglage «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Shows every setting: its key, value, default, range and what it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre chaque réglage&#xa0;: sa clé, sa valeur, sa valeur par défaut, ses limites et ce qu’il est.</translation>
     </message>
     <message>
         <source>KEY…</source>
-        <translation type="unfinished"></translation>
+        <translation>CLÉ…</translation>
     </message>
     <message>
         <source>Shows the value of settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre la valeur de réglages.</translation>
     </message>
     <message>
         <source>KEY VALUE…</source>
-        <translation type="unfinished"></translation>
+        <translation>CLÉ VALEUR…</translation>
     </message>
     <message>
         <source>Changes settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Change des réglages.</translation>
     </message>
     <message>
         <source>Puts settings back to their defaults; &quot;all&quot; stands for all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remet des réglages à leur valeur par défaut&#xa0;; «&#xa0;all&#xa0;» les désigne tous.</translation>
     </message>
     <message>
         <source>FILE</source>
-        <translation type="unfinished"></translation>
+        <translation>FICHIER</translation>
     </message>
     <message>
         <source>Writes the settings to a file; - stands for standard output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit les réglages dans un fichier&#xa0;; - désigne la sortie standard.</translation>
     </message>
     <message>
         <source>Shows what a file would change; with --yes, changes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre ce qu’un fichier changerait&#xa0;; avec --yes, le change.</translation>
     </message>
     <message>
         <source>list|use|save|rename|delete [NAME…]</source>
-        <translation type="unfinished"></translation>
+        <translation>list|use|save|rename|delete [NOM…]</translation>
     </message>
     <message>
         <source>Lists and uses named states of the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste et utilise des états nommés des réglages.</translation>
     </message>
     <message>
         <source>Prints the completion for bash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche le complètement pour bash.</translation>
     </message>
     <message>
         <source>Prints the manual page&apos;s part on commands and settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche la partie de la page de manuel sur les commandes et les réglages.</translation>
     </message>
     <message>
         <source>Usage: korvex-preferences COMMAND [--json] [--yes] …</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisation&#xa0;: korvex-preferences COMMANDE [--json] [--yes] …</translation>
     </message>
     <message>
         <source>answers for programs</source>
-        <translation type="unfinished"></translation>
+        <translation>réponses pour des programmes</translation>
     </message>
     <message>
         <source>doesn&apos;t ask</source>
-        <translation type="unfinished"></translation>
+        <translation>ne demande rien</translation>
     </message>
     <message>
         <source>See korvex-preferences help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir korvex-preferences help.</translation>
     </message>
     <message>
         <source>there is no command &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de commande «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>there is no such option</source>
-        <translation type="unfinished"></translation>
+        <translation>cette option n’existe pas</translation>
     </message>
     <message>
         <source>%1 takes %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 attend %2</translation>
     </message>
     <message>
         <source>%1 takes no operand</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’attend aucun opérande</translation>
     </message>
     <message>
         <source>Nothing differs from the settings as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne diffère des réglages actuels.</translation>
     </message>
     <message>
         <source>Left out: %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Laissé de côté&#xa0;: %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 (in use)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (utilisé)</translation>
     </message>
     <message>
         <source>Nothing was changed. With --yes it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été changé. Avec --yes, cela l’est.</translation>
     </message>
     <message>
         <source>profile list, use NAME, save NAME, rename NAME NEW or delete NAME</source>
-        <translation type="unfinished"></translation>
+        <translation>profile list, use NOM, save NOM, rename NOM NOUVEAU ou delete NOM</translation>
     </message>
     <message>
         <source>; default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>; par défaut&#xa0;: %1</translation>
     </message>
     <message>
         <source>can&apos;t store the settings in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’enregistrer les réglages dans %1</translation>
     </message>
 </context>
 <context>
     <name>Faults</name>
     <message>
         <source>the change can&apos;t be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>le changement ne peut pas être envoyé</translation>
     </message>
     <message>
         <source>the open window doesn&apos;t answer</source>
-        <translation type="unfinished"></translation>
+        <translation>la fenêtre ouverte ne répond pas</translation>
     </message>
     <message>
         <source>the open window doesn&apos;t take the change</source>
-        <translation type="unfinished"></translation>
+        <translation>la fenêtre ouverte refuse le changement</translation>
     </message>
     <message>
         <source>a profile needs a name</source>
-        <translation type="unfinished"></translation>
+        <translation>un profil a besoin d’un nom</translation>
     </message>
     <message>
         <source>the name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom est trop long</translation>
     </message>
     <message>
         <source>a name has no slash and no control character, and doesn&apos;t begin with a point</source>
-        <translation type="unfinished"></translation>
+        <translation>un nom ne contient ni barre oblique ni caractère de contrôle, et ne commence pas par un point</translation>
     </message>
     <message>
         <source>there is no profile of that name</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de profil de ce nom</translation>
     </message>
     <message>
         <source>there is a profile of that name</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a déjà un profil de ce nom</translation>
     </message>
     <message>
         <source>outside %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hors de %1</translation>
     </message>
     <message>
         <source>none of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun de&#xa0;: %1</translation>
     </message>
     <message>
         <source>not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas un nombre</translation>
     </message>
     <message>
         <source>an action that there isn&apos;t</source>
-        <translation type="unfinished"></translation>
+        <translation>cette action n’existe pas</translation>
     </message>
     <message>
         <source>not a number in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas un nombre en %1</translation>
     </message>
     <message>
         <source>not a value of this setting</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas une valeur de ce réglage</translation>
     </message>
     <message>
         <source>no setting of this version</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas un réglage de cette version</translation>
     </message>
     <message>
         <source>not a file of settings, or it can&apos;t be read</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas un fichier de réglages, ou il est illisible</translation>
     </message>
 </context>
 <context>
     <name>Formats</name>
     <message>
         <source>%.0f points</source>
-        <translation type="unfinished"></translation>
+        <translation>%.0f points</translation>
     </message>
     <message>
         <source>%5.1f sec</source>
-        <translation type="unfinished"></translation>
+        <translation>%5.1f s</translation>
     </message>
     <message>
         <source>%3.0f%%</source>
-        <translation type="unfinished"></translation>
+        <translation>%3.0f %%</translation>
     </message>
     <message>
         <source>%3.0f points</source>
-        <translation type="unfinished"></translation>
+        <translation>%3.0f points</translation>
     </message>
     <message>
         <source>%3.0f ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%3.0f ms</translation>
     </message>
 </context>
 <context>
@@ -357,188 +357,202 @@ Shows the settings pane of the bundle, of Korvex&apos;s own without one.
   --help          print this text
   --version       print the version
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisation&#xa0;: korvex-preferences [LOT.prefPane]
+       korvex-preferences COMMANDE OPÉRANDES
+       korvex-preferences --section NOM
+       korvex-preferences --service
+       korvex-preferences --check LOT.prefPane
+
+Montre le panneau de réglages du lot, celui de Korvex par défaut.
+
+  COMMANDE        change ou lit des réglages sans fenêtre&#xa0;; voir la commande «&#xa0;help&#xa0;»
+  --section NOM   montre cette section du panneau, par exemple «&#xa0;palette&#xa0;»
+  --service       attend que le bus de session demande la fenêtre
+  --check LOT     charge le lot, vérifie ses fichiers d’interface, ne montre rien
+  --help          affiche ce texte
+  --version       affiche la version
+</translation>
     </message>
     <message>
         <source>Korvex.prefPane: not found beside this program</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex.prefPane&#xa0;: introuvable à côté de ce programme</translation>
     </message>
     <message>
         <source>it is open already, but doesn&apos;t answer</source>
-        <translation type="unfinished"></translation>
+        <translation>la fenêtre est déjà ouverte, mais ne répond pas</translation>
     </message>
     <message>
         <source>there is no section &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de section «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the settings aren&apos;t saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>les réglages ne sont pas enregistrés&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>HotKeys</name>
     <message>
         <source>First choose “Choose keys…” in the menu beside a hot key.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d’abord «&#xa0;Choisir des touches…&#xa0;» dans le menu à côté d’un raccourci.</translation>
     </message>
     <message>
         <source>New keys for “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelles touches pour «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Use it here and remove it there</source>
-        <translation type="unfinished"></translation>
+        <translation>L’utiliser ici et l’enlever là-bas</translation>
     </message>
     <message>
         <source>Put back what was here</source>
-        <translation type="unfinished"></translation>
+        <translation>Remettre ce qui était ici</translation>
     </message>
     <message>
         <source>Press new keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyer sur de nouvelles touches</translation>
     </message>
     <message>
         <source>Choose keys…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir des touches…</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Par défaut</translation>
     </message>
     <message>
         <source>Listening: press the new hot key, one key, alone or with Ctrl, Alt, Shift or Super held down. Every key counts, Esc and Tab too. %1 seconds left.</source>
-        <translation type="unfinished"></translation>
+        <translation>À l’écoute&#xa0;: appuyez sur le nouveau raccourci, une touche, seule ou avec Ctrl, Alt, Maj ou Super. Chaque touche compte, Échap et Tab aussi. Encore %1 secondes.</translation>
     </message>
     <message>
         <source>“%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>⚠ The same keys as %1. The menu beside it offers to use them here alone, or to put back what was here.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Les mêmes touches que %1. Le menu à côté propose de les garder ici seulement, ou de remettre ce qui était ici.</translation>
     </message>
     <message>
         <source>Now %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenant %1. </translation>
     </message>
     <message>
         <source>Capturing: press the new keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>À l’écoute&#xa0;: appuyez sur les nouvelles touches.</translation>
     </message>
     <message>
         <source>Turn scanning on or off</source>
-        <translation type="unfinished"></translation>
+        <translation>Activer ou arrêter le balayage</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayer</translation>
     </message>
     <message>
         <source>Cancel the scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler le balayage</translation>
     </message>
     <message>
         <source>Show these settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer ces réglages</translation>
     </message>
     <message>
         <source>Second scan key</source>
-        <translation type="unfinished"></translation>
+        <translation>Deuxième touche de balayage</translation>
     </message>
 </context>
 <context>
     <name>Keys</name>
     <message>
         <source>return</source>
-        <translation type="unfinished"></translation>
+        <translation>retour</translation>
     </message>
     <message>
         <source>tab</source>
-        <translation type="unfinished"></translation>
+        <translation>tab</translation>
     </message>
     <message>
         <source>space</source>
-        <translation type="unfinished"></translation>
+        <translation>espace</translation>
     </message>
     <message>
         <source>delete</source>
-        <translation type="unfinished"></translation>
+        <translation>effacer</translation>
     </message>
     <message>
         <source>enter</source>
-        <translation type="unfinished"></translation>
+        <translation>entrée</translation>
     </message>
     <message>
         <source>esc</source>
-        <translation type="unfinished"></translation>
+        <translation>échap</translation>
     </message>
     <message>
         <source>caps lock</source>
-        <translation type="unfinished"></translation>
+        <translation>verr. maj</translation>
     </message>
     <message>
         <source>clear</source>
-        <translation type="unfinished"></translation>
+        <translation>effacer tout</translation>
     </message>
     <message>
         <source>help</source>
-        <translation type="unfinished"></translation>
+        <translation>aide</translation>
     </message>
     <message>
         <source>home</source>
-        <translation type="unfinished"></translation>
+        <translation>début</translation>
     </message>
     <message>
         <source>page up</source>
-        <translation type="unfinished"></translation>
+        <translation>page préc.</translation>
     </message>
     <message>
         <source>end</source>
-        <translation type="unfinished"></translation>
+        <translation>fin</translation>
     </message>
     <message>
         <source>page down</source>
-        <translation type="unfinished"></translation>
+        <translation>page suiv.</translation>
     </message>
     <message>
         <source>command+</source>
-        <translation type="unfinished"></translation>
+        <translation>commande+</translation>
     </message>
     <message>
         <source>control+</source>
-        <translation type="unfinished"></translation>
+        <translation>contrôle+</translation>
     </message>
     <message>
         <source>shift+</source>
-        <translation type="unfinished"></translation>
+        <translation>maj+</translation>
     </message>
     <message>
         <source>option+</source>
-        <translation type="unfinished"></translation>
+        <translation>option+</translation>
     </message>
     <message>
         <source> keypad </source>
-        <translation type="unfinished"></translation>
+        <translation> pavé num. </translation>
     </message>
     <message>
         <source> fn </source>
-        <translation type="unfinished"></translation>
+        <translation> fn </translation>
     </message>
     <message>
         <source>-none-</source>
-        <translation type="unfinished"></translation>
+        <translation>-aucun-</translation>
     </message>
 </context>
 <context>
     <name>NSColorWell</name>
     <message>
         <source>Red %1, green %2, blue %3, each of 255</source>
-        <translation type="unfinished"></translation>
+        <translation>Rouge %1, vert %2, bleu %3, chacun sur 255</translation>
     </message>
 </context>
 <context>
@@ -546,1188 +560,1188 @@ Shows the settings pane of the bundle, of Korvex&apos;s own without one.
     <message>
         <source>%1, %2</source>
         <extracomment>As in &quot;Line scan time, longer&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1, much %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, beaucoup %2</translation>
     </message>
 </context>
 <context>
     <name>Numbers</name>
     <message>
         <source>%1 less</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de moins</translation>
     </message>
     <message>
         <source>%1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de plus</translation>
     </message>
     <message>
         <source>Only %1 to %2 can be set.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules les valeurs de %1 à %2 sont possibles.</translation>
     </message>
 </context>
 <context>
     <name>Palette</name>
     <message>
         <source>%1 points</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 points</translation>
     </message>
     <message>
         <source>Choose the button to swap with button %1. The same button again, or Escape, cancels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez le bouton à échanger avec le bouton %1. Le même bouton, ou Échap, annule.</translation>
     </message>
     <message>
         <source>Chosen: button %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisi&#xa0;: bouton %1.</translation>
     </message>
     <message>
         <source>Choose a button to change it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un bouton pour le changer.</translation>
     </message>
     <message>
         <source>Empty slot</source>
-        <translation type="unfinished"></translation>
+        <translation>Place vide</translation>
     </message>
     <message>
         <source>Action %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Action %1</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <comment>number and name of a button</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>Pane</name>
     <message>
         <source>Korvex</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex</translation>
     </message>
     <message>
         <source>Chooses another section of the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisit une autre section des réglages.</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayage</translation>
     </message>
     <message>
         <source>Scanning with Korvex</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayage avec Korvex</translation>
     </message>
     <message>
         <source>&lt;p&gt;Off stops scanning and keeps all settings. Hold Alt (Option) while you click to quit Korvex itself, or to start it.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;«&#xa0;Arrêt&#xa0;» cesse le balayage et garde tous les réglages. Maintenez Alt (Option) en cliquant pour quitter Korvex lui-même, ou pour le lancer.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Turns scanning off and on. Your settings stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrête et active le balayage. Vos réglages restent comme ils sont.</translation>
     </message>
     <message>
         <source>Stops scanning. With Alt held, quits Korvex.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cesse le balayage. Avec Alt, quitte Korvex.</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt</translation>
     </message>
     <message>
         <source>Makes Korvex ready to scan. With Alt held, starts Korvex if it is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prépare Korvex à balayer. Avec Alt, lance Korvex s’il n’est pas en marche.</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Marche</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Takes the last change of this visit back. Ctrl+Z does the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annule le dernier changement de cette visite. Ctrl+Z fait de même.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Takes the last change of this visit back. Ctrl+Z does the same.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Annule le dernier changement de cette visite. Ctrl+Z fait de même.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir</translation>
     </message>
     <message>
         <source>Makes a change again that was undone. Ctrl+Shift+Z does the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablit un changement annulé. Ctrl+Maj+Z fait de même.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Makes a change again that was undone. Ctrl+Shift+Z does the same.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Rétablit un changement annulé. Ctrl+Maj+Z fait de même.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Opens the Korvex help in your web browser. F1 does the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre l’aide de Korvex dans votre navigateur. F1 fait de même.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Opens the Korvex help in your web browser.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Ouvre l’aide de Korvex dans votre navigateur.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ide</translation>
     </message>
     <message>
         <source>Sections of the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Sections des réglages</translation>
     </message>
     <message>
         <source>The arrow keys choose a section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les flèches choisissent une section.</translation>
     </message>
     <message>
         <source>&amp;Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Balayage</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>&amp;Line crosses the screen in</source>
-        <translation type="unfinished"></translation>
+        <translation>La &amp;ligne traverse l’écran en</translation>
     </message>
     <message>
         <source>shorter</source>
-        <translation type="unfinished"></translation>
+        <translation>plus court</translation>
     </message>
     <message>
         <source>longer</source>
-        <translation type="unfinished"></translation>
+        <translation>plus long</translation>
     </message>
     <message>
         <source>Line scan time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée de balayage de la ligne</translation>
     </message>
     <message>
         <source>More time makes it easier to stop the line in the right place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec plus de temps, il est plus facile d’arrêter la ligne au bon endroit.</translation>
     </message>
     <message>
         <source>&lt;p&gt;At 60 seconds, pressing one second late moves the line by only a sixtieth of the screen.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;À 60 secondes, un appui en retard d’une seconde ne déplace la ligne que d’un soixantième de l’écran.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Pointer &amp;crosses the screen in</source>
-        <translation type="unfinished"></translation>
+        <translation>Le pointeur traver&amp;se l’écran en</translation>
     </message>
     <message>
         <source>Pointer scan time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée de balayage du pointeur</translation>
     </message>
     <message>
         <source>Once you have stopped the line, the pointer moves along it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une fois la ligne arrêtée, le pointeur avance le long d’elle.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Many people need as long here as for the line, because this press decides where the click lands.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Beaucoup de personnes ont besoin d’autant de temps ici que pour la ligne, car cet appui décide où le clic tombe.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Speed in &amp;menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse dans les &amp;menus</translation>
     </message>
     <message>
         <source>slower</source>
-        <translation type="unfinished"></translation>
+        <translation>plus lent</translation>
     </message>
     <message>
         <source>faster</source>
-        <translation type="unfinished"></translation>
+        <translation>plus rapide</translation>
     </message>
     <message>
         <source>100% is as fast as on the rest of the screen. Menu items are small, so slower is easier.</source>
-        <translation type="unfinished"></translation>
+        <translation>100 % est aussi rapide que sur le reste de l’écran. Les menus sont petits&#xa0;: plus lent est plus facile.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Below 100 a menu gives you more time than the rest of the screen; above 100 it saves waiting.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Sous 100, un menu vous laisse plus de temps que le reste de l’écran&#xa0;; au-dessus de 100, l’attente est plus courte.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Start slowly, then speed up</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer lentement, puis accélérer</translation>
     </message>
     <message>
         <source>Gives you time for things near the start without a long wait for those far away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Laisse du temps pour ce qui est proche du départ, sans longue attente pour ce qui est loin.</translation>
     </message>
     <message>
         <source>Try it</source>
-        <translation type="unfinished"></translation>
+        <translation>Essayer</translation>
     </message>
     <message>
         <source>Press your switch a few times and see which speed suits you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez quelques fois et voyez quelle vitesse vous convient.</translation>
     </message>
     <message>
         <source>Find my speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouver ma vitesse</translation>
     </message>
     <message>
         <source>Find my speed…</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouver ma vitesse…</translation>
     </message>
     <message>
         <source>Pauses and clicks</source>
-        <translation type="unfinished"></translation>
+        <translation>Pauses et clics</translation>
     </message>
     <message>
         <source>&amp;Wait before the scan starts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Attendre avant le départ du balayage</translation>
     </message>
     <message>
         <source>Time to get ready after your first press. 0 starts at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Du temps pour vous préparer après le premier appui. 0 part aussitôt.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Enough to settle back and look at the screen before anything moves.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Assez pour se réinstaller et regarder l’écran avant que rien ne bouge.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>R&amp;epeat an action every</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Répéter une action toutes les</translation>
     </message>
     <message>
         <source>Time between repeats</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps entre les répétitions</translation>
     </message>
     <message>
         <source>Actions such as scrolling go on at this pace until you press again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des actions comme le défilement continuent à ce rythme jusqu’au prochain appui.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Short suits scrolling; long leaves time to stop after a single repeat.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Court convient au défilement&#xa0;; long laisse le temps d’arrêter après une seule répétition.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Length of a clic&amp;k</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée d’un &amp;clic</translation>
     </message>
     <message>
         <source>How long Korvex holds the mouse button down. Make it longer if a program misses clicks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps pendant lequel Korvex garde le bouton de la souris enfoncé. Augmentez-le si un programme manque des clics.</translation>
     </message>
     <message>
         <source>&lt;p&gt;A few programs, games above all, miss a click of less than 50; above 300 many see a long press.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Quelques programmes, surtout des jeux, manquent un clic de moins de 50&#xa0;; au-delà de 300, beaucoup y voient un appui long.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>What is scanned</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est balayé</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayer</translation>
     </message>
     <message>
         <source>Which part of the screen is scanned.</source>
-        <translation type="unfinished"></translation>
+        <translation>La partie de l’écran qui est balayée.</translation>
     </message>
     <message>
         <source>The whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout l’écran</translation>
     </message>
     <message>
         <source>The line crosses the whole screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ligne traverse tout l’écran.</translation>
     </message>
     <message>
         <source>Only my own area</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement ma zone</translation>
     </message>
     <message>
         <source>A smaller area takes less time. You can choose this once an area has been drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une zone plus petite prend moins de temps. Vous pouvez la choisir une fois qu’une zone est dessinée.</translation>
     </message>
     <message>
         <source>Part of the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Partie de l’écran</translation>
     </message>
     <message>
         <source>Scans only that part from now on: the whole screen, a half, a third or a quarter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne balaie plus que cette partie&#xa0;: tout l’écran, une moitié, un tiers ou un quart.</translation>
     </message>
     <message>
         <source>Parts of the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Parties de l’écran</translation>
     </message>
     <message>
         <source>The arrow keys go from one to the next; Space chooses it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les flèches vont de l’une à l’autre&#xa0;; Espace la choisit.</translation>
     </message>
     <message>
         <source>My own area</source>
-        <translation type="unfinished"></translation>
+        <translation>Ma zone</translation>
     </message>
     <message>
         <source>Drag across the screen, or move the area&apos;s lower right corner with the arrow keys and, with Shift, its upper left one. Return keeps the area, Esc leaves all as it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Glissez sur l’écran, ou déplacez le coin inférieur droit de la zone avec les flèches et, avec Maj, son coin supérieur gauche. Retour garde la zone, Échap laisse tout comme avant.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune</translation>
     </message>
     <message>
         <source>Width × height at left, top, in points on the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur × hauteur à gauche, en haut, en points de l’écran.</translation>
     </message>
     <message>
         <source>Draw my own area</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner ma zone</translation>
     </message>
     <message>
         <source>Covers the screen. Drag across it, or move the area&apos;s lower right corner with the arrow keys and, with Shift, its upper left one. Return keeps the area, Esc leaves all as it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couvre l’écran. Glissez dessus, ou déplacez le coin inférieur droit de la zone avec les flèches et, avec Maj, son coin supérieur gauche. Retour garde la zone, Échap laisse tout comme avant.</translation>
     </message>
     <message>
         <source>&amp;Draw…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dessiner…</translation>
     </message>
     <message>
         <source>Scan the menu bar too</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayer aussi la barre des menus</translation>
     </message>
     <message>
         <source>Turn this off if you never use the menu bar and want it skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivez-le si vous n’utilisez jamais la barre des menus.</translation>
     </message>
     <message>
         <source>Line scan ends keyboard mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Le balayage de la ligne quitte le mode clavier</translation>
     </message>
     <message>
         <source>Starting the scan line then leaves the on-screen keyboard, so you need no extra step to get back to the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer la ligne quitte alors le clavier à l’écran&#xa0;: aucun pas de plus pour revenir à l’écran.</translation>
     </message>
     <message>
         <source>P&amp;resses</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ppuis</translation>
     </message>
     <message>
         <source>Presses</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuis</translation>
     </message>
     <message>
         <source>Way of scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Façon de balayer</translation>
     </message>
     <message>
         <source>Scan mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode de balayage</translation>
     </message>
     <message>
         <source>How your switch controls the scan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment votre contacteur commande le balayage.</translation>
     </message>
     <message>
         <source>Press to start, press to choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyer pour lancer, appuyer pour choisir</translation>
     </message>
     <message>
         <source>The scan moves by itself. Press once to start it and again at the thing you want.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le balayage avance seul. Appuyez une fois pour le lancer, et de nouveau sur ce que vous voulez.</translation>
     </message>
     <message>
         <source>A press counts</source>
-        <translation type="unfinished"></translation>
+        <translation>Un appui compte</translation>
     </message>
     <message>
         <source>Choose “let go” if you can time that better.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez «&#xa0;relâche&#xa0;» si vous visez mieux ainsi.</translation>
     </message>
     <message>
         <source>Used by this way of scanning only. Choose “let go” if you can time that better.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne sert qu’à cette façon de balayer. Choisissez «&#xa0;relâche&#xa0;» si vous visez mieux ainsi.</translation>
     </message>
     <message>
         <source>When I press</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand j’appuie</translation>
     </message>
     <message>
         <source>When I let go</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand je relâche</translation>
     </message>
     <message>
         <source>Hold to scan, let go to choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenir pour balayer, relâcher pour choisir</translation>
     </message>
     <message>
         <source>The scan moves while you hold your switch down and stops when you let go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le balayage avance tant que vous maintenez votre contacteur, et s’arrête quand vous le relâchez.</translation>
     </message>
     <message>
         <source>Wait after &amp;letting go</source>
-        <translation type="unfinished"></translation>
+        <translation>Attendre a&amp;près le relâchement</translation>
     </message>
     <message>
         <source>Press again within this time to go on. After it, Korvex chooses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez de nouveau dans ce délai pour continuer. Ensuite, Korvex choisit.</translation>
     </message>
     <message>
         <source>&lt;p&gt;A few seconds let you put right a hand that slipped off the switch.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Quelques secondes permettent de rattraper une main qui a glissé du contacteur.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Each press moves one step</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque appui avance d’un pas</translation>
     </message>
     <message>
         <source>Nothing moves until you press, so there is no moment to miss.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne bouge sans appui&#xa0;: il n’y a aucun moment à manquer.</translation>
     </message>
     <message>
         <source>Stop without a press &amp;for</source>
-        <translation type="unfinished"></translation>
+        <translation>S’arrêter sans appui au &amp;bout de</translation>
     </message>
     <message>
         <source>The scan ends after this time without a press.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le balayage finit après ce temps sans appui.</translation>
     </message>
     <message>
         <source>&lt;p&gt;A long time lets you rest between steps; a short one clears the screen soon after you stop.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Un temps long laisse du repos entre les pas&#xa0;; un temps court libère l’écran peu après votre arrêt.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Steadier presses</source>
-        <translation type="unfinished"></translation>
+        <translation>Des appuis plus sûrs</translation>
     </message>
     <message>
         <source>Shortest press that &amp;counts</source>
-        <translation type="unfinished"></translation>
+        <translation>Appui le plus &amp;court qui compte</translation>
     </message>
     <message>
         <source>Shorter ones, as from a tremor, are ignored. 0 counts all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les plus courts, d’un tremblement par exemple, sont ignorés. 0 les compte tous.</translation>
     </message>
     <message>
         <source>&lt;p&gt;A few tenths of a second filter out most tremor; more than a second makes every press deliberate.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Quelques dixièmes de seconde écartent la plupart des tremblements&#xa0;; plus d’une seconde rend chaque appui volontaire.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&amp;Ignore presses after a click for</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ignorer les appuis après un clic pendant</translation>
     </message>
     <message>
         <source>Stops an unwanted second press from counting. 0 ignores none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Empêche un second appui involontaire de compter. 0 n’en ignore aucun.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Half a second stops most accidental double presses; longer leaves time for a spasm to pass.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Une demi-seconde arrête la plupart des doubles appuis&#xa0;; plus long laisse passer un spasme.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Your switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre contacteur</translation>
     </message>
     <message>
         <source>Listen to hot keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Écouter les raccourcis clavier</translation>
     </message>
     <message>
         <source>For a switch or switch box that types a key. Leave this or mouse clicks on, or nothing you press will start a scan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour un contacteur ou un boîtier qui tape une touche. Laissez ceci ou les clics actifs, sinon aucun appui ne lance de balayage.</translation>
     </message>
     <message>
         <source>Listen to mouse clicks</source>
-        <translation type="unfinished"></translation>
+        <translation>Écouter les clics de souris</translation>
     </message>
     <message>
         <source>For a switch that is connected as a mouse button, or for the mouse itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour un contacteur branché comme bouton de souris, ou pour la souris elle-même.</translation>
     </message>
     <message>
         <source>Keys that work everywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches valables partout</translation>
     </message>
     <message>
         <source>Press the new hot key: one key, alone or with Ctrl, Alt, Shift or Super held down. Every key counts, Esc and Tab too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez sur le nouveau raccourci&#xa0;: une touche, seule ou avec Ctrl, Alt, Maj ou Super. Chaque touche compte, Échap et Tab aussi.</translation>
     </message>
     <message>
         <source>Keeps the hot key as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Garde le raccourci comme il est.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Goes back to the usual hot key.</source>
-        <translation type="unfinished"></translation>
+        <translation>Revient au raccourci habituel.</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Par défaut</translation>
     </message>
     <message>
         <source>Takes the hot key away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlève le raccourci.</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>To change a hot key, click it, or open the menu beside it and choose “Press new keys”. The next key that you press becomes the hot key. Without a keyboard, choose “Choose keys…”. In its name, “command” is the Super or Windows key and “option” is Alt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour changer un raccourci, cliquez dessus, ou ouvrez le menu à côté et choisissez «&#xa0;Appuyer sur de nouvelles touches&#xa0;». La prochaine touche devient le raccourci. Sans clavier, choisissez «&#xa0;Choisir des touches…&#xa0;». Dans son nom, «&#xa0;commande&#xa0;» est la touche Super ou Windows, et «&#xa0;option&#xa0;» est Alt.</translation>
     </message>
     <message>
         <source>Sca&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation>Balaye&amp;r</translation>
     </message>
     <message>
         <source>Starts a scan and stops it: the key that your switch types.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lance un balayage et l’arrête&#xa0;: la touche que tape votre contacteur.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Click, then press the new keys.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Cliquez, puis appuyez sur les nouvelles touches.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Change: Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer&#xa0;: Balayer</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer</translation>
     </message>
     <message>
         <source>Scan, s&amp;econd key</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayer, &amp;deuxième touche</translation>
     </message>
     <message>
         <source>Does the same, for a second switch or a key in another place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fait de même, pour un second contacteur ou une touche placée ailleurs.</translation>
     </message>
     <message>
         <source>Scan, second key</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayer, deuxième touche</translation>
     </message>
     <message>
         <source>Change: Scan, second key</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer&#xa0;: Balayer, deuxième touche</translation>
     </message>
     <message>
         <source>C&amp;ancel the scan</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler le balayage</translation>
     </message>
     <message>
         <source>Takes the line away without a click.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlève la ligne sans clic.</translation>
     </message>
     <message>
         <source>Cancel the scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler le balayage</translation>
     </message>
     <message>
         <source>Change: Cancel the scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer&#xa0;: Annuler le balayage</translation>
     </message>
     <message>
         <source>&amp;Turn scanning on or off</source>
-        <translation type="unfinished"></translation>
+        <translation>Ac&amp;tiver ou arrêter le balayage</translation>
     </message>
     <message>
         <source>Does what the switch at the top of this window does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fait ce que fait l’interrupteur en haut de cette fenêtre.</translation>
     </message>
     <message>
         <source>Turn scanning on or off</source>
-        <translation type="unfinished"></translation>
+        <translation>Activer ou arrêter le balayage</translation>
     </message>
     <message>
         <source>Change: Turn scanning on or off</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer&#xa0;: Activer ou arrêter le balayage</translation>
     </message>
     <message>
         <source>Sho&amp;w these settings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Montrer ces réglages</translation>
     </message>
     <message>
         <source>Opens this window from wherever you are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre cette fenêtre où que vous soyez.</translation>
     </message>
     <message>
         <source>Show these settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer ces réglages</translation>
     </message>
     <message>
         <source>Change: Show these settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer&#xa0;: Montrer ces réglages</translation>
     </message>
     <message>
         <source>To hold while the key is pressed.</source>
-        <translation type="unfinished"></translation>
+        <translation>À maintenir pendant l’appui sur la touche.</translation>
     </message>
     <message>
         <source>command (Super)</source>
-        <translation type="unfinished"></translation>
+        <translation>commande (Super)</translation>
     </message>
     <message>
         <source>control</source>
-        <translation type="unfinished"></translation>
+        <translation>contrôle</translation>
     </message>
     <message>
         <source>shift</source>
-        <translation type="unfinished"></translation>
+        <translation>maj</translation>
     </message>
     <message>
         <source>option (Alt)</source>
-        <translation type="unfinished"></translation>
+        <translation>option (Alt)</translation>
     </message>
     <message>
         <source>Choose a key</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir une touche</translation>
     </message>
     <message>
         <source>The key that you choose becomes the hot key, with the boxes that are ticked.</source>
-        <translation type="unfinished"></translation>
+        <translation>La touche choisie devient le raccourci, avec les cases cochées.</translation>
     </message>
     <message>
         <source>L&amp;ook</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspe&amp;ct</translation>
     </message>
     <message>
         <source>Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspect</translation>
     </message>
     <message>
         <source>Click to see the other line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez pour voir l’autre ligne.</translation>
     </message>
     <message>
         <source>With it are two sample buttons and the pointer. Shows the other line when pressed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec elle, deux boutons d’exemple et le pointeur. Montre l’autre ligne quand on appuie.</translation>
     </message>
     <message>
         <source>Scan line and guide line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne de balayage et ligne guide</translation>
     </message>
     <message>
         <source>&amp;Line colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de la &amp;ligne</translation>
     </message>
     <message>
         <source>Choose a colour that stands out from your windows and desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une couleur qui se détache de vos fenêtres et du bureau.</translation>
     </message>
     <message>
         <source>Line colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de la ligne</translation>
     </message>
     <message>
         <source>Strong colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs fortes</translation>
     </message>
     <message>
         <source>Twelve colours that stand out from one another as far as colours can.</source>
-        <translation type="unfinished"></translation>
+        <translation>Douze couleurs qui se distinguent les unes des autres autant que possible.</translation>
     </message>
     <message>
         <source>Strong line colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs de ligne fortes</translation>
     </message>
     <message>
         <source>Line &amp;thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Épaisseur de la ligne</translation>
     </message>
     <message>
         <source>thinner</source>
-        <translation type="unfinished"></translation>
+        <translation>plus mince</translation>
     </message>
     <message>
         <source>thicker</source>
-        <translation type="unfinished"></translation>
+        <translation>plus épais</translation>
     </message>
     <message>
         <source>A thick line is easier to see; a thin one hides less.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une ligne épaisse se voit mieux&#xa0;; une ligne mince cache moins.</translation>
     </message>
     <message>
         <source>Scan line transparenc&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Transparence de la ligne de balayage</translation>
     </message>
     <message>
         <source>more solid</source>
-        <translation type="unfinished"></translation>
+        <translation>plus opaque</translation>
     </message>
     <message>
         <source>more transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>plus transparent</translation>
     </message>
     <message>
         <source>0% is solid. A higher value lets you see what is beneath the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>0 % est opaque. Une valeur plus haute laisse voir ce qui est sous la ligne.</translation>
     </message>
     <message>
         <source>&lt;p&gt;It stops short of 100 so that the scan line can never vanish.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;La valeur reste sous 100, pour que la ligne de balayage ne disparaisse jamais.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Gui&amp;de line transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparence de la ligne &amp;guide</translation>
     </message>
     <message>
         <source>The guide line goes with the scan line. 100% hides it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ligne guide accompagne la ligne de balayage. 100 % la cache.</translation>
     </message>
     <message>
         <source>&lt;p&gt;At 100 the guide line is invisible, for those whom a second line distracts.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;À 100, la ligne guide est invisible, pour qui une seconde ligne distrait.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Pointeur</translation>
     </message>
     <message>
         <source>Poi&amp;nter</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;ointeur</translation>
     </message>
     <message>
         <source>What moves along the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui avance le long de la ligne.</translation>
     </message>
     <message>
         <source>Previous pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Pointeur précédent</translation>
     </message>
     <message>
         <source>Chooses the pointer before this one. Before the first comes the last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisit le pointeur d’avant. Avant le premier vient le dernier.</translation>
     </message>
     <message>
         <source>Next pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Pointeur suivant</translation>
     </message>
     <message>
         <source>Chooses the pointer after this one. After the last comes the first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisit le pointeur d’après. Après le dernier vient le premier.</translation>
     </message>
     <message>
         <source>All pointers</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les pointeurs</translation>
     </message>
     <message>
         <source>Choose a large one, or one whose colour you find quickly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez-en un grand, ou d’une couleur que vous trouvez vite.</translation>
     </message>
     <message>
         <source>The palette’s buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Les boutons de la palette</translation>
     </message>
     <message>
         <source>Corners</source>
-        <translation type="unfinished"></translation>
+        <translation>Coins</translation>
     </message>
     <message>
         <source>Corners of the palette’s buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Coins des boutons de la palette</translation>
     </message>
     <message>
         <source>The shape of each button of the palette.</source>
-        <translation type="unfinished"></translation>
+        <translation>La forme de chaque bouton de la palette.</translation>
     </message>
     <message>
         <source>Square</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrés</translation>
     </message>
     <message>
         <source>Rounded</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrondis</translation>
     </message>
     <message>
         <source>Show the icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer l’icône</translation>
     </message>
     <message>
         <source>Each button of the palette shows the picture of its action.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque bouton de la palette montre l’image de son action.</translation>
     </message>
     <message>
         <source>Show the name</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer le nom</translation>
     </message>
     <message>
         <source>Each button of the palette shows the name of its action.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque bouton de la palette montre le nom de son action.</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>plus petit</translation>
     </message>
     <message>
         <source>larger</source>
-        <translation type="unfinished"></translation>
+        <translation>plus grand</translation>
     </message>
     <message>
         <source>Palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Boutons de la palette</translation>
     </message>
     <message>
         <source>Larger buttons are easier to see and to hit. 20 to 100 points each way.</source>
-        <translation type="unfinished"></translation>
+        <translation>De plus grands boutons se voient et s’atteignent mieux. De 20 à 100 points par côté.</translation>
     </message>
     <message>
         <source>Width alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur seule</translation>
     </message>
     <message>
         <source>narrower</source>
-        <translation type="unfinished"></translation>
+        <translation>plus étroit</translation>
     </message>
     <message>
         <source>wider</source>
-        <translation type="unfinished"></translation>
+        <translation>plus large</translation>
     </message>
     <message>
         <source>Palette buttons’ width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur des boutons de la palette</translation>
     </message>
     <message>
         <source>Wider buttons have room for longer names.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des boutons plus larges ont de la place pour des noms plus longs.</translation>
     </message>
     <message>
         <source>Height alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur seule</translation>
     </message>
     <message>
         <source>lower</source>
-        <translation type="unfinished"></translation>
+        <translation>plus bas</translation>
     </message>
     <message>
         <source>higher</source>
-        <translation type="unfinished"></translation>
+        <translation>plus haut</translation>
     </message>
     <message>
         <source>Palette buttons’ height</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur des boutons de la palette</translation>
     </message>
     <message>
         <source>Higher buttons have room for a larger icon above the name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des boutons plus hauts ont de la place pour une plus grande icône au-dessus du nom.</translation>
     </message>
     <message>
         <source>Around the edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Autour du bord</translation>
     </message>
     <message>
         <source>Space around the edge of the palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace autour du bord de la palette</translation>
     </message>
     <message>
         <source>Between the buttons and the edge of the palette.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre les boutons et le bord de la palette.</translation>
     </message>
     <message>
         <source>Between the buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre les boutons</translation>
     </message>
     <message>
         <source>Space between palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace entre les boutons de la palette</translation>
     </message>
     <message>
         <source>More space makes it harder to hit the wrong button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec plus d’espace, on atteint moins souvent le mauvais bouton.</translation>
     </message>
     <message>
         <source>&amp;Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Pal&amp;ette</translation>
     </message>
     <message>
         <source>Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette</translation>
     </message>
     <message>
         <source>Buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Boutons</translation>
     </message>
     <message>
         <source>The nine places of the palette. The arrow keys move between them, Space chooses one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les neuf places de la palette. Les flèches passent de l’une à l’autre, Espace en choisit une.</translation>
     </message>
     <message>
         <source>Add a button</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un bouton</translation>
     </message>
     <message>
         <source>Puts a new button before the chosen one or, with none chosen, after the last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Met un nouveau bouton avant celui qui est choisi ou, si aucun ne l’est, après le dernier.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Puts a new button before the chosen one or, with none chosen, after the last.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Met un nouveau bouton avant celui qui est choisi ou, si aucun ne l’est, après le dernier.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>A&amp;dd</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;jouter</translation>
     </message>
     <message>
         <source>Change the chosen button</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer le bouton choisi</translation>
     </message>
     <message>
         <source>Gives the chosen button another action.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne une autre action au bouton choisi.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Gives the chosen button another action.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Donne une autre action au bouton choisi.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Cha&amp;nge</source>
-        <translation type="unfinished"></translation>
+        <translation>Cha&amp;nger</translation>
     </message>
     <message>
         <source>Remove the chosen button</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlever le bouton choisi</translation>
     </message>
     <message>
         <source>Takes the chosen button away; those after it move up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlève le bouton choisi&#xa0;; ceux qui suivent avancent.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Takes the chosen button away; those after it move up.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Enlève le bouton choisi&#xa0;; ceux qui suivent avancent.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>Enle&amp;ver</translation>
     </message>
     <message>
         <source>Swap the chosen button</source>
-        <translation type="unfinished"></translation>
+        <translation>Échanger le bouton choisi</translation>
     </message>
     <message>
         <source>Then choose the button that it is to change places with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez ensuite le bouton avec lequel il change de place.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Then choose the button that it is to change places with.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Choisissez ensuite le bouton avec lequel il change de place.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>S&amp;wap…</source>
-        <translation type="unfinished"></translation>
+        <translation>Éc&amp;hanger…</translation>
     </message>
     <message>
         <source>Reset all buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser tous les boutons</translation>
     </message>
     <message>
         <source>Puts the five buttons back that Korvex came with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remet les cinq boutons fournis avec Korvex.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Puts the five buttons back that Korvex came with.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Remet les cinq boutons fournis avec Korvex.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>R&amp;eset all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout &amp;réinitialiser</translation>
     </message>
     <message>
         <source>A new button goes before the chosen one. With none chosen it goes after the last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nouveau bouton se place avant celui qui est choisi. Si aucun ne l’est, il va après le dernier.</translation>
     </message>
     <message>
         <source>&amp;General</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Général</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Son</translation>
     </message>
     <message>
         <source>A sound for each click</source>
-        <translation type="unfinished"></translation>
+        <translation>Un son à chaque clic</translation>
     </message>
     <message>
         <source>Tells you that Korvex has clicked, even when you look elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous dit que Korvex a cliqué, même quand vous regardez ailleurs.</translation>
     </message>
     <message>
         <source>Prompts while dragging</source>
-        <translation type="unfinished"></translation>
+        <translation>Annonces pendant le glissement</translation>
     </message>
     <message>
         <source>Tells you when something was picked up and let go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous dit quand quelque chose a été pris et lâché.</translation>
     </message>
     <message>
         <source>&amp;Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volume</translation>
     </message>
     <message>
         <source>quieter</source>
-        <translation type="unfinished"></translation>
+        <translation>moins fort</translation>
     </message>
     <message>
         <source>louder</source>
-        <translation type="unfinished"></translation>
+        <translation>plus fort</translation>
     </message>
     <message>
         <source>How loud these sounds are, from 0, silent, to 100.</source>
-        <translation type="unfinished"></translation>
+        <translation>La force de ces sons, de 0, muet, à 100.</translation>
     </message>
     <message>
         <source>&lt;p&gt;At 50 there is room to go louder in a noisy place and quieter at night.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;À 50, il reste de la marge&#xa0;: plus fort dans un lieu bruyant, moins fort la nuit.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Starting Korvex</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancement de Korvex</translation>
     </message>
     <message>
         <source>Start Korvex when you log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer Korvex à l’ouverture de session</translation>
     </message>
     <message>
         <source>Your switch works from the first moment, and nobody has to start Korvex for you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre contacteur sert dès le premier instant, et personne ne doit lancer Korvex pour vous.</translation>
     </message>
     <message>
         <source>Turn scanning on when Korvex starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Activer le balayage au lancement de Korvex</translation>
     </message>
     <message>
         <source>Otherwise Korvex waits until you turn scanning on, here or with its key.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon, Korvex attend que vous activiez le balayage, ici ou avec sa touche.</translation>
     </message>
 </context>
 <context>
     <name>Pointer</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
 </context>
 <context>
     <name>Preview</name>
     <message>
         <source>Scan Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne de balayage</translation>
     </message>
     <message>
         <source>Guide Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne guide</translation>
     </message>
     <message>
         <source>Preview of the scan line</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu de la ligne de balayage</translation>
     </message>
     <message>
         <source>Preview of the guide line</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu de la ligne guide</translation>
     </message>
     <message>
         <source>%d points thick, %.0f%% transparent, red %u, green %u, blue %u, each of 255.</source>
-        <translation type="unfinished"></translation>
+        <translation>%d points d’épaisseur, %.0f %% transparente, rouge %u, vert %u, bleu %u, chacun sur 255.</translation>
     </message>
 </context>
 <context>
     <name>Recovery</name>
     <message>
         <source>Your last visit here ended before it could save. Its changes are here again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre dernière visite ici a pris fin avant l’enregistrement. Ses changements sont de retour.</translation>
     </message>
 </context>
 <context>
     <name>ScanArea</name>
     <message>
         <source>Your current custom scan rectangle (if any) is shown in light blue.<byte value="xd"/>Click and drag across the desktop select a new area then<byte value="xd"/>press RETURN to accept it or ESC to cancel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre rectangle de balayage actuel (s’il y en a un) est montré en bleu clair.</translation>
     </message>
     <message>
         <source>Another program holds the keyboard. Close its menus, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme tient le clavier. Fermez ses menus, puis réessayez.</translation>
     </message>
     <message>
         <source>This desktop lets no window cover the screens. Log in to a session with X11 (Xorg) to draw an area.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce bureau ne laisse aucune fenêtre couvrir les écrans. Ouvrez une session X11 (Xorg) pour dessiner une zone.</translation>
     </message>
     <message>
         <source>Whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Écran entier</translation>
     </message>
     <message>
         <source>Left half</source>
-        <translation type="unfinished"></translation>
+        <translation>Moitié gauche</translation>
     </message>
     <message>
         <source>Right half</source>
-        <translation type="unfinished"></translation>
+        <translation>Moitié droite</translation>
     </message>
     <message>
         <source>Top half</source>
-        <translation type="unfinished"></translation>
+        <translation>Moitié haute</translation>
     </message>
     <message>
         <source>Bottom half</source>
-        <translation type="unfinished"></translation>
+        <translation>Moitié basse</translation>
     </message>
     <message>
         <source>Left third</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiers gauche</translation>
     </message>
     <message>
         <source>Middle third</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiers du milieu</translation>
     </message>
     <message>
         <source>Right third</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiers droit</translation>
     </message>
     <message>
         <source>Top left quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>Quart en haut à gauche</translation>
     </message>
     <message>
         <source>Top right quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>Quart en haut à droite</translation>
     </message>
     <message>
         <source>Bottom left quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>Quart en bas à gauche</translation>
     </message>
     <message>
         <source>Bottom right quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>Quart en bas à droite</translation>
     </message>
     <message>
         <source>%1, display %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, écran %2</translation>
     </message>
 </context>
 <context>
     <name>SectionFrame</name>
     <message>
         <source>Section: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Section&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1735,210 +1749,210 @@ Shows the settings pane of the bundle, of Korvex&apos;s own without one.
     <message>
         <source>none</source>
         <comment>an area</comment>
-        <translation type="unfinished"></translation>
+        <translation>aucune</translation>
     </message>
     <message>
         <source>%g × %g at %g, %g</source>
         <comment>width, height, x, y</comment>
-        <translation type="unfinished"></translation>
+        <translation>%g × %g à %g, %g</translation>
     </message>
     <message>
         <source>Scanning</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayage</translation>
     </message>
     <message>
         <source>A sound for each click</source>
-        <translation type="unfinished"></translation>
+        <translation>Un son à chaque clic</translation>
     </message>
     <message>
         <source>Prompts while dragging</source>
-        <translation type="unfinished"></translation>
+        <translation>Annonces pendant le glissement</translation>
     </message>
     <message>
         <source>Priority over other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Priorité sur les autres programmes</translation>
     </message>
     <message>
         <source>Start at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer à l’ouverture de session</translation>
     </message>
     <message>
         <source>Scan from the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayer dès le lancement</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume</translation>
     </message>
     <message>
         <source>Scan the menu bar too</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayer aussi la barre des menus</translation>
     </message>
     <message>
         <source>Shortest press that counts</source>
-        <translation type="unfinished"></translation>
+        <translation>Appui le plus court qui compte</translation>
     </message>
     <message>
         <source>Ignore presses after a click for</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer les appuis après un clic pendant</translation>
     </message>
     <message>
         <source>Wait before the scan starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Attendre avant le départ du balayage</translation>
     </message>
     <message>
         <source>Wait after letting go</source>
-        <translation type="unfinished"></translation>
+        <translation>Attendre après le relâchement</translation>
     </message>
     <message>
         <source>Stop without a press for</source>
-        <translation type="unfinished"></translation>
+        <translation>S’arrêter sans appui au bout de</translation>
     </message>
     <message>
         <source>Listen to hot keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Écouter les raccourcis clavier</translation>
     </message>
     <message>
         <source>Listen to mouse clicks</source>
-        <translation type="unfinished"></translation>
+        <translation>Écouter les clics de souris</translation>
     </message>
     <message>
         <source>A press counts</source>
-        <translation type="unfinished"></translation>
+        <translation>Un appui compte</translation>
     </message>
     <message>
         <source>Second mouse button as a second switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Second bouton de souris comme second contacteur</translation>
     </message>
     <message>
         <source>Scan mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode de balayage</translation>
     </message>
     <message>
         <source>My own area</source>
-        <translation type="unfinished"></translation>
+        <translation>Ma zone</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayer</translation>
     </message>
     <message>
         <source>Line scan ends keyboard mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Le balayage de la ligne quitte le mode clavier</translation>
     </message>
     <message>
         <source>Line scan time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée de balayage de la ligne</translation>
     </message>
     <message>
         <source>Pointer scan time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée de balayage du pointeur</translation>
     </message>
     <message>
         <source>Speed in menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse dans les menus</translation>
     </message>
     <message>
         <source>Start slowly, then speed up</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer lentement, puis accélérer</translation>
     </message>
     <message>
         <source>Time between repeats</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps entre les répétitions</translation>
     </message>
     <message>
         <source>Length of a click</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée d’un clic</translation>
     </message>
     <message>
         <source>Pause between clicks</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause entre les clics</translation>
     </message>
     <message>
         <source>Line colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de la ligne</translation>
     </message>
     <message>
         <source>Line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Épaisseur de la ligne</translation>
     </message>
     <message>
         <source>Scan line transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparence de la ligne de balayage</translation>
     </message>
     <message>
         <source>Guide line transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparence de la ligne guide</translation>
     </message>
     <message>
         <source>Pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Pointeur</translation>
     </message>
     <message>
         <source>Hot keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcis clavier</translation>
     </message>
     <message>
         <source>Space around the edge of the palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace autour du bord de la palette</translation>
     </message>
     <message>
         <source>Space between palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace entre les boutons de la palette</translation>
     </message>
     <message>
         <source>Size of palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille des boutons de la palette</translation>
     </message>
     <message>
         <source>Corners of palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Coins des boutons de la palette</translation>
     </message>
     <message>
         <source>Shown on palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Montré sur les boutons de la palette</translation>
     </message>
     <message>
         <source>Palette buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Boutons de la palette</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>rien</translation>
     </message>
     <message>
         <source>icon</source>
-        <translation type="unfinished"></translation>
+        <translation>icône</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>nom</translation>
     </message>
     <message>
         <source>icon and name</source>
-        <translation type="unfinished"></translation>
+        <translation>icône et nom</translation>
     </message>
     <message>
         <source>1 button</source>
-        <translation type="unfinished"></translation>
+        <translation>1 bouton</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>oui</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>non</translation>
     </message>
     <message>
         <source>%d × %d points</source>
-        <translation type="unfinished"></translation>
+        <translation>%d × %d points</translation>
     </message>
     <message numerus="yes">
         <source>%n buttons</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n bouton</numerusform>
+            <numerusform>%n boutons</numerusform>
         </translation>
     </message>
 </context>
@@ -1946,30 +1960,30 @@ Shows the settings pane of the bundle, of Korvex&apos;s own without one.
     <name>Strip</name>
     <message>
         <source>Hide this</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer ceci</translation>
     </message>
 </context>
 <context>
     <name>Switch</name>
     <message>
         <source>Scanning is off. %1 switches it on again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le balayage est arrêté. %1 l’active de nouveau.</translation>
     </message>
     <message>
         <source>Scanning is off, and no hot key switches it on again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le balayage est arrêté, et aucun raccourci ne l’active de nouveau.</translation>
     </message>
     <message>
         <source>Switch on</source>
-        <translation type="unfinished"></translation>
+        <translation>Activer</translation>
     </message>
     <message>
         <source>Ready for your switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt pour votre contacteur</translation>
     </message>
     <message>
         <source>Your switch does nothing now</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre contacteur est sans effet</translation>
     </message>
     <message>
         <source>Korvex is starting…</source>
@@ -1984,449 +1998,449 @@ Shows the settings pane of the bundle, of Korvex&apos;s own without one.
     <name>Troubles</name>
     <message>
         <source>%1 is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est endommagé</translation>
     </message>
     <message>
         <source>no permission for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pas d’autorisation pour %1</translation>
     </message>
     <message>
         <source>%1 can only be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut qu’être lu</translation>
     </message>
     <message>
         <source>the disk is full</source>
-        <translation type="unfinished"></translation>
+        <translation>le disque est plein</translation>
     </message>
     <message>
         <source>another program is using the file</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre programme utilise le fichier</translation>
     </message>
     <message>
         <source>%1 is something else than expected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est autre chose que prévu</translation>
     </message>
     <message>
         <source>%1 would become too large</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 deviendrait trop grand</translation>
     </message>
     <message>
         <source>Your settings file was damaged and is kept as %1. The usual settings are shown instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre fichier de réglages était endommagé et est gardé sous %1. Les réglages habituels sont montrés à sa place.</translation>
     </message>
     <message>
         <source>Your settings file %1 is damaged. The usual settings are shown instead; the file will be kept beside the new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre fichier de réglages %1 est endommagé. Les réglages habituels sont montrés à sa place&#xa0;; le fichier sera gardé à côté du nouveau.</translation>
     </message>
     <message>
         <source>Your settings can’t be read: %1. The usual settings are shown instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos réglages ne peuvent pas être lus&#xa0;: %1. Les réglages habituels sont montrés à leur place.</translation>
     </message>
     <message>
         <source>What you change here can’t be saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que vous changez ici ne peut pas être enregistré&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Save a copy of the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer une copie des réglages</translation>
     </message>
     <message>
         <source>Your settings aren’t saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos réglages ne sont pas enregistrés&#xa0;: %1.</translation>
     </message>
     <message>
         <source>A copy of your settings is now in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une copie de vos réglages est maintenant dans %1.</translation>
     </message>
     <message>
         <source>The copy couldn’t be saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copie n’a pas pu être enregistrée&#xa0;: %1.</translation>
     </message>
     <message>
         <source>%1 didn’t start, so nothing is scanned now.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas démarré&#xa0;; rien n’est balayé pour l’instant.</translation>
     </message>
     <message>
         <source>%1 has ended by itself several times, so nothing is scanned now.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s’est arrêté seul plusieurs fois&#xa0;; rien n’est balayé pour l’instant.</translation>
     </message>
     <message>
         <source>Start %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer %1</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Réessayer</translation>
     </message>
     <message>
         <source>Close anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer quand même</translation>
     </message>
     <message>
         <source>Your settings couldn’t be saved: %1. This window stays open, so that nothing is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos réglages n’ont pas pu être enregistrés&#xa0;: %1. Cette fenêtre reste ouverte, pour que rien ne se perde.</translation>
     </message>
     <message>
         <source>Save a copy…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer une copie…</translation>
     </message>
 </context>
 <context>
     <name>Try</name>
     <message>
         <source>Spread of your presses</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersion de vos appuis</translation>
     </message>
     <message>
         <source>Try it at %.1f</source>
-        <translation type="unfinished"></translation>
+        <translation>Essayer à %.1f</translation>
     </message>
     <message>
         <source>Keep %.1f</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder %.1f</translation>
     </message>
     <message>
         <source>This try couldn’t be stored. </source>
-        <translation type="unfinished"></translation>
+        <translation>Cet essai n’a pas pu être enregistré. </translation>
     </message>
     <message>
         <source>Your tries stay on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos essais restent sur cet ordinateur.</translation>
     </message>
     <message>
         <source>In the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans la fenêtre</translation>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Plein écran</translation>
     </message>
     <message>
         <source>The copy couldn’t be written. </source>
-        <translation type="unfinished"></translation>
+        <translation>La copie n’a pas pu être écrite. </translation>
     </message>
     <message>
         <source>Saved as %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré sous %1. </translation>
     </message>
     <message>
         <source>All tries are deleted. </source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les essais sont supprimés. </translation>
     </message>
     <message>
         <source>The tries couldn’t be deleted. </source>
-        <translation type="unfinished"></translation>
+        <translation>Les essais n’ont pas pu être supprimés. </translation>
     </message>
     <message>
         <source>Early</source>
-        <translation type="unfinished"></translation>
+        <translation>Tôt</translation>
     </message>
     <message>
         <source>Late</source>
-        <translation type="unfinished"></translation>
+        <translation>Tard</translation>
     </message>
     <message>
         <source>The mark is %.1f mm from the top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le repère est à %.1f mm du haut.</translation>
     </message>
     <message>
         <source>Press early, and let go when the line is on the mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez tôt, et relâchez quand la ligne est sur le repère.</translation>
     </message>
     <message>
         <source>Hold your switch down to start the line, and let go when it is on the mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenez votre contacteur pour lancer la ligne, et relâchez quand elle est sur le repère.</translation>
     </message>
     <message>
         <source>Press when the line is on the mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez quand la ligne est sur le repère.</translation>
     </message>
     <message>
         <source>A line will sweep from top to bottom. %s The first two sweeps are for getting used to it. Press any key or button when you are ready.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une ligne va balayer de haut en bas. %s Les deux premiers passages servent à s’y habituer. Appuyez sur une touche ou un bouton quand vous voulez.</translation>
     </message>
     <message>
         <source>Ready. Hold for free sweep %d of %d, when you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt. Maintenez pour le passage libre %d sur %d, quand vous voulez.</translation>
     </message>
     <message>
         <source>Ready. Press for free sweep %d of %d, when you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt. Appuyez pour le passage libre %d sur %d, quand vous voulez.</translation>
     </message>
     <message>
         <source>Ready. Hold for sweep %d of %d, when you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt. Maintenez pour le passage %d sur %d, quand vous voulez.</translation>
     </message>
     <message>
         <source>Ready. Press for sweep %d of %d, when you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt. Appuyez pour le passage %d sur %d, quand vous voulez.</translation>
     </message>
     <message>
         <source>The line passed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ligne est passée.</translation>
     </message>
     <message>
         <source>On the mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur le repère.</translation>
     </message>
     <message>
         <source>%.0f mm before the mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>%.0f mm avant le repère.</translation>
     </message>
     <message>
         <source>%.0f mm past the mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>%.0f mm après le repère.</translation>
     </message>
     <message>
         <source>You stopped within %.0f mm of the mark %d times in %zu. </source>
-        <translation type="unfinished"></translation>
+        <translation>Vous vous êtes arrêté à moins de %.0f mm du repère %d fois sur %zu. </translation>
     </message>
     <message>
         <source>Your presses all came at the same moment, as far as this computer can tell. </source>
-        <translation type="unfinished"></translation>
+        <translation>Vos appuis sont tous tombés au même moment, pour autant que cet ordinateur le sache. </translation>
     </message>
     <message>
         <source>%.1f seconds suits you: we expect at least %d in 10.</source>
-        <translation type="unfinished"></translation>
+        <translation>%.1f secondes vous conviennent&#xa0;: nous attendons au moins %d sur 10.</translation>
     </message>
     <message>
         <source>%.1f seconds suits you: we expect %d in 10, and at least %d.</source>
-        <translation type="unfinished"></translation>
+        <translation>%.1f secondes vous conviennent&#xa0;: nous attendons %d sur 10, et au moins %d.</translation>
     </message>
     <message>
         <source>At %.1f seconds we expect at least %d in 10.</source>
-        <translation type="unfinished"></translation>
+        <translation>À %.1f secondes, nous attendons au moins %d sur 10.</translation>
     </message>
     <message>
         <source>At %.1f seconds we expect %d in 10, and at least %d.</source>
-        <translation type="unfinished"></translation>
+        <translation>À %.1f secondes, nous attendons %d sur 10, et au moins %d.</translation>
     </message>
     <message>
         <source>A slower line is likely to suit you better. Try it at %.1f seconds, and we can tell.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une ligne plus lente vous conviendra sans doute mieux. Essayez à %.1f secondes, et nous le saurons.</translation>
     </message>
     <message>
         <source>A quicker line is likely to suit you better. Try it at %.1f seconds, and we can tell.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une ligne plus rapide vous conviendra sans doute mieux. Essayez à %.1f secondes, et nous le saurons.</translation>
     </message>
     <message>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f mm wide would make it so, or a scan area only %.0f mm across.</source>
-        <translation type="unfinished"></translation>
+        <translation>Même à %.0f secondes, le plus lent, nous n’attendons pas 3 sur 4. Des cibles larges de %.0f mm le permettraient, ou une zone de balayage de %.0f mm seulement.</translation>
     </message>
     <message>
         <source>You pressed in %d of %zu sweeps. From %d on we can suggest a speed. Try once more when you like; a slower line gives you more time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous avez appuyé dans %d passages sur %zu. À partir de %d, nous pouvons proposer une vitesse. Essayez encore quand vous voulez&#xa0;; une ligne plus lente laisse plus de temps.</translation>
     </message>
     <message>
         <source>%zu of %zu presses came when nothing asked for them. Before the speed, make the presses steadier.</source>
-        <translation type="unfinished"></translation>
+        <translation>%zu appuis sur %zu sont venus sans que rien ne les demande. Avant la vitesse, rendez les appuis plus sûrs.</translation>
     </message>
     <message>
         <source>Ready for the next press after %.1f seconds. </source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt pour l’appui suivant après %.1f secondes. </translation>
     </message>
     <message>
         <source>Ignoring presses for %.1f seconds after a click would catch most of those that nothing asked for. </source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer les appuis pendant %.1f secondes après un clic arrêterait la plupart de ceux que rien ne demandait. </translation>
     </message>
     <message>
         <source>A shortest press of %.1f seconds would, too. </source>
-        <translation type="unfinished"></translation>
+        <translation>Un appui minimal de %.1f secondes aussi. </translation>
     </message>
     <message>
         <source>They last as long as your other presses, so no shortest press tells them apart. </source>
-        <translation type="unfinished"></translation>
+        <translation>Ils durent autant que vos autres appuis&#xa0;; aucune durée minimale ne les distingue. </translation>
     </message>
     <message>
         <source>Lateness %.0f ms, spread %.0f ms (%.0f ms at most), from %d presses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retard %.0f ms, dispersion %.0f ms (%.0f ms au plus), sur %d appuis.</translation>
     </message>
     <message>
         <source> %d in 10 takes %.1f seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation> %d sur 10 demande %.1f secondes.</translation>
     </message>
     <message>
         <source>No press arrived. Look whether your switch is connected and counts as a trigger, then try once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun appui n’est arrivé. Vérifiez que votre contacteur est branché et qu’il compte, puis réessayez.</translation>
     </message>
     <message>
         <source>The presses came at other moments than the marks, so we can’t suggest a speed. Wait for the line to reach the mark, then press.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les appuis sont venus à d’autres moments que les repères&#xa0;; nous ne pouvons pas proposer de vitesse. Attendez que la ligne atteigne le repère, puis appuyez.</translation>
     </message>
     <message>
         <source>The presses became less even from sweep to sweep. Have a rest, then try once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les appuis sont devenus moins réguliers de passage en passage. Reposez-vous, puis réessayez.</translation>
     </message>
     <message>
         <source>Wait for the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Attendez la ligne.</translation>
     </message>
     <message>
         <source>Go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Allez.</translation>
     </message>
     <message>
         <source>%s: %.1f seconds, %.0f hits and %.0f misses, lateness %.0f ms, spread %.0f ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%s&#xa0;: %.1f secondes, %.0f réussis et %.0f manqués, retard %.0f ms, dispersion %.0f ms</translation>
     </message>
     <message>
         <source>%s   %.1f s   %.0f of %.0f   spread %.0f ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%s   %.1f s   %.0f sur %.0f   dispersion %.0f ms</translation>
     </message>
 </context>
 <context>
     <name>Units</name>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>secondes</translation>
     </message>
     <message>
         <source>percent</source>
-        <translation type="unfinished"></translation>
+        <translation>pour cent</translation>
     </message>
     <message>
         <source>points</source>
-        <translation type="unfinished"></translation>
+        <translation>points</translation>
     </message>
     <message>
         <source>milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>millisecondes</translation>
     </message>
     <message>
         <source>%1 to %2 %3</source>
         <comment>as in 1 to 60 seconds</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2 %3</translation>
     </message>
     <message>
         <source>%1 to %2</source>
         <comment>as in 0 to 100</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2</translation>
     </message>
 </context>
 <context>
     <name>axreq</name>
     <message>
         <source>Korvex</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex</translation>
     </message>
     <message>
         <source>Assistive access is switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>L’accès d’assistance est désactivé</translation>
     </message>
     <message>
         <source>Korvex needs it to find the windows, menus and buttons on your screen. While it is off, Korvex can’t scan. “Open settings” shows you where to switch it on. This notice closes by itself after half a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex en a besoin pour trouver les fenêtres, les menus et les boutons de votre écran. Sans lui, Korvex ne peut pas balayer. «&#xa0;Ouvrir les réglages&#xa0;» vous montre où l’activer. Cet avis se ferme seul après une demi-minute.</translation>
     </message>
     <message>
         <source>Don’t show this again</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne plus montrer</translation>
     </message>
     <message>
         <source>Takes effect when you choose “Not now”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prend effet quand vous choisissez «&#xa0;Pas maintenant&#xa0;».</translation>
     </message>
     <message>
         <source>&amp;Don’t show this again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ne plus montrer</translation>
     </message>
     <message>
         <source>Open settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les réglages</translation>
     </message>
     <message>
         <source>Shows where assistive access is switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre où l’accès d’assistance s’active.</translation>
     </message>
     <message>
         <source>Open sett&amp;ings</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;uvrir les réglages</translation>
     </message>
     <message>
         <source>Not now</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas maintenant</translation>
     </message>
     <message>
         <source>Closes this notice until tomorrow. The Escape key does the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferme cet avis jusqu’à demain. La touche Échap fait de même.</translation>
     </message>
     <message>
         <source>&amp;Not now</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pas maintenant</translation>
     </message>
 </context>
 <context>
     <name>tryout</name>
     <message>
         <source>Find my speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouver ma vitesse</translation>
     </message>
     <message>
         <source>Gives the line the whole screen, as in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne tout l’écran à la ligne, comme à l’usage.</translation>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Plein écran</translation>
     </message>
     <message>
         <source>Goes back to the settings. Nothing changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Revient aux réglages. Rien ne change.</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Échap</translation>
     </message>
     <message>
         <source>Press any key or button, or use this button’s press action. Escape leaves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez sur une touche ou un bouton, ou utilisez l’action d’appui de ce bouton. Échap quitte.</translation>
     </message>
     <message>
         <source>Sets the line scan time and lets you try it. You can go back at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Règle la durée de balayage de la ligne et vous laisse l’essayer. Vous pouvez revenir à tout moment.</translation>
     </message>
     <message>
         <source>Try it</source>
-        <translation type="unfinished"></translation>
+        <translation>Essayer</translation>
     </message>
     <message>
         <source>Keep it</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder</translation>
     </message>
     <message>
         <source>Starts another try with the same settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lance un autre essai avec les mêmes réglages.</translation>
     </message>
     <message>
         <source>Once more</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore une fois</translation>
     </message>
     <message>
         <source>Your tries</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos essais</translation>
     </message>
     <message>
         <source>One line a try, the last one at the end. The arrow keys go through them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une ligne par essai, le dernier à la fin. Les flèches les parcourent.</translation>
     </message>
     <message>
         <source>Writes a copy of all tries to your documents.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit une copie de tous les essais dans vos documents.</translation>
     </message>
     <message>
         <source>Save as CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en CSV</translation>
     </message>
     <message>
         <source>Deletes what this page has kept of your tries.</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprime ce que cette page a gardé de vos essais.</translation>
     </message>
     <message>
         <source>Delete all tries</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer tous les essais</translation>
     </message>
 </context>
 </TS>
