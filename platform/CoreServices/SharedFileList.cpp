@@ -77,24 +77,43 @@ bool listEntryFiles(const std::vector<std::string>& folders, std::vector<EntryFi
 }
 
 /// Whether an entry for the application may be written there: nothing is there, or what starts that
-/// very application, or what used to start one of its name and starts nothing any more.
+/// very application, or what used to start one of its name and starts nothing any more. What the
+/// user has switched off, or has for other desktops, stays.
 bool isFree(const std::string& path, const std::string& application) {
     if (!isAnythingAt(path))
         return true;
     const auto entry = readAutostartEntry(path);
-    return entry && (entry->application == application ||
-                     (!entry->isLive && isSameLoginApplication(entry->application, application)));
+    return entry && !entry->isSwitchedOff && entry->onlyElsewhere.empty() &&
+           (entry->application == application ||
+            (!entry->isLive && isSameLoginApplication(entry->application, application)));
 }
 
-/// The path in the folder that the application's entry has unless another's is there.
-std::string ownPath(const std::string& folder, const std::string& identifier) {
-    return folder + '/' + identifier + ".desktop";
+/// The application's entries among the files that the user has switched off.
+std::vector<std::string> switchedOffPaths(const std::vector<EntryFile>& files,
+                                          const std::string& application) {
+    std::vector<std::string> paths;
+    for (const EntryFile& file : files)
+        if (const auto entry = readAutostartEntry(file.path);
+            entry && entry->isSwitchedOff &&
+            isSameLoginApplication(entry->application, application))
+            paths.push_back(file.path);
+    return paths;
 }
 
-/// Whether the user has switched off the application's entry at that path.
-bool isSwitchedOff(const std::string& path, const std::string& application) {
-    const auto entry = readAutostartEntry(path);
-    return entry && entry->isSwitchedOff && isSameLoginApplication(entry->application, application);
+/// The desktops, each with a semicolon after it, on which entries among the files start the
+/// application, but not on that which is running.
+std::string otherDesktops(const std::vector<EntryFile>& files, const std::string& application) {
+    std::string desktops;
+    for (const EntryFile& file : files) {
+        const auto entry = readAutostartEntry(file.path);
+        if (!entry || entry->isSwitchedOff || entry->onlyElsewhere.empty() ||
+            !isSameLoginApplication(entry->application, application))
+            continue;
+        desktops += entry->onlyElsewhere;
+        if (!desktops.ends_with(';'))
+            desktops += ';';
+    }
+    return desktops;
 }
 
 /// A path in the folder for the application's entry; empty when all are taken.
@@ -209,15 +228,14 @@ CFRef<LSSharedFileListItem> LSSharedFileListInsertItemURL(LSSharedFileList* list
 
     const std::string folder = list->folder();
     std::vector<EntryFile> others;
-    if (!list->isGlobal() && isSwitchedOff(ownPath(folder, identifier), bundle->path()))
-        return nullptr;
     if (makeFolders(folder, list->isGlobal() ? 0755 : 0700) != 0 ||
         !listEntryFiles({folder}, others))
         return nullptr;
     const std::string name = bundleText(bundle.get(), "CFBundleName");
     const std::string path = freePath(folder, identifier, bundle->path());
     const std::string text =
-        autostartEntryText(name.empty() ? identifier : name, executable->path());
+        autostartEntryText(name.empty() ? identifier : name, executable->path(),
+                           otherDesktops(others, bundle->path()));
     if (path.empty() || !replaceFile(*list, path, text))
         return nullptr;
     makeLast(path, others);
@@ -228,6 +246,12 @@ bool isSameLoginApplication(const std::string& path, const std::string& other) {
     return fileName(path) == fileName(other) ||
            CFStringCompare(CFStringCreateWithUTF8(path).get(), CFStringCreateWithUTF8(other).get(),
                            kCFCompareCaseInsensitive) == kCFCompareEqualTo;
+}
+
+bool isLoginItemSwitchedOff(const CFURL* application) {
+    std::vector<EntryFile> files;
+    return listEntryFiles({LSSharedFileList(false).folder()}, files) &&
+           !switchedOffPaths(files, application->path()).empty();
 }
 
 bool hideGlobalLoginItems(const CFURL* application) {
@@ -246,9 +270,18 @@ bool hideGlobalLoginItems(const CFURL* application) {
 }
 
 void forgetSwitchedOffLoginItem(const CFURL* application) {
-    const CFRef<CFBundle> bundle = CFBundleCreate(application);
-    const std::string path = ownPath(LSSharedFileList(false).folder(),
-                                     bundle ? bundleText(bundle.get(), "CFBundleIdentifier") : "");
-    if (bundle && isSwitchedOff(path, bundle->path()))
-        unlink(path.c_str());
+    const LSSharedFileList own(false);
+    std::vector<EntryFile> files;
+    if (!listEntryFiles({own.folder()}, files))
+        return;
+    bool isOn = false; // one is enough
+    for (const std::string& path : switchedOffPaths(files, application->path())) {
+        if (isOn || readAutostartEntry(path)->application != application->path() ||
+            !replaceFile(own, resolveLinks(path), switchedOnEntryText(path))) {
+            unlink(path.c_str());
+            continue;
+        }
+        isOn = true;
+        makeLast(path, files);
+    }
 }

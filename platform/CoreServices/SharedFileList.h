@@ -84,9 +84,10 @@ OSStatus LSSharedFileListItemRemove(LSSharedFileList* list, const LSSharedFileLi
 
 /// Writes an entry that starts the application, as the last item: `after` is
 /// kLSSharedFileListItemLast, the others are null. Its file is named for the bundle's identifier,
-/// with a number where another program has that name already. Null when the URL names no bundle
-/// with an executable, or the folder can't be made or written; and when the user has switched that
-/// entry off, which is kept as it is (forgetSwitchedOffLoginItem).
+/// with a number where another program, or an entry that the user has switched off, has that name
+/// already. On desktops for which alone another entry starts the application, this one isn't
+/// heeded. Null when the URL names no bundle with an executable, or the folder can't be made or
+/// written.
 CFRef<LSSharedFileListItem> LSSharedFileListInsertItemURL(LSSharedFileList* list,
                                                           const LSSharedFileListItem* after,
                                                           const CFString* displayName,
@@ -102,6 +103,9 @@ bool isSameLoginApplication(const std::string& path, const std::string& other);
 /// same file name in this user's folder takes the place of each. False when one can't be written.
 bool hideGlobalLoginItems(const CFURL* application);
 
-/// Deletes this user's entry of the application if the user has switched it off, so that it can be
-/// inserted again.
+/// Whether the user has switched off an entry of the application.
+bool isLoginItemSwitchedOff(const CFURL* application);
+
+/// Switches this user's entry of the application, if the user has switched it off, on again; all
+/// else in it stays. Further ones, and those of copies in other folders, are deleted.
 void forgetSwitchedOffLoginItem(const CFURL* application);

@@ -134,6 +134,9 @@ bool setInSharedList(const CFURL* url, bool autoLaunch, bool allUsers) {
             hideGlobalLoginItems(url);
         if (autoLaunch && isOnceAtEnd(snapshot.get(), path.get(), fits))
             return true;
+        if (autoLaunch && !allUsers && countItems(snapshot.get(), path.get(), fits) == 0 &&
+            isLoginItemSwitchedOff(url))
+            return false; // by the user, which stands until it is switched on here
         if (!removeFromSharedList(list.get(), snapshot.get(), path.get(), fits))
             return false;
     }

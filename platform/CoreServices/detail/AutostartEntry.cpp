@@ -3,7 +3,9 @@
 
 #include "platform/CoreServices/detail/DesktopEntry.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <fstream>
 #include <sstream>
 #include <string_view>
 #include <vector>
@@ -61,14 +63,25 @@ std::string applicationOf(std::string_view exec) {
 
 constexpr char kHiddenHere[] = "X-Korvex-Hidden"; ///< of entries that only hide the system's
 
-/// Whether it is marked as deleted or switched off.
+/// What marks an entry as deleted or switched off.
+constexpr struct {
+    const char *key, *value;
+} kSwitches[] = {
+    {"Hidden", "true"},
+    {"X-GNOME-Autostart-enabled", "false"},
+    {"X-MATE-Autostart-enabled", "false"},
+};
+
 bool isSwitchedOff(const DesktopEntry& entry) {
-    if (desktopEntryValue(entry, "Hidden") == "true")
-        return true;
-    for (const char* key : {"X-GNOME-Autostart-enabled", "X-MATE-Autostart-enabled"})
-        if (desktopEntryValue(entry, key) == "false")
-            return true;
-    return false;
+    return std::ranges::any_of(kSwitches, [&](const auto& each) {
+        return desktopEntryValue(entry, each.key) == each.value;
+    });
+}
+
+/// Whether the line of a file sets one of the keys above.
+bool isSwitch(const std::string& line) {
+    const std::string key = line.substr(0, line.find_first_of("= \t"));
+    return std::ranges::any_of(kSwitches, [&](const auto& each) { return each.key == key; });
 }
 
 /// Whether one of the desktops that are running is in the list, each with a semicolon after it.
@@ -129,11 +142,27 @@ std::optional<AutostartEntry> readAutostartEntry(const std::string& path) {
     return AutostartEntry{applicationOf(desktopEntryValue(entry, "Exec")),
                           isInstalledApplication(entry) && !isSwitchedOff(entry) &&
                               isForThisDesktop(entry),
-                          isSwitchedOff(entry) && !entry.contains(kHiddenHere)};
+                          isSwitchedOff(entry) && !entry.contains(kHiddenHere),
+                          isForThisDesktop(entry) ? "" : desktopEntryValue(entry, "OnlyShowIn")};
 }
 
-std::string autostartEntryText(const std::string& name, const std::string& executable) {
-    return entryText(name, executable, "TryExec=" + escaped(executable));
+std::string autostartEntryText(const std::string& name, const std::string& executable,
+                               const std::string& notShowIn) {
+    const std::string elsewhere = notShowIn.empty() ? "" : "\nNotShowIn=" + notShowIn;
+    return entryText(name, executable, "TryExec=" + escaped(executable) + elsewhere);
+}
+
+std::string switchedOnEntryText(const std::string& path) {
+    std::ifstream file(path);
+    std::string text;
+    bool inGroup = false;
+    for (std::string line; std::getline(file, line);) {
+        if (line.starts_with('['))
+            inGroup = line.starts_with("[Desktop Entry]");
+        if (!inGroup || !isSwitch(line))
+            text += line + '\n';
+    }
+    return text;
 }
 
 std::string hiddenAutostartEntryText(const std::string& name, const std::string& application) {

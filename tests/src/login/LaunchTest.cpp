@@ -2,6 +2,7 @@
 #include "src/login/launch.h"
 
 #include "platform/CoreServices/Gestalt.h"
+#include "platform/CoreServices/SharedFileList.h"
 #include "platform/HIToolbox/detail/CarbonControl.h"
 #include "platform/Security/Authorization.h"
 #include "tests/support/TestApplication.h"
@@ -128,8 +129,6 @@ TEST_F(LaunchTest, ListsTheApplicationOnceAndTakesItOutWhateverTheFolderHolds) {
         {"empty.desktop", ""},
         {"binary.desktop", "\x7f\x01[[["},
         {"cut.desktop", "[Desktop Entry]\nExec=" + startOf()},
-        {"hidden.desktop", exec(startOf(), "Hidden=true\n")},
-        {"disabled.desktop", exec(startOf(), "X-GNOME-Autostart-enabled=false\n")},
         {"without its program.desktop", exec(startOf(), "TryExec=/nowhere\n")},
     };
 
@@ -231,10 +230,32 @@ TEST_F(LaunchTest, WhatTheUserSwitchedOffElsewhereStaysUntilSwitchedOnHere) {
         writeFile(kMine / kEntry, text);
         EXPECT_FALSE(set(true, false));
         EXPECT_EQ(readFile(kMine / kEntry), text);
+        fs::rename(kMine / kEntry, kMine / "any.desktop"); // whatever its name
+        EXPECT_FALSE(set(true, false)) << off;
+        EXPECT_EQ(stateOf(kMine).size(), 1u) << off;
         launchForgetSwitchedOff(url.get());
         EXPECT_TRUE(set(true, false));
         EXPECT_TRUE(launchAppIsAutoLaunched(url.get()));
+        EXPECT_EQ(readFile(kMine / "any.desktop"), exec(startOf(), "Comment=Mine\n"));
+        EXPECT_EQ(stateOf(kMine).size(), 1u) << off;
+        writeFile(kMine / "any.desktop", text);
+        writeFile(kMine / "a copy's.desktop", exec(startOf("/opt" / kApplication.filename())));
+        EXPECT_TRUE(set(true, false)) << "the copy's gives way to one that is on as well";
+        EXPECT_TRUE(launchAppIsAutoLaunched(url.get()));
+        EXPECT_EQ(readFile(kMine / "any.desktop"), text);
+        EXPECT_EQ(stateOf(kMine).size(), 2u);
+        fs::remove_all(kMine);
     }
+    writeFile(kMine / "kde.desktop", exec(startOf(), "OnlyShowIn=KDE\n"));
+    EXPECT_TRUE(set(true, false));
+    for (const char* desktop : {"KDE", "GNOME", "XFCE"}) {
+        setenv("XDG_CURRENT_DESKTOP", desktop, 1);
+        const auto list = LSSharedFileListCreate(kLSSharedFileListSessionLoginItems);
+        EXPECT_EQ(CFArrayGetCount(LSSharedFileListCopySnapshot(list.get(), nullptr).get()), 1)
+            << desktop;
+    }
+    setenv("XDG_CURRENT_DESKTOP", "ubuntu:GNOME", 1);
+    fs::remove(kMine / "kde.desktop");
     for (const auto& [where, listed] : {std::pair("OnlyShowIn=KDE;", false),
                                         {"NotShowIn=XFCE;GNOME", false},
                                         {"OnlyShowIn=KDE;GNOME;", true}}) {
