@@ -63,9 +63,9 @@ class Desktop:
 
     def start(self, *command: str | Path, files: tuple[int, ...] = ()) -> subprocess.Popen:
         """Starts a program, which keeps the open `files`. Even if this process is killed, its
-        programs end, and with the bus and the display the rest. What may not be written isn't,
-        even by root's programs."""
-        obedient = ("--bounding-set=-dac_override",) if os.geteuid() == 0 else ()
+        programs end, and with the bus and the display the rest. What may not be read or written
+        isn't, even by root's programs."""
+        obedient = ("--bounding-set=-dac_override,-dac_read_search",) if os.geteuid() == 0 else ()
         with (self.folder / Path(command[0]).name).open("ab") as output:
             return subprocess.Popen(
                 ("setpriv", "--pdeathsig", "TERM", *obedient, *command),

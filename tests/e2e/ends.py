@@ -142,7 +142,7 @@ def succeeds(tour: Tour, what: str, step: Callable, *arguments) -> bool:
     tour.desktop.open_display()
     try:
         step(tour, *arguments)
-        print(f"{what}: saved.", flush=True)
+        print(f"{what}: as it must be.", flush=True)
         return True
     except Failure as failure:
         print(f"{what}: FAILED. {failure}.\n{tour.desktop.output_of(PROGRAM)}", flush=True)

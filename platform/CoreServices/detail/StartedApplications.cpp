@@ -80,7 +80,9 @@ OSStatus StartedApplications::launch(Application& application) {
 
 void StartedApplications::await(Application& application) {
     application.awaitedSince = Clock::now();
-    QTimer::singleShot(kPatience, QCoreApplication::instance(), [this] { tell(); });
+    // A coarse timer may be early, and is the only one: nobody would be told.
+    QTimer::singleShot(kPatience, Qt::PreciseTimer, QCoreApplication::instance(),
+                       [this] { tell(); });
     tell();
 }
 
