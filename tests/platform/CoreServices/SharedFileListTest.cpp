@@ -59,7 +59,7 @@ TEST_F(SharedFileListTest, AnEntrysNameIsTakenOnlyFromAnotherOfItsOwn) {
     const auto url = makeTestApplication(kSandbox / "A.app");
     const std::string run = "/A.app/Contents/Linux/run";
     for (const auto& [text, written] :
-         {std::pair(entry("\"" + kSandbox.string() + run + "\"") + "OnlyShowIn=Other;\n", ""),
+         {std::pair(entry("\"" + kSandbox.string() + run + "\"") + "OnlyShowIn=Other;\n", "-2"),
           {entry("/gone" + run) + "TryExec=/gone\n", ""}, // from where it was before
           {entry("other") + "Hidden=true\n", "-2"},
           {"???", "-2"}}) {

@@ -80,6 +80,8 @@ TEST_F(DaemonTest, OnlyAReportOfAnotherStateIsKeptAndNoneIsSentBack) {
         {"off", 1, kOnOff, off, noErr, 0},
         {"on, other byte", 0, kOnOff, state(typeBoolean, {2}), noErr, 1},
         {"two bytes", 1, kOnOff, state(typeBoolean, {0, 0}), noErr, 1},
+        {"63 MiB, which leave it hearing", 1, kOnOff,
+         state(typeBoolean, std::vector<UInt8>(63 << 20)), noErr, 1},
         {"an event for the agent", 1, fourCharCode("SAPr"), off, errAEEventNotHandled, 1},
     };
 
