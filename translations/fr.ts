@@ -830,7 +830,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Length of a clic&amp;k</source>
-        <translation>Durée d’un &amp;clic</translation>
+        <translation>D&amp;urée d’un clic</translation>
     </message>
     <message>
         <source>How long Korvex holds the mouse button down. Make it longer if a program misses clicks.</source>
@@ -986,7 +986,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Wait after &amp;letting go</source>
-        <translation>Attendre a&amp;près le relâchement</translation>
+        <translation>Attendre après le re&amp;lâchement</translation>
     </message>
     <message>
         <source>Press again within this time to go on. After it, Korvex chooses.</source>
@@ -1006,7 +1006,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Stop without a press &amp;for</source>
-        <translation>S’arrêter sans appui au &amp;bout de</translation>
+        <translation>S’arrêter &amp;sans appui au bout de</translation>
     </message>
     <message>
         <source>The scan ends after this time without a press.</source>
@@ -1022,7 +1022,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Shortest press that &amp;counts</source>
-        <translation>Appui le plus &amp;court qui compte</translation>
+        <translation>Appui le plus co&amp;urt qui compte</translation>
     </message>
     <message>
         <source>Shorter ones, as from a tremor, are ignored. 0 counts all.</source>
@@ -1034,7 +1034,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>&amp;Ignore presses after a click for</source>
-        <translation>&amp;Ignorer les appuis après un clic pendant</translation>
+        <translation>Ign&amp;orer les appuis après un clic pendant</translation>
     </message>
     <message>
         <source>Stops an unwanted second press from counting. 0 ignores none.</source>
@@ -1294,7 +1294,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Gui&amp;de line transparency</source>
-        <translation>Transparence de la ligne &amp;guide</translation>
+        <translation>Transparence de la ligne g&amp;uide</translation>
     </message>
     <message>
         <source>The guide line goes with the scan line. 100% hides it.</source>
