@@ -20,7 +20,7 @@ from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.scanarea import BUTTON
 from tests.e2e.screen import press
 from tests.e2e.startup import DATE, NEVER, NOTICE
-from tests.e2e.tour import PROGRAM, Tour, make_room
+from tests.e2e.tour import PROGRAM, Tour, make_room, wait_for_agent
 from tests.e2e.waiting import Failure, check, until
 
 TABS = "Scanning|Presses|Look|Palette|General"
@@ -78,9 +78,7 @@ def start_unread(tour: Tour) -> subprocess.Popen:
 
 def change(tour: Tour) -> None:
     """Has the agent report that it went off. The file, where it has noted that as well, goes."""
-    tour.agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")
-    name = f"org.korvex.Process1.t4150504C.s4B727678.p{tour.agent}"
-    until(lambda: process_of(name) == tour.agent, "the agent takes events")
+    tour.agent = wait_for_agent()
     inherited = Path(f"/proc/{tour.agent}/environ").read_bytes()
     check(b"QT_QPA_PLATFORM" not in inherited, "the agent has the host's choice of platform")
     os.kill(tour.agent, signal.SIGUSR1)
@@ -121,8 +119,7 @@ def crash_and_return(tour: Tour) -> None:
     check("ended before it could save" in text, text)
     tour.wait_for_choice("Off")
     tour.picture("recovered")
-    (window,) = tour.screen.windows(PROGRAM)
-    press("windowactivate", "--sync", window, "key", "alt+F4")
+    tour.ask_to_close()
     until(lambda: tour.program.poll() is not None, "it ends")
     check(plistlib.loads(tour.stored.read_bytes())["on"] == "no", "the change is lost")
     check(not list(unsaved.iterdir()), "the file of unsaved changes is still there")

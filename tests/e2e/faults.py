@@ -18,7 +18,7 @@ from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.ends import succeeds
 from tests.e2e.screen import press
 from tests.e2e.startup import DATE, NEVER
-from tests.e2e.tour import AGENT, PROGRAM, Tour, make_room
+from tests.e2e.tour import AGENT, PROGRAM, Tour, make_room, wait_for_agent
 from tests.e2e.waiting import PATIENCE, check, until
 
 BUNDLE = "Korvex.prefPane"
@@ -37,20 +37,8 @@ def open_window(tour: Tour, *arguments: str | Path) -> None:
     tour.screen.find("Korvex", "frame")
 
 
-def close_window(tour: Tour) -> None:
-    (window,) = tour.screen.windows(PROGRAM)
-    press("windowactivate", "--sync", window, "key", "alt+F4")
-
-
 def click_scan_menu_bar(tour: Tour) -> None:
     tour.screen.click("Scan the menu bar too", "check box")
-
-
-def wait_for_agent() -> int:
-    agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")
-    name = f"org.korvex.Process1.t4150504C.s4B727678.p{agent}"
-    until(lambda: process_of(name) == agent, "the agent takes events")
-    return agent
 
 
 def damaged_file(tour: Tour) -> None:
@@ -78,7 +66,7 @@ def copy_and_close_anyway(tour: Tour) -> None:
     open_window(tour)
     click_scan_menu_bar(tour)
     tour.stored.parent.chmod(0o500)
-    close_window(tour)
+    tour.ask_to_close()
     expect_alert(tour, "couldn’t be saved")
     copy = tour.desktop.home / "copy.plist"
     tour.screen.click("Save a copy…", "push button")

@@ -57,10 +57,14 @@ class Tour:
     def close(self) -> None:
         """Has the window manager close the window. The agent must hear of that, and of nothing
         else before."""
-        press("key", "alt+F4")
+        self.ask_to_close()
         self.log.expect("PPcl")
         status = self.program.wait(PATIENCE)
         check(status == 0, f"the program ended with {status}")
+
+    def ask_to_close(self) -> None:
+        (window,) = self.screen.windows(PROGRAM)
+        press("windowactivate", "--sync", window, "key", "alt+F4")
 
     def choose_tab(self, name: str) -> None:
         self.screen.click(name, "page tab")
@@ -79,14 +83,19 @@ class Tour:
         self.screen.picture(self.out / f"{self._pictures:02}-{name}.png")
 
 
-def launch_the_agent(tour: Tour) -> str:
-    """Look for the agent"""
+def wait_for_agent() -> int:
+    """The process ID of the agent, once it takes events."""
     agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")
-    program = Path(f"/proc/{agent}/exe").readlink()
-    check(program == (tour.build / AGENT).resolve(), f"{program} was launched as the agent")
     name = f"org.korvex.Process1.t4150504C.s4B727678.p{agent}"
     until(lambda: process_of(name) == agent, "the agent takes events")
-    tour.agent = agent
+    return agent
+
+
+def launch_the_agent(tour: Tour) -> str:
+    """Look for the agent"""
+    tour.agent = wait_for_agent()
+    program = Path(f"/proc/{tour.agent}/exe").readlink()
+    check(program == (tour.build / AGENT).resolve(), f"{program} was launched as the agent")
     tour.log.expect("PPop")
     return "it was launched, takes events and knows of the pane"
 
