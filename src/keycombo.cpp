@@ -106,7 +106,7 @@ constexpr UInt32 keyChars[] = {
 constexpr SInt32 kKeyCount = 128;
 static_assert(std::size(keyChars) == kKeyCount);
 
-constexpr CFIndex kMaxLength = 100; // the longest name has 42 characters in English
+constexpr CFIndex kMaxLength = 50; // the longest name has 42 characters, 49 in a translation
 
 void append(CFMutableString* text, const char* more) {
     CFStringAppend(text, CFStringCreateWithUTF8(localized("Keys", more)).get());

@@ -481,7 +481,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>delete</source>
-        <translation>effacer</translation>
+        <translation>suppr. arrière</translation>
     </message>
     <message>
         <source>enter</source>
@@ -497,7 +497,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>clear</source>
-        <translation>effacer tout</translation>
+        <translation>effacer</translation>
     </message>
     <message>
         <source>help</source>
