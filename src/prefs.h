@@ -65,8 +65,8 @@ struct ButtonSize {
 };
 
 /// Every setting of the agent: 340 bytes, little-endian, with fixed offsets. The image goes to the
-/// agent as it stands, padding included. Flags hold 0 or 1; the initial values are the factory
-/// defaults, and there is no other table of defaults.
+/// agent as it stands, padding included. Flags hold 0 or 1. The initial values are the factory
+/// defaults.
 struct PrefsRecord {
     UInt8 on = 1; ///< the agent's master switch
     UInt8 playClickSounds = 1;

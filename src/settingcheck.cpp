@@ -2,7 +2,6 @@
 #include "src/settingcheck.h"
 
 #include "platform/CoreFoundation/Localization.h"
-
 #include "src/prefpane/palutil.h"
 #include "src/settingwords.h"
 

@@ -2,7 +2,6 @@
 #include "src/settingwords.h"
 
 #include "platform/CoreFoundation/Localization.h"
-
 #include "src/keycombo.h"
 
 #include <algorithm>
