@@ -47,7 +47,7 @@ QImage blankImage() {
 /// A visit of the pane, for its resources.
 void beginVisit() {
     prefs.on = 0;
-    daemonSetup(CFStringCreateWithUTF8(KORVEX_BUNDLE "/Contents/Linux/Korvex Agent.app").get());
+    daemonSetup(createFromUTF8(KORVEX_BUNDLE "/Contents/Linux/Korvex Agent.app").get());
     palutilSetup();
 }
 

@@ -30,7 +30,7 @@ double redraw() {
     prefs.on = 0;
     view.attachWidget(&widget);
     widget.resize(kPreviewSize);
-    daemonSetup(CFStringCreateWithUTF8(kBenchAgent).get());
+    daemonSetup(createFromUTF8(kBenchAgent).get());
     palutilSetup();
     QImage image = blankImage();
     widget.render(&image); // reads the buttons' icons

@@ -163,5 +163,5 @@ void PaneHost::endAtExit() {
 std::string PaneHost::infoText(const char* key) const {
     const auto* text =
         dynamicCFCast<CFString>(CFBundleGetValueForInfoDictionaryKey(bundle_.get(), CFSTR(key)));
-    return text ? CFStringToUTF8(text) : std::string();
+    return text ? toUTF8(text) : std::string();
 }

@@ -4,6 +4,7 @@
 #include "platform/AppKit/UserMessages.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreFoundation/PreferencesOutcome.h"
+#include "platform/CoreServices/ChangeWatch.h"
 #include "platform/CoreServices/LaunchTrouble.h"
 
 #include <QCoreApplication>
@@ -84,7 +85,7 @@ void saveCopy(const Buttons& buttons) {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QString path = QFileDialog::getSaveFileName(
         nullptr, QString::fromStdString(localized("Troubles", "Save a copy of the settings")),
-        folder + '/' + QString::fromStdString(CFStringToUTF8(domain)) + QStringLiteral(".plist"));
+        folder + '/' + QString::fromStdString(toUTF8(domain)) + QStringLiteral(".plist"));
     std::string text;
     if (path.isEmpty()) {
         text = filled(localized("Troubles", "Your settings aren’t saved: %1."), {whyNotSaved()});
@@ -125,7 +126,7 @@ void tellOfUnusableFiles() {
 }
 
 void tellOfLaunches() {
-    [[maybe_unused]] static const auto& watch = *new LaunchWatch(tellOfLaunch);
+    [[maybe_unused]] static const auto& watch = *new ChangeWatch(watchLaunches(tellOfLaunch));
     tellOfLaunch();
 }
 

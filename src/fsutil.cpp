@@ -57,7 +57,7 @@ CFRef<CFData> fsGetFileContents(const CFURL* url) {
     const DataFork fork(url);
     if (!fork.isOpen() || fork.size() > kMaxFileContents)
         return nullptr;
-    CFMallocBuffer bytes(static_cast<UInt8*>(std::malloc(fork.size())));
+    MallocBuffer bytes(static_cast<UInt8*>(std::malloc(fork.size())));
     if (!bytes || !fork.read(0, fork.size(), bytes.get()))
         return nullptr;
     return CFDataCreateWithBytesNoCopy(std::move(bytes), fork.size());

@@ -109,7 +109,7 @@ static_assert(std::size(keyChars) == kKeyCount);
 constexpr CFIndex kMaxLength = 50; // the longest name has 42 characters, 49 in a translation
 
 void append(CFMutableString* text, const char* more) {
-    CFStringAppend(text, CFStringCreateWithUTF8(localized("Keys", more)).get());
+    CFStringAppend(text, createFromUTF8(localized("Keys", more)).get());
 }
 
 void appendModifier(CFMutableString* text, UInt32 bit) {
@@ -144,7 +144,7 @@ void appendKey(CFMutableString* text, UInt32 key) {
 
 CFRef<CFString> createKeyComboString(UInt32 modifiers, SInt32 keyCode) {
     if (keyCode < 0)
-        return CFStringCreateWithUTF8(localized("Keys", "-none-"));
+        return createFromUTF8(localized("Keys", "-none-"));
     auto text = CFStringCreateMutable(kMaxLength);
     if (!text)
         return nullptr;

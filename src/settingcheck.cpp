@@ -114,7 +114,7 @@ std::string setFromWords(const Setting& setting, const std::string& words, Prefs
                                  : isOn                     ? "yes"
                                  : isOff                    ? "no"
                                                             : words;
-        if (!setting.form->read(CFStringCreateWithUTF8(text).get(), setting.in(changed)))
+        if (!setting.form->read(createFromUTF8(text).get(), setting.in(changed)))
             return localized("Faults", "not a value of this setting");
         if (std::string fault = settingFault(setting, changed); !fault.empty())
             return fault;

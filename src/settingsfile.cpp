@@ -32,7 +32,7 @@ std::string settingsDocument(const SettingSet& settings, const PrefsRecord& reco
         if (settings[i])
             if (const auto text = kSettings[i].form->write(kSettings[i].in(record)))
                 CFDictionarySetValue(dictionary.get(), CFSTR(kSettings[i].key), text.get());
-    return CFPropertyListToXML(dictionary.get());
+    return propertyListToXML(dictionary.get());
 }
 
 SettingsOffer readSettingsFile(const std::string& path, const PrefsRecord& base) {
@@ -45,7 +45,7 @@ SettingsOffer readSettingsFile(const std::string& path, const PrefsRecord& base)
         return offer;
     }
     for (const auto& [key, value] : dictionary->items()) {
-        const std::string name = CFStringToUTF8(CFRef<CFString>::adopt(new CFString(key)).get());
+        const std::string name = toUTF8(CFRef<CFString>::adopt(new CFString(key)).get());
         if (const std::string reason = take(name, value.get(), offer); !reason.empty())
             offer.refused.push_back({name, reason});
     }

@@ -59,7 +59,7 @@ std::string contentText(UInt32 content) {
 
 std::string hotKeyText(const HotKey& hotKey) {
     const auto text = createKeyComboString(hotKey.modifiers, hotKey.keyCode);
-    return text ? CFStringToUTF8(text.get()) : "";
+    return text ? toUTF8(text.get()) : "";
 }
 
 std::string hotKeysText(const HotKey (&hotKeys)[kNumHotKeys]) {
@@ -120,7 +120,7 @@ std::string settingText(const Setting& setting, const PrefsRecord& record) {
     if (setting.form == &kRealForm)
         return print("%g", settingNumber(setting, record));
     const auto text = setting.form->write(setting.in(record));
-    return text ? CFStringToUTF8(text.get()) : "";
+    return text ? toUTF8(text.get()) : "";
 }
 
 std::string changeText(const Setting& setting, const PrefsRecord& before, const PrefsRecord& after,

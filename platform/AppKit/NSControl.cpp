@@ -7,18 +7,10 @@
 #include <QVariant>
 #include <QWidget>
 
-bool NSControl::isEnabled() const {
-    return widget()->isEnabledTo(widget()->parentWidget());
-}
-
 void NSControl::setEnabled(bool enabled) {
     if (!enabled)
         moveFocusOutOf(widget());
     widget()->setEnabled(enabled);
-}
-
-int NSControl::tag() const {
-    return widget()->property("tag").toInt();
 }
 
 void NSControl::setToolTip(std::string_view text) {

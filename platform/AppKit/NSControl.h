@@ -7,15 +7,12 @@
 /// from code never does.
 class NSControl : public NSView {
 public:
-    bool isEnabled() const;
     void setEnabled(bool enabled);
 
     /// Neither is owned; without both, nothing is sent.
     void setTarget(NSObject* target) { target_ = target; }
 
     void setAction(SEL action) { action_ = action; }
-
-    int tag() const;
 
     /// What is shown beside the pointer when it rests on the control; UTF-8, empty for nothing.
     void setToolTip(std::string_view text);

@@ -43,10 +43,6 @@ int NSCell::tag() const {
     return button_->property("tag").toInt();
 }
 
-bool NSCell::isEnabled() const {
-    return isEnabledItself(button_);
-}
-
 void NSCell::setEnabled(bool enabled) {
     button_->setEnabled(enabled);
     chooseTabStop(button_->group());

@@ -14,7 +14,6 @@ public:
     explicit NSCell(QAbstractButton* button) : button_(button) {}
 
     int tag() const;
-    bool isEnabled() const;
     /// An enabled cell of a disabled matrix can't be clicked either.
     void setEnabled(bool enabled);
 

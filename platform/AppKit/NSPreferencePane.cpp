@@ -11,7 +11,7 @@ bool NSPreferencePane::loadMainView(std::vector<std::string>& errors) {
     }
     const CFRef<CFURL> form = CFBundleCopyResourceURL(bundle(), name, CFSTR("ui"), nullptr);
     if (!form) {
-        errors.push_back(folder->path() + "/Contents/Resources/" + CFStringToUTF8(name) +
+        errors.push_back(folder->path() + "/Contents/Resources/" + toUTF8(name) +
                          ".ui: no such file");
         return false;
     }

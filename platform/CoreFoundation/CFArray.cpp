@@ -13,14 +13,6 @@ CFTypeID CFArrayGetTypeID() {
     return CFTypeID::Array;
 }
 
-CFRef<CFArray> CFArrayCreate(std::span<const CFType* const> values) {
-    CFArray::Items items;
-    items.reserve(values.size());
-    for (const CFType* value : values)
-        items.push_back(CFRef<const CFType>::retain(value));
-    return CFRef<CFArray>::adopt(new CFArray(std::move(items)));
-}
-
 CFRef<CFMutableArray> CFArrayCreateMutable() {
     return CFRef<CFMutableArray>::adopt(new CFMutableArray(CFArray::Items()));
 }

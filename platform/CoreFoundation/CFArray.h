@@ -3,7 +3,6 @@
 
 #include "platform/CoreFoundation/CFBase.h"
 
-#include <span>
 #include <vector>
 
 /// An ordered list of objects, each retained. Immutable, but for CFMutableArray.
@@ -33,7 +32,6 @@ public:
 };
 
 CFTypeID CFArrayGetTypeID();
-CFRef<CFArray> CFArrayCreate(std::span<const CFType* const> values);
 CFRef<CFMutableArray> CFArrayCreateMutable();
 CFRef<CFMutableArray> CFArrayCreateMutableCopy(const CFArray* array);
 CFIndex CFArrayGetCount(const CFArray* array);

@@ -28,7 +28,7 @@ CFBundle* findBundle(Matches matches) {
 
 CFRef<const CFDictionary> readInfo(const std::string& bundlePath) {
     const FileContents file =
-        readRegularFile(bundlePath + "/Contents/Info.plist", kCFPropertyListMaxSize);
+        readRegularFile(bundlePath + "/Contents/Info.plist", kPropertyListMaxSize);
     const auto root = file.data ? CFPropertyListCreateFromXMLData(file.data.get()) : nullptr;
     return CFRef<const CFDictionary>::retain(dynamicCFCast<CFDictionary>(root.get()));
 }
@@ -118,18 +118,15 @@ CFRef<CFBundle> CFBundleCreate(const CFURL* bundleURL) {
 }
 
 CFBundle* CFBundleGetBundleWithIdentifier(const CFString* identifier) {
-    return findBundle(
-        [&](const CFBundle* bundle) { return CFEqual(CFBundleGetIdentifier(bundle), identifier); });
+    return findBundle([&](const CFBundle* bundle) {
+        return CFEqual(CFDictionaryGetValue(bundle->info(), CFSTR("CFBundleIdentifier")),
+                       identifier);
+    });
 }
 
 CFBundle* CFBundleGetMainBundle() {
     static const auto& bundle = *new CFRef<CFBundle>(openMainBundle());
     return bundle.get();
-}
-
-const CFString* CFBundleGetIdentifier(const CFBundle* bundle) {
-    return dynamicCFCast<CFString>(
-        CFBundleGetValueForInfoDictionaryKey(bundle, CFSTR("CFBundleIdentifier")));
 }
 
 const CFType* CFBundleGetValueForInfoDictionaryKey(const CFBundle* bundle, const CFString* key) {
@@ -152,19 +149,19 @@ CFRef<CFURL> CFBundleCopyExecutableURL(const CFBundle* bundle) {
 }
 
 CFRef<CFURL> CFBundleCopyAuxiliaryExecutableURL(const CFBundle* bundle, const CFString* name) {
-    return existingURL(bundle->path() + "/Contents/Linux", CFStringToUTF8(name));
+    return existingURL(bundle->path() + "/Contents/Linux", toUTF8(name));
 }
 
 CFRef<CFURL> CFBundleCopyResourceURL(const CFBundle* bundle, const CFString* name,
                                      const CFString* type, const CFString* subdirectory) {
     if (!name)
         return nullptr;
-    std::string fileName = CFStringToUTF8(name);
+    std::string fileName = toUTF8(name);
     if (type)
-        fileName += '.' + CFStringToUTF8(type);
+        fileName += '.' + toUTF8(type);
     if (fs::path(fileName).is_absolute())
         return nullptr;
-    const fs::path folder = subdirectory ? CFStringToUTF8(subdirectory) : std::string();
+    const fs::path folder = subdirectory ? toUTF8(subdirectory) : std::string();
     return existingURL(bundle->path() + "/Contents/Resources", folder / fileName);
 }
 
@@ -173,5 +170,5 @@ bool CFBundleLoadExecutable(CFBundle* bundle, std::string* error) {
 }
 
 void* CFBundleGetFunctionPointerForName(CFBundle* bundle, const CFString* name) {
-    return bundle->symbol(CFStringToUTF8(name).c_str());
+    return bundle->symbol(toUTF8(name).c_str());
 }

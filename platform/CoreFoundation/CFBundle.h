@@ -38,8 +38,6 @@ CFBundle* CFBundleGetBundleWithIdentifier(const CFString* identifier);
 /// The bundle that holds the running executable, or null when it lies in none. Borrowed.
 CFBundle* CFBundleGetMainBundle();
 
-/// Null when Info.plist has no CFBundleIdentifier.
-const CFString* CFBundleGetIdentifier(const CFBundle* bundle);
 const CFType* CFBundleGetValueForInfoDictionaryKey(const CFBundle* bundle, const CFString* key);
 CFRef<CFURL> CFBundleCopyBundleURL(const CFBundle* bundle);
 CFRef<CFURL> CFBundleCopyResourcesDirectoryURL(const CFBundle* bundle);

@@ -9,8 +9,8 @@ CFData::CFData(std::vector<UInt8> bytes) : length_(bytes.size()) {
     bytes_ = std::shared_ptr<const UInt8>(owner, owner->data());
 }
 
-CFData::CFData(CFMallocBuffer bytes, std::size_t length)
-    : bytes_(bytes.release(), CFMallocDeallocator()), length_(length) {}
+CFData::CFData(MallocBuffer bytes, std::size_t length)
+    : bytes_(bytes.release(), MallocDeallocator()), length_(length) {}
 
 bool CFData::isEqual(const CFType& other) const {
     return std::ranges::equal(bytes(), static_cast<const CFData&>(other).bytes());
@@ -24,7 +24,7 @@ CFRef<CFData> CFDataCreate(const UInt8* bytes, CFIndex length) {
     return CFRef<CFData>::adopt(new CFData(std::vector<UInt8>(bytes, bytes + length)));
 }
 
-CFRef<CFData> CFDataCreateWithBytesNoCopy(CFMallocBuffer bytes, CFIndex length) {
+CFRef<CFData> CFDataCreateWithBytesNoCopy(MallocBuffer bytes, CFIndex length) {
     if (!bytes || length < 0)
         return nullptr;
     return CFRef<CFData>::adopt(new CFData(std::move(bytes), static_cast<std::size_t>(length)));

@@ -8,18 +8,18 @@
 #include <span>
 #include <vector>
 
-struct CFMallocDeallocator {
+struct MallocDeallocator {
     void operator()(UInt8* bytes) const { std::free(bytes); }
 };
 
 /// A buffer that malloc made.
-using CFMallocBuffer = std::unique_ptr<UInt8[], CFMallocDeallocator>;
+using MallocBuffer = std::unique_ptr<UInt8[], MallocDeallocator>;
 
 /// Bytes. Immutable.
 class CFData final : public CFType {
 public:
     explicit CFData(std::vector<UInt8> bytes);
-    CFData(CFMallocBuffer bytes, std::size_t length);
+    CFData(MallocBuffer bytes, std::size_t length);
 
     std::span<const UInt8> bytes() const { return {bytes_.get(), length_}; }
 
@@ -37,4 +37,4 @@ CFRef<CFData> CFDataCreate(const UInt8* bytes, CFIndex length);
 
 /// Takes over a buffer of at least `length` bytes, which is freed with the object. Null when the
 /// buffer is, or for a negative length; the buffer is freed then as well.
-CFRef<CFData> CFDataCreateWithBytesNoCopy(CFMallocBuffer bytes, CFIndex length);
+CFRef<CFData> CFDataCreateWithBytesNoCopy(MallocBuffer bytes, CFIndex length);

@@ -37,7 +37,7 @@ CFRef<CFString> CFStringCreateWithCString(const char* text, CFStringEncoding enc
     return decoded ? CFRef<CFString>::adopt(new CFString(std::move(*decoded))) : nullptr;
 }
 
-CFRef<CFString> CFStringCreateWithUTF8(std::string_view text) {
+CFRef<CFString> createFromUTF8(std::string_view text) {
     auto decoded = decodeText(text, kCFStringEncodingUTF8);
     return decoded ? CFRef<CFString>::adopt(new CFString(std::move(*decoded))) : nullptr;
 }
@@ -50,17 +50,8 @@ void CFStringAppend(CFMutableString* string, const CFString* more) {
     string->append(more->text());
 }
 
-void CFStringAppendCString(CFMutableString* string, const char* more, CFStringEncoding encoding) {
-    if (const auto decoded = decodeText(more, encoding))
-        string->append(*decoded);
-}
-
 void CFStringAppendCharacters(CFMutableString* string, const UniChar* characters, CFIndex count) {
     string->append({characters, static_cast<std::size_t>(count)});
-}
-
-CFIndex CFStringGetLength(const CFString* string) {
-    return static_cast<CFIndex>(string->text().size());
 }
 
 CFComparisonResult CFStringCompare(const CFString* a, const CFString* b,
@@ -87,6 +78,6 @@ CFStringEncoding CFStringGetSystemEncoding() {
     return kCFStringEncodingUTF8;
 }
 
-std::string CFStringToUTF8(const CFString* string) {
+std::string toUTF8(const CFString* string) {
     return encodeLossyUTF8(string->text());
 }

@@ -44,14 +44,9 @@ const CFString* CFSTR(const char* ascii);
 
 /// Null when `text` is null or isn't valid in the encoding.
 CFRef<CFString> CFStringCreateWithCString(const char* text, CFStringEncoding encoding);
-CFRef<CFString> CFStringCreateWithUTF8(std::string_view text);
 CFRef<CFMutableString> CFStringCreateMutable(CFIndex maxLength);
 void CFStringAppend(CFMutableString* string, const CFString* more);
-void CFStringAppendCString(CFMutableString* string, const char* more, CFStringEncoding encoding);
 void CFStringAppendCharacters(CFMutableString* string, const UniChar* characters, CFIndex count);
-
-/// Length in UTF-16 code units.
-CFIndex CFStringGetLength(const CFString* string);
 
 enum CFComparisonResult {
     kCFCompareLessThan = -1,
@@ -74,5 +69,10 @@ bool CFStringGetCString(const CFString* string, char* buffer, CFIndex bufferSize
 /// The encoding of file names and of the environment: UTF-8.
 CFStringEncoding CFStringGetSystemEncoding();
 
-/// The text in UTF-8, for the layer's own use; an unpaired surrogate becomes U+FFFD.
-std::string CFStringToUTF8(const CFString* string);
+// The way to the standard library's texts and back.
+
+/// An unpaired surrogate becomes U+FFFD.
+std::string toUTF8(const CFString* string);
+
+/// Null when the text isn't valid UTF-8.
+CFRef<CFString> createFromUTF8(std::string_view text);

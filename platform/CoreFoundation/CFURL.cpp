@@ -24,7 +24,7 @@ CFHashCode CFURL::hash() const {
 }
 
 CFRef<CFURL> CFURLCreateWithFileSystemPath(const CFString* posixPath, bool isDirectory) {
-    return CFURLCreateFromFileSystemRepresentation(CFStringToUTF8(posixPath).c_str(), isDirectory);
+    return CFURLCreateFromFileSystemRepresentation(toUTF8(posixPath).c_str(), isDirectory);
 }
 
 CFRef<CFURL> CFURLCreateFromFileSystemRepresentation(const char* path, bool isDirectory) {
@@ -40,16 +40,16 @@ CFRef<CFURL> CFURLCreateFromFileSystemRepresentation(const char* path, bool isDi
 CFRef<CFURL> CFURLCreateCopyAppendingPathComponent(const CFURL* url, const CFString* component,
                                                    bool isDirectory) {
     const std::string separator = url->path() == "/" ? "" : "/";
-    return makeURL(url->path() + separator + CFStringToUTF8(component), isDirectory);
+    return makeURL(url->path() + separator + toUTF8(component), isDirectory);
 }
 
 CFRef<CFString> CFURLCopyFileSystemPath(const CFURL* url) {
-    return CFStringCreateWithUTF8(url->path());
+    return createFromUTF8(url->path());
 }
 
 CFRef<CFString> CFURLCopyLastPathComponent(const CFURL* url) {
     const std::string_view path = url->path();
-    return CFStringCreateWithUTF8(path == "/" ? path : path.substr(path.rfind('/') + 1));
+    return createFromUTF8(path == "/" ? path : path.substr(path.rfind('/') + 1));
 }
 
 bool CFURLGetFileSystemRepresentation(const CFURL* url, char* buffer, CFIndex bufferSize) {

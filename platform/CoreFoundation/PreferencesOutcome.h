@@ -18,7 +18,7 @@ enum class FileTrouble {
     Full,       ///< the disk, or the user's share of it, is full
     InUse,      ///< another program held the domain's lock for two seconds
     InTheWay,   ///< a folder, pipe or the like stands where the file or its folder belongs
-    TooLarge,   ///< the values don't fit a file of kCFPropertyListMaxSize bytes
+    TooLarge,   ///< the values don't fit a file of kPropertyListMaxSize bytes
     Failed      ///< another error of the system
 };
 

@@ -4,7 +4,7 @@
 #include "platform/CoreFoundation/detail/FileReading.h"
 
 CFRef<CGDataProvider> CGDataProviderCreateWithURL(const CFURL* url) {
-    FileContents file = readRegularFile(url->path(), kCGMaxImageFileSize);
+    FileContents file = readRegularFile(url->path(), kMaxImageFileSize);
     if (!file.data)
         return nullptr;
     return CFRef<CGDataProvider>::adopt(new CGDataProvider(std::move(file.data)));

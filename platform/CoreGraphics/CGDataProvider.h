@@ -18,7 +18,7 @@ private:
 };
 
 /// The largest file that is read, in bytes.
-constexpr std::size_t kCGMaxImageFileSize = 16u << 20;
+constexpr std::size_t kMaxImageFileSize = 16u << 20;
 
 /// Reads the file. Null when it isn't a regular file, is too large or can't be read.
 CFRef<CGDataProvider> CGDataProviderCreateWithURL(const CFURL* url);

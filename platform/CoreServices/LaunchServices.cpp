@@ -28,7 +28,7 @@ OSStatus LSOpenCFURLRef(const CFURL* url, CFRef<CFURL>* launched) {
 OSStatus LSFindApplicationForInfo(OSType creator, const CFString* bundleID, const CFString* name,
                                   FSRef* ref, CFRef<CFURL>* url) {
     const auto text = [](const CFString* string) {
-        return string ? CFStringToUTF8(string) : std::string();
+        return string ? toUTF8(string) : std::string();
     };
     const auto found = findInstalledApplication(creator, text(bundleID), text(name));
     if (!found)

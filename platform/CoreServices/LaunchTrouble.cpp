@@ -11,20 +11,6 @@ bool isLaunching(const std::string& bundle) {
     return StartedApplications::shared().isLaunching(bundle);
 }
 
-struct LaunchWatch::Connection {
-    QMetaObject::Connection made;
-};
-
-LaunchWatch::LaunchWatch(std::function<void()> onChange)
-    : connection_(std::make_unique<Connection>()) {
-    connection_->made = QObject::connect(&StartedApplications::shared().changed(), &QTimer::timeout,
-                                         std::move(onChange));
-}
-
-LaunchWatch::~LaunchWatch() {
-    QObject::disconnect(connection_->made);
-}
-
 OSStatus launchAgain(const std::string& bundle) {
     StartedApplications::shared().forgive(bundle);
     const auto url = CFURLCreateFromFileSystemRepresentation(bundle.c_str(), true);

@@ -3,8 +3,6 @@
 
 #include "platform/CoreServices/LaunchServices.h"
 
-#include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -32,20 +30,6 @@ std::optional<TroubledApplication> findLaunchTrouble();
 /// Whether the application of that bundle was started less than ten seconds ago, or is to start
 /// once another has ended, and may still come up.
 bool isLaunching(const std::string& bundle);
-
-/// Calls a function from the event loop whenever the two above may have another answer. Ends with
-/// this object. Like Processes.h it needs a QCoreApplication.
-class LaunchWatch {
-public:
-    explicit LaunchWatch(std::function<void()> onChange);
-    ~LaunchWatch();
-    LaunchWatch(const LaunchWatch&) = delete;
-    LaunchWatch& operator=(const LaunchWatch&) = delete;
-
-private:
-    struct Connection;
-    std::unique_ptr<Connection> connection_;
-};
 
 /// Starts the application of that bundle as LSOpenCFURLRef does, and forgets what went wrong
 /// before: it has ten seconds again, and endings count from none. One that hangs while it starts is

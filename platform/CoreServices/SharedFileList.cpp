@@ -147,7 +147,7 @@ void makeLast(const std::string& path, const std::vector<EntryFile>& others) {
 std::string bundleText(const CFBundle* bundle, const char* key) {
     const auto* text =
         dynamicCFCast<CFString>(CFBundleGetValueForInfoDictionaryKey(bundle, CFSTR(key)));
-    return text ? CFStringToUTF8(text) : std::string();
+    return text ? toUTF8(text) : std::string();
 }
 
 } // namespace
@@ -244,7 +244,7 @@ CFRef<LSSharedFileListItem> LSSharedFileListInsertItemURL(LSSharedFileList* list
 
 bool isSameLoginApplication(const std::string& path, const std::string& other) {
     return fileName(path) == fileName(other) ||
-           CFStringCompare(CFStringCreateWithUTF8(path).get(), CFStringCreateWithUTF8(other).get(),
+           CFStringCompare(createFromUTF8(path).get(), createFromUTF8(other).get(),
                            kCFCompareCaseInsensitive) == kCFCompareEqualTo;
 }
 

@@ -24,7 +24,7 @@ int platformGroup(gid_t id) {
 
 CFRef<CFString> CSCopyUserName(bool) {
     const passwd* user = getpwuid(getuid());
-    return user ? CFStringCreateWithUTF8(user->pw_name) : nullptr;
+    return user ? createFromUTF8(user->pw_name) : nullptr;
 }
 
 int userGroups(const char* name, int baseGroup, int* groups, int* count) {

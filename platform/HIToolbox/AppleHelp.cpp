@@ -72,11 +72,11 @@ OSStatus AHGotoPage(const CFString* bookName, const CFString* path, const CFStri
     const auto book = bookName ? books().find(bookName->text()) : books().end();
     if (book == books().end())
         return kAHInternalErr;
-    const fs::path file = findPage(book->second, path ? CFStringToUTF8(path) : kStartPage);
+    const fs::path file = findPage(book->second, path ? toUTF8(path) : kStartPage);
     if (file.empty())
         return kAHInternalErr;
     QUrl url = QUrl::fromLocalFile(QString::fromStdString(file.string()));
     if (anchor)
-        url.setFragment(QString::fromStdString(CFStringToUTF8(anchor)));
+        url.setFragment(QString::fromStdString(toUTF8(anchor)));
     return QDesktopServices::openUrl(url) ? OSStatus{noErr} : kAHInternalErr;
 }

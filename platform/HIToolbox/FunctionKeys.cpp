@@ -2,13 +2,11 @@
 #include "platform/HIToolbox/FunctionKeys.h"
 
 #include "platform/CoreFoundation/CFPreferences.h"
-
-#include <fstream>
+#include "platform/HIToolbox/detail/KernelKeyboard.h"
 
 namespace {
 
 constexpr char kParameterFile[] = "/sys/module/hid_apple/parameters/fnmode";
-constexpr int kFunctionKeysFirst = 2;
 
 } // namespace
 
@@ -22,12 +20,4 @@ bool functionKeysAreStandard() {
         return kernelPrefersFunctionKeys(kParameterFile);
     const auto* boolean = dynamicCFCast<CFBoolean>(value.get());
     return boolean && CFBooleanGetValue(boolean);
-}
-
-bool kernelPrefersFunctionKeys(const char* parameterFile) {
-    std::ifstream file(parameterFile);
-    int mode = kFunctionKeysFirst; // without Apple's keyboards: others have no fn to hold
-    if (file)
-        mode = 0, file >> mode;
-    return mode == kFunctionKeysFirst;
 }

@@ -41,7 +41,7 @@ void DisposeNibReference(IBNibRef nib) {
 }
 
 OSStatus CreateWindowFromNib(IBNibRef nib, const CFString* windowName, WindowRef* window) {
-    auto widget = nib->takeWindow(QString::fromStdString(CFStringToUTF8(windowName)));
+    auto widget = nib->takeWindow(QString::fromStdString(toUTF8(windowName)));
     if (!widget)
         return kIBCarbonRuntimeCantFindObject;
     *window = new NibWindow(std::move(widget));

@@ -3,16 +3,5 @@
 
 #include "platform/CoreFoundation/CFBase.h"
 
-class QKeyEvent;
-
-/// What stands for the code of a key that no Apple keyboard has.
+/// Stands for the code of a key that no Apple keyboard has.
 constexpr UInt16 kNoKeyCode = 0xFFFF;
-
-/// The virtual key code, 0 to 127, of the key with this scan code of X11 or Wayland. The code names
-/// the key's place, not its letter. A key that only PC keyboards have gets the code of Apple's key
-/// in the same place: Insert is help, Print Screen F13, Scroll Lock F14, Pause F15, Num Lock clear.
-/// kNoKeyCode for any other key.
-UInt16 virtualKeyCode(UInt32 scanCode);
-
-/// Whether the key is a modifier key, by its place or by the active layout.
-bool isModifierKey(const QKeyEvent& event);

@@ -13,7 +13,7 @@ namespace {
 
 std::string storedText(const Setting& setting, const PrefsRecord& record) {
     const auto text = setting.form->write(setting.in(record));
-    return text ? CFStringToUTF8(text.get()) : "";
+    return text ? toUTF8(text.get()) : "";
 }
 
 /// "1 to 60 seconds", the choices, or nothing.

@@ -66,7 +66,7 @@ bool matches(const LSSharedFileListItem* item, const CFString* path) {
 /// Whether the item is the application's or a copy's that lies in another folder.
 bool matchesAnyCopy(const LSSharedFileListItem* item, const CFString* path) {
     const auto itemPath = copyItemPath(item);
-    return itemPath && isSameLoginApplication(CFStringToUTF8(itemPath.get()), CFStringToUTF8(path));
+    return itemPath && isSameLoginApplication(toUTF8(itemPath.get()), toUTF8(path));
 }
 
 using Matching = decltype(matches)*;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "src/prefpane/Daemon.h"
 
+#include "platform/CoreServices/ChangeWatch.h"
 #include "platform/CoreServices/LaunchServices.h"
 #include "platform/CoreServices/LaunchTrouble.h"
-#include "platform/CoreServices/ProcessWatch.h"
 #include "src/prefpane/PreferenceWrangler.h"
 
 #include <optional>
@@ -32,8 +32,8 @@ std::optional<ChangeMask> changesOfVisit; ///< all that were made; a mask may be
 CFRef<const CFString> daemonExecutablePath;
 CFRef<CFBundle> daemonBundle; ///< made on first request
 AEEventHandler aehandler = nullptr;
-std::unique_ptr<ProcessWatch> processWatch;
-std::unique_ptr<LaunchWatch> launchWatch;
+std::optional<ChangeWatch> processWatch;
+std::optional<ChangeWatch> launchWatch;
 
 /// Whether daemonPSN names a process that still runs.
 bool daemonPSNIsValid() {
@@ -143,8 +143,8 @@ void daemonSetup(const CFString* path) {
         daemonExecutablePath = CFRef<const CFString>::retain(path);
     if (AEInstallEventHandler(kAgentEventClass, typeWildCard, ae, nullptr) == noErr)
         aehandler = ae;
-    processWatch = std::make_unique<ProcessWatch>(processesChanged);
-    launchWatch = std::make_unique<LaunchWatch>(wranglerShowAgentState);
+    processWatch = watchProcesses(processesChanged);
+    launchWatch = watchLaunches(wranglerShowAgentState);
     changesOfVisit.reset();
     openingLaunched = !findDaemon();
     if (openingLaunched) {
@@ -161,8 +161,8 @@ void daemonCleanup() {
         informDaemon(); // it may have read the settings just before they were stored
         sendSimpleDaemonEvent(kAgentEventClass, kPaneClosed);
     }
-    processWatch = nullptr;
-    launchWatch = nullptr;
+    processWatch.reset();
+    launchWatch.reset();
     if (aehandler)
         AERemoveEventHandler(kAgentEventClass, typeWildCard, aehandler);
     aehandler = nullptr;
@@ -190,8 +190,7 @@ void daemonSendChanges(ChangeMask changes, bool doNotWait) {
 AgentState daemonState() {
     if (findDaemon() && daemonPSN != quitPSN)
         return AgentState::Running;
-    const bool isAwaited =
-        daemonExecutablePath && isLaunching(CFStringToUTF8(daemonExecutablePath.get()));
+    const bool isAwaited = daemonExecutablePath && isLaunching(toUTF8(daemonExecutablePath.get()));
     return isAwaited ? AgentState::Starting : AgentState::NotRunning;
 }
 

@@ -32,7 +32,7 @@ std::vector<NamedKey> namedKeys() {
     std::vector<NamedKey> keys;
     for (UInt16 code = 0; code < kKeyCount; ++code) {
         const auto text = createKeyComboString(0, code);
-        std::string name = text ? CFStringToUTF8(text.get()) : std::string();
+        std::string name = text ? toUTF8(text.get()) : std::string();
         name.erase(0, name.find_first_not_of(' '));
         if (!name.empty() && (code < kFirstModifierKey || code > kLastModifierKey))
             keys.push_back({name, code});

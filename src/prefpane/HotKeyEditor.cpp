@@ -217,9 +217,8 @@ void HotKeyEditor::updateHotKeyNotes() {
                 ->setTarget(same.empty() ? nullptr : menuTarget_);
         const auto combination = all[i]->view->combination();
         all[i]->menu->setAccessibilityHelp(
-            (combination
-                 ? filled(localized("HotKeys", "Now %1. "), {CFStringToUTF8(combination.get())})
-                 : std::string()) +
+            (combination ? filled(localized("HotKeys", "Now %1. "), {toUTF8(combination.get())})
+                         : std::string()) +
             note);
     }
 }

@@ -171,7 +171,7 @@ void HotKeyView::drawRect(const NSRect&) {
 
 std::string HotKeyView::accessibilityValue() const {
     const auto shown = text();
-    return shown ? CFStringToUTF8(shown.get()) : std::string();
+    return shown ? toUTF8(shown.get()) : std::string();
 }
 
 std::string HotKeyView::accessibilityStatus() const {

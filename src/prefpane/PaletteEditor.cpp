@@ -84,12 +84,17 @@ bool PaletteEditor::takeButtonSize(double typed, bool width, bool height) {
     return true;
 }
 
-void PaletteEditor::load() {
-    updateButtonSizes();
+void PaletteEditor::loadShape() {
     buttonShapeRadios->selectCellWithTag(static_cast<int>(prefs.buttonShape));
+}
+
+void PaletteEditor::loadContent() {
     for (const auto& [check, bit] : {std::pair(buttonContentIconCheck, kButtonContentIcon),
                                      {buttonContentNameCheck, kButtonContentName}})
         check->setState(prefs.buttonContent & bit ? NSOnState : NSOffState);
+}
+
+void PaletteEditor::load() {
     buttonHeightChange_ = buttonWidthChange_ = buttonSizeChange_ = 0;
     resetPaletteControls();
 }
@@ -99,7 +104,7 @@ void PaletteEditor::addActionMenuToCtl(NSPopUpButton* ctl, SEL selector, NSObjec
         const CFString* title = palutilActionTitle(static_cast<UInt8>(action));
         if (!title)
             continue;
-        const std::string text = CFStringToUTF8(title);
+        const std::string text = toUTF8(title);
         ctl->addItemWithTitle(text);
         NSMenuItem* item = ctl->itemWithTitle(text);
         item->setTag(action);

@@ -37,7 +37,11 @@ public:
     /// Binds the controls. The menus' items send addPaletteBtn: and setPaletteBtnAction: to
     /// `menuTarget`. None is owned.
     void setup(PaletteViewTarget& clicks, NSObject& menuTarget);
-    /// Shows the record, with nothing selected.
+
+    // Each shows a part of the record; `load` has the rest, and leaves nothing selected. The sizes
+    // are shown by updateButtonSizes.
+    void loadShape();
+    void loadContent();
     void load();
 
     /// Adds an item for every action that has a title; choosing it sends the selector, with the

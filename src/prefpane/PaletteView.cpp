@@ -32,7 +32,7 @@ std::string paletteSlotName(SInt32 index) {
         return {};
     const UInt8 action = prefs.buttonActions[index];
     const CFString* title = palutilActionTitle(action);
-    const std::string name = title                    ? CFStringToUTF8(title)
+    const std::string name = title                    ? toUTF8(title)
                              : action == kEmptyAction ? localized("Palette", "Empty slot")
                                                       : filled(localized("Palette", "Action %1"),
                                                                {std::to_string(action)});

@@ -160,12 +160,14 @@ void PreferenceWrangler::loadValues() {
     updateMasterOnOff();
     scanModeRadios_->selectCellWithTag(prefs.scanMode);
     triggerOnReleaseRadios_->selectCellWithTag(prefs.triggerOnRelease != 0);
+    palette_.loadShape();
     updateScanAreaRadios();
     updateScanAreaText();
     shownLaunchAtLogin_ = prefs.launchAtLogin != 0;
     updateLaunchUI();
 
     loadFlags();
+    palette_.loadContent();
     hotKeys_.load();
     lineColors_.load();
     scanAreas_.load();

@@ -47,7 +47,7 @@ void tellHowToSwitchOn() {
         {.kind = UserMessage::Kind::Note,
          .text = hasKeys
                      ? filled(localized("Switch", "Scanning is off. %1 switches it on again."),
-                              {CFStringToUTF8(keys.get())})
+                              {toUTF8(keys.get())})
                      : localized("Switch", "Scanning is off, and no hot key switches it on again."),
          .buttons = {{localized("Switch", "Switch on"), [] {
                           if (theWrangler)

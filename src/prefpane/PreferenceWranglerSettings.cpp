@@ -6,6 +6,9 @@
 #include "src/prefpane/SliderController.h"
 #include "src/prefpane/numbertext.h"
 
+#include <algorithm>
+#include <numeric>
+#include <string_view>
 #include <utility>
 
 namespace {
@@ -29,6 +32,61 @@ const std::type_info& typeOf(SettingControl control) {
 
 bool isCheckBox(const NSObject& object) {
     return typeid(object) == typeid(NSButton);
+}
+
+// Controls are bound, and show their settings, in fixed orders of their outlets, in which screen
+// readers hear of the values. Controls that aren't named follow in the order of the settings.
+
+constexpr std::string_view kBound[] = {"autoRepeatTime",
+                                       "guideTransparency",
+                                       "inverseReleaseTime",
+                                       "stepScanCancelTime",
+                                       "preScanDelayTime",
+                                       "lineScanTime",
+                                       "lineTransparency",
+                                       "menuScanSpeedScaleFactor",
+                                       "minTriggerDuration",
+                                       "pointerScanTime",
+                                       "afterClickDelay",
+                                       "clickTime",
+                                       "volume",
+                                       "borderGap",
+                                       "buttonGap",
+                                       "lineThickness"};
+constexpr std::string_view kShownBeforeButtonSizes[] = {"autoRepeatTime",
+                                                        "clickTime",
+                                                        "guideTransparency",
+                                                        "preScanDelayTime",
+                                                        "inverseReleaseTime",
+                                                        "stepScanCancelTime",
+                                                        "lineScanTime",
+                                                        "lineTransparency",
+                                                        "menuScanSpeedScaleFactor",
+                                                        "minTriggerDuration",
+                                                        "pointerScanTime",
+                                                        "afterClickDelay",
+                                                        "volume",
+                                                        "borderGap",
+                                                        "buttonGap"};
+constexpr std::string_view kFlags[] = {"canScanMenuBarCheck",       "lineScanCanEndKybdModeCheck",
+                                       "playClickSoundsCheck",      "playDragPrompts",
+                                       "useScanAccelerationCheck",  "wantHotKeyTriggerCheck",
+                                       "wantMouseClickTriggerCheck"};
+
+/// The rows of the settings, first those of the outlets.
+template <std::size_t Count>
+consteval auto rowsFrom(const std::string_view (&outlets)[Count]) {
+    std::array<std::size_t, kSettings.size()> rows{};
+    std::iota(rows.begin(), rows.end(), std::size_t{0});
+    const auto place = [&](std::size_t row) {
+        const char* outlet = kSettings[row].outlet;
+        const auto* found = std::ranges::find(outlets, outlet ? std::string_view(outlet) : "");
+        return std::pair(found - outlets, row);
+    };
+    std::ranges::sort(rows, {}, place);
+    if (place(rows[Count - 1]).first == Count)
+        throw "an outlet that no setting has";
+    return rows;
 }
 
 } // namespace
@@ -78,7 +136,7 @@ template std::vector<Outlet> PreferenceWrangler::withSettings(std::span<const Ou
 template std::vector<Action> PreferenceWrangler::withSettings(std::span<const Action>);
 
 void PreferenceWrangler::setupNumbers() {
-    for (std::size_t row = 0; row < kSettings.size(); ++row) {
+    for (const std::size_t row : rowsFrom(kBound)) {
         const Setting& setting = kSettings[row];
         const SettingLimits& limits = setting.limits;
         if (auto* number = dynamic_cast<NumberController*>(settingControls_[row]))
@@ -108,13 +166,17 @@ std::vector<std::string> PreferenceWrangler::layoutFaults() const {
 }
 
 void PreferenceWrangler::loadNumbers() {
-    for (NSObject* control : settingControls_)
-        if (auto* number = dynamic_cast<NumberController*>(control))
+    constexpr auto kRows = rowsFrom(kShownBeforeButtonSizes);
+    for (std::size_t i = 0; i < kRows.size(); ++i) {
+        if (i == std::size(kShownBeforeButtonSizes))
+            palette_.updateButtonSizes();
+        if (auto* number = dynamic_cast<NumberController*>(settingControls_[kRows[i]]))
             number->update();
+    }
 }
 
 void PreferenceWrangler::loadFlags() {
-    for (std::size_t row = 0; row < kSettings.size(); ++row)
+    for (const std::size_t row : rowsFrom(kFlags))
         if (auto* check = dynamic_cast<NSButton*>(settingControls_[row]))
             check->setState(*static_cast<UInt8*>(kSettings[row].in(prefs)) ? NSOnState
                                                                            : NSOffState);

@@ -133,7 +133,7 @@ void SampleScanView::drawScanLine() {
     NSRectFillUsingOperation({whole.x + 1, top, whole.width - 2, thickness}, NSCompositeSourceOver);
     context->setShouldAntialias(antialiases);
 
-    const auto text = CFStringCreateWithUTF8(localized("Preview", label));
+    const auto text = createFromUTF8(localized("Preview", label));
     const TextAttributes attributes{NSFont::systemFontOfSize(NSFont::smallSystemFontSize())};
     const NSSize size = sizeWithAttributes(text.get(), attributes);
     drawAtPoint(text.get(), {whole.x + whole.width - size.width - kLabelMargin, top + thickness},

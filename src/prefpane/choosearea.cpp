@@ -87,7 +87,7 @@ void drawArea(CGContext* context, const CGRect& area, const Look& look) {
 
 /// In the upper part of the main display. Not drawn when it can't be measured.
 void drawPrompt(CGContext* context) {
-    static const auto prompt = CFStringCreateWithUTF8(localized("ScanArea", kPrompt));
+    static const auto prompt = createFromUTF8(localized("ScanArea", kPrompt));
     const CFString* const text = prompt.get();
     const auto [origin, size] = CGDisplayBounds(CGMainDisplayID());
     Point extent{0, static_cast<SInt16>(static_cast<int>(size.width) / 2)};

@@ -26,7 +26,7 @@ constexpr double kLeastTop = 0.05; ///< s: smaller spreads don't fill the chart
 constexpr int kMostPoints = 40;    ///< that the chart shows
 
 void drawText(const std::string& text, const NSRect& place) {
-    NSDrawString(CFStringCreateWithUTF8(text).get(), place, {NSFont::systemFontOfSize(0)});
+    NSDrawString(createFromUTF8(text).get(), place, {NSFont::systemFontOfSize(0)});
 }
 
 /// A line between two points, in steps of a point.

@@ -48,7 +48,7 @@ void drawBand(const NSRect& band) {
 }
 
 void drawLabel(const char* text, float x, float y) {
-    NSDrawString(CFStringCreateWithUTF8(text).get(), {x, y, 400, kLabelHeight},
+    NSDrawString(createFromUTF8(text).get(), {x, y, 400, kLabelHeight},
                  {NSFont::systemFontOfSize(0)});
 }
 

@@ -33,7 +33,7 @@ TEST(AgentResources, FortyActionsHaveTitlesAndIconsThatDifferWithoutColour) {
     for (const auto& action : static_cast<const CFArray&>(*list).items()) {
         const auto text = [&](const CFString* key) {
             const auto* dictionary = dynamicCFCast<CFDictionary>(action.get());
-            return CFStringToUTF8(dynamicCFCast<CFString>(CFDictionaryGetValue(dictionary, key)));
+            return toUTF8(dynamicCFCast<CFString>(CFDictionaryGetValue(dictionary, key)));
         };
         const std::string title = text(CFSTR("title")), icon = text(CFSTR("icon"));
         SCOPED_TRACE(title + ", " + icon);

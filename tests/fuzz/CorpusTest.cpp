@@ -23,7 +23,7 @@ void require(bool holds, const char* rule) {
 
 bool readPropertyList(std::string_view bytes) {
     const auto list = CFPropertyListCreateFromXMLData(makeData(bytes).get());
-    const std::string written = list ? CFPropertyListToXML(list.get()) : "";
+    const std::string written = list ? propertyListToXML(list.get()) : "";
     if (!written.empty()) // else nothing, or larger than may be read
         require(CFEqual(CFPropertyListCreateFromXMLData(makeData(written).get()).get(), list.get()),
                 "what is written reads as the same");

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/keycombo.h"
 
-#include "platform/HIToolbox/KeyCodes.h"
+#include "platform/HIToolbox/detail/ScanCodes.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@ namespace {
 
 std::string name(UInt32 modifiers, SInt32 keyCode) {
     const auto text = createKeyComboString(modifiers, keyCode);
-    return text ? CFStringToUTF8(text.get()) : "null";
+    return text ? toUTF8(text.get()) : "null";
 }
 
 /// Another program writes this user's global preferences.

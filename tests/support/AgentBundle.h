@@ -15,7 +15,7 @@ public:
         write(path() / "Contents/Info.plist", dictionaryFile(""));
         prefs = PrefsRecord{};
         prefs.on = 0;
-        daemonSetup(CFStringCreateWithUTF8(path().string()).get());
+        daemonSetup(createFromUTF8(path().string()).get());
     }
 
     ~AgentBundle() { daemonCleanup(); }

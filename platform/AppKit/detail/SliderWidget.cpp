@@ -2,9 +2,8 @@
 #include "platform/AppKit/detail/SliderWidget.h"
 
 #include "platform/AppKit/detail/ShownText.h"
+#include "platform/AppKit/detail/SliderAccessibility.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QStyleOptionSlider>
@@ -20,58 +19,8 @@ constexpr int kMinimumHeight = 24; // points that a finger or a trembling hand n
 
 } // namespace
 
-/// Tells assistive technology the real value, where Qt's own interface tells whole-number steps.
-class SliderInterface final : public QAccessibleWidget, public QAccessibleValueInterface {
-public:
-    explicit SliderInterface(SliderWidget* slider)
-        : QAccessibleWidget(slider, QAccessible::Slider), slider_(slider) {}
-
-    static QAccessibleInterface* make(const QString&, QObject* object) {
-        auto* slider = dynamic_cast<SliderWidget*>(object);
-        return slider ? new SliderInterface(slider) : nullptr;
-    }
-
-    void* interface_cast(QAccessible::InterfaceType type) override {
-        if (type == QAccessible::ValueInterface)
-            return static_cast<QAccessibleValueInterface*>(this);
-        return QAccessibleWidget::interface_cast(type);
-    }
-
-    // The protocol of the Linux desktops has no place for a value's text, so the description
-    // begins with it.
-    QString text(QAccessible::Text kind) const override {
-        const QString own = QAccessibleWidget::text(kind);
-        if (kind == QAccessible::Value)
-            return slider_->valueText();
-        if (kind != QAccessible::Description || slider_->valueText().isEmpty())
-            return own;
-        return own.isEmpty() ? slider_->valueText() : slider_->valueText() + ". " + own;
-    }
-
-    QVariant currentValue() const override { return slider_->doubleValue(); }
-
-    void setCurrentValue(const QVariant& value) override {
-        slider_->setValue(slider_->positionOf(value.toDouble()));
-    }
-
-    QVariant minimumValue() const override { return slider_->minValue(); }
-
-    QVariant maximumValue() const override { return slider_->maxValue(); }
-
-    QVariant minimumStepSize() const override {
-        const double range = slider_->maxValue() - slider_->minValue();
-        return range * slider_->singleStep() / (slider_->maximum() - slider_->minimum());
-    }
-
-private:
-    SliderWidget* slider_;
-};
-
 SliderWidget::SliderWidget(QWidget* parent) : QSlider(parent) {
-    [[maybe_unused]] static const bool installed = [] {
-        QAccessible::installFactory(SliderInterface::make);
-        return true;
-    }();
+    installSliderAccessibility();
     setMinimumHeight(kMinimumHeight);
 }
 
@@ -86,6 +35,10 @@ void SliderWidget::setDoubleValue(double value) {
     const QSignalBlocker blocker(this);
     setValue(positionOf(limited));
     doubleValue_ = limited;
+}
+
+void SliderWidget::moveTo(double value) {
+    setValue(positionOf(value));
 }
 
 QSize SliderWidget::sizeHint() const {

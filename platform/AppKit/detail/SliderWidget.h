@@ -20,6 +20,9 @@ public:
     /// Goes to the nearest position; emits nothing.
     void setDoubleValue(double value);
 
+    /// Goes to the nearest position, as if the user had moved it there.
+    void moveTo(double value);
+
     /// How wide it would like to be, in points.
     void setPreferredWidth(int width) { preferredWidth_ = width; }
 
@@ -36,8 +39,6 @@ protected:
 private:
     int positionOf(double value) const;
     double valueAt(int position) const;
-
-    friend class SliderInterface;
 
     double minValue_ = 0;
     double maxValue_ = 1;

@@ -5,6 +5,7 @@
 #include "platform/AppKit/NSView.h"
 #include "platform/AppKit/detail/ViewAccessibility.h"
 #include "platform/HIToolbox/detail/EventMoment.h"
+#include "platform/HIToolbox/detail/ScanCodes.h"
 #include "platform/QuickDraw/detail/GrafPort.h"
 
 #include <QKeyEvent>

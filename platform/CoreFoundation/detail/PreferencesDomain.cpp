@@ -4,6 +4,7 @@
 #include "platform/CoreFoundation/detail/FileLock.h"
 #include "platform/CoreFoundation/detail/FileReading.h"
 #include "platform/CoreFoundation/detail/FileReplacement.h"
+#include "platform/CoreFoundation/detail/PropertyListXML.h"
 #include "platform/CoreFoundation/detail/TextEncoding.h"
 
 #include <cerrno>
@@ -62,6 +63,20 @@ PreferencesOutcome replaceFile(const std::string& target, const std::string& doc
     return error != 0 ? failure(error, target) : PreferencesOutcome{FileTrouble::None, target};
 }
 
+/// A copy, containers and texts included, that later changes of the value don't reach. Null when a
+/// property list can't hold the value.
+CFRef<const CFType> deepCopy(const CFType* value) {
+    if (const auto* string = dynamicCFCast<CFString>(value)) // nearly always
+        return isXMLText(string->text()) ? CFRef<CFString>::adopt(new CFString(string->text()))
+                                         : nullptr;
+    // As part of a list, so that a domain has room for it.
+    const CFArray wrapped({CFRef<const CFType>::retain(value)});
+    const std::string document = propertyListToXML(&wrapped);
+    const auto copy = document.empty() ? nullptr : readXMLPropertyList(document);
+    const auto* list = dynamicCFCast<CFArray>(copy.get());
+    return list ? list->items().front() : nullptr;
+}
+
 } // namespace
 
 PreferencesDomain::PreferencesDomain(std::string path, Readers readers)
@@ -76,7 +91,7 @@ const CFType* PreferencesDomain::value(const CFString* key) const {
 }
 
 void PreferencesDomain::setValue(const CFString* key, const CFType* newValue) {
-    auto storable = newValue ? CFPropertyListCreateDeepCopy(newValue) : nullptr;
+    auto storable = newValue ? deepCopy(newValue) : nullptr;
     if ((storable || !newValue) && isXMLText(key->text()))
         changes_.insert_or_assign(key->text(), Change{std::move(storable), false, nullptr});
 }
@@ -109,7 +124,7 @@ PreferencesOutcome PreferencesDomain::save() {
 
 /// Takes the file's content in, unless it is the one that is known.
 PreferencesDomain::FileState PreferencesDomain::refresh() {
-    const FileContents file = readRegularFile(path_, kCFPropertyListMaxSize);
+    const FileContents file = readRegularFile(path_, kPropertyListMaxSize);
     switch (file.status) {
     case FileStatus::Unreadable:
         return note(FileState::Unreadable, file.error);
@@ -170,7 +185,7 @@ PreferencesOutcome PreferencesDomain::write(FileState state) {
         changes_.clear();
         return {FileTrouble::None, path_};
     }
-    const std::string document = CFPropertyListToXML(values.get());
+    const std::string document = propertyListToXML(values.get());
     const std::string target = resolveLinks(path_);
     const bool isDamaged = state == FileState::Damaged;
     std::string aside;
@@ -198,5 +213,5 @@ PreferencesOutcome PreferencesDomain::saveOutlook() const {
 }
 
 PreferencesOutcome PreferencesDomain::saveCopy(const std::string& path) const {
-    return replaceFile(resolveLinks(path), CFPropertyListToXML(merged().get()), fileMode(readers_));
+    return replaceFile(resolveLinks(path), propertyListToXML(merged().get()), fileMode(readers_));
 }

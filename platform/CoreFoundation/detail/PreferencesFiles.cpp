@@ -21,8 +21,7 @@ std::string pathIn(const std::string& folder, const std::string& fileName) {
 } // namespace
 
 PreferencesFiles::PreferencesFiles(const std::string& fileName)
-    : name(CFStringCreateWithUTF8(fileName)),
-      own(pathIn(xdgConfigHome(), fileName), Readers::ThisUser) {
+    : name(createFromUTF8(fileName)), own(pathIn(xdgConfigHome(), fileName), Readers::ThisUser) {
     for (const std::string& folder : xdgSystemConfigFolders())
         everyones.emplace_back(pathIn(folder, fileName), Readers::Everyone);
 }

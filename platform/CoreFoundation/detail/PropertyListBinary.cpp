@@ -145,7 +145,7 @@ private:
         if (!findObject(reference, object))
             return false;
         total_ += 1 + object.size;
-        return total_ <= kCFPropertyListMaxSize;
+        return total_ <= kPropertyListMaxSize;
     }
 
     std::optional<std::u16string> readText(const Object& object) const {
@@ -238,9 +238,9 @@ private:
         case 0x8:
             return readUID(object);
         case 0xA:
-            return depth < kCFPropertyListMaxDepth ? readArray(object, depth + 1) : nullptr;
+            return depth < kPropertyListMaxDepth ? readArray(object, depth + 1) : nullptr;
         case 0xD:
-            return depth < kCFPropertyListMaxDepth ? readDictionary(object, depth + 1) : nullptr;
+            return depth < kPropertyListMaxDepth ? readDictionary(object, depth + 1) : nullptr;
         default: {
             auto text = readText(object);
             return text ? CFRef<CFString>::adopt(new CFString(std::move(*text))) : nullptr;

@@ -161,7 +161,7 @@ private:
                 text += view(xml_.text());
             else if (!xml_.isComment())
                 return std::nullopt;
-            if (text.size() > kCFPropertyListMaxSize)
+            if (text.size() > kPropertyListMaxSize)
                 return std::nullopt;
         }
         return isXMLText(text) ? std::optional(std::move(text)) : std::nullopt;
@@ -170,7 +170,7 @@ private:
     CFRef<const CFType> readValue(std::size_t depth) {
         const std::u16string name(view(xml_.name()));
         if (name == u"dict" || name == u"array") {
-            if (depth == kCFPropertyListMaxDepth)
+            if (depth == kPropertyListMaxDepth)
                 return nullptr;
             return name == u"dict" ? readDictionary(depth + 1) : readArray(depth + 1);
         }

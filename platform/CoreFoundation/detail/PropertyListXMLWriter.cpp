@@ -78,7 +78,7 @@ private:
     template <class Items, class WriteItem>
     void container(std::size_t depth, const std::string& name, const Items& items,
                    WriteItem writeItem) {
-        isSound_ = isSound_ && depth < kCFPropertyListMaxDepth;
+        isSound_ = isSound_ && depth < kPropertyListMaxDepth;
         if (!isSound_ || items.empty())
             return line(depth, '<' + name + "/>");
         line(depth, '<' + name + '>');

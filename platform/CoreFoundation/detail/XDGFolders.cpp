@@ -53,10 +53,6 @@ std::vector<std::string> xdgSystemConfigFolders() {
     return foldersOfVariable("XDG_CONFIG_DIRS", {"/etc/xdg"});
 }
 
-std::string xdgSystemConfig() {
-    return xdgSystemConfigFolders().front();
-}
-
 std::vector<std::string> xdgDataFolders() {
     std::vector<std::string> folders =
         foldersOfVariable("XDG_DATA_DIRS", {"/usr/local/share", "/usr/share"});

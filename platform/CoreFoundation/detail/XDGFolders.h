@@ -16,9 +16,6 @@ std::string xdgStateHome();
 /// The absolute folders of $XDG_CONFIG_DIRS, or /etc/xdg. Never empty; the first wins.
 std::vector<std::string> xdgSystemConfigFolders();
 
-/// The first of them, where this machine's files are written.
-std::string xdgSystemConfig();
-
 /// $XDG_DATA_HOME, or .local/share in the home folder; then the absolute folders of $XDG_DATA_DIRS,
 /// or /usr/local/share and /usr/share. The first wins.
 std::vector<std::string> xdgDataFolders();

@@ -47,7 +47,7 @@ std::vector<std::string> readBundleNames(const std::string& folder) {
 
 OSType codeOfText(const CFString* text) {
     char bytes[5];
-    if (!text || CFStringGetLength(text) != 4 ||
+    if (!text || text->text().size() != 4 ||
         !CFStringGetCString(text, bytes, sizeof bytes, kCFStringEncodingMacRoman))
         return 0;
     OSType code = 0;
@@ -57,7 +57,7 @@ OSType codeOfText(const CFString* text) {
 }
 
 BundleInfo readBundleInfo(const std::string& path) {
-    const FileContents file = readRegularFile(path, kCFPropertyListMaxSize);
+    const FileContents file = readRegularFile(path, kPropertyListMaxSize);
     const auto root = file.data ? CFPropertyListCreateFromXMLData(file.data.get()) : nullptr;
     const auto* info = dynamicCFCast<CFDictionary>(root.get());
     if (!info)
@@ -66,7 +66,7 @@ BundleInfo readBundleInfo(const std::string& path) {
         return dynamicCFCast<CFString>(CFDictionaryGetValue(info, CFSTR(key)));
     };
     const auto utf8 = [](const CFString* string) {
-        return string ? CFStringToUTF8(string) : std::string();
+        return string ? toUTF8(string) : std::string();
     };
     return {codeOfText(text("CFBundleSignature")), utf8(text("CFBundleIdentifier")),
             utf8(text("CFBundleIconFile"))};

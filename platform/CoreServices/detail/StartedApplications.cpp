@@ -19,7 +19,7 @@ constexpr OSType kApplicationType = fourCharCode("APPL");
 OSType signatureOf(const CFBundle* bundle) {
     const auto* text = dynamicCFCast<CFString>(
         CFBundleGetValueForInfoDictionaryKey(bundle, CFSTR("CFBundleSignature")));
-    const std::string code = text ? CFStringToUTF8(text) : std::string();
+    const std::string code = text ? toUTF8(text) : std::string();
     OSType signature = 0;
     for (const char letter : code)
         signature = signature << 8 | static_cast<UInt8>(letter);
@@ -33,7 +33,8 @@ StartedApplications& StartedApplications::shared() {
     return only;
 }
 
-StartedApplications::StartedApplications() : processes_([this] { noteProcesses(); }) {
+StartedApplications::StartedApplications()
+    : processes_(watchProcesses([this] { noteProcesses(); })) {
     changed_.setSingleShot(true);
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/CoreServices/ChangeWatch.h"
 #include "platform/CoreServices/LaunchTrouble.h"
-#include "platform/CoreServices/ProcessWatch.h"
 #include "platform/CoreServices/detail/ProcessEnd.h"
 #include "platform/CoreServices/detail/ProcessTable.h"
 
@@ -74,5 +74,5 @@ private:
     std::map<std::string, Application> applications_;
     std::map<pid_t, Quitting> quitting_;
     QTimer changed_;
-    ProcessWatch processes_;
+    ChangeWatch processes_;
 };

@@ -76,7 +76,7 @@ TEST_F(MatrixTest, DisabledCellsAndMatrixIgnoreTheUser) {
     owner_.control->setEnabled(false);
     EXPECT_TRUE(find("last")->hasFocus()) << "the focus isn't lost";
     owner_.control->setEnabled(true);
-    EXPECT_FALSE(owner_.control->cellWithTag(0)->isEnabled());
+    EXPECT_FALSE(cell(0)->isEnabled());
 }
 
 } // namespace

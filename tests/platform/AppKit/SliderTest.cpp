@@ -30,7 +30,7 @@ protected:
 
 TEST_F(SliderTest, KeepsValuesFromCodeAndMovesInStepsByKeys) {
     for (const auto& [set, kept, position] :
-         {std::tuple(3.14, 3.14, 21), std::tuple(0., 1., 0), std::tuple(99., 20., 190)}) {
+         {std::tuple(3.16, 3.16, 22), std::tuple(0., 1., 0), std::tuple(99., 20., 190)}) {
         owner_.control->setDoubleValue(set);
         EXPECT_EQ(value(), kept);
         EXPECT_EQ(slider_->value(), position);

@@ -41,7 +41,7 @@ std::string pathOfDomain() {
 }
 
 CFRef<CFString> text(int number) {
-    return CFStringCreateWithUTF8(std::to_string(number));
+    return createFromUTF8(std::to_string(number));
 }
 
 /// The whole file of the generation whose number is in every key.
@@ -49,7 +49,7 @@ std::string document(int generation) {
     const auto all = CFDictionaryCreateMutable();
     for (int key = 0; key < kKeys; ++key)
         CFDictionarySetValue(all.get(), text(key).get(), text(generation).get());
-    return CFPropertyListToXML(all.get());
+    return propertyListToXML(all.get());
 }
 
 /// Stores one generation after another until it is killed.

@@ -27,7 +27,7 @@ protected:
     }
 
     void useDomain(const std::string& name) {
-        domain_ = CFStringCreateWithUTF8(name);
+        domain_ = createFromUTF8(name);
         own_ = fs::path(std::getenv("XDG_CONFIG_HOME")) / "Preferences" / (name + ".plist");
         everyones_ = fs::path(std::getenv("XDG_CONFIG_DIRS")) / "Preferences" / (name + ".plist");
     }
@@ -40,7 +40,7 @@ protected:
     std::string get(const char* key) {
         const auto value = CFPreferencesCopyAppValue(CFSTR(key), domain_.get());
         const auto* string = dynamicCFCast<CFString>(value.get());
-        return string ? CFStringToUTF8(string) : "-";
+        return string ? toUTF8(string) : "-";
     }
 
     bool synchronize() { return CFPreferencesAppSynchronize(domain_.get()); }

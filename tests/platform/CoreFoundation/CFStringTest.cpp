@@ -43,8 +43,7 @@ TEST(CFString, WhatAnEncodingLacksIsRefused) {
 
 TEST(CFString, BuffersAndMutableStringsStopAtTheirLimit) {
     const auto string = CFStringCreateMutable(6);
-    CFStringAppend(string.get(), CFSTR("abc"));
-    CFStringAppendCString(string.get(), "\x8E", kCFStringEncodingMacRoman);
+    CFStringAppend(string.get(), createFromUTF8("abc\u00E9").get());
     CFStringAppendCharacters(string.get(), u"xyz", 3);
     EXPECT_EQ(string->text(), u"abc\u00E9xy");
     std::array<char, 7> buffer{};

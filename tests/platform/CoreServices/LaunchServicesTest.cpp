@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/CoreServices/ChangeWatch.h"
 #include "platform/CoreServices/LaunchTrouble.h"
 #include "tests/platform/CoreServices/TestPeer.h"
 #include "tests/support/TestApplication.h"
@@ -102,7 +103,7 @@ TEST_F(LaunchServicesTest, OneProgramRunsAtATimeDetachedAndIsReapedAtItsEnd) {
 
 TEST_F(LaunchServicesTest, WhatDoesntComeUpOrKeepsEndingIsTold) {
     int told = 0;
-    const LaunchWatch watch([&] { ++told; });
+    const ChangeWatch watch = watchLaunches([&] { ++told; });
     const auto trouble = [] {
         const auto found = findLaunchTrouble();
         return found ? static_cast<int>(found->trouble) : -1;

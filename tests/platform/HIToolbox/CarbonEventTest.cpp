@@ -49,7 +49,8 @@ TEST_F(CarbonEventTest, AHandlerMayDisposeOfItsWindowAndModifiersAreThoseOfTheEv
     Witness witness;
     const std::pair<Qt::KeyboardModifiers, UInt32> cases[] = {
         {Qt::AltModifier, optionKey},
-        {Qt::NoModifier, 0}, // those of before aren't held any more
+        {Qt::GroupSwitchModifier, optionKey}, // AltGr
+        {Qt::NoModifier, 0},                  // those of before aren't held any more
         {Qt::ShiftModifier | Qt::KeypadModifier, shiftKey},
         {Qt::ControlModifier, controlKey},
         {Qt::MetaModifier, cmdKey},

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/HIToolbox/FunctionKeys.h"
+#include "platform/HIToolbox/detail/KernelKeyboard.h"
 
 #include <gtest/gtest.h>
 

@@ -32,8 +32,8 @@ const std::string kPalette = iconElement("ics8", repeated(256, "\5"));
 
 TEST(IconFamilyTest, DecodesEveryDepthWithEveryMaskAndTheMostColoursThatAreWhole) {
     const std::string mask8 = iconElement("s8mk", repeated(256, "\x80"));
-    // Their right half is set, in black and in the mask.
-    const std::string bitmap = iconElement("ics#", repeated(32, std::string("\0\xFF", 2)));
+    // All but the first pixel is set, in black and in the mask.
+    const std::string bitmap = iconElement("ics#", repeated(32, "\x7F\xFF"));
     const std::string png = pngBytes(16, 16, Qt::red), large = packedColour(16384, kTeal);
     const auto faint = [](QRgb colour) { return qPremultiply(colour & 0x80FFFFFF); };
     // The standard palette's entries of the numbers 5 and 10.

@@ -18,6 +18,7 @@ struct Key {
     int key = Qt::Key_unknown;
     Qt::KeyboardModifiers modifiers = Qt::NoModifier;
     quint32 nativeModifiers = 0;
+    bool repeats = false;
 };
 
 constexpr quint32 kCapsLockOn = 2;
@@ -35,7 +36,7 @@ protected:
         for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
             QWidget* receiver = window()->focusWidget() ? window()->focusWidget() : window();
             QKeyEvent event(type, key.key, key.modifiers, static_cast<quint32>(key.code + 8), 0,
-                            key.nativeModifiers);
+                            key.nativeModifiers, {}, key.repeats);
             QApplication::sendEvent(receiver, &event);
         }
     }
@@ -96,8 +97,10 @@ TEST_F(HotKeyTest, CapturesWhateverIsPressed) {
     for (const auto& test : cases) {
         SCOPED_TRACE(test.shown);
         click("scanKey");
-        for (const Key& key : {Key{KEY_F13, Qt::Key_Meta}, {KEY_CALC, Qt::Key_Calculator}})
-            press(key); // a modifier by the layout, and one without a code
+        for (const Key& key : {Key{KEY_F13, Qt::Key_Meta},       // a modifier by the layout
+                               {KEY_CALC, Qt::Key_Calculator},   // one without a code
+                               {KEY_Z, Qt::Key_Z, {}, 0, true}}) // held since before
+            press(key);
         EXPECT_TRUE(isCapturing("scanKey"));
         press(test.key);
         expectChange(test.modifiers, test.keyCode);

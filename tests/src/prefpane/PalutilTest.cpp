@@ -65,7 +65,7 @@ protected:
 
 private:
     static void begin(const fs::path& agent) {
-        daemonSetup(CFStringCreateWithUTF8(agent.string()).get());
+        daemonSetup(createFromUTF8(agent.string()).get());
         palutilSetup();
     }
 

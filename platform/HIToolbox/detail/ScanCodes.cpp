@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/HIToolbox/KeyCodes.h"
+#include "platform/HIToolbox/detail/ScanCodes.h"
 
 #include <QKeyEvent>
 
