@@ -40,7 +40,7 @@ void expectStored(const Texts& texts) {
 }
 
 void setText(const char* key, const std::string& text) {
-    CFPreferencesSetAppValue(CFSTR(key), CFStringCreateWithUTF8(text).get(), kAgentBundleID);
+    CFPreferencesSetAppValue(CFSTR(key), createFromUTF8(text).get(), kAgentBundleID);
 }
 
 /// A part of a record as hexadecimal digits.
@@ -148,6 +148,7 @@ TEST(PrefsTest, WhatIsSavedIsLoadedAgain) {
     std::memcpy(other.buttonActions, actions, sizeof actions);
     prefs = other;
     ASSERT_TRUE(savePrefs());
+    EXPECT_FALSE(storedTexts().contains("scanner.pointerScanTime"));
     EXPECT_EQ(storedTexts()["scanner.pointerImageName"], "Fl\u00e8che\u2022");
     EXPECT_EQ(storedTexts()["hotkeys.keys"],
               "[ {0xffffffff,0x0} {0x4c,0x100} {0x35,0x0} {0x7,0x1a00} {0x7f,0x1b00}]");
@@ -171,6 +172,7 @@ const struct {
     {"soundLevel", "0x" + std::string(61, '0') + "5", AT(soundLevel), ""},
     {"scanner.preScanDelay", "2,5 s", AT(preScanDelay), "0000000000000040"},
     {"scanner.preScanDelay", "fast", AT(preScanDelay), ""},
+    {"scanner.scanMode", "2.", AT(scanMode), ""},
     {"scanner.lineColor", "[0x1ff80,0x80,0x0]", AT(lineColor), "80ff80000000"},
     {"palette.buttonSize", "(70000,40)", AT(buttonSize), ""},
     {"palette.buttonActions", "[ 4294967296]", AT(buttonActions), "0015"},
