@@ -12,6 +12,7 @@ struct NSAccessibilityElement {
     std::string label; ///< UTF-8
     NSRect frame;      ///< in the view's coordinates
     bool isSelected = false;
+    bool isEnabled = true;
 };
 
 /// A view that draws a list of things itself, and tells a screen reader of each. Indexes count from

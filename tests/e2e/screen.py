@@ -78,9 +78,10 @@ class Control:
         return Box(extents.x, extents.y, right, bottom)
 
     def cut_off_by(self) -> Box | None:
-        """The innermost of what encloses the control that shows only a part of it, or nothing."""
+        """The innermost of what encloses the control that shows only a part of it, or nothing.
+        A button's menu lies over everything."""
         box, parent = self.box, self._node.get_parent()
-        while parent.get_role() != Atspi.Role.APPLICATION:
+        while parent.get_role() not in (Atspi.Role.APPLICATION, Atspi.Role.PUSH_BUTTON):
             frame = Control(parent).box
             if box & frame != box:
                 return frame

@@ -20,6 +20,13 @@ NEVER = 0x7FFFFFFF  # the date of the last notice that there is
 SHOWING = "object:state-changed:showing"
 
 
+def forbid_the_notice(desktop) -> None:
+    """By all users' preferences."""
+    file = desktop.folder / "etc/Preferences/org.korvex.Agent.plist"
+    file.parent.mkdir(parents=True)
+    file.write_bytes(plistlib.dumps({DATE: NEVER}))
+
+
 def dismiss_the_notice(tour) -> str:
     """Meet the notice about assistive access, and dismiss it"""
     heard = []  # the names of what assistive technology is told to have come into sight

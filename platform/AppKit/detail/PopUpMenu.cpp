@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/PopUpMenu.h"
 
+#include "platform/AppKit/detail/ListAccessibility.h"
+
 #include <QKeyEvent>
 #include <QScreen>
 #include <QStyle>
@@ -27,9 +29,18 @@ QIcon blankIcon(QSize size) {
     return blank;
 }
 
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    auto* menu = dynamic_cast<PopUpMenu*>(object);
+    return menu ? new ListInterface(*menu, *menu) : nullptr;
+}
+
 } // namespace
 
 PopUpMenu::PopUpMenu(QWidget* button) : QListWidget(button) {
+    [[maybe_unused]] static const bool installed = [] {
+        QAccessible::installFactory(makeInterface);
+        return true;
+    }();
     setWindowFlags(Qt::Popup | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_WindowPropagation);
     // The click that closes the menu does nothing else.
@@ -222,6 +233,15 @@ void PopUpMenu::choose(int row) {
     const QString title = item(row)->text();
     close();
     onChosen(title);
+}
+
+NSAccessibilityElement PopUpMenu::accessibilityElement(int index) const {
+    const QRect place = visualItemRect(item(index)).translated(viewport()->pos());
+    return {item(index)->text().toStdString(),
+            {static_cast<float>(place.x()), static_cast<float>(place.y()),
+             static_cast<float>(place.width()), static_cast<float>(place.height())},
+            index == currentRow(),
+            canChoose(index)};
 }
 
 void PopUpMenu::hideEvent(QHideEvent* event) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/AppKit/NSAccessibility.h"
+
 #include <QIcon>
 #include <QListWidget>
 
@@ -17,8 +19,9 @@ struct PopUpEntry {
 
 /// The menu that a button opens, in a window of its own. It shows all its entries at once, in as
 /// few columns as the room above or below the button allows, read from top to bottom; it scrolls,
-/// column by column, only when the whole screen is too small.
-class PopUpMenu final : public QListWidget {
+/// column by column, only when the whole screen is too small. To a screen reader its entries are
+/// buttons: Qt's own lists offer no action that chooses.
+class PopUpMenu final : public QListWidget, public NSAccessibilityList {
 public:
     explicit PopUpMenu(QWidget* button);
 
@@ -28,6 +31,14 @@ public:
 
     std::function<void(const QString& title)> onChosen; ///< the menu is closed by then
     std::function<void()> onClosed;                     ///< after a choice or without one
+
+    int accessibilityCount() const override { return count(); }
+
+    NSAccessibilityElement accessibilityElement(int index) const override;
+
+    int accessibilityFocusedIndex() const override { return currentRow(); }
+
+    void accessibilityPress(int index) override { choose(index); }
 
 protected:
     bool event(QEvent* event) override;

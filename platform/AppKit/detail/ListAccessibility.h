@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAccessibleWidget>
+
+#include <vector>
+
+class NSAccessibilityList;
+
+/// A widget as the list of its elements, each with an action that presses it. Borrows both.
+class ListInterface final : public QAccessibleWidget {
+public:
+    ListInterface(QWidget& widget, NSAccessibilityList& list);
+    ~ListInterface() override;
+
+    using QAccessibleWidget::widget;
+
+    NSAccessibilityList& list() const { return list_; }
+
+    /// The parent of a window of its own, too: a menu belongs to its button.
+    QAccessibleInterface* parent() const override;
+    int childCount() const override;
+    QAccessibleInterface* child(int index) const override;
+    int indexOfChild(const QAccessibleInterface* element) const override;
+    QAccessibleInterface* childAt(int x, int y) const override;
+    QAccessibleInterface* focusChild() const override;
+
+private:
+    NSAccessibilityList& list_;
+    mutable std::vector<QAccessible::Id> elements_; ///< made when they are first asked for
+};
