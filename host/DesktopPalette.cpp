@@ -13,16 +13,14 @@ struct RoleColors {
     QRgb light, dark, plainLight, plainDark; ///< plain: of the highest contrast
 };
 
-/// The grey of the plain dark one keeps a ratio of 7 to its text and of 3 to the window, whose
-/// outlines some styles make darker than it.
 constexpr RoleColors kColors[] = {
     {QPalette::Window, 0xfafafa, 0x242427, 0xffffff, 0x000000},
     {QPalette::WindowText, 0x1d1d20, 0xf2f2f3, 0x000000, 0xffffff},
-    {QPalette::Base, 0xffffff, 0x38383d, 0xffffff, 0x595959},
-    {QPalette::AlternateBase, 0xf2f2f3, 0x404046, 0xf0f0f0, 0x202020},
+    {QPalette::Base, 0xffffff, 0x38383d, 0xffffff, 0x1a1a1a},
+    {QPalette::AlternateBase, 0xf2f2f3, 0x404046, 0xf0f0f0, 0x2a2a2a},
     {QPalette::Text, 0x1d1d20, 0xf2f2f3, 0x000000, 0xffffff},
     {QPalette::PlaceholderText, 0x68686e, 0xb0b0b6, 0x303030, 0xe0e0e0},
-    {QPalette::Button, 0xf0f0f1, 0x3a3a3f, 0xffffff, 0x595959},
+    {QPalette::Button, 0xf0f0f1, 0x3a3a3f, 0xffffff, 0x1a1a1a},
     {QPalette::ButtonText, 0x1d1d20, 0xf2f2f3, 0x000000, 0xffffff},
     {QPalette::BrightText, 0xffffff, 0xffffff, 0xffffff, 0xffffff},
     {QPalette::ToolTipBase, 0x2f2f33, 0x3a3a3f, 0xffffff, 0x000000},

@@ -15,7 +15,7 @@ INTERFACE = """<node><interface name="org.freedesktop.portal.Settings">
 <arg name="told" type="a{sa{sv}}" direction="out"/></method></interface></node>"""
 
 # The colour scheme (1 dark, 2 light) and whether contrast is to be high.
-LOOKS = {"light": (2, 0), "dark": (1, 0), "contrast": (2, 1)}
+LOOKS = {"light": (2, 0), "dark": (1, 0), "contrast": (2, 1), "contrast-dark": (1, 1)}
 
 
 def main(look: str) -> None:
