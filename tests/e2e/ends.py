@@ -19,9 +19,10 @@ from tests.e2e import hotkeys
 from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.scanarea import BUTTON
 from tests.e2e.screen import press
+from tests.e2e.sessionmanager import SessionManager
 from tests.e2e.startup import DATE, NEVER, NOTICE
 from tests.e2e.tour import PROGRAM, Tour, make_room, wait_for_agent
-from tests.e2e.waiting import Failure, check, until
+from tests.e2e.waiting import PATIENCE, Failure, check, until
 
 TABS = "Scanning|Presses|Look|Palette|General"
 SANITIZER_FOUND = 99  # the exit status
@@ -86,9 +87,14 @@ def change(tour: Tour) -> None:
     tour.stored.unlink()
 
 
-def visit(tour: Tour, state: str, end: Callable, read: bool, status: int) -> None:
+def store_only(tour: Tour, date: int) -> None:
+    """Leaves nothing in the file but when the notice was shown."""
     tour.stored.parent.mkdir(exist_ok=True)
-    tour.stored.write_bytes(plistlib.dumps({DATE: 1 if state == "the notice" else NEVER}))
+    tour.stored.write_bytes(plistlib.dumps({DATE: date}))
+
+
+def visit(tour: Tour, state: str, end: Callable, read: bool, status: int) -> None:
+    store_only(tour, 1 if state == "the notice" else NEVER)
     tour.program = tour.start_program() if read else start_unread(tour)
     tour.screen.find("Korvex", "frame")
     change(tour)
@@ -106,14 +112,14 @@ def visit(tour: Tour, state: str, end: Callable, read: bool, status: int) -> Non
 def crash_and_return(tour: Tour) -> None:
     """A visit that is killed after a change, and the next one, which must have it again."""
     unsaved = tour.desktop.home / ".local/state/korvex"
-    tour.stored.write_bytes(plistlib.dumps({DATE: NEVER}))
+    store_only(tour, NEVER)
     tour.start()
     tour.screen.find("Korvex", "frame")
     change(tour)
     until(lambda: list(unsaved.glob("unsaved.*")), "the change is on disk")
     tour.program.kill()
     tour.program.wait()
-    tour.stored.write_bytes(plistlib.dumps({DATE: NEVER}))
+    store_only(tour, NEVER)
     tour.start()
     (text,) = until(lambda: tour.screen.names("alert"), "the user is told")
     check("ended before it could save" in text, text)
@@ -123,6 +129,21 @@ def crash_and_return(tour: Tour) -> None:
     until(lambda: tour.program.poll() is not None, "it ends")
     check(plistlib.loads(tour.stored.read_bytes())["on"] == "no", "the change is lost")
     check(not list(unsaved.iterdir()), "the file of unsaved changes is still there")
+
+
+def cancel_a_logout(tour: Tour) -> None:
+    """A session that has the program save, and then goes on after all."""
+    store_only(tour, NEVER)
+    with SessionManager() as session:
+        tour.start()
+        tour.screen.find("Korvex", "frame")
+        session.wait_for_client()
+        change(tour)
+        session.cancel_a_logout()
+        check(plistlib.loads(tour.stored.read_bytes())["on"] == "no", "nothing was stored")
+        tour.choose_tab("General")
+        tour.ask_to_close()
+        check(tour.program.wait(PATIENCE) == 0, "the program failed")
 
 
 def clear_away(tour: Tour) -> None:
@@ -165,7 +186,8 @@ def main(arguments: list[str]) -> int:
                      visit, state, end, read, status)
             for state, end, read, status in VISITS
         ]
-        results.append(succeeds(Tour(desktop, build, out), "killed", crash_and_return))
+        for what, step in (("killed", crash_and_return), ("logout cancelled", cancel_a_logout)):
+            results.append(succeeds(Tour(desktop, build, out), what, step))
     return 0 if all(results) else 1
 
 
