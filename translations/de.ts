@@ -317,6 +317,53 @@
     </message>
 </context>
 <context>
+    <name>FirstSteps</name>
+    <message>
+        <source>It is running.</source>
+        <translation>Er läuft.</translation>
+    </message>
+    <message>
+        <source>It is starting…</source>
+        <translation>Er startet…</translation>
+    </message>
+    <message>
+        <source>It isn’t running now.</source>
+        <translation>Er läuft gerade nicht.</translation>
+    </message>
+    <message>
+        <source>None is installed yet.</source>
+        <translation>Noch ist keiner installiert.</translation>
+    </message>
+    <message>
+        <source>Press your switch, any key, or a mouse button in this field. It is filled while you press.</source>
+        <translation>Drücken Sie Ihren Schalter, irgendeine Taste oder in diesem Feld eine Maustaste. Solange Sie drücken, ist das Feld gefüllt.</translation>
+    </message>
+    <message>
+        <source>It answers: 1 press.</source>
+        <translation>Er antwortet: 1 Druck.</translation>
+    </message>
+    <message numerus="yes">
+        <source>It answers: %n presses.</source>
+        <translation>
+            <numerusform>Er antwortet: %n Druck.</numerusform>
+            <numerusform>Er antwortet: %n Drücke.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pressed.</source>
+        <translation>Gedrückt.</translation>
+    </message>
+    <message>
+        <source>%1 The last one took %2 seconds.</source>
+        <comment>%1 is a sentence: It answers: 3 presses.</comment>
+        <translation>%1 Der letzte dauerte %2 Sekunden.</translation>
+    </message>
+    <message>
+        <source>Press here</source>
+        <translation>Hier drücken</translation>
+    </message>
+</context>
+<context>
     <name>Formats</name>
     <message>
         <source>%.0f points</source>
@@ -1632,6 +1679,22 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>Otherwise Korvex waits until you turn scanning on, here or with its key.</source>
         <translation>Sonst wartet Korvex, bis Sie das Scannen einschalten, hier oder mit der Taste.</translation>
     </message>
+    <message>
+        <source>First steps</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message>
+        <source>The page of the first start</source>
+        <translation>Die Seite des ersten Starts</translation>
+    </message>
+    <message>
+        <source>Shows your switch answer, how you press, a speed, and where help is.</source>
+        <translation>Zeigt, wie Ihr Schalter antwortet, wie Sie drücken, ein Tempo und wo Hilfe ist.</translation>
+    </message>
+    <message>
+        <source>Show it…</source>
+        <translation>Zeigen…</translation>
+    </message>
 </context>
 <context>
     <name>Pointer</name>
@@ -2366,6 +2429,149 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>&amp;Not now</source>
         <translation>&amp;Nicht jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>firststeps</name>
+    <message>
+        <source>First steps</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message>
+        <source>Welcome to Korvex</source>
+        <translation>Willkommen bei Korvex</translation>
+    </message>
+    <message>
+        <source>A line sweeps across the screen, and a press of your switch chooses what it touches. Four steps are enough to begin. All of it can be changed later, and this page is found again under General.</source>
+        <translation>Eine Linie läuft über den Bildschirm, und ein Druck auf Ihren Schalter wählt, was sie berührt. Für den Anfang genügen vier Schritte. Alles lässt sich später ändern, und diese Seite finden Sie unter „Allgemein“ wieder.</translation>
+    </message>
+    <message>
+        <source>1. See your switch answer</source>
+        <translation>1. Sehen, wie Ihr Schalter antwortet</translation>
+    </message>
+    <message>
+        <source>Press your switch</source>
+        <translation>Ihren Schalter drücken</translation>
+    </message>
+    <message>
+        <source>Answers any key and button, and this button’s press action. Tab goes on.</source>
+        <translation>Antwortet auf jede Taste, jede Maustaste und die Drück-Aktion dieses Knopfs. Tab geht weiter.</translation>
+    </message>
+    <message>
+        <source>2. Choose how you press</source>
+        <translation>2. Wählen, wie Sie drücken</translation>
+    </message>
+    <message>
+        <source>Scan mode</source>
+        <translation>Scan-Art</translation>
+    </message>
+    <message>
+        <source>How your switch controls the scan.</source>
+        <translation>Wie Ihr Schalter den Scan steuert.</translation>
+    </message>
+    <message>
+        <source>Press to start, press to choose</source>
+        <translation>Drücken zum Starten, drücken zum Wählen</translation>
+    </message>
+    <message>
+        <source>The scan moves by itself. Press once to start it and again at the thing you want.</source>
+        <translation>Der Scan läuft von selbst. Drücken Sie einmal zum Starten und noch einmal beim Gewünschten.</translation>
+    </message>
+    <message>
+        <source>Hold to scan, let go to choose</source>
+        <translation>Halten zum Scannen, loslassen zum Wählen</translation>
+    </message>
+    <message>
+        <source>The scan moves while you hold your switch down and stops when you let go.</source>
+        <translation>Der Scan läuft, solange Sie den Schalter halten, und hält beim Loslassen an.</translation>
+    </message>
+    <message>
+        <source>Each press moves one step</source>
+        <translation>Jeder Druck geht einen Schritt weiter</translation>
+    </message>
+    <message>
+        <source>Nothing moves until you press, so there is no moment to miss.</source>
+        <translation>Nichts bewegt sich, bis Sie drücken; Sie können keinen Moment verpassen.</translation>
+    </message>
+    <message>
+        <source>3. Set a speed</source>
+        <translation>3. Ein Tempo einstellen</translation>
+    </message>
+    <message>
+        <source>Line crosses the screen in</source>
+        <translation>Linie überquert den Bildschirm in</translation>
+    </message>
+    <message>
+        <source>shorter</source>
+        <translation>kürzer</translation>
+    </message>
+    <message>
+        <source>longer</source>
+        <translation>länger</translation>
+    </message>
+    <message>
+        <source>Line scan time</source>
+        <translation>Zeit des Linien-Scans</translation>
+    </message>
+    <message>
+        <source>Begin slowly. More time makes it easier to stop the line in the right place.</source>
+        <translation>Beginnen Sie langsam. Mit mehr Zeit lässt sich die Linie leichter an der richtigen Stelle anhalten.</translation>
+    </message>
+    <message>
+        <source>Not sure?</source>
+        <translation>Nicht sicher?</translation>
+    </message>
+    <message>
+        <source>Press your switch a few times and see which speed suits you. That leaves this page.</source>
+        <translation>Drücken Sie einige Male Ihren Schalter und sehen Sie, welches Tempo zu Ihnen passt. Das verlässt diese Seite.</translation>
+    </message>
+    <message>
+        <source>Find my speed</source>
+        <translation>Mein Tempo finden</translation>
+    </message>
+    <message>
+        <source>Find my speed…</source>
+        <translation>Mein Tempo finden…</translation>
+    </message>
+    <message>
+        <source>4. Know where help is</source>
+        <translation>4. Wissen, wo Hilfe ist</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Says what each setting does. F1 opens it at any time.</source>
+        <translation>Sagt, was jede Einstellung bewirkt. F1 öffnet sie jederzeit.</translation>
+    </message>
+    <message>
+        <source>Open help</source>
+        <translation>Hilfe öffnen</translation>
+    </message>
+    <message>
+        <source>Korvex’s agent</source>
+        <translation>Der Agent von Korvex</translation>
+    </message>
+    <message>
+        <source>A program of its own that does the scanning; here you set how. Help says where to get one, and how to write one.</source>
+        <translation>Ein eigenes Programm, das scannt; hier stellen Sie ein, wie. Die Hilfe sagt, woher man einen bekommt und wie man einen schreibt.</translation>
+    </message>
+    <message>
+        <source>About the agent</source>
+        <translation>Über den Agenten</translation>
+    </message>
+    <message>
+        <source>Goes to the settings. What you changed here stays.</source>
+        <translation>Geht zu den Einstellungen. Was Sie hier geändert haben, bleibt.</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Los geht’s</translation>
     </message>
 </context>
 <context>

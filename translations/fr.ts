@@ -317,6 +317,53 @@
     </message>
 </context>
 <context>
+    <name>FirstSteps</name>
+    <message>
+        <source>It is running.</source>
+        <translation>Il fonctionne.</translation>
+    </message>
+    <message>
+        <source>It is starting…</source>
+        <translation>Il démarre…</translation>
+    </message>
+    <message>
+        <source>It isn’t running now.</source>
+        <translation>Il ne fonctionne pas en ce moment.</translation>
+    </message>
+    <message>
+        <source>None is installed yet.</source>
+        <translation>Aucun n’est encore installé.</translation>
+    </message>
+    <message>
+        <source>Press your switch, any key, or a mouse button in this field. It is filled while you press.</source>
+        <translation>Appuyez sur votre contacteur, sur une touche ou, dans ce champ, sur un bouton de la souris. Le champ est rempli tant que vous appuyez.</translation>
+    </message>
+    <message>
+        <source>It answers: 1 press.</source>
+        <translation>Il répond&#xa0;: 1 appui.</translation>
+    </message>
+    <message numerus="yes">
+        <source>It answers: %n presses.</source>
+        <translation>
+            <numerusform>Il répond&#xa0;: %n appui.</numerusform>
+            <numerusform>Il répond&#xa0;: %n appuis.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pressed.</source>
+        <translation>Appuyé.</translation>
+    </message>
+    <message>
+        <source>%1 The last one took %2 seconds.</source>
+        <comment>%1 is a sentence: It answers: 3 presses.</comment>
+        <translation>%1 Le dernier a duré %2 secondes.</translation>
+    </message>
+    <message>
+        <source>Press here</source>
+        <translation>Appuyez ici</translation>
+    </message>
+</context>
+<context>
     <name>Formats</name>
     <message>
         <source>%.0f points</source>
@@ -1632,6 +1679,22 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <source>Otherwise Korvex waits until you turn scanning on, here or with its key.</source>
         <translation>Sinon, Korvex attend que vous activiez le balayage, ici ou avec sa touche.</translation>
     </message>
+    <message>
+        <source>First steps</source>
+        <translation>Premiers pas</translation>
+    </message>
+    <message>
+        <source>The page of the first start</source>
+        <translation>La page du premier démarrage</translation>
+    </message>
+    <message>
+        <source>Shows your switch answer, how you press, a speed, and where help is.</source>
+        <translation>Montre la réponse de votre contacteur, votre façon d’appuyer, une vitesse et où trouver de l’aide.</translation>
+    </message>
+    <message>
+        <source>Show it…</source>
+        <translation>La montrer…</translation>
+    </message>
 </context>
 <context>
     <name>Pointer</name>
@@ -2366,6 +2429,149 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>&amp;Not now</source>
         <translation>&amp;Pas maintenant</translation>
+    </message>
+</context>
+<context>
+    <name>firststeps</name>
+    <message>
+        <source>First steps</source>
+        <translation>Premiers pas</translation>
+    </message>
+    <message>
+        <source>Welcome to Korvex</source>
+        <translation>Bienvenue dans Korvex</translation>
+    </message>
+    <message>
+        <source>A line sweeps across the screen, and a press of your switch chooses what it touches. Four steps are enough to begin. All of it can be changed later, and this page is found again under General.</source>
+        <translation>Une ligne traverse l’écran, et un appui sur votre contacteur choisit ce qu’elle touche. Quatre étapes suffisent pour commencer. Tout peut être changé plus tard, et cette page se retrouve dans «&#xa0;Général&#xa0;».</translation>
+    </message>
+    <message>
+        <source>1. See your switch answer</source>
+        <translation>1. Voir répondre votre contacteur</translation>
+    </message>
+    <message>
+        <source>Press your switch</source>
+        <translation>Appuyer sur votre contacteur</translation>
+    </message>
+    <message>
+        <source>Answers any key and button, and this button’s press action. Tab goes on.</source>
+        <translation>Répond à toute touche, à tout bouton et à l’action d’appui de ce bouton. Tab passe à la suite.</translation>
+    </message>
+    <message>
+        <source>2. Choose how you press</source>
+        <translation>2. Choisir comment vous appuyez</translation>
+    </message>
+    <message>
+        <source>Scan mode</source>
+        <translation>Mode de balayage</translation>
+    </message>
+    <message>
+        <source>How your switch controls the scan.</source>
+        <translation>Comment votre contacteur commande le balayage.</translation>
+    </message>
+    <message>
+        <source>Press to start, press to choose</source>
+        <translation>Appuyer pour lancer, appuyer pour choisir</translation>
+    </message>
+    <message>
+        <source>The scan moves by itself. Press once to start it and again at the thing you want.</source>
+        <translation>Le balayage avance seul. Appuyez une fois pour le lancer, et de nouveau sur ce que vous voulez.</translation>
+    </message>
+    <message>
+        <source>Hold to scan, let go to choose</source>
+        <translation>Maintenir pour balayer, relâcher pour choisir</translation>
+    </message>
+    <message>
+        <source>The scan moves while you hold your switch down and stops when you let go.</source>
+        <translation>Le balayage avance tant que vous maintenez votre contacteur, et s’arrête quand vous le relâchez.</translation>
+    </message>
+    <message>
+        <source>Each press moves one step</source>
+        <translation>Chaque appui avance d’un pas</translation>
+    </message>
+    <message>
+        <source>Nothing moves until you press, so there is no moment to miss.</source>
+        <translation>Rien ne bouge sans appui&#xa0;: il n’y a aucun moment à manquer.</translation>
+    </message>
+    <message>
+        <source>3. Set a speed</source>
+        <translation>3. Régler une vitesse</translation>
+    </message>
+    <message>
+        <source>Line crosses the screen in</source>
+        <translation>La ligne traverse l’écran en</translation>
+    </message>
+    <message>
+        <source>shorter</source>
+        <translation>plus court</translation>
+    </message>
+    <message>
+        <source>longer</source>
+        <translation>plus long</translation>
+    </message>
+    <message>
+        <source>Line scan time</source>
+        <translation>Durée de balayage de la ligne</translation>
+    </message>
+    <message>
+        <source>Begin slowly. More time makes it easier to stop the line in the right place.</source>
+        <translation>Commencez lentement. Avec plus de temps, il est plus facile d’arrêter la ligne au bon endroit.</translation>
+    </message>
+    <message>
+        <source>Not sure?</source>
+        <translation>Un doute&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Press your switch a few times and see which speed suits you. That leaves this page.</source>
+        <translation>Appuyez quelques fois sur votre contacteur et voyez quelle vitesse vous convient. Cela quitte cette page.</translation>
+    </message>
+    <message>
+        <source>Find my speed</source>
+        <translation>Trouver ma vitesse</translation>
+    </message>
+    <message>
+        <source>Find my speed…</source>
+        <translation>Trouver ma vitesse…</translation>
+    </message>
+    <message>
+        <source>4. Know where help is</source>
+        <translation>4. Savoir où trouver de l’aide</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Says what each setting does. F1 opens it at any time.</source>
+        <translation>Dit ce que fait chaque réglage. F1 l’ouvre à tout moment.</translation>
+    </message>
+    <message>
+        <source>Open help</source>
+        <translation>Ouvrir l’aide</translation>
+    </message>
+    <message>
+        <source>Korvex’s agent</source>
+        <translation>L’agent de Korvex</translation>
+    </message>
+    <message>
+        <source>A program of its own that does the scanning; here you set how. Help says where to get one, and how to write one.</source>
+        <translation>Un programme à part, qui fait le balayage&#xa0;; ici, vous réglez comment. L’aide dit où en trouver un, et comment en écrire un.</translation>
+    </message>
+    <message>
+        <source>About the agent</source>
+        <translation>À propos de l’agent</translation>
+    </message>
+    <message>
+        <source>Goes to the settings. What you changed here stays.</source>
+        <translation>Va aux réglages. Ce que vous avez changé ici reste.</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Passer</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Commencer</translation>
     </message>
 </context>
 <context>

@@ -104,6 +104,7 @@ std::span<const Action> PreferenceWrangler::actions() const {
     using W = PreferenceWrangler;
     static constexpr Action own[] = {
         actionRow<&W::showHelp>("showHelp:"),
+        actionRow<&W::showFirstSteps>("showFirstSteps:"),
         actionRow<&W::undo>("undo:"),
         actionRow<&W::redo>("redo:"),
         actionRow<&W::changedMasterOnOff>("changedMasterOnOff:"),
@@ -182,7 +183,20 @@ void PreferenceWrangler::setHelpBookName(const CFType* name) {
         helpBookName_ = string;
 }
 
+const CFBundle* PreferenceWrangler::ownBundle() {
+    return CFBundleGetBundleWithIdentifier(
+        CFSTR((std::string(kAgentBundleIDText) + ".PrefsPane").c_str()));
+}
+
 void PreferenceWrangler::showHelp(NSButton*) {
+    showHelpPage(nullptr);
+}
+
+void PreferenceWrangler::showHelpPage(const CFString* page) {
     if (helpBookName_)
-        AHGotoPage(helpBookName_, nullptr, nullptr);
+        AHGotoPage(helpBookName_, page, nullptr);
+}
+
+void PreferenceWrangler::showFirstSteps(NSButton* sender) {
+    firstStepsOpen(ownBundle(), sender->window(), *this);
 }

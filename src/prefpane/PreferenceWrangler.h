@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "src/firststeps/FirstStepsPage.h"
 #include "src/history.h"
 #include "src/prefpane/HotKeyEditor.h"
 #include "src/prefpane/HotKeyView.h"
@@ -31,7 +32,8 @@ class PreferenceWrangler final : public NSObject,
                                  public NumberChangeTarget,
                                  public PaletteViewTarget,
                                  public HotKeyViewTarget,
-                                 public TryPageTarget {
+                                 public TryPageTarget,
+                                 public FirstStepsTarget {
 public:
     PreferenceWrangler() = default;
     ~PreferenceWrangler() override;
@@ -49,10 +51,12 @@ public:
     void setup();
     /// Shows every field of `prefs` in its control. Reports nothing, but for a custom scan area
     /// that is in use while it is empty: that is switched off, and the change reported.
-    void loadValues();
+    void loadValues() override;
     /// Keeps the name, borrowed, if it is a string; anything else leaves the previous one.
     void setHelpBookName(const CFType* name);
     void showHelp(NSButton* sender);
+    void showHelpPage(const CFString* page) override;
+    void showFirstSteps(NSButton* sender);
 
     // PreferenceWranglerChanges.cpp: edits
 
@@ -149,6 +153,7 @@ public:
     // PreferenceWranglerTryout.cpp: finding the speed of the line
 
     void findMySpeed(NSButton* sender);
+    void openTryPage(NSWindow window) override;
     void takeLineScanTime(double seconds) override;
 
     // PointerChooser: the choice of a pointer
@@ -171,6 +176,8 @@ public:
     void setCustomScanArea(NSButton* sender);
 
 private:
+    /// The pane's own; null while none is loaded.
+    static const CFBundle* ownBundle();
     void noteStep();
     void showStep(const HistoryStep& step, const PrefsRecord& before, const PrefsRecord& after,
                   const char* pattern);

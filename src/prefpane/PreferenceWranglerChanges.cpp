@@ -108,6 +108,7 @@ void PreferenceWrangler::updateMasterOnOff() {
 
 void PreferenceWrangler::updateMasterState() {
     masterState_->setStringValue(stateText(prefs.on != 0));
+    firstStepsUpdate();
 }
 
 void PreferenceWrangler::setMasterOnOff(bool on) {

@@ -4,10 +4,11 @@
 #include "platform/AppKit/NSButton.h"
 
 void PreferenceWrangler::findMySpeed(NSButton* sender) {
-    const auto identifier = CFStringCreateMutable(0);
-    CFStringAppend(identifier.get(), kAgentBundleID);
-    CFStringAppend(identifier.get(), CFSTR(".PrefsPane"));
-    tryPageOpen(CFBundleGetBundleWithIdentifier(identifier.get()), sender->window(), *this);
+    openTryPage(sender->window());
+}
+
+void PreferenceWrangler::openTryPage(NSWindow window) {
+    tryPageOpen(ownBundle(), window, *this);
 }
 
 void PreferenceWrangler::takeLineScanTime(double seconds) {

@@ -6,6 +6,7 @@
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/AppleHelp.h"
 #include "src/AXReq/axreq.h"
+#include "src/firststeps/FirstStepsPage.h"
 #include "src/openwindow.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/PreferenceWrangler.h"
@@ -62,6 +63,7 @@ void VLDKorvexPane::willSelect() {
     openWindowSetup([](const SettingSet& settings, const PrefsRecord& record) {
         theWrangler->adopt(settings, record);
     });
+    firstStepsOffer(bundle(), mainView()->window(), *preferenceWrangler_);
 }
 
 void VLDKorvexPane::didSelect() {
@@ -83,5 +85,7 @@ void VLDKorvexPane::didUnselect() {
     palutilCleanup();
     prefsCleanup();
     daemonCleanup();
-    tryPageClose(); // last, since it touches the window, whose server may hang
+    // Last, since these touch the window, whose server may hang.
+    firstStepsClose();
+    tryPageClose();
 }

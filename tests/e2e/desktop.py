@@ -3,6 +3,7 @@
 
 import ctypes
 import os
+import plistlib
 import shutil
 import signal
 import subprocess
@@ -28,12 +29,14 @@ class Desktop:
     was started in. Everything that was started meanwhile ends when it is left, also what has
     detached itself, and also when a signal ends this process.
 
-    `environment` is added to what the desktop's programs see.
+    `environment` is added to what the desktop's programs see. Only at a first start the pane shows
+    the page for that: otherwise all users' preferences keep it away.
     """
 
-    def __init__(self, width: int, height: int, environment: dict[str, str]):
+    def __init__(self, width: int, height: int, environment: dict[str, str], first_start: bool = False):
         self.size = (width, height)
         self.environment = environment
+        self.first_start = first_start
 
     def __enter__(self) -> "Desktop":
         with ExitStack() as undo:
@@ -56,6 +59,11 @@ class Desktop:
     @property
     def config(self) -> Path:
         return self.home / ".config"
+
+    def set_for_all_users(self, preferences: dict) -> None:
+        file = self.folder / "etc/Preferences/org.korvex.Agent.plist"
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_bytes(plistlib.dumps(preferences))
 
     def output_of(self, program: str) -> str:
         """What a program that was started wrote to its standard output and error."""
@@ -83,6 +91,8 @@ class Desktop:
         runtime = self.folder / "run"
         for folder in (runtime, self.home, self.config):
             folder.mkdir(mode=0o700)
+        if not self.first_start:
+            self.set_for_all_users({"firstStepsSeen": True})
         path = os.environ["PATH"]
         os.environ.clear()
         os.environ.update(

@@ -52,6 +52,7 @@ def open_and_change(desktop: Desktop, root: Path, out: Path) -> None:
     program = desktop.start(Path("/usr/sbin/chroot"), str(root), f"/usr/bin/{PROGRAM}")
     screen.find("Not now", "push button")
     press("key", "Escape")
+    screen.click("Start", "push button")
     screen.click("Line scan time, longer", "push button")
     slider = screen.find("Line scan time", "slider")
     until(lambda: slider.value == 10.5, "the setting changes")
@@ -68,7 +69,7 @@ def main(arguments: list[str]) -> None:
         folder = Path(undo.enter_context(tempfile.TemporaryDirectory(prefix="korvex-system.")))
         root = folder / "root"
         install(package, root)
-        desktop = undo.enter_context(Desktop(1024, 768, {}))
+        desktop = undo.enter_context(Desktop(1024, 768, {}, first_start=True))
         bind(desktop.folder, root, undo)
         open_and_change(desktop, root, out)
         remove(root)

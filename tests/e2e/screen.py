@@ -4,6 +4,7 @@ and keys, pictures."""
 
 import subprocess
 from collections import Counter
+from contextlib import suppress
 from pathlib import Path
 from typing import Callable, Iterator, NamedTuple, TypeVar
 
@@ -140,7 +141,9 @@ class Screen:
         """Waits for the control. It must be the only one of its name and role."""
 
         def named() -> list[Control]:
-            return [each for each in self.shown() if each.role == role and each.name == name]
+            with suppress(GLib.Error):  # some of it may be going
+                return [each for each in self.shown() if each.role == role and each.name == name]
+            return []
 
         controls = until(named, f"{role} “{name}” is on the screen")
         check(len(controls) == 1, f"{len(controls)} of role {role} are named “{name}”")

@@ -21,10 +21,7 @@ SHOWING = "object:state-changed:showing"
 
 
 def forbid_the_notice(desktop) -> None:
-    """By all users' preferences."""
-    file = desktop.folder / "etc/Preferences/org.korvex.Agent.plist"
-    file.parent.mkdir(parents=True)
-    file.write_bytes(plistlib.dumps({DATE: NEVER}))
+    desktop.set_for_all_users({DATE: NEVER, "firstStepsSeen": True})
 
 
 def dismiss_the_notice(tour) -> str:
@@ -51,6 +48,25 @@ def dismiss_the_notice(tour) -> str:
     tour.noticed = plistlib.loads(tour.stored.read_bytes())
     check(tour.noticed == {DATE: int(time.time()) // 86400}, f"{tour.noticed} is stored")
     return "it was announced, had the keyboard and went by Escape"
+
+
+def take_the_first_steps(tour) -> str:
+    """Press the switch on the page of the first start, leave it, and see it again"""
+    field = tour.screen.find("Press your switch", "push button")
+    until(lambda: field.has(Atspi.StateType.FOCUSED), "the keyboard is at the field for presses")
+    tour.screen.check_names()
+    press("key", "space")
+    until(lambda: any(name.startswith("It answers: 1 press.") for name in tour.screen.names("label")),
+          "the press is answered")
+    tour.picture("first-steps")
+    tour.screen.click("Start", "push button")
+    tour.choose_tab("General")
+    tour.screen.click("First steps", "push button")
+    tour.screen.find("Welcome to Korvex", "label")
+    press("key", "Escape")
+    tour.screen.find("General", "filler")
+    tour.choose_tab("Scanning")
+    return "the press was answered; the page went by Start and, asked for again, by Escape"
 
 
 def launch_at_login(tour) -> str:

@@ -174,6 +174,7 @@ def close_it_unchanged(tour: Tour) -> str:
 STEPS = (
     startup.dismiss_the_notice,
     launch_the_agent,
+    startup.take_the_first_steps,
     look_at_the_tabs,
     change_three_settings,
     *palette.STEPS,
@@ -218,7 +219,7 @@ def main(arguments: list[str]) -> int:
     build, out = (Path(argument).resolve() for argument in arguments)
     make_room(out)
     exit_on_signals()
-    with Desktop(1024, 768, {"KORVEX_AGENT_LOG": str(out / "agent.log")}) as desktop:
+    with Desktop(1024, 768, {"KORVEX_AGENT_LOG": str(out / "agent.log")}, True) as desktop:
         tour = Tour(desktop, build, out)
         try:
             succeeded = walk(tour)

@@ -12,5 +12,6 @@ inline std::filesystem::path noticeMutingFile() {
 
 inline void muteNotice() {
     writeFile(noticeMutingFile(), dictionaryFile("<key>axReqLastNoticeDate</key>"
-                                                 "<integer>2147483647</integer>"));
+                                                 "<integer>2147483647</integer>"
+                                                 "<key>firstStepsSeen</key><true/>"));
 }

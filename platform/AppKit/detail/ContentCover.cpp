@@ -25,7 +25,10 @@ ContentCover::ContentCover(QWidget* window, QWidget* content)
     setGeometry(window->rect());
     window->installEventFilter(this);
     for (auto* child : window->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (child == this || child->isWindow() || child->isHidden())
+        // Before the window is shown, what it will show is hidden as well, but not explicitly.
+        const bool isHidden =
+            child->isHidden() && child->testAttribute(Qt::WA_WState_ExplicitShowHide);
+        if (child == this || child->isWindow() || isHidden)
             continue;
         hidden_.emplace_back(child);
         child->hide();

@@ -7,9 +7,10 @@
 NibWindow::NibWindow(std::unique_ptr<QWidget> own) : CarbonWindow(std::move(own)) {
     for (auto* button : widget().findChildren<QAbstractButton*>()) {
         controls_.push_back(std::make_unique<CarbonControl>(*button, target()));
+        // Ambiguous where the window around it has a use for the key, too.
         if (button->property("cancelButton").toBool())
             new QShortcut(QKeySequence(Qt::Key_Escape), &widget(), button, &QAbstractButton::click,
-                          Qt::WidgetWithChildrenShortcut);
+                          &QAbstractButton::click, Qt::WidgetWithChildrenShortcut);
     }
 }
 

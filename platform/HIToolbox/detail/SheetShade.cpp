@@ -109,10 +109,11 @@ bool SheetShade::eventFilter(QObject* watched, QEvent* event) {
     const auto* widget = qobject_cast<QWidget*>(watched);
     if (event->type() != QEvent::Shortcut || !widget || widget->window() != window() || !sheet_)
         return false;
-    // A letter of a button. What is covered may have it too, and Qt then asks either one.
+    // A letter of a button, or Escape. What is covered may have it too, and Qt then asks either.
     const QKeySequence& key = static_cast<QShortcutEvent*>(event)->key();
     for (auto* button : sheet_->findChildren<QAbstractButton*>())
-        if (button->shortcut() == key)
+        if (button->shortcut() == key ||
+            (key == Qt::Key_Escape && button->property("cancelButton").toBool()))
             button->animateClick();
     return true;
 }

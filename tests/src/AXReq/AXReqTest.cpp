@@ -32,7 +32,9 @@ namespace {
 
 class AXReqTest : public PaneTest {
 protected:
-    AXReqTest() { std::filesystem::remove(noticeMutingFile()); }
+    AXReqTest() {
+        writeFile(noticeMutingFile(), dictionaryFile("<key>firstStepsSeen</key><true/>"));
+    }
 
     ~AXReqTest() override { axReqCancel(); }
 

@@ -181,7 +181,8 @@ TEST_F(SettingsTest, LoadingShowsTheRecordAndReportsNothingButAnEmptyScanArea) {
 TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityAction) {
     // They open a menu, a window or the help book, or end in a choice elsewhere.
     const QRegularExpression others(
-        "^(helpBtn|findMySpeed|undoBtn|redoBtn|sections.*|.*Grid|.*Label|scanAreaBtn|lineColor|"
+        "^(helpBtn|findMySpeed|firstStepsBtn|undoBtn|redoBtn|sections.*|.*Grid|.*Label|scanAreaBtn|"
+        "lineColor|"
         "paletteView|sampleScanImage|"
         "(add|swapWith|setAction|remove)(Button)?Btn|.*KeyBtn|.*Key2Btn|builder.*)$");
     prefs.scanArea = {0, 0, 640, 480};

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "src/firststeps/FirstStepsPage.h"
+
+#include "platform/AppKit/NSButton.h"
+#include "platform/AppKit/NSMatrix.h"
+#include "platform/AppKit/NSTextField.h"
+#include "platform/CoreFoundation/CFNumber.h"
+#include "platform/CoreFoundation/CFPreferences.h"
+#include "platform/CoreFoundation/Localization.h"
+#include "src/prefpane/Daemon.h"
+#include "src/prefpane/SliderController.h"
+#include "src/settings.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+/// The one page; null while it isn't open.
+std::unique_ptr<FirstStepsPage> page;
+
+/// In the agent's domain, as the notice's day: true once the page has been left.
+const CFString* seenKey() {
+    return CFSTR("firstStepsSeen");
+}
+
+bool isAnythingStored() {
+    return std::any_of(kSettings.begin(), kSettings.end(), [](const Setting& setting) -> bool {
+        return CFPreferencesCopyValue(CFSTR(setting.key), kAgentBundleID, kCFPreferencesCurrentUser,
+                                      kCFPreferencesAnyHost)
+            .get();
+    });
+}
+
+const Setting& lineScanTimeRow() {
+    return *std::find_if(kSettings.begin(), kSettings.end(), [](const Setting& setting) {
+        return setting.offset == offsetof(PrefsRecord, lineScanTime);
+    });
+}
+
+std::string agentText() {
+    switch (daemonState()) {
+    case AgentState::Running:
+        return localized("FirstSteps", "It is running.");
+    case AgentState::Starting:
+        return localized("FirstSteps", "It is starting…");
+    case AgentState::NotRunning:
+        break;
+    }
+    return daemonMainBundle() ? localized("FirstSteps", "It isn’t running now.")
+                              : localized("FirstSteps", "None is installed yet.");
+}
+
+} // namespace
+
+FirstStepsPage::FirstStepsPage(NSWindow window, FirstStepsTarget& target)
+    : window_(window), target_(target) {}
+
+FirstStepsPage::~FirstStepsPage() {
+    if (closing_)
+        RemoveEventLoopTimer(closing_);
+    window_.setContentView(nullptr);
+}
+
+std::span<const Outlet> FirstStepsPage::outlets() const {
+    using P = FirstStepsPage;
+    static constexpr Outlet table[] = {
+        outletRow<&P::pressView_>("pressView"),
+        outletRow<&P::pressWords_>("pressWords"),
+        outletRow<&P::scanModeRadios_>("scanModeRadios"),
+        outletRow<&P::lineScanTime_>("lineScanTime"),
+        outletRow<&P::agentState_>("agentState"),
+    };
+    return table;
+}
+
+std::span<const Action> FirstStepsPage::actions() const {
+    using P = FirstStepsPage;
+    static constexpr Action table[] = {
+        actionRow<&P::changedScanMode>("changedScanMode:"),
+        actionRow<&P::findMySpeed>("findMySpeed:"),
+        actionRow<&P::showHelp>("showHelp:"),
+        actionRow<&P::showAgentHelp>("showAgentHelp:"),
+        actionRow<&P::leave>("leave:"),
+    };
+    return table;
+}
+
+bool FirstStepsPage::show(const std::string& path, std::vector<std::string>& errors) {
+    if (!nib_.instantiate(path, *this, errors))
+        return false;
+    pressView_->setTarget(this);
+    const Setting& time = lineScanTimeRow();
+    lineScanTime_->setPageSteps(time.limits.pageSteps);
+    lineScanTime_->setDoubleKindAt(time.in(prefs), time.limits.step, time.changes,
+                                   time.limits.format);
+    update();
+    answered();
+    window_.setContentView(nib_.topLevelView());
+    window_.makeFirstResponder(pressView_);
+    return true;
+}
+
+void FirstStepsPage::update() {
+    scanModeRadios_->selectCellWithTag(prefs.scanMode);
+    lineScanTime_->update();
+    agentState_->setStringValue(agentText());
+}
+
+void FirstStepsPage::answered() {
+    pressWords_->setStringValue(pressView_->words());
+}
+
+void FirstStepsPage::changedScanMode(NSMatrix* sender) {
+    prefs.scanMode = sender->selectedTag();
+    target_.changed(kChangeTriggers);
+}
+
+void FirstStepsPage::showHelp(NSButton*) {
+    target_.showHelpPage(nullptr);
+}
+
+void FirstStepsPage::showAgentHelp(NSButton*) {
+    target_.showHelpPage(CFSTR("scanner.html"));
+}
+
+void FirstStepsPage::findMySpeed(NSButton* sender) {
+    wantsTry_ = true;
+    leave(sender);
+}
+
+// The page goes a moment later: its button is still at work.
+void FirstStepsPage::leave(NSButton*) {
+    if (closing_)
+        return;
+    CFPreferencesSetAppValue(seenKey(), kCFBooleanTrue, kAgentBundleID);
+    CFPreferencesAppSynchronize(kAgentBundleID);
+    InstallEventLoopTimer(GetMainEventLoop(), 0, 0,
+                          NewEventLoopTimerUPP([](EventLoopTimerRef, void* self) {
+                              static_cast<FirstStepsPage*>(self)->close();
+                          }),
+                          this, &closing_);
+}
+
+void FirstStepsPage::close() {
+    FirstStepsTarget& target = target_;
+    const NSWindow window = window_;
+    const bool wantsTry = wantsTry_;
+    firstStepsClose(); // which ends this object
+    target.loadValues();
+    if (wantsTry)
+        target.openTryPage(window);
+}
+
+void firstStepsOpen(const CFBundle* bundle, NSWindow window, FirstStepsTarget& target) {
+    const auto form =
+        bundle ? CFBundleCopyResourceURL(bundle, CFSTR("firststeps"), CFSTR("ui"), nullptr)
+               : CFRef<CFURL>();
+    if (page || !form)
+        return;
+    page = std::make_unique<FirstStepsPage>(window, target);
+    std::vector<std::string> errors;
+    if (!page->show(form->path(), errors))
+        page.reset();
+    for (const std::string& error : errors)
+        std::fprintf(stderr, "%s\n", error.c_str());
+}
+
+void firstStepsOffer(const CFBundle* bundle, NSWindow window, FirstStepsTarget& target) {
+    if (!isAnythingStored() && !CFPreferencesGetAppBooleanValue(seenKey(), kAgentBundleID, nullptr))
+        firstStepsOpen(bundle, window, target);
+}
+
+void firstStepsUpdate() {
+    if (page)
+        page->update();
+}
+
+void firstStepsClose() {
+    page.reset();
+}

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "platform/CoreFoundation/CFPreferences.h"
+#include "tests/support/PaneFixture.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QLabel>
+
+namespace {
+
+/// The page of the first start, and the settings that lie behind it.
+class FirstStepsTest : public PaneTest {
+protected:
+    FirstStepsTest() {
+        writeFile(noticeMutingFile(), dictionaryFile("<key>axReqLastNoticeDate</key>"
+                                                     "<integer>2147483647</integer>"));
+    }
+
+    QWidget* page() const { return window()->findChild<QWidget*>(QStringLiteral("firststeps")); }
+
+    template <class Widget = QAbstractButton>
+    Widget* part(const char* name) const {
+        return page()->findChild<Widget*>(QString::fromLatin1(name));
+    }
+
+    void leaveBy(const char* button) {
+        QTest::mouseClick(part(button), Qt::LeftButton);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return page() == nullptr; }));
+    }
+
+    bool isShownWhenOpened() {
+        open();
+        const bool isShown = page() && page()->isVisible();
+        putAway();
+        return isShown;
+    }
+};
+
+TEST_F(FirstStepsTest, IsShownOnceAndOnlyToWhoHasNoSettings) {
+    EXPECT_TRUE(isShownWhenOpened());
+    EXPECT_TRUE(isShownWhenOpened()) << "it wasn't left, so it wasn't seen";
+    open();
+    leaveBy("skipBtn");
+    putAway();
+    EXPECT_FALSE(isShownWhenOpened());
+    writeFile(storedFile(), dictionaryFile("<key>scanner.scanMode</key><string>1</string>"));
+    CFPreferencesAppSynchronize(kAgentBundleID);
+    EXPECT_FALSE(isShownWhenOpened()) << "there are settings";
+}
+
+TEST_F(FirstStepsTest, TakesEditsOnTheOneRoadAndIsFoundAgain) {
+    openWithAgent();
+    QTest::mouseClick(part("scanModeRadios1"), Qt::LeftButton, {}, {8, 8});
+    EXPECT_EQ(agentLog_.next()["mask"].toInteger(), kChangeTriggers);
+    QTest::mouseClick(part("lineScanTimeIncBtn"), Qt::LeftButton);
+    EXPECT_EQ(agentLog_.next()["mask"].toInteger(), kChangeScanSpeed);
+    EXPECT_EQ(prefs.scanMode, 1);
+    EXPECT_EQ(prefs.lineScanTime, 10.5);
+    leaveBy("startBtn");
+    EXPECT_TRUE(find<QAbstractButton>("scanModeRadios1")->isChecked());
+    EXPECT_EQ(find("lineScanTimeLabel")->property("text"), QStringLiteral(" 10.5 sec"));
+
+    click("firstStepsBtn");
+    ASSERT_TRUE(page());
+    EXPECT_EQ(part<QLabel>("agentState")->text(), QStringLiteral("It is running."));
+    leaveBy("findMySpeed");
+    EXPECT_TRUE(window()->findChild<QWidget*>(QStringLiteral("tryout"))) << "the try isn't open";
+}
+
+TEST_F(FirstStepsTest, AnswersEachPress) {
+    open();
+    auto* field = part<QWidget>("pressView");
+    const auto* words = part<QLabel>("pressWords");
+    EXPECT_TRUE(field->hasFocus());
+    QTest::keyPress(field, Qt::Key_F7);
+    EXPECT_EQ(words->text(), QStringLiteral("Pressed."));
+    QTest::keyRelease(field, Qt::Key_F7);
+    EXPECT_TRUE(words->text().startsWith(QLatin1String("It answers: 1 press.")));
+    QTest::mouseClick(field, Qt::RightButton);
+    EXPECT_TRUE(words->text().startsWith(QLatin1String("It answers: 2 presses.")));
+    QAccessible::queryAccessibleInterface(field)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(words->text(), QStringLiteral("It answers: 3 presses."));
+}
+
+} // namespace
