@@ -14,11 +14,13 @@ double uniform(double low, double high, std::mt19937& random) {
 }
 
 double nextPress(const SimulatedUser& user, const tryout::Sweep& sweep, double markTime,
-                 std::mt19937& random) {
-    if (uniform(0, 1, random) >= user.lapses)
-        return markTime +
-               std::normal_distribution<>(user.timing.lateness, user.timing.spread)(random);
-    return uniform(0, 2 * sweep.time, random); // half of them are none: the sweep is over
+                 double spread, std::mt19937& random) {
+    const double kind = uniform(0, 1, random);
+    if (kind < user.lapses)
+        return uniform(0, 2 * sweep.time, random); // half of them are none: the sweep is over
+    if (kind < user.lapses + user.strays)
+        return uniform(0, sweep.time, random);
+    return markTime + user.timing.lateness + spread * std::normal_distribution<>()(random);
 }
 
 /// Whether the true rates, of presses that are no lapses, are what was promised.
@@ -33,7 +35,7 @@ bool keepsPromise(const tryout::Advice& advice, tryout::Conditions tried,
 
 } // namespace
 
-const SimulatedUser kSimulatedUsers[8] = {
+const SimulatedUser kSimulatedUsers[12] = {
     {"quick and even", {0, 0.05}},
     {"even", {0.05, 0.1}},
     {"late by a constant", {0.3, 0.1}},
@@ -42,6 +44,10 @@ const SimulatedUser kSimulatedUsers[8] = {
     {"very shaky", {0, 0.3}},
     {"lapses 1 in 12", {0.1, 0.1}, 1.0 / 12},
     {"lapses, double presses", {0.1, 0.15}, 1.0 / 12, 0.1},
+    {"without any spread", {0.05, 0}},
+    {.who = "never presses", .timing = {1e9, 0}, .verdict = tryout::Verdict::NothingPressed},
+    {.who = "presses at random", .timing = {}, .strays = 1, .verdict = tryout::Verdict::Random},
+    {.who = "gets tired", .timing = {0, 0.05}, .tiring = 0.35, .verdict = tryout::Verdict::Tired},
 };
 
 tryout::Conditions simulatedConditions() {
@@ -57,9 +63,11 @@ tryout::Measured simulateTry(const SimulatedUser& user, const tryout::Conditions
     std::shuffle(marks.begin(), marks.end(), random);
 
     tryout::Measured measured;
+    double spread = user.timing.spread;
     for (const double mark : marks) {
         tryout::Trial trial{.markTime = sweep.timeAt(mark)};
-        const double press = std::max(nextPress(user, sweep, trial.markTime, random), 0.0);
+        const double press = std::max(nextPress(user, sweep, trial.markTime, spread, random), 0.0);
+        spread *= 1 + user.tiring;
         trial.pressed = press < sweep.time;
         if (trial.pressed) {
             trial.offset = press - trial.markTime;
@@ -81,10 +89,16 @@ SimulatedRun simulateRun(const SimulatedUser& user, tryout::Conditions condition
         measured.earlierOffsets = earlier;
         const tryout::Advice advice = tryout::advise(measured, conditions);
         using enum tryout::Verdict;
-        if (advice.verdict == Keep || advice.verdict == Change)
-            return {true, keepsPromise(advice, conditions, user.timing), advice.time, run.tries};
-        if (advice.verdict == OutOfReach)
+        if (run.tries == 1)
+            run.first = advice.verdict;
+        if (advice.verdict == OutOfReach || user.verdict)
             return run;
+        if (advice.verdict == Keep || advice.verdict == Change) {
+            run.advised = true;
+            run.kept = keepsPromise(advice, conditions, user.timing);
+            run.time = advice.time;
+            return run;
+        }
         conditions.sweep.time = advice.time;
         for (const tryout::Trial& trial : measured.trials)
             if (trial.pressed)

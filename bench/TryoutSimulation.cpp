@@ -13,7 +13,7 @@ namespace {
 constexpr double kFloor = 0.95;
 
 struct Total {
-    int advised = 0, kept = 0, tries = 0;
+    int advised = 0, kept = 0, tries = 0, told = 0;
     double time = 0;
 };
 
@@ -26,6 +26,7 @@ Total runAll(const SimulatedUser& user, bool accelerates, int runs, std::mt19937
         total.advised += run.advised;
         total.kept += run.kept;
         total.tries += run.tries;
+        total.told += user.verdict == run.first;
         total.time += run.time;
     }
     return total;
@@ -34,10 +35,14 @@ Total runAll(const SimulatedUser& user, bool accelerates, int runs, std::mt19937
 /// Prints the user's line; whether the promise is kept often enough.
 bool report(const SimulatedUser& user, bool accelerates, int runs, std::mt19937& random) {
     const Total total = runAll(user, accelerates, runs, random);
+    std::printf("%-24s %-8s ", user.who, accelerates ? "speeding" : "steady");
+    if (user.verdict) {
+        std::printf("%43s %8.3f\n", "", double(total.told) / runs);
+        return true;
+    }
     const double kept = total.advised == 0 ? 1 : double(total.kept) / total.advised;
-    std::printf("%-24s %6.0f %6.0f %-8s %8.3f %8.4f %7.2f %7.1f\n", user.who,
-                user.timing.lateness * 1000, user.timing.spread * 1000,
-                accelerates ? "speeding" : "steady", double(total.advised) / runs, kept,
+    std::printf("%6.0f %6.0f %8.3f %8.4f %6.2f %6.1f\n", user.timing.lateness * 1000,
+                user.timing.spread * 1000, double(total.advised) / runs, kept,
                 double(total.tries) / runs, total.advised == 0 ? 0 : total.time / total.advised);
     return kept >= kFloor;
 }
@@ -49,8 +54,8 @@ bool report(const SimulatedUser& user, bool accelerates, int runs, std::mt19937&
 int main(int count, char** arguments) {
     const int runs = count > 1 ? std::atoi(arguments[1]) : 10000;
     std::mt19937 random(20261);
-    std::printf("%-24s %6s %6s %-8s %8s %8s %7s %7s\n", "user", "late", "spread", "line", "advised",
-                "kept", "tries", "time");
+    std::printf("%-24s %-8s %6s %6s %8s %8s %6s %6s %8s\n", "user", "line", "late", "spread",
+                "advised", "kept", "tries", "time", "told");
     bool good = true;
     for (const bool accelerates : {false, true})
         for (const SimulatedUser& user : kSimulatedUsers)

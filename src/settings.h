@@ -204,6 +204,14 @@ static_assert(isInRecordOrder());
 
 inline constexpr std::span<const Setting> kSettings = settingrows::kRows;
 
+/// The one with its field at that offset, which must be one's.
+constexpr const Setting& settingAt(std::size_t offset) {
+    std::size_t row = 0;
+    while (kSettings[row].offset != offset)
+        ++row;
+    return kSettings[row];
+}
+
 /// Null when there is none of that key.
 inline const Setting* settingOfKey(std::string_view key) {
     for (const Setting& setting : kSettings)

@@ -2255,10 +2255,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>%.0f mm hinter der Marke.</translation>
     </message>
     <message>
-        <source>You stopped within %.0f mm of the mark %d times in %zu. </source>
-        <translation>Im Abstand von %.0f mm zur Marke haben Sie %d Mal von %zu angehalten. </translation>
-    </message>
-    <message>
         <source>Your presses all came at the same moment, as far as this computer can tell. </source>
         <translation>Ihre Drücke kamen alle im selben Moment, soweit dieser Computer es sagen kann. </translation>
     </message>
@@ -2349,6 +2345,42 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>%s   %.1f s   %.0f of %.0f   spread %.0f ms</source>
         <translation>%s   %.1f s   %.0f von %.0f   Streuung %.0f ms</translation>
+    </message>
+    <message>
+        <source>Set “%1” to %2</source>
+        <translation>„%1“ auf %2 setzen</translation>
+    </message>
+    <message>
+        <source>%1. Undo takes it back. Try once more before you change anything else.</source>
+        <translation>%1. „Rückgängig“ nimmt es zurück. Versuchen Sie es noch einmal, bevor Sie etwas anderes ändern.</translation>
+    </message>
+    <message>
+        <source>As you have set it, each press moves the scan one step, and no speed matters. Here you can try a line that sweeps: press when it is on the mark.</source>
+        <translation>So wie Sie es eingestellt haben, rückt jeder Druck den Scan einen Schritt weiter, und kein Tempo spielt eine Rolle. Hier können Sie eine Linie probieren, die durchläuft: Drücken Sie, wenn sie auf der Marke ist.</translation>
+    </message>
+    <message>
+        <source>You stopped within %g mm of the mark %d times in %zu. </source>
+        <translation>Im Abstand von %g mm zur Marke haben Sie %d Mal von %zu angehalten. </translation>
+    </message>
+    <message>
+        <source> With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit.</source>
+        <translation> Mit dem Zeiger danach, bei %.1f Sekunden, erwarten wir, dass %d von 10 Klicks treffen.</translation>
+    </message>
+    <message>
+        <source> That is for a line that sweeps; as you have set it, it moves one step a press.</source>
+        <translation> Das gilt für eine Linie, die durchläuft; so wie Sie es eingestellt haben, rückt sie mit jedem Druck einen Schritt weiter.</translation>
+    </message>
+    <message>
+        <source>You are having a rest, and your switch scans as ever. Press here to go on.</source>
+        <translation>Sie machen eine Pause, und Ihr Schalter scannt wie immer. Drücken Sie hier, um weiterzumachen.</translation>
+    </message>
+    <message>
+        <source>Target: a palette button, %g mm high</source>
+        <translation>Ziel: ein Palettenknopf, %g mm hoch</translation>
+    </message>
+    <message>
+        <source>Target: %g mm</source>
+        <translation>Ziel: %g mm</translation>
     </message>
 </context>
 <context>
@@ -2647,6 +2679,34 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Delete all tries</source>
         <translation>Alle Versuche löschen</translation>
+    </message>
+    <message>
+        <source>Changes this setting, and nothing else. Undo takes it back.</source>
+        <translation>Ändert diese Einstellung und sonst nichts. „Rückgängig“ nimmt es zurück.</translation>
+    </message>
+    <message>
+        <source>Target, smaller</source>
+        <translation>Ziel, kleiner</translation>
+    </message>
+    <message>
+        <source>For a smaller mark, by a millimetre.</source>
+        <translation>Für eine kleinere Marke, um einen Millimeter.</translation>
+    </message>
+    <message>
+        <source>Target, larger</source>
+        <translation>Ziel, größer</translation>
+    </message>
+    <message>
+        <source>For a larger mark, by a millimetre.</source>
+        <translation>Für eine größere Marke, um einen Millimeter.</translation>
+    </message>
+    <message>
+        <source>Makes the mark as high as a button of the palette.</source>
+        <translation>Macht die Marke so hoch wie einen Knopf der Palette.</translation>
+    </message>
+    <message>
+        <source>As a palette button</source>
+        <translation>Wie ein Palettenknopf</translation>
     </message>
 </context>
 </TS>

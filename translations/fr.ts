@@ -2255,10 +2255,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>%.0f mm après le repère.</translation>
     </message>
     <message>
-        <source>You stopped within %.0f mm of the mark %d times in %zu. </source>
-        <translation>Vous vous êtes arrêté à moins de %.0f mm du repère %d fois sur %zu. </translation>
-    </message>
-    <message>
         <source>Your presses all came at the same moment, as far as this computer can tell. </source>
         <translation>Vos appuis sont tous tombés au même moment, pour autant que cet ordinateur le sache. </translation>
     </message>
@@ -2349,6 +2345,42 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>%s   %.1f s   %.0f of %.0f   spread %.0f ms</source>
         <translation>%s   %.1f s   %.0f sur %.0f   dispersion %.0f ms</translation>
+    </message>
+    <message>
+        <source>Set “%1” to %2</source>
+        <translation>Régler «&#xa0;%1&#xa0;» sur %2</translation>
+    </message>
+    <message>
+        <source>%1. Undo takes it back. Try once more before you change anything else.</source>
+        <translation>%1. «&#xa0;Annuler&#xa0;» revient en arrière. Essayez encore une fois avant de changer autre chose.</translation>
+    </message>
+    <message>
+        <source>As you have set it, each press moves the scan one step, and no speed matters. Here you can try a line that sweeps: press when it is on the mark.</source>
+        <translation>Avec votre réglage, chaque appui avance le balayage d’un pas, et aucune vitesse ne compte. Ici, vous pouvez essayer une ligne qui balaie&#xa0;: appuyez quand elle est sur le repère.</translation>
+    </message>
+    <message>
+        <source>You stopped within %g mm of the mark %d times in %zu. </source>
+        <translation>Vous vous êtes arrêté à moins de %g mm du repère %d fois sur %zu. </translation>
+    </message>
+    <message>
+        <source> With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit.</source>
+        <translation> Avec le pointeur ensuite, à %.1f secondes, nous attendons %d clics justes sur 10.</translation>
+    </message>
+    <message>
+        <source> That is for a line that sweeps; as you have set it, it moves one step a press.</source>
+        <translation> Cela vaut pour une ligne qui balaie&#xa0;; avec votre réglage, elle avance d’un pas par appui.</translation>
+    </message>
+    <message>
+        <source>You are having a rest, and your switch scans as ever. Press here to go on.</source>
+        <translation>Vous faites une pause, et votre contacteur balaie comme toujours. Appuyez ici pour continuer.</translation>
+    </message>
+    <message>
+        <source>Target: a palette button, %g mm high</source>
+        <translation>Cible&#xa0;: un bouton de la palette, %g mm de haut</translation>
+    </message>
+    <message>
+        <source>Target: %g mm</source>
+        <translation>Cible&#xa0;: %g mm</translation>
     </message>
 </context>
 <context>
@@ -2647,6 +2679,34 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>Delete all tries</source>
         <translation>Supprimer tous les essais</translation>
+    </message>
+    <message>
+        <source>Changes this setting, and nothing else. Undo takes it back.</source>
+        <translation>Change ce réglage, et rien d’autre. «&#xa0;Annuler&#xa0;» revient en arrière.</translation>
+    </message>
+    <message>
+        <source>Target, smaller</source>
+        <translation>Cible, plus petite</translation>
+    </message>
+    <message>
+        <source>For a smaller mark, by a millimetre.</source>
+        <translation>Pour un repère plus petit, d’un millimètre.</translation>
+    </message>
+    <message>
+        <source>Target, larger</source>
+        <translation>Cible, plus grande</translation>
+    </message>
+    <message>
+        <source>For a larger mark, by a millimetre.</source>
+        <translation>Pour un repère plus grand, d’un millimètre.</translation>
+    </message>
+    <message>
+        <source>Makes the mark as high as a button of the palette.</source>
+        <translation>Donne au repère la hauteur d’un bouton de la palette.</translation>
+    </message>
+    <message>
+        <source>As a palette button</source>
+        <translation>Comme un bouton de la palette</translation>
     </message>
 </context>
 </TS>

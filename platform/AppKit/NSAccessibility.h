@@ -69,5 +69,11 @@ enum NSAccessibilityViewNotification { NSAccessibilityTitleChangedNotification }
 /// Tells a running screen reader that the view itself is called something else.
 void NSAccessibilityPostNotification(NSView* view, NSAccessibilityViewNotification notification);
 
+enum NSAccessibilityAnnouncement { NSAccessibilityAnnouncementRequestedNotification };
+
+/// Has a running screen reader say the text, in UTF-8, on behalf of the view.
+void NSAccessibilityPostNotification(NSView* view, NSAccessibilityAnnouncement notification,
+                                     const std::string& text);
+
 /// Tells a running screen reader that the view's value or status changed.
 void postValueChanged(const NSAccessibilityStaticText& view);

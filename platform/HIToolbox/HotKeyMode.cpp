@@ -53,9 +53,10 @@ private:
 
     bool released(const QKeyEvent& event) {
         const bool isOld = hasEnded_ && held_.contains(event.nativeScanCode());
-        if (held_.isUp(event))
+        const bool isUp = held_.isUp(event);
+        if (isUp)
             leaveWhenUp();
-        return isOld;
+        return isOld || !isUp; // half of a repetition is no release
     }
 
     void follow(const QWindow* focus) {

@@ -154,7 +154,7 @@ public:
 
     void findMySpeed(NSButton* sender);
     void openTryPage(NSWindow window) override;
-    void takeLineScanTime(double seconds) override;
+    void takeTime(const Setting& setting, double seconds) override;
 
     // PointerChooser: the choice of a pointer
 

@@ -11,8 +11,8 @@ void PreferenceWrangler::openTryPage(NSWindow window) {
     tryPageOpen(ownBundle(), window, *this);
 }
 
-void PreferenceWrangler::takeLineScanTime(double seconds) {
-    prefs.lineScanTime = seconds;
+void PreferenceWrangler::takeTime(const Setting& setting, double seconds) {
+    *static_cast<double*>(setting.in(prefs)) = seconds;
     loadNumbers();
-    changed(kChangeScanSpeed);
+    changed(setting.changes);
 }

@@ -4,11 +4,10 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "src/settings.h"
 #include "src/tryout/HistoryView.h"
-#include "src/tryout/tryconditions.h"
 #include "src/tryout/words.h"
 
+#include <cmath>
 #include <cstdio>
 #include <memory>
 #include <random>
@@ -20,15 +19,20 @@ using Phase = tryout::Session::Phase;
 /// The one page; null while it isn't open.
 std::unique_ptr<TryPage> page;
 
-std::string withSeconds(const char* form, double seconds) {
-    char text[200];
-    std::snprintf(text, sizeof text, localized("Try", form).c_str(), seconds);
-    return localizedNumbers(text);
+tryout::Conditions conditionsOn(const NSScreen& screen, tryout::TargetChoice target) {
+    return tryout::conditionsOf(prefs, {screen.frame.width, screen.frame.height},
+                                {screen.millimetres.width, screen.millimetres.height}, target);
+}
+
+/// The stored choice of the target.
+const CFString* targetKey() {
+    return CFSTR("tryout.target");
 }
 
 } // namespace
 
-TryPage::TryPage(NSWindow window, TryPageTarget& target) : window_(window), target_(target) {}
+TryPage::TryPage(NSWindow window, TryPageTarget& target)
+    : window_(window), target_(target), targetChoice_(prefsGetUnsignedValue(targetKey())) {}
 
 TryPage::~TryPage() {
     if (timer_)
@@ -49,6 +53,14 @@ std::span<const Outlet> TryPage::outlets() const {
         outletRow<&P::takeBtn_>("takeBtn"),
         outletRow<&P::keepBtn_>("keepBtn"),
         outletRow<&P::againBtn_>("againBtn"),
+        outletRow<&P::firstSuggestionBtn_>("firstSuggestionBtn"),
+        outletRow<&P::secondSuggestionBtn_>("secondSuggestionBtn"),
+        outletRow<&P::thirdSuggestionBtn_>("thirdSuggestionBtn"),
+        outletRow<&P::fourthSuggestionBtn_>("fourthSuggestionBtn"),
+        outletRow<&P::targetText_>("targetText"),
+        outletRow<&P::targetSmallerBtn_>("targetSmallerBtn"),
+        outletRow<&P::targetLargerBtn_>("targetLargerBtn"),
+        outletRow<&P::paletteTargetBtn_>("paletteTargetBtn"),
         outletRow<&P::fullScreenBtn_>("fullScreenBtn"),
         outletRow<&P::leaveBtn_>("leaveBtn"),
         outletRow<&P::exportBtn_>("exportBtn"),
@@ -63,6 +75,10 @@ std::span<const Action> TryPage::actions() const {
         actionRow<&P::leave>("leave:"),
         actionRow<&P::toggleFullScreen>("toggleFullScreen:"),
         actionRow<&P::takeAdvice>("takeAdvice:"),
+        actionRow<&P::takeSuggestion>("takeSuggestion:"),
+        actionRow<&P::makeTargetSmaller>("makeTargetSmaller:"),
+        actionRow<&P::makeTargetLarger>("makeTargetLarger:"),
+        actionRow<&P::takePaletteTarget>("takePaletteTarget:"),
         actionRow<&P::startAgain>("startAgain:"),
         actionRow<&P::exportHistory>("exportHistory:"),
         actionRow<&P::deleteHistory>("deleteHistory:"),
@@ -77,7 +93,9 @@ bool TryPage::show(const std::string& path, std::vector<std::string>& errors) {
     startTry(); // before it is drawn
     window_.setContentView(nib_.topLevelView());
     window_.makeFirstResponder(tryView_);
-    const EventTimerInterval interval = 1 / window_.screen().maximumFramesPerSecond;
+    // Timers have whole milliseconds: rather a frame too many than one too few.
+    const EventTimerInterval interval =
+        std::floor(1000 / window_.screen().maximumFramesPerSecond) / 1000;
     InstallEventLoopTimer(GetMainEventLoop(), 0, interval,
                           NewEventLoopTimerUPP([](EventLoopTimerRef, void* self) {
                               static_cast<TryPage*>(self)->frame();
@@ -87,14 +105,18 @@ bool TryPage::show(const std::string& path, std::vector<std::string>& errors) {
 }
 
 void TryPage::startTry() {
-    trigger_ = tryout::triggerOf(prefs);
+    const tryout::Trigger trigger = tryout::triggerOf(prefs);
+    if (trigger != trigger_)
+        earlierOffsets_.clear();
+    trigger_ = trigger;
+    keyboard_.stir(GetCurrentEventTime());
     makeSession();
 }
 
 /// The part of the screen that the page has is swept as fast as the whole screen will be.
 void TryPage::makeSession() {
     const NSScreen screen = window_.screen();
-    conditions_ = tryout::conditionsOf(prefs, screen.frame.height, screen.millimetres.height);
+    conditions_ = conditionsOn(screen, targetChoice_);
     sessionHeight_ = tryView_->bounds().height;
     tryout::Sweep sweep = conditions_.sweep;
     sweep.travel = double{sessionHeight_} * screen.millimetres.height / screen.frame.height;
@@ -106,14 +128,21 @@ void TryPage::makeSession() {
     showPhase();
 }
 
+bool TryPage::hasBegun() const {
+    return session_->sweepIndex() > 0 || session_->phase() != Phase::Ready;
+}
+
 void TryPage::frame() {
     if (isLeft_)
         return close(); // which ends this object
-    const bool hasBegun = session_->sweepIndex() > 0 || session_->phase() != Phase::Ready;
-    if (!hasBegun && tryView_->bounds().height != sessionHeight_)
+    const double now = GetCurrentEventTime();
+    if (!hasBegun() && tryView_->bounds().height != sessionHeight_)
         makeSession();
-    session_->advance(GetCurrentEventTime());
+    session_->advance(now);
     showPhase();
+    keyboard_.update(now, session_->phase() != Phase::Done, session_->isPressed());
+    if (session_->phase() == Phase::Ready && keyboard_.isResting(now))
+        say(tryout::restText());
     tryView_->showFrame();
 }
 
@@ -128,60 +157,44 @@ void TryPage::showPhase() {
          std::initializer_list<NSView*>{takeBtn_, keepBtn_, againBtn_, numbers_, historyView_,
                                         historyNote_, exportBtn_, deleteBtn_})
         view->setHidden(!isDone);
+    for (NSButton* button : suggestionBtns())
+        button->setHidden(true);
+    showTarget();
     if (isDone)
         return showResult();
-    const std::string text = tryout::courseText(*session_, trigger_);
+    say(tryout::courseText(*session_, trigger_));
+}
+
+void TryPage::say(const std::string& text) {
     course_->setStringValue(text);
     tryView_->setSaying(text);
 }
 
-// The keyboard stays at the picture, where presses do nothing now: one press too many takes no
-// advice.
-void TryPage::showResult() {
-    tryout::Measured measured = session_->measured();
-    measured.earlierOffsets = earlierOffsets_;
-    const tryout::Advice advice = tryout::advise(measured, conditions_);
-    advised_ = advice.time;
-
-    const std::string text = tryout::resultText(advice, conditions_, measured);
-    course_->setStringValue(text);
-    tryView_->setSaying(text);
-    numbers_->setStringValue(tryout::detailsText(advice, tryout::steady(measured)));
-    const bool isOffered =
-        advice.verdict == tryout::Verdict::Change || advice.verdict == tryout::Verdict::TryAgain;
-    takeBtn_->setHidden(!isOffered);
-    takeBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Try it at %.1f"), advised_));
-    keepBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Keep %.1f"), conditions_.sweep.time));
-
-    for (const tryout::Trial& trial : measured.trials)
-        if (trial.pressed && advice.verdict != tryout::Verdict::Random)
-            earlierOffsets_.push_back(trial.offset);
-    const bool isStored =
-        advice.presses == 0 || history_.add(pastTry(advice, conditions_, measured,
-                                                    trigger_.way != tryout::Trigger::Way::Press));
-    showHistory(isStored ? "" : localized("Try", "This try couldn’t be stored. "));
-}
-
-void TryPage::showHistory(const std::string& note) {
-    const bool isEmpty = history_.tries().empty();
-    historyView_->setHidden(isEmpty);
-    exportBtn_->setHidden(isEmpty);
-    deleteBtn_->setHidden(isEmpty);
-    historyView_->setTries(history_.tries());
-    historyNote_->setStringValue(note + localized("Try", "Your tries stay on this computer."));
+bool TryPage::wakesUp(double moment) {
+    const bool wasResting =
+        session_->phase() == Phase::Ready && keyboard_.isResting(GetCurrentEventTime());
+    keyboard_.stir(moment);
+    if (wasResting)
+        say(tryout::courseText(*session_, trigger_));
+    return wasResting;
 }
 
 void TryPage::pressed(double moment) {
+    if (wakesUp(moment))
+        return;
     session_->press(moment);
     showPhase();
 }
 
 void TryPage::released(double moment) {
+    keyboard_.stir(moment);
     session_->release(moment);
     showPhase();
 }
 
 void TryPage::acted(double moment) {
+    if (wakesUp(moment))
+        return;
     session_->act(moment);
     showPhase();
 }
@@ -204,7 +217,7 @@ void TryPage::toggleFullScreen(NSButton*) {
 }
 
 void TryPage::takeAdvice(NSButton*) {
-    target_.takeLineScanTime(advised_);
+    target_.takeTime(settingAt(offsetof(PrefsRecord, lineScanTime)), advised_);
     startAgain(nullptr);
 }
 
@@ -213,18 +226,27 @@ void TryPage::startAgain(NSButton*) {
     window_.makeFirstResponder(tryView_);
 }
 
-void TryPage::exportHistory(NSButton*) {
-    const std::string path = history_.exportCopy();
-    showHistory(path.empty() ? localized("Try", "The copy couldn’t be written. ")
-                             : filled(localized("Try", "Saved as %1. "), {path}));
+void TryPage::makeTargetSmaller(NSButton*) {
+    setTarget(tryout::nextTarget(conditions_.target, false));
 }
 
-void TryPage::deleteHistory(NSButton*) {
-    const bool isDeleted = history_.clear();
-    if (isDeleted)
-        window_.makeFirstResponder(againBtn_);
-    showHistory(isDeleted ? localized("Try", "All tries are deleted. ")
-                          : localized("Try", "The tries couldn’t be deleted. "));
+void TryPage::makeTargetLarger(NSButton*) {
+    setTarget(tryout::nextTarget(conditions_.target, true));
+}
+
+void TryPage::takePaletteTarget(NSButton*) {
+    setTarget(tryout::kPaletteTarget);
+    window_.makeFirstResponder(hasBegun() ? againBtn_ : static_cast<NSView*>(tryView_));
+}
+
+/// A try that is over stays as it was.
+void TryPage::setTarget(tryout::TargetChoice choice) {
+    targetChoice_ = choice;
+    prefsSetUnsignedValue(targetKey(), choice);
+    if (!hasBegun())
+        return makeSession();
+    conditions_ = conditionsOn(window_.screen(), targetChoice_);
+    showTarget();
 }
 
 void TryPage::close() {

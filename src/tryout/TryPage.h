@@ -5,9 +5,13 @@
 #include "platform/AppKit/NSWindow.h"
 #include "platform/CoreFoundation/CFBundle.h"
 #include "platform/HIToolbox/EventTimers.h"
+#include "src/tryout/HeldKeyboard.h"
 #include "src/tryout/TryView.h"
 #include "src/tryout/history.h"
+#include "src/tryout/suggestions.h"
+#include "src/tryout/tryconditions.h"
 
+#include <array>
 #include <optional>
 
 class HistoryView;
@@ -17,8 +21,8 @@ class NSTextField;
 /// Who takes advice.
 class TryPageTarget {
 public:
-    /// The user wants the line to sweep in that time, in seconds. An edit as any other.
-    virtual void takeLineScanTime(double seconds) = 0;
+    /// The user wants that value for the setting, a time in seconds. An edit as any other.
+    virtual void takeTime(const Setting& setting, double seconds) = 0;
 
 protected:
     ~TryPageTarget() = default;
@@ -49,7 +53,11 @@ public:
     void leave(NSButton* sender);
     void toggleFullScreen(NSButton* sender);
     void takeAdvice(NSButton* sender);
+    void takeSuggestion(NSButton* sender);
     void startAgain(NSButton* sender);
+    void makeTargetSmaller(NSButton* sender);
+    void makeTargetLarger(NSButton* sender);
+    void takePaletteTarget(NSButton* sender);
     void exportHistory(NSButton* sender);
     void deleteHistory(NSButton* sender);
 
@@ -57,9 +65,21 @@ private:
     void frame();
     void startTry();
     void makeSession();
+    bool hasBegun() const;
     /// Brings the page up to date with the session's phase.
     void showPhase();
+    /// Shows the text and has a screen reader say it.
+    void say(const std::string& text);
+    /// Takes the press for going on after a rest, if it was one.
+    bool wakesUp(double moment);
+
+    // TryPageResult.cpp: what a try tells, what comes of it, and the tries before
     void showResult();
+    void showSuggestions();
+    void keep(const tryout::Advice& advice, const tryout::Measured& measured);
+    void showTarget();
+    void setTarget(tryout::TargetChoice choice);
+    std::array<NSButton*, 4> suggestionBtns() const;
     void showHistory(const std::string& note);
     void close();
 
@@ -76,7 +96,10 @@ private:
     std::optional<tryout::Session::Phase> shownPhase_;
     float sessionHeight_ = 0; ///< of the view, when the session was made
     std::vector<double> earlierOffsets_;
-    double advised_ = 0; ///< seconds
+    double advised_ = 0;                          ///< seconds
+    std::vector<tryout::Suggestion> suggestions_; ///< in the order of their buttons
+    tryout::TargetChoice targetChoice_;
+    HeldKeyboard keyboard_;
     tryout::History history_;
 
     TryView* tryView_ = nullptr;
@@ -87,6 +110,14 @@ private:
     NSButton* takeBtn_ = nullptr;
     NSButton* keepBtn_ = nullptr;
     NSButton* againBtn_ = nullptr;
+    NSButton* firstSuggestionBtn_ = nullptr;
+    NSButton* secondSuggestionBtn_ = nullptr;
+    NSButton* thirdSuggestionBtn_ = nullptr;
+    NSButton* fourthSuggestionBtn_ = nullptr;
+    NSTextField* targetText_ = nullptr;
+    NSButton* targetSmallerBtn_ = nullptr;
+    NSButton* targetLargerBtn_ = nullptr;
+    NSButton* paletteTargetBtn_ = nullptr;
     NSButton* fullScreenBtn_ = nullptr;
     NSButton* leaveBtn_ = nullptr;
     NSButton* exportBtn_ = nullptr;

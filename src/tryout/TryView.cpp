@@ -76,7 +76,7 @@ void TryView::setSaying(const std::string& saying) {
     if (saying == saying_)
         return;
     saying_ = saying;
-    NSAccessibilityPostNotification(this, NSAccessibilityTitleChangedNotification);
+    NSAccessibilityPostNotification(this, NSAccessibilityAnnouncementRequestedNotification, saying);
 }
 
 /// Points a millimetre.
@@ -115,13 +115,13 @@ void TryView::drawRect(const NSRect&) {
         drawPlaces();
     else
         drawMark();
+    markColor(1).set();
+    NSFrameRectWithWidth(bounds(), isFirstResponder() ? kFocusedFrameWidth : kFrameWidth);
     if (showsLine()) {
         shown_ = lineAt(GetCurrentEventTime());
         scanLineColor().set();
         NSRectFillUsingOperation(shown_, NSCompositeSourceOver);
     }
-    markColor(1).set();
-    NSFrameRectWithWidth(bounds(), isFirstResponder() ? kFocusedFrameWidth : kFrameWidth);
 }
 
 void TryView::drawMark() const {
@@ -196,10 +196,10 @@ bool TryView::performKeyEquivalent(NSEvent* event) {
 std::string TryView::accessibilityValue() const {
     if (session_->phase() == Phase::Done)
         return {};
-    char text[60];
+    char text[200];
     std::snprintf(text, sizeof text, localized("Try", "The mark is %.1f mm from the top.").c_str(),
                   session_->mark());
-    return text;
+    return localizedNumbers(text);
 }
 
 void TryView::accessibilityPerformPress() {

@@ -30,7 +30,7 @@ public:
 
     void setSession(const tryout::Session* session);
 
-    /// What a screen reader says of it, in UTF-8; when it changes, a running one speaks it.
+    /// What a screen reader says of it, in UTF-8; when it changes, a running one speaks it at once.
     void setSaying(const std::string& saying);
 
     /// A frame is due: what has moved since the last one is drawn again.

@@ -62,10 +62,25 @@ std::optional<Verdict> objection(const Measured& measured, const Sample& sample,
     return {};
 }
 
-double rateAt(double time, const Conditions& tried, const Timing& timing) {
-    Sweep sweep = tried.sweep;
-    sweep.time = time;
-    return hitRate(sweep, tried.target, timing);
+/// What is swept: by the line, or along it by the pointer.
+struct Axis {
+    Sweep sweep;
+    double target, delay;
+
+    double rateAt(double time, const Timing& timing) const {
+        return hitRate(at(time), target, timing);
+    }
+
+    double timePerHitAt(double time, const Timing& timing) const {
+        return timePerHit(at(time), target, timing, delay);
+    }
+
+private:
+    Sweep at(double time) const { return {sweep.travel, time, sweep.accelerates}; }
+};
+
+Axis lineOf(const Conditions& tried) {
+    return {tried.sweep, tried.target, tried.delay};
 }
 
 /// The least rate of hits that goes with nothing but hits in 95 of 100 tries; 0 after a miss.
@@ -73,13 +88,11 @@ double countedRate(const Advice& advice) {
     return advice.hits < advice.presses ? 0 : std::pow(0.05, 1.0 / advice.presses);
 }
 
-bool isWorthwhile(double time, const Conditions& tried, const Timing& timing) {
-    if (rateAt(tried.sweep.time, tried, timing) < kQuickestRate)
-        return true;
-    Sweep sweep = tried.sweep;
-    const double now = timePerHit(sweep, tried.target, timing, tried.delay);
-    sweep.time = time;
-    return timePerHit(sweep, tried.target, timing, tried.delay) < now * (1 - kWorthwhileSaving);
+bool isWorthwhile(double time, const Axis& axis, const Timing& timing) {
+    const double now = axis.sweep.time;
+    return axis.rateAt(now, timing) < kQuickestRate ||
+           axis.timePerHitAt(time, timing) <
+               axis.timePerHitAt(now, timing) * (1 - kWorthwhileSaving);
 }
 
 void adviseOutOfReach(Advice& advice, const Conditions& tried) {
@@ -101,7 +114,7 @@ void adviseTime(Advice& advice, const Conditions& tried) {
     const double wanted = best.value_or(tried.times.max);
     const bool isSlower = wanted > tried.sweep.time;
     if ((isSlower && countedRate(advice) >= kQuickestRate) ||
-        !isWorthwhile(wanted, tried, advice.cautious))
+        !isWorthwhile(wanted, lineOf(tried), advice.cautious))
         advice.verdict = Verdict::Keep;
     else if (wanted > slowest || wanted < fastest)
         advice.verdict = Verdict::TryAgain;
@@ -112,6 +125,20 @@ void adviseTime(Advice& advice, const Conditions& tried) {
     const auto surest = surestTime(tried.sweep, tried.target, advice.cautious, tried.times);
     if (surest && *surest >= fastest && *surest <= slowest)
         advice.surest = surest;
+}
+
+/// Its speeds are held against the line's: those are what the presses are known for.
+void advisePointer(Advice& advice, const Conditions& tried) {
+    const Axis axis = {*tried.pointer, tried.across, 0};
+    advice.both = advice.expected * axis.rateAt(axis.sweep.time, advice.timing);
+    const auto best =
+        quickestTime(axis.sweep, axis.target, advice.cautious, axis.delay, tried.times);
+    if (advice.verdict != Verdict::Keep || !best)
+        return;
+    const double speed = axis.sweep.travel / *best * tried.sweep.time / tried.sweep.travel;
+    if (speed >= kSlowestForetold && speed <= kFastestForetold &&
+        isWorthwhile(*best, axis, advice.cautious))
+        advice.pointerTime = best;
 }
 
 } // namespace
@@ -143,10 +170,13 @@ Advice advise(const Measured& measured, const Conditions& tried) {
         return advice;
     }
     adviseTime(advice, tried);
-    advice.expected = rateAt(advice.time, tried, advice.timing);
-    advice.promised = rateAt(advice.time, tried, advice.cautious);
+    advice.expected = lineOf(tried).rateAt(advice.time, advice.timing);
+    advice.promised = lineOf(tried).rateAt(advice.time, advice.cautious);
     if (advice.verdict == Verdict::Keep)
         advice.promised = std::max(advice.promised, countedRate(advice));
+    advice.both = advice.expected;
+    if (tried.pointer)
+        advisePointer(advice, tried);
     return advice;
 }
 

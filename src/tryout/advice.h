@@ -14,7 +14,10 @@ struct Conditions {
     Sweep sweep;                       ///< in millimetres and seconds
     double target = 10;                ///< its size in the direction of the sweep, in millimetres
     double delay = 0;                  ///< before each scan, in seconds
-    SettingRange times = {1, 60, 0.5}; ///< what the sweep's time can be
+    SettingRange times = {1, 60, 0.5}; ///< what the sweep's time can be, and the pointer's
+    /// What moves along the stopped line, and is stopped as well; none when a press moves a step.
+    std::optional<Sweep> pointer = {};
+    double across = 10; ///< the target's size in the pointer's direction
 };
 
 enum class Verdict {
@@ -47,6 +50,10 @@ struct Advice {
     double time = 0; ///< suggested for the sweep, in seconds; the tried one unless Change, TryAgain
     double expected = 0; ///< the share of hits at `time`, if the timing is as measured
     double promised = 0; ///< the least share that 95 of 100 users with such a try have there
+    double both = 0;     ///< `expected`, times the pointer's share of hits at its time
+    /// Keep: the pointer's time that suits as well, when it isn't the tried one and can be
+    /// foretold.
+    std::optional<double> pointerTime;
     std::optional<double> surest; ///< the time that reaches kSurestRate, where that can be foretold
     double neededTarget = 0;      ///< OutOfReach: millimetres for kQuickestRate at the slowest
     double neededTravel = 0;      ///< OutOfReach: or the way to be swept, in millimetres

@@ -9,14 +9,14 @@
 
 namespace tryout {
 
-// The rule that a step's time is the reaction time divided by 0.65 (Simpson, Koester and LoPresti
-// 2007) is for scans that step from item to item, as are the adjustments that Koester and Simpson
-// (2014) tested. Neither is used here: a sweeping line isn't reacted to, its coming is foreseen.
-// What carries over is that a few measured presses set the speed better than a guess. That the
-// moment of such a press scatters about a constant lateness, and that the share of it inside the
-// target's passing gives the errors, is the model of Lee and Oulasvirta (2016) for moving targets;
-// that a user of two bars pays for each axis in turn is MacKenzie's analysis of two-bar scanning.
-// The formulas below, the bounds and the two speeds are derived here from that.
+// Theirs: the rule that a step's time is the reaction time divided by 0.65 (Simpson, Koester and
+// LoPresti 2007), and settings of scanning adjusted to each user's measured presses (Koester and
+// Simpson 2014). Both are for scans that step from item to item, and neither is used: a sweeping
+// line isn't reacted to, its coming is foreseen. Theirs, too: errors of presses that have to fall
+// into a stretch of time, from their scatter (Lee and Oulasvirta 2016, on moving targets), and
+// scanning by one bar after the other (MacKenzie, on two-bar scanning).
+// Derived here: the normal scatter about a constant lateness for a line of constant speed, the
+// product of the two axes, the bounds and the two times. No number below is from those papers.
 
 namespace {
 

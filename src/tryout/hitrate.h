@@ -32,8 +32,8 @@ struct Timing {
 constexpr double kFinestSpread = 0.005;
 
 /// The share of presses, 0 to 1, that stop the line on a target of this width in the line's
-/// direction; the mean over all places when the line speeds up. To hit with the line and then with
-/// the pointer, multiply the two.
+/// direction; the mean over all places when the line speeds up. A line and a pointer that follows
+/// it hit with the product of both.
 double hitRate(const Sweep& sweep, double width, const Timing& timing);
 
 /// The values that a setting can have.

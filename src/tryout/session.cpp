@@ -11,12 +11,16 @@ namespace {
 /// Events are handled after the moment they tell of: the far edge waits this long for one.
 constexpr double kPatience = 0.1;
 
+/// Of the way, what lies behind the last mark: there a late press shows how late it is.
+constexpr double kRoomForLate = 0.1;
+
 /// Places all across the way, the near edge included, in an order that can't be foreseen; before
 /// them those of the free sweeps.
 std::vector<double> marksFor(const Sweep& sweep, double target, unsigned seed) {
     std::vector<double> marks;
     marks.reserve(kMeasuredSweeps + kFreeSweeps);
-    const double first = target / 2, room = std::max(sweep.travel - target, 0.0);
+    const double first = target / 2, last = sweep.travel * (1 - kRoomForLate);
+    const double room = std::max(last - first, 0.0);
     for (int i = 0; i < kMeasuredSweeps; ++i)
         marks.push_back(first + room * i / (kMeasuredSweeps - 1));
     std::shuffle(marks.begin(), marks.end(), std::mt19937(seed));

@@ -12,17 +12,22 @@ struct Trigger {
     enum class Way {
         Press,   ///< starts the scan and stops it
         Release, ///< the same, when the key is let go
-        Hold     ///< the line moves while the key is down
+        Hold,    ///< the line moves while the key is down
+        Step     ///< in use each press moves the line; in a try it sweeps, and this is Press
     };
     Way way = Way::Press;
     double shortest = 0;    ///< seconds; presses that are shorter don't count
     double ignoreAfter = 0; ///< seconds after a scan in which presses don't count
+
+    bool operator==(const Trigger&) const = default;
 };
 
 constexpr int kFreeSweeps = 2;
 constexpr int kMeasuredSweeps = 12;
 /// Presses this soon after one that stopped the line are none that anybody asked for, in seconds.
 constexpr double kSettlingTime = 0.7;
+/// The mark changes its place after it: nothing may flash more often than three times a second.
+static_assert(kSettlingTime > 1.0 / 3);
 
 /// The course of one try, without a window or a clock: it is told of every press with the moment
 /// of the event itself, and of the time. Moments are seconds of one steady clock. Nothing is
@@ -49,6 +54,9 @@ public:
     void advance(double now);
 
     Phase phase() const { return phase_; }
+
+    /// Whether the key is down.
+    bool isPressed() const { return isDown_; }
 
     /// The sweep under way or next, from 0; the first kFreeSweeps are free.
     int sweepIndex() const { return index_; }

@@ -20,7 +20,7 @@ std::vector<double> sorted(std::span<const double> sample) {
 }
 
 /// The share of the chi-square distribution below `value`: the regularised lower incomplete gamma
-/// function, by its series (Abramowitz and Stegun 1964, 6.5.29).
+/// function, by its series (Abramowitz and Stegun 1964, chapter 6).
 double chiSquareShare(double value, int degrees) {
     const double a = degrees / 2.0, x = value / 2;
     double term = 1 / a, sum = term;
@@ -98,7 +98,8 @@ double chiSquareQuantile(double share, int degrees) {
     return high;
 }
 
-// Fisher 1915: the inverse hyperbolic tangent of a correlation is nearly normal.
+// Fisher's transformation: the inverse hyperbolic tangent of a correlation is nearly normal. It is
+// for values; that it serves for ranks too is taken for near enough.
 bool risesWith(std::span<const double> along, std::span<const double> values, double risk) {
     if (values.size() < 4)
         return false;

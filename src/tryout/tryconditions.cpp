@@ -4,42 +4,79 @@
 #include "src/settings.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tryout {
 
 namespace {
 
-constexpr SInt32 kHoldToScan = 1; ///< of scanMode
+constexpr double kUsualMillimetres = 10;
 
-constexpr SettingRange rangeOfLineScanTime() {
-    for (const Setting& setting : kSettings)
-        if (setting.offset == offsetof(PrefsRecord, lineScanTime))
-            return {setting.limits.minimum, setting.limits.maximum, setting.limits.step};
-    return {};
+constexpr SettingRange rangeOf(std::size_t offset) {
+    const SettingLimits& limits = settingAt(offset).limits;
+    return {limits.minimum, limits.maximum, limits.step};
+}
+
+constexpr SettingRange kTimes = rangeOf(offsetof(PrefsRecord, lineScanTime));
+constexpr SettingRange kPointerTimes = rangeOf(offsetof(PrefsRecord, pointerScanTime));
+static_assert(kTimes.min == kPointerTimes.min && kTimes.max == kPointerTimes.max &&
+              kTimes.step == kPointerTimes.step);
+
+/// Of a screen that is `points` wide or high, the part that is scanned.
+double scanned(bool hasArea, float area, double points) {
+    return hasArea ? std::min(double{area}, points) : points;
 }
 
 } // namespace
 
 Trigger triggerOf(const PrefsRecord& record) {
+    using enum Trigger::Way;
     Trigger trigger;
-    if (record.scanMode == kHoldToScan)
-        trigger.way = Trigger::Way::Hold;
-    else if (record.triggerOnRelease)
-        trigger.way = Trigger::Way::Release;
+    const Trigger::Way ways[] = {record.triggerOnRelease ? Release : Press, Hold, Step};
+    if (record.scanMode >= 0 && record.scanMode < 3)
+        trigger.way = ways[record.scanMode];
     trigger.shortest = record.minTriggerDuration;
     trigger.ignoreAfter = record.afterClickDelay;
     return trigger;
 }
 
-Conditions conditionsOf(const PrefsRecord& record, double points, double millimetres) {
-    const bool hasArea = record.useScanArea && record.scanArea.height > 0;
-    const double height = hasArea ? std::min(double{record.scanArea.height}, points) : points;
-    constexpr SettingRange kRange = rangeOfLineScanTime();
-    return {.sweep = {.travel = height * millimetres / points,
-                      .time = std::clamp(record.lineScanTime, kRange.min, kRange.max),
-                      .accelerates = record.useScanAcceleration != 0},
-            .delay = record.preScanDelay,
-            .times = kRange};
+Extent targetOf(TargetChoice choice, const PrefsRecord& record, Extent millimetresAPoint) {
+    if (choice == kPaletteTarget)
+        return {record.buttonSize.width * millimetresAPoint.width,
+                record.buttonSize.height * millimetresAPoint.height};
+    const bool isOwn = choice >= kLeastTarget && choice <= kLargestTarget;
+    const double side = isOwn ? choice : kUsualMillimetres;
+    return {side, side};
+}
+
+TargetChoice nextTarget(double height, bool isLarger) {
+    const double next = isLarger ? std::floor(height + 1) : std::ceil(height - 1);
+    const auto kept = std::clamp(next, double{kLeastTarget}, double{kLargestTarget});
+    return kept == kUsualMillimetres ? kUsualTarget : static_cast<TargetChoice>(kept);
+}
+
+Conditions conditionsOf(const PrefsRecord& record, Extent points, Extent millimetres,
+                        TargetChoice target) {
+    const ScanArea& area = record.scanArea;
+    const bool hasArea = record.useScanArea && area.width > 0 && area.height > 0;
+    const Extent scale = {millimetres.width / points.width, millimetres.height / points.height};
+    const Extent size = targetOf(target, record, scale);
+    const auto sweepOf = [&](double travel, double time) {
+        return Sweep{.travel = travel,
+                     .time = std::clamp(time, kTimes.min, kTimes.max),
+                     .accelerates = record.useScanAcceleration != 0};
+    };
+    Conditions tried = {.sweep =
+                            sweepOf(scanned(hasArea, area.height, points.height) * scale.height,
+                                    record.lineScanTime),
+                        .target = size.height,
+                        .delay = record.preScanDelay,
+                        .times = kTimes,
+                        .across = size.width};
+    if (triggerOf(record).way != Trigger::Way::Step)
+        tried.pointer = sweepOf(scanned(hasArea, area.width, points.width) * scale.width,
+                                record.pointerScanTime);
+    return tried;
 }
 
 } // namespace tryout

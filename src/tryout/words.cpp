@@ -20,6 +20,11 @@ namespace {
     return localizedNumbers(text);
 }
 
+/// In millimetres, a digit behind the point if it isn't 0: for %g.
+double shownLength(double length) {
+    return std::round(length * 10) / 10;
+}
+
 /// Of ten, rounded down: what is promised is kept. The last digits of a share aren't trusted.
 int tenths(double share) {
     return static_cast<int>(share * 10 + 1e-9);
@@ -32,9 +37,14 @@ std::string howToPress(Trigger::Way way) {
     case Trigger::Way::Hold:
         return localized(
             "Try", "Hold your switch down to start the line, and let go when it is on the mark.");
-    default:
-        return localized("Try", "Press when the line is on the mark.");
+    case Trigger::Way::Step:
+        return localized("Try", "As you have set it, each press moves the scan one step, and no "
+                                "speed matters. Here you can try a line that sweeps: press when it "
+                                "is on the mark.");
+    case Trigger::Way::Press:
+        break;
     }
+    return localized("Try", "Press when the line is on the mark.");
 }
 
 std::string readyText(const Session& session, const Trigger& trigger) {
@@ -67,8 +77,8 @@ std::string stoppedText(const Session& session) {
 }
 
 std::string hitsText(const Advice& advice, const Conditions& tried, const Measured& measured) {
-    return format(LOCALIZABLE("Try", "You stopped within %.0f mm of the mark %d times in %zu. "),
-                  tried.target / 2, advice.hits, measured.trials.size());
+    return format(LOCALIZABLE("Try", "You stopped within %g mm of the mark %d times in %zu. "),
+                  shownLength(tried.target / 2), advice.hits, measured.trials.size());
 }
 
 std::string evenText(const Advice& advice) {
@@ -95,6 +105,17 @@ std::string changeText(const Advice& advice) {
                       advice.time, promised);
     return format(LOCALIZABLE("Try", "At %.1f seconds we expect %d in 10, and at least %d."),
                   advice.time, expected, promised);
+}
+
+/// What becomes of it with the pointer after the line.
+std::string bothText(const Advice& advice, const Conditions& tried) {
+    if (!tried.pointer)
+        return {};
+    return format(
+        LOCALIZABLE(
+            "Try",
+            " With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit."),
+        tried.pointer->time, tenths(advice.both));
 }
 
 std::string tryAgainText(const Advice& advice, const Conditions& tried) {
@@ -170,9 +191,7 @@ std::string numbersText(const Advice& advice) {
     return text;
 }
 
-} // namespace
-
-std::string resultText(const Advice& advice, const Conditions& tried, const Measured& measured) {
+std::string verdictText(const Advice& advice, const Conditions& tried, const Measured& measured) {
     const std::string hits = hitsText(advice, tried, measured) + evenText(advice);
     switch (advice.verdict) {
     case Verdict::NothingPressed:
@@ -194,15 +213,37 @@ std::string resultText(const Advice& advice, const Conditions& tried, const Meas
                          "The presses became less even from sweep to sweep. Have a rest, then try "
                          "once more.");
     case Verdict::Keep:
-        return hits + keepText(advice);
+        return hits + keepText(advice) + bothText(advice, tried);
     case Verdict::Change:
-        return hits + changeText(advice);
+        return hits + changeText(advice) + bothText(advice, tried);
     case Verdict::TryAgain:
         return hits + tryAgainText(advice, tried);
     case Verdict::OutOfReach:
         return hits + outOfReachText(advice, tried);
     }
     return {};
+}
+
+} // namespace
+
+std::string resultText(const Advice& advice, const Conditions& tried, const Measured& measured,
+                       Trigger::Way way) {
+    const std::string text = verdictText(advice, tried, measured);
+    return way != Trigger::Way::Step
+               ? text
+               : text + localized("Try", " That is for a line that sweeps; as you have set it, it "
+                                         "moves one step a press.");
+}
+
+std::string restText() {
+    return localized("Try", "You are having a rest, and your switch scans as ever. Press here to "
+                            "go on.");
+}
+
+std::string targetText(double height, bool isPaletteButton) {
+    return format(isPaletteButton ? LOCALIZABLE("Try", "Target: a palette button, %g mm high")
+                                  : LOCALIZABLE("Try", "Target: %g mm"),
+                  shownLength(height));
 }
 
 std::string detailsText(const Advice& advice, const Steadiness& steadiness) {

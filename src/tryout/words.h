@@ -12,13 +12,20 @@
 namespace tryout {
 
 /// What happened, and what would be better.
-std::string resultText(const Advice& advice, const Conditions& tried, const Measured& measured);
+std::string resultText(const Advice& advice, const Conditions& tried, const Measured& measured,
+                       Trigger::Way way);
 
 /// The measured numbers, for a therapist, and what they say of the other settings.
 std::string detailsText(const Advice& advice, const Steadiness& steadiness);
 
 /// What to do now, or what just happened.
 std::string courseText(const Session& session, const Trigger& trigger);
+
+/// After a long time without a press.
+std::string restText();
+
+/// How large the marks are, in millimetres in the direction of the line's way.
+std::string targetText(double height, bool isPaletteButton);
 
 /// A try of the history: as it is spoken, and as short as a table has it.
 std::string pastTryText(const PastTry& past);

@@ -29,7 +29,7 @@ public:
     QSize sizeHint() const override {
         int width = 0;
         for (const QLayoutItem* item : items_)
-            width += item->sizeHint().width() + spacing();
+            width += item->isEmpty() ? 0 : item->sizeHint().width() + spacing();
         return {width, heightForWidth(width)};
     }
 
@@ -60,6 +60,8 @@ private:
     int arrange(const QRect& rect, Put put) const {
         int x = rect.x(), y = rect.y(), lineHeight = 0;
         for (QLayoutItem* item : items_) {
+            if (item->isEmpty())
+                continue; // hidden
             const QSize size = item->sizeHint();
             if (x > rect.x() && x + size.width() > rect.x() + rect.width()) {
                 x = rect.x();

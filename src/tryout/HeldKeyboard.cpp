@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "src/tryout/HeldKeyboard.h"
+
+#include "platform/HIToolbox/HotKeyMode.h"
+
+#include <utility>
+
+namespace {
+
+constexpr double kLongestRest = 120; ///< s without a press
+constexpr double kRenewal = 20;      ///< s; the mode ends by itself after 30
+
+} // namespace
+
+HeldKeyboard::~HeldKeyboard() {
+    PopSymbolicHotKeyMode(mode_);
+}
+
+bool HeldKeyboard::isResting(double now) const {
+    return now > stirred_ + kLongestRest;
+}
+
+void HeldKeyboard::update(double now, bool isWanted, bool isKeyDown) {
+    const bool isHeld = isWanted && !isResting(now);
+    if (isKeyDown)
+        return;
+    if (mode_ && (!isHeld || now > since_ + kRenewal))
+        PopSymbolicHotKeyMode(std::exchange(mode_, nullptr));
+    if (isHeld && !mode_) {
+        mode_ = PushSymbolicHotKeyMode(kHIHotKeyModeAllDisabled);
+        since_ = now;
+    }
+}

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "src/tryout/TryPage.h"
+
+#include "platform/AppKit/NSButton.h"
+#include "platform/AppKit/NSTextField.h"
+#include "platform/CoreFoundation/Localization.h"
+#include "src/settingwords.h"
+#include "src/tryout/HistoryView.h"
+#include "src/tryout/words.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+using Phase = tryout::Session::Phase;
+
+std::string withSeconds(const char* form, double seconds) {
+    char text[200];
+    std::snprintf(text, sizeof text, localized("Try", form).c_str(), seconds);
+    return localizedNumbers(text);
+}
+
+} // namespace
+
+std::array<NSButton*, 4> TryPage::suggestionBtns() const {
+    return {firstSuggestionBtn_, secondSuggestionBtn_, thirdSuggestionBtn_, fourthSuggestionBtn_};
+}
+
+// The keyboard stays at the picture, where presses do nothing now: one press too many takes no
+// advice.
+void TryPage::showResult() {
+    tryout::Measured measured = session_->measured();
+    measured.earlierOffsets = earlierOffsets_;
+    const tryout::Advice advice = tryout::advise(measured, conditions_);
+    const tryout::Steadiness steadiness = tryout::steady(measured);
+    advised_ = advice.time;
+
+    say(tryout::resultText(advice, conditions_, measured, trigger_.way));
+    numbers_->setStringValue(tryout::detailsText(advice, steadiness));
+    const bool isOffered =
+        advice.verdict == tryout::Verdict::Change || advice.verdict == tryout::Verdict::TryAgain;
+    takeBtn_->setHidden(!isOffered);
+    takeBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Try it at %.1f"), advised_));
+    keepBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Keep %.1f"), conditions_.sweep.time));
+    suggestions_ = tryout::suggestionsOf(advice, steadiness, prefs);
+    showSuggestions();
+    keep(advice, measured);
+}
+
+void TryPage::showSuggestions() {
+    const auto buttons = suggestionBtns();
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        buttons[i]->setHidden(i >= suggestions_.size());
+        if (i >= suggestions_.size())
+            continue;
+        const auto& [setting, seconds] = suggestions_[i];
+        PrefsRecord record = prefs;
+        *static_cast<double*>(setting->in(record)) = seconds;
+        buttons[i]->setTitle(
+            filled(localized("Try", "Set “%1” to %2"),
+                   {localized("Settings", setting->name), settingText(*setting, record)}));
+    }
+}
+
+/// Only one change at a time: what it brings about shows the next try.
+void TryPage::takeSuggestion(NSButton* sender) {
+    const auto buttons = suggestionBtns();
+    const auto place = static_cast<std::size_t>(std::find(buttons.begin(), buttons.end(), sender) -
+                                                buttons.begin());
+    if (place >= suggestions_.size())
+        return;
+    const auto [setting, seconds] = suggestions_[place];
+    const PrefsRecord before = prefs;
+    target_.takeTime(*setting, seconds);
+    suggestions_.clear();
+    showSuggestions();
+    takeBtn_->setHidden(true);
+    window_.makeFirstResponder(againBtn_);
+    say(filled(localized("Try", "%1. Undo takes it back. Try once more before you change anything "
+                                "else."),
+               {changeText(*setting, before, prefs, kSettingBecomes)}));
+}
+
+void TryPage::keep(const tryout::Advice& advice, const tryout::Measured& measured) {
+    for (const tryout::Trial& trial : measured.trials)
+        if (trial.pressed && advice.verdict != tryout::Verdict::Random)
+            earlierOffsets_.push_back(trial.offset);
+    using enum tryout::Trigger::Way;
+    const bool isOnRelease = trigger_.way == Release || trigger_.way == Hold;
+    const bool isStored =
+        advice.presses == 0 || history_.add(pastTry(advice, conditions_, measured, isOnRelease));
+    showHistory(isStored ? "" : localized("Try", "This try couldn’t be stored. "));
+}
+
+void TryPage::showHistory(const std::string& note) {
+    const bool isEmpty = history_.tries().empty();
+    historyView_->setHidden(isEmpty);
+    exportBtn_->setHidden(isEmpty);
+    deleteBtn_->setHidden(isEmpty);
+    historyView_->setTries(history_.tries());
+    historyNote_->setStringValue(note + localized("Try", "Your tries stay on this computer."));
+}
+
+void TryPage::exportHistory(NSButton*) {
+    const std::string path = history_.exportCopy();
+    showHistory(path.empty() ? localized("Try", "The copy couldn’t be written. ")
+                             : filled(localized("Try", "Saved as %1. "), {path}));
+}
+
+void TryPage::deleteHistory(NSButton*) {
+    const bool isDeleted = history_.clear();
+    if (isDeleted)
+        window_.makeFirstResponder(againBtn_);
+    showHistory(isDeleted ? localized("Try", "All tries are deleted. ")
+                          : localized("Try", "The tries couldn’t be deleted. "));
+}
+
+/// It can be chosen before a try and after one.
+void TryPage::showTarget() {
+    targetText_->setStringValue(
+        tryout::targetText(conditions_.target, targetChoice_ == tryout::kPaletteTarget));
+    const bool isFree = !hasBegun() || session_->phase() == Phase::Done;
+    targetSmallerBtn_->setEnabled(isFree && conditions_.target > tryout::kLeastTarget);
+    targetLargerBtn_->setEnabled(isFree && conditions_.target < tryout::kLargestTarget);
+    paletteTargetBtn_->setEnabled(isFree && targetChoice_ != tryout::kPaletteTarget);
+}

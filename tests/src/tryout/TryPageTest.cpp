@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "src/prefpane/PreferenceWrangler.h"
+#include "tests/support/PaneFixture.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+/// A page in the pane's window, and a user whose every press comes as quickly as it can: moments
+/// are told, not waited for.
+class TryPageTest : public PaneTest {
+protected:
+    void openPage() {
+        const auto form =
+            CFBundleCopyResourceURL(bundle_.get(), CFSTR("tryout"), CFSTR("ui"), nullptr);
+        page_ = std::make_unique<TryPage>(pane_->mainView()->window(), *theWrangler);
+        std::vector<std::string> errors;
+        ASSERT_TRUE(page_->show(form->path(), errors)) << testing::PrintToString(errors);
+        QApplication::processEvents(); // it has its size then
+        QTest::qWait(50);
+    }
+
+    /// Stops each line 100 ms after it set off, and presses once more than was asked for.
+    void doTheSweeps() {
+        double now = GetCurrentEventTime() + 1;
+        for (int i = 0; i < tryout::kFreeSweeps + tryout::kMeasuredSweeps; ++i) {
+            for (const auto& [wait, hold] :
+                 {std::pair(1.5, 0.3), {prefs.preScanDelay - 0.2, 0.3}, {0.2, 0.05}}) {
+                page_->pressed(now += wait);
+                page_->released(now += hold);
+            }
+        }
+        page_->pressed(now + 1); // none is asked for any more, but time passes
+    }
+
+    QString courseText() const {
+        return window()->findChild<QLabel*>(QStringLiteral("course"))->text();
+    }
+
+    QPushButton* button(const char* name) const {
+        return window()->findChild<QPushButton*>(QString::fromLatin1(name));
+    }
+
+    std::unique_ptr<TryPage> page_;
+};
+
+TEST_F(TryPageTest, ASuggestionIsOneChangeAndUndoTakesItBack) {
+    openWithAgent();
+    openPage();
+    doTheSweeps();
+    EXPECT_THAT(courseText().toStdString(), testing::HasSubstr("nothing asked for"));
+    ASSERT_TRUE(button("secondSuggestionBtn")->isVisible());
+    EXPECT_FALSE(button("takeBtn")->isVisible());
+    const QString title = button("firstSuggestionBtn")->text();
+    EXPECT_EQ(title, QStringLiteral("Set “Ignore presses after a click for” to 0.2 sec"));
+    const PrefsRecord before = prefs;
+    button("firstSuggestionBtn")->click();
+    EXPECT_DOUBLE_EQ(prefs.afterClickDelay, 0.2);
+    EXPECT_THAT(courseText().toStdString(), testing::HasSubstr("0.0 to 0.2 sec. Undo"));
+    EXPECT_FALSE(button("firstSuggestionBtn")->isVisible()) << "one change at a time";
+    page_.reset();
+    button("undoBtn")->click();
+    EXPECT_EQ(std::memcmp(&prefs, &before, sizeof before), 0);
+    EXPECT_THAT(remainingMasks(), testing::ElementsAre(kChangeTriggers, kChangeTriggers));
+}
+
+TEST_F(TryPageTest, TheTargetIsChosenBeforeATryAndKept) {
+    openWithAgent();
+    openPage();
+    const auto* text = window()->findChild<QLabel*>(QStringLiteral("targetText"));
+    button("targetLargerBtn")->click();
+    EXPECT_EQ(text->text(), QStringLiteral("Target: 11 mm"));
+    button("paletteTargetBtn")->click();
+    EXPECT_THAT(text->text().toStdString(), testing::HasSubstr("a palette button"));
+    EXPECT_FALSE(button("paletteTargetBtn")->isEnabled());
+    button("targetSmallerBtn")->click();
+    const QString chosen = text->text();
+    page_->pressed(GetCurrentEventTime());
+    EXPECT_FALSE(button("targetSmallerBtn")->isEnabled()) << "the mark stays as it is";
+    page_.reset();
+    openPage();
+    EXPECT_EQ(window()->findChild<QLabel*>(QStringLiteral("targetText"))->text(), chosen);
+    page_.reset();
+    EXPECT_THAT(remainingMasks(), testing::IsEmpty());
+}
+
+} // namespace
