@@ -125,7 +125,8 @@ int run(const Arguments& arguments, int argc, char** argv) {
         qunsetenv(kPlatformVariable); // not the choice of the programs that are started from here
     if (arguments.task != Arguments::Task::Check)
         loadOwnLocalizations();
-    // QApplication takes on the user's locale; stored numbers have a point in every one.
+    // QApplication takes on the user's locale. Texts are made with a point, which localizedNumbers
+    // makes the user's own sign.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("korvex-preferences"));
     QApplication::setDesktopFileName(QStringLiteral("org.korvex.Preferences"));
