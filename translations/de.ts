@@ -511,6 +511,10 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>Second scan key</source>
         <translation>Zweite Scan-Taste</translation>
     </message>
+    <message>
+        <source>Keys that this desktop uses itself aren’t heard here. “Choose keys…” in the menu has them too.</source>
+        <translation>Tasten, die dieser Desktop selbst benutzt, kommen hier nicht an. Über „Tasten wählen…“ im Menü gehen auch sie.</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>

@@ -511,6 +511,10 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <source>Second scan key</source>
         <translation>Deuxième touche de balayage</translation>
     </message>
+    <message>
+        <source>Keys that this desktop uses itself aren’t heard here. “Choose keys…” in the menu has them too.</source>
+        <translation>Les touches que ce bureau utilise lui-même n’arrivent pas ici. «&#xa0;Choisir des touches…&#xa0;» dans le menu les propose aussi.</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>

@@ -112,3 +112,7 @@ void PopSymbolicHotKeyMode(void* token) {
     if (qApp && qApp->children().contains(static_cast<QObject*>(token)))
         static_cast<HotKeyMode*>(static_cast<QObject*>(token))->end();
 }
+
+bool desktopKeepsItsShortcuts() {
+    return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"); // also where XWayland is
+}

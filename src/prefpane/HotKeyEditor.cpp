@@ -6,6 +6,7 @@
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/CarbonEvents.h"
+#include "platform/HIToolbox/HotKeyMode.h"
 #include "src/prefpane/HotKeyView.h"
 
 #include <algorithm>
@@ -144,11 +145,15 @@ void HotKeyEditor::countDown() {
     stopCountingDown();
     if (secondsLeft_ == 0)
         return cancelHotKeyEdit();
-    editingKeyPrompt1->setStringValue(filled(
+    std::string prompt = filled(
         localized("HotKeys", "Listening: press the new hot key, one key, alone or with Ctrl, "
                              "Alt, Shift or Super held down. Every key counts, Esc and Tab "
                              "too. %1 seconds left."),
-        {std::to_string(secondsLeft_--)}));
+        {std::to_string(secondsLeft_--)});
+    if (desktopKeepsItsShortcuts())
+        prompt += "\n" + localized("HotKeys", "Keys that this desktop uses itself aren’t heard "
+                                              "here. “Choose keys…” in the menu has them too.");
+    editingKeyPrompt1->setStringValue(prompt);
     const auto tick = [](EventLoopTimerRef, void* editor) {
         static_cast<HotKeyEditor*>(editor)->countDown();
     };

@@ -66,6 +66,18 @@ protected:
     }
 };
 
+TEST_F(HotKeyTest, TheUserIsToldWhatADesktopKeepsForItself) {
+    open();
+    for (const char* compositor : {"", "wayland-0"}) {
+        qputenv("WAYLAND_DISPLAY", compositor);
+        click("scanKey");
+        const bool isTold = find<QLabel>("editingKeyPrompt1")->text().contains("aren’t heard here");
+        EXPECT_EQ(isTold, *compositor != '\0');
+        find("volumeIncBtn")->setFocus();
+    }
+    qunsetenv("WAYLAND_DISPLAY");
+}
+
 TEST_F(HotKeyTest, NobodyTabsIntoACapture) {
     open();
     find("scanKeyBtn")->setFocus();
