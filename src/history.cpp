@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "src/history.h"
 
+#include <utility>
+
 namespace {
 
 constexpr double kSameStepSeconds = 2;
@@ -12,18 +14,19 @@ bool isGradual(const Setting& setting) {
 
 } // namespace
 
-void History::note(const PrefsRecord& record, double time) {
+void History::note(const PrefsRecord& record, double time, const std::string& profile) {
     const SettingSet changed = differences(now_, record);
+    const std::string before = std::exchange(profile_, profile);
     if (changed.none())
         return;
     steps_.resize(position_, HistoryStep());
-    if (joinsLast(changed, time)) {
+    if (before == profile && joinsLast(changed, time)) {
         steps_.back().after = record;
         steps_.back().time = time;
         if ((differences(steps_.back().before, record) & changed).none())
             steps_.pop_back();
     } else {
-        steps_.push_back({changed, now_, record, time});
+        steps_.push_back({changed, now_, record, time, before, profile});
     }
     position_ = steps_.size();
     now_ = record;
@@ -41,6 +44,7 @@ const HistoryStep* History::undo(PrefsRecord& record) {
     step.time = -kSameStepSeconds; // a change that comes next is a step of its own
     copySettings(step.settings, step.before, record);
     now_ = record;
+    profile_ = step.profileBefore;
     return &step;
 }
 
@@ -50,5 +54,6 @@ const HistoryStep* History::redo(PrefsRecord& record) {
     HistoryStep& step = steps_[position_++];
     copySettings(step.settings, step.after, record);
     now_ = record;
+    profile_ = step.profileAfter;
     return &step;
 }

@@ -69,10 +69,18 @@ std::string profileNameFault(const std::string& name) {
     return {};
 }
 
-std::string saveProfile(const std::string& name, const PrefsRecord& record) {
+std::string freeProfileName(const std::string& name) {
+    std::string free = name;
+    for (int number = 2; isThere(free); ++number)
+        free = name + " " + std::to_string(number);
+    return free;
+}
+
+std::string saveProfile(const std::string& name, const PrefsRecord& record,
+                        const SettingSet& settings) {
     if (const std::string fault = profileNameFault(name); !fault.empty())
         return fault;
-    return reasonOf(writeSettingsFile(pathOf(name), profileSettings(), record));
+    return reasonOf(writeSettingsFile(pathOf(name), settings, record));
 }
 
 SettingsOffer readProfile(const std::string& name, const PrefsRecord& base) {

@@ -17,8 +17,12 @@ std::vector<std::string> profileNames();
 /// doesn't begin with a point, and holds neither a slash nor a control character.
 std::string profileNameFault(const std::string& name);
 
-/// Saves the record's settings, over a profile of the same name as well.
-std::string saveProfile(const std::string& name, const PrefsRecord& record);
+/// Saves those settings of the record, over a profile of the same name as well.
+std::string saveProfile(const std::string& name, const PrefsRecord& record,
+                        const SettingSet& settings = profileSettings());
+
+/// The name, or with a number after it, that no profile has yet.
+std::string freeProfileName(const std::string& name);
 
 /// What it offers over `base`; its error is set when there is none of that name.
 SettingsOffer readProfile(const std::string& name, const PrefsRecord& base);

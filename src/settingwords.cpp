@@ -137,6 +137,17 @@ std::string changeText(const Setting& setting, const PrefsRecord& before, const 
     return old == now ? name : filled(form, {name, withoutUnit(old, now), now});
 }
 
+std::string changesText(const SettingSet& settings, const PrefsRecord& before,
+                        const PrefsRecord& after, const char* pattern) {
+    const std::string text = changeText(kSettings[firstOf(settings)], before, after, pattern);
+    const int others = static_cast<int>(settings.count()) - 1;
+    if (others == 0)
+        return text;
+    return filled(others == 1 ? localized("Changes", "%1, and 1 setting more")
+                              : localized("Changes", "%1, and %n settings more", "", others),
+                  {text});
+}
+
 std::string rangeText(const SettingLimits& limits) {
     return *limits.unit ? filled(localized("Units", "%1 to %2 %3", "as in 1 to 60 seconds"),
                                  {print("%g", limits.minimum), print("%g", limits.maximum),

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "src/settings.h"
+#include "src/differences.h"
 
 #include "platform/CoreFoundation/Localization.h"
 
@@ -22,6 +22,10 @@ inline constexpr char kSettingBecomesAgain[] = LOCALIZABLE("Changes", "%1: %2 ba
 /// Of hot keys it names the first that differs. Values that read the same aren't said.
 std::string changeText(const Setting& setting, const PrefsRecord& before, const PrefsRecord& after,
                        const char* pattern);
+
+/// The first of those changes and how many there are besides. At least one is.
+std::string changesText(const SettingSet& settings, const PrefsRecord& before,
+                        const PrefsRecord& after, const char* pattern);
 
 /// "1 to 60 seconds", of limits that are.
 std::string rangeText(const SettingLimits& limits);

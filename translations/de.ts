@@ -1056,10 +1056,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Nichts bewegt sich, bis Sie drücken; Sie können keinen Moment verpassen.</translation>
     </message>
     <message>
-        <source>Stop without a press &amp;for</source>
-        <translation>&amp;Beenden ohne Druck nach</translation>
-    </message>
-    <message>
         <source>The scan ends after this time without a press.</source>
         <translation>Der Scan endet nach dieser Zeit ohne Druck.</translation>
     </message>
@@ -1696,6 +1692,170 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Zeigt, wie Ihr Schalter antwortet, wie Sie drücken, ein Tempo und wo Hilfe ist.</translation>
     </message>
     <message>
+        <source>Profiles</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>Uses a profile, which changes all settings at once, and says which one is in use.</source>
+        <translation>Verwendet ein Profil, das alle Einstellungen auf einmal ändert, und sagt, welches in Gebrauch ist.</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Uses a profile, which changes all settings at once.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Verwendet ein Profil, das alle Einstellungen auf einmal ändert.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Stop witho&amp;ut a press for</source>
+        <translation>&amp;Beenden ohne Druck nach</translation>
+    </message>
+    <message>
+        <source>Pro&amp;files</source>
+        <translation>Prof&amp;ile</translation>
+    </message>
+    <message>
+        <source>Your profiles</source>
+        <translation>Ihre Profile</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from one to the next; Space chooses it and says what it would change.</source>
+        <translation>Die Pfeiltasten gehen von einem zum nächsten; die Leertaste wählt es und sagt, was es ändern würde.</translation>
+    </message>
+    <message>
+        <source>Use the chosen profile</source>
+        <translation>Das gewählte Profil verwenden</translation>
+    </message>
+    <message>
+        <source>Changes all these settings at once. Undo takes it back.</source>
+        <translation>Ändert alle diese Einstellungen auf einmal. „Rückgängig“ nimmt es zurück.</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
+        <source>Save the settings in the chosen profile</source>
+        <translation>Die Einstellungen im gewählten Profil speichern</translation>
+    </message>
+    <message>
+        <source>The chosen profile gets the settings as they are now.</source>
+        <translation>Das gewählte Profil bekommt die Einstellungen, wie sie jetzt sind.</translation>
+    </message>
+    <message>
+        <source>Save the settings in it</source>
+        <translation>Einstellungen darin speichern</translation>
+    </message>
+    <message>
+        <source>Delete the chosen profile</source>
+        <translation>Das gewählte Profil löschen</translation>
+    </message>
+    <message>
+        <source>Deletes the chosen profile. The settings stay as they are.</source>
+        <translation>Löscht das gewählte Profil. Die Einstellungen bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Save the settings as a profile</source>
+        <translation>Die Einstellungen als Profil speichern</translation>
+    </message>
+    <message>
+        <source>A name, typed or from below</source>
+        <translation>Ein Name, getippt oder von unten</translation>
+    </message>
+    <message>
+        <source>Name of the profile</source>
+        <translation>Name des Profils</translation>
+    </message>
+    <message>
+        <source>Type a name, or press one of the buttons below. Return saves.</source>
+        <translation>Tippen Sie einen Namen oder drücken Sie einen der Knöpfe darunter. Die Eingabetaste speichert.</translation>
+    </message>
+    <message>
+        <source>Puts this name into the field.</source>
+        <translation>Schreibt diesen Namen in das Feld.</translation>
+    </message>
+    <message>
+        <source>Morning</source>
+        <translation>Morgen</translation>
+    </message>
+    <message>
+        <source>Afternoon</source>
+        <translation>Nachmittag</translation>
+    </message>
+    <message>
+        <source>Evening</source>
+        <translation>Abend</translation>
+    </message>
+    <message>
+        <source>Rested</source>
+        <translation>Ausgeruht</translation>
+    </message>
+    <message>
+        <source>Tired</source>
+        <translation>Müde</translation>
+    </message>
+    <message>
+        <source>Outside</source>
+        <translation>Unterwegs</translation>
+    </message>
+    <message>
+        <source>Save the settings under the name above</source>
+        <translation>Die Einstellungen unter dem Namen oben speichern</translation>
+    </message>
+    <message>
+        <source>Saves the settings as they are now under the name above.</source>
+        <translation>Speichert die Einstellungen, wie sie jetzt sind, unter dem Namen oben.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Gives the chosen profile the name above.</source>
+        <translation>Gibt dem gewählten Profil den Namen oben.</translation>
+    </message>
+    <message>
+        <source>Rename the chosen one</source>
+        <translation>Das gewählte umbenennen</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Settings from a file</source>
+        <translation>Einstellungen aus einer Datei</translation>
+    </message>
+    <message>
+        <source>Shows what the file would change, before anything is changed.</source>
+        <translation>Zeigt, was die Datei ändern würde, bevor etwas geändert wird.</translation>
+    </message>
+    <message>
+        <source>Import settings</source>
+        <translation>Einstellungen importieren</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren…</translation>
+    </message>
+    <message>
+        <source>Save all settings in a file</source>
+        <translation>Alle Einstellungen in eine Datei speichern</translation>
+    </message>
+    <message>
+        <source>As a backup, or for another computer.</source>
+        <translation>Als Sicherung oder für einen anderen Computer.</translation>
+    </message>
+    <message>
+        <source>Export the settings</source>
+        <translation>Einstellungen exportieren</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
         <source>Show it…</source>
         <translation>Zeigen…</translation>
     </message>
@@ -1728,6 +1888,145 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>%d points thick, %.0f%% transparent, red %u, green %u, blue %u, each of 255.</source>
         <translation>%d Punkte dick, %.0f %% transparent, Rot %u, Grün %u, Blau %u, jeweils von 255.</translation>
+    </message>
+</context>
+<context>
+    <name>Profiles</name>
+    <message>
+        <source>Left out: %1: %2.</source>
+        <translation>Ausgelassen: %1: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” can’t be used: %2.</source>
+        <translation>„%1“ kann nicht verwendet werden: %2.</translation>
+    </message>
+    <message>
+        <source>Nothing in “%1” differs from the settings.</source>
+        <translation>Nichts in „%1“ weicht von den Einstellungen ab.</translation>
+    </message>
+    <message>
+        <source>“%1” would change: %2. Use its settings?</source>
+        <translation>„%1“ würde ändern: %2. Einstellungen verwenden?</translation>
+    </message>
+    <message>
+        <source>Use them</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Lassen</translation>
+    </message>
+    <message>
+        <source>Settings from a file</source>
+        <translation>Einstellungen aus einer Datei</translation>
+    </message>
+    <message>
+        <source>Save the settings in a file</source>
+        <translation>Die Einstellungen in eine Datei speichern</translation>
+    </message>
+    <message>
+        <source>“%1” couldn’t be saved: %2.</source>
+        <translation>„%1“ konnte nicht gespeichert werden: %2.</translation>
+    </message>
+    <message>
+        <source>The settings are now in %1.</source>
+        <translation>Die Einstellungen sind jetzt in %1.</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1, geändert</translation>
+    </message>
+    <message>
+        <source>Profile: %1, changed</source>
+        <translation>Profil: %1, geändert</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>Profil: %1</translation>
+    </message>
+    <message>
+        <source>Use “%1”</source>
+        <translation>„%1“ verwenden</translation>
+    </message>
+    <message>
+        <source>Back to “%1”</source>
+        <translation>Zurück zu „%1“</translation>
+    </message>
+    <message>
+        <source>“%1” is in use</source>
+        <translation>„%1“ ist in Gebrauch</translation>
+    </message>
+    <message>
+        <source>Save the changes in “%1”</source>
+        <translation>Änderungen in „%1“ speichern</translation>
+    </message>
+    <message>
+        <source>Save a profile…</source>
+        <translation>Ein Profil speichern…</translation>
+    </message>
+    <message>
+        <source>Save, rename, delete…</source>
+        <translation>Speichern, umbenennen, löschen…</translation>
+    </message>
+    <message>
+        <source>%1, in use, changed</source>
+        <translation>%1, in Gebrauch, geändert</translation>
+    </message>
+    <message>
+        <source>%1, in use</source>
+        <translation>%1, in Gebrauch</translation>
+    </message>
+    <message>
+        <source>There is no profile yet. Save the settings as they are now, and come back to them with two presses.</source>
+        <translation>Es gibt noch kein Profil. Speichern Sie die Einstellungen, wie sie jetzt sind, und kehren Sie mit zwei Tastendrücken zu ihnen zurück.</translation>
+    </message>
+    <message>
+        <source>The settings are those of “%1”.</source>
+        <translation>Die Einstellungen sind die von „%1“.</translation>
+    </message>
+    <message>
+        <source>“%1” would change:</source>
+        <translation>„%1“ würde ändern:</translation>
+    </message>
+    <message>
+        <source>“%1” is in use.</source>
+        <translation>„%1“ ist in Gebrauch.</translation>
+    </message>
+    <message>
+        <source>The settings are saved as “%1”.</source>
+        <translation>Die Einstellungen sind als „%1“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>“%1” is as it was.</source>
+        <translation>„%1“ ist, wie es war.</translation>
+    </message>
+    <message>
+        <source>“%1” couldn’t be renamed: %2.</source>
+        <translation>„%1“ konnte nicht umbenannt werden: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” is now called “%2”.</source>
+        <translation>„%1“ heißt jetzt „%2“.</translation>
+    </message>
+    <message>
+        <source>“%1” couldn’t be deleted: %2.</source>
+        <translation>„%1“ konnte nicht gelöscht werden: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” is deleted. The settings stay as they are.</source>
+        <translation>„%1“ ist gelöscht. Die Einstellungen bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>Put it back</source>
+        <translation>Zurücknehmen</translation>
     </message>
 </context>
 <context>

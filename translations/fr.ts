@@ -1056,10 +1056,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Rien ne bouge sans appui&#xa0;: il n’y a aucun moment à manquer.</translation>
     </message>
     <message>
-        <source>Stop without a press &amp;for</source>
-        <translation>S’arrêter &amp;sans appui au bout de</translation>
-    </message>
-    <message>
         <source>The scan ends after this time without a press.</source>
         <translation>Le balayage finit après ce temps sans appui.</translation>
     </message>
@@ -1696,6 +1692,170 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Montre la réponse de votre contacteur, votre façon d’appuyer, une vitesse et où trouver de l’aide.</translation>
     </message>
     <message>
+        <source>Profiles</source>
+        <translation>Profils</translation>
+    </message>
+    <message>
+        <source>Uses a profile, which changes all settings at once, and says which one is in use.</source>
+        <translation>Utilise un profil, qui change tous les réglages d’un coup, et dit lequel est utilisé.</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Uses a profile, which changes all settings at once.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Utilise un profil, qui change tous les réglages d’un coup.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Stop witho&amp;ut a press for</source>
+        <translation>S’arrêter &amp;sans appui au bout de</translation>
+    </message>
+    <message>
+        <source>Pro&amp;files</source>
+        <translation>Pro&amp;fils</translation>
+    </message>
+    <message>
+        <source>Your profiles</source>
+        <translation>Vos profils</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from one to the next; Space chooses it and says what it would change.</source>
+        <translation>Les flèches vont de l’un à l’autre ; Espace choisit le profil et dit ce qu’il changerait.</translation>
+    </message>
+    <message>
+        <source>Use the chosen profile</source>
+        <translation>Utiliser le profil choisi</translation>
+    </message>
+    <message>
+        <source>Changes all these settings at once. Undo takes it back.</source>
+        <translation>Change tous ces réglages d’un coup. « Annuler » revient en arrière.</translation>
+    </message>
+    <message>
+        <source>Use it</source>
+        <translation>Utiliser</translation>
+    </message>
+    <message>
+        <source>Save the settings in the chosen profile</source>
+        <translation>Enregistrer les réglages dans le profil choisi</translation>
+    </message>
+    <message>
+        <source>The chosen profile gets the settings as they are now.</source>
+        <translation>Le profil choisi reçoit les réglages tels qu’ils sont maintenant.</translation>
+    </message>
+    <message>
+        <source>Save the settings in it</source>
+        <translation>Y enregistrer les réglages</translation>
+    </message>
+    <message>
+        <source>Delete the chosen profile</source>
+        <translation>Supprimer le profil choisi</translation>
+    </message>
+    <message>
+        <source>Deletes the chosen profile. The settings stay as they are.</source>
+        <translation>Supprime le profil choisi. Les réglages restent tels qu’ils sont.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Save the settings as a profile</source>
+        <translation>Enregistrer les réglages comme profil</translation>
+    </message>
+    <message>
+        <source>A name, typed or from below</source>
+        <translation>Un nom, tapé ou pris ci-dessous</translation>
+    </message>
+    <message>
+        <source>Name of the profile</source>
+        <translation>Nom du profil</translation>
+    </message>
+    <message>
+        <source>Type a name, or press one of the buttons below. Return saves.</source>
+        <translation>Tapez un nom ou pressez un des boutons ci-dessous. Entrée enregistre.</translation>
+    </message>
+    <message>
+        <source>Puts this name into the field.</source>
+        <translation>Met ce nom dans le champ.</translation>
+    </message>
+    <message>
+        <source>Morning</source>
+        <translation>Matin</translation>
+    </message>
+    <message>
+        <source>Afternoon</source>
+        <translation>Après-midi</translation>
+    </message>
+    <message>
+        <source>Evening</source>
+        <translation>Soir</translation>
+    </message>
+    <message>
+        <source>Rested</source>
+        <translation>En forme</translation>
+    </message>
+    <message>
+        <source>Tired</source>
+        <translation>Fatigue</translation>
+    </message>
+    <message>
+        <source>Outside</source>
+        <translation>Dehors</translation>
+    </message>
+    <message>
+        <source>Save the settings under the name above</source>
+        <translation>Enregistrer les réglages sous le nom ci-dessus</translation>
+    </message>
+    <message>
+        <source>Saves the settings as they are now under the name above.</source>
+        <translation>Enregistre les réglages tels qu’ils sont sous le nom ci-dessus.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Gives the chosen profile the name above.</source>
+        <translation>Donne au profil choisi le nom ci-dessus.</translation>
+    </message>
+    <message>
+        <source>Rename the chosen one</source>
+        <translation>Renommer le profil choisi</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Settings from a file</source>
+        <translation>Réglages d’un fichier</translation>
+    </message>
+    <message>
+        <source>Shows what the file would change, before anything is changed.</source>
+        <translation>Montre ce que le fichier changerait, avant tout changement.</translation>
+    </message>
+    <message>
+        <source>Import settings</source>
+        <translation>Importer des réglages</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Save all settings in a file</source>
+        <translation>Enregistrer tous les réglages dans un fichier</translation>
+    </message>
+    <message>
+        <source>As a backup, or for another computer.</source>
+        <translation>Comme sauvegarde, ou pour un autre ordinateur.</translation>
+    </message>
+    <message>
+        <source>Export the settings</source>
+        <translation>Exporter les réglages</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
         <source>Show it…</source>
         <translation>La montrer…</translation>
     </message>
@@ -1728,6 +1888,145 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>%d points thick, %.0f%% transparent, red %u, green %u, blue %u, each of 255.</source>
         <translation>%d points d’épaisseur, %.0f %% transparente, rouge %u, vert %u, bleu %u, chacun sur 255.</translation>
+    </message>
+</context>
+<context>
+    <name>Profiles</name>
+    <message>
+        <source>Left out: %1: %2.</source>
+        <translation>Laissé de côté : %1 : %2.</translation>
+    </message>
+    <message>
+        <source>“%1” can’t be used: %2.</source>
+        <translation>« %1 » ne peut pas être utilisé : %2.</translation>
+    </message>
+    <message>
+        <source>Nothing in “%1” differs from the settings.</source>
+        <translation>Rien dans « %1 » ne diffère des réglages.</translation>
+    </message>
+    <message>
+        <source>“%1” would change: %2. Use its settings?</source>
+        <translation>« %1 » changerait : %2. Utiliser ses réglages ?</translation>
+    </message>
+    <message>
+        <source>Use them</source>
+        <translation>Les utiliser</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Laisser</translation>
+    </message>
+    <message>
+        <source>Settings from a file</source>
+        <translation>Réglages d’un fichier</translation>
+    </message>
+    <message>
+        <source>Save the settings in a file</source>
+        <translation>Enregistrer les réglages dans un fichier</translation>
+    </message>
+    <message>
+        <source>“%1” couldn’t be saved: %2.</source>
+        <translation>« %1 » n’a pas pu être enregistré : %2.</translation>
+    </message>
+    <message>
+        <source>The settings are now in %1.</source>
+        <translation>Les réglages sont maintenant dans %1.</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profils</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1, modifié</translation>
+    </message>
+    <message>
+        <source>Profile: %1, changed</source>
+        <translation>Profil : %1, modifié</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>Profil : %1</translation>
+    </message>
+    <message>
+        <source>Use “%1”</source>
+        <translation>Utiliser « %1 »</translation>
+    </message>
+    <message>
+        <source>Back to “%1”</source>
+        <translation>Revenir à « %1 »</translation>
+    </message>
+    <message>
+        <source>“%1” is in use</source>
+        <translation>« %1 » est utilisé</translation>
+    </message>
+    <message>
+        <source>Save the changes in “%1”</source>
+        <translation>Enregistrer les changements dans « %1 »</translation>
+    </message>
+    <message>
+        <source>Save a profile…</source>
+        <translation>Enregistrer un profil…</translation>
+    </message>
+    <message>
+        <source>Save, rename, delete…</source>
+        <translation>Enregistrer, renommer, supprimer…</translation>
+    </message>
+    <message>
+        <source>%1, in use, changed</source>
+        <translation>%1, utilisé, modifié</translation>
+    </message>
+    <message>
+        <source>%1, in use</source>
+        <translation>%1, utilisé</translation>
+    </message>
+    <message>
+        <source>There is no profile yet. Save the settings as they are now, and come back to them with two presses.</source>
+        <translation>Il n’y a pas encore de profil. Enregistrez les réglages tels qu’ils sont, et revenez-y en deux appuis.</translation>
+    </message>
+    <message>
+        <source>The settings are those of “%1”.</source>
+        <translation>Les réglages sont ceux de « %1 ».</translation>
+    </message>
+    <message>
+        <source>“%1” would change:</source>
+        <translation>« %1 » changerait :</translation>
+    </message>
+    <message>
+        <source>“%1” is in use.</source>
+        <translation>« %1 » est utilisé.</translation>
+    </message>
+    <message>
+        <source>The settings are saved as “%1”.</source>
+        <translation>Les réglages sont enregistrés sous « %1 ».</translation>
+    </message>
+    <message>
+        <source>“%1” is as it was.</source>
+        <translation>« %1 » est comme avant.</translation>
+    </message>
+    <message>
+        <source>“%1” couldn’t be renamed: %2.</source>
+        <translation>« %1 » n’a pas pu être renommé : %2.</translation>
+    </message>
+    <message>
+        <source>“%1” is now called “%2”.</source>
+        <translation>« %1 » s’appelle maintenant « %2 ».</translation>
+    </message>
+    <message>
+        <source>“%1” couldn’t be deleted: %2.</source>
+        <translation>« %1 » n’a pas pu être supprimé : %2.</translation>
+    </message>
+    <message>
+        <source>“%1” is deleted. The settings stay as they are.</source>
+        <translation>« %1 » est supprimé. Les réglages restent tels qu’ils sont.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Et %1 de plus.</translation>
+    </message>
+    <message>
+        <source>Put it back</source>
+        <translation>Revenir en arrière</translation>
     </message>
 </context>
 <context>

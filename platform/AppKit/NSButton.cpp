@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSButton.h"
 
+#include "platform/AppKit/detail/RowText.h"
 #include "platform/AppKit/detail/ToggleAction.h"
 
 #include <QAbstractButton>
@@ -33,6 +34,10 @@ void NSButton::attachWidget(QWidget* widget) {
 void NSButton::setTitle(std::string_view utf8) {
     static_cast<QAbstractButton*>(widget())->setText(
         QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
+}
+
+std::string NSButton::title() const {
+    return withoutMnemonic(static_cast<const QAbstractButton*>(widget())->text()).toStdString();
 }
 
 int NSButton::state() const {

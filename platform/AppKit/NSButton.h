@@ -14,6 +14,7 @@ public:
     void attachWidget(QWidget* widget) override;
 
     void setTitle(std::string_view utf8);
+    std::string title() const; ///< in UTF-8, without the mark of its letter
 
     int state() const;
     void setState(int state);

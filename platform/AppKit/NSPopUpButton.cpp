@@ -3,6 +3,8 @@
 
 #include "platform/AppKit/detail/PopUpButtonWidget.h"
 
+#include <QVariant>
+
 #include <algorithm>
 
 void NSPopUpButton::attachWidget(QWidget* widget) {
@@ -23,6 +25,16 @@ void NSPopUpButton::attachWidget(QWidget* widget) {
         if (NSMenuItem* item = itemWithTitle(title.toStdString()))
             item->sendAction();
     };
+}
+
+void NSPopUpButton::setTitle(std::string_view utf8) {
+    auto* button = static_cast<PopUpButtonWidget*>(widget());
+    const QString title = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    const QVariant brief = button->property("shortText");
+    const bool isBrief = brief.isValid() && button->text() == brief.toString();
+    button->setProperty("longText", title);
+    if (!isBrief)
+        button->setText(title);
 }
 
 void NSPopUpButton::addItemWithTitle(std::string_view utf8) {

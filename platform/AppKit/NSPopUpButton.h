@@ -19,9 +19,9 @@ public:
     virtual void menuNeedsUpdate(NSPopUpButton* menu) = 0;
 };
 
-/// A button that opens a menu of actions. It is a pull-down menu: the button always shows the
-/// caption that the form gives it, never an item, and sends no action of its own; the chosen item
-/// sends its own. In the form it is a QPushButton promoted to NSPopUpButton.
+/// A button that opens a menu of actions. It is a pull-down menu: the button shows a caption of its
+/// own, never an item, and sends no action of its own; the chosen item sends its own. In the form
+/// it is a QPushButton promoted to NSPopUpButton.
 ///
 /// The menu closes by itself when the button is disabled or hidden. It doesn't open while it has no
 /// items.
@@ -29,9 +29,15 @@ class NSPopUpButton final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;
 
+    /// Another caption than the form's, in UTF-8. Where the form's property shortText stands in for
+    /// the caption it stays in sight.
+    void setTitle(std::string_view utf8);
+
     /// Adds an item at the end. It replaces the item of the same title, if there is one, which
     /// dies.
     void addItemWithTitle(std::string_view utf8);
+
+    void removeAllItems() { items_.clear(); }
 
     /// Null when there is no item of that title. Owned by the pop-up button.
     NSMenuItem* itemWithTitle(std::string_view utf8) const;

@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr int kFieldMargin = 8; // points beside the text
+
 /// Keeps a label's text quieter than others, in every palette.
 class SecondaryColor final : public QObject {
 public:
@@ -43,6 +45,10 @@ void NSTextField::attachWidget(QWidget* widget) {
         new SecondaryColor(static_cast<QLabel*>(widget));
     if (auto* field = dynamic_cast<ValueField*>(widget))
         field->onTyped = [this] { sendAction(); };
+    else if (auto* line = qobject_cast<QLineEdit*>(widget)) {
+        line->setTextMargins(kFieldMargin, 0, kFieldMargin, 0);
+        QObject::connect(line, &QLineEdit::returnPressed, line, [this] { sendAction(); });
+    }
 }
 
 void NSTextField::setStringValue(std::string_view utf8) {
@@ -51,6 +57,8 @@ void NSTextField::setStringValue(std::string_view utf8) {
         field->showText(text);
         return;
     }
+    if (auto* line = qobject_cast<QLineEdit*>(widget()))
+        return line->setText(text);
     auto* label = static_cast<QLabel*>(widget());
     label->setTextFormat(Qt::PlainText);
     label->setText(text);

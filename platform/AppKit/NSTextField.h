@@ -6,9 +6,9 @@
 #include <string>
 
 /// A line of text. A row's value field can be edited: it sends its action when another text was
-/// typed. The dynamic property textColor with the value
-/// secondaryLabelColor makes it quieter than other texts, in every palette; hidesWhenEmpty takes it
-/// out of sight while it has no text.
+/// typed; a QLineEdit of the form does when Return is pressed. The dynamic property textColor with
+/// the value secondaryLabelColor makes it quieter than other texts, in every palette;
+/// hidesWhenEmpty takes it out of sight while it has no text.
 class NSTextField final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;

@@ -80,6 +80,11 @@ std::string NSView::accessibilityLabel() const {
     return widget_->accessibleName().toStdString();
 }
 
+void NSView::setAccessibilityLabel(std::string_view label) {
+    widget_->setAccessibleName(
+        QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())));
+}
+
 void NSView::setAccessibilityHelp(std::string_view help) {
     widget_->setAccessibleDescription(
         QString::fromUtf8(help.data(), static_cast<qsizetype>(help.size())));

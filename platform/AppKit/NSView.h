@@ -45,8 +45,9 @@ public:
     /// From the coordinates of another view, or of the window when `view` is null, to its own.
     NSPoint convertPoint(NSPoint point, const NSView* view) const;
 
-    /// What a screen reader calls it, in UTF-8; given by the form.
+    /// What a screen reader calls it, in UTF-8; given by the form at first.
     std::string accessibilityLabel() const;
+    void setAccessibilityLabel(std::string_view label);
     /// What a screen reader says of it besides; UTF-8.
     void setAccessibilityHelp(std::string_view help);
 

@@ -33,6 +33,8 @@ public:
 
     NSScreen screen() const;
 
+    QWidget* widget() const { return window_; }
+
     /// The window as Carbon knows it.
     WindowRef windowRef() const;
 

@@ -3,6 +3,7 @@
 
 #include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSEvent.h"
+#include "platform/AppKit/NSStringDrawing.h"
 #include "platform/HIToolbox/Appearance.h"
 
 #include <algorithm>
@@ -14,6 +15,8 @@ namespace {
 constexpr int kColumns = 6;
 constexpr int kSide = 44; ///< of a button, in points; enough for a trembling hand
 constexpr int kGap = 6;
+constexpr float kRoomAroundText = 20; ///< above and below it, together
+constexpr float kLeastListWidth = 200;
 
 struct Choice {
     const ChoiceGridSource& source;
@@ -25,18 +28,31 @@ void drawChoice(const Rect* bounds, ThemeButtonKind, const ThemeButtonDrawInfo*,
     source.drawChoice(index, *bounds);
 }
 
-Rect frameOf(int index) {
-    const int top = index / kColumns * (kSide + kGap), left = index % kColumns * (kSide + kGap);
-    return {static_cast<SInt16>(top), static_cast<SInt16>(left), static_cast<SInt16>(top + kSide),
-            static_cast<SInt16>(left + kSide)};
-}
-
-NSRect viewFrameOf(int index) {
-    const Rect frame = frameOf(index);
-    return {static_cast<float>(frame.left), static_cast<float>(frame.top), kSide, kSide};
+Rect rectOf(const NSRect& frame) {
+    return {static_cast<SInt16>(frame.y), static_cast<SInt16>(frame.x),
+            static_cast<SInt16>(frame.y + frame.height),
+            static_cast<SInt16>(frame.x + frame.width)};
 }
 
 } // namespace
+
+int ChoiceGrid::columns() const {
+    return source_->isList() ? 1 : kColumns;
+}
+
+/// A row of text is as high as the text asks for.
+NSSize ChoiceGrid::choiceSize() const {
+    if (!source_->isList())
+        return {kSide, kSide};
+    const float text = sizeWithAttributes(CFSTR("X"), {NSFont::systemFontOfSize(0)}).height;
+    return {bounds().width, std::max(static_cast<float>(kSide), text + kRoomAroundText)};
+}
+
+NSRect ChoiceGrid::frameOf(int index) const {
+    const auto [width, height] = choiceSize();
+    return {static_cast<float>(index % columns()) * (width + kGap),
+            static_cast<float>(index / columns()) * (height + kGap), width, height};
+}
 
 void ChoiceGrid::reload() {
     const int old = chosen_;
@@ -46,8 +62,12 @@ void ChoiceGrid::reload() {
     for (int i = count_ - 1; i >= 0; --i)
         if (source_->isChosen(i))
             chosen_ = i;
-    setFrameSize({kColumns * (kSide + kGap) - kGap,
-                  static_cast<float>((count_ + kColumns - 1) / kColumns * (kSide + kGap) - kGap)});
+    if (source_) {
+        const int rows = (count_ + columns() - 1) / columns();
+        const float width = source_->isList() ? kLeastListWidth : kColumns * (kSide + kGap) - kGap;
+        setFrameSize(
+            {width, std::max(static_cast<float>(rows) * (choiceSize().height + kGap) - kGap, 0.F)});
+    }
     setNeedsDisplay(true);
     for (const int changed : {old, chosen_})
         if (old != chosen_)
@@ -57,7 +77,7 @@ void ChoiceGrid::reload() {
 
 void ChoiceGrid::drawRect(const NSRect&) {
     for (int i = 0; i < count_; ++i) {
-        const Rect frame = frameOf(i);
+        const Rect frame = rectOf(frameOf(i));
         const ThemeButtonDrawInfo info{kThemeStateActive,
                                        source_->isChosen(i) ? kThemeButtonOn : kThemeButtonOff,
                                        kThemeAdornmentNone};
@@ -71,7 +91,7 @@ void ChoiceGrid::drawRect(const NSRect&) {
 void ChoiceGrid::mouseDown(NSEvent* event) {
     const NSPoint place = convertPoint(event->locationInWindow(), nullptr);
     for (int i = 0; i < count_; ++i)
-        if (NSPointInRect(place, viewFrameOf(i)))
+        if (NSPointInRect(place, frameOf(i)))
             return accessibilityPress(i);
 }
 
@@ -91,9 +111,9 @@ void ChoiceGrid::keyDown(NSEvent* event) {
     case NSRightArrowFunctionKey:
         return moveCursor(cursor_ + 1);
     case NSUpArrowFunctionKey:
-        return moveCursor(cursor_ - kColumns);
+        return moveCursor(cursor_ - columns());
     case NSDownArrowFunctionKey:
-        return moveCursor(cursor_ + kColumns);
+        return moveCursor(cursor_ + columns());
     case NSHomeFunctionKey:
         return moveCursor(0);
     case NSEndFunctionKey:
@@ -110,7 +130,7 @@ void ChoiceGrid::keyDown(NSEvent* event) {
 }
 
 NSAccessibilityElement ChoiceGrid::accessibilityElement(int index) const {
-    return {source_->choiceName(index), viewFrameOf(index), source_->isChosen(index)};
+    return {source_->choiceName(index), frameOf(index), source_->isChosen(index)};
 }
 
 void ChoiceGrid::accessibilityPress(int index) {

@@ -15,12 +15,15 @@ public:
     virtual void drawChoice(int index, const Rect& bounds) const = 0;
     virtual void choose(int index) = 0;
 
+    /// Whether each choice takes a row as wide as the view, instead of a square.
+    virtual bool isList() const { return false; }
+
 protected:
     ~ChoiceGridSource() = default;
 };
 
-/// A grid of pictures, each a button that chooses what it shows. By keyboard, arrows move a cursor,
-/// and Space or Return presses the button there.
+/// A grid of pictures, or a list of texts, each a button that chooses what it shows. By keyboard,
+/// arrows move a cursor, and Space or Return presses the button there.
 class ChoiceGrid final : public NSQuickDrawView, public NSAccessibilityList {
 public:
     /// Not owned; null for none.
@@ -45,6 +48,9 @@ public:
 
 private:
     void moveCursor(int index);
+    int columns() const;
+    NSSize choiceSize() const;
+    NSRect frameOf(int index) const;
 
     ChoiceGridSource* source_ = nullptr;
     int count_ = 0;

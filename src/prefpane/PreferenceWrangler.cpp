@@ -37,6 +37,7 @@ std::span<const Outlet> PreferenceWrangler::outlets() const {
     using W = PreferenceWrangler;
     using Keys = HotKeyEditor;
     using Palette = PaletteEditor;
+    using Profiles = ProfileEditor;
     using Builder = HotKeyBuilder;
     static constexpr Outlet own[] = {
         outletRow<&W::activateAtLaunch_>("activateAtLaunch"),
@@ -56,6 +57,14 @@ std::span<const Outlet> PreferenceWrangler::outlets() const {
         outletRow<&W::palette_, &Palette::paletteView>("paletteView"),
         outletRow<&W::pointers_, &PointerChooser::pointerName>("pointerName"),
         outletRow<&W::pointers_, &PointerChooser::pointerGrid>("pointerGrid"),
+        outletRow<&W::profiles_, &Profiles::menu>("profileMenu"),
+        outletRow<&W::profiles_, &Profiles::grid>("profileGrid"),
+        outletRow<&W::profiles_, &Profiles::explanation>("profileExplanation"),
+        outletRow<&W::profiles_, &Profiles::name>("profileName"),
+        outletRow<&W::profiles_, &Profiles::useBtn>("useProfileBtn"),
+        outletRow<&W::profiles_, &Profiles::updateBtn>("updateProfileBtn"),
+        outletRow<&W::profiles_, &Profiles::renameBtn>("renameProfileBtn"),
+        outletRow<&W::profiles_, &Profiles::deleteBtn>("deleteProfileBtn"),
         outletRow<&W::palette_, &Palette::removeButtonBtn>("removeButtonBtn"),
         outletRow<&W::palette_, &Palette::resetActionsBtn>("resetActionsBtn"),
         outletRow<&W::sampleScanImage_>("sampleScanImage"),
@@ -134,6 +143,18 @@ std::span<const Action> PreferenceWrangler::actions() const {
         actionRow<&W::findMySpeed>("findMySpeed:"),
         actionRow<&W::previousPointer>("previousPointer:"),
         actionRow<&W::nextPointer>("nextPointer:"),
+        actionRow<&W::chooseProfile>("chooseProfile:"),
+        actionRow<&W::keepProfile>("keepProfile:"),
+        actionRow<&W::showProfiles>("showProfiles:"),
+        actionRow<&W::useProfile>("useProfile:"),
+        actionRow<&W::updateProfile>("updateProfile:"),
+        actionRow<&W::renameProfile>("renameProfile:"),
+        actionRow<&W::deleteProfile>("deleteProfile:"),
+        actionRow<&W::suggestProfileName>("suggestProfileName:"),
+        actionRow<&W::saveProfile>("saveProfile:"),
+        actionRow<&W::enterProfileName>("enterProfileName:"),
+        actionRow<&W::importSettings>("importSettings:"),
+        actionRow<&W::exportSettings>("exportSettings:"),
     };
     static const auto table = withSettings<Action>(own);
     return table;
@@ -153,6 +174,7 @@ void PreferenceWrangler::setup() {
     pointers_.setup();
     lineColors_.setup();
     scanAreas_.setup();
+    profiles_.setup(*this);
     theWrangler = this;
 }
 

@@ -9,6 +9,7 @@
 #include "src/prefpane/NumberController.h"
 #include "src/prefpane/PaletteEditor.h"
 #include "src/prefpane/PointerChooser.h"
+#include "src/prefpane/ProfileEditor.h"
 #include "src/prefpane/ScanAreaChooser.h"
 #include "src/settings.h"
 #include "src/tryout/TryPage.h"
@@ -25,6 +26,9 @@ class NSTabView;
 class NSTextField;
 class SampleScanView;
 
+/// Of what the strip says of changes; the next change takes it away.
+inline constexpr char kChangeTopic[] = "undo";
+
 /// The pane's one controller: it binds every control to its field of `prefs`, shows the fields in
 /// the controls, and carries every edit to the store and to the agent. The interface file makes it
 /// and fills its outlets; each is named after the setting that it shows.
@@ -33,7 +37,8 @@ class PreferenceWrangler final : public NSObject,
                                  public PaletteViewTarget,
                                  public HotKeyViewTarget,
                                  public TryPageTarget,
-                                 public FirstStepsTarget {
+                                 public FirstStepsTarget,
+                                 public ProfileTarget {
 public:
     PreferenceWrangler() = default;
     ~PreferenceWrangler() override;
@@ -86,10 +91,16 @@ public:
     /// The visit's history begins with the record as it is.
     void beginHistory();
     /// Makes those settings the record's, as one change of what differs.
-    void adopt(const SettingSet& settings, const PrefsRecord& record);
+    void adopt(const SettingSet& settings, const PrefsRecord& record) override;
+    /// Another profile is in use, which is no step by itself.
+    void noteProfile() override;
+    void changedElsewhere(const SettingSet& settings, const PrefsRecord& record);
     /// Takes the last step back, or does it again: brings its control into sight and says in words
     /// what became of it.
     void undo(NSButton* sender);
+
+    void undoChange() override { undo(nullptr); }
+
     void redo(NSButton* sender);
 
     // HotKeyEditor: hot keys
@@ -149,6 +160,35 @@ public:
     void changedButtonContentName(NSButton* sender) { palette_.changedButtonContentName(*sender); }
 
     void changedButtonContentIcon(NSButton* sender) { palette_.changedButtonContentIcon(*sender); }
+
+    // ProfileEditor: named states of the settings
+
+    void chooseProfile(NSMenuItem* sender) { profiles_.chooseFromMenu(*sender); }
+
+    void keepProfile(NSMenuItem*) { profiles_.updateInUse(); }
+
+    void showProfiles(NSMenuItem*) { profiles_.showSection(); }
+
+    void useProfile(NSButton*) { profiles_.useChosen(); }
+
+    void updateProfile(NSButton*) { profiles_.updateChosen(); }
+
+    void renameProfile(NSButton*) { profiles_.renameChosen(); }
+
+    void deleteProfile(NSButton*) { profiles_.deleteChosen(); }
+
+    void suggestProfileName(NSButton* sender) { profiles_.suggestName(*sender); }
+
+    void saveProfile(NSButton*) { profiles_.saveNew(); }
+
+    void enterProfileName(NSTextField*) { profiles_.saveNew(); }
+
+    // PreferenceWranglerFiles.cpp: settings from a file, and in one
+
+    /// Says what a file has, and changes nothing before the user agrees.
+    void importSettings(NSButton* sender);
+    void takeImport(const SettingsOffer& offer);
+    void exportSettings(NSButton* sender);
 
     // PreferenceWranglerTryout.cpp: finding the speed of the line
 
@@ -219,6 +259,7 @@ private:
     HotKeyEditor hotKeys_;
     PaletteEditor palette_{*this};
     PointerChooser pointers_{*this};
+    ProfileEditor profiles_{*this};
     LineColorChooser lineColors_{*this};
     ScanAreaChooser scanAreas_{*this};
 

@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr char kTopic[] = "undo";
-
 double secondsNow() {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
     return std::chrono::duration<double>(now).count();
@@ -24,16 +22,22 @@ double secondsNow() {
 } // namespace
 
 void PreferenceWrangler::beginHistory() {
-    history_ = History(prefs);
+    profiles_.load();
+    history_ = History(prefs, profiles_.inUse());
     updateHistoryUI();
 }
 
 void PreferenceWrangler::noteStep() {
+    profiles_.show();
     if (!differences(history_.now(), prefs).any())
         return;
-    history_.note(prefs, secondsNow());
-    withdrawMessage(kTopic);
+    history_.note(prefs, secondsNow(), profiles_.inUse());
+    withdrawMessage(kChangeTopic);
     updateHistoryUI();
+}
+
+void PreferenceWrangler::noteProfile() {
+    history_.note(history_.now(), secondsNow(), profiles_.inUse());
 }
 
 void PreferenceWrangler::adopt(const SettingSet& settings, const PrefsRecord& record) {
@@ -42,6 +46,13 @@ void PreferenceWrangler::adopt(const SettingSet& settings, const PrefsRecord& re
         return;
     copySettings(different, record, prefs);
     showAndReport(changesOf(different));
+}
+
+// A command names the profile in use before it sends the change.
+void PreferenceWrangler::changedElsewhere(const SettingSet& settings, const PrefsRecord& record) {
+    profiles_.load();
+    adopt(settings, record);
+    noteProfile();
 }
 
 void PreferenceWrangler::undo(NSButton*) {
@@ -58,7 +69,7 @@ void PreferenceWrangler::resetPaletteButtons(NSButton*) {
     const PrefsRecord before = prefs;
     palette_.resetPaletteButtons();
     if (differences(before, prefs).any())
-        tellUser(kTopic,
+        tellUser(kChangeTopic,
                  {.kind = UserMessage::Kind::Note,
                   .text = localized("Changes",
                                     "The palette has the buttons again that Korvex came with."),
@@ -70,17 +81,14 @@ void PreferenceWrangler::resetPaletteButtons(NSButton*) {
 
 void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& before,
                                   const PrefsRecord& after, const char* pattern) {
-    const std::size_t first = firstOf(step.settings);
-    std::string text = changeText(kSettings[first], before, after, pattern);
-    if (const int others = static_cast<int>(step.settings.count()) - 1; others > 0)
-        text = filled(others == 1 ? localized("Changes", "%1, and 1 setting more")
-                                  : localized("Changes", "%1, and %n settings more", "", others),
-                      {text});
+    const std::string text = changesText(step.settings, before, after, pattern);
+    if (step.profileBefore != step.profileAfter)
+        profiles_.setInUse(&before == &step.before ? step.profileAfter : step.profileBefore);
     showAndReport(changesOf(step.settings));
-    if (NSView* view = viewOf(first))
+    if (NSView* view = viewOf(firstOf(step.settings)))
         view->scrollToVisible();
-    tellUser(kTopic, {.kind = UserMessage::Kind::Note,
-                      .text = filled(localized("Changes", "%1.", "a sentence"), {text})});
+    tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note,
+                            .text = filled(localized("Changes", "%1.", "a sentence"), {text})});
     updateHistoryUI();
 }
 

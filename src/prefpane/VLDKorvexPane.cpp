@@ -61,7 +61,7 @@ void VLDKorvexPane::willSelect() {
     showRecovered(recovered, *preferenceWrangler_);
     preferenceWrangler_->beginHistory();
     openWindowSetup([](const SettingSet& settings, const PrefsRecord& record) {
-        theWrangler->adopt(settings, record);
+        theWrangler->changedElsewhere(settings, record);
     });
     firstStepsOffer(bundle(), mainView()->window(), *preferenceWrangler_);
 }

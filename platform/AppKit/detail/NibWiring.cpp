@@ -12,9 +12,9 @@
 #include "platform/AppKit/detail/ColorWellButton.h"
 #include "platform/AppKit/detail/PopUpButtonWidget.h"
 #include "platform/AppKit/detail/SliderWidget.h"
-#include "platform/AppKit/detail/ValueField.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QStackedWidget>
 #include <QVariant>
 
@@ -51,7 +51,7 @@ NSView* makeStandardView(const QWidget* widget) {
         return new NSPopUpButton;
     if (qobject_cast<const QAbstractButton*>(widget))
         return new NSButton;
-    if (qobject_cast<const QLabel*>(widget) || dynamic_cast<const ValueField*>(widget))
+    if (qobject_cast<const QLabel*>(widget) || qobject_cast<const QLineEdit*>(widget))
         return new NSTextField;
     if (qobject_cast<const QStackedWidget*>(widget))
         return new NSTabView;

@@ -6,10 +6,13 @@
 #include <QKeyEvent>
 #include <QRegularExpression>
 #include <QStyleOptionButton>
+#include <QStylePainter>
 
 namespace {
 
 constexpr int kMinimumHeight = 24; // points that a finger or a trembling hand needs
+constexpr int kLeastCaption = 120; // points of width, to which a longer caption is shortened
+constexpr int kTextFlags = Qt::TextShowMnemonic;
 
 } // namespace
 
@@ -77,6 +80,7 @@ PopUpButtonWidget::PopUpButtonWidget(QWidget* parent)
         return true;
     }();
     setMinimumHeight(kMinimumHeight);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     menu_.onChosen = [this](const QString& title) { onChosen(title); };
     menu_.onClosed = [this] { showIsOpen(false); };
     // By the key that the caption underlines.
@@ -109,11 +113,24 @@ void PopUpButtonWidget::initStyleOption(QStyleOptionButton* option) const {
     option->features |= QStyleOptionButton::HasMenu;
 }
 
+void PopUpButtonWidget::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const int around = sizeHint().width() - fontMetrics().size(kTextFlags, text()).width();
+    option.text = fontMetrics().elidedText(text(), Qt::ElideMiddle, width() - around, kTextFlags);
+    painter.drawControl(QStyle::CE_PushButton, option);
+}
+
 QSize PopUpButtonWidget::sizeHint() const {
     QStyleOptionButton option;
     initStyleOption(&option);
     const int arrow = style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
     return QPushButton::sizeHint() + QSize(arrow, 0);
+}
+
+QSize PopUpButtonWidget::minimumSizeHint() const {
+    return sizeHint().boundedTo({kLeastCaption, QWIDGETSIZE_MAX});
 }
 
 void PopUpButtonWidget::mousePressEvent(QMouseEvent* event) {

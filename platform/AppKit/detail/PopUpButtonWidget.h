@@ -5,7 +5,8 @@
 
 #include <QPushButton>
 
-/// The widget behind an NSPopUpButton: a button that opens a menu when it is pressed.
+/// The widget behind an NSPopUpButton: a button that opens a menu when it is pressed. A caption
+/// that has no room is shortened.
 class PopUpButtonWidget final : public QPushButton {
 public:
     explicit PopUpButtonWidget(QWidget* parent);
@@ -16,12 +17,14 @@ public:
     void openMenu(std::optional<QPoint> pressedAt = {});
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
     std::function<std::vector<PopUpEntry>()> entries; ///< asked each time before the menu opens
     std::function<void(const QString& title)> onChosen;
 
 protected:
     void initStyleOption(QStyleOptionButton* option) const override;
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;

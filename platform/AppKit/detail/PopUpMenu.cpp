@@ -12,7 +12,8 @@
 
 namespace {
 
-constexpr int kMinimumEntryHeight = 24; // points that a finger or a trembling hand needs
+constexpr int kEntryHeight = 44;        // points, as buttons; where there isn't the room for that
+constexpr int kMinimumEntryHeight = 24; // what a finger or a trembling hand needs
 constexpr int kMinimumIconSize = 16;
 constexpr int kRoomAroundText = 6; // above and below it, together
 constexpr int kRoomBesideText = 12;
@@ -73,6 +74,10 @@ void PopUpMenu::open(const std::vector<PopUpEntry>& entries, std::optional<QPoin
 
 void PopUpMenu::fill(const std::vector<PopUpEntry>& entries) {
     clear();
+    const int least = fontMetrics().height() + kRoomAroundText;
+    entryHeight_ = std::max(kEntryHeight, least);
+    if (heightOf(static_cast<int>(entries.size())) > roomAtButton())
+        entryHeight_ = std::max(kMinimumEntryHeight, least);
     const int iconWidth = std::max(kMinimumIconSize, fontMetrics().height());
     setIconSize({iconWidth, iconWidth});
     const bool hasIcons = std::any_of(entries.begin(), entries.end(),
@@ -83,21 +88,24 @@ void PopUpMenu::fill(const std::vector<PopUpEntry>& entries) {
             new QListWidgetItem(entry.icon.isNull() ? noIcon : entry.icon, entry.title, this);
         item->setFlags(entry.enabled ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
         const int width = sizeHintForIndex(indexFromItem(item)).width() + kRoomBesideText;
-        item->setSizeHint({width, entryHeight()});
+        item->setSizeHint({width, entryHeight_});
     }
 }
 
-int PopUpMenu::entryHeight() const {
-    return std::max(kMinimumEntryHeight, fontMetrics().height() + kRoomAroundText);
+int PopUpMenu::roomAtButton() const {
+    const QWidget* button = parentWidget();
+    const QRect room = button->screen()->availableGeometry();
+    const int top = button->mapToGlobal(QPoint(0, 0)).y();
+    return std::max(top - room.top(), room.bottom() - top - button->height());
 }
 
 int PopUpMenu::heightOf(int rows) const {
     // One more than the rows: a list begins a new column when one fills the height exactly.
-    return rows * entryHeight() + 1 + 2 * (kMargin + frameWidth());
+    return rows * entryHeight_ + 1 + 2 * (kMargin + frameWidth());
 }
 
 PopUpMenu::Grid PopUpMenu::gridIn(int height) const {
-    const int fitting = std::max(1, (height - heightOf(0)) / entryHeight());
+    const int fitting = std::max(1, (height - heightOf(0)) / entryHeight_);
     const int columns = dividedUp(count(), fitting);
     Grid grid{dividedUp(count(), columns), 2 * (kMargin + frameWidth())};
     for (int first = 0; first < count(); first += grid.rows) {
@@ -218,7 +226,7 @@ void PopUpMenu::mouseMoveEvent(QMouseEvent* event) {
 // hand moved the pointer a little; only a real drag chooses.
 void PopUpMenu::mouseReleaseEvent(QMouseEvent* event) {
     const QPoint place = event->globalPosition().toPoint();
-    const bool isDragged = pressedAt_ && (place - *pressedAt_).manhattanLength() >= entryHeight();
+    const bool isDragged = pressedAt_ && (place - *pressedAt_).manhattanLength() >= entryHeight_;
     if (isPressed_ || isDragged)
         choose(indexAt(event->position().toPoint()).row());
 }

@@ -19,8 +19,9 @@ struct PopUpEntry {
 
 /// The menu that a button opens, in a window of its own. It shows all its entries at once, in as
 /// few columns as the room above or below the button allows, read from top to bottom; it scrolls,
-/// column by column, only when the whole screen is too small. To a screen reader its entries are
-/// buttons: Qt's own lists offer no action that chooses.
+/// column by column, only when the whole screen is too small. Entries that fit into one column are
+/// as high as buttons. To a screen reader they are buttons: Qt's own lists offer no action that
+/// chooses.
 class PopUpMenu final : public QListWidget, public NSAccessibilityList {
 public:
     explicit PopUpMenu(QWidget* button);
@@ -62,15 +63,17 @@ private:
     };
 
     void fill(const std::vector<PopUpEntry>& entries);
+    /// The larger part of the screen beside the button, above or below.
+    int roomAtButton() const;
     void placeAtButton();
     Grid gridIn(int height) const;
-    int entryHeight() const;
     int heightOf(int rows) const; ///< of the menu
     std::optional<Move> moveOf(int key) const;
     void go(Move move);
     bool canChoose(int row) const;
     void choose(int row);
 
+    int entryHeight_ = 0;
     int rows_ = 1; ///< in a column
     std::optional<QPoint> pressedAt_;
     bool isPressed_ = false; ///< a mouse button went down in the menu

@@ -22,7 +22,7 @@ constexpr int kPageAbove = 18;
 constexpr int kNarrowPageSide = 10;
 constexpr QMargins kWideHeader(20, 12, 20, 12);
 constexpr QMargins kNarrowHeader(10, 8, 10, 8);
-constexpr int kNarrow = 58; // in heights of a line: in a window below that width,
+constexpr int kNarrow = 68; // in heights of a line: in a window below that width,
 constexpr int kLow = 28;    // or height, there is a button instead of the list
 constexpr int kMostNumbered = 9;
 

@@ -62,6 +62,18 @@ QPainterPath general() {
     return path;
 }
 
+// A bookmark.
+QPainterPath profiles() {
+    QPainterPath path;
+    path.moveTo(6, 3);
+    path.lineTo(18, 3);
+    path.lineTo(18, 21);
+    path.lineTo(12, 15);
+    path.lineTo(6, 21);
+    path.closeSubpath();
+    return path;
+}
+
 } // namespace
 
 void drawSectionIcon(QPainter& painter, const QString& name, const QRectF& square,
@@ -69,11 +81,8 @@ void drawSectionIcon(QPainter& painter, const QString& name, const QRectF& squar
     static const struct {
         const char* name;
         QPainterPath (*shape)();
-    } kShapes[] = {{"scanning", scanning},
-                   {"presses", presses},
-                   {"look", look},
-                   {"palette", palette},
-                   {"general", general}};
+    } kShapes[] = {{"scanning", scanning}, {"presses", presses}, {"look", look},
+                   {"palette", palette},   {"general", general}, {"profiles", profiles}};
 
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

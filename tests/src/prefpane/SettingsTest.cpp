@@ -182,8 +182,7 @@ TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityActi
     // They open a menu, a window or the help book, or end in a choice elsewhere.
     const QRegularExpression others(
         "^(helpBtn|findMySpeed|firstStepsBtn|undoBtn|redoBtn|sections.*|.*Grid|.*Label|scanAreaBtn|"
-        "lineColor|"
-        "paletteView|sampleScanImage|"
+        "lineColor|profile.*|.*ProfileBtn|importBtn|exportBtn|paletteView|sampleScanImage|"
         "(add|swapWith|setAction|remove)(Button)?Btn|.*KeyBtn|.*Key2Btn|builder.*)$");
     prefs.scanArea = {0, 0, 640, 480};
     prefs.minTriggerDuration = prefs.afterClickDelay = 4; // none comes to a limit
@@ -267,11 +266,11 @@ TEST_F(SettingsTest, SectionsAreReachedByKeyFromAnywhere) {
         int section;
         bool goesIn; ///< the keyboard, from outside the page
     } presses[] = {
-        {Qt::Key_4, Qt::AltModifier, 3, false},
-        {Qt::Key_Tab, Qt::ControlModifier, 4, false},
+        {Qt::Key_5, Qt::AltModifier, 4, false},
+        {Qt::Key_Tab, Qt::ControlModifier, 5, false},
         {Qt::Key_PageDown, Qt::ControlModifier, 0, false}, // after the last
-        {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier, 4, false},
-        {Qt::Key_PageUp, Qt::ControlModifier, 3, false},
+        {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier, 5, false},
+        {Qt::Key_PageUp, Qt::ControlModifier, 4, false},
         {Qt::Key_R, Qt::AltModifier, 1, true},
     };
 

@@ -1,0 +1,318 @@
+// SPDX-License-Identifier: MIT
+#include "src/prefpane/ProfileEditor.h"
+
+#include "platform/AppKit/NSButton.h"
+#include "platform/AppKit/NSStringDrawing.h"
+#include "platform/AppKit/NSTextField.h"
+#include "platform/AppKit/NSWindow.h"
+#include "platform/AppKit/UserMessages.h"
+#include "platform/CoreFoundation/Localization.h"
+#include "src/prefpane/PreferenceWrangler.h"
+#include "src/profiles.h"
+#include "src/settingwords.h"
+
+namespace {
+
+constexpr std::size_t kMostTitle = 24; ///< characters of a name that the header has room for
+constexpr float kTextMargin = 12;      ///< points, in a row of the list
+
+/// The first characters of a text in UTF-8.
+std::string shortened(const std::string& text) {
+    std::size_t characters = 0;
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if ((text[i] & 0xC0) != 0x80 && characters++ == kMostTitle)
+            return text.substr(0, i) + "…";
+    return text;
+}
+
+/// A text of the table "Profiles" with a profile's name in it.
+std::string named(const char* text, const std::string& name) {
+    return filled(localized("Profiles", text), {name});
+}
+
+void tell(const std::string& text, std::vector<UserMessage::Button> buttons = {}) {
+    tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note, .text = text, .buttons = buttons});
+}
+
+/// True when it went well; else the reason is told.
+bool succeeded(const std::string& fault, const char* text, const std::string& name) {
+    if (!fault.empty())
+        tellUser(kChangeTopic, {.text = filled(localized("Profiles", text), {name, fault})});
+    return fault.empty();
+}
+
+constexpr char kCannotSave[] = LOCALIZABLE("Profiles", "“%1” couldn’t be saved: %2.");
+constexpr char kPutBack[] = LOCALIZABLE("Profiles", "Put it back");
+
+} // namespace
+
+void ProfileEditor::setup(NSObject& menuTarget) {
+    menuTarget_ = &menuTarget;
+    menu->setDelegate(this);
+    grid->setSource(this);
+}
+
+void ProfileEditor::load() {
+    profiles_.clear();
+    for (const std::string& each : profileNames())
+        profiles_.push_back({each, readProfile(each, prefs)});
+    inUse_ = currentProfile();
+    if (!find(chosen_))
+        chosen_ = inUse_.empty() && !profiles_.empty() ? profiles_.front().name : inUse_;
+    show();
+}
+
+void ProfileEditor::show() {
+    showMenuTitle();
+    showChosen();
+}
+
+void ProfileEditor::setInUse(const std::string& profile) {
+    setCurrentProfile(profile);
+    inUse_ = find(profile) ? profile : "";
+    chosen_ = inUse_.empty() ? chosen_ : inUse_;
+}
+
+const ProfileEditor::Profile* ProfileEditor::find(const std::string& profile) const {
+    for (const Profile& each : profiles_)
+        if (each.name == profile)
+            return &each;
+    return nullptr;
+}
+
+SettingSet ProfileEditor::changesBy(const Profile& profile) const {
+    return profile.offer.settings & differences(prefs, profile.offer.record);
+}
+
+// The menu in the header
+
+void ProfileEditor::showMenuTitle() {
+    const Profile* profile = find(inUse_);
+    if (!profile) {
+        menu->setTitle(localized("Profiles", "Profiles"));
+        menu->setAccessibilityLabel(localized("Profiles", "Profiles"));
+        return;
+    }
+    const bool changed = isChanged(*profile);
+    menu->setTitle(changed ? named(LOCALIZABLE("Profiles", "%1, changed"), shortened(inUse_))
+                           : shortened(inUse_));
+    menu->setAccessibilityLabel(named(changed ? LOCALIZABLE("Profiles", "Profile: %1, changed")
+                                              : LOCALIZABLE("Profiles", "Profile: %1"),
+                                      inUse_));
+}
+
+void ProfileEditor::menuNeedsUpdate(NSPopUpButton*) {
+    load();
+    menu->removeAllItems();
+    bool isInUseChanged = false;
+    for (int i = 0; i < choiceCount(); ++i) {
+        const Profile& profile = profiles_[static_cast<std::size_t>(i)];
+        if (profile.name != inUse_) {
+            addItem(named(LOCALIZABLE("Profiles", "Use “%1”"), profile.name), "chooseProfile:", i);
+            continue;
+        }
+        isInUseChanged = isChanged(profile);
+        if (isInUseChanged)
+            addItem(named(LOCALIZABLE("Profiles", "Back to “%1”"), inUse_), "chooseProfile:", i);
+        else
+            addItem(named(LOCALIZABLE("Profiles", "“%1” is in use"), inUse_), nullptr, i);
+    }
+    if (isInUseChanged)
+        addItem(named(LOCALIZABLE("Profiles", "Save the changes in “%1”"), inUse_),
+                "keepProfile:", 0);
+    addItem(profiles_.empty() ? localized("Profiles", "Save a profile…")
+                              : localized("Profiles", "Save, rename, delete…"),
+            "showProfiles:", 0);
+}
+
+void ProfileEditor::addItem(const std::string& title, const char* action, int tag) {
+    menu->addItemWithTitle(title);
+    NSMenuItem* item = menu->itemWithTitle(title);
+    item->setTag(tag);
+    item->setTarget(menuTarget_);
+    item->setAction(action ? menuTarget_->selector(action) : nullptr);
+}
+
+void ProfileEditor::chooseFromMenu(const NSMenuItem& item) {
+    if (item.tag() < choiceCount())
+        use(profiles_[static_cast<std::size_t>(item.tag())]);
+}
+
+void ProfileEditor::updateInUse() {
+    save(inUse_);
+}
+
+void ProfileEditor::showSection() {
+    grid->scrollToVisible();
+    if (profiles_.empty())
+        name->window().makeFirstResponder(name);
+    else
+        grid->window().makeFirstResponder(grid);
+}
+
+void ProfileEditor::leaveButtons() {
+    for (NSButton* button : {useBtn, updateBtn, renameBtn, deleteBtn})
+        if (button->isFirstResponder())
+            return showSection();
+}
+
+// The list
+
+std::string ProfileEditor::choiceName(int index) const {
+    const Profile& profile = profiles_[static_cast<std::size_t>(index)];
+    if (profile.name != inUse_)
+        return profile.name;
+    return named(isChanged(profile) ? LOCALIZABLE("Profiles", "%1, in use, changed")
+                                    : LOCALIZABLE("Profiles", "%1, in use"),
+                 inUse_);
+}
+
+bool ProfileEditor::isChosen(int index) const {
+    return profiles_[static_cast<std::size_t>(index)].name == chosen_;
+}
+
+void ProfileEditor::drawChoice(int index, const Rect& bounds) const {
+    const NSRect row = {static_cast<float>(bounds.left), static_cast<float>(bounds.top),
+                        static_cast<float>(bounds.right - bounds.left),
+                        static_cast<float>(bounds.bottom - bounds.top)};
+    NSDrawString(createFromUTF8(choiceName(index)).get(), NSInsetRect(row, kTextMargin, 0),
+                 {NSFont::systemFontOfSize(0)});
+}
+
+void ProfileEditor::choose(int index) {
+    chosen_ = profiles_[static_cast<std::size_t>(index)].name;
+    showChosen();
+}
+
+void ProfileEditor::showChosen() {
+    grid->setHidden(profiles_.empty());
+    grid->reload();
+    const Profile* profile = find(chosen_);
+    const SettingSet changes = profile ? changesBy(*profile) : SettingSet();
+    leaveButtons();
+    for (NSButton* button : {useBtn, updateBtn})
+        button->setEnabled(changes.any());
+    for (NSButton* button : {renameBtn, deleteBtn})
+        button->setEnabled(profile != nullptr);
+    std::string text =
+        !profile ? localized("Profiles", "There is no profile yet. Save the settings as they are "
+                                         "now, and come back to them with two presses.")
+        : changes.none()
+            ? named(LOCALIZABLE("Profiles", "The settings are those of “%1”."), chosen_)
+            : named(LOCALIZABLE("Profiles", "“%1” would change:"), chosen_);
+    for (std::size_t i = 0; i < kSettings.size(); ++i)
+        if (changes[i])
+            text += "\n" + changeText(kSettings[i], prefs, profile->offer.record, kSettingBecomes);
+    explanation->setStringValue(text);
+}
+
+// What is done with a profile
+
+void ProfileEditor::useChosen() {
+    if (const Profile* profile = find(chosen_))
+        use(*profile);
+}
+
+void ProfileEditor::use(Profile profile) {
+    profile.offer = readProfile(profile.name, prefs);
+    const auto& [record, settings, refused, error] = profile.offer;
+    if (!succeeded(error, LOCALIZABLE("Profiles", "“%1” can’t be used: %2."), profile.name))
+        return;
+    const PrefsRecord before = prefs;
+    const SettingSet changes = settings & differences(before, record);
+    setInUse(profile.name);
+    target_.adopt(changes, record);
+    target_.noteProfile();
+    show();
+    std::string text = named(LOCALIZABLE("Profiles", "“%1” is in use."), profile.name);
+    if (changes.any())
+        text += " " + filled(localized("Changes", "%1.", "a sentence"),
+                             {changesText(changes, before, record, kSettingBecomes)});
+    if (!refused.empty())
+        text += " " + filled(localized("Profiles", "Left out: %1: %2."),
+                             {refused[0].key, refused[0].reason});
+    if (changes.none())
+        return tell(text);
+    tell(text, {{localized("Profiles", kPutBack), [] {
+                     if (theWrangler)
+                         theWrangler->undoChange();
+                 }}});
+}
+
+void ProfileEditor::updateChosen() {
+    save(chosen_);
+}
+
+void ProfileEditor::saveNew() {
+    save(name->stringValue());
+}
+
+/// Over one of the same name, too, which can be put back.
+void ProfileEditor::save(const std::string& profile) {
+    const Profile* known = find(profile);
+    const std::vector<Profile> former(known, known ? known + 1 : known);
+    const bool wasInUse = inUse_ == profile;
+    if (!succeeded(::saveProfile(profile, prefs), kCannotSave, profile))
+        return;
+    setCurrentProfile(profile);
+    chosen_ = profile;
+    name->setStringValue("");
+    load();
+    target_.noteProfile();
+    const std::string text =
+        named(LOCALIZABLE("Profiles", "The settings are saved as “%1”."), profile);
+    if (former.empty())
+        return tell(text);
+    tell(text, {{localized("Profiles", kPutBack), [this, former, wasInUse] {
+                     if (theWrangler)
+                         putBack(former[0], wasInUse);
+                 }}});
+}
+
+/// Gives a profile the settings again that it had.
+void ProfileEditor::putBack(const Profile& profile, bool wasInUse) {
+    const auto& [record, settings, refused, error] = profile.offer;
+    if (!succeeded(::saveProfile(profile.name, record, settings), kCannotSave, profile.name))
+        return;
+    if (wasInUse)
+        setCurrentProfile(profile.name);
+    chosen_ = profile.name;
+    load();
+    target_.noteProfile();
+    tell(named(LOCALIZABLE("Profiles", "“%1” is as it was."), profile.name));
+}
+
+void ProfileEditor::renameChosen() {
+    const std::string old = chosen_, now = name->stringValue();
+    if (!succeeded(::renameProfile(old, now),
+                   LOCALIZABLE("Profiles", "“%1” couldn’t be renamed: %2."), old))
+        return;
+    chosen_ = now;
+    name->setStringValue("");
+    load();
+    target_.noteProfile();
+    tell(filled(localized("Profiles", "“%1” is now called “%2”."), {old, now}));
+}
+
+void ProfileEditor::deleteChosen() {
+    const Profile* known = find(chosen_);
+    if (!known)
+        return;
+    const Profile former = *known;
+    const bool wasInUse = inUse_ == former.name;
+    if (!succeeded(::deleteProfile(former.name),
+                   LOCALIZABLE("Profiles", "“%1” couldn’t be deleted: %2."), former.name))
+        return;
+    load();
+    target_.noteProfile();
+    tell(named(LOCALIZABLE("Profiles", "“%1” is deleted. The settings stay as they are."),
+               former.name),
+         {{localized("Profiles", kPutBack), [this, former, wasInUse] {
+               if (theWrangler)
+                   putBack(former, wasInUse);
+           }}});
+}
+
+void ProfileEditor::suggestName(const NSButton& sender) {
+    name->setStringValue(freeProfileName(sender.title()));
+}

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "platform/AppKit/UserMessages.h"
+#include "src/prefpane/PreferenceWrangler.h"
+#include "src/profiles.h"
+#include "tests/support/PaneFixture.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+class ProfileEditorTest : public PaneTest {
+protected:
+    std::string shown() { return find<QPushButton>("profileMenu")->text().toStdString(); }
+
+    /// Saves the settings by two presses.
+    void save(const char* nameButton) {
+        click(nameButton);
+        click("saveProfileBtn");
+    }
+
+    /// The entries of the menu, of which the one in that row is chosen; -1 for none.
+    QStringList menu(int row) {
+        auto* button = find("profileMenu");
+        QTest::keyClick(button, Qt::Key_Space);
+        auto* list = button->findChild<QListWidget*>();
+        QStringList entries;
+        for (int i = 0; i < list->count(); ++i) {
+            entries << list->item(i)->text();
+            EXPECT_GE(list->visualItemRect(list->item(i)).height(), 44);
+        }
+        list->setCurrentRow(row);
+        QTest::keyClick(list, row < 0 ? Qt::Key_Escape : Qt::Key_Return);
+        return entries;
+    }
+
+    static std::string told() { return currentMessage() ? currentMessage()->message.text : ""; }
+
+    static void pressInStrip(std::size_t button) {
+        const auto press = currentMessage()->message.buttons.at(button).press;
+        withdrawMessage(std::string(currentMessage()->topic));
+        if (press)
+            press();
+    }
+};
+
+TEST_F(ProfileEditorTest, AProfileIsUsedAsOneChangeWhichUndoTakesBackWithItsName) {
+    openWithAgent();
+    EXPECT_EQ(shown(), "Profiles");
+    save("profileNameMorning");
+    prefs.soundLevel = 20;
+    prefs.lineScanTime = 20;
+    prefs.on = 0;
+    theWrangler->changed(kChangeSounds | kChangeScanSpeed);
+    EXPECT_EQ(agentLog_.nextName(), "SAPr");
+    EXPECT_EQ(shown(), "Morning, changed");
+    EXPECT_EQ(menu(-1), QStringList({"Back to “Morning”", "Save the changes in “Morning”",
+                                     "Save, rename, delete…"}));
+    save("profileNameTired");
+    EXPECT_EQ(told(), "The settings are saved as “Tired”.");
+    EXPECT_EQ(menu(0).first(), "Use “Morning”");
+    EXPECT_EQ(told(), "“Morning” is in use. Volume: 20 to 50, and 1 setting more.");
+    const auto sent = agentLog_.next();
+    EXPECT_EQ(sent["mask"].toInteger(), kChangeSounds | kChangeScanSpeed);
+    EXPECT_EQ(prefs.on, 0);
+    EXPECT_EQ(shown(), "Morning");
+    pressInStrip(0);
+    EXPECT_EQ(double{prefs.lineScanTime}, 20);
+    EXPECT_EQ(shown(), "Tired");
+    click("redoBtn");
+    EXPECT_EQ(shown(), "Morning");
+    EXPECT_EQ(currentProfile(), "Morning");
+    EXPECT_EQ(remainingMasks().size(), 2u);
+}
+
+TEST_F(ProfileEditorTest, TheSectionUpdatesRenamesAndDeletesAndPutsBack) {
+    open();
+    save("profileNameMorning");
+    save("profileNameMorning");
+    EXPECT_EQ(profileNames(), (std::vector<std::string>{"Morning", "Morning 2"}));
+    click("volumeIncBtn");
+    EXPECT_EQ(find<QLabel>("profileExplanation")->text(),
+              "“Morning 2” would change:\nVolume: 51 to 50");
+    find("updateProfileBtn")->setFocus();
+    click("updateProfileBtn");
+    EXPECT_EQ(window()->focusWidget()->objectName(), QLatin1String("profileGrid"));
+    EXPECT_EQ(shown(), "Morning 2");
+    pressInStrip(0);
+    EXPECT_EQ(shown(), "Morning 2, changed");
+    find<QLineEdit>("profileName")->setText("Müde");
+    click("renameProfileBtn");
+    EXPECT_EQ(shown(), "Müde, changed");
+    click("deleteProfileBtn");
+    EXPECT_EQ(profileNames(), std::vector<std::string>{"Morning"});
+    EXPECT_EQ(shown(), "Profiles");
+    pressInStrip(0);
+    EXPECT_EQ(shown(), "Müde, changed");
+    EXPECT_EQ(readProfile("Müde", prefs).record.soundLevel, 50u);
+}
+
+TEST_F(ProfileEditorTest, WhatCannotBeDoneIsToldAndChangesNothing) {
+    const std::filesystem::path folder = std::string(std::getenv("XDG_DATA_HOME")) + "/korvex";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "profiles") << "in the way";
+    open();
+    save("profileNameMorning");
+    EXPECT_EQ(told(), "“Morning” couldn’t be saved: Not a directory.");
+    EXPECT_EQ(find<QLineEdit>("profileName")->text(), "Morning");
+    EXPECT_EQ(shown(), "Profiles");
+    find<QLineEdit>("profileName")->clear();
+    click("saveProfileBtn");
+    EXPECT_EQ(told(), "“” couldn’t be saved: a profile needs a name.");
+}
+
+} // namespace
