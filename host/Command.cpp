@@ -13,10 +13,10 @@
 
 namespace {
 
-/// Answers for programs, and what is made for a package, are the same in every language.
+/// Answers for programs are the same in every language.
 bool isForPeople(int argc, char** argv) {
     return std::none_of(argv + 1, argv + argc, [](std::string_view word) {
-        return word == "--json" || word == "manual" || word == "completion";
+        return word == "--json" || word == "completion";
     });
 }
 

@@ -248,6 +248,20 @@
         <source>can&apos;t store the settings in %1</source>
         <translation>die Einstellungen können nicht in %1 gespeichert werden</translation>
     </message>
+    <message>
+        <source>COMMANDS</source>
+        <comment>a heading of the manual page</comment>
+        <translation>BEFEHLE</translation>
+    </message>
+    <message>
+        <source>None needs a display. A change goes through the open window if there is one; else it is stored, and sent to the running agent.</source>
+        <translation>Keiner braucht einen Bildschirm. Eine Änderung geht durch das offene Fenster, wenn es eines gibt; sonst wird sie gespeichert und dem laufenden Agenten gesendet.</translation>
+    </message>
+    <message>
+        <source>SETTINGS</source>
+        <comment>a heading of the manual page</comment>
+        <translation>EINSTELLUNGEN</translation>
+    </message>
 </context>
 <context>
     <name>Faults</name>

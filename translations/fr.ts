@@ -248,6 +248,20 @@
         <source>can&apos;t store the settings in %1</source>
         <translation>impossible d’enregistrer les réglages dans %1</translation>
     </message>
+    <message>
+        <source>COMMANDS</source>
+        <comment>a heading of the manual page</comment>
+        <translation>COMMANDES</translation>
+    </message>
+    <message>
+        <source>None needs a display. A change goes through the open window if there is one; else it is stored, and sent to the running agent.</source>
+        <translation>Aucune n’a besoin d’un écran. Un changement passe par la fenêtre ouverte s’il y en a une&#xa0;; sinon il est enregistré, et envoyé à l’agent en marche.</translation>
+    </message>
+    <message>
+        <source>SETTINGS</source>
+        <comment>a heading of the manual page</comment>
+        <translation>RÉGLAGES</translation>
+    </message>
 </context>
 <context>
     <name>Faults</name>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/commands/command.h"
 #include "src/settings.h"
+#include "src/settingwords.h"
 
 #include <cstdio>
 
@@ -18,17 +19,17 @@ void printItem(const std::string& head, const std::string& text) {
     std::printf(".TP\n.B %s\n%s\n", roff(head).c_str(), roff(text).c_str());
 }
 
+void printHeading(const std::string& text) {
+    std::printf(".SH %s\n", text.c_str());
+}
+
 std::string describe(const Setting& setting) {
-    std::string text = setting.name;
-    if (const SettingLimits& limits = setting.limits; limits.maximum > 0) {
-        char range[100];
-        std::snprintf(range, sizeof range, ": %g to %g %s", limits.minimum, limits.maximum,
-                      limits.unit);
-        text += range;
-    }
+    std::string range = setting.limits.maximum > 0 ? rangeText(setting.limits) : "";
     for (std::size_t i = 0; i < setting.choices.size(); ++i)
-        text += (i ? ", " : ": ") + std::to_string(i) + " " + setting.choices[i];
-    return text;
+        range +=
+            (i ? ", " : "") + std::to_string(i) + " " + localized("Choices", setting.choices[i]);
+    const std::string name = localized("Settings", setting.name);
+    return range.empty() ? name : name + " (" + range + ")";
 }
 
 std::string words(std::string_view separator) {
@@ -41,13 +42,17 @@ std::string words(std::string_view separator) {
 } // namespace
 
 int runManual(const CommandLine&) {
-    std::puts(
-        ".SH COMMANDS\nNone needs a display. A change goes through the open window if there is "
-        "one; else it is stored, and sent to the running agent.");
+    printHeading(localized("Commands", "COMMANDS", "a heading of the manual page"));
+    std::puts(roff(localized("Commands",
+                             "None needs a display. A change goes through the open window if there "
+                             "is one; else it is stored, and sent to the running agent."))
+                  .c_str());
     for (const Command& command : commands())
-        printItem(std::string(command.name) + " " + command.operands, command.does);
-    std::puts(".PP\nWith\n.B \\-\\-json\nthe answers are for programs;\n.B \\-\\-yes\n"
-              "doesn't ask.\n.SH SETTINGS");
+        printItem(std::string(command.name) + " " + operandsOf(command),
+                  localized("Commands", command.does));
+    printItem("--json", localized("Commands", "answers for programs"));
+    printItem("--yes", localized("Commands", "doesn't ask"));
+    printHeading(localized("Commands", "SETTINGS", "a heading of the manual page"));
     for (const Setting& setting : kSettings)
         printItem(setting.key, describe(setting));
     return kCommandDone;

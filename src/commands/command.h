@@ -24,6 +24,9 @@ struct Command {
 /// In the order of the help.
 std::span<const Command> commands();
 
+/// In the user's language; empty when the command takes none.
+std::string operandsOf(const Command& command);
+
 /// Prints "korvex-preferences: message" to standard error, and returns kCommandFailed.
 int commandFailed(const std::string& message);
 

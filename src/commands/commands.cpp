@@ -36,11 +36,6 @@ constexpr Command kCommands[] = {
      0, 0},
 };
 
-/// Empty when the command takes none.
-std::string operandsOf(const Command& command) {
-    return *command.operands ? localized("Commands", command.operands) : "";
-}
-
 int printHelp() {
     std::printf(
         "%s\n\n",
@@ -79,6 +74,10 @@ bool parse(std::span<const char* const> arguments, CommandLine& line) {
 }
 
 } // namespace
+
+std::string operandsOf(const Command& command) {
+    return *command.operands ? localized("Commands", command.operands) : "";
+}
 
 std::span<const Command> commands() {
     return kCommands;
