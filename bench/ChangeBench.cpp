@@ -57,13 +57,13 @@ void addOne(void* field) {
 PrefsRecord everyOther() {
     PrefsRecord record;
     for (const Setting& setting : kSettings) {
-        if (setting.form == &kFlagForm)
+        if (setting.notation == &kFlagNotation)
             *static_cast<UInt8*>(setting.in(record)) ^= 1;
-        else if (setting.form == &kRealForm)
+        else if (setting.notation == &kRealNotation)
             addOne<double>(setting.in(record));
-        else if (setting.form == &kDecimalForm)
+        else if (setting.notation == &kDecimalNotation)
             addOne<SInt32>(setting.in(record));
-        else if (setting.form == &kHexWordForm)
+        else if (setting.notation == &kHexWordNotation)
             *static_cast<UInt8*>(setting.in(record)) ^= 1;
     }
     record.scanArea = {0, 0, 640, 480};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The start of the program until its first frame, against a bare Qt program that loads and shows
-// the same form. Both run offscreen, and a plug-in in each (FrameProbe) tells when the frame is
-// out.
+// the same form, with rows of Qt's own widgets. Both run offscreen, and a plug-in in each
+// (FrameProbe) tells when the frame is out.
 
 #include "bench/Figures.h"
 

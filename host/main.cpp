@@ -63,11 +63,14 @@ bool load(PaneHost& host, const std::string& bundle, Arguments::Task task) {
     return errors.empty();
 }
 
-/// Shows the pane until its window is closed: at once, or as a service at the first request.
-int show(const Arguments& arguments, const QVariantMap& activation) {
+/// The pane's host, which opens it at the first request.
+struct Visit {
     PaneHost host;
-    bool isReady = false, isOpen = false;
-    const auto comply = [&](const ShowRequest& request) {
+    bool isReady = false;
+    bool isOpen = false;
+
+    /// Does nothing before `isReady`.
+    void comply(const ShowRequest& request) {
         if (!isReady)
             return;
         if (std::exchange(isOpen, true))
@@ -75,7 +78,22 @@ int show(const Arguments& arguments, const QVariantMap& activation) {
         else
             host.open();
         host.comply(request);
-    };
+    }
+
+    void handleEnds() {
+        QApplication::setQuitOnLastWindowClosed(false);
+        handleTerminationSignals([this] { isOpen ? host.end() : QCoreApplication::quit(); });
+        QObject::connect(qApp, &QGuiApplication::commitDataRequest, [this] {
+            if (isOpen)
+                host.store();
+        });
+    }
+};
+
+/// Shows the pane until its window is closed: at once, or as a service at the first request.
+int show(const Arguments& arguments, const QVariantMap& activation) {
+    Visit visit;
+    const auto comply = [&](const ShowRequest& request) { visit.comply(request); };
     const ShowRequest request{QString::fromStdString(arguments.section), {}};
     switch (becomeSingleInstance(request, activation, comply)) {
     case SingleInstance::First:
@@ -88,22 +106,17 @@ int show(const Arguments& arguments, const QVariantMap& activation) {
     }
     registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
     const std::string& bundle = arguments.bundle;
-    if (!load(host, bundle.empty() ? findOwnBundle() : bundle, Arguments::Task::Show))
+    if (!load(visit.host, bundle.empty() ? findOwnBundle() : bundle, Arguments::Task::Show))
         return kFailed;
 
-    QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setKeyboardInputInterval(kSlowTypingMs);
-    handleTerminationSignals([&] { isOpen ? host.end() : QCoreApplication::quit(); });
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, [&] {
-        if (isOpen)
-            host.store();
-    });
-    isReady = true;
+    visit.handleEnds();
+    visit.isReady = true;
     if (arguments.task == Arguments::Task::Show)
-        comply(request);
+        visit.comply(request);
     else
         QTimer::singleShot(kServicePatienceMs, [&] {
-            if (!isOpen)
+            if (!visit.isOpen)
                 QCoreApplication::quit();
         });
     return QApplication::exec();

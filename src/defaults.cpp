@@ -7,9 +7,9 @@
 PrefsRecord defaultRecord() {
     PrefsRecord record;
     for (const Setting& setting : kSettings)
-        setting.form->read(CFPreferencesCopyValue(CFSTR(setting.key), kAgentBundleID,
-                                                  kCFPreferencesAnyUser, kCFPreferencesAnyHost)
-                               .get(),
-                           setting.in(record));
+        setting.notation->read(CFPreferencesCopyValue(CFSTR(setting.key), kAgentBundleID,
+                                                      kCFPreferencesAnyUser, kCFPreferencesAnyHost)
+                                   .get(),
+                               setting.in(record));
     return record;
 }

@@ -9,7 +9,8 @@ constexpr double kSameStepSeconds = 2;
 
 /// Whether a setting is changed in small steps or by dragging.
 bool isGradual(const Setting& setting) {
-    return setting.isNumber() || setting.form == &kSizeForm || setting.form == &kColourForm;
+    return setting.isNumber() || setting.notation == &kSizeNotation ||
+           setting.notation == &kColourNotation;
 }
 
 } // namespace

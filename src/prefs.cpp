@@ -47,12 +47,12 @@ SettingSet chosenSettings() {
     return chosen;
 }
 
-void load(const CFString* key, const PrefsForm& form, void* field) {
-    form.read(CFPreferencesCopyAppValue(key, kAgentBundleID).get(), field);
+void load(const CFString* key, const PrefsNotation& notation, void* field) {
+    notation.read(CFPreferencesCopyAppValue(key, kAgentBundleID).get(), field);
 }
 
-void save(const CFString* key, const PrefsForm& form, const void* field) {
-    if (const auto text = form.write(field))
+void save(const CFString* key, const PrefsNotation& notation, const void* field) {
+    if (const auto text = notation.write(field))
         CFPreferencesSetAppValue(key, text.get(), kAgentBundleID);
 }
 
@@ -62,7 +62,7 @@ void prefsSetup() {
     for (std::size_t i = 0; i < kSettings.size(); ++i) {
         CFRef<const CFType>& loaded = settingStates[i].loaded;
         loaded = CFPreferencesCopyAppValue(CFSTR(kSettings[i].key), kAgentBundleID);
-        kSettings[i].form->read(loaded.get(), kSettings[i].in(prefs));
+        kSettings[i].notation->read(loaded.get(), kSettings[i].in(prefs));
     }
     stored = lastLook = prefs;
 }
@@ -72,7 +72,7 @@ bool savePrefs() {
     for (std::size_t i = 0; i < kSettings.size(); ++i) {
         const CFString* key = CFSTR(kSettings[i].key);
         const SettingState& state = settingStates[i];
-        save(key, *kSettings[i].form, kSettings[i].in(prefs));
+        save(key, *kSettings[i].notation, kSettings[i].in(prefs));
         if (!state.isChosen)
             preferencesGiveWay(key, state.loaded.get(), kAgentBundleID);
     }
@@ -135,25 +135,25 @@ bool getPrefStr(const CFString* key, char* buffer, CFIndex bufferSize) {
 }
 
 void getPrefDouble(const CFString* key, double* value) {
-    load(key, kRealForm, value);
+    load(key, kRealNotation, value);
 }
 
 void getPrefUInt32(const CFString* key, UInt32* value) {
-    load(key, kHexWordForm, value);
+    load(key, kHexWordNotation, value);
 }
 
 void setPrefStr(const CFString* key, const char* text) {
-    save(key, kTextForm, text);
+    save(key, kTextNotation, text);
 }
 
 void setPrefDouble(const CFString* key, double value) {
-    save(key, kRealForm, &value);
+    save(key, kRealNotation, &value);
 }
 
 void setPrefSInt32(const CFString* key, SInt32 value) {
-    save(key, kDecimalForm, &value);
+    save(key, kDecimalNotation, &value);
 }
 
 void setPrefUInt32(const CFString* key, UInt32 value) {
-    save(key, kHexWordForm, &value);
+    save(key, kHexWordNotation, &value);
 }

@@ -201,12 +201,12 @@ bool prefsCommit();
 /// As prefsFlushChanges; called when the pane is put away.
 void prefsCleanup();
 
-/// A single key in the "0x%08lx" form: 0 when it is absent or doesn't parse.
+/// A single key, stored as "0x%08lx": 0 when it is absent or doesn't parse.
 UInt32 prefsGetUnsignedValue(const CFString* key);
 /// Sets the key at once; the next flush synchronises.
 void prefsSetUnsignedValue(const CFString* key, UInt32 value);
 
-// One accessor a stored form. Texts are in Mac OS Roman.
+// One accessor a notation (prefsnotation.h). Texts are in Mac OS Roman.
 
 /// A text that isn't valid in Mac OS Roman isn't stored.
 void setPrefStr(const CFString* key, const char* text);
@@ -217,6 +217,6 @@ void setPrefUInt32(const CFString* key, UInt32 value);
 /// False, with `buffer` untouched, when the key is absent or isn't a text; false, with an empty
 /// text in the buffer, when it doesn't fit `bufferSize` bytes or can't be converted.
 bool getPrefStr(const CFString* key, char* buffer, CFIndex bufferSize);
-/// The target changes only when the key holds a text of the form.
+/// The target changes only when the key holds a text of that notation.
 void getPrefDouble(const CFString* key, double* value);
 void getPrefUInt32(const CFString* key, UInt32* value);

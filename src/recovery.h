@@ -4,7 +4,7 @@
 #include "src/differences.h"
 
 // What was changed during the visit and isn't saved yet, in a file of its own, so that a crash
-// loses nothing. It holds those settings alone, under their keys and in their stored form.
+// loses nothing. It holds those settings alone, under their keys and as they are stored.
 
 /// Has the file hold those settings of the record. It is written soon, off this thread.
 void recoveryKeep(const PrefsRecord& record, const SettingSet& changed);

@@ -39,7 +39,7 @@ UInt32 wordIn(const Setting& setting, const PrefsRecord& record) {
 
 void setNumber(const Setting& setting, double value, PrefsRecord& record) {
     const auto whole = static_cast<SInt32>(std::lround(value));
-    if (setting.form == &kRealForm)
+    if (setting.notation == &kRealNotation)
         std::memcpy(setting.in(record), &value, sizeof value);
     else
         std::memcpy(setting.in(record), &whole, sizeof whole);
@@ -76,16 +76,16 @@ std::string settingFault(const Setting& setting, const PrefsRecord& record) {
         return rangeWords(setting.limits);
     if (!setting.choices.empty() && wordIn(setting, record) >= setting.choices.size())
         return choiceWords(setting);
-    if (setting.form == &kRealForm && !std::isfinite(settingNumber(setting, record)))
+    if (setting.notation == &kRealNotation && !std::isfinite(settingNumber(setting, record)))
         return localized("Faults", "not a number");
-    if (setting.form == &kSizeForm && !(isWithin(setting.limits, record.buttonSize.width) &&
-                                        isWithin(setting.limits, record.buttonSize.height)))
+    if (setting.notation == &kSizeNotation && !(isWithin(setting.limits, record.buttonSize.width) &&
+                                                isWithin(setting.limits, record.buttonSize.height)))
         return rangeWords(setting.limits);
     const auto& [red, green, blue] = record.lineColor;
-    if (setting.form == &kColourForm && std::max({red, green, blue}) > 255)
+    if (setting.notation == &kColourNotation && std::max({red, green, blue}) > 255)
         return filled(localized("Faults", "outside %1"), {rangeText({.maximum = 255})});
     const auto& actions = record.buttonActions;
-    if (setting.form == &kActionListForm &&
+    if (setting.notation == &kActionListNotation &&
         std::ranges::any_of(actions, [](UInt8 action) { return action >= kNumActions; }))
         return localized("Faults", "an action that there isn't");
     return {};
@@ -110,11 +110,11 @@ std::string setFromWords(const Setting& setting, const std::string& words, Prefs
     } else {
         const bool isOn = strcasecmp(words.c_str(), "on") == 0;
         const bool isOff = strcasecmp(words.c_str(), "off") == 0;
-        const std::string text = setting.form != &kFlagForm ? words
-                                 : isOn                     ? "yes"
-                                 : isOff                    ? "no"
-                                                            : words;
-        if (!setting.form->read(createFromUTF8(text).get(), setting.in(changed)))
+        const std::string text = setting.notation != &kFlagNotation ? words
+                                 : isOn                             ? "yes"
+                                 : isOff                            ? "no"
+                                                                    : words;
+        if (!setting.notation->read(createFromUTF8(text).get(), setting.in(changed)))
             return localized("Faults", "not a value of this setting");
         if (std::string fault = settingFault(setting, changed); !fault.empty())
             return fault;

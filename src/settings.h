@@ -3,7 +3,7 @@
 
 #include "platform/CoreFoundation/Localization.h"
 #include "src/prefs.h"
-#include "src/prefsforms.h"
+#include "src/prefsnotation.h"
 
 #include <cstddef>
 #include <span>
@@ -28,12 +28,12 @@ enum class SettingControl { other, slider, bumper, check };
 /// formats, units and choices are English: `localized` has them in the tables that they are marked
 /// with.
 struct Setting {
-    const char* key;       ///< in the domain kAgentBundleID
-    const PrefsForm* form; ///< of the stored text, and with it the field's type
-    std::size_t offset;    ///< of the field in PrefsRecord
-    std::size_t size;      ///< of the field, in bytes
-    ChangeMask changes;    ///< the groups that a change of it reports; 0 for none
-    const char* name;      ///< in words, as in "Line scan time: 12.5 sec"
+    const char* key;               ///< in the domain kAgentBundleID
+    const PrefsNotation* notation; ///< of the stored text, and with it the field's type
+    std::size_t offset;            ///< of the field in PrefsRecord
+    std::size_t size;              ///< of the field, in bytes
+    ChangeMask changes;            ///< the groups that a change of it reports; 0 for none
+    const char* name;              ///< in words, as in "Line scan time: 12.5 sec"
     SettingLimits limits = {};
     std::span<const char* const> choices = {}; ///< a choice's values in words, from 0 on
     SettingControl control = SettingControl::other;
@@ -89,9 +89,9 @@ inline constexpr const char* kCorners[] = {LOCALIZABLE("Choices", "Square"),
 
 inline constexpr ChangeMask kBothLines = kChangeScanLineLook | kChangeGuideLineLook;
 
-// A row's key, form, place and group.
-#define SETTING(key, form, field, changes)                                                         \
-    key, &form, offsetof(PrefsRecord, field), sizeof(PrefsRecord::field), changes
+// A row's key, notation, place and group.
+#define SETTING(key, notation, field, changes)                                                     \
+    key, &notation, offsetof(PrefsRecord, field), sizeof(PrefsRecord::field), changes
 #define SLIDER(outlet) {}, SettingControl::slider, outlet
 #define BUMPER(outlet) {}, SettingControl::bumper, outlet
 #define CHECK(outlet, action) {}, {}, SettingControl::check, outlet, action
@@ -100,83 +100,83 @@ inline constexpr ChangeMask kBothLines = kChangeScanLineLook | kChangeGuideLineL
 /// In the record's order, which is that of loading and saving.
 // clang-format off
 inline constexpr Setting kRows[] = {
-    {SETTING("on", kFlagForm, on, kChangeOnOff), LOCALIZABLE("Settings", "Scanning")},
-    {SETTING("playClickSounds", kFlagForm, playClickSounds, kChangeSounds),
+    {SETTING("on", kFlagNotation, on, kChangeOnOff), LOCALIZABLE("Settings", "Scanning")},
+    {SETTING("playClickSounds", kFlagNotation, playClickSounds, kChangeSounds),
      LOCALIZABLE("Settings", "A sound for each click"), CHECK("playClickSoundsCheck", "changedPlayClickSounds:")},
-    {SETTING("playDragPrompts", kFlagForm, playDragPrompts, kChangeSounds),
+    {SETTING("playDragPrompts", kFlagNotation, playDragPrompts, kChangeSounds),
      LOCALIZABLE("Settings", "Prompts while dragging"), CHECK("playDragPrompts", "changedPlayDragPrompts:")},
-    {SETTING("priorityScheduling", kFlagForm, priorityScheduling, 0), LOCALIZABLE("Settings", "Priority over other programs")},
-    {SETTING("launchAtLogin", kFlagForm, launchAtLogin, kChangeLaunch),
+    {SETTING("priorityScheduling", kFlagNotation, priorityScheduling, 0), LOCALIZABLE("Settings", "Priority over other programs")},
+    {SETTING("launchAtLogin", kFlagNotation, launchAtLogin, kChangeLaunch),
      LOCALIZABLE("Settings", "Start at login"), ACTION("changedLaunchAtLogin:")},
-    {SETTING("activateAtLaunch", kFlagForm, activateAtLaunch, kChangeLaunch),
+    {SETTING("activateAtLaunch", kFlagNotation, activateAtLaunch, kChangeLaunch),
      LOCALIZABLE("Settings", "Scan from the start"), ACTION("changedActivateAtLaunch:")},
-    {SETTING("soundLevel", kHexWordForm, soundLevel, kChangeSounds),
+    {SETTING("soundLevel", kHexWordNotation, soundLevel, kChangeSounds),
      LOCALIZABLE("Settings", "Volume"), kVolume, SLIDER("volume")},
-    {SETTING("scanner.canScanMenuBar", kFlagForm, canScanMenuBar, 0),
+    {SETTING("scanner.canScanMenuBar", kFlagNotation, canScanMenuBar, 0),
      LOCALIZABLE("Settings", "Scan the menu bar too"), CHECK("canScanMenuBarCheck", "changedCanScanMenuBar:")},
-    {SETTING("scanner.minTriggerDuration", kRealForm, minTriggerDuration, kChangeTriggers),
+    {SETTING("scanner.minTriggerDuration", kRealNotation, minTriggerDuration, kChangeTriggers),
      LOCALIZABLE("Settings", "Shortest press that counts"), seconds(0, 5), SLIDER("minTriggerDuration")},
-    {SETTING("scanner.afterClickDelay", kRealForm, afterClickDelay, kChangeTriggers),
+    {SETTING("scanner.afterClickDelay", kRealNotation, afterClickDelay, kChangeTriggers),
      LOCALIZABLE("Settings", "Ignore presses after a click for"), seconds(0, 10), SLIDER("afterClickDelay")},
-    {SETTING("scanner.preScanDelay", kRealForm, preScanDelay, kChangeTriggers),
+    {SETTING("scanner.preScanDelay", kRealNotation, preScanDelay, kChangeTriggers),
      LOCALIZABLE("Settings", "Wait before the scan starts"), seconds(0, 10), SLIDER("preScanDelayTime")},
-    {SETTING("scanner.inverseReleaseTime", kRealForm, inverseReleaseTime, kChangeTriggers),
+    {SETTING("scanner.inverseReleaseTime", kRealNotation, inverseReleaseTime, kChangeTriggers),
      LOCALIZABLE("Settings", "Wait after letting go"), seconds(0, 10), SLIDER("inverseReleaseTime")},
-    {SETTING("scanner.stepScanCancelTime", kRealForm, stepScanCancelTime, kChangeTriggers),
+    {SETTING("scanner.stepScanCancelTime", kRealNotation, stepScanCancelTime, kChangeTriggers),
      LOCALIZABLE("Settings", "Stop without a press for"), seconds(1, 60), SLIDER("stepScanCancelTime")},
-    {SETTING("scanner.wantHotKeyTrigger", kFlagForm, wantHotKeyTrigger, kChangeTriggers),
+    {SETTING("scanner.wantHotKeyTrigger", kFlagNotation, wantHotKeyTrigger, kChangeTriggers),
      LOCALIZABLE("Settings", "Listen to hot keys"), CHECK("wantHotKeyTriggerCheck", "changedWantHotKeyTrigger:")},
-    {SETTING("scanner.wantMouseClickTrigger", kFlagForm, wantMouseClickTrigger, kChangeTriggers),
+    {SETTING("scanner.wantMouseClickTrigger", kFlagNotation, wantMouseClickTrigger, kChangeTriggers),
      LOCALIZABLE("Settings", "Listen to mouse clicks"), CHECK("wantMouseClickTriggerCheck", "changedWantMouseClickTrigger:")},
-    {SETTING("scanner.triggerOnRelease", kFlagForm, triggerOnRelease, kChangeTriggers),
+    {SETTING("scanner.triggerOnRelease", kFlagNotation, triggerOnRelease, kChangeTriggers),
      LOCALIZABLE("Settings", "A press counts"), {}, kPressOrRelease},
-    {SETTING("scanner.fakeMouse2SwitchMode", kFlagForm, fakeMouse2SwitchMode, 0),
+    {SETTING("scanner.fakeMouse2SwitchMode", kFlagNotation, fakeMouse2SwitchMode, 0),
      LOCALIZABLE("Settings", "Second mouse button as a second switch")},
-    {SETTING("scanner.scanMode", kDecimalForm, scanMode, kChangeTriggers),
+    {SETTING("scanner.scanMode", kDecimalNotation, scanMode, kChangeTriggers),
      LOCALIZABLE("Settings", "Scan mode"), {}, kScanModes},
-    {SETTING("scanner.scanArea", kRectangleForm, scanArea, kChangeScanArea), LOCALIZABLE("Settings", "My own area")},
-    {SETTING("scanner.useScanArea", kFlagForm, useScanArea, kChangeScanArea),
+    {SETTING("scanner.scanArea", kRectangleNotation, scanArea, kChangeScanArea), LOCALIZABLE("Settings", "My own area")},
+    {SETTING("scanner.useScanArea", kFlagNotation, useScanArea, kChangeScanArea),
      LOCALIZABLE("Settings", "Scan"), {}, kScanAreas},
-    {SETTING("scanner.lineScanCanEndKybdMode", kFlagForm, lineScanCanEndKybdMode,
+    {SETTING("scanner.lineScanCanEndKybdMode", kFlagNotation, lineScanCanEndKybdMode,
              kChangeKeyboardMode),
      LOCALIZABLE("Settings", "Line scan ends keyboard mode"),
      CHECK("lineScanCanEndKybdModeCheck", "changedLineScanCanEndKyndMode:")},
-    {SETTING("scanner.lineScanTime", kRealForm, lineScanTime, kChangeScanSpeed),
+    {SETTING("scanner.lineScanTime", kRealNotation, lineScanTime, kChangeScanSpeed),
      LOCALIZABLE("Settings", "Line scan time"), seconds(1, 60), SLIDER("lineScanTime")},
-    {SETTING("scanner.pointerScanTime", kRealForm, pointerScanTime, kChangeScanSpeed),
+    {SETTING("scanner.pointerScanTime", kRealNotation, pointerScanTime, kChangeScanSpeed),
      LOCALIZABLE("Settings", "Pointer scan time"), seconds(1, 60), SLIDER("pointerScanTime")},
-    {SETTING("scanner.menuScanSpeedScaleFactor", kRealForm, menuScanSpeedScaleFactor,
+    {SETTING("scanner.menuScanSpeedScaleFactor", kRealNotation, menuScanSpeedScaleFactor,
              kChangeScanSpeed),
      LOCALIZABLE("Settings", "Speed in menus"), percent(10, 200, 5), SLIDER("menuScanSpeedScaleFactor")},
-    {SETTING("scanner.useScanAcceleration", kFlagForm, useScanAcceleration, kChangeScanSpeed),
+    {SETTING("scanner.useScanAcceleration", kFlagNotation, useScanAcceleration, kChangeScanSpeed),
      LOCALIZABLE("Settings", "Start slowly, then speed up"),
      CHECK("useScanAccelerationCheck", "changedUseScanAcceleration:")},
-    {SETTING("scanner.autoRepeatTime", kRealForm, autoRepeatTime, kChangeScanSpeed),
+    {SETTING("scanner.autoRepeatTime", kRealNotation, autoRepeatTime, kChangeScanSpeed),
      LOCALIZABLE("Settings", "Time between repeats"), seconds(0.5, 20), SLIDER("autoRepeatTime")},
-    {SETTING("scanner.clickDuration", kRealForm, clickDuration, kChangeScanSpeed),
+    {SETTING("scanner.clickDuration", kRealNotation, clickDuration, kChangeScanSpeed),
      LOCALIZABLE("Settings", "Length of a click"), kMilliseconds, SLIDER("clickTime")},
-    {SETTING("scanner.interClickDelay", kRealForm, interClickDelay, 0), LOCALIZABLE("Settings", "Pause between clicks")},
-    {SETTING("scanner.lineColor", kColourForm, lineColor, kBothLines), LOCALIZABLE("Settings", "Line colour")},
-    {SETTING("scanner.lineThickness", kDecimalForm, lineThickness, kBothLines),
+    {SETTING("scanner.interClickDelay", kRealNotation, interClickDelay, 0), LOCALIZABLE("Settings", "Pause between clicks")},
+    {SETTING("scanner.lineColor", kColourNotation, lineColor, kBothLines), LOCALIZABLE("Settings", "Line colour")},
+    {SETTING("scanner.lineThickness", kDecimalNotation, lineThickness, kBothLines),
      LOCALIZABLE("Settings", "Line thickness"), points(1, 50), BUMPER("lineThickness")},
-    {SETTING("scanner.lineTransparency", kRealForm, lineTransparency, kChangeScanLineLook),
+    {SETTING("scanner.lineTransparency", kRealNotation, lineTransparency, kChangeScanLineLook),
      LOCALIZABLE("Settings", "Scan line transparency"), percent(0, 95, 1), SLIDER("lineTransparency")},
-    {SETTING("scanner.lineGhostTransparency", kRealForm, lineGhostTransparency,
+    {SETTING("scanner.lineGhostTransparency", kRealNotation, lineGhostTransparency,
              kChangeGuideLineLook),
      LOCALIZABLE("Settings", "Guide line transparency"), percent(0, 100, 1), SLIDER("guideTransparency")},
-    {SETTING("scanner.pointerImageName", kTextForm, pointerImageName, kChangePointer), LOCALIZABLE("Settings", "Pointer")},
-    {SETTING("hotkeys.keys", kHotKeyListForm, hotKeys, kChangeHotKeys), LOCALIZABLE("Settings", "Hot keys")},
-    {SETTING("palette.borderGap", kDecimalForm, borderGap, kChangePalette),
+    {SETTING("scanner.pointerImageName", kTextNotation, pointerImageName, kChangePointer), LOCALIZABLE("Settings", "Pointer")},
+    {SETTING("hotkeys.keys", kHotKeyListNotation, hotKeys, kChangeHotKeys), LOCALIZABLE("Settings", "Hot keys")},
+    {SETTING("palette.borderGap", kDecimalNotation, borderGap, kChangePalette),
      LOCALIZABLE("Settings", "Space around the edge of the palette"), points(0, 100), BUMPER("borderGap")},
-    {SETTING("palette.buttonGap", kDecimalForm, buttonGap, kChangePalette),
+    {SETTING("palette.buttonGap", kDecimalNotation, buttonGap, kChangePalette),
      LOCALIZABLE("Settings", "Space between palette buttons"), points(0, 100), BUMPER("buttonGap")},
-    {SETTING("palette.buttonSize", kSizeForm, buttonSize, kChangePalette),
+    {SETTING("palette.buttonSize", kSizeNotation, buttonSize, kChangePalette),
      LOCALIZABLE("Settings", "Size of palette buttons"), {kMinButtonSize, kMaxButtonSize}},
-    {SETTING("palette.buttonShape", kHexWordForm, buttonShape, kChangePalette),
+    {SETTING("palette.buttonShape", kHexWordNotation, buttonShape, kChangePalette),
      LOCALIZABLE("Settings", "Corners of palette buttons"), {}, kCorners},
-    {SETTING("palette.buttonContent", kHexWordForm, buttonContent, kChangePalette),
+    {SETTING("palette.buttonContent", kHexWordNotation, buttonContent, kChangePalette),
      LOCALIZABLE("Settings", "Shown on palette buttons")},
-    {SETTING("palette.buttonActions", kActionListForm, buttonActions, kChangePalette),
+    {SETTING("palette.buttonActions", kActionListNotation, buttonActions, kChangePalette),
      LOCALIZABLE("Settings", "Palette buttons")},
 };
 // clang-format on

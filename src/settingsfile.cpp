@@ -15,7 +15,7 @@ std::string take(const std::string& key, const CFType* value, SettingsOffer& off
     if (!setting)
         return localized("Faults", "no setting of this version");
     PrefsRecord record = offer.record;
-    if (!setting->form->read(value, setting->in(record)))
+    if (!setting->notation->read(value, setting->in(record)))
         return localized("Faults", "not a value of this setting");
     if (const std::string fault = settingFault(*setting, record); !fault.empty())
         return fault;
@@ -30,7 +30,7 @@ std::string settingsDocument(const SettingSet& settings, const PrefsRecord& reco
     const auto dictionary = CFDictionaryCreateMutable();
     for (std::size_t i = 0; i < kSettings.size(); ++i)
         if (settings[i])
-            if (const auto text = kSettings[i].form->write(kSettings[i].in(record)))
+            if (const auto text = kSettings[i].notation->write(kSettings[i].in(record)))
                 CFDictionarySetValue(dictionary.get(), CFSTR(kSettings[i].key), text.get());
     return propertyListToXML(dictionary.get());
 }

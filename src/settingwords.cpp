@@ -88,11 +88,11 @@ std::string withoutUnit(std::string before, const std::string& after) {
 } // namespace
 
 double settingNumber(const Setting& setting, const PrefsRecord& record) {
-    if (setting.form == &kRealForm)
+    if (setting.notation == &kRealNotation)
         return get<double>(setting, record);
-    if (setting.form == &kDecimalForm)
+    if (setting.notation == &kDecimalNotation)
         return get<SInt32>(setting, record);
-    return setting.form == &kHexWordForm ? get<UInt32>(setting, record) : 0;
+    return setting.notation == &kHexWordNotation ? get<UInt32>(setting, record) : 0;
 }
 
 std::string settingText(const Setting& setting, const PrefsRecord& record) {
@@ -100,41 +100,42 @@ std::string settingText(const Setting& setting, const PrefsRecord& record) {
         return numberText(setting, record);
     if (!setting.choices.empty())
         return choiceText(setting, record);
-    if (setting.form == &kFlagForm)
+    if (setting.notation == &kFlagNotation)
         return get<UInt8>(setting, record) ? localized("Settings", "on")
                                            : localized("Settings", "off");
-    if (setting.form == &kRectangleForm)
+    if (setting.notation == &kRectangleNotation)
         return areaText(record.scanArea);
-    if (setting.form == &kColourForm)
+    if (setting.notation == &kColourNotation)
         return print("#%02x%02x%02x", record.lineColor.red, record.lineColor.green,
                      record.lineColor.blue);
-    if (setting.form == &kSizeForm)
+    if (setting.notation == &kSizeNotation)
         return print(localized("Settings", "%d × %d points").c_str(), record.buttonSize.width,
                      record.buttonSize.height);
-    if (setting.form == &kHotKeyListForm)
+    if (setting.notation == &kHotKeyListNotation)
         return hotKeysText(record.hotKeys);
-    if (setting.form == &kActionListForm)
+    if (setting.notation == &kActionListNotation)
         return actionsText(record.buttonActions);
-    if (setting.form == &kHexWordForm)
+    if (setting.notation == &kHexWordNotation)
         return contentText(record.buttonContent);
-    if (setting.form == &kRealForm)
+    if (setting.notation == &kRealNotation)
         return print("%g", settingNumber(setting, record));
-    const auto text = setting.form->write(setting.in(record));
+    const auto text = setting.notation->write(setting.in(record));
     return text ? toUTF8(text.get()) : "";
 }
 
 std::string changeText(const Setting& setting, const PrefsRecord& before, const PrefsRecord& after,
                        const char* pattern) {
-    const std::string form = localized("Changes", pattern);
-    if (setting.form == &kHotKeyListForm)
+    const std::string sentence = localized("Changes", pattern);
+    if (setting.notation == &kHotKeyListNotation)
         for (int i = 0; i < kNumHotKeys; ++i)
             if (std::memcmp(&before.hotKeys[i], &after.hotKeys[i], sizeof(HotKey)) != 0)
-                return filled(form, {localized("HotKeys", kHotKeyRoles[i]),
-                                     hotKeyText(before.hotKeys[i]), hotKeyText(after.hotKeys[i])});
+                return filled(sentence,
+                              {localized("HotKeys", kHotKeyRoles[i]), hotKeyText(before.hotKeys[i]),
+                               hotKeyText(after.hotKeys[i])});
     const std::string old = settingText(setting, before);
     const std::string now = settingText(setting, after);
     const std::string name = localized("Settings", setting.name);
-    return old == now ? name : filled(form, {name, withoutUnit(old, now), now});
+    return old == now ? name : filled(sentence, {name, withoutUnit(old, now), now});
 }
 
 std::string changesText(const SettingSet& settings, const PrefsRecord& before,

@@ -19,7 +19,8 @@ public:
 
 protected:
     void sendAction();
-    /// For what no event of the user's brought about: the keys held with the last one don't count.
+    /// The same when no event of the user's brought it about: the keys that were held with the last
+    /// event don't count.
     void sendActionOutsideEvents();
 
 private:

@@ -36,6 +36,6 @@ public:
     CFRef<CGContext> graphicsPort() const;
 
     static void saveGraphicsState();
-    /// As it was at the last save that hasn't been restored.
+    /// Goes back to the last saved state that hasn't been restored yet.
     static void restoreGraphicsState();
 };

@@ -61,7 +61,7 @@ public:
     virtual void mouseDown(NSEvent* event);
     /// The left button was released, after a mouseDown that wasn't passed on.
     virtual void mouseUp(NSEvent* event);
-    /// The same of any other button.
+    /// Of any other button, as mouseDown and mouseUp are of the left one.
     virtual void otherMouseDown(NSEvent* event);
     virtual void otherMouseUp(NSEvent* event);
     virtual void keyDown(NSEvent* event);

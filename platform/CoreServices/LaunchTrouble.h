@@ -23,7 +23,7 @@ struct TroubledApplication {
 };
 
 /// The application that is in trouble; none when all are well, or may still come up. An end that
-/// this process asked for ('quit') is none by itself, nor is one while another process keeps the
+/// this process asked for ('quit') is no trouble, nor is one while another process keeps the
 /// application up.
 std::optional<TroubledApplication> findLaunchTrouble();
 

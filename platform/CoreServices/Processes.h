@@ -9,7 +9,7 @@
 // The Process Manager. A process takes part by owning, on the session bus, the name
 // org.korvex.Process1.t<type>.s<signature>.p<pid>, type and signature as eight hexadecimal digits
 // (written in upper case, read in either). Its unique bus name :a.b is its process serial number
-// {a, b}. Names of any other form are ignored.
+// {a, b}. Names of any other kind are ignored.
 //
 // Needs a QCoreApplication. Who takes part is kept up to date from the bus's own announcements, so
 // none of the operations below waits for anything after the first, which asks the bus for the names

@@ -78,16 +78,16 @@ OSStatus LSSharedFileListItemResolve(const LSSharedFileListItem* item, UInt32 fl
                                      CFRef<CFURL>* url, FSRef* ref);
 
 /// Deletes the item's entry; of a symbolic link, the link. Where all users' list has an entry of
-/// the same file name, a hidden one takes its place in this user's, since that one would be heeded
-/// otherwise. fnfErr when it is gone already, permErr when the folder can't be written.
+/// the same file name, which would be heeded from now on, this user's list gets a hidden one of
+/// that name. fnfErr when it is gone already, permErr when the folder can't be written.
 OSStatus LSSharedFileListItemRemove(LSSharedFileList* list, const LSSharedFileListItem* item);
 
 /// Writes an entry that starts the application, as the last item: `after` is
 /// kLSSharedFileListItemLast, the others are null. Its file is named for the bundle's identifier,
 /// with a number where another program, or an entry that the user has switched off, has that name
-/// already. On desktops for which alone another entry starts the application, this one isn't
-/// heeded. Null when the URL names no bundle with an executable, or the folder can't be made or
-/// written.
+/// already. Where another entry starts the application on certain desktops only, this one isn't
+/// heeded on those. Null when the URL names no bundle with an executable, or the folder can't be
+/// made or written.
 CFRef<LSSharedFileListItem> LSSharedFileListInsertItemURL(LSSharedFileList* list,
                                                           const LSSharedFileListItem* after,
                                                           const CFString* displayName,
@@ -106,6 +106,6 @@ bool hideGlobalLoginItems(const CFURL* application);
 /// Whether the user has switched off an entry of the application.
 bool isLoginItemSwitchedOff(const CFURL* application);
 
-/// Switches this user's entry of the application, if the user has switched it off, on again; all
-/// else in it stays. Further ones, and those of copies in other folders, are deleted.
+/// If the user has switched off an entry of the application, switches it on again; all else in it
+/// stays. Further entries that are switched off, and those of copies in other folders, are deleted.
 void forgetSwitchedOffLoginItem(const CFURL* application);

@@ -10,8 +10,8 @@ CFRef<CFString> CSCopyUserName(bool useShortName);
 /// The group of the administrators.
 constexpr int kAdminGroup = 80;
 
-/// Writes the user's groups to `groups`, `baseGroup` first, and their number to `*count`, which
-/// comes in as the room that there is. -1 when that is too little, or there is no such user.
+/// Writes the user's groups to `groups`, `baseGroup` first. `*count` says how many have room there,
+/// and receives how many were written. -1 when there are more, or no such user.
 ///
 /// Linux numbers its groups as it likes. Here root and the members of sudo, wheel and admin are in
 /// kAdminGroup, and nobody else is.

@@ -14,7 +14,8 @@ using OptionBits = UInt32;
 
 enum : OptionBits { kHIHotKeyModeAllDisabled = 1 };
 
-/// Begins the mode for the active window. The token ends it.
+/// Begins the mode for the active window. The token ends it. Keys that are down already go to
+/// nobody until they come up, and no key repeats.
 void* PushSymbolicHotKeyMode(OptionBits options);
 
 /// Ends the mode. Keys that are down are ignored until they come up: their repetitions, and also

@@ -12,7 +12,7 @@
 namespace {
 
 std::string storedText(const Setting& setting, const PrefsRecord& record) {
-    const auto text = setting.form->write(setting.in(record));
+    const auto text = setting.notation->write(setting.in(record));
     return text ? toUTF8(text.get()) : "";
 }
 

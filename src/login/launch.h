@@ -31,22 +31,22 @@ CFRef<const CFURL> getRetainedAppURL(const CFURL* appURL);
 /// system before 10.7 an item that can't be added counts as success. False without an application.
 bool launchSetAppIsAutoLaunched(const CFURL* appURL, bool autoLaunch, bool allUsers);
 
-/// To be called when the user switches launching on here: an entry that was switched off elsewhere,
-/// in the desktop's own tool, is respected by the operation above unless this came before.
+/// To be called when the user switches launching on in the pane. Without it
+/// launchSetAppIsAutoLaunched leaves an entry alone that was switched off elsewhere, in the
+/// desktop's own tool.
 void launchForgetSwitchedOff(const CFURL* appURL);
 
-/// An application that is opened for all users shows as checked for this one; without the other
-/// check box (`showAllUsers` false) that can't be changed, and nothing else is told. 0 without an
-/// application.
+/// How the check boxes are to look. An application that is opened for all users is checked for this
+/// one, too. `showAllUsers` says whether there is the second box: without it that check can't be
+/// taken off, and the other bits are 0. 0 without an application.
 LaunchUIState launchGetCurrentUIStateForApp(const CFURL* appURL, bool showAllUsers);
 
 /// Whether the application is in either list.
 bool launchAppIsAutoLaunched(const CFURL* appURL);
 
 /// Binds the check boxes of a dialog: they show the lists' state, and a hit on one changes its
-/// list. `allUsersCheckbox` may be null. Ends an earlier binding; without the first check box or an
-/// application that is all it does. Neither box is owned, and the binding is to be ended before
-/// they go.
+/// list. `allUsersCheckbox` may be null. Ends an earlier binding first, and does no more without
+/// the first check box or an application. Neither box is owned: end the binding before they go.
 void launchBeginUI(const CFURL* appURL, ControlRef thisUserCheckbox, ControlRef allUsersCheckbox);
 
 /// Shows the lists' state anew.

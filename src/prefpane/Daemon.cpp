@@ -98,8 +98,8 @@ void sendRecord(ChangeMask changes, AESendMode mode) {
         AESend(&event, &reply, mode, kAEDefaultTimeout);
 }
 
-/// Tells an agent that came up after the pane opened what it can't have read: the changes so far,
-/// which aren't stored before the pane is put away, and the pane's opening if that launched it.
+/// An agent that came up after the pane opened has missed the changes so far, which aren't stored
+/// before the pane is put away, and perhaps the pane's opening. Tells it of them.
 void informDaemon() {
     if (daemonPSN == informedPSN)
         return;

@@ -88,10 +88,10 @@ bool HotKeyView::performKeyEquivalent(NSEvent* event) {
     return true;
 }
 
-// A key that was down before, such as the one that started the capture, is no answer; nor is one
-// without a code, which no hot key can name.
+// No hot key can name a key without a code. Keys that were down before, such as the one that
+// started the capture, don't come here (HotKeyMode.h).
 void HotKeyView::keyDown(NSEvent* event) {
-    if (index_ < 0 || event->isARepeat() || event->keyCode() == kNoKeyCode)
+    if (index_ < 0 || event->keyCode() == kNoKeyCode)
         return;
     setHotKey(carbonModifiers(event->modifierFlags()), event->keyCode());
 }

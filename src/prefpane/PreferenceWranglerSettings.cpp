@@ -14,9 +14,9 @@
 namespace {
 
 constexpr NumberKind kindOf(const Setting& setting) {
-    return setting.form == &kRealForm      ? kNumberKindDouble
-           : setting.form == &kHexWordForm ? kNumberKindUInt32
-                                           : kNumberKindSInt32;
+    return setting.notation == &kRealNotation      ? kNumberKindDouble
+           : setting.notation == &kHexWordNotation ? kNumberKindUInt32
+                                                   : kNumberKindSInt32;
 }
 
 const std::type_info& typeOf(SettingControl control) {
@@ -34,44 +34,25 @@ bool isCheckBox(const NSObject& object) {
     return typeid(object) == typeid(NSButton);
 }
 
-// Controls are bound, and show their settings, in fixed orders of their outlets, in which screen
-// readers hear of the values. Controls that aren't named follow in the order of the settings.
+// The fixed orders in which controls are bound and show their settings, by their outlets. Screen
+// readers hear the values in the order in which they are shown. Controls that aren't named follow
+// in the order of the settings.
 
-constexpr std::string_view kBound[] = {"autoRepeatTime",
-                                       "guideTransparency",
-                                       "inverseReleaseTime",
-                                       "stepScanCancelTime",
-                                       "preScanDelayTime",
-                                       "lineScanTime",
-                                       "lineTransparency",
-                                       "menuScanSpeedScaleFactor",
-                                       "minTriggerDuration",
-                                       "pointerScanTime",
-                                       "afterClickDelay",
-                                       "clickTime",
-                                       "volume",
-                                       "borderGap",
-                                       "buttonGap",
-                                       "lineThickness"};
-constexpr std::string_view kShownBeforeButtonSizes[] = {"autoRepeatTime",
-                                                        "clickTime",
-                                                        "guideTransparency",
-                                                        "preScanDelayTime",
-                                                        "inverseReleaseTime",
-                                                        "stepScanCancelTime",
-                                                        "lineScanTime",
-                                                        "lineTransparency",
-                                                        "menuScanSpeedScaleFactor",
-                                                        "minTriggerDuration",
-                                                        "pointerScanTime",
-                                                        "afterClickDelay",
-                                                        "volume",
-                                                        "borderGap",
-                                                        "buttonGap"};
-constexpr std::string_view kFlags[] = {"canScanMenuBarCheck",       "lineScanCanEndKybdModeCheck",
-                                       "playClickSoundsCheck",      "playDragPrompts",
-                                       "useScanAccelerationCheck",  "wantHotKeyTriggerCheck",
-                                       "wantMouseClickTriggerCheck"};
+// clang-format off
+constexpr std::string_view kBound[] = {
+    "autoRepeatTime", "guideTransparency", "inverseReleaseTime", "stepScanCancelTime",
+    "preScanDelayTime", "lineScanTime", "lineTransparency", "menuScanSpeedScaleFactor",
+    "minTriggerDuration", "pointerScanTime", "afterClickDelay", "clickTime", "volume", "borderGap",
+    "buttonGap", "lineThickness"};
+constexpr std::string_view kShownBeforeButtonSizes[] = {
+    "autoRepeatTime", "clickTime", "guideTransparency", "preScanDelayTime", "inverseReleaseTime",
+    "stepScanCancelTime", "lineScanTime", "lineTransparency", "menuScanSpeedScaleFactor",
+    "minTriggerDuration", "pointerScanTime", "afterClickDelay", "volume", "borderGap", "buttonGap"};
+constexpr std::string_view kFlags[] = {
+    "canScanMenuBarCheck", "lineScanCanEndKybdModeCheck", "playClickSoundsCheck", "playDragPrompts",
+    "useScanAccelerationCheck", "wantHotKeyTriggerCheck", "wantMouseClickTriggerCheck"};
+
+// clang-format on
 
 /// The rows of the settings, first those of the outlets.
 template <std::size_t Count>

@@ -60,10 +60,10 @@ bool readStoredText(std::string_view bytes) {
     const std::string text(bytes.substr(1));
     const auto stored = CFStringCreateWithCString(text.c_str(), kCFStringEncodingMacRoman);
     PrefsRecord record, again;
-    const bool any = setting.form->read(stored.get(), setting.in(record));
-    const auto written = setting.form->write(setting.in(record));
-    if (written && setting.form->read(written.get(), setting.in(again)))
-        require(CFEqual(setting.form->write(setting.in(again)).get(), written.get()),
+    const bool any = setting.notation->read(stored.get(), setting.in(record));
+    const auto written = setting.notation->write(setting.in(record));
+    if (written && setting.notation->read(written.get(), setting.in(again)))
+        require(CFEqual(setting.notation->write(setting.in(again)).get(), written.get()),
                 "what is stored is read and stored the same");
     std::memset(setting.in(record), 0, setting.size);
     std::memset(setting.in(again), 0, setting.size);

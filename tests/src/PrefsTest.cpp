@@ -53,8 +53,8 @@ std::string bytesOf(const PrefsRecord& record, std::size_t offset = 0,
 /// The tables of docs/agent-contract.md.
 struct Contract {
     QByteArray record = QByteArray(sizeof(PrefsRecord), '\0'); ///< of all defaults
-    Texts forms;                                               ///< by key
-    Texts examples;                                            ///< by form
+    Texts notations;                                           ///< by key
+    Texts examples;                                            ///< by notation
 
     Contract() {
         std::istringstream page(readFile(CONTRACT));
@@ -65,7 +65,7 @@ struct Contract {
             if (cells.size() == 10 && cells[2].toInt() > 0) {
                 write(cells[1].toInt(), cells[2].toInt(), cells[3], cells[5]);
                 if (!cells[8].isEmpty())
-                    forms[cells[7].toStdString()] = cells[8].toStdString();
+                    notations[cells[7].toStdString()] = cells[8].toStdString();
             } else if (cells.size() == 7 && cells[2].toInt() > 0) {
                 write(cells[2].toInt(), 8, "hot key", cells[4] + ' ' + cells[5]);
             } else if (cells.size() == 6) {
@@ -100,18 +100,18 @@ private:
     }
 };
 
-TEST(PrefsTest, AFreshRecordAndTheStoredKeysAndFormsAreThoseOfTheContract) {
+TEST(PrefsTest, AFreshRecordAndTheStoredKeysAndNotationsAreThoseOfTheContract) {
     const Contract contract;
     EXPECT_EQ(bytesOf(prefs), contract.record.toHex().toStdString());
     ASSERT_TRUE(savePrefs());
-    EXPECT_EQ(storedTexts().size(), contract.forms.size());
-    for (const auto& [key, form] : contract.forms) {
+    EXPECT_EQ(storedTexts().size(), contract.notations.size());
+    for (const auto& [key, notation] : contract.notations) {
         EXPECT_TRUE(storedTexts().contains(key)) << key;
-        setText(key.c_str(), contract.examples.at(form));
+        setText(key.c_str(), contract.examples.at(notation));
         ASSERT_TRUE(CFPreferencesAppSynchronize(kAgentBundleID));
         prefsSetup();
         ASSERT_TRUE(savePrefs());
-        EXPECT_EQ(storedTexts()[key], contract.examples.at(form)) << key;
+        EXPECT_EQ(storedTexts()[key], contract.examples.at(notation)) << key;
     }
 }
 
@@ -225,7 +225,7 @@ TEST(PrefsTest, WhatTheUserChoseIsStoredAndTheRestYieldsToOthers) {
     expectStored({{"on", "yes"}});
     fs::remove(kDomainFile);
     ASSERT_TRUE(savePrefs());
-    EXPECT_EQ(storedTexts().size(), Contract().forms.size());
+    EXPECT_EQ(storedTexts().size(), Contract().notations.size());
 }
 
 TEST(PrefsTest, ValuesOfOtherTypesLeaveTextFields) {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// A widget of a form that stands for a whole row, frame or list: it builds what is always the same
-/// when it has the properties that the form gives it.
+/// A widget of a form that stands for a whole row, frame or list. Once it has the form's
+/// properties, it builds what is always the same.
 class FormPart {
 public:
     FormPart() = default;

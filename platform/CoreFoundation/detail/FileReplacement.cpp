@@ -66,9 +66,9 @@ void finishFlush() {
         flush.thread.join();
 }
 
-/// Flushes the folder, so that the new name outlasts a power cut, on a thread of its own: it takes
-/// as long as flushing the file did, and whether the old or the new file is found after a power
-/// cut, it is whole. At most one is under way, and the process ends after it.
+/// Flushes the folder, so that the new name outlasts a power cut. That takes as long as flushing
+/// the file did, so it has a thread of its own: until it is done a power cut may leave the old
+/// file, which is whole, too. At most one flush is under way, and the process ends after it.
 void flushFolderSoon(const std::string& path) {
     FolderFlush& flush = folderFlush();
     const std::lock_guard lock(flush.guard);

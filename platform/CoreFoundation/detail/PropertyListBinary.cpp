@@ -13,8 +13,8 @@
 
 namespace {
 
-/// The form: "bplist00"; the objects, each a byte of type and length and its content; the table of
-/// the objects' offsets; a trailer. Numbers are big-endian.
+/// The layout: "bplist00"; the objects, each a byte of type and length and its content; the table
+/// of the objects' offsets; a trailer. Numbers are big-endian.
 constexpr std::size_t kHeaderSize = 8;
 constexpr std::size_t kTrailerSize = 32;
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-// The XML form of property lists. CFPropertyList.h says what they hold and their limits.
+// Property lists in XML. CFPropertyList.h says what they hold and their limits.
 
 /// In any encoding that the document declares and Qt knows: UTF-8, UTF-16, Latin-1. Null unless the
 /// bytes are exactly one whole property list. A document type may have an internal subset.

@@ -30,8 +30,8 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
-// The values of the elements without children, from their texts. Null when the text isn't of the
-// element's form. What has the form but is out of range is carried.
+// The values of the elements without children, from their texts. Null when the text can't be that
+// element's. A number or date out of range is carried.
 
 template <class Value, class... Base>
 CFRef<const CFType> numberOf(const char* element, std::string_view text, std::string_view digits,
@@ -63,9 +63,9 @@ CFRef<const CFType> realOf(std::string_view text) {
 }
 
 CFRef<const CFType> dateOf(std::string_view text) {
-    constexpr std::string_view form = "dddd-dd-ddTdd:dd:ddZ";
+    constexpr std::string_view pattern = "dddd-dd-ddTdd:dd:ddZ";
     const bool matches =
-        std::equal(text.begin(), text.end(), form.begin(), form.end(),
+        std::equal(text.begin(), text.end(), pattern.begin(), pattern.end(),
                    [](char c, char wanted) { return wanted == 'd' ? isDigit(c) : c == wanted; });
     return matches ? CFRef<CarriedValue>::adopt(new CarriedValue("date", text)) : nullptr;
 }

@@ -13,9 +13,9 @@ QString formatProcessName(const ProcessName& process) {
 }
 
 std::optional<ProcessName> parseProcessName(const QString& busName) {
-    static const auto& form = *new QRegularExpression(QStringLiteral(
+    static const auto& pattern = *new QRegularExpression(QStringLiteral(
         "\\Aorg\\.korvex\\.Process1\\.t([0-9A-Fa-f]{8})\\.s([0-9A-Fa-f]{8})\\.p([1-9][0-9]*)\\z"));
-    const QRegularExpressionMatch match = form.match(busName);
+    const QRegularExpressionMatch match = pattern.match(busName);
     bool fits = false;
     const int pid = match.captured(3).toInt(&fits);
     if (!match.hasMatch() || !fits)
@@ -25,8 +25,9 @@ std::optional<ProcessName> parseProcessName(const QString& busName) {
 }
 
 std::optional<ProcessSerialNumber> parseUniqueName(const QString& uniqueName) {
-    static const auto& form = *new QRegularExpression(QStringLiteral("\\A:([0-9]+)\\.([0-9]+)\\z"));
-    const QRegularExpressionMatch match = form.match(uniqueName);
+    static const auto& pattern =
+        *new QRegularExpression(QStringLiteral("\\A:([0-9]+)\\.([0-9]+)\\z"));
+    const QRegularExpressionMatch match = pattern.match(uniqueName);
     bool highFits = false, lowFits = false;
     const ProcessSerialNumber psn{match.captured(1).toUInt(&highFits),
                                   match.captured(2).toUInt(&lowFits)};

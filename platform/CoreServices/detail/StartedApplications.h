@@ -65,7 +65,7 @@ private:
     void noteQuitEnd(pid_t pid);
     void noteProcesses();
     bool isOf(const Application& application, pid_t pid, OSType signature) const;
-    /// Without the process `ended`, which the bus may not have missed yet.
+    /// `ended` doesn't count: the bus may not know yet that this process is gone.
     bool isUp(const Application& application, pid_t ended = 0) const;
     bool isQuitting(const Application& application) const;
     bool isAwaited(const Application& application) const;

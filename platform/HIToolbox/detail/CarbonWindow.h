@@ -25,7 +25,7 @@ public:
     /// Takes the widget, which has no parent.
     explicit CarbonWindow(std::unique_ptr<QWidget> widget);
     /// Hides the widget at once. It is deleted later, because one of its events may be on its way.
-    /// When windows are left, neither.
+    /// When windows are to be left as they are, neither happens.
     virtual ~CarbonWindow();
     CarbonWindow(const CarbonWindow&) = delete;
     CarbonWindow& operator=(const CarbonWindow&) = delete;

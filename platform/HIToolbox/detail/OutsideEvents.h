@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// While one lives, what runs is no answer to an event of the user's, such as an action that
-/// assistive technology asks for: GetCurrentEventKeyModifiers then gives no keys.
+/// Lives while something runs that no event of the user's brought about, such as an action that
+/// assistive technology asks for. GetCurrentEventKeyModifiers gives no keys then.
 class OutsideEvents {
 public:
     OutsideEvents() { ++depth_; }

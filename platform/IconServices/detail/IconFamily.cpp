@@ -3,14 +3,13 @@
 
 #include "platform/CoreGraphics/detail/DecodedImage.h"
 #include "platform/IconServices/detail/BigEndian.h"
-#include "platform/IconServices/detail/JPEG2000.h"
 #include "platform/IconServices/detail/Libicns.h"
 
 #include <algorithm>
 #include <map>
 #include <string>
 
-// libicns decodes what no one else does: packed colours, palettes and JPEG 2000. It trusts lengths,
+// libicns decodes what no one else does: packed colours and palettes. It trusts lengths,
 // so it sees only single elements whose length was found right here, in a family made for them.
 
 namespace {
@@ -173,17 +172,10 @@ QImage decodeClassic(const ClassicSize& size, OSType type, const Elements& eleme
     return std::move(image).convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-std::span<const UInt8> toBytes(std::string_view content) {
-    return {reinterpret_cast<const UInt8*>(content.data()), content.size()};
-}
-
-void addCompressed(IconImages& images, const CFRef<const CFData>& owner, std::string_view content) {
-    const auto bytes = toBytes(content);
-    if (content.starts_with(kPNGSignature)) {
+void addPNG(IconImages& images, const CFRef<const CFData>& owner, std::string_view content) {
+    const std::span bytes(reinterpret_cast<const UInt8*>(content.data()), content.size());
+    if (content.starts_with(kPNGSignature))
         images.add(imageSize(bytes, "png"), [owner, bytes] { return decodeImage(bytes, "png"); });
-    } else if (const auto size = sizeOfIconJPEG2000(bytes)) {
-        images.add(*size, [owner, bytes, size] { return decodeIconJPEG2000(bytes, *size); });
-    }
 }
 
 void addClassic(IconImages& images, const CFRef<const CFData>& owner, const Elements& all,
@@ -209,7 +201,7 @@ IconImages imagesOfIconFamily(CFRef<const CFData> family) {
         elementsOfFamily({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
     IconImages images;
     for (const auto& [type, content] : elements)
-        addCompressed(images, family, content);
+        addPNG(images, family, content);
     for (const ClassicSize& size : kClassicSizes)
         addClassic(images, family, elements, size);
     return images;

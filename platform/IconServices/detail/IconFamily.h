@@ -10,6 +10,6 @@ constexpr std::size_t kMaxIconFamilyElements = 128;
 
 /// The images of an icon family (the content of a file of type "icns"); none when it isn't one, or
 /// says lengths that don't fit. Read are the classic images of 16 by 12 to 128 pixels with 1, 4, 8
-/// and 24 bits a pixel, with their 1- and 8-bit masks; and PNG and JPEG 2000 images. Of one size,
-/// the image with the most colours is taken. Nothing is decoded yet.
+/// and 24 bits a pixel, with their 1- and 8-bit masks; and PNG images, but not JPEG 2000. Of one
+/// size, the image with the most colours is taken. Nothing is decoded yet.
 IconImages imagesOfIconFamily(CFRef<const CFData> family);

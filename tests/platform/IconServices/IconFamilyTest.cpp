@@ -70,15 +70,12 @@ TEST(IconFamilyTest, DecodesEveryDepthWithEveryMaskAndTheMostColoursThatAreWhole
     }
 }
 
-/// Files that others wrote: by Pillow's writer, and JPEG 2000 by OpenJPEG through Pillow.
-TEST(IconFamilyTest, ReadsOtherWritersFiles) {
-    for (const auto& [file, side] : {std::pair{"Pillow.icns", 32}, {"JPEG2000.icns", 256}}) {
-        const std::string bytes = readFile(std::filesystem::path(TEST_ICONS) / file);
-        const QImage image = readFamily(bytes).atLeast(side);
-        ASSERT_EQ(image.size(), QSize(side, side)) << file;
-        EXPECT_EQ(image.pixelColor(side / 2, side / 2), QColor(0x20, 0x60, 0xC0)) << file;
-        EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << file;
-    }
+TEST(IconFamilyTest, ReadsWhatPillowWrites) {
+    const std::string bytes = readFile(std::filesystem::path(TEST_ICONS) / "Pillow.icns");
+    const QImage image = readFamily(bytes).atLeast(32);
+    ASSERT_EQ(image.size(), QSize(32, 32));
+    EXPECT_EQ(image.pixelColor(16, 16), QColor(0x20, 0x60, 0xC0));
+    EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
 }
 
 TEST(IconImagesTest, DecodesOnceWhatIsNeeded) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "src/prefsforms.h"
+#include "src/prefsnotation.h"
 
 #include "platform/CoreFoundation/StoredValues.h"
 
@@ -225,16 +225,16 @@ CFRef<const CFString> writeActionList(const void* field) {
 
 } // namespace
 
-constexpr PrefsForm kFlagForm{readFlag, writeFlag};
-constexpr PrefsForm kDecimalForm{readDecimal, writeDecimal};
-constexpr PrefsForm kHexWordForm{readHexWord, writeHexWord};
-constexpr PrefsForm kRealForm{readReal, writeReal};
-constexpr PrefsForm kRectangleForm{readRectangle, writeRectangle};
-constexpr PrefsForm kColourForm{readColour, writeColour};
-constexpr PrefsForm kTextForm{readText, writeText};
-constexpr PrefsForm kHotKeyListForm{readHotKeyList, writeHotKeyList};
-constexpr PrefsForm kSizeForm{readSize, writeSize};
-constexpr PrefsForm kActionListForm{readActionList, writeActionList};
+constexpr PrefsNotation kFlagNotation{readFlag, writeFlag};
+constexpr PrefsNotation kDecimalNotation{readDecimal, writeDecimal};
+constexpr PrefsNotation kHexWordNotation{readHexWord, writeHexWord};
+constexpr PrefsNotation kRealNotation{readReal, writeReal};
+constexpr PrefsNotation kRectangleNotation{readRectangle, writeRectangle};
+constexpr PrefsNotation kColourNotation{readColour, writeColour};
+constexpr PrefsNotation kTextNotation{readText, writeText};
+constexpr PrefsNotation kHotKeyListNotation{readHotKeyList, writeHotKeyList};
+constexpr PrefsNotation kSizeNotation{readSize, writeSize};
+constexpr PrefsNotation kActionListNotation{readActionList, writeActionList};
 
 bool copyStoredText(const CFType* value, char* buffer, CFIndex bufferSize) {
     const auto* string = dynamicCFCast<CFString>(value);
