@@ -7,7 +7,6 @@ OUT_DIR gets pictures, the agent's log and the history. The exit status is 1 whe
 have its effect.
 """
 
-import ctypes
 import csv
 import plistlib
 import re
@@ -17,6 +16,8 @@ import time
 from pathlib import Path
 
 from tests.e2e.desktop import Desktop, exit_on_signals
+from tests.e2e.line import Column, Span, Switch, watch
+from tests.e2e.screen import Atspi, Control, GLib, press
 from tests.e2e.startup import DATE
 from tests.e2e.tour import PROGRAM, SCAN_SPEED, Tour, make_room
 from tests.e2e.waiting import Failure, check, until
@@ -30,59 +31,26 @@ OFFSETS = 0, 1, -1, 2, -1, 0, 1, -2, 1, -1, 0, 1
 SPREAD = 1.4826 * STEP
 TOLERANCE = 0.02  # seconds: this process isn't on time either
 SWEEPS = 14  # two of them free
-WATCHED = 1.5  # seconds
-MOST_LATE = 2 / 60  # seconds; this process takes its time to look, too
+SPEED = SIZE[1] / SCAN_TIME  # pixels a second
+TARGET = 12  # millimetres
+FRAME = 1 / 60  # seconds
+PRESS = 0.008 + FRAME
 
-SPACE = 0x20
 NEVER = 0x7FFFFFFF  # the notice about assistive access comes no more
 
 
-class Column:
-    """One column of the screen's pixels, read from the X server."""
-
-    def __init__(self, left: int, top: int, bottom: int) -> None:
-        self._x11 = ctypes.CDLL("libX11.so.6")
-        for name in ("XOpenDisplay", "XGetImage"):
-            getattr(self._x11, name).restype = ctypes.c_void_p
-        self._x11.XDefaultRootWindow.restype = ctypes.c_ulong
-        self._x11.XGetPixel.restype = ctypes.c_ulong
-        self._display = ctypes.c_void_p(self._x11.XOpenDisplay(None))
-        self._root = ctypes.c_ulong(self._x11.XDefaultRootWindow(self._display))
-        self._place = left, top, 1, bottom - top
-
-    def line(self) -> float | None:
-        """Where the middle of the line is, in pixels from the top; nothing without a line."""
-        all_planes, z_pixmap = ctypes.c_ulong(-1), 2
-        image = ctypes.c_void_p(self._x11.XGetImage(
-            self._display, self._root, *self._place, all_planes, z_pixmap))
-        rows = range(self._place[3])
-        pixels = [self._x11.XGetPixel(image, 0, row) for row in rows]
-        self._x11.XDestroyImage(image)
-        dark = [row for row in rows if pixels[row] >> 16 & 255 > 80 and pixels[row] >> 8 & 255 < 80]
-        return sum(dark) / len(dark) + 0.5 if dark else None
-
-
-class Switch:
-    """Presses a key in the X server, without a program to be started first."""
+class Announcements:
+    """What a screen reader is asked to say at once."""
 
     def __init__(self) -> None:
-        self._x11 = ctypes.CDLL("libX11.so.6")
-        self._test = ctypes.CDLL("libXtst.so.6")
-        self._x11.XOpenDisplay.restype = ctypes.c_void_p
-        self._display = ctypes.c_void_p(self._x11.XOpenDisplay(None))
-        self._key = self._x11.XKeysymToKeycode(self._display, ctypes.c_ulong(SPACE))
+        self._texts: list[str] = []
+        self._listener = Atspi.EventListener.new(lambda event: self._texts.append(event.any_data))
+        self._listener.register("object:announcement")
 
-    def press(self) -> float:
-        """Gives the moment when it went down."""
-        moment = time.monotonic()
-        self._send(True)
-        time.sleep(0.08)
-        self._send(False)
-        return moment
-
-    def _send(self, down: bool) -> None:
-        self._test.XTestFakeKeyEvent(self._display, self._key, down, ctypes.c_ulong(0))
-        self._x11.XSync(self._display, False)
+    def heard(self) -> list[str]:
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return self._texts
 
 
 def store_settings(desktop: Desktop) -> None:
@@ -104,45 +72,78 @@ def saying(tour: Tour) -> tuple[str, str]:
     return "", ""
 
 
-def sweep(tour: Tour, switch: Switch, offset: float) -> None:
-    until(lambda: saying(tour)[0].startswith(("Ready", "A line")), "the page is ready")
-    mark = float(re.search(r"mark is ([\d.]+) mm", saying(tour)[1]).group(1))
-    speed = SIZE[1] * MILLIMETRES_A_PIXEL / SCAN_TIME
-    started = switch.press()
-    time.sleep(max(started + mark / speed + offset - time.monotonic(), 0))
-    switch.press()
+class Try:
+    """The sweeps of one try, and what was seen of them. In seconds."""
+
+    def __init__(self, tour: Tour) -> None:
+        self.tour = tour
+        self.switch = Switch()
+        self.late: list[Span] = []  # of each frame: after the line was where it shows it
+        self.mistaken: list[Span] = []  # of each press: the stopped line's place
+        box = self.view().box
+        self.column = Column((box.left + box.right) // 2, box.top, box.bottom)
+
+    def view(self) -> Control:
+        return next(each for each in self.tour.screen.shown()
+                    if "Press any key or button" in each.description)
+
+    def sweep(self, offset: float) -> None:
+        until(lambda: saying(self.tour)[0].startswith(("Ready", "A line")), "the page is ready")
+        mark = float(re.search(r"mark is ([\d.]+) mm", saying(self.tour)[1]).group(1))
+        aim = mark / MILLIMETRES_A_PIXEL / SPEED + offset
+        started = self.switch.press()
+        frames = watch(self.column, started.least + aim - 0.02)
+        self.late += [seen.since(started) - place / SPEED for place, seen in frames]
+        time.sleep(max(started.least + aim - time.monotonic(), 0))
+        pressed = self.switch.press()
+        place = until(lambda: self.column.line(), "the line stands")
+        self.mistaken.append(pressed.since(started) - place / SPEED)
 
 
-def watch_the_line(tour: Tour, switch: Switch) -> str:
-    """How late each new frame shows the line, in a sweep that nobody stops."""
-    until(lambda: saying(tour)[0].startswith(("Ready", "A line")), "the page is ready")
-    box = next(each.box for each in tour.screen.shown() if "Press any key" in each.description)
-    column = Column((box.left + box.right) // 2, box.top, box.bottom)
-    started, seen, late = switch.press(), None, []
-    while time.monotonic() < started + WATCHED:
-        place, now = column.line(), time.monotonic()
-        if place is not None and place != seen and seen is not None:
-            late.append(now - started - place / SIZE[1] * SCAN_TIME)
-        seen = place
-    check(len(late) > 20 * WATCHED, f"only {len(late)} frames were seen")
-    late.sort()
-    worst = late[len(late) * 99 // 100]
-    check(worst <= MOST_LATE, f"1 frame in 100 is more than {worst * 1000:.0f} ms late")
-    return (f"{len(late)} frames in {WATCHED} s, late by {late[len(late) // 2] * 1000:.1f} ms, "
-            f"1 in 100 by more than {worst * 1000:.1f} ms")
+def most(spans: list[Span], kind: str, share: float) -> float:
+    return sorted(getattr(span, kind) for span in spans)[int((len(spans) - 1) * share)]
+
+
+def figures(late: list[Span], mistaken: list[Span]) -> str:
+    check(len(late) > 300, f"only {len(late)} frames were seen")
+    accounts = []
+    for what, spans, share, limit in (
+        (f"99 of 100 in {len(late)} frames show the line", late, 0.99, FRAME),
+        (f"{len(mistaken)} presses are timed", mistaken, 1, PRESS),
+    ):
+        off = most(spans, "sure", share)
+        check(off <= limit, f"{what} {off * 1000:.1f} ms off")
+        accounts.append(f"{what} within {off * 1000:.1f} to {most(spans, 'possible', share) * 1000:.1f} "
+                        f"ms of the truth ({limit * 1000:.1f} at most)")
+    return "; ".join(accounts)
+
+
+def choose_a_target(tour: Tour, this: Try) -> None:
+    for _ in range(TARGET - 10):
+        tour.screen.click("Target, larger", "push button")
+    tour.screen.find(f"Target: {TARGET} mm", "label")
+    this.view().focus()
+    high = this.column.mark()
+    check(abs(high - TARGET / MILLIMETRES_A_PIXEL) <= 2, f"the mark is {high} pixels high")
 
 
 def do_the_sweeps(tour: Tour) -> None:
     tour.screen.click("Find my speed", "push button")
-    switch = Switch()
-    print(f"Watched: {watch_the_line(tour, switch)}.", flush=True)
-    for number in range(1, SWEEPS):
-        steps = OFFSETS[(number - 2) % len(OFFSETS)]
-        sweep(tour, switch, LATENESS + steps * STEP)
+    announcements = Announcements()
+    this = Try(tour)
+    choose_a_target(tour, this)
+    for number in range(SWEEPS):
+        this.sweep(LATENESS + OFFSETS[(number - 2) % len(OFFSETS)] * STEP)
         if number == 3:
             tour.picture("sweep")
+            check(not this.column.keys_are_free(), "other programs get the keys")
     until(lambda: saying(tour)[0].startswith("You stopped"), "the result is told")
+    until(this.column.keys_are_free, "other programs get keys again")
     tour.picture("result")
+    print(f"Watched: {figures(this.late, this.mistaken)}.", flush=True)
+    heard = announcements.heard()
+    for cue in "Ready", "Go.", "On the mark", saying(tour)[0]:
+        check(any(text.startswith(cue) for text in heard), f"“{cue}” wasn’t announced: {heard}")
 
 
 def check_history(tour: Tour, out: Path) -> str:
@@ -152,6 +153,7 @@ def check_history(tour: Tour, out: Path) -> str:
     lateness, spread = float(found["lateness seconds"]), float(found["spread seconds"])
     check(abs(lateness - LATENESS) < TOLERANCE, f"the lateness is {lateness}")
     check(abs(spread - SPREAD) < TOLERANCE, f"the spread is {spread}")
+    check(float(found["target mm"]) == TARGET, f"the target is {found['target mm']}")
     return f"lateness {lateness * 1000:.0f} ms, spread {spread * 1000:.0f} ms"
 
 
@@ -166,7 +168,19 @@ def take_the_advice(tour: Tour) -> str:
     tour.screen.click("Leave", "push button")
     slider = tour.screen.find("Line scan time", "slider")
     check(slider.value == advised, f"the slider is at {slider.value}")
-    return f"“{text}” {account}"
+    press("key", "ctrl+z")
+    undone = tour.log.expect_change(SCAN_SPEED, "lineScanTime", SCAN_TIME)
+    return f"“{text}” {account}; undone: {undone}"
+
+
+def end_in_a_try(tour: Tour) -> str:
+    """However the program ends, the keys are free again."""
+    column = Column(0, 0, 1)
+    tour.screen.click("Find my speed", "push button")
+    until(lambda: not column.keys_are_free(), "the page has the keys")
+    tour.program.kill()
+    until(column.keys_are_free, "the keys are free")
+    return "when the program was killed"
 
 
 def try_it(tour: Tour, out: Path) -> None:
@@ -174,7 +188,7 @@ def try_it(tour: Tour, out: Path) -> None:
     do_the_sweeps(tour)
     print(f"Measured: {check_history(tour, out)}.", flush=True)
     print(f"Taken: {take_the_advice(tour)}.", flush=True)
-    tour.close()
+    print(f"Given back: the keys, {end_in_a_try(tour)}.", flush=True)
 
 
 def main(arguments: list[str]) -> int:

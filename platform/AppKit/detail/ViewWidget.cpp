@@ -5,6 +5,7 @@
 #include "platform/AppKit/NSView.h"
 #include "platform/AppKit/detail/ViewAccessibility.h"
 #include "platform/HIToolbox/detail/EventMoment.h"
+#include "platform/HIToolbox/detail/KeyMoments.h"
 #include "platform/HIToolbox/detail/ScanCodes.h"
 #include "platform/QuickDraw/detail/GrafPort.h"
 
@@ -62,13 +63,14 @@ NSEvent keyEventOf(const QKeyEvent& event) {
                        .code = virtualKeyCode(event.nativeScanCode()),
                        .modifierFlags = modifierFlagsOf(event),
                        .isARepeat = event.isAutoRepeat()};
-    return NSEvent::key(key, momentOf(event.timestamp()));
+    return NSEvent::key(key, momentOf(event));
 }
 
 } // namespace
 
 ViewWidget::ViewWidget(QWidget* parent) : QWidget(parent) {
     installViewAccessibility();
+    noteKeyMoments();
     setFocusPolicy(Qt::StrongFocus); // or else the form's tab order would leave it out
 }
 

@@ -41,6 +41,10 @@ void HeldKeys::reset() {
 }
 
 bool HeldKeys::isRepeat(const QKeyEvent& press) {
+    // Of a press that assistive technology has looked at there come copies, without a time, and
+    // some without a key.
+    if (press.timestamp() == 0)
+        return press.isAutoRepeat();
     const auto [key, isNew] = since_.try_emplace(press.nativeScanCode(), press.timestamp());
     return press.isAutoRepeat() || (!isNew && key->second != press.timestamp());
 }
