@@ -938,10 +938,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Teil des Bildschirms</translation>
     </message>
     <message>
-        <source>Scans only that part from now on: the whole screen, a half, a third or a quarter.</source>
-        <translation>Scannt von nun an nur diesen Teil: den ganzen Bildschirm, eine Hälfte, ein Drittel oder ein Viertel.</translation>
-    </message>
-    <message>
         <source>Parts of the screen</source>
         <translation>Teile des Bildschirms</translation>
     </message>
@@ -1400,10 +1396,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Choose a large one, or one whose colour you find quickly.</source>
         <translation>Wählen Sie einen großen oder einen, dessen Farbe Sie schnell finden.</translation>
-    </message>
-    <message>
-        <source>The palette’s buttons</source>
-        <translation>Die Knöpfe der Palette</translation>
     </message>
     <message>
         <source>Corners</source>
@@ -1870,6 +1862,78 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Exportieren…</translation>
     </message>
     <message>
+        <source>How the palette looks</source>
+        <translation>Aussehen der Palette</translation>
+    </message>
+    <message>
+        <source>Scans only that part from now on: the whole screen, a half, a third, a quarter or, where the desktop tells it, the window that you used last.</source>
+        <translation>Scannt von nun an nur diesen Teil: den ganzen Bildschirm, eine Hälfte, ein Drittel, ein Viertel oder, wo der Desktop es verrät, das zuletzt benutzte Fenster.</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>further left</source>
+        <translation>weiter links</translation>
+    </message>
+    <message>
+        <source>further right</source>
+        <translation>weiter rechts</translation>
+    </message>
+    <message>
+        <source>Left edge of my own area</source>
+        <translation>Linker Rand meines Bereichs</translation>
+    </message>
+    <message>
+        <source>From the main screen’s left edge.</source>
+        <translation>Vom linken Rand des Hauptbildschirms aus.</translation>
+    </message>
+    <message>
+        <source>Top edge</source>
+        <translation>Oberer Rand</translation>
+    </message>
+    <message>
+        <source>further up</source>
+        <translation>weiter oben</translation>
+    </message>
+    <message>
+        <source>further down</source>
+        <translation>weiter unten</translation>
+    </message>
+    <message>
+        <source>Top edge of my own area</source>
+        <translation>Oberer Rand meines Bereichs</translation>
+    </message>
+    <message>
+        <source>From the main screen’s top edge.</source>
+        <translation>Vom oberen Rand des Hauptbildschirms aus.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Width of my own area</source>
+        <translation>Breite meines Bereichs</translation>
+    </message>
+    <message>
+        <source>A narrow area is scanned sooner.</source>
+        <translation>Ein schmaler Bereich ist schneller gescannt.</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Height of my own area</source>
+        <translation>Höhe meines Bereichs</translation>
+    </message>
+    <message>
+        <source>A low area is scanned sooner.</source>
+        <translation>Ein niedriger Bereich ist schneller gescannt.</translation>
+    </message>
+    <message>
         <source>Show it…</source>
         <translation>Zeigen…</translation>
     </message>
@@ -2115,6 +2179,10 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>%1, display %2</source>
         <translation>%1, Bildschirm %2</translation>
+    </message>
+    <message>
+        <source>The window used last</source>
+        <translation>Das zuletzt benutzte Fenster</translation>
     </message>
 </context>
 <context>

@@ -938,10 +938,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Partie de l’écran</translation>
     </message>
     <message>
-        <source>Scans only that part from now on: the whole screen, a half, a third or a quarter.</source>
-        <translation>Ne balaie plus que cette partie&#xa0;: tout l’écran, une moitié, un tiers ou un quart.</translation>
-    </message>
-    <message>
         <source>Parts of the screen</source>
         <translation>Parties de l’écran</translation>
     </message>
@@ -1400,10 +1396,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>Choose a large one, or one whose colour you find quickly.</source>
         <translation>Choisissez-en un grand, ou d’une couleur que vous trouvez vite.</translation>
-    </message>
-    <message>
-        <source>The palette’s buttons</source>
-        <translation>Les boutons de la palette</translation>
     </message>
     <message>
         <source>Corners</source>
@@ -1870,8 +1862,80 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Exporter…</translation>
     </message>
     <message>
+        <source>How the palette looks</source>
+        <translation>Aspect de la palette</translation>
+    </message>
+    <message>
+        <source>Scans only that part from now on: the whole screen, a half, a third, a quarter or, where the desktop tells it, the window that you used last.</source>
+        <translation>Ne balaie plus que cette partie&#xa0;: tout l’écran, une moitié, un tiers, un quart ou, si le bureau le dit, la dernière fenêtre utilisée.</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Bord gauche</translation>
+    </message>
+    <message>
+        <source>further left</source>
+        <translation>plus à gauche</translation>
+    </message>
+    <message>
+        <source>further right</source>
+        <translation>plus à droite</translation>
+    </message>
+    <message>
+        <source>Left edge of my own area</source>
+        <translation>Bord gauche de ma zone</translation>
+    </message>
+    <message>
+        <source>From the main screen’s left edge.</source>
+        <translation>À partir du bord gauche de l’écran principal.</translation>
+    </message>
+    <message>
+        <source>Top edge</source>
+        <translation>Bord haut</translation>
+    </message>
+    <message>
+        <source>further up</source>
+        <translation>plus haut</translation>
+    </message>
+    <message>
+        <source>further down</source>
+        <translation>plus bas</translation>
+    </message>
+    <message>
+        <source>Top edge of my own area</source>
+        <translation>Bord haut de ma zone</translation>
+    </message>
+    <message>
+        <source>From the main screen’s top edge.</source>
+        <translation>À partir du bord haut de l’écran principal.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Width of my own area</source>
+        <translation>Largeur de ma zone</translation>
+    </message>
+    <message>
+        <source>A narrow area is scanned sooner.</source>
+        <translation>Une zone étroite est balayée plus vite.</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>Height of my own area</source>
+        <translation>Hauteur de ma zone</translation>
+    </message>
+    <message>
+        <source>A low area is scanned sooner.</source>
+        <translation>Une zone basse est balayée plus vite.</translation>
+    </message>
+    <message>
         <source>Show it…</source>
-        <translation>La montrer…</translation>
+        <translation>Afficher…</translation>
     </message>
 </context>
 <context>
@@ -2115,6 +2179,10 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>%1, display %2</source>
         <translation>%1, écran %2</translation>
+    </message>
+    <message>
+        <source>The window used last</source>
+        <translation>La dernière fenêtre utilisée</translation>
     </message>
 </context>
 <context>

@@ -50,6 +50,12 @@ void BumperController::update() {
     controls().update(*this, label_->stringValue());
 }
 
+void BumperController::changed() {
+    if (display_.apply)
+        display_.apply();
+    NumberController::changed();
+}
+
 void BumperController::decValue(NSButton*) {
     dec();
 }

@@ -9,11 +9,13 @@
 class NSButton;
 class NSTextField;
 
-/// What a bumper shows when that isn't the number it is bound to.
+/// What a bumper does with its number besides what it is bound to, or in its place; each function
+/// may be empty.
 struct BumperDisplay {
     std::function<std::string()> text;      ///< the value in words
     std::function<bool(double typed)> take; ///< sets it; false when it can't be that number
     double least = 0, most = 0;             ///< what can be typed
+    std::function<void()> apply = {};       ///< of a change, before anybody hears of it
 };
 
 /// A number shown as buttons for a step and for many, and a label with its value, in which another
@@ -27,6 +29,7 @@ public:
                               ChangeMask changes) override;
     NSView* view() const override;
     void update() override;
+    void changed() override;
 
     /// How the label writes the number; see SettingLimits.
     void setFormat(const char* format) { format_ = format; }

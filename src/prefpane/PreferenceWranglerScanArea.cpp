@@ -37,7 +37,7 @@ void PreferenceWrangler::updateScanAreaText() {
 void PreferenceWrangler::showScanArea() {
     updateScanAreaText();
     updateScanAreaRadios();
-    scanAreas_.scanAreaGrid->reload();
+    scanAreas_.update();
 }
 
 void PreferenceWrangler::setCustomScanArea(NSButton*) {

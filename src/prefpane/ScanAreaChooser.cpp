@@ -5,7 +5,8 @@
 #include "platform/AppKit/NSGraphics.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreGraphics/CGDirectDisplay.h"
-#include "src/prefpane/NumberController.h"
+#include "platform/CoreGraphics/LastUsedWindow.h"
+#include "src/prefpane/BumperController.h"
 
 #include <cmath>
 #include <iterator>
@@ -39,11 +40,49 @@ constexpr Part kParts[] = {
 
 constexpr int kPartCount = std::size(kParts);
 
+constexpr int kStep = 10; ///< of a number, in points
+
+/// The sides of an area as numbers, in the order in which they are kept.
+constexpr struct {
+    BumperController* ScanAreaChooser::*bumper;
+    float ScanArea::*field;
+    CGFloat CGPoint::*start; ///< of the screens, where the number is a place; null for a length
+    CGFloat CGSize::*length; ///< the most
+} kSides[] = {
+    {&ScanAreaChooser::scanAreaLeft, &ScanArea::x, &CGPoint::x, &CGSize::width},
+    {&ScanAreaChooser::scanAreaTop, &ScanArea::y, &CGPoint::y, &CGSize::height},
+    {&ScanAreaChooser::scanAreaWidth, &ScanArea::width, nullptr, &CGSize::width},
+    {&ScanAreaChooser::scanAreaHeight, &ScanArea::height, nullptr, &CGSize::height},
+};
+
+SInt32 shown(float side) {
+    return static_cast<SInt32>(std::lround(side));
+}
+
 CGFloat edge(CGFloat start, CGFloat length, int sixths) {
     return start + std::round(length * static_cast<CGFloat>(sixths) / 6);
 }
 
+NSRect pictureIn(const Rect& bounds) {
+    return {static_cast<float>(bounds.left + bounds.right) / 2 - kPictureWidth / 2,
+            static_cast<float>(bounds.top + bounds.bottom) / 2 - kPictureHeight / 2, kPictureWidth,
+            kPictureHeight};
+}
+
 } // namespace
+
+ScanAreaChooser::~ScanAreaChooser() {
+    watchLastUsedWindow({});
+}
+
+void ScanAreaChooser::setup() {
+    scanAreaGrid->setSource(this);
+    watchLastUsedWindow([this] { reloadGrid(); });
+    for (const auto& side : kSides)
+        (this->*side.bumper)->setDisplay({.text = {}, .take = {}, .apply = [this] {
+                                              takeNumbers();
+                                          }});
+}
 
 void ScanAreaChooser::load() {
     CGDirectDisplayID ids[kMaxDisplays];
@@ -52,10 +91,48 @@ void ScanAreaChooser::load() {
     if (CGGetActiveDisplayList(kMaxDisplays, ids, &count) == kCGErrorSuccess)
         for (UInt32 i = 0; i < count; ++i)
             displays_.push_back(CGDisplayBounds(ids[i]));
+    CGRect screens;
+    for (const CGRect& display : displays_)
+        screens = CGRectUnion(screens, display);
+    for (std::size_t i = 0; i < std::size(kSides); ++i) {
+        const auto& [bumper, field, start, length] = kSides[i];
+        const double least = start ? double{screens.origin.*start} : 0.0;
+        (this->*bumper)
+            ->setKind(kNumberKindSInt32, &numbers_[i], least, least + double{screens.size.*length},
+                      kStep, kChangeScanArea)
+            ->setFormat(LOCALIZABLE("Formats", "%.0f points"));
+    }
+    update();
+}
+
+void ScanAreaChooser::update() {
+    for (std::size_t i = 0; i < std::size(kSides); ++i) {
+        numbers_[i] = shown(prefs.scanArea.*kSides[i].field);
+        (this->*kSides[i].bumper)->update();
+    }
+    reloadGrid();
+}
+
+void ScanAreaChooser::reloadGrid() {
+    lastWindow_ = lastUsedWindow();
     scanAreaGrid->reload();
 }
 
+/// A side that was drawn may lie between two points: only one that was changed is taken.
+void ScanAreaChooser::takeNumbers() {
+    for (std::size_t i = 0; i < std::size(kSides); ++i)
+        if (float& side = prefs.scanArea.*kSides[i].field; shown(side) != numbers_[i])
+            side = static_cast<float>(numbers_[i]);
+    prefs.useScanArea = prefs.scanArea.width > 0 && prefs.scanArea.height > 0;
+}
+
+int ScanAreaChooser::partCount() const {
+    return static_cast<int>(displays_.size()) * kPartCount;
+}
+
 CGRect ScanAreaChooser::areaOf(int index) const {
+    if (index >= partCount())
+        return *lastWindow_;
     const auto& [origin, size] = displays_[static_cast<std::size_t>(index / kPartCount)];
     const Part& part = kParts[index % kPartCount];
     const CGFloat left = edge(origin.x, size.width, part.left);
@@ -65,10 +142,12 @@ CGRect ScanAreaChooser::areaOf(int index) const {
 }
 
 int ScanAreaChooser::choiceCount() const {
-    return static_cast<int>(displays_.size()) * kPartCount;
+    return partCount() + (lastWindow_ ? 1 : 0);
 }
 
 std::string ScanAreaChooser::choiceName(int index) const {
+    if (index >= partCount())
+        return localized("ScanArea", "The window used last");
     const std::string part = localized("ScanArea", kParts[index % kPartCount].name);
     return displays_.size() < 2 ? part
                                 : filled(localized("ScanArea", "%1, display %2"),
@@ -83,10 +162,10 @@ bool ScanAreaChooser::isChosen(int index) const {
 }
 
 void ScanAreaChooser::drawChoice(int index, const Rect& bounds) const {
+    if (index >= partCount())
+        return drawWindow(bounds);
     const Part& part = kParts[index % kPartCount];
-    const NSRect screen = {static_cast<float>(bounds.left + bounds.right) / 2 - kPictureWidth / 2,
-                           static_cast<float>(bounds.top + bounds.bottom) / 2 - kPictureHeight / 2,
-                           kPictureWidth, kPictureHeight};
+    const NSRect screen = pictureIn(bounds);
     constexpr float kUnitX = (kPictureWidth - 2) / 6, kUnitY = (kPictureHeight - 2) / 6;
     NSEraseRect(screen);
     NSColor::keyboardFocusIndicatorColor().set();
@@ -97,7 +176,20 @@ void ScanAreaChooser::drawChoice(int index, const Rect& bounds) const {
     NSFrameRectWithWidth(screen, 1);
 }
 
+/// With a bar for its title.
+void ScanAreaChooser::drawWindow(const Rect& bounds) const {
+    constexpr float kBar = 6;
+    const NSRect window = NSInsetRect(pictureIn(bounds), 3, 0);
+    NSColor::keyboardFocusIndicatorColor().set();
+    NSRectFill(window);
+    NSEraseRect({window.x + 2, window.y + kBar, window.width - 4, window.height - kBar - 2});
+    NSColor::blackColor().set();
+    NSFrameRectWithWidth(window, 1);
+}
+
 void ScanAreaChooser::choose(int index) {
+    if (index >= partCount() && !(lastWindow_ = lastUsedWindow()))
+        return; // it has gone since
     const auto [origin, size] = areaOf(index);
     prefs.scanArea = {origin.x, origin.y, size.width, size.height};
     prefs.useScanArea = 1;

@@ -24,7 +24,7 @@ WANTED = {
     "scanner.lineScanTime": "12.5",
     "scanner.menuScanSpeedScaleFactor": "70",
     "scanner.useScanAcceleration": "off",
-    "scanner.scanArea": "origin(0.000000,0.000000); size(500.000000,900.000000)",
+    "scanner.scanArea": "origin(0.000000,50.000000); size(500.000000,900.000000)",
     "scanner.useScanArea": "1",
     "scanner.scanMode": "2",
     "scanner.afterClickDelay": "1",
@@ -50,6 +50,7 @@ STEPS = {
         ("text", "Speed in menus", "70", "faster"),
         ("check box", "Start slowly, then speed up"),
         ("list item", "Left third"),
+        ("text", "Top edge of my own area", "50", "further down"),
     ),
     "Presses": (
         ("radio button", "Each press moves one step"),
@@ -63,10 +64,12 @@ STEPS = {
         ("list item", "Blue"),
         ("text", "Line thickness", "9", "thicker"),
         ("list item", "Ring"),
+    ),
+    "Palette": (
+        ("push button", "Add a button", "Undo"),
         ("radio button", "Rounded"),
         ("text", "Palette buttons", "43", "larger"),
     ),
-    "Palette": (("push button", "Add a button", "Undo"),),
     "General": (
         ("check box", "Prompts while dragging"),
         ("text", "Volume", "45", "quieter"),
@@ -117,7 +120,7 @@ class Clicks(Road):
 
 class Actions(Road):
     def use(self, control: Control) -> None:
-        check(Atspi.Action.do_action(control._node, 0), f"“{control.name}” has no action")
+        control.act()
 
     def set(self, field: Control, value: str, way: str) -> None:
         sliders = [each for each in self.screen.shown() if each.role == "slider"]

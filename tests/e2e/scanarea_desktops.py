@@ -60,6 +60,22 @@ def set_up(setup: Setup, desktop: Desktop) -> None:
         until(lambda: ask("xdotool", "search", "--class", "^picom$"), "picom runs")
 
 
+def take_the_window_used_last(tour: Tour, setup: Setup) -> None:
+    mine = tour.screen.active_window()
+    other = tour.desktop.start("xev", "-geometry", "300x200+60+40", "-event", "keyboard")
+    choice = tour.screen.find("The window used last", "list item")
+    told = ask("xprop", "-id", tour.screen.active_window(), "_NET_FRAME_EXTENTS")
+    left, right, top, bottom = map(int, told.split("=")[1].split(","))
+    press("windowactivate", "--sync", mine)
+    choice.act()
+    scale = 1400 / setup.area.width  # pixels a point
+    points = setup.area.x + (60 - 100) / scale, setup.area.y + (40 - 100) / scale
+    expect_area(tour, Area(*points, (300 + left + right) / scale, (200 + top + bottom) / scale))
+    other.terminate()
+    press("key", "ctrl+z")
+    expect_area(tour, Area(0, 0, 0, 0))
+
+
 def draw_everywhere(tour: Tour, setup: Setup) -> None:
     overlay = Overlay(tour, setup.prompt)
     corners = [(2, 2), (SIZE[0] - 3, 2), (2, SIZE[1] - 3), (SIZE[0] - 3, SIZE[1] - 3)]
@@ -122,7 +138,7 @@ def end_the_program(tour: Tour, setup: Setup) -> None:
     check(f"origin({setup.area.x:f}," in tour.stored.read_text(), "the area is not stored")
 
 
-PARTS = draw_everywhere, keep_to_the_overlay, take_a_display_away, end_the_program
+PARTS = take_the_window_used_last, draw_everywhere, keep_to_the_overlay, take_a_display_away, end_the_program
 
 
 def try_setup(setup: Setup, build: Path, out: Path) -> bool:

@@ -94,6 +94,10 @@ class Control:
         check(Atspi.Component.grab_focus(self._node), f"“{self.name}” takes no focus")
         until(lambda: self.has(Atspi.StateType.FOCUSED), f"“{self.name}” has the keyboard")
 
+    def act(self) -> None:
+        """Does its first action, as assistive technology does."""
+        check(Atspi.Action.do_action(self._node, 0), f"“{self.name}” has no action")
+
     def shown(self) -> Iterator["Control"]:
         """Itself and all beneath it that isn't on a hidden page."""
         if not self.has(Atspi.StateType.SHOWING):

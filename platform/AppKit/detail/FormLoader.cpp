@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/FormLoader.h"
 
+#include "platform/AppKit/detail/CardColumns.h"
 #include "platform/AppKit/detail/ColorWellButton.h"
 #include "platform/AppKit/detail/HeaderBar.h"
 #include "platform/AppKit/detail/NumberRow.h"
@@ -38,6 +39,7 @@ const struct {
     {"SwitchCell", make<SwitchCell>},
     {"WrapRow", make<WrapRow>},
     {"HeaderBar", make<HeaderBar>},
+    {"CardColumns", make<CardColumns>},
     {"PageArea", make<PageArea>},
     {"SectionFrame", make<SectionFrame>},
 };

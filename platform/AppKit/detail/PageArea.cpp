@@ -5,8 +5,6 @@
 #include <QLayout>
 #include <QScrollBar>
 
-#include <algorithm>
-
 namespace {
 
 constexpr int kAround = 30; // points that stay in sight above and below
@@ -24,15 +22,6 @@ PageArea::PageArea(QWidget* parent) : QScrollArea(parent) {
         if (now && isAncestorOf(now) && QGuiApplication::mouseButtons() == Qt::NoButton)
             ensureWidgetVisible(now, 0, kAround);
     });
-}
-
-QSize PageArea::sizeHint() const {
-    if (!widget())
-        return QScrollArea::sizeHint();
-    const int width = std::min(widget()->maximumWidth(), widget()->sizeHint().width());
-    const int height = widget()->hasHeightForWidth() ? widget()->heightForWidth(width)
-                                                     : widget()->sizeHint().height();
-    return {width, height};
 }
 
 QSize PageArea::minimumSizeHint() const {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/SectionFrame.h"
 
+#include "platform/AppKit/detail/CardColumns.h"
 #include "platform/AppKit/detail/PaneColors.h"
 #include "platform/AppKit/detail/RowText.h"
 #include "platform/AppKit/detail/SectionBar.h"
@@ -10,6 +11,8 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QVariant>
@@ -25,6 +28,8 @@ constexpr QMargins kNarrowHeader(10, 8, 10, 8);
 constexpr int kNarrow = 68; // in heights of a line: in a window below that width,
 constexpr int kLow = 28;    // or height, there is a button instead of the list
 constexpr int kMostNumbered = 9;
+constexpr int kFrame = 48;  // points, at most, of the window
+constexpr int kHeader = 70; // above this frame
 
 } // namespace
 
@@ -34,18 +39,50 @@ void SectionFrame::build() {
     bar_->setObjectName(objectName() + QStringLiteral("Bar"));
     bar_->setAccessibleName(accessibleName());
     bar_->setAccessibleDescription(accessibleDescription());
-    pages_->raise(); // after the list, for the reading order
     auto* list = new QVBoxLayout;
     list->setContentsMargins(kListMargin, kListMargin, kListMargin, kListMargin);
     list->addWidget(bar_);
     list->addStretch();
     auto* columns = qobject_cast<QBoxLayout*>(layout());
-    columns->insertLayout(0, list);
-    columns->setStretchFactor(pages_, 1);
+    auto* beside = new QVBoxLayout;
+    while (QLayoutItem* part = columns->takeAt(0)) {
+        part->widget()->raise(); // after the list, for the reading order
+        if (part->widget() != pages_)
+            aboves_ << part->widget();
+        beside->addItem(part);
+    }
+    beside->setStretchFactor(pages_, 1);
+    columns->addLayout(list);
+    columns->addLayout(beside, 1);
     button_ = window()->findChild<QPushButton*>(property("menuButton").toString());
     addSections();
     addShortcuts();
     showCurrent();
+}
+
+/// Of the largest page in so many columns, with what stands above it.
+QSize SectionFrame::sizeIn(int columns) const {
+    QSize size;
+    for (int index = 0; index < pages_->count(); ++index) {
+        const auto* page = qobject_cast<const QScrollArea*>(pages_->widget(index));
+        const auto* cards = page ? dynamic_cast<const CardColumns*>(page->widget()) : nullptr;
+        if (!cards)
+            continue;
+        QSize needed = cards->sizeIn(columns);
+        for (const QWidget* above : aboves_)
+            if (above->objectName() == page->property("above"))
+                needed.rheight() += above->minimumSizeHint().height();
+        size = size.expandedTo(needed);
+    }
+    return size + QSize(bar_->sizeHint().width() + 2 * kListMargin, 0);
+}
+
+QSize SectionFrame::sizeHint() const {
+    if (!bar_)
+        return QWidget::sizeHint();
+    const QSize room = screen()->availableSize() - QSize(kFrame, kFrame + kHeader);
+    const QSize one = sizeIn(1), two = sizeIn(2);
+    return one.height() > room.height() && two.width() <= room.width() ? two : one;
 }
 
 void SectionFrame::addSections() {
@@ -86,7 +123,7 @@ void SectionFrame::addShortcuts() {
 /// Goes to a section, and takes the keyboard along when it was in the one that is left.
 void SectionFrame::choose(int section) {
     const QWidget* focus = window()->focusWidget();
-    const bool wasInside = !focus || pages_->isAncestorOf(focus);
+    const bool wasInside = !focus || (focus != bar_ && isAncestorOf(focus));
     pages_->setCurrentIndex(section);
     if (wasInside)
         enterPage();
@@ -105,6 +142,8 @@ void SectionFrame::enterPage() {
 void SectionFrame::showCurrent() {
     const int current = pages_->currentIndex();
     bar_->setCurrentIndex(current);
+    for (QWidget* above : aboves_)
+        above->setVisible(above->objectName() == pages_->currentWidget()->property("above"));
     for (int index = 0; index < menu_->actions().size(); ++index)
         menu_->actions().at(index)->setChecked(index == current);
     if (!button_)
@@ -138,7 +177,7 @@ void SectionFrame::setNarrow(bool narrow) {
         fitHeader();
     const int aside = narrow ? kNarrowPageSide : kPageSide;
     const int above = narrow ? kNarrowPageSide : kPageAbove;
-    for (auto* part : pages_->findChildren<QWidget*>())
+    for (auto* part : findChildren<QWidget*>())
         if (part->property("pagePart").toBool())
             part->layout()->setContentsMargins(aside, above, aside, above);
     update();

@@ -12,10 +12,12 @@ class SectionBar;
 
 /// The window's sections: a list of them beside a stack, which the form lays out in it, of pages.
 /// A page's window title, with a letter marked by “&”, is its section's, its property `icon` names
-/// the section's icon; the parts of pages with the property `pagePart` get their margins here. In a
-/// narrow or low window the list gives way to one button with a menu; it stands where the form has
-/// put the button that the property `menuButton` names. Widgets of the window whose property
-/// `wideOnly` is true vanish with the list. In a low window the rows go without their explanations.
+/// the section's icon; the parts of pages with the property `pagePart` get their margins here. What
+/// the form lays out beside the stack stands above it while the page that is shown names it in its
+/// property `above`. In a narrow or low window the list gives way to one button with a menu; it
+/// stands where the form has put the button that the property `menuButton` names. Widgets of the
+/// window whose property `wideOnly` is true vanish with the list. In a low window the rows go
+/// without their explanations.
 ///
 /// Beside that button, buttons with the property `shortText` wear it then instead of their text.
 ///
@@ -28,6 +30,9 @@ public:
 
     void build() override;
 
+    /// Room for the whole of every section; in two columns if that spares scrolling on this screen.
+    QSize sizeHint() const override;
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -35,6 +40,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QSize sizeIn(int columns) const;
     void addSections();
     void addShortcuts();
     void choose(int section);
@@ -46,6 +52,7 @@ private:
     void setLow(bool low);
 
     QStackedWidget* pages_ = nullptr;
+    QList<QWidget*> aboves_; ///< what stands above some of the pages
     SectionBar* bar_ = nullptr;
     QPushButton* button_ = nullptr; ///< the form's; null when it has none
     QMenu* menu_ = nullptr;
