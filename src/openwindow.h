@@ -11,8 +11,9 @@
 // record ('----', type 'KrPf') and which settings of it are meant ('Sets', type 'comp': 64 bits,
 // one a row of kSettings).
 
-/// Sends a change to the open window and waits for it to be taken, for five seconds at most. None
-/// when no window is open; else why it wasn't taken, in words, or an empty text when it was.
+/// Sends a change to the open window, which also looks at the profiles again, and waits for it to
+/// be taken, for five seconds at most. None when no window is open; else why it wasn't taken, in
+/// words, or an empty text when it was.
 std::optional<std::string> sendToWindow(const SettingSet& settings, const PrefsRecord& record);
 
 /// The window's side, from set-up to clean-up: `take` is called for every change that comes.

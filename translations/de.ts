@@ -254,8 +254,20 @@
         <translation>BEFEHLE</translation>
     </message>
     <message>
-        <source>None needs a display. A change goes through the open window if there is one; else it is stored, and sent to the running agent.</source>
-        <translation>Keiner braucht einen Bildschirm. Eine Änderung geht durch das offene Fenster, wenn es eines gibt; sonst wird sie gespeichert und dem laufenden Agenten gesendet.</translation>
+        <source>Opens the window at that section, or brings it to the front there.</source>
+        <translation>Öffnet das Fenster in diesem Bereich oder holt es dort nach vorn.</translation>
+    </message>
+    <message>
+        <source>there is no section &quot;%1&quot;, but %2</source>
+        <translation>es gibt keinen Bereich „%1“, aber %2</translation>
+    </message>
+    <message>
+        <source>SECTION</source>
+        <translation>BEREICH</translation>
+    </message>
+    <message>
+        <source>None but show needs a display. A change goes through the open window if there is one; else it is stored, and sent to the running agent.</source>
+        <translation>Keiner außer show braucht einen Bildschirm. Eine Änderung geht durch das offene Fenster, wenn es eines gibt; sonst wird sie gespeichert und dem laufenden Agenten gesendet.</translation>
     </message>
     <message>
         <source>SETTINGS</source>

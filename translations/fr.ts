@@ -254,8 +254,20 @@
         <translation>COMMANDES</translation>
     </message>
     <message>
-        <source>None needs a display. A change goes through the open window if there is one; else it is stored, and sent to the running agent.</source>
-        <translation>Aucune n’a besoin d’un écran. Un changement passe par la fenêtre ouverte s’il y en a une&#xa0;; sinon il est enregistré, et envoyé à l’agent en marche.</translation>
+        <source>Opens the window at that section, or brings it to the front there.</source>
+        <translation>Ouvre la fenêtre à cette section, ou l’y amène au premier plan.</translation>
+    </message>
+    <message>
+        <source>there is no section &quot;%1&quot;, but %2</source>
+        <translation>il n’y a pas de section «&#xa0;%1&#xa0;», mais %2</translation>
+    </message>
+    <message>
+        <source>SECTION</source>
+        <translation>SECTION</translation>
+    </message>
+    <message>
+        <source>None but show needs a display. A change goes through the open window if there is one; else it is stored, and sent to the running agent.</source>
+        <translation>Aucune sauf show n’a besoin d’un écran. Un changement passe par la fenêtre ouverte s’il y en a une&#xa0;; sinon il est enregistré et envoyé à l’agent en marche.</translation>
     </message>
     <message>
         <source>SETTINGS</source>
@@ -1723,7 +1735,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>The arrow keys go from one to the next; Space chooses it and says what it would change.</source>
-        <translation>Les flèches vont de l’un à l’autre ; Espace choisit le profil et dit ce qu’il changerait.</translation>
+        <translation>Les flèches vont de l’un à l’autre&#xa0;; Espace choisit le profil et dit ce qu’il changerait.</translation>
     </message>
     <message>
         <source>Use the chosen profile</source>
@@ -1731,7 +1743,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Changes all these settings at once. Undo takes it back.</source>
-        <translation>Change tous ces réglages d’un coup. « Annuler » revient en arrière.</translation>
+        <translation>Change tous ces réglages d’un coup. «&#xa0;Annuler&#xa0;» revient en arrière.</translation>
     </message>
     <message>
         <source>Use it</source>
@@ -1972,19 +1984,19 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <name>Profiles</name>
     <message>
         <source>Left out: %1: %2.</source>
-        <translation>Laissé de côté : %1 : %2.</translation>
+        <translation>Laissé de côté&#xa0;: %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>“%1” can’t be used: %2.</source>
-        <translation>« %1 » ne peut pas être utilisé : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être utilisé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Nothing in “%1” differs from the settings.</source>
-        <translation>Rien dans « %1 » ne diffère des réglages.</translation>
+        <translation>Rien dans «&#xa0;%1&#xa0;» ne diffère des réglages.</translation>
     </message>
     <message>
         <source>“%1” would change: %2. Use its settings?</source>
-        <translation>« %1 » changerait : %2. Utiliser ses réglages ?</translation>
+        <translation>«&#xa0;%1&#xa0;» changerait&#xa0;: %2. Utiliser ses réglages&#xa0;?</translation>
     </message>
     <message>
         <source>Use them</source>
@@ -2004,7 +2016,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>“%1” couldn’t be saved: %2.</source>
-        <translation>« %1 » n’a pas pu être enregistré : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas pu être enregistré&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The settings are now in %1.</source>
@@ -2020,27 +2032,27 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Profile: %1, changed</source>
-        <translation>Profil : %1, modifié</translation>
+        <translation>Profil&#xa0;: %1, modifié</translation>
     </message>
     <message>
         <source>Profile: %1</source>
-        <translation>Profil : %1</translation>
+        <translation>Profil&#xa0;: %1</translation>
     </message>
     <message>
         <source>Use “%1”</source>
-        <translation>Utiliser « %1 »</translation>
+        <translation>Utiliser «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Back to “%1”</source>
-        <translation>Revenir à « %1 »</translation>
+        <translation>Revenir à «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>“%1” is in use</source>
-        <translation>« %1 » est utilisé</translation>
+        <translation>«&#xa0;%1&#xa0;» est utilisé</translation>
     </message>
     <message>
         <source>Save the changes in “%1”</source>
-        <translation>Enregistrer les changements dans « %1 »</translation>
+        <translation>Enregistrer les changements dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Save a profile…</source>
@@ -2064,39 +2076,39 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>The settings are those of “%1”.</source>
-        <translation>Les réglages sont ceux de « %1 ».</translation>
+        <translation>Les réglages sont ceux de «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>“%1” would change:</source>
-        <translation>« %1 » changerait :</translation>
+        <translation>«&#xa0;%1&#xa0;» changerait&#xa0;:</translation>
     </message>
     <message>
         <source>“%1” is in use.</source>
-        <translation>« %1 » est utilisé.</translation>
+        <translation>«&#xa0;%1&#xa0;» est utilisé.</translation>
     </message>
     <message>
         <source>The settings are saved as “%1”.</source>
-        <translation>Les réglages sont enregistrés sous « %1 ».</translation>
+        <translation>Les réglages sont enregistrés sous «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>“%1” is as it was.</source>
-        <translation>« %1 » est comme avant.</translation>
+        <translation>«&#xa0;%1&#xa0;» est comme avant.</translation>
     </message>
     <message>
         <source>“%1” couldn’t be renamed: %2.</source>
-        <translation>« %1 » n’a pas pu être renommé : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas pu être renommé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>“%1” is now called “%2”.</source>
-        <translation>« %1 » s’appelle maintenant « %2 ».</translation>
+        <translation>«&#xa0;%1&#xa0;» s’appelle maintenant «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>“%1” couldn’t be deleted: %2.</source>
-        <translation>« %1 » n’a pas pu être supprimé : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas pu être supprimé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>“%1” is deleted. The settings stay as they are.</source>
-        <translation>« %1 » est supprimé. Les réglages restent tels qu’ils sont.</translation>
+        <translation>«&#xa0;%1&#xa0;» est supprimé. Les réglages restent tels qu’ils sont.</translation>
     </message>
     <message>
         <source>And %1 more.</source>

@@ -4,6 +4,7 @@
 #include "platform/CoreFoundation/Localization.h"
 #include "src/commands/json.h"
 #include "src/commands/store.h"
+#include "src/openwindow.h"
 #include "src/profiles.h"
 #include "src/settingwords.h"
 
@@ -54,24 +55,48 @@ int listProfiles(const CommandLine& line) {
     return kCommandDone;
 }
 
-int useProfile(const std::string& name) {
+/// The open window has another look at the profiles when the change comes, so that it needs to
+/// know by then.
+int useProfile(const CommandLine& line) {
+    const std::string& name = line.operands[1];
     const PrefsRecord now = currentSettings();
     const SettingsOffer offer = readProfile(name, now);
     if (!offer.error.empty())
         return commandFailed(offer.error);
     printOffer(offer, now);
+    const std::string former = currentProfile();
+    setCurrentProfile(name);
     const int result = take(offer);
-    if (result == kCommandDone)
-        setCurrentProfile(name);
+    if (result != kCommandDone)
+        setCurrentProfile(former);
     return result;
 }
 
-int saveCurrent(const std::string& name) {
-    const std::string fault = saveProfile(name, currentSettings());
+/// For a change of profiles that changes no setting.
+int doneWithProfiles(const std::string& fault) {
     if (fault.empty())
-        setCurrentProfile(name);
+        sendToWindow({}, currentSettings());
     return done(fault);
 }
+
+int saveCurrent(const CommandLine& line) {
+    const std::string fault = saveProfile(line.operands[1], currentSettings());
+    if (fault.empty())
+        setCurrentProfile(line.operands[1]);
+    return doneWithProfiles(fault);
+}
+
+constexpr ProfileVerb kVerbs[] = {
+    {"list", 0, listProfiles},
+    {"use", 1, useProfile},
+    {"save", 1, saveCurrent},
+    {"rename", 2,
+     [](const CommandLine& line) {
+         return doneWithProfiles(renameProfile(line.operands[1], line.operands[2]));
+     }},
+    {"delete", 1,
+     [](const CommandLine& line) { return doneWithProfiles(deleteProfile(line.operands[1])); }},
+};
 
 } // namespace
 
@@ -98,19 +123,14 @@ int runImport(const CommandLine& line) {
     return kCommandDone;
 }
 
+std::span<const ProfileVerb> profileVerbs() {
+    return kVerbs;
+}
+
 int runProfile(const CommandLine& line) {
-    const std::string& verb = line.operands[0];
-    const std::size_t count = line.operands.size();
-    if (verb == "list" && count == 1)
-        return listProfiles(line);
-    if (verb == "use" && count == 2)
-        return useProfile(line.operands[1]);
-    if (verb == "save" && count == 2)
-        return saveCurrent(line.operands[1]);
-    if (verb == "rename" && count == 3)
-        return done(renameProfile(line.operands[1], line.operands[2]));
-    if (verb == "delete" && count == 2)
-        return done(deleteProfile(line.operands[1]));
+    for (const ProfileVerb& verb : kVerbs)
+        if (line.operands[0] == verb.name && line.operands.size() == verb.names + 1)
+            return verb.run(line);
     commandFailed(localized("Commands", "profile list, use NAME, save NAME, rename NAME NEW or "
                                         "delete NAME"));
     return kCommandMisused;

@@ -32,21 +32,20 @@ std::string describe(const Setting& setting) {
     return range.empty() ? name : name + " (" + range + ")";
 }
 
-std::string words(std::string_view separator) {
-    std::string text;
-    for (const Setting& setting : kSettings)
-        text += std::string(setting.key) + std::string(separator);
-    return text;
+std::string spaced(const std::string& text, const std::string& word) {
+    return text + (text.empty() ? "" : " ") + word;
 }
 
 } // namespace
 
 int runManual(const CommandLine&) {
     printHeading(localized("Commands", "COMMANDS", "a heading of the manual page"));
-    std::puts(roff(localized("Commands",
-                             "None needs a display. A change goes through the open window if there "
-                             "is one; else it is stored, and sent to the running agent."))
-                  .c_str());
+    std::puts(
+        roff(localized(
+                 "Commands",
+                 "None but show needs a display. A change goes through the open window if there "
+                 "is one; else it is stored, and sent to the running agent."))
+            .c_str());
     for (const Command& command : commands())
         printItem(std::string(command.name) + " " + operandsOf(command),
                   localized("Commands", command.does));
@@ -59,20 +58,26 @@ int runManual(const CommandLine&) {
 }
 
 int runCompletion(const CommandLine&) {
-    std::string names = "help";
+    std::string names = "help", keys, verbs, sections;
     for (const Command& command : commands())
-        names += std::string(" ") + command.name;
-    std::printf(
-        "_korvex_preferences() {\n"
-        "    local word=${COMP_WORDS[COMP_CWORD]}\n"
-        "    case ${COMP_WORDS[1]} in\n"
-        "    get | set | reset) COMPREPLY=($(compgen -W '%s' -- \"$word\")) ;;\n"
-        "    profile) COMPREPLY=($(compgen -W 'list use save rename delete' -- \"$word\")) ;;\n"
-        "    export | import) COMPREPLY=($(compgen -f -- \"$word\")) ;;\n"
-        "    esac\n"
-        "    [ \"$COMP_CWORD\" -ne 1 ] || COMPREPLY=($(compgen -W '%s' -- \"$word\"))\n"
-        "}\n"
-        "complete -F _korvex_preferences korvex-preferences\n",
-        words(" ").c_str(), names.c_str());
+        names = spaced(names, command.name);
+    for (const Setting& setting : kSettings)
+        keys = spaced(keys, setting.key);
+    for (const ProfileVerb& verb : profileVerbs())
+        verbs = spaced(verbs, verb.name);
+    for (const std::string& section : sectionNames())
+        sections = spaced(sections, section);
+    std::printf("_korvex_preferences() {\n"
+                "    local word=${COMP_WORDS[COMP_CWORD]}\n"
+                "    case ${COMP_WORDS[1]} in\n"
+                "    get | set | reset) COMPREPLY=($(compgen -W '%s' -- \"$word\")) ;;\n"
+                "    profile) COMPREPLY=($(compgen -W '%s' -- \"$word\")) ;;\n"
+                "    show) COMPREPLY=($(compgen -W '%s' -- \"$word\")) ;;\n"
+                "    export | import) COMPREPLY=($(compgen -f -- \"$word\")) ;;\n"
+                "    esac\n"
+                "    [ \"$COMP_CWORD\" -ne 1 ] || COMPREPLY=($(compgen -W '%s' -- \"$word\"))\n"
+                "}\n"
+                "complete -F _korvex_preferences korvex-preferences\n",
+                keys.c_str(), verbs.c_str(), sections.c_str(), names.c_str());
     return kCommandDone;
 }

@@ -43,6 +43,21 @@ int runExport(const CommandLine& line);
 int runImport(const CommandLine& line);
 int runProfile(const CommandLine& line);
 
+struct ProfileVerb {
+    const char* name;
+    std::size_t names; ///< of profiles, that follow it
+    int (*run)(const CommandLine& line);
+};
+
+std::span<const ProfileVerb> profileVerbs();
+
+// ShowCommand.cpp
+
+/// In the form's order, as `show` takes them; empty without the pane's bundle.
+std::vector<std::string> sectionNames();
+/// Becomes the window's program. Returns only when it fails.
+int runShow(const CommandLine& line);
+
 // Manual.cpp: both are made from the tables of commands and settings
 int runCompletion(const CommandLine& line);
 int runManual(const CommandLine& line);

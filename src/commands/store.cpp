@@ -21,8 +21,7 @@ std::string savingFault() {
 
 /// The window does this when it is open.
 void updateLoginItem() {
-    const CFBundle* pane = CFBundleGetBundleWithIdentifier(
-        CFSTR((std::string(kAgentBundleIDText) + ".PrefsPane").c_str()));
+    const CFBundle* pane = paneBundle();
     const auto agent =
         pane ? CFBundleCopyAuxiliaryExecutableURL(pane, CFSTR(kAgentApplicationName)) : nullptr;
     if (agent)
@@ -30,6 +29,11 @@ void updateLoginItem() {
 }
 
 } // namespace
+
+const CFBundle* paneBundle() {
+    return CFBundleGetBundleWithIdentifier(
+        CFSTR((std::string(kAgentBundleIDText) + ".PrefsPane").c_str()));
+}
 
 PrefsRecord currentSettings() {
     prefsSetup();

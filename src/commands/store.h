@@ -5,8 +5,13 @@
 
 #include <string>
 
+class CFBundle;
+
 // Where a command finds the settings and brings its changes: the open window, else the stored
 // settings and the running agent.
+
+/// The pane's bundle, borrowed; null without one.
+const CFBundle* paneBundle();
 
 /// The settings as they are now. In an open window a change may be newer than what is stored.
 PrefsRecord currentSettings();

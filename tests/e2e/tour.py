@@ -15,7 +15,7 @@ import traceback
 from contextlib import suppress
 from pathlib import Path
 
-from tests.e2e import hotkeys, palette, startup, troubles
+from tests.e2e import hotkeys, palette, profiles, startup, troubles
 from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.screen import Screen, press
@@ -153,7 +153,7 @@ def start_it_twice(tour: Tour) -> str:
     (window,) = tour.screen.windows(PROGRAM)
     press("windowminimize", window)
     until(lambda: not tour.screen.windows(PROGRAM), "the window is minimised")
-    second = tour.start_program("--section", "general")
+    second = tour.start_program("show", "general")
     check(second.wait(PATIENCE) == 0, "the second start failed")
     until(lambda: tour.screen.active_window() == window, "the first window comes to the front")
     check(tour.screen.windows(PROGRAM) == [window], "there is a second window")
@@ -177,13 +177,16 @@ STEPS = (
     startup.take_the_first_steps,
     look_at_the_tabs,
     change_three_settings,
+    profiles.use_two_in_turn,
     *palette.STEPS,
     *hotkeys.STEPS,
     startup.launch_at_login,
+    profiles.export_them,
     close_the_pane,
     open_it_again,
     start_it_twice,
     close_it_unchanged,
+    profiles.import_them,
     troubles.fail_to_save,
     startup.log_in,
 )

@@ -45,7 +45,8 @@ def without_a_window():
     expect("50", "get", "soundLevel")  # of several changes none was made
     expect("no setting", "get", "nonsense", status=1)
     expect("no command", "nonsense", status=2)
-    assert len(json.loads(run("list", "--json"))) == 40
+    keys = [each["key"] for each in json.loads(run("list", "--json"))]
+    assert len(keys) == 40
     run("profile", "save", "Tired")
     run("reset", "all")
     expect("10.0 sec", "get", "scanner.lineScanTime")
@@ -61,8 +62,27 @@ def without_a_window():
     run("import", "--yes", "all.plist")
     expect("12.5 sec", "get", "scanner.lineScanTime")
     run("set", "launchAtLogin", "off")
-    run("manual")
-    subprocess.run(["bash", "-n"], input=run("completion"), text=True, check=True)
+    manual, completion = run("manual"), run("completion")
+    assert all(f".B {key}\n" in manual for key in keys) and f"'{' '.join(keys)}'" in completion
+    assert "'scanning presses look palette general profiles'" in completion
+    subprocess.run(["bash", "-n"], input=completion, text=True, check=True)
+    expect("there is no section \"pallete\", but scanning", "show", "pallete", status=1)
+
+
+def what_goes_wrong_loses_nothing():
+    values = {"soundLevel": "31", "palette.borderGap": "32 points", "palette.buttonGap": "33 points",
+              "scanner.lineThickness": "34 points"}
+    start = lambda *arguments: subprocess.Popen([HOST, *arguments], env=ENVIRONMENT)
+    together = [start("set", key, value.split()[0]) for key, value in values.items()]
+    assert not any(each.wait(20) for each in together)
+    assert run("get", *values).splitlines() == list(values.values())
+    for delay in range(8):
+        saving = start("profile", "save", "Tired")
+        time.sleep(delay / 50)
+        saving.kill()
+        saving.wait()
+        expect("Tired", "profile", "list")
+        assert "Left out" not in run("profile", "use", "Tired")
 
 
 def with_an_open_window():
@@ -84,4 +104,5 @@ def with_an_open_window():
 
 os.chdir(os.path.expanduser("~"))
 without_a_window()
+what_goes_wrong_loses_nothing()
 with_an_open_window()

@@ -76,6 +76,7 @@ TEST(ProfilesTest, OfAFileTheSoundSettingsAreOfferedAndTheOthersNamed) {
                        "tomorrow: no setting of this version\n");
 
     for (const std::string& text : {std::string("<plist><array/></plist>"), std::string("<pl"),
+                                    std::string("<plist><dict><key>soundLevel</key><string>0x3"),
                                     std::string(10u << 20, 'x')}) {
         std::ofstream(kFolder + "/Mixed.plist") << text;
         EXPECT_NE(readProfile("Mixed", PrefsRecord()).error, "");

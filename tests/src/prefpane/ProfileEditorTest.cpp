@@ -4,6 +4,8 @@
 #include "src/profiles.h"
 #include "tests/support/PaneFixture.h"
 
+#include <QDir>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -101,6 +103,34 @@ TEST_F(ProfileEditorTest, TheSectionUpdatesRenamesAndDeletesAndPutsBack) {
     pressInStrip(0);
     EXPECT_EQ(shown(), "Müde, changed");
     EXPECT_EQ(readProfile("Müde", prefs).record.soundLevel, 50u);
+}
+
+TEST_F(ProfileEditorTest, OfAFileTheSoundSettingsAreOfferedAndTakenAsOneChange) {
+    const QString path = QDir::homePath() + "/brought.plist";
+    const auto import = [&](const char* text) {
+        std::ofstream(path.toStdString()) << text;
+        click("importBtn");
+        auto* dialog = window()->findChild<QFileDialog*>();
+        dialog->selectFile(path);
+        static_cast<QDialog*>(dialog)->accept();
+    };
+    openWithAgent();
+    import("<plist><dict><key>soundLevel</key><string>0x3");
+    EXPECT_EQ(told(),
+              "“brought.plist” can’t be used: not a file of settings, or it can't be read.");
+    import("<plist><dict><key>soundLevel</key><string>0x3</string>"
+           "<key>palette.borderGap</key><string>101</string>"
+           "<key>scanner.lineScanTime</key><string>12</string><key>tomorrow</key><true/></dict></"
+           "plist>");
+    EXPECT_EQ(told(), "“brought.plist” would change: Volume: 50 to 3, and 1 setting more. Use its "
+                      "settings? Left out: palette.borderGap: outside 0 to 100 points. Left out: "
+                      "tomorrow: no setting of this version.");
+    EXPECT_EQ(prefs.soundLevel, 50u);
+    pressInStrip(0);
+    EXPECT_EQ(agentLog_.next()["mask"].toInteger(), kChangeSounds | kChangeScanSpeed);
+    click("undoBtn");
+    EXPECT_EQ(prefs.soundLevel, 50u);
+    EXPECT_EQ(remainingMasks().size(), 1u);
 }
 
 TEST_F(ProfileEditorTest, WhatCannotBeDoneIsToldAndChangesNothing) {
