@@ -41,7 +41,7 @@ double frame() {
     session.release(now - 5);
     session.advance(now);
     view.attachWidget(&widget);
-    view.setSession(&session);
+    view.setSession(&session, 900 / 240.0);
     return secondsAFrame(widget, [](QPainter&) {});
 }
 

@@ -119,11 +119,12 @@ void TryPage::makeSession() {
     conditions_ = conditionsOn(screen, targetChoice_);
     sessionHeight_ = tryView_->bounds().height;
     tryout::Sweep sweep = conditions_.sweep;
-    sweep.travel = double{sessionHeight_} * screen.millimetres.height / screen.frame.height;
+    const double scale = double{screen.frame.height} / screen.millimetres.height;
+    sweep.travel = sessionHeight_ / scale;
     sweep.time *= sweep.travel / conditions_.sweep.travel;
     session_.emplace(sweep, conditions_.target, conditions_.delay, trigger_,
                      std::random_device()());
-    tryView_->setSession(&*session_);
+    tryView_->setSession(&*session_, scale);
     shownPhase_.reset();
     showPhase();
 }
@@ -214,6 +215,8 @@ void TryPage::toggleFullScreen(NSButton*) {
     fullScreenBtn_->setTitle(madeFullScreen_ ? localized("Try", "In the window")
                                              : localized("Try", "Full screen"));
     window_.makeFirstResponder(tryView_);
+    if (session_->phase() != Phase::Done)
+        startTry(); // on what there is to sweep now
 }
 
 void TryPage::takeAdvice(NSButton*) {

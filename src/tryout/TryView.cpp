@@ -67,8 +67,9 @@ double farthest(const tryout::Measured& measured) {
 
 } // namespace
 
-void TryView::setSession(const tryout::Session* session) {
+void TryView::setSession(const tryout::Session* session, double scale) {
     session_ = session;
+    scale_ = static_cast<float>(scale);
     setNeedsDisplay(true);
 }
 
@@ -79,23 +80,18 @@ void TryView::setSaying(const std::string& saying) {
     NSAccessibilityPostNotification(this, NSAccessibilityAnnouncementRequestedNotification, saying);
 }
 
-/// Points a millimetre.
-float TryView::scale() const {
-    return bounds().height / static_cast<float>(session_->sweep().travel);
-}
-
 bool TryView::showsLine() const {
     return session_->phase() == Phase::Sweeping || session_->phase() == Phase::Stopped;
 }
 
 NSRect TryView::bandAround(double position) const {
-    const auto height = static_cast<float>(session_->target()) * scale();
-    return {0, static_cast<float>(position) * scale() - height / 2, bounds().width, height};
+    const auto height = static_cast<float>(session_->target()) * scale_;
+    return {0, static_cast<float>(position) * scale_ - height / 2, bounds().width, height};
 }
 
 NSRect TryView::lineAt(double moment) const {
     const auto thickness = static_cast<float>(prefs.lineThickness);
-    const auto middle = static_cast<float>(session_->linePosition(moment)) * scale();
+    const auto middle = static_cast<float>(session_->linePosition(moment)) * scale_;
     return {0, middle - thickness / 2, bounds().width, thickness};
 }
 

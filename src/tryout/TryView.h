@@ -28,7 +28,9 @@ public:
     /// Not owned; neither may be null once the view is shown.
     void setTarget(TryViewTarget* target) { target_ = target; }
 
-    void setSession(const tryout::Session* session);
+    /// Lengths are shown as large as they are, whatever becomes of the view's height: `scale` is in
+    /// points a millimetre.
+    void setSession(const tryout::Session* session, double scale);
 
     /// What a screen reader says of it, in UTF-8; when it changes, a running one speaks it at once.
     void setSaying(const std::string& saying);
@@ -60,10 +62,10 @@ private:
     void drawMark() const;
     void drawPlaces() const;
     bool showsLine() const;
-    float scale() const;
 
     TryViewTarget* target_ = nullptr;
     const tryout::Session* session_ = nullptr;
+    float scale_ = 1; ///< points a millimetre
     std::string saying_;
     NSRect shown_ = {}; ///< the line, as it was drawn last
 };
