@@ -38,11 +38,16 @@ bool History::joinsLast(const SettingSet& changed, double time) const {
            isGradual(kSettings[firstOf(changed)]) && time - steps_.back().time <= kSameStepSeconds;
 }
 
+void History::finishStep() {
+    if (!steps_.empty())
+        steps_.back().time = -kSameStepSeconds;
+}
+
 const HistoryStep* History::undo(PrefsRecord& record) {
     if (!canUndo())
         return nullptr;
     HistoryStep& step = steps_[--position_];
-    step.time = -kSameStepSeconds; // a change that comes next is a step of its own
+    step.time = -kSameStepSeconds; // a change that comes next joins none
     copySettings(step.settings, step.before, record);
     now_ = record;
     profile_ = step.profileBefore;

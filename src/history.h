@@ -29,6 +29,9 @@ public:
     /// before, the change is a step of its own.
     void note(const PrefsRecord& record, double time, const std::string& profile = {});
 
+    /// What comes next is a step of its own.
+    void finishStep();
+
     /// Something else changed the record, such as the agent's report. That is no step.
     void follow(const PrefsRecord& record) { now_ = record; }
 

@@ -170,6 +170,11 @@ static_assert(offsetof(PrefsRecord, buttonContent) == 320);
 static_assert(offsetof(PrefsRecord, buttonActions) == 324);
 static_assert(offsetof(PrefsRecord, reservedTail) == 336);
 
+/// Whether the area can be scanned: neither side is zero or less.
+inline bool isUsable(const ScanArea& area) {
+    return area.width > 0 && area.height > 0;
+}
+
 /// The one record. Its fields are read and written in place; whoever changes one reports it to the
 /// wrangler, or calls prefsWereChanged.
 extern PrefsRecord prefs;

@@ -149,6 +149,13 @@ std::string changesText(const SettingSet& settings, const PrefsRecord& before,
                   {text});
 }
 
+std::string putBackText(const Setting& setting, const PrefsRecord& now, const PrefsRecord& after) {
+    if (settingText(setting, now) == settingText(setting, after))
+        return filled(localized("Changes", "Put “%1” back to its default"),
+                      {localized("Settings", setting.name)});
+    return changeText(setting, now, after, LOCALIZABLE("Changes", "Put “%1” back to %3"));
+}
+
 std::string rangeText(const SettingLimits& limits) {
     return *limits.unit ? filled(localized("Units", "%1 to %2 %3", "as in 1 to 60 seconds"),
                                  {print("%g", limits.minimum), print("%g", limits.maximum),

@@ -27,5 +27,8 @@ std::string changeText(const Setting& setting, const PrefsRecord& before, const 
 std::string changesText(const SettingSet& settings, const PrefsRecord& before,
                         const PrefsRecord& after, const char* pattern);
 
+/// What putting it back does, as in "Put “Line scan time” back to 10.0 sec".
+std::string putBackText(const Setting& setting, const PrefsRecord& now, const PrefsRecord& after);
+
 /// "1 to 60 seconds", of limits that are.
 std::string rangeText(const SettingLimits& limits);

@@ -35,6 +35,44 @@
             <numerusform>%1, und %n Einstellungen mehr</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>Alles zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Nothing to put back</source>
+        <translation>Nichts zurückzusetzen</translation>
+    </message>
+    <message>
+        <source>Put everything back: 1 setting</source>
+        <translation>Alles zurücksetzen: 1 Einstellung</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put everything back: %n settings</source>
+        <translation>
+            <numerusform>Alles zurücksetzen: %n Einstellung</numerusform>
+            <numerusform>Alles zurücksetzen: %n Einstellungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put 1 setting back</source>
+        <translation>1 Einstellung zurücksetzen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put %n settings back</source>
+        <translation>
+            <numerusform>%n Einstellung zurücksetzen</numerusform>
+            <numerusform>%n Einstellungen zurücksetzen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put “%1” back to its default</source>
+        <translation>„%1“ auf den Standard zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Put “%1” back to %3</source>
+        <translation>„%1“ zurücksetzen auf %3</translation>
+    </message>
 </context>
 <context>
     <name>Choices</name>
@@ -1949,6 +1987,38 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>Show it…</source>
         <translation>Zeigen…</translation>
     </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Standardwerte</translation>
+    </message>
+    <message>
+        <source>This section</source>
+        <translation>Dieser Abschnitt</translation>
+    </message>
+    <message>
+        <source>All that a bar marks goes back to its default. You can undo that.</source>
+        <translation>Alles mit einem Balken wird auf den Standard zurückgesetzt. Sie können das rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Puts this section’s settings back to their defaults.</source>
+        <translation>Setzt die Einstellungen dieses Abschnitts auf den Standard zurück.</translation>
+    </message>
+    <message>
+        <source>All that a bar marks goes back to its default, but not how Korvex starts.</source>
+        <translation>Alles mit einem Balken wird auf den Standard zurückgesetzt, nur nicht, wie Korvex startet.</translation>
+    </message>
+    <message>
+        <source>All sections</source>
+        <translation>Alle Abschnitte</translation>
+    </message>
+    <message>
+        <source>Every setting goes back to its default, but not how Korvex starts.</source>
+        <translation>Jede Einstellung wird auf den Standard zurückgesetzt, nur nicht, wie Korvex startet.</translation>
+    </message>
+    <message>
+        <source>Puts the settings of all sections back to their defaults.</source>
+        <translation>Setzt die Einstellungen aller Abschnitte auf den Standard zurück.</translation>
+    </message>
 </context>
 <context>
     <name>Pointer</name>
@@ -2117,6 +2187,13 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Put it back</source>
         <translation>Zurücknehmen</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackButton</name>
+    <message>
+        <source>Back at its default</source>
+        <translation>Zurückgesetzt</translation>
     </message>
 </context>
 <context>

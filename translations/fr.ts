@@ -35,6 +35,44 @@
             <numerusform>%1, et %n autres réglages</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>Tout remettre</translation>
+    </message>
+    <message>
+        <source>Nothing to put back</source>
+        <translation>Rien à remettre</translation>
+    </message>
+    <message>
+        <source>Put everything back: 1 setting</source>
+        <translation>Tout remettre&#xa0;: 1 réglage</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put everything back: %n settings</source>
+        <translation>
+            <numerusform>Tout remettre&#xa0;: %n réglage</numerusform>
+            <numerusform>Tout remettre&#xa0;: %n réglages</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put 1 setting back</source>
+        <translation>Remettre 1 réglage</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put %n settings back</source>
+        <translation>
+            <numerusform>Remettre %n réglage</numerusform>
+            <numerusform>Remettre %n réglages</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put “%1” back to its default</source>
+        <translation>Remettre «&#xa0;%1&#xa0;» à sa valeur par défaut</translation>
+    </message>
+    <message>
+        <source>Put “%1” back to %3</source>
+        <translation>Remettre «&#xa0;%1&#xa0;» à %3</translation>
+    </message>
 </context>
 <context>
     <name>Choices</name>
@@ -1949,6 +1987,38 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <source>Show it…</source>
         <translation>Afficher…</translation>
     </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Valeurs par défaut</translation>
+    </message>
+    <message>
+        <source>This section</source>
+        <translation>Cette section</translation>
+    </message>
+    <message>
+        <source>All that a bar marks goes back to its default. You can undo that.</source>
+        <translation>Tout ce que marque une barre revient à sa valeur par défaut. Vous pouvez l’annuler.</translation>
+    </message>
+    <message>
+        <source>Puts this section’s settings back to their defaults.</source>
+        <translation>Remet les réglages de cette section à leur valeur par défaut.</translation>
+    </message>
+    <message>
+        <source>All that a bar marks goes back to its default, but not how Korvex starts.</source>
+        <translation>Tout ce que marque une barre revient à sa valeur par défaut, sauf le démarrage de Korvex.</translation>
+    </message>
+    <message>
+        <source>All sections</source>
+        <translation>Toutes les sections</translation>
+    </message>
+    <message>
+        <source>Every setting goes back to its default, but not how Korvex starts.</source>
+        <translation>Chaque réglage revient à sa valeur par défaut, sauf le démarrage de Korvex.</translation>
+    </message>
+    <message>
+        <source>Puts the settings of all sections back to their defaults.</source>
+        <translation>Remet les réglages de toutes les sections à leur valeur par défaut.</translation>
+    </message>
 </context>
 <context>
     <name>Pointer</name>
@@ -2117,6 +2187,13 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>Put it back</source>
         <translation>Revenir en arrière</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackButton</name>
+    <message>
+        <source>Back at its default</source>
+        <translation>Remis par défaut</translation>
     </message>
 </context>
 <context>

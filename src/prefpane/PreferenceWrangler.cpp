@@ -51,6 +51,12 @@ std::span<const Outlet> PreferenceWrangler::outlets() const {
         outletRow<&W::launchAtLogin_>("launchAtLogin"),
         outletRow<&W::lineColors_, &LineColorChooser::lineColor>("lineColor"),
         outletRow<&W::lineColors_, &LineColorChooser::lineColorGrid>("lineColorGrid"),
+        outletRow<&W::resetBtns_, &ResetButtons::scanning>("scanningResetBtn"),
+        outletRow<&W::resetBtns_, &ResetButtons::presses>("pressesResetBtn"),
+        outletRow<&W::resetBtns_, &ResetButtons::look>("lookResetBtn"),
+        outletRow<&W::resetBtns_, &ResetButtons::palette>("paletteResetBtn"),
+        outletRow<&W::resetBtns_, &ResetButtons::general>("generalResetBtn"),
+        outletRow<&W::resetBtns_, &ResetButtons::all>("allResetBtn"),
         outletRow<&W::masterOnOffRadios_>("masterOnOffRadios"),
         outletRow<&W::masterState_>("masterState"),
         outletRow<&W::palette_, &Palette::palettePrompt>("palettePrompt"),
@@ -120,6 +126,7 @@ std::span<const Action> PreferenceWrangler::actions() const {
         actionRow<&W::showFirstSteps>("showFirstSteps:"),
         actionRow<&W::undo>("undo:"),
         actionRow<&W::redo>("redo:"),
+        actionRow<&W::resetSettings>("resetSettings:"),
         actionRow<&W::changedMasterOnOff>("changedMasterOnOff:"),
         actionRow<&W::changedUseScanArea>("changedUseScanArea:"),
         actionRow<&W::changedTriggerOnRelease>("changedTriggerOnRelease:"),
@@ -178,6 +185,7 @@ void PreferenceWrangler::setup() {
     pointers_.setup();
     lineColors_.setup();
     scanAreas_.setup();
+    setupDefaults();
     profiles_.setup(*this);
     theWrangler = this;
 }
@@ -202,6 +210,7 @@ void PreferenceWrangler::loadValues() {
     pointers_.load();
     palette_.load();
     updateTriggerUI();
+    updateDefaults(true);
 }
 
 void PreferenceWrangler::setHelpBookName(const CFType* name) {

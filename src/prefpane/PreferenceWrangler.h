@@ -103,6 +103,12 @@ public:
 
     void redo(NSButton* sender);
 
+    // PreferenceWranglerDefaults.cpp: what isn't at its default
+
+    /// Puts back what the button stands for, a section's settings or all: whichever aren't at their
+    /// defaults. Whether Korvex is on and how it starts stays.
+    void resetSettings(NSButton* sender);
+
     // HotKeyEditor: hot keys
 
     // During a capture; they do nothing outside of one.
@@ -227,6 +233,39 @@ private:
     /// After fields were set from elsewhere. A record that is as stored needs no saving any more.
     void showAndReport(ChangeMask changes);
 
+    /// Makes those settings the record's and says what became of them.
+    void putBack(const SettingSet& settings, const PrefsRecord& record);
+
+    // PreferenceWranglerDefaults.cpp
+
+    /// A setting, or a part of one that has a row of its own: bytes of the record, or bits of one.
+    struct DefaultPlace {
+        std::size_t offset, size;
+        const NSView* view;
+        UInt8 bits = 0xFF;
+    };
+
+    struct ResetButtons {
+        NSButton *scanning = nullptr, *presses = nullptr, *look = nullptr, *palette = nullptr,
+                 *general = nullptr, *all = nullptr;
+    };
+
+    /// A button and the settings that it puts back.
+    struct Reset {
+        NSButton* button;
+        SettingSet settings;
+    };
+
+    void setupDefaults();
+    /// Marks the rows that aren't at their defaults: of those that changed since, or of all.
+    void updateDefaults(bool all = false);
+    void markPlace(std::size_t place);
+    void updateResets();
+    /// The record with that place at its default.
+    PrefsRecord withDefault(const DefaultPlace& place) const;
+    void putPlaceBack(std::size_t place);
+    const NSView* pageOf(const NSView* view) const;
+
     // PreferenceWranglerSettings.cpp: what the table of settings says of numbers and check boxes
 
     template <std::size_t Row>
@@ -254,6 +293,12 @@ private:
     NSMatrix* triggerOnReleaseRadios_ = nullptr;
     NSButton* undoBtn_ = nullptr;
     NSMatrix* useScanAreaRadios_ = nullptr;
+
+    ResetButtons resetBtns_;
+    std::vector<Reset> resets_;
+    std::vector<DefaultPlace> places_; ///< that show
+    PrefsRecord defaults_;             ///< as the visit found them
+    PrefsRecord marked_;               ///< the record as its marks were last shown
 
     History history_{prefs};
     HotKeyEditor hotKeys_;

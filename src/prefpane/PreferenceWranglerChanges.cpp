@@ -17,11 +17,6 @@ namespace {
 constexpr ChangeMask kPreviewChanges =
     kChangeScanLineLook | kChangeGuideLineLook | kChangePointer | kChangePalette;
 
-/// Whether the area can be scanned: neither side is zero or less.
-bool isUsable(const ScanArea& area) {
-    return area.width > 0 && area.height > 0;
-}
-
 constexpr char kOffTopic[] = "off";
 
 std::string stateText(bool isOn) {
@@ -68,6 +63,7 @@ void PreferenceWrangler::changed(ChangeMask changes) {
     prefsWereChanged(changes & kChangeOnOff ? &prefs.on : nullptr);
     daemonSendChanges(changes, true);
     noteStep();
+    updateDefaults();
 }
 
 void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {

@@ -7,6 +7,8 @@
 #include "platform/AppKit/NSTextField.h"
 #include "platform/AppKit/UserMessages.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "src/defaults.h"
+#include "src/prefpane/BumperController.h"
 #include "src/recovery.h"
 #include "src/settingwords.h"
 
@@ -19,11 +21,27 @@ double secondsNow() {
     return std::chrono::duration<double>(now).count();
 }
 
+/// Of a step: "Line scan time: 12.5 back to 10.0 sec, and 2 settings more."
+std::string stepText(const SettingSet& settings, const PrefsRecord& before,
+                     const PrefsRecord& after, const char* pattern) {
+    return filled(localized("Changes", "%1.", "a sentence"),
+                  {changesText(settings, before, after, pattern)});
+}
+
+UserMessage::Button undoButton() {
+    return {localized("Changes", "Put it back"), [] {
+                if (theWrangler)
+                    theWrangler->undo(nullptr);
+            }};
+}
+
 } // namespace
 
 void PreferenceWrangler::beginHistory() {
     profiles_.load();
     history_ = History(prefs, profiles_.inUse());
+    defaults_ = defaultRecord();
+    updateDefaults(true);
     updateHistoryUI();
 }
 
@@ -45,7 +63,9 @@ void PreferenceWrangler::adopt(const SettingSet& settings, const PrefsRecord& re
     if (different.none())
         return;
     copySettings(different, record, prefs);
+    history_.finishStep();
     showAndReport(changesOf(different));
+    history_.finishStep();
 }
 
 // A command names the profile in use before it sends the change.
@@ -73,23 +93,27 @@ void PreferenceWrangler::resetPaletteButtons(NSButton*) {
                  {.kind = UserMessage::Kind::Note,
                   .text = localized("Changes",
                                     "The palette has the buttons again that Korvex came with."),
-                  .buttons = {{localized("Changes", "Put it back"), [] {
-                                   if (theWrangler)
-                                       theWrangler->undo(nullptr);
-                               }}}});
+                  .buttons = {undoButton()}});
 }
 
 void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& before,
                                   const PrefsRecord& after, const char* pattern) {
-    const std::string text = changesText(step.settings, before, after, pattern);
     if (step.profileBefore != step.profileAfter)
         profiles_.setInUse(&before == &step.before ? step.profileAfter : step.profileBefore);
     showAndReport(changesOf(step.settings));
     if (NSView* view = viewOf(firstOf(step.settings)))
         view->scrollToVisible();
     tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note,
-                            .text = filled(localized("Changes", "%1.", "a sentence"), {text})});
+                            .text = stepText(step.settings, before, after, pattern)});
     updateHistoryUI();
+}
+
+void PreferenceWrangler::putBack(const SettingSet& settings, const PrefsRecord& record) {
+    const PrefsRecord before = prefs;
+    adopt(settings, record);
+    tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note,
+                            .text = stepText(settings, before, prefs, kSettingBecomesAgain),
+                            .buttons = {undoButton()}});
 }
 
 /// The agent hears it first: showing every value takes longer.
@@ -128,7 +152,7 @@ NSView* PreferenceWrangler::viewOf(std::size_t row) const {
         {offsetof(PrefsRecord, lineColor), lineColors_.lineColor},
         {offsetof(PrefsRecord, pointerImageName), pointers_.pointerName},
         {offsetof(PrefsRecord, hotKeys), hotKeys_.scan.view},
-        {offsetof(PrefsRecord, buttonSize), palette_.buttonShapeRadios},
+        {offsetof(PrefsRecord, buttonSize), palette_.buttonSize->view()},
         {offsetof(PrefsRecord, buttonShape), palette_.buttonShapeRadios},
         {offsetof(PrefsRecord, buttonContent), palette_.buttonContentIconCheck},
         {offsetof(PrefsRecord, buttonActions), palette_.paletteView},

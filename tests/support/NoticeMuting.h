@@ -10,8 +10,10 @@ inline std::filesystem::path noticeMutingFile() {
            "Preferences/org.korvex.Agent.plist";
 }
 
-inline void muteNotice() {
+/// `more`: elements of theirs besides.
+inline void muteNotice(const std::string& more = {}) {
     writeFile(noticeMutingFile(), dictionaryFile("<key>axReqLastNoticeDate</key>"
                                                  "<integer>2147483647</integer>"
-                                                 "<key>firstStepsSeen</key><true/>"));
+                                                 "<key>firstStepsSeen</key><true/>" +
+                                                 more));
 }

@@ -9,6 +9,7 @@
 #include "platform/AppKit/detail/PageArea.h"
 #include "platform/AppKit/detail/PaneStyle.h"
 #include "platform/AppKit/detail/PopUpButtonWidget.h"
+#include "platform/AppKit/detail/PutBackButton.h"
 #include "platform/AppKit/detail/SectionFrame.h"
 #include "platform/AppKit/detail/SettingRow.h"
 #include "platform/AppKit/detail/SliderWidget.h"
@@ -38,6 +39,7 @@ const struct {
     {"SettingRow", make<SettingRow>},
     {"SwitchCell", make<SwitchCell>},
     {"WrapRow", make<WrapRow>},
+    {"PutBackButton", make<PutBackButton>},
     {"HeaderBar", make<HeaderBar>},
     {"CardColumns", make<CardColumns>},
     {"PageArea", make<PageArea>},

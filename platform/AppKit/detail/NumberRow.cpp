@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/NumberRow.h"
 
+#include "platform/AppKit/detail/PutBackButton.h"
 #include "platform/AppKit/detail/RowLayout.h"
 #include "platform/AppKit/detail/RowText.h"
 #include "platform/AppKit/detail/SliderWidget.h"
@@ -72,6 +73,7 @@ void NumberRow::build() {
 
     const RowText text(*this, caption, accessibleDescription());
     explanation_ = text.explanation;
+    auto* putBack = new PutBackButton(this); // in the reading order before the controls
     auto* controls = new QHBoxLayout;
     controls->setContentsMargins(0, 0, 0, 0);
     controls->setSpacing(kGap);
@@ -91,7 +93,7 @@ void NumberRow::build() {
     if (hasSlider)
         text.caption->setProperty("outlet", QStringLiteral("title"));
     text.caption->setBuddy(field);
-    new RowLayout(this, text.layout(), controls, rowIndent(*this));
+    new RowLayout(this, text.layout(), controls, putBack, rowIndent(*this));
 }
 
 void NumberRow::setCompact(bool compact) {

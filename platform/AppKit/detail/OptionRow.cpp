@@ -45,7 +45,13 @@ QRect OptionLook::textRect(const QRect& rect) const {
     const int beside = panestyle::kIndicator + kGap;
     const int left = kSide + rowIndent(button_);
     return rect.adjusted(indicatorAtRight_ ? left : left + beside, kAbove,
-                         indicatorAtRight_ ? -kSide - beside : -kSide, -kAbove);
+                         (indicatorAtRight_ ? -kSide - beside : -kSide) - room_, -kAbove);
+}
+
+QRect OptionLook::putBackRect(const QRect& rect) const {
+    const QRect text = textRect(rect);
+    const int side = PutBackButton::kSide;
+    return {text.right() + 1 + room_ - side, rect.y() + (rect.height() - side) / 2, side, side};
 }
 
 int OptionLook::widthHint() const {

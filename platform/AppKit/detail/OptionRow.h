@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/AppKit/detail/FormPart.h"
+#include "platform/AppKit/detail/PutBackButton.h"
 #include "platform/AppKit/detail/RowText.h"
 
 #include <QCheckBox>
@@ -13,10 +15,13 @@ class OptionLook {
 public:
     /// `indicatorAtRight`: of a check box; a radio button has it before its text.
     OptionLook(const QAbstractButton& button, bool indicatorAtRight, bool isCompact)
-        : button_(button), indicatorAtRight_(indicatorAtRight), isCompact_(isCompact) {}
+        : button_(button), room_(PutBackButton::of(button) ? PutBackButton::kRoom : 0),
+          indicatorAtRight_(indicatorAtRight), isCompact_(isCompact) {}
 
     int widthHint() const;
     int heightForWidth(int width) const;
+    /// Of the button that puts the row back.
+    QRect putBackRect(const QRect& rect) const;
     void draw(QWidget& row, QStyle::PrimitiveElement indicator, const QStyleOption& option) const;
 
 private:
@@ -27,15 +32,16 @@ private:
     QRect indicatorRect(const QRect& rect) const;
 
     const QAbstractButton& button_;
+    int room_; ///< points, for the button that puts the row back
     bool indicatorAtRight_;
     bool isCompact_; ///< without its explanation
 };
 
 /// A check box or radio button that is a whole row, with its accessible description beneath its
-/// text. A click anywhere in the row is one on the button. The form's property `indented`: see
-/// NumberRow.
+/// text. A click anywhere in the row is one on the button. It has a button that puts it back unless
+/// it lies in another row. The form's property `indented`: see NumberRow.
 template <class Button>
-class OptionRow final : public Button, public CompactRow {
+class OptionRow final : public Button, public FormPart, public CompactRow {
 public:
     explicit OptionRow(QWidget* parent) : Button(parent) {
         QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
@@ -43,12 +49,19 @@ public:
         this->setSizePolicy(policy);
     }
 
+    void build() override {
+        if (!isInRow(*this))
+            putBack_ = new PutBackButton(this);
+    }
+
     QSize sizeHint() const override {
         const int width = look().widthHint();
         return {width, look().heightForWidth(width)};
     }
 
-    QSize minimumSizeHint() const override { return {44, 44}; }
+    QSize minimumSizeHint() const override {
+        return {isInRow(*this) ? look().widthHint() : panestyle::kTarget, panestyle::kTarget};
+    }
 
     int heightForWidth(int width) const override { return look().heightForWidth(width); }
 
@@ -61,6 +74,12 @@ public:
 
 protected:
     bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
+
+    void resizeEvent(QResizeEvent* event) override {
+        Button::resizeEvent(event);
+        if (putBack_)
+            putBack_->setGeometry(look().putBackRect(this->rect()));
+    }
 
     void paintEvent(QPaintEvent*) override {
         QStyleOptionButton option;
@@ -75,6 +94,7 @@ private:
 
     OptionLook look() const { return OptionLook(*this, kIsCheck, isCompact_); }
 
+    PutBackButton* putBack_ = nullptr; ///< null for none
     bool isCompact_ = false;
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/RowLayout.h"
 
-#include <QWidget>
+#include "platform/AppKit/detail/PutBackButton.h"
 
 #include <algorithm>
 
@@ -22,13 +22,14 @@ int heightFor(const QLayoutItem& item, int width) {
 
 } // namespace
 
-RowLayout::RowLayout(QWidget* row, QLayout* text, QLayout* controls, int indent)
+RowLayout::RowLayout(QWidget* row, QLayout* text, QLayout* controls, QWidget* putBack, int indent)
     : QLayout(row), indent_(indent) {
     setContentsMargins(0, 0, 0, 0);
     for (QLayout* layout : {text, controls}) {
         addChildLayout(layout);
         items_ << layout;
     }
+    addWidget(putBack);
 }
 
 RowLayout::~RowLayout() {
@@ -56,30 +57,52 @@ QMargins RowLayout::margins(int width) const {
                            : QMargins(kSide + indent_, kAbove, kSide, kAbove);
 }
 
+/// Takes the button's place off the right of a part of the row.
+QRect RowLayout::takePlace(QRect& part) {
+    part.setWidth(part.width() - PutBackButton::kRoom);
+    QRect button(0, 0, PutBackButton::kSide, PutBackButton::kSide);
+    button.moveCenter(part.center());
+    button.moveRight(part.right() + PutBackButton::kRoom);
+    return button;
+}
+
 RowLayout::Places RowLayout::places(const QRect& rect) const {
+    constexpr int kRoom = PutBackButton::kRoom;
     const QRect room = rect.marginsRemoved(margins(rect.width()));
-    const QLayoutItem& text = *items_[0];
     const QLayoutItem& controls = *items_[1];
-    const int column = kTextColumn * parentWidget()->fontMetrics().height();
+    const int column = kTextColumn * parentWidget()->fontMetrics().height() + kRoom;
     const int beside = room.width() - kGap - column;
-    if (beside < controls.minimumSize().width()) {
-        const int above = heightFor(text, room.width());
-        const int beneath = heightFor(controls, room.width());
-        return {QRect(room.x(), room.y(), room.width(), above),
-                QRect(room.x(), room.y() + above + kGapBeneath, room.width(), beneath),
-                2 * kAbove + above + kGapBeneath + beneath};
-    }
+    if (beside < controls.minimumSize().width())
+        return placesBeneath(room);
     const int width = std::min(beside, controls.sizeHint().width());
     const int left = room.width() - kGap - width;
-    const int height = std::max({heightFor(text, left), heightFor(controls, width), kLeastHeight});
-    return {QRect(room.x(), room.y(), left, std::max(height, room.height())),
-            QRect(room.x() + left + kGap, room.y(), width, std::max(height, room.height())),
-            2 * kAbove + height};
+    const int height =
+        std::max({heightFor(*items_[0], left - kRoom), heightFor(controls, width), kLeastHeight});
+    const int shown = std::max(height, room.height());
+    Places where{.text = {room.x(), room.y(), left, shown},
+                 .controls = {room.x() + left + kGap, room.y(), width, shown},
+                 .height = 2 * kAbove + height};
+    where.putBack = takePlace(where.text);
+    return where;
+}
+
+RowLayout::Places RowLayout::placesBeneath(const QRect& room) const {
+    constexpr int kRoom = PutBackButton::kRoom;
+    const QLayoutItem& controls = *items_[1];
+    const bool isWide = room.width() >= controls.minimumSize().width() + kRoom;
+    const int above = isWide ? heightFor(*items_[0], room.width())
+                             : std::max(heightFor(*items_[0], room.width() - kRoom), kLeastHeight);
+    const int beneath = heightFor(controls, room.width() - (isWide ? kRoom : 0));
+    Places where{.text = {room.x(), room.y(), room.width(), above},
+                 .controls = {room.x(), room.y() + above + kGapBeneath, room.width(), beneath},
+                 .height = 2 * kAbove + above + kGapBeneath + beneath};
+    where.putBack = takePlace(isWide ? where.controls : where.text);
+    return where;
 }
 
 QSize RowLayout::sizeHint() const {
-    const int width =
-        items_[0]->sizeHint().width() + kGap + items_[1]->sizeHint().width() + 2 * kSide + indent_;
+    const int width = items_[0]->sizeHint().width() + kGap + items_[1]->sizeHint().width() +
+                      2 * kSide + PutBackButton::kRoom + indent_;
     return {width, heightForWidth(width)};
 }
 
@@ -101,6 +124,7 @@ void RowLayout::setGeometry(const QRect& rect) {
     const Places where = places(rect);
     items_[0]->setGeometry(where.text);
     items_[1]->setGeometry(where.controls);
+    items_[2]->setGeometry(where.putBack);
 }
 
 Qt::Orientations RowLayout::expandingDirections() const {

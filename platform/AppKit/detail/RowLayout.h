@@ -4,12 +4,13 @@
 #include <QLayout>
 
 /// The layout of a row: its text at the left and its controls at the right or, where that would
-/// leave the text too little room, the controls beneath it.
+/// leave the text too little room, the controls beneath it. The button that puts the row back has
+/// its place at the right of the text or, beneath it, of the controls.
 class RowLayout final : public QLayout {
 public:
-    /// Owns both layouts. `indent`: from the row's left edge to its text, in points, besides the
-    /// margin.
-    RowLayout(QWidget* row, QLayout* text, QLayout* controls, int indent);
+    /// Owns both layouts; the button is the row's. `indent`: from the row's left edge to its text,
+    /// in points, besides the margin.
+    RowLayout(QWidget* row, QLayout* text, QLayout* controls, QWidget* putBack, int indent);
     ~RowLayout() override;
 
     void addItem(QLayoutItem* item) override;
@@ -25,13 +26,15 @@ public:
 
 private:
     struct Places {
-        QRect text, controls;
+        QRect text, controls, putBack = {};
         int height; ///< of the row
     };
 
     Places places(const QRect& rect) const;
+    Places placesBeneath(const QRect& room) const;
+    static QRect takePlace(QRect& part);
     QMargins margins(int width) const;
 
     int indent_;
-    QList<QLayoutItem*> items_; ///< the text, the controls
+    QList<QLayoutItem*> items_; ///< the text, the controls, the button
 };

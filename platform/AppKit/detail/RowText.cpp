@@ -62,6 +62,13 @@ int rowIndent(const QWidget& row) {
     return row.property("indented").toBool() ? kSubordinate : 0;
 }
 
+bool isInRow(const QWidget& widget) {
+    const QWidget* around = widget.parentWidget();
+    while (around && !dynamic_cast<const CompactRow*>(around))
+        around = around->parentWidget();
+    return around != nullptr;
+}
+
 void drawRowLine(QWidget& row) {
     if (row.y() <= row.parentWidget()->contentsRect().y())
         return;

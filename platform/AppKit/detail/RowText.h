@@ -37,5 +37,8 @@ QString withoutMnemonic(QString text);
 /// How far the form's property `indented` moves a row's text to the right, in points.
 int rowIndent(const QWidget& row);
 
+/// Whether the widget lies in a row of the form.
+bool isInRow(const QWidget& widget);
+
 /// Draws the line that parts a row from the one above it in the same card.
 void drawRowLine(QWidget& row);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/SettingRow.h"
 
+#include "platform/AppKit/detail/PutBackButton.h"
 #include "platform/AppKit/detail/RowLayout.h"
 #include "platform/AppKit/detail/RowText.h"
 
@@ -25,10 +26,11 @@ void SettingRow::build() {
     const QString caption = property("caption").toString();
     const RowText text(*this, caption, accessibleDescription());
     explanation_ = text.explanation;
+    auto* putBack = new PutBackButton(this); // in the reading order before the controls
     auto* controls = new QWidget(this);
     controls->setObjectName(objectName() + QLatin1String("Controls"));
     QLayout* arranged = moveLayout(*this, *controls);
-    new RowLayout(this, text.layout(), arranged, rowIndent(*this));
+    new RowLayout(this, text.layout(), arranged, putBack, rowIndent(*this));
     for (auto* each : controls->findChildren<QWidget*>()) {
         if (each->focusPolicy() & Qt::TabFocus) {
             text.caption->setBuddy(each);

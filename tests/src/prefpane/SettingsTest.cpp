@@ -179,10 +179,11 @@ TEST_F(SettingsTest, LoadingShowsTheRecordAndReportsNothingButAnEmptyScanArea) {
 }
 
 TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityAction) {
-    // They open a menu, a window or the help book, or end in a choice elsewhere.
+    // They open a menu, a window or the help book, end in a choice elsewhere, or put others back.
     const QRegularExpression others(
         "^(helpBtn|findMySpeed|firstStepsBtn|undoBtn|redoBtn|sections.*|.*Grid|.*Label|scanAreaBtn|"
         "lineColor|profile.*|.*ProfileBtn|importBtn|exportBtn|paletteView|sampleScanImage|"
+        ".*PutBack|.*ResetBtn|"
         "(add|swapWith|setAction|remove)(Button)?Btn|.*KeyBtn|.*Key2Btn|builder.*)$");
     prefs.scanArea = {0, 0, 640, 480};
     prefs.minTriggerDuration = prefs.afterClickDelay = 4; // none comes to a limit

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "platform/AppKit/UserMessages.h"
+#include "src/prefpane/PreferenceWrangler.h"
+#include "tests/support/PaneFixture.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+
+#include <cstring>
+
+namespace {
+
+bool isSame(const PrefsRecord& a, const PrefsRecord& b) {
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+/// What isn't at its default, marked and put back in the real window, with the real agent.
+class DefaultsTest : public PaneTest, public testing::WithParamInterface<std::string> {
+protected:
+    void press(const char* name) {
+        auto* button = find<QAbstractButton>(name);
+        if (GetParam() == "mouse")
+            return QTest::mouseClick(button, Qt::LeftButton);
+        if (GetParam() == "keyboard") {
+            button->setFocus();
+            return QTest::keyClick(button, Qt::Key_Space);
+        }
+        auto* actions = QAccessible::queryAccessibleInterface(button)->actionInterface();
+        actions->doAction(actions->actionNames().front());
+    }
+
+    /// Whether the row shows its bar.
+    bool isMarked(const char* button) { return mark(find(button))->isVisible(); }
+
+    static QWidget* mark(const QWidget* button) {
+        return button->parentWidget()->findChild<QWidget*>(button->objectName() + "Bar",
+                                                           Qt::FindDirectChildrenOnly);
+    }
+
+    static std::string message() { return currentMessage() ? currentMessage()->message.text : ""; }
+};
+
+INSTANTIATE_TEST_SUITE_P(By, DefaultsTest, testing::Values("mouse", "keyboard", "action"));
+
+TEST_P(DefaultsTest, EachRowThatDiffersIsMarkedAndPutBack) {
+    const struct {
+        void (*change)(PrefsRecord& record);
+        const char* button;
+        const char* label;
+        ChangeMask mask;
+    } cases[] = {
+        {[](auto& r) { r.lineScanTime = 12.5; }, "lineScanTimePutBack",
+         "Put “Line scan time” back to 20.0 sec", kChangeScanSpeed},
+        {[](auto& r) { r.lineThickness = 9; }, "lineThicknessPutBack",
+         "Put “Line thickness” back to 7 points", kChangeScanLineLook | kChangeGuideLineLook},
+        {[](auto& r) { r.canScanMenuBar = 0; }, "canScanMenuBarCheckPutBack",
+         "Put “Scan the menu bar too” back to on", 0},
+        {[](auto& r) { r.launchAtLogin = 0; }, "launchAtLoginPutBack",
+         "Put “Start at login” back to on", kChangeLaunch},
+        {[](auto& r) { r.scanMode = 2; }, "scanModeRadios2PutBack",
+         "Put “Scan mode” back to Press to start, press to choose", kChangeTriggers},
+        {[](auto& r) { r.triggerOnRelease = 1; }, "triggerOnReleaseRowPutBack",
+         "Put “A press counts” back to When I press", kChangeTriggers},
+        {[](auto& r) {
+             r.scanArea = {0, 0, 640, 480};
+         },
+         "scanAreaRowPutBack", "Put “My own area” back to none", kChangeScanArea},
+        {[](auto& r) {
+             r.lineColor = {0, 0, 255};
+         },
+         "lineColorRowPutBack", "Put “Line colour” back to #640000",
+         kChangeScanLineLook | kChangeGuideLineLook},
+        {[](auto& r) { std::strcpy(r.pointerImageName, "big"); }, "pointerRowPutBack",
+         "Put “Pointer” back to default", kChangePointer},
+        {[](auto& r) { r.buttonShape = 1; }, "buttonShapeRowPutBack",
+         "Put “Corners of palette buttons” back to Square", kChangePalette},
+        {[](auto& r) { r.buttonContent = 1; }, "buttonContentNameCheckPutBack",
+         "Put “Shown on palette buttons” back to icon and name", kChangePalette},
+        {[](auto& r) { r.buttonSize.width = 60; }, "buttonWidthPutBack",
+         "Put “Size of palette buttons” back to 40 × 40 points", kChangePalette},
+        {[](auto& r) {
+             r.hotKeys[2] = {-1, 0};
+         },
+         "cancelScanKeyRowPutBack", "Put “Cancel the scan” back to esc", kChangeHotKeys},
+        {[](auto& r) { r.buttonActions[0] = 5; }, "paletteEditorPutBack",
+         "Put “Palette buttons” back to its default", kChangePalette},
+    };
+
+    muteNotice("<key>scanner.lineScanTime</key><string>20.0</string>");
+    openWithAgent();
+    const PrefsRecord start = prefs; // with the administrator's line
+    EXPECT_EQ(double{start.lineScanTime}, 20);
+    for (const auto& [change, name, label, mask] : cases) {
+        SCOPED_TRACE(name);
+        auto* button = find<QAbstractButton>(name);
+        QTest::qWait(0);
+        const QRect row = button->parentWidget()->geometry();
+        EXPECT_FALSE(button->isVisible() || isMarked(name));
+        PrefsRecord changed = prefs;
+        change(changed);
+        theWrangler->adopt(differences(prefs, changed), changed);
+        EXPECT_EQ(agentLog_.next()["mask"].toInteger(), mask);
+        QTest::qWait(0);
+        EXPECT_TRUE(button->isVisible() && isMarked(name));
+        if (mask != kChangeScanArea) { // whose words are more now
+            EXPECT_EQ(button->parentWidget()->geometry(), row) << "the row has jumped";
+        }
+        EXPECT_EQ(button->accessibleName().toStdString(), label);
+        for (int presses = 0; presses < 2; ++presses) // a second one does nothing
+            if (button->isVisible())
+                press(name);
+        EXPECT_EQ(agentLog_.next()["mask"].toInteger(), mask);
+        EXPECT_TRUE(isSame(prefs, start));
+        EXPECT_FALSE(isMarked(name));
+        find("helpBtn")->setFocus();
+        EXPECT_FALSE(button->isVisible());
+        EXPECT_NE(message(), "");
+    }
+    EXPECT_THAT(remainingMasks(), testing::IsEmpty());
+}
+
+TEST_P(DefaultsTest, ASectionOrAllGoBackInOneChangeThatCanBeUndone) {
+    prefs.launchAtLogin = 0;
+    prefs.on = 0;
+    openWithAgent();
+    const PrefsRecord start = prefs;
+    EXPECT_FALSE(find("scanningResetBtn")->isEnabled());
+    for (const char* control : {"lineScanTimePageIncBtn", "canScanMenuBarCheck", "scanModeRadios1",
+                                "lineThicknessIncBtn", "playClickSoundsCheck"}) {
+        click(control);
+        EXPECT_EQ(agentLog_.nextName(), "SAPr");
+    }
+
+    const PrefsRecord changed = prefs;
+    EXPECT_EQ(find<QAbstractButton>("generalResetBtn")->text(), "Put 1 setting back");
+    EXPECT_EQ(find<QAbstractButton>("allResetBtn")->text(), "Put everything back: 5 settings");
+
+    press("scanningResetBtn");
+    EXPECT_EQ(agentLog_.next()["mask"].toInteger(), kChangeScanSpeed);
+    EXPECT_EQ(message(), "Scan the menu bar too: off back to on, and 1 setting more.");
+    EXPECT_EQ(double{prefs.lineScanTime}, 10);
+    EXPECT_EQ(prefs.scanMode, 1);
+    EXPECT_FALSE(find("scanningResetBtn")->isEnabled());
+    UserMessage(currentMessage()->message).buttons[0].press();
+    EXPECT_TRUE(isSame(prefs, changed));
+    EXPECT_EQ(agentLog_.next()["mask"].toInteger(), kChangeScanSpeed);
+
+    press("allResetBtn");
+    EXPECT_EQ(agentLog_.next()["mask"].toInteger(), kChangeScanSpeed | kChangeTriggers |
+                                                        kChangeScanLineLook | kChangeGuideLineLook |
+                                                        kChangeSounds);
+    EXPECT_TRUE(isSame(prefs, start));
+    EXPECT_EQ(prefs.launchAtLogin, 0);
+    theWrangler->undo(nullptr);
+    EXPECT_TRUE(isSame(prefs, changed));
+    EXPECT_EQ(agentLog_.nextName(), "SAPr");
+
+    press("lineScanTimePutBack"); // soon after: it joins no change before
+    theWrangler->undo(nullptr);
+    EXPECT_TRUE(isSame(prefs, changed));
+    EXPECT_THAT(remainingMasks(), testing::ElementsAre(kChangeScanSpeed, kChangeScanSpeed));
+}
+
+} // namespace
