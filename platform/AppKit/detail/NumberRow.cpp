@@ -20,7 +20,7 @@ namespace {
 constexpr int kGap = 6; // points between neighbouring controls
 constexpr int kSliderWidth = 150;
 constexpr int kLeastSliderWidth = 48;
-constexpr double kPageShare = 10; // positions that the page keys go
+constexpr int kPagePositions = 10; // that the page keys go
 
 } // namespace
 
@@ -51,7 +51,7 @@ void NumberRow::addSlider(QHBoxLayout& controls) {
     const double range = property("maxValue").toDouble() - property("minValue").toDouble();
     slider->setRange(
         0, static_cast<int>(std::lround(range * std::pow(10, property("decimals").toInt()))));
-    slider->setPageStep(kPageShare);
+    slider->setPageStep(kPagePositions);
     for (const char* limit : {"minValue", "maxValue"})
         slider->setProperty(limit, property(limit));
     slider->setMinimumWidth(kLeastSliderWidth);
