@@ -11,6 +11,8 @@ namespace {
 
 constexpr double kMost = 0.95;
 constexpr double kFew = 0.05;
+/// Who is ready only after that many times the usual time has had a rest.
+constexpr double kRest = 2;
 
 double roundedUp(double seconds) {
     return std::ceil(seconds / kSteadinessStep - 1e-6) * kSteadinessStep;
@@ -38,7 +40,8 @@ Steadiness steady(const Measured& measured) {
     }
 
     Steadiness result;
-    result.preScanDelay = mostOf(readyTimes);
+    if (percentile(readyTimes, kMost) <= kRest * median(readyTimes))
+        result.preScanDelay = mostOf(readyTimes);
     result.afterClickDelay = mostOf(gaps);
     if (extraHolds.empty() || holds.empty())
         return result;

@@ -13,7 +13,8 @@ namespace tryout {
 constexpr double kSteadinessStep = 0.1;
 
 struct Steadiness {
-    /// Before each scan: the user was ready for the next press after it in 95 of 100 cases.
+    /// Before each scan: the user was ready for the next press after it in 95 of 100 cases. None
+    /// when rests were among the times.
     std::optional<double> preScanDelay;
     /// Longer than nearly all presses that nothing asked for, shorter than nearly all others.
     std::optional<double> minTriggerDuration;

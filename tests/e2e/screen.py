@@ -98,6 +98,10 @@ class Control:
         """Does its first action, as assistive technology does."""
         check(Atspi.Action.do_action(self._node, 0), f"“{self.name}” has no action")
 
+    def press(self) -> None:
+        """As assistive technology does."""
+        check(Atspi.Action.do_action(self._node, 0), f"“{self.name}” can’t be pressed")
+
     def shown(self) -> Iterator["Control"]:
         """Itself and all beneath it that isn't on a hidden page."""
         if not self.has(Atspi.StateType.SHOWING):

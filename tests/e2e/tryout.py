@@ -30,7 +30,6 @@ LATENESS, STEP = 0.06, 0.04
 OFFSETS = 0, 1, -1, 2, -1, 0, 1, -2, 1, -1, 0, 1
 SPREAD = 1.4826 * STEP
 TOLERANCE = 0.02  # seconds: this process isn't on time either
-SWEEPS = 14  # two of them free
 SPEED = SIZE[1] / SCAN_TIME  # pixels a second
 TARGET = 12  # millimetres
 FRAME = 1 / 60  # seconds
@@ -100,6 +99,19 @@ class Try:
         self.mistaken.append(pressed.since(started) - place / SPEED)
 
 
+def get_used_to_it(this: Try) -> None:
+    """The free sweeps, by assistive technology and by a mouse button."""
+    def press_button() -> None:
+        press("mousemove", *this.view().box.centre, "click", "3")
+
+    for act in (lambda: this.view().press()), press_button:
+        until(lambda: saying(this.tour)[0].startswith(("Ready", "A line")), "the page is ready")
+        act()
+        until(lambda: saying(this.tour)[0] == "Go.", "the line goes")
+        act()
+        until(lambda: "mark." in saying(this.tour)[0], "the line is stopped")
+
+
 def most(spans: list[Span], kind: str, share: float) -> float:
     return sorted(getattr(span, kind) for span in spans)[int((len(spans) - 1) * share)]
 
@@ -132,9 +144,10 @@ def do_the_sweeps(tour: Tour) -> None:
     announcements = Announcements()
     this = Try(tour)
     choose_a_target(tour, this)
-    for number in range(SWEEPS):
-        this.sweep(LATENESS + OFFSETS[(number - 2) % len(OFFSETS)] * STEP)
-        if number == 3:
+    get_used_to_it(this)
+    for number, steps in enumerate(OFFSETS):
+        this.sweep(LATENESS + steps * STEP)
+        if number == 1:
             tour.picture("sweep")
             check(not this.column.keys_are_free(), "other programs get the keys")
     until(lambda: saying(tour)[0].startswith("You stopped"), "the result is told")

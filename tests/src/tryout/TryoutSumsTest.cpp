@@ -241,8 +241,11 @@ TEST(TryoutAdvice, SteadinessIsMeasuredWhereThereWasSomething) {
     record.minTriggerDuration = 0.1;
     advice.pointerTime = 8;
     EXPECT_EQ(keysOf(), "scanner.afterClickDelay scanner.preScanDelay scanner.pointerScanTime ");
-    found.preScanDelay = 30; // a rest
+    found.preScanDelay = 30; // more than can be set
     EXPECT_EQ(keysOf(), "scanner.afterClickDelay scanner.pointerScanTime ");
+    measured.trials[1].ready = 1;
+    measured.trials[2].ready = 2.5; // a rest
+    EXPECT_FALSE(steady(measured).preScanDelay);
     measured.extras[1].hold = 0.4;
     found = steady(measured);
     EXPECT_TRUE(found.holdsOverlap && !found.minTriggerDuration);
