@@ -98,10 +98,6 @@ class Control:
         """Does its first action, as assistive technology does."""
         check(Atspi.Action.do_action(self._node, 0), f"“{self.name}” has no action")
 
-    def press(self) -> None:
-        """As assistive technology does."""
-        check(Atspi.Action.do_action(self._node, 0), f"“{self.name}” can’t be pressed")
-
     def shown(self) -> Iterator["Control"]:
         """Itself and all beneath it that isn't on a hidden page."""
         if not self.has(Atspi.StateType.SHOWING):
@@ -134,8 +130,15 @@ class Screen:
         except GLib.Error:
             return []
 
+    def of_role(self, role: str) -> Iterator[tuple[Control, str]]:
+        """What is shown of the role, with the names."""
+        for each in self.shown():
+            with suppress(GLib.Error):  # it may just have gone
+                if each.role == role:
+                    yield each, each.name
+
     def names(self, role: str) -> list[str]:
-        return [each.name for each in self.shown() if each.role == role]
+        return [name for _, name in self.of_role(role)]
 
     def check_names(self) -> None:
         """Every control that the keyboard can reach must have a name of its own."""
@@ -148,12 +151,10 @@ class Screen:
     def find(self, name: str, role: str) -> Control:
         """Waits for the control. It must be the only one of its name and role."""
 
-        def named() -> list[Control]:
-            with suppress(GLib.Error):  # some of it may be going
-                return [each for each in self.shown() if each.role == role and each.name == name]
-            return []
-
-        controls = until(named, f"{role} “{name}” is on the screen")
+        controls = until(
+            lambda: [each for each, its_name in self.of_role(role) if its_name == name],
+            f"{role} “{name}” is on the screen",
+        )
         check(len(controls) == 1, f"{len(controls)} of role {role} are named “{name}”")
         return controls[0]
 

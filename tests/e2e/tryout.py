@@ -104,7 +104,7 @@ def get_used_to_it(this: Try) -> None:
     def press_button() -> None:
         press("mousemove", *this.view().box.centre, "click", "3")
 
-    for act in (lambda: this.view().press()), press_button:
+    for act in (lambda: this.view().act()), press_button:
         until(lambda: saying(this.tour)[0].startswith(("Ready", "A line")), "the page is ready")
         act()
         until(lambda: saying(this.tour)[0] == "Go.", "the line goes")
