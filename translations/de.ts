@@ -312,6 +312,10 @@
         <comment>a heading of the manual page</comment>
         <translation>EINSTELLUNGEN</translation>
     </message>
+    <message>
+        <source>%1 (in use, changed)</source>
+        <translation>%1 (in Gebrauch, geändert)</translation>
+    </message>
 </context>
 <context>
     <name>Faults</name>
@@ -2187,6 +2191,10 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Put it back</source>
         <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>First type a name, or press one of the ready ones.</source>
+        <translation>Tippen Sie zuerst einen Namen, oder drücken Sie einen der fertigen.</translation>
     </message>
 </context>
 <context>

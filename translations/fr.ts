@@ -312,6 +312,10 @@
         <comment>a heading of the manual page</comment>
         <translation>RÉGLAGES</translation>
     </message>
+    <message>
+        <source>%1 (in use, changed)</source>
+        <translation>%1 (utilisé, modifié)</translation>
+    </message>
 </context>
 <context>
     <name>Faults</name>
@@ -2187,6 +2191,10 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>Put it back</source>
         <translation>Revenir en arrière</translation>
+    </message>
+    <message>
+        <source>First type a name, or press one of the ready ones.</source>
+        <translation>Tapez d’abord un nom, ou pressez un de ceux tout prêts.</translation>
     </message>
 </context>
 <context>

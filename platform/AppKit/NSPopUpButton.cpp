@@ -7,6 +7,14 @@
 
 #include <algorithm>
 
+namespace {
+
+QString toQString(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+} // namespace
+
 void NSPopUpButton::attachWidget(QWidget* widget) {
     NSControl::attachWidget(widget);
     auto* button = static_cast<PopUpButtonWidget*>(widget);
@@ -27,14 +35,11 @@ void NSPopUpButton::attachWidget(QWidget* widget) {
     };
 }
 
-void NSPopUpButton::setTitle(std::string_view utf8) {
+void NSPopUpButton::setTitle(std::string_view utf8, std::string_view brief) {
     auto* button = static_cast<PopUpButtonWidget*>(widget());
-    const QString title = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-    const QVariant brief = button->property("shortText");
-    const bool isBrief = brief.isValid() && button->text() == brief.toString();
-    button->setProperty("longText", title);
-    if (!isBrief)
-        button->setText(title);
+    button->setProperty("longText", toQString(utf8));
+    button->setProperty("shortText", toQString(brief));
+    button->setText(toQString(button->property("isShort").toBool() ? brief : utf8));
 }
 
 void NSPopUpButton::addItemWithTitle(std::string_view utf8) {

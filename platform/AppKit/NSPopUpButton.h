@@ -29,9 +29,9 @@ class NSPopUpButton final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;
 
-    /// Another caption than the form's, in UTF-8. Where the form's property shortText stands in for
-    /// the caption it stays in sight.
-    void setTitle(std::string_view utf8);
+    /// Another caption than the form's, and the one to wear where there is little room, as the
+    /// form's property shortText; in UTF-8.
+    void setTitle(std::string_view utf8, std::string_view brief);
 
     /// Adds an item at the end. It replaces the item of the same title, if there is one, which
     /// dies.

@@ -38,17 +38,30 @@ int done(const std::string& fault) {
     return fault.empty() ? int{kCommandDone} : commandFailed(fault);
 }
 
+/// "Tired (in use, changed)"
+std::string listedProfile(const std::string& name, bool isInUse, bool isChanged) {
+    if (!isInUse)
+        return name;
+    return filled(isChanged ? localized("Commands", "%1 (in use, changed)")
+                            : localized("Commands", "%1 (in use)"),
+                  {name});
+}
+
 int listProfiles(const CommandLine& line) {
     const std::string current = currentProfile();
+    const PrefsRecord now = currentSettings();
     std::string items;
     for (const std::string& name : profileNames()) {
-        const bool isCurrent = name == current;
+        const bool isInUse = name == current;
+        const bool isChanged = isInUse && differences(now, readProfile(name, now).record).any();
         if (line.json)
-            items += (items.empty() ? "" : ",\n ") +
-                     JsonObject().add("name", name).add("inUse", isCurrent ? "yes" : "no").text();
+            items += (items.empty() ? "" : ",\n ") + JsonObject()
+                                                         .add("name", name)
+                                                         .add("inUse", isInUse ? "yes" : "no")
+                                                         .add("changed", isChanged ? "yes" : "no")
+                                                         .text();
         else
-            std::puts(
-                (isCurrent ? filled(localized("Commands", "%1 (in use)"), {name}) : name).c_str());
+            std::puts(listedProfile(name, isInUse, isChanged).c_str());
     }
     if (line.json)
         std::printf("[%s]\n", items.c_str());

@@ -62,6 +62,8 @@ void ChoiceGrid::reload() {
     for (int i = count_ - 1; i >= 0; --i)
         if (source_->isChosen(i))
             chosen_ = i;
+    if (chosen_ >= 0 && !isFirstResponder())
+        cursor_ = chosen_; // where the keyboard will begin
     if (source_) {
         const int rows = (count_ + columns() - 1) / columns();
         const float width = source_->isList() ? kLeastListWidth : kColumns * (kSide + kGap) - kGap;

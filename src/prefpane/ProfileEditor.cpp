@@ -89,13 +89,15 @@ SettingSet ProfileEditor::changesBy(const Profile& profile) const {
 void ProfileEditor::showMenuTitle() {
     const Profile* profile = find(inUse_);
     if (!profile) {
-        menu->setTitle(localized("Profiles", "Profiles"));
-        menu->setAccessibilityLabel(localized("Profiles", "Profiles"));
+        const std::string title = localized("Profiles", "Profiles");
+        menu->setTitle(title, title);
+        menu->setAccessibilityLabel(title);
         return;
     }
     const bool changed = isChanged(*profile);
-    menu->setTitle(changed ? named(LOCALIZABLE("Profiles", "%1, changed"), shortened(inUse_))
-                           : shortened(inUse_));
+    const std::string title = shortened(inUse_);
+    menu->setTitle(changed ? named(LOCALIZABLE("Profiles", "%1, changed"), title) : title,
+                   changed ? title + " *" : title);
     menu->setAccessibilityLabel(named(changed ? LOCALIZABLE("Profiles", "Profile: %1, changed")
                                               : LOCALIZABLE("Profiles", "Profile: %1"),
                                       inUse_));
@@ -244,7 +246,16 @@ void ProfileEditor::updateChosen() {
 }
 
 void ProfileEditor::saveNew() {
-    save(name->stringValue());
+    if (hasName())
+        save(name->stringValue());
+}
+
+bool ProfileEditor::hasName() {
+    if (!name->stringValue().empty())
+        return true;
+    tell(localized("Profiles", "First type a name, or press one of the ready ones."));
+    name->window().makeFirstResponder(name);
+    return false;
 }
 
 /// Over one of the same name, too, which can be put back.
@@ -254,10 +265,10 @@ void ProfileEditor::save(const std::string& profile) {
     const bool wasInUse = inUse_ == profile;
     if (!succeeded(::saveProfile(profile, prefs), kCannotSave, profile))
         return;
-    setCurrentProfile(profile);
-    chosen_ = profile;
     name->setStringValue("");
     load();
+    setInUse(profile);
+    show();
     target_.noteProfile();
     const std::string text =
         named(LOCALIZABLE("Profiles", "The settings are saved as “%1”."), profile);
@@ -284,8 +295,8 @@ void ProfileEditor::putBack(const Profile& profile, bool wasInUse) {
 
 void ProfileEditor::renameChosen() {
     const std::string old = chosen_, now = name->stringValue();
-    if (!succeeded(::renameProfile(old, now),
-                   LOCALIZABLE("Profiles", "“%1” couldn’t be renamed: %2."), old))
+    if (!hasName() || !succeeded(::renameProfile(old, now),
+                                 LOCALIZABLE("Profiles", "“%1” couldn’t be renamed: %2."), old))
         return;
     chosen_ = now;
     name->setStringValue("");

@@ -93,6 +93,8 @@ private:
     void addItem(const std::string& title, const char* action, int tag);
     void use(Profile profile);
     void save(const std::string& profile);
+    /// Whether there is one in the field; else it is asked for.
+    bool hasName();
     /// Away from a button that is about to be disabled, which would hand the keyboard to the next.
     void leaveButtons();
     void putBack(const Profile& profile, bool wasInUse);

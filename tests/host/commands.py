@@ -51,6 +51,10 @@ def without_a_window():
     run("reset", "all")
     expect("10.0 sec", "get", "scanner.lineScanTime")
     expect("Line scan time: 10.0 to 12.5 sec", "profile", "use", "Tired")
+    run("set", "soundLevel", "49")
+    expect("Tired (in use, changed)", "profile", "list")
+    expect("Volume: 49 to 50", "profile", "use", "Tired")
+    expect('"inUse": "yes", "changed": "no"', "profile", "list", "--json")
     run("export", "all.plist")
     run("reset", "scanner.lineScanTime")
     with open("all.plist") as file:

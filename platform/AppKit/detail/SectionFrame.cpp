@@ -198,6 +198,7 @@ void SectionFrame::fitHeader() {
         const QString full = button->property("longText").toString();
         if (button->accessibleName().isEmpty())
             button->setAccessibleName(withoutMnemonic(full));
+        button->setProperty("isShort", isNarrow_);
         button->setText(isNarrow_ ? brief.toString() : full);
         button->setShortcut(QKeySequence::mnemonic(full));
     }

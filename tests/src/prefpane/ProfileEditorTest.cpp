@@ -144,7 +144,7 @@ TEST_F(ProfileEditorTest, WhatCannotBeDoneIsToldAndChangesNothing) {
     EXPECT_EQ(shown(), "Profiles");
     find<QLineEdit>("profileName")->clear();
     click("saveProfileBtn");
-    EXPECT_EQ(told(), "“” couldn’t be saved: a profile needs a name.");
+    EXPECT_EQ(told(), "First type a name, or press one of the ready ones.");
 }
 
 } // namespace
