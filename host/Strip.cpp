@@ -2,6 +2,7 @@
 #include "host/Strip.h"
 
 #include "platform/AppKit/UserMessages.h"
+#include "platform/AppKit/detail/Announcement.h"
 
 #include <QAccessibleWidget>
 #include <QBoxLayout>
@@ -86,6 +87,7 @@ void Strip::showCurrent() {
     arrangeButtons();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+    announce(text);
 }
 
 void Strip::addButton(const QString& label, std::function<void()> press) {

@@ -2,6 +2,7 @@
 #include "platform/AppKit/NSView.h"
 
 #include "platform/AppKit/NSEvent.h"
+#include "platform/AppKit/detail/Announcement.h"
 #include "platform/AppKit/detail/KeyboardFocus.h"
 #include "platform/AppKit/detail/ViewWidget.h"
 
@@ -86,8 +87,11 @@ void NSView::setAccessibilityLabel(std::string_view label) {
 }
 
 void NSView::setAccessibilityHelp(std::string_view help) {
-    widget_->setAccessibleDescription(
-        QString::fromUtf8(help.data(), static_cast<qsizetype>(help.size())));
+    const auto text = QString::fromUtf8(help.data(), static_cast<qsizetype>(help.size()));
+    if (text == widget_->accessibleDescription())
+        return;
+    widget_->setAccessibleDescription(text);
+    announceDescription(*widget_);
 }
 
 bool NSView::isFirstResponder() const {

@@ -24,6 +24,15 @@ def forbid_the_notice(desktop) -> None:
     desktop.set_for_all_users({DATE: NEVER, "firstStepsSeen": True})
 
 
+def ask_for_help(tour) -> str:
+    """Press F1"""
+    press("key", "F1")
+    page = until(lambda: tour.opened.exists() and tour.opened.read_text(), "a page opens").strip()
+    check(page.endswith("/help/index.html"), f"{page} was opened")
+    check("<h1>" in Path(page.removeprefix("file://")).read_text(), "it is no page of the help")
+    return "the help opens in the browser"
+
+
 def dismiss_the_notice(tour) -> str:
     """Meet the notice about assistive access, and dismiss it"""
     heard = []  # the names of what assistive technology is told to have come into sight

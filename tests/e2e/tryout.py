@@ -43,8 +43,12 @@ class Announcements:
 
     def __init__(self) -> None:
         self._texts: list[str] = []
-        self._listener = Atspi.EventListener.new(lambda event: self._texts.append(event.any_data))
-        self._listener.register("object:announcement")
+        self._listener = Atspi.EventListener.new(self._hear)
+        self._listener.register("object:property-change:accessible-description")
+
+    def _hear(self, event) -> None:
+        if isinstance(event.any_data, str):
+            self._texts.append(event.any_data)
 
     def heard(self) -> list[str]:
         while GLib.MainContext.default().iteration(False):

@@ -1,46 +1,58 @@
 // SPDX-License-Identifier: MIT
+#include "platform/AppKit/detail/Announcement.h"
+
 #include "platform/AppKit/NSAccessibility.h"
-#include "platform/AppKit/NSView.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QWidget>
 
-namespace {
-
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
 
-/// Qt announces from 6.8 on. Before, the signal goes out beside Qt's own, on the connection that it
-/// keeps to assistive technology and in the name that it gives the widget there.
-void announce(QWidget* widget, const QString& text) {
-    QAccessibleInterface* speaker = QAccessible::queryAccessibleInterface(widget);
+/// Qt announces from 6.8 on, and what it tells of a new description has no text in it. So the text
+/// goes out beside Qt's own signals, on the connection that it keeps to assistive technology, as
+/// the description of what has the keyboard: that is what screen readers of its time say.
+void announce(const QString& text) {
+    const QWidget* focus = QApplication::focusWidget();
     const QDBusConnection bus(QStringLiteral("a11y"));
-    if (!speaker || !bus.isConnected())
+    if (!QAccessible::isActive() || !focus || !bus.isConnected())
         return;
-    constexpr int kPolitely = 1; // after what is being said
+    QAccessibleInterface* speaker =
+        QAccessible::queryAccessibleInterface(const_cast<QWidget*>(focus));
+    if (QAccessibleInterface* inside = speaker ? speaker->focusChild() : nullptr)
+        speaker = inside;
+    if (!speaker)
+        return;
     auto signal = QDBusMessage::createSignal(
         QStringLiteral("/org/a11y/atspi/accessible/%1").arg(QAccessible::uniqueId(speaker)),
-        QStringLiteral("org.a11y.atspi.Event.Object"), QStringLiteral("Announcement"));
-    signal << QString() << kPolitely << 0 << QVariant::fromValue(QDBusVariant(text))
-           << QVariantMap();
+        QStringLiteral("org.a11y.atspi.Event.Object"), QStringLiteral("PropertyChange"));
+    signal << QStringLiteral("accessible-description") << 0 << 0
+           << QVariant::fromValue(QDBusVariant(text)) << QVariantMap();
     bus.send(signal);
+}
+
+void announceDescription(const QWidget& widget) {
+    if (widget.hasFocus())
+        announce(widget.accessibleDescription());
 }
 
 #else
 
-void announce(QWidget* widget, const QString& text) {
-    QAccessibleAnnouncementEvent event(widget, text);
-    QAccessible::updateAccessibility(&event);
+void announce(const QString& text) {
+    if (QWidget* focus = QApplication::focusWidget(); focus && QAccessible::isActive()) {
+        QAccessibleAnnouncementEvent event(focus, text);
+        QAccessible::updateAccessibility(&event);
+    }
 }
+
+void announceDescription(const QWidget&) {}
 
 #endif
 
-} // namespace
-
-void NSAccessibilityPostNotification(NSView* view, NSAccessibilityAnnouncement,
+void NSAccessibilityPostNotification(NSView*, NSAccessibilityAnnouncement,
                                      const std::string& text) {
-    if (QAccessible::isActive())
-        announce(view->widget(), QString::fromStdString(text));
+    announce(QString::fromStdString(text));
 }

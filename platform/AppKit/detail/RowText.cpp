@@ -29,8 +29,11 @@ RowText::RowText(QWidget& row, const QString& captionText, const QString& explan
     : caption(makeLabel(row, captionText, "Title")),
       explanation(explanationText.isEmpty() ? nullptr
                                             : makeLabel(row, explanationText, "Explanation")) {
-    if (explanation)
-        explanation->setProperty("textColor", QStringLiteral("secondaryLabelColor"));
+    if (!explanation)
+        return;
+    explanation->setProperty("textColor", QStringLiteral("secondaryLabelColor"));
+    // A screen reader that comes into a card reads out all of its labels that belong to nothing.
+    explanation->setBuddy(&row);
 }
 
 QLayout* RowText::layout() const {

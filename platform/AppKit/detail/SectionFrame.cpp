@@ -6,6 +6,7 @@
 #include "platform/AppKit/detail/RowText.h"
 #include "platform/AppKit/detail/SectionBar.h"
 
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QMenu>
@@ -31,9 +32,22 @@ constexpr int kMostNumbered = 9;
 constexpr int kFrame = 48;  // points, at most, of the window
 constexpr int kHeader = 70; // above this frame
 
+/// To Qt a stack is a layered pane and a line around something a frame, and screen readers say so
+/// on the way into each.
+QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
+    const bool meansNothing =
+        className == QLatin1String("QStackedWidget") || className == QLatin1String("QFrame");
+    return meansNothing ? new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Client)
+                        : nullptr;
+}
+
 } // namespace
 
 void SectionFrame::build() {
+    [[maybe_unused]] static const bool isKnown = [] {
+        QAccessible::installFactory(makeInterface);
+        return true;
+    }();
     pages_ = findChild<QStackedWidget*>(QString(), Qt::FindDirectChildrenOnly);
     bar_ = new SectionBar(this);
     bar_->setObjectName(objectName() + QStringLiteral("Bar"));

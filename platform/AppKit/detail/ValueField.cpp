@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/ValueField.h"
 
-#include <QAccessible>
+#include "platform/AppKit/detail/Announcement.h"
+
 #include <QKeyEvent>
 #include <QLabel>
 
@@ -41,8 +42,7 @@ void ValueField::refuse(const QString& why) {
         reason_ = explanation_->text();
         explanation_->setText(QStringLiteral("<b>%1</b>").arg(why.toHtmlEscaped()));
     }
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    announce(why);
 }
 
 void ValueField::withdrawRefusal() {
