@@ -2864,6 +2864,10 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>Target: %g mm</source>
         <translation>Ziel: %g mm</translation>
     </message>
+    <message>
+        <source>The line</source>
+        <translation>Die Linie</translation>
+    </message>
 </context>
 <context>
     <name>Units</name>

@@ -2864,6 +2864,10 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <source>Target: %g mm</source>
         <translation>Cible&#xa0;: %g mm</translation>
     </message>
+    <message>
+        <source>The line</source>
+        <translation>La ligne</translation>
+    </message>
 </context>
 <context>
     <name>Units</name>

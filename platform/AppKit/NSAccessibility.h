@@ -64,9 +64,12 @@ enum NSAccessibilityNotification {
 void NSAccessibilityPostNotification(NSView* view, int index,
                                      NSAccessibilityNotification notification);
 
-enum NSAccessibilityViewNotification { NSAccessibilityTitleChangedNotification };
+enum NSAccessibilityViewNotification {
+    NSAccessibilityTitleChangedNotification,
+    NSAccessibilityValueChangedNotification,
+};
 
-/// Tells a running screen reader that the view itself is called something else.
+/// Tells a running screen reader that the view itself is called, or shows, something else.
 void NSAccessibilityPostNotification(NSView* view, NSAccessibilityViewNotification notification);
 
 enum NSAccessibilityAnnouncement { NSAccessibilityAnnouncementRequestedNotification };

@@ -78,6 +78,7 @@ void TryView::setSaying(const std::string& saying) {
         return;
     saying_ = saying;
     NSAccessibilityPostNotification(this, NSAccessibilityAnnouncementRequestedNotification, saying);
+    NSAccessibilityPostNotification(this, NSAccessibilityValueChangedNotification);
 }
 
 bool TryView::showsLine() const {
@@ -189,13 +190,17 @@ bool TryView::performKeyEquivalent(NSEvent* event) {
     return isOurs;
 }
 
+std::string TryView::accessibilityTitle() const {
+    return localized("Try", "The line");
+}
+
 std::string TryView::accessibilityValue() const {
     if (session_->phase() == Phase::Done)
-        return {};
+        return saying_;
     char text[200];
     std::snprintf(text, sizeof text, localized("Try", "The mark is %.1f mm from the top.").c_str(),
                   session_->mark());
-    return localizedNumbers(text);
+    return saying_ + ' ' + localizedNumbers(text);
 }
 
 void TryView::accessibilityPerformPress() {

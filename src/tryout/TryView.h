@@ -33,6 +33,7 @@ public:
     void setSession(const tryout::Session* session, double scale);
 
     /// What a screen reader says of it, in UTF-8; when it changes, a running one speaks it at once.
+    /// The title stays, or it would be heard twice.
     void setSaying(const std::string& saying);
 
     /// A frame is due: what has moved since the last one is drawn again.
@@ -49,9 +50,9 @@ public:
 
     bool acceptsFirstResponder() const override { return true; }
 
-    std::string accessibilityTitle() const override { return saying_; }
+    std::string accessibilityTitle() const override;
 
-    /// Where the mark stands.
+    /// What was said last, and where the mark stands.
     std::string accessibilityValue() const override;
 
     void accessibilityPerformPress() override;

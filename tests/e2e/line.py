@@ -10,6 +10,7 @@ SPACE = 0x20
 SUCCESS, ASYNCHRONOUS, CURRENT_TIME = 0, 1, 0  # X's
 BYTES_A_PIXEL = 4  # blue, green, red and nothing
 HELD = 0.08  # seconds
+STANDS = 0.1  # seconds, some frames
 
 
 class Span(NamedTuple):
@@ -75,6 +76,12 @@ class Column(Server):
         """Where the middle of the dark red line is, in pixels from the top; nothing without one."""
         rows = [row for row, (red, green) in enumerate(self.pixels()) if red > 80 > green]
         return sum(rows) / len(rows) + 0.5 if rows else None
+
+    def stopped_line(self) -> float | None:
+        """The same, once it moves no more; nothing while it does."""
+        place = self.line()
+        time.sleep(STANDS)
+        return place if place == self.line() else None
 
     def mark(self) -> int:
         """How many rows are the mark's: neither white nor the frame's, at the edges."""

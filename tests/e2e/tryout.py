@@ -35,6 +35,7 @@ TARGET = 12  # millimetres
 FRAME = 1 / 60  # seconds
 PRESS = 0.008 + FRAME
 
+HELP = "Press any key or button, or"  # of the view
 NEVER = 0x7FFFFFFF  # the notice about assistive access comes no more
 
 
@@ -67,12 +68,10 @@ def store_settings(desktop: Desktop) -> None:
     }))
 
 
-def saying(tour: Tour) -> tuple[str, str]:
+def saying(tour: Tour) -> str:
     """What a screen reader says of the place where the line sweeps."""
-    for each in tour.screen.shown():
-        if "Press any key or button" in each.description:
-            return each.name, each.description
-    return "", ""
+    described = (each.description for each in tour.screen.shown())
+    return next((text for text in described if HELP in text), "").split(HELP)[0]
 
 
 class Try:
@@ -88,18 +87,18 @@ class Try:
 
     def view(self) -> Control:
         return next(each for each in self.tour.screen.shown()
-                    if "Press any key or button" in each.description)
+                    if HELP in each.description)
 
     def sweep(self, offset: float) -> None:
-        until(lambda: saying(self.tour)[0].startswith(("Ready", "A line")), "the page is ready")
-        mark = float(re.search(r"mark is ([\d.]+) mm", saying(self.tour)[1]).group(1))
+        until(lambda: saying(self.tour).startswith(("Ready", "A line")), "the page is ready")
+        mark = float(re.search(r"mark is ([\d.]+) mm", saying(self.tour)).group(1))
         aim = mark / MILLIMETRES_A_PIXEL / SPEED + offset
         started = self.switch.press()
         frames = watch(self.column, started.least + aim - 0.02)
         self.late += [seen.since(started) - place / SPEED for place, seen in frames]
         time.sleep(max(started.least + aim - time.monotonic(), 0))
         pressed = self.switch.press()
-        place = until(lambda: self.column.line(), "the line stands")
+        place = until(self.column.stopped_line, "the line stands")
         self.mistaken.append(pressed.since(started) - place / SPEED)
 
 
@@ -109,11 +108,11 @@ def get_used_to_it(this: Try) -> None:
         press("mousemove", *this.view().box.centre, "click", "3")
 
     for act in (lambda: this.view().act()), press_button:
-        until(lambda: saying(this.tour)[0].startswith(("Ready", "A line")), "the page is ready")
+        until(lambda: saying(this.tour).startswith(("Ready", "A line")), "the page is ready")
         act()
-        until(lambda: saying(this.tour)[0] == "Go.", "the line goes")
+        until(lambda: saying(this.tour).startswith("Go."), "the line goes")
         act()
-        until(lambda: "mark." in saying(this.tour)[0], "the line is stopped")
+        until(lambda: "mark. The" in saying(this.tour), "the line is stopped")
 
 
 def most(spans: list[Span], kind: str, share: float) -> float:
@@ -154,12 +153,12 @@ def do_the_sweeps(tour: Tour) -> None:
         if number == 1:
             tour.picture("sweep")
             check(not this.column.keys_are_free(), "other programs get the keys")
-    until(lambda: saying(tour)[0].startswith("You stopped"), "the result is told")
+    until(lambda: saying(tour).startswith("You stopped"), "the result is told")
     until(this.column.keys_are_free, "other programs get keys again")
     tour.picture("result")
     print(f"Watched: {figures(this.late, this.mistaken)}.", flush=True)
     heard = announcements.heard()
-    for cue in "Ready", "Go.", "On the mark", saying(tour)[0]:
+    for cue in "Ready", "Go.", "On the mark", saying(tour).strip():
         check(any(text.startswith(cue) for text in heard), f"“{cue}” wasn’t announced: {heard}")
 
 
@@ -175,13 +174,13 @@ def check_history(tour: Tour, out: Path) -> str:
 
 
 def take_the_advice(tour: Tour) -> str:
-    text = saying(tour)[0]
+    text = saying(tour).strip()
     button = next(n for n in tour.screen.names("push button") if n.startswith("Try it at"))
     advised = float(button.split()[-1])
     tour.log.skip()
     tour.screen.click(button, "push button")
     account = tour.log.expect_change(SCAN_SPEED, "lineScanTime", advised)
-    until(lambda: saying(tour)[0].startswith("A line"), "another try begins")
+    until(lambda: saying(tour).startswith("A line"), "another try begins")
     tour.screen.click("Leave", "push button")
     slider = tour.screen.find("Line scan time", "slider")
     check(slider.value == advised, f"the slider is at {slider.value}")

@@ -92,9 +92,11 @@ void NSAccessibilityPostNotification(NSView* view, int index,
         post(view->widget(), index, QAccessible::Focus);
 }
 
-void NSAccessibilityPostNotification(NSView* view, NSAccessibilityViewNotification) {
+void NSAccessibilityPostNotification(NSView* view, NSAccessibilityViewNotification notification) {
     if (!QAccessible::isActive())
         return;
-    QAccessibleEvent event(view->widget(), QAccessible::NameChanged);
+    const bool isTitle = notification == NSAccessibilityTitleChangedNotification;
+    QAccessibleEvent event(view->widget(),
+                           isTitle ? QAccessible::NameChanged : QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&event);
 }
