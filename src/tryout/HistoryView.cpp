@@ -32,8 +32,9 @@ void drawText(const std::string& text, const NSRect& place) {
 /// A line between two points, in steps of a point.
 void drawLine(NSPoint from, NSPoint to) {
     const float length = std::max(std::abs(to.x - from.x), std::abs(to.y - from.y));
-    for (float done = 0; done <= length; ++done) {
-        const float share = length > 0 ? done / length : 0;
+    const int steps = std::max(static_cast<int>(std::ceil(length)), 1);
+    for (int step = 0; step <= steps; ++step) {
+        const float share = static_cast<float>(step) / static_cast<float>(steps);
         NSRectFill({from.x + (to.x - from.x) * share - kLineWidth / 2,
                     from.y + (to.y - from.y) * share - kLineWidth / 2, kLineWidth, kLineWidth});
     }

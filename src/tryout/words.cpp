@@ -12,10 +12,11 @@ namespace tryout {
 namespace {
 
 [[gnu::format(printf, 1, 2)]] std::string format(const char* form, ...) {
+    const std::string own = localized("Try", form);
     char text[1000];
     std::va_list values;
     va_start(values, form);
-    std::vsnprintf(text, sizeof text, localized("Try", form).c_str(), values);
+    std::vsnprintf(text, sizeof text, own.c_str(), values);
     va_end(values);
     return localizedNumbers(text);
 }
