@@ -66,9 +66,9 @@ void addStartFigures() {
     setenv("QT_QPA_GENERIC_PLUGINS", "frameprobe", 1);
     setenv("QT_LOGGING_RULES", "*.warning=false", 1);
     addFigure(
-        "process start until the first frame", {Limit::Times, 1.3},
+        "process start until the first frame", {Limit::Times, 1.2},
         [] { return startPane().seconds; }, [] { return startBare().seconds; });
     addFigure(
-        "resident memory after the first frame", {Limit::Bytes, 8 << 20},
+        "resident memory after the first frame", {Limit::Bytes, 5 << 20},
         [] { return startPane().bytes; }, [] { return startBare().bytes; });
 }

@@ -33,13 +33,15 @@ void wranglerShowAgentState() {
         theWrangler->updateMasterState();
 }
 
-std::span<const Outlet> PreferenceWrangler::outlets() const {
+/// What the interface file can fill and send besides what the table of settings says.
+struct PreferenceWrangler::Tables {
     using W = PreferenceWrangler;
     using Keys = HotKeyEditor;
     using Palette = PaletteEditor;
     using Profiles = ProfileEditor;
     using Builder = HotKeyBuilder;
-    static constexpr Outlet own[] = {
+
+    static constexpr Outlet kOutlets[] = {
         outletRow<&W::activateAtLaunch_>("activateAtLaunch"),
         outletRow<&W::palette_, &Palette::addButtonBtn>("addButtonBtn"),
         outletRow<&W::palette_, &Palette::buttonContentIconCheck>("buttonContentIconCheck"),
@@ -115,13 +117,8 @@ std::span<const Outlet> PreferenceWrangler::outlets() const {
         outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderOption>("builderOption"),
         outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderKey>("builderKey"),
     };
-    static const auto table = withSettings<Outlet>(own);
-    return table;
-}
 
-std::span<const Action> PreferenceWrangler::actions() const {
-    using W = PreferenceWrangler;
-    static constexpr Action own[] = {
+    static constexpr Action kActions[] = {
         actionRow<&W::showHelp>("showHelp:"),
         actionRow<&W::showFirstSteps>("showFirstSteps:"),
         actionRow<&W::undo>("undo:"),
@@ -167,7 +164,15 @@ std::span<const Action> PreferenceWrangler::actions() const {
         actionRow<&W::importSettings>("importSettings:"),
         actionRow<&W::exportSettings>("exportSettings:"),
     };
-    static const auto table = withSettings<Action>(own);
+};
+
+std::span<const Outlet> PreferenceWrangler::outlets() const {
+    static const auto table = withSettings<Outlet>(Tables::kOutlets);
+    return table;
+}
+
+std::span<const Action> PreferenceWrangler::actions() const {
+    static const auto table = withSettings<Action>(Tables::kActions);
     return table;
 }
 

@@ -222,6 +222,8 @@ public:
     void setCustomScanArea(NSButton* sender);
 
 private:
+    struct Tables;
+
     /// The pane's own; null while none is loaded.
     static const CFBundle* ownBundle();
     void noteStep();

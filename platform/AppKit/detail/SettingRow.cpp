@@ -11,25 +11,30 @@
 
 namespace {
 
-QLayout* moveLayout(QWidget& row, QWidget& into) {
-    into.setLayout(row.layout()); // which takes the widgets along
-    into.layout()->setContentsMargins(0, 0, 0, 0);
-    auto* controls = new QHBoxLayout;
-    controls->setContentsMargins(0, 0, 0, 0);
-    controls->addWidget(&into);
-    return controls;
+constexpr int kGap = 8; // points between neighbouring controls
+
+QHBoxLayout* makeLine(QWidget* parent) {
+    auto* line = new QHBoxLayout(parent);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(kGap);
+    return line;
 }
 
 } // namespace
 
 void SettingRow::build() {
+    const auto own = findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
     const QString caption = property("caption").toString();
     const RowText text(*this, caption, accessibleDescription());
     explanation_ = text.explanation;
     auto* putBack = new PutBackButton(this); // in the reading order before the controls
     auto* controls = new QWidget(this);
     controls->setObjectName(objectName() + QLatin1String("Controls"));
-    QLayout* arranged = moveLayout(*this, *controls);
+    QLayout* line = makeLine(controls);
+    for (QWidget* control : own)
+        line->addWidget(control);
+    QLayout* arranged = makeLine(nullptr);
+    arranged->addWidget(controls);
     new RowLayout(this, text.layout(), arranged, putBack, rowIndent(*this));
     for (auto* each : controls->findChildren<QWidget*>()) {
         if (each->focusPolicy() & Qt::TabFocus) {

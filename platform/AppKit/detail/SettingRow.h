@@ -6,9 +6,10 @@
 
 #include <QWidget>
 
-/// A row of the form with any controls: those that the form lays out in it. It builds the caption
-/// and the explanation, from the properties `caption` and accessibleDescription, and puts the
-/// controls at the right of them. Alt with the caption's letter acts on the row's first control.
+/// A row of the form with any controls: its children in the form, side by side. It builds the
+/// caption and the explanation, from the properties `caption` and accessibleDescription, and puts
+/// the controls at the right of them. Alt with the caption's letter acts on the row's first
+/// control.
 class SettingRow final : public QWidget, public FormPart, public CompactRow {
 public:
     using QWidget::QWidget;

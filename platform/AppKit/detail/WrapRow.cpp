@@ -7,11 +7,13 @@
 
 namespace {
 
+constexpr int kGap = 8; // points between neighbouring controls
+
 class WrapLayout final : public QLayout {
 public:
-    WrapLayout(QWidget* parent, int spacing) : QLayout(parent) {
+    explicit WrapLayout(QWidget* parent) : QLayout(parent) {
         setContentsMargins(0, 0, 0, 0);
-        setSpacing(spacing);
+        setSpacing(kGap);
     }
 
     ~WrapLayout() override { qDeleteAll(items_); }
@@ -81,9 +83,7 @@ private:
 } // namespace
 
 void WrapRow::build() {
-    const int spacing = layout()->spacing();
-    delete layout(); // which leaves the widgets
-    auto* wrapping = new WrapLayout(this, spacing);
+    auto* wrapping = new WrapLayout(this);
     for (auto* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
         wrapping->addWidget(child);
 }
