@@ -35,6 +35,7 @@ void History::note(const PrefsRecord& record, double time, const std::string& pr
 
 bool History::joinsLast(const SettingSet& changed, double time) const {
     return !steps_.empty() && steps_.back().settings == changed && changed.count() == 1 &&
+           steps_.back().profileBefore == steps_.back().profileAfter &&
            isGradual(kSettings[firstOf(changed)]) && time - steps_.back().time <= kSameStepSeconds;
 }
 

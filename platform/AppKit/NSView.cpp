@@ -82,8 +82,9 @@ std::string NSView::accessibilityLabel() const {
 }
 
 void NSView::setAccessibilityLabel(std::string_view label) {
-    widget_->setAccessibleName(
-        QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())));
+    const QString name = QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size()));
+    if (name != widget_->accessibleName()) // or it would be told once more
+        widget_->setAccessibleName(name);
 }
 
 void NSView::setAccessibilityHelp(std::string_view help) {

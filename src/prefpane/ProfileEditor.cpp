@@ -46,6 +46,10 @@ constexpr char kPutBack[] = LOCALIZABLE("Profiles", "Put it back");
 
 } // namespace
 
+ProfileEditor::~ProfileEditor() {
+    withdrawMessage(kChangeTopic); // its buttons act on this object
+}
+
 void ProfileEditor::setup(NSObject& menuTarget) {
     menuTarget_ = &menuTarget;
     menu->setDelegate(this);
@@ -235,10 +239,7 @@ void ProfileEditor::use(Profile profile) {
                              {refused[0].key, refused[0].reason});
     if (changes.none())
         return tell(text);
-    tell(text, {{localized("Profiles", kPutBack), [] {
-                     if (theWrangler)
-                         theWrangler->undoChange();
-                 }}});
+    tell(text, {{localized("Profiles", kPutBack), [this] { target_.undoChange(); }}});
 }
 
 void ProfileEditor::updateChosen() {
@@ -274,10 +275,8 @@ void ProfileEditor::save(const std::string& profile) {
         named(LOCALIZABLE("Profiles", "The settings are saved as “%1”."), profile);
     if (former.empty())
         return tell(text);
-    tell(text, {{localized("Profiles", kPutBack), [this, former, wasInUse] {
-                     if (theWrangler)
-                         putBack(former[0], wasInUse);
-                 }}});
+    tell(text, {{localized("Profiles", kPutBack),
+                 [this, former, wasInUse] { putBack(former[0], wasInUse); }}});
 }
 
 /// Gives a profile the settings again that it had.
@@ -318,10 +317,8 @@ void ProfileEditor::deleteChosen() {
     target_.noteProfile();
     tell(named(LOCALIZABLE("Profiles", "“%1” is deleted. The settings stay as they are."),
                former.name),
-         {{localized("Profiles", kPutBack), [this, former, wasInUse] {
-               if (theWrangler)
-                   putBack(former, wasInUse);
-           }}});
+         {{localized("Profiles", kPutBack),
+           [this, former, wasInUse] { putBack(former, wasInUse); }}});
 }
 
 void ProfileEditor::suggestName(const NSButton& sender) {

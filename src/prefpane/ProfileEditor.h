@@ -41,6 +41,8 @@ public:
     /// Not owned.
     explicit ProfileEditor(ProfileTarget& target) : target_(target) {}
 
+    ~ProfileEditor() override;
+
     /// The menu's items send their actions to `menuTarget`; not owned.
     void setup(NSObject& menuTarget);
     /// Reads all profiles and which one is in use, and shows them.

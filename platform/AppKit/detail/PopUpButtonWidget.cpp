@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int kMinimumHeight = 24; // points that a finger or a trembling hand needs
-constexpr int kLeastCaption = 88;  // points of width, to which a longer caption is shortened
+constexpr int kLeastCaption = 72;  // points of width, to which a longer caption is shortened
 constexpr int kTextFlags = Qt::TextShowMnemonic;
 
 } // namespace
