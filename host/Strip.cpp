@@ -60,6 +60,10 @@ Strip::Strip(QWidget* parent)
     showCurrent();
 }
 
+Strip::~Strip() {
+    setMessageListener({});
+}
+
 void Strip::showCurrent() {
     // Later: one of them may be the button whose press is being handled.
     for (auto* button : buttonRow_->findChildren<QPushButton*>()) {

@@ -13,6 +13,7 @@ class QPushButton;
 class Strip final : public QFrame {
 public:
     explicit Strip(QWidget* parent);
+    ~Strip() override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

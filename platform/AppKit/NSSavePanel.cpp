@@ -3,19 +3,24 @@
 
 #include "platform/AppKit/NSWindow.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QScreen>
 #include <QStandardPaths>
 
 namespace {
 
+constexpr QSize kFrame(16, 48); ///< left around the dialogue for the window manager's frame
+
 using Chosen = std::function<void(const std::string& path)>;
 
 QFileDialog* makeDialog(const NSWindow& window, const std::string& title, Chosen chosen) {
-    auto* dialog =
-        new QFileDialog(window.widget(), QString::fromStdString(title),
-                        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    auto* dialog = new QFileDialog(window.widget(), QString::fromStdString(title),
+                                   QDir(documents).exists() ? documents : QDir::homePath());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setMaximumSize(dialog->screen()->availableSize() - kFrame); // or it opens larger
     QObject::connect(dialog, &QFileDialog::fileSelected, dialog,
                      [chosen = std::move(chosen)](const QString& path) {
                          chosen(QFile::encodeName(path).toStdString());

@@ -7,7 +7,7 @@
 class NSWindow;
 
 /// Asks for the place of a file that is to be written, in the desktop's own dialogue where it has
-/// one. It begins in the user's documents.
+/// one. It begins in the user's documents, or else in the home folder.
 class NSSavePanel {
 public:
     virtual ~NSSavePanel() = default;

@@ -50,7 +50,7 @@ class Tour:
         self._pictures = 0
         self.opened = desktop.home / "opened"  # what a browser would show
         browser = desktop.folder / "bin/xdg-open"
-        browser.parent.mkdir()
+        browser.parent.mkdir(exist_ok=True)
         browser.write_text(f'#!/bin/sh\necho "$1" >{self.opened}\n')
         browser.chmod(0o700)
         os.environ["PATH"] = f"{browser.parent}:{os.environ['PATH']}"
