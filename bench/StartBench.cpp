@@ -4,6 +4,7 @@
 // (FrameProbe) tells when the frame is out.
 
 #include "bench/Figures.h"
+#include "tests/support/NoticeMuting.h"
 
 #include <csignal>
 #include <cstdint>
@@ -62,6 +63,7 @@ Start startBare() {
 } // namespace
 
 void addStartFigures() {
+    muteNotice(); // and the first steps: the form is what both show
     setenv("QT_PLUGIN_PATH", FRAME_PROBE_PATH, 1);
     setenv("QT_QPA_GENERIC_PLUGINS", "frameprobe", 1);
     setenv("QT_LOGGING_RULES", "*.warning=false", 1);

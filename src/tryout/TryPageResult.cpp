@@ -15,9 +15,9 @@ namespace {
 
 using Phase = tryout::Session::Phase;
 
-std::string withSeconds(const char* form, double seconds) {
+std::string withSeconds(const char* sentence, double seconds) {
     char text[200];
-    std::snprintf(text, sizeof text, localized("Try", form).c_str(), seconds);
+    std::snprintf(text, sizeof text, localized("Try", sentence).c_str(), seconds);
     return localizedNumbers(text);
 }
 

@@ -10,7 +10,7 @@ namespace tryout {
 
 namespace {
 
-constexpr char kDateForm[] = "%Y-%m-%d %H:%M";
+constexpr char kDateFormat[] = "%Y-%m-%d %H:%M";
 constexpr std::size_t kDateLength = 16;
 
 struct Column {
@@ -72,7 +72,7 @@ std::optional<PastTry> tryOf(std::string_view line) {
 std::string dateNow() {
     const std::time_t now = std::time(nullptr);
     char text[kDateLength + 1];
-    std::strftime(text, sizeof text, kDateForm, std::localtime(&now));
+    std::strftime(text, sizeof text, kDateFormat, std::localtime(&now));
     return text;
 }
 

@@ -11,11 +11,11 @@ namespace tryout {
 
 namespace {
 
-[[gnu::format(printf, 1, 2)]] std::string format(const char* form, ...) {
-    const std::string own = localized("Try", form);
+[[gnu::format(printf, 1, 2)]] std::string format(const char* sentence, ...) {
+    const std::string own = localized("Try", sentence);
     char text[1000];
     std::va_list values;
-    va_start(values, form);
+    va_start(values, sentence);
     std::vsnprintf(text, sizeof text, own.c_str(), values);
     va_end(values);
     return localizedNumbers(text);

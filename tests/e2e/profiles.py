@@ -13,7 +13,7 @@ if TYPE_CHECKING:
     from tests.e2e.tour import Tour
 
 PROGRAM = "korvex-preferences"
-PALETTE, TRIGGERS, SCAN_SPEED, HOT_KEYS = 8, 256, 512, 32  # groups of settings
+TRIGGERS, SCAN_SPEED, HOT_KEYS = 256, 512, 32  # groups of settings
 
 
 def expect_time(tour: "Tour", seconds: float) -> str:
@@ -85,7 +85,7 @@ def import_them(tour: "Tour") -> str:
     tour.screen.find("Use them", "push button")
     tour.picture("import-offered")
     tour.screen.click("Use them", "push button")
-    mask = PALETTE | TRIGGERS | SCAN_SPEED | HOT_KEYS
+    mask = TRIGGERS | SCAN_SPEED | HOT_KEYS
     sent = tour.log.expect_change(mask, "lineScanTime", 10.5)
     tour.ask_to_close()
     tour.log.expect("PPcl")

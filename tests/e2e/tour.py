@@ -16,7 +16,7 @@ import traceback
 from contextlib import suppress
 from pathlib import Path
 
-from tests.e2e import hotkeys, palette, profiles, startup, troubles
+from tests.e2e import hotkeys, profiles, startup, troubles
 from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import Desktop, exit_on_signals, process_of
 from tests.e2e.screen import Screen, press
@@ -32,7 +32,6 @@ CHANGED = {
     "scanner.canScanMenuBar": "no",
     "scanner.lineScanTime": "10.500000",
     "scanner.scanMode": "1",
-    **palette.CHANGED,
 }
 
 
@@ -186,7 +185,6 @@ STEPS = (
     look_at_the_tabs,
     change_three_settings,
     profiles.use_two_in_turn,
-    *palette.STEPS,
     *hotkeys.STEPS,
     startup.launch_at_login,
     profiles.export_them,

@@ -109,7 +109,8 @@ TEST_F(HotKeyTest, CapturesWhateverIsPressed) {
     for (const auto& test : cases) {
         SCOPED_TRACE(test.shown);
         click("scanKey");
-        for (const Key& key : {Key{KEY_F13, Qt::Key_Meta},       // a modifier by the layout
+        for (const Key& key : {Key{KEY_F13, Qt::Key_Meta},
+                               {KEY_CAPSLOCK},                   // modifiers by layout, by place
                                {KEY_CALC, Qt::Key_Calculator},   // one without a code
                                {KEY_Z, Qt::Key_Z, {}, 0, true}}) // held since before
             press(key);
