@@ -10,7 +10,7 @@
 #include <QShortcut>
 #include <QWindow>
 
-PaneWindow::PaneWindow(QWidget* pane) : paneSize_(pane->size().expandedTo(pane->sizeHint())) {
+PaneWindow::PaneWindow(QWidget* pane) : pane_(pane), formSize_(pane->size()) {
     auto* scroller = new QScrollArea;
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setFocusPolicy(Qt::NoFocus);
@@ -31,7 +31,8 @@ void PaneWindow::open() {
     create();
     // Left around the window for its frame, which isn't known before it is shown.
     constexpr QSize kFrame(16, 48);
-    resize(paneSize_.boundedTo(screen()->availableSize() - kFrame));
+    const QSize needed = pane_->sizeHint(); // now that all that it shows is there
+    resize(formSize_.expandedTo(needed).boundedTo(screen()->availableSize() - kFrame));
     windowHandle()->installEventFilter(this);
     show();
 }

@@ -26,5 +26,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    QSize paneSize_;
+    QWidget* pane_;
+    QSize formSize_;
 };

@@ -107,8 +107,10 @@ private:
 
 void CardColumns::build() {
     const int spacing = layout()->spacing();
+    const QMargins margins = layout()->contentsMargins();
     delete layout(); // which leaves the widgets
     auto* cards = new CardLayout(this, spacing);
+    cards->setContentsMargins(margins);
     for (auto* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
         cards->addWidget(child);
 }

@@ -41,6 +41,18 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
                         : nullptr;
 }
 
+/// Parts that were never shown don't tell the layouts around them that they need another size.
+void refreshSizes(const QWidget& pages) {
+    const auto parts = pages.findChildren<QWidget*>();
+    for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
+        (*part)->updateGeometry();
+        if (QLayout* layout = (*part)->layout()) {
+            layout->invalidate();
+            layout->activate();
+        }
+    }
+}
+
 } // namespace
 
 void SectionFrame::build() {
@@ -71,6 +83,7 @@ void SectionFrame::build() {
     button_ = window()->findChild<QPushButton*>(property("menuButton").toString());
     addSections();
     addShortcuts();
+    setPageMargins(false); // for sizeHint
     showCurrent();
 }
 
@@ -95,6 +108,7 @@ QSize SectionFrame::sizeHint() const {
     if (!bar_)
         return QWidget::sizeHint();
     const QSize room = screen()->availableSize() - QSize(kFrame, kFrame + kHeader);
+    refreshSizes(*pages_);
     const QSize one = sizeIn(1), two = sizeIn(2);
     return one.height() > room.height() && two.width() <= room.width() ? two : one;
 }
@@ -174,6 +188,14 @@ void SectionFrame::fitWindow() {
     setNarrow(button_ && (isLow_ || size.width() < kNarrow * line));
 }
 
+void SectionFrame::setPageMargins(bool narrow) {
+    const int aside = narrow ? kNarrowPageSide : kPageSide;
+    const int above = narrow ? kNarrowPageSide : kPageAbove;
+    for (auto* part : findChildren<QWidget*>())
+        if (part->property("pagePart").toBool())
+            part->layout()->setContentsMargins(aside, above, aside, above);
+}
+
 void SectionFrame::setNarrow(bool narrow) {
     isNarrow_ = narrow;
     const bool hadFocus = bar_->hasFocus() || (button_ && button_->hasFocus());
@@ -189,11 +211,7 @@ void SectionFrame::setNarrow(bool narrow) {
     layout()->itemAt(0)->layout()->setContentsMargins(side, side, side, side);
     if (button_)
         fitHeader();
-    const int aside = narrow ? kNarrowPageSide : kPageSide;
-    const int above = narrow ? kNarrowPageSide : kPageAbove;
-    for (auto* part : findChildren<QWidget*>())
-        if (part->property("pagePart").toBool())
-            part->layout()->setContentsMargins(aside, above, aside, above);
+    setPageMargins(narrow);
     update();
 }
 

@@ -47,6 +47,7 @@ private:
     void enterPage();
     void showCurrent();
     void fitWindow();
+    void setPageMargins(bool narrow);
     void setNarrow(bool narrow);
     void fitHeader();
     void setLow(bool low);
