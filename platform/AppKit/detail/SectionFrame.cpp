@@ -108,7 +108,8 @@ QSize SectionFrame::sizeHint() const {
     if (!bar_)
         return QWidget::sizeHint();
     const QSize room = screen()->availableSize() - QSize(kFrame, kFrame + kHeader);
-    refreshSizes(*pages_);
+    if (!isVisible()) // where layouts go on asking
+        refreshSizes(*pages_);
     const QSize one = sizeIn(1), two = sizeIn(2);
     return one.height() > room.height() && two.width() <= room.width() ? two : one;
 }
