@@ -6,6 +6,7 @@
 
 #include <QAccessibleWidget>
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
 
@@ -87,7 +88,7 @@ void Strip::showCurrent() {
     };
     for (const auto& button : current->message.buttons)
         addButton(QString::fromStdString(button.label), withdrawn(button.press));
-    addButton(tr("Hide this"), withdrawn({}));
+    addButton(QCoreApplication::translate("Strip", "Hide this"), withdrawn({}));
     arrangeButtons();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);

@@ -10,7 +10,9 @@
 #include "platform/CoreServices/Processes.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QIcon>
+#include <QLocale>
 #include <QTimer>
 
 #include <clocale>
@@ -122,6 +124,13 @@ int show(const Arguments& arguments, const QVariantMap& activation) {
     return QApplication::exec();
 }
 
+/// Qt itself knows a language's direction only together with its own texts in it.
+void followDirection() {
+    const QFileInfo folder(QString::fromStdString(localizationFolder()));
+    if (const QString language = folder.completeBaseName(); !language.isEmpty())
+        QApplication::setLayoutDirection(QLocale(language).textDirection());
+}
+
 int run(const Arguments& arguments, int argc, char** argv) {
     const bool isChosen = qEnvironmentVariableIsSet(kPlatformVariable);
     const char* platform = isChosen ? "" : choosePlatform(arguments.task);
@@ -146,6 +155,7 @@ int run(const Arguments& arguments, int argc, char** argv) {
     // For window managers that don't look into desktop entries.
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.korvex.Preferences")));
     if (arguments.task != Arguments::Task::Check) {
+        followDirection();
         Appearance::follow();
         return show(arguments, activation);
     }

@@ -51,6 +51,7 @@ void NSDrawString(const CFString* text, const NSRect& rect, const TextAttributes
     const QRectF place(rect.x, rect.y, rect.width, rect.height);
     const QString line = painter.fontMetrics().elidedText(
         QString::fromStdU16String(text->text()), Qt::ElideMiddle, static_cast<int>(place.width()));
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, line);
+    painter.drawText(
+        place, Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine, line);
     painter.restore();
 }

@@ -6,6 +6,7 @@
 #include "platform/AppKit/detail/RowText.h"
 
 #include <QPainter>
+#include <QStyle>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -34,24 +35,31 @@ QSize OptionLook::textSize(int width) const {
             caption.height() + (beneath.isEmpty() ? 0 : kLineGap + beneath.height())};
 }
 
+/// Where something is, from the side where the user's language begins.
+QRect OptionLook::mirrored(const QRect& rect, const QRect& part) const {
+    return QStyle::visualRect(button_.layoutDirection(), rect, part);
+}
+
 QRect OptionLook::indicatorRect(const QRect& rect) const {
     const int side = panestyle::kIndicator;
     const int x =
         indicatorAtRight_ ? rect.right() + 1 - kSide - side : rect.x() + kSide + rowIndent(button_);
-    return {x, rect.center().y() - side / 2, side, side};
+    return mirrored(rect, {x, rect.center().y() - side / 2, side, side});
 }
 
 QRect OptionLook::textRect(const QRect& rect) const {
     const int beside = panestyle::kIndicator + kGap;
     const int left = kSide + rowIndent(button_);
-    return rect.adjusted(indicatorAtRight_ ? left : left + beside, kAbove,
-                         (indicatorAtRight_ ? -kSide - beside : -kSide) - room_, -kAbove);
+    return mirrored(rect,
+                    rect.adjusted(indicatorAtRight_ ? left : left + beside, kAbove,
+                                  (indicatorAtRight_ ? -kSide - beside : -kSide) - room_, -kAbove));
 }
 
 QRect OptionLook::putBackRect(const QRect& rect) const {
-    const QRect text = textRect(rect);
     const int side = PutBackButton::kSide;
-    return {text.right() + 1 + room_ - side, rect.y() + (rect.height() - side) / 2, side, side};
+    const QRect text = mirrored(rect, textRect(rect)); // as from the left
+    return mirrored(
+        rect, {text.right() + 1 + room_ - side, rect.y() + (rect.height() - side) / 2, side, side});
 }
 
 int OptionLook::widthHint() const {

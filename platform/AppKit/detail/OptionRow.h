@@ -29,6 +29,7 @@ private:
 
     QSize textSize(int width) const;
     QRect textRect(const QRect& rect) const;
+    QRect mirrored(const QRect& rect, const QRect& part) const;
     QRect indicatorRect(const QRect& rect) const;
 
     const QAbstractButton& button_;

@@ -283,8 +283,9 @@ void PaneStyle::drawControl(ControlElement element, const QStyleOption* option, 
         if (button->features & QStyleOptionButton::HasMenu) {
             QStyleOption arrow = *option;
             const int side = pixelMetric(PM_MenuButtonIndicator, option, widget);
-            arrow.rect = QRect(option->rect.right() - side - 6,
-                               option->rect.center().y() - side / 2, side, side);
+            arrow.rect = visualRect(option->direction, option->rect,
+                                    QRect(option->rect.right() - side - 6,
+                                          option->rect.center().y() - side / 2, side, side));
             drawPrimitive(PE_IndicatorArrowDown, &arrow, painter, widget);
         }
         return;

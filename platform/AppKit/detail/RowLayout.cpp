@@ -3,6 +3,8 @@
 
 #include "platform/AppKit/detail/PutBackButton.h"
 
+#include <QStyle>
+
 #include <algorithm>
 
 namespace {
@@ -122,9 +124,13 @@ int RowLayout::heightForWidth(int width) const {
 void RowLayout::setGeometry(const QRect& rect) {
     QLayout::setGeometry(rect);
     const Places where = places(rect);
-    items_[0]->setGeometry(where.text);
-    items_[1]->setGeometry(where.controls);
-    items_[2]->setGeometry(where.putBack);
+    const auto put = [&](int item, const QRect& place) {
+        items_[item]->setGeometry(
+            QStyle::visualRect(parentWidget()->layoutDirection(), rect, place));
+    };
+    put(0, where.text);
+    put(1, where.controls);
+    put(2, where.putBack);
 }
 
 Qt::Orientations RowLayout::expandingDirections() const {

@@ -77,5 +77,7 @@ void drawRowLine(QWidget& row) {
         return;
     QPainter painter(&row);
     painter.setPen(PaneColors(row.palette()).cardLine);
-    painter.drawLine(rowIndent(row), 0, row.width(), 0);
+    const int indent = rowIndent(row);
+    row.isRightToLeft() ? painter.drawLine(0, 0, row.width() - indent, 0)
+                        : painter.drawLine(indent, 0, row.width(), 0);
 }

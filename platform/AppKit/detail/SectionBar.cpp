@@ -54,6 +54,9 @@ void SectionBar::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     for (int index = 0; index < count(); ++index) {
         const QRect row = tabRect(index).adjusted(0, 0, 0, -kSpace);
+        const auto mirrored = [&](const QRect& part) {
+            return QStyle::visualRect(layoutDirection(), row, part);
+        };
         const bool current = index == currentIndex();
         if (current) {
             painter.setPen(Qt::NoPen);
@@ -61,16 +64,16 @@ void SectionBar::paintEvent(QPaintEvent*) {
             painter.drawRoundedRect(row, panestyle::kRadius, panestyle::kRadius);
             painter.setBrush(colors.accent);
             if (!hasFocus()) // or it has the ring
-                painter.drawRoundedRect(QRectF(row.x(), row.y(), kStripe, row.height()),
+                painter.drawRoundedRect(mirrored({row.x(), row.y(), kStripe, row.height()}),
                                         kStripe / 2.0, kStripe / 2.0);
         }
-        const QRectF icon(row.x() + kSide, row.center().y() - kIcon / 2, kIcon, kIcon);
-        drawSectionIcon(painter, tabData(index).toString(), icon, colors.text);
+        const QRect icon(row.x() + kSide, row.center().y() - kIcon / 2, kIcon, kIcon);
+        drawSectionIcon(painter, tabData(index).toString(), mirrored(icon), colors.text);
         QFont shown = font();
         shown.setBold(current);
         painter.setFont(shown);
         painter.setPen(colors.text);
-        painter.drawText(row.adjusted(2 * kSide + kIcon, 0, 0, 0),
+        painter.drawText(mirrored(row.adjusted(2 * kSide + kIcon, 0, 0, 0)),
                          Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, tabText(index));
         if (current && hasFocus())
             panestyle::drawRing(painter, *this, QRectF(row));

@@ -7,6 +7,7 @@
 #include "platform/AppKit/detail/SectionBar.h"
 
 #include <QAccessibleWidget>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QMenu>
@@ -25,7 +26,7 @@ constexpr int kPageSide = 28;
 constexpr int kPageAbove = 18;
 constexpr int kNarrowPageSide = 10;
 constexpr QMargins kWideHeader(20, 12, 20, 12);
-constexpr QMargins kNarrowHeader(10, 8, 10, 8);
+constexpr QMargins kNarrowHeader(8, 6, 8, 6);
 constexpr int kNarrow = 68; // in heights of a line: in a window below that width,
 constexpr int kLow = 28;    // or height, there is a button instead of the list
 constexpr int kMostNumbered = 9;
@@ -179,7 +180,8 @@ void SectionFrame::showCurrent() {
         return;
     const QString title = withoutMnemonic(bar_->tabText(current));
     button_->setText(title);
-    button_->setAccessibleName(tr("Section: %1").arg(title));
+    button_->setAccessibleName(
+        QCoreApplication::translate("SectionFrame", "Section: %1").arg(title));
 }
 
 void SectionFrame::fitWindow() {

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int kPadding = 44; // points beside the text, both sides together
+constexpr int kPadding = 28; // points beside the text, both sides together
 constexpr qreal kOutline = 2;
 
 } // namespace
@@ -43,13 +43,18 @@ SwitchCell* SwitchCell::other(int step) const {
 }
 
 void SwitchCell::keyPressEvent(QKeyEvent* event) {
+    const int onward = isRightToLeft() ? -1 : 1; // what the right arrow does
     int step = 0;
     switch (event->key()) {
     case Qt::Key_Left:
+        step = -onward;
+        break;
     case Qt::Key_Up:
         step = -1;
         break;
     case Qt::Key_Right:
+        step = onward;
+        break;
     case Qt::Key_Down:
         step = 1;
         break;
@@ -71,8 +76,9 @@ void SwitchCell::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     const qreal radius = height() / 2.0;
     // The side that meets the other cell lies outside, so that only the outer corners are round.
-    const bool isFirst = !other(-1);
-    const QRectF whole = QRectF(rect()).adjusted(isFirst ? 0 : -radius, 0, isFirst ? radius : 0, 0);
+    const bool isAtLeft = !other(isRightToLeft() ? 1 : -1);
+    const QRectF whole =
+        QRectF(rect()).adjusted(isAtLeft ? 0 : -radius, 0, isAtLeft ? radius : 0, 0);
     panestyle::drawBox(painter, whole, isChecked() ? colors.accent : colors.buttonFace,
                        isEnabled() ? colors.mark : colors.disabledText, kOutline, radius);
     QFont shown = font();

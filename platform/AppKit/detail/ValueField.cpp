@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kMargin = 6;   // points beside the text
@@ -25,6 +27,10 @@ void ValueField::showText(const QString& text) {
         return;
     shown_ = text;
     setText(shown_);
+    if (const int width = fontMetrics().horizontalAdvance(shown_); width > widest_) {
+        widest_ = width; // for good, so that a value that changes moves nothing
+        updateGeometry();
+    }
     if (hasFocus())
         selectAll();
 }
@@ -55,7 +61,8 @@ void ValueField::withdrawRefusal() {
 
 QSize ValueField::sizeHint() const {
     const QSize own = QLineEdit::sizeHint();
-    return {fontMetrics().horizontalAdvance(QStringLiteral("000.0 sec")) + kPadding, own.height()};
+    const int usual = fontMetrics().horizontalAdvance(QStringLiteral("000.0 sec"));
+    return {std::max(usual, widest_) + kPadding, own.height()};
 }
 
 QSize ValueField::minimumSizeHint() const {

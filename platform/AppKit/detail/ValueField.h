@@ -35,6 +35,7 @@ private:
     void commit();
     void withdrawRefusal();
 
+    int widest_ = 0; ///< of the texts that were shown, in points
     QString shown_;
     QLabel* explanation_ = nullptr;
     QString reason_; ///< the explanation's own text while a refusal stands there

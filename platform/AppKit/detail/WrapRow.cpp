@@ -2,6 +2,8 @@
 #include "platform/AppKit/detail/WrapRow.h"
 
 #include <QLayout>
+#include <QStyle>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -53,7 +55,9 @@ public:
 
     void setGeometry(const QRect& rect) override {
         QLayout::setGeometry(rect);
-        arrange(rect, [](QLayoutItem* item, const QRect& place) { item->setGeometry(place); });
+        arrange(rect, [&](QLayoutItem* item, const QRect& place) {
+            item->setGeometry(QStyle::visualRect(parentWidget()->layoutDirection(), rect, place));
+        });
     }
 
 private:

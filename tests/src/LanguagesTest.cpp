@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/PaneFixture.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTranslator>
+
+namespace {
+
+constexpr int kTolerance = 1; // points
+
+/// The pane in a language that nobody speaks.
+class LanguagesTest : public PaneTest {
+protected:
+    void speak(const char* language) {
+        ASSERT_TRUE(
+            translator_.load(QStringLiteral("Localizable.qm"),
+                             QString::fromLatin1(PSEUDO_LOCALES "/%1.lproj").arg(language)));
+        QCoreApplication::installTranslator(&translator_);
+    }
+
+    ~LanguagesTest() override { scroller_.takeWidget(); }
+
+    /// As the host does: what doesn't fit is scrolled.
+    void openInScroller() {
+        open();
+        scroller_.setFrameShape(QFrame::NoFrame);
+        scroller_.setWidgetResizable(true);
+        scroller_.setWidget(window());
+        scroller_.show();
+    }
+
+    /// Whether a text has less room than it needs.
+    static bool isClipped(const QWidget& widget) {
+        if (const auto* field = qobject_cast<const QLineEdit*>(&widget))
+            return field->fontMetrics().horizontalAdvance(field->text()) > field->width();
+        if (const auto* box = qobject_cast<const QGroupBox*>(&widget))
+            return box->fontMetrics().horizontalAdvance(box->title()) > box->width();
+        const bool isText =
+            qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget);
+        if (!isText || widget.objectName() == QLatin1String("profileMenu")) // which shortens a name
+            return false;
+        if (widget.hasHeightForWidth())
+            return widget.heightForWidth(widget.width()) > widget.height() + kTolerance ||
+                   widget.minimumSizeHint().width() > widget.width() + kTolerance;
+        return widget.sizeHint().width() > widget.width() + kTolerance;
+    }
+
+    /// What of `root` is clipped or reaches beyond the window's sides.
+    std::vector<std::string> clipped(QWidget* root) {
+        QTest::qWait(50); // for the layouts
+        std::vector<std::string> found;
+        for (auto* widget : root->findChildren<QWidget*>()) {
+            const int left = widget->mapTo(&scroller_, QPoint()).x();
+            const bool isOutside = widget->focusPolicy() != Qt::NoFocus &&
+                                   (left < 0 || left + widget->width() > scroller_.width());
+            if (widget->isVisible() && !widget->size().isEmpty() &&
+                (isClipped(*widget) || isOutside))
+                found.push_back(widget->objectName().toStdString() + " " + std::to_string(left) +
+                                "+" + std::to_string(widget->width()) + " wants " +
+                                std::to_string(widget->sizeHint().width()));
+        }
+        return found;
+    }
+
+    QTranslator translator_;
+    QScrollArea scroller_;
+};
+
+TEST_F(LanguagesTest, LongerTextsFitWhereverTheyStand) {
+    speak("eo");
+    openInScroller();
+    auto* pages = window()->findChild<QStackedWidget*>(QStringLiteral("prefsTabs"));
+    for (const QSize size : {QSize(1024, 768), QSize(512, 384)}) { // the latter is 1024 at 200 %
+        scroller_.resize(size);
+        for (int page = 0; page < pages->count(); ++page) {
+            pages->setCurrentIndex(page);
+            EXPECT_THAT(clipped(window()), testing::IsEmpty()) << page << ", " << size.width();
+        }
+        for (const char* button : {"firstStepsBtn", "findMySpeed"}) {
+            click(button);
+            auto* cover = scroller_.findChild<QWidget*>(QStringLiteral("contentCover"));
+            ASSERT_TRUE(cover);
+            EXPECT_THAT(clipped(cover), testing::IsEmpty()) << button << ", " << size.width();
+            auto* leave = cover->findChild<QPushButton*>(button == std::string("findMySpeed")
+                                                             ? QStringLiteral("leaveBtn")
+                                                             : QStringLiteral("skipBtn"));
+            QTest::mouseClick(leave, Qt::LeftButton);
+            ASSERT_TRUE(QTest::qWaitFor(
+                [&] { return !scroller_.findChild<QWidget*>(QStringLiteral("contentCover")); }));
+        }
+    }
+}
+
+TEST_F(LanguagesTest, FromTheRightAllIsMirroredButPictures) {
+    open();
+    const auto picture = [this](const char* name) {
+        QWidget* view = find(name);
+        QTest::qWait(50); // for its page's layout
+        return view->grab().toImage();
+    };
+    const auto left = [this](const char* name) {
+        return find(name)->mapTo(window(), QPoint()).x();
+    };
+    const char* pictures[] = {"sampleScanImage", "paletteView", "scanAreaGrid"};
+    std::vector<QImage> before;
+    for (const char* name : pictures)
+        before.push_back(picture(name));
+    EXPECT_LT(left("lineScanTimeTitle"), left("lineScanTimeLabel"));
+
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    for (const auto& [first, second] :
+         {std::pair("lineScanTimeTitle", "lineScanTimeDecBtn"),
+          std::pair("lineScanTimeDecBtn", "lineScanTimeLabel"),
+          std::pair("sectionsBar", "prefsTabs"),
+          std::pair("masterOnOffRadios0", "masterOnOffRadios1"), std::pair("undoBtn", "helpBtn"),
+          std::pair("addButtonBtn", "removeButtonBtn")})
+        EXPECT_TRUE(QTest::qWaitFor([&] { return left(first) > left(second); })) << first;
+    for (std::size_t i = 0; i < before.size(); ++i)
+        EXPECT_EQ(picture(pictures[i]), before[i]) << pictures[i];
+}
+
+} // namespace
