@@ -11,6 +11,8 @@
 #include "src/profiles.h"
 #include "src/settingwords.h"
 
+#include <utility>
+
 namespace {
 
 constexpr std::size_t kMostTitle = 24; ///< characters of a name that the header has room for
@@ -31,7 +33,8 @@ std::string named(const char* text, const std::string& name) {
 }
 
 void tell(const std::string& text, std::vector<UserMessage::Button> buttons = {}) {
-    tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note, .text = text, .buttons = buttons});
+    tellUser(kChangeTopic,
+             {.kind = UserMessage::Kind::Note, .text = text, .buttons = std::move(buttons)});
 }
 
 /// True when it went well; else the reason is told.
