@@ -10,16 +10,15 @@ class QPushButton;
 class QStackedWidget;
 class SectionBar;
 
-/// The window's sections: a list of them beside a stack, which the form lays out in it, of pages.
-/// A page's window title, with a letter marked by “&”, is its section's, its property `icon` names
-/// the section's icon; the parts of pages with the property `pagePart` get their margins here. What
-/// the form lays out beside the stack stands above it while the page that is shown names it in its
-/// property `above`. In a narrow or low window the list gives way to one button with a menu; it
-/// stands where the form has put the button that the property `menuButton` names. Widgets of the
-/// window whose property `wideOnly` is true vanish with the list. In a low window the rows go
-/// without their explanations.
+/// The window's sections: a list beside the stack of pages that the form lays out in it. A page's
+/// window title, with a letter marked by “&”, is its section's name, and its property `icon` names
+/// the section's icon. Parts of pages with the property `pagePart` get their margins here. A widget
+/// that the form has beside the stack stands above a page that names it in its property `above`.
 ///
-/// Beside that button, buttons with the property `shortText` wear it then instead of their text.
+/// In a narrow or low window a button with a menu takes the list's place: the one that the property
+/// `menuButton` names. Then widgets whose property `wideOnly` is true vanish, and buttons beside it
+/// wear their property `shortText` instead of their text. In a low window the rows go without their
+/// explanations.
 ///
 /// From anywhere in the window Ctrl+Tab, Ctrl+Shift+Tab, Ctrl+Page Up and Page Down go to the
 /// neighbouring section, Alt+1 to Alt+9 to the one in that place, and Alt with its letter to the

@@ -11,7 +11,7 @@ void WindowPort::setPaintEventPainter(QPainter* painter) {
         painter->scale(unitsAPoint(), unitsAPoint());
 }
 
-// 1, unless Qt takes the window to be on a display whose scale differs from the main one's.
+// It is 1, but while Qt takes the window to be on a display of another scale than the main one's.
 double WindowPort::unitsAPoint() const {
     return QGuiApplication::primaryScreen()->devicePixelRatio() / widget_.devicePixelRatioF();
 }
