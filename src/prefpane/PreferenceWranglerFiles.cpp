@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr std::size_t kMostNamed = 8; ///< keys that a message has room for
+constexpr std::size_t kMostNamed = 6; ///< keys that a message has room for
 constexpr std::size_t kMostKey = 60;  ///< bytes of a key that is no setting's
 
 std::string fileName(const std::string& path) {
@@ -26,7 +26,7 @@ std::string refusedText(const std::vector<RefusedKey>& refused) {
     for (std::size_t i = 0; i < std::min(refused.size(), kMostNamed); ++i) {
         const std::string key =
             settingOfKey(refused[i].key) ? refused[i].key : refused[i].key.substr(0, kMostKey);
-        text += " " + filled(localized("Profiles", "Left out: %1: %2."), {key, refused[i].reason});
+        text += "\n" + filled(localized("Profiles", "Left out: %1: %2."), {key, refused[i].reason});
     }
     if (refused.size() > kMostNamed)
         text += " " + filled(localized("Profiles", "And %1 more."),

@@ -123,7 +123,7 @@ TEST_F(ProfileEditorTest, OfAFileTheSoundSettingsAreOfferedAndTakenAsOneChange) 
            "<key>scanner.lineScanTime</key><string>12</string><key>tomorrow</key><true/></dict></"
            "plist>");
     EXPECT_EQ(told(), "“brought.plist” would change: Volume: 50 to 3, and 1 setting more. Use its "
-                      "settings? Left out: palette.borderGap: outside 0 to 100 points. Left out: "
+                      "settings?\nLeft out: palette.borderGap: outside 0 to 100 points.\nLeft out: "
                       "tomorrow: no setting of this version.");
     EXPECT_EQ(prefs.soundLevel, 50u);
     pressInStrip(0);
