@@ -118,7 +118,8 @@ TEST_F(LanguagesTest, FromTheRightAllIsMirroredButPictures) {
           std::pair("sectionsBar", "prefsTabs"),
           std::pair("masterOnOffRadios0", "masterOnOffRadios1"), std::pair("undoBtn", "helpBtn"),
           std::pair("addButtonBtn", "removeButtonBtn")})
-        EXPECT_TRUE(QTest::qWaitFor([&] { return left(first) > left(second); })) << first;
+        EXPECT_TRUE(QTest::qWaitFor([&, a = first, b = second] { return left(a) > left(b); }))
+            << first;
     for (std::size_t i = 0; i < before.size(); ++i)
         EXPECT_EQ(picture(pictures[i]), before[i]) << pictures[i];
 }
