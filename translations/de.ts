@@ -1768,10 +1768,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>&amp;Beenden ohne Druck nach</translation>
     </message>
     <message>
-        <source>Pro&amp;files</source>
-        <translation>Prof&amp;ile</translation>
-    </message>
-    <message>
         <source>Your profiles</source>
         <translation>Ihre Profile</translation>
     </message>
@@ -1878,10 +1874,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Rename the chosen one</source>
         <translation>Das gewählte umbenennen</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Dateien</translation>
     </message>
     <message>
         <source>Settings from a file</source>
@@ -2022,6 +2014,10 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Puts the settings of all sections back to their defaults.</source>
         <translation>Setzt die Einstellungen aller Abschnitte auf den Standard zurück.</translation>
+    </message>
+    <message>
+        <source>Settings as a file</source>
+        <translation>Einstellungen als Datei</translation>
     </message>
 </context>
 <context>

@@ -1768,10 +1768,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>S’arrêter &amp;sans appui au bout de</translation>
     </message>
     <message>
-        <source>Pro&amp;files</source>
-        <translation>Pro&amp;fils</translation>
-    </message>
-    <message>
         <source>Your profiles</source>
         <translation>Vos profils</translation>
     </message>
@@ -1878,10 +1874,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>Rename the chosen one</source>
         <translation>Renommer le profil choisi</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Fichiers</translation>
     </message>
     <message>
         <source>Settings from a file</source>
@@ -2022,6 +2014,10 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>Puts the settings of all sections back to their defaults.</source>
         <translation>Remet les réglages de toutes les sections à leur valeur par défaut.</translation>
+    </message>
+    <message>
+        <source>Settings as a file</source>
+        <translation>Réglages dans un fichier</translation>
     </message>
 </context>
 <context>

@@ -24,7 +24,7 @@ from tests.e2e.startup import DATE, NEVER, NOTICE
 from tests.e2e.tour import PROGRAM, Tour, make_room, wait_for_agent
 from tests.e2e.waiting import PATIENCE, Failure, check, until
 
-TABS = "Scanning|Presses|Look|Palette|General|Profiles"
+TABS = "Scanning|Presses|Look|Palette|General"
 SANITIZER_FOUND = 99  # the exit status
 
 

@@ -21,7 +21,7 @@ def expect_time(tour: "Tour", seconds: float) -> str:
 
 
 def save(tour: "Tour", name: str) -> None:
-    tour.choose_tab("Profiles")
+    tour.choose_tab("General")
     tour.screen.click(name, "push button")
     tour.screen.click("Save the settings under the name above", "push button")
     tour.screen.find(f"Profile: {name}", "push button")
@@ -55,7 +55,7 @@ def use_two_in_turn(tour: "Tour") -> str:
 
 def choose_file(tour: "Tour", button: str, path: str) -> None:
     """In the dialogue that the button opens."""
-    tour.choose_tab("Profiles")
+    tour.choose_tab("General")
     (window,) = tour.screen.windows(PROGRAM)
     tour.screen.click(button, "push button")
     until(lambda: tour.screen.active_window() not in ("", window), "the dialogue is in front")

@@ -62,18 +62,6 @@ QPainterPath general() {
     return path;
 }
 
-// A bookmark.
-QPainterPath profiles() {
-    QPainterPath path;
-    path.moveTo(6, 3);
-    path.lineTo(18, 3);
-    path.lineTo(18, 21);
-    path.lineTo(12, 15);
-    path.lineTo(6, 21);
-    path.closeSubpath();
-    return path;
-}
-
 } // namespace
 
 void drawSectionIcon(QPainter& painter, const QString& name, const QRectF& square,
@@ -81,8 +69,11 @@ void drawSectionIcon(QPainter& painter, const QString& name, const QRectF& squar
     static const struct {
         const char* name;
         QPainterPath (*shape)();
-    } kShapes[] = {{"scanning", scanning}, {"presses", presses}, {"look", look},
-                   {"palette", palette},   {"general", general}, {"profiles", profiles}};
+    } kShapes[] = {{"scanning", scanning},
+                   {"presses", presses},
+                   {"look", look},
+                   {"palette", palette},
+                   {"general", general}};
 
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

@@ -262,11 +262,11 @@ TEST_F(SettingsTest, SectionsAreReachedByKeyFromAnywhere) {
         int section;
         bool goesIn; ///< the keyboard, from outside the page
     } presses[] = {
-        {Qt::Key_5, Qt::AltModifier, 4, false},
-        {Qt::Key_Tab, Qt::ControlModifier, 5, false},
+        {Qt::Key_4, Qt::AltModifier, 3, false},
+        {Qt::Key_Tab, Qt::ControlModifier, 4, false},
         {Qt::Key_PageDown, Qt::ControlModifier, 0, false}, // after the last
-        {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier, 5, false},
-        {Qt::Key_PageUp, Qt::ControlModifier, 4, false},
+        {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier, 4, false},
+        {Qt::Key_PageUp, Qt::ControlModifier, 3, false},
         {Qt::Key_R, Qt::AltModifier, 1, true},
     };
 
