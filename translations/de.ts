@@ -73,6 +73,10 @@
         <source>Put “%1” back to %3</source>
         <translation>„%1“ zurücksetzen auf %3</translation>
     </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
 </context>
 <context>
     <name>Choices</name>

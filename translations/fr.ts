@@ -73,6 +73,10 @@
         <source>Put “%1” back to %3</source>
         <translation>Remettre «&#xa0;%1&#xa0;» à %3</translation>
     </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>Choices</name>

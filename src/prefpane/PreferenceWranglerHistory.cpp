@@ -28,8 +28,8 @@ std::string stepText(const SettingSet& settings, const PrefsRecord& before,
                   {changesText(settings, before, after, pattern)});
 }
 
-UserMessage::Button undoButton() {
-    return {localized("Changes", "Put it back"), [] {
+UserMessage::Button undoButton(const std::string& label) {
+    return {label, [] {
                 if (theWrangler)
                     theWrangler->undo(nullptr);
             }};
@@ -93,7 +93,7 @@ void PreferenceWrangler::resetPaletteButtons(NSButton*) {
                  {.kind = UserMessage::Kind::Note,
                   .text = localized("Changes",
                                     "The palette has the buttons again that Korvex came with."),
-                  .buttons = {undoButton()}});
+                  .buttons = {undoButton(localized("Changes", "Put it back"))}});
 }
 
 void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& before,
@@ -113,7 +113,7 @@ void PreferenceWrangler::putBack(const SettingSet& settings, const PrefsRecord& 
     adopt(settings, record);
     tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note,
                             .text = stepText(settings, before, prefs, kSettingBecomesAgain),
-                            .buttons = {undoButton()}});
+                            .buttons = {undoButton(localized("Changes", "Undo"))}});
 }
 
 /// The agent hears it first: showing every value takes longer.
