@@ -146,6 +146,7 @@ class Screen:
         names = Counter((each.role, each.name) for each in reachable)
         check(bool(names), "nothing can be reached by keyboard")
         unclear = [control for control, count in names.items() if count > 1 or not control[1]]
+        unclear += [each.box for each in self.shown() if each.role == "frame" and not each.name]
         check(not unclear, f"not told apart by name: {unclear}")
 
     def find(self, name: str, role: str) -> Control:
