@@ -13,7 +13,7 @@ using ChoiceGridTest = PaneTest;
 TEST_F(ChoiceGridTest, ClicksKeysAndActionsChooseAndReachTheAgent) {
     constexpr ChangeMask kLook = kChangeScanLineLook | kChangeGuideLineLook;
     openWithAgent();
-    const auto choose = [this](QWidget* grid, int index, int way) {
+    const auto choose = [](QWidget* grid, int index, int way) {
         if (way == 0)
             QTest::mouseClick(grid, Qt::LeftButton, {}, {index % 6 * 50 + 20, index / 6 * 50 + 20});
         else if (way == 1)
