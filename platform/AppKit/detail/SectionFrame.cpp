@@ -34,10 +34,12 @@ constexpr int kFrame = 48;  // points, at most, of the window
 constexpr int kHeader = 70; // above this frame
 
 /// To Qt a stack is a layered pane and a line around something a frame, and screen readers say so
-/// on the way into each.
+/// on the way into each. Qt's own interface of a scroll area crashes the program when it is asked
+/// for a scroll bar that was there when its children were counted and has gone since.
 QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
-    const bool meansNothing =
-        className == QLatin1String("QStackedWidget") || className == QLatin1String("QFrame");
+    const bool meansNothing = className == QLatin1String("QStackedWidget") ||
+                              className == QLatin1String("QFrame") ||
+                              className == QLatin1String("QScrollArea");
     return meansNothing ? new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Client)
                         : nullptr;
 }
@@ -56,11 +58,15 @@ void refreshSizes(const QWidget& pages) {
 
 } // namespace
 
-void SectionFrame::build() {
+// Before its pages are made, which may be asked for their interfaces at once.
+SectionFrame::SectionFrame(QWidget* parent) : QWidget(parent) {
     [[maybe_unused]] static const bool isKnown = [] {
         QAccessible::installFactory(makeInterface);
         return true;
     }();
+}
+
+void SectionFrame::build() {
     pages_ = findChild<QStackedWidget*>(QString(), Qt::FindDirectChildrenOnly);
     bar_ = new SectionBar(this);
     bar_->setObjectName(objectName() + QStringLiteral("Bar"));

@@ -25,7 +25,7 @@ class SectionBar;
 /// first control in it.
 class SectionFrame final : public QWidget, public FormPart {
 public:
-    using QWidget::QWidget;
+    explicit SectionFrame(QWidget* parent);
 
     void build() override;
 

@@ -173,6 +173,15 @@ TEST_F(SettingsTest, LoadingShowsTheRecordAndReportsNothingButAnEmptyScanArea) {
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
 }
 
+TEST_F(SettingsTest, AScreenReaderMayAskForAScrollBarThatHasGone) {
+    open();
+    for (auto* area : window()->findChildren<QScrollArea*>()) {
+        auto* interface = QAccessible::queryAccessibleInterface(area);
+        EXPECT_EQ(interface->child(interface->childCount()), nullptr)
+            << area->objectName().toStdString();
+    }
+}
+
 TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityAction) {
     // They open a menu, a window or the help book, end in a choice elsewhere, or put others back.
     const QRegularExpression others(
