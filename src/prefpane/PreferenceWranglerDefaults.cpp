@@ -11,7 +11,6 @@
 #include "src/settingwords.h"
 
 #include <algorithm>
-#include <cstring>
 #include <iterator>
 
 namespace {
@@ -23,7 +22,7 @@ std::size_t rowAt(std::size_t offset) {
 }
 
 bool isSame(const PrefsRecord& a, const PrefsRecord& b) {
-    return std::memcmp(&a, &b, sizeof a) == 0;
+    return differences(a, b).none();
 }
 
 /// What the button of a section says, or the one of them all.
