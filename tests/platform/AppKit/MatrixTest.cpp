@@ -64,19 +64,4 @@ TEST_F(MatrixTest, TabStopsOnceAtTheSelectedCell) {
     EXPECT_TRUE(cell(1)->hasFocus()) << "the focus goes with the selection";
 }
 
-TEST_F(MatrixTest, DisabledCellsAndMatrixIgnoreTheUser) {
-    owner_.control->selectCellWithTag(2);
-    owner_.control->cellWithTag(0)->setEnabled(false);
-    QTest::mouseClick(cell(0), Qt::LeftButton, {}, {8, cell(0)->height() / 2});
-    EXPECT_EQ(outcome(), std::pair(2, 0));
-    cell(2)->setFocus();
-    press(Qt::Key_Down);
-    EXPECT_EQ(outcome(), std::pair(1, 1)) << "the arrow passes over the disabled cell";
-
-    owner_.control->setEnabled(false);
-    EXPECT_TRUE(find("last")->hasFocus()) << "the focus isn't lost";
-    owner_.control->setEnabled(true);
-    EXPECT_FALSE(cell(0)->isEnabled());
-}
-
 } // namespace
