@@ -55,7 +55,7 @@ TEST_F(FirstStepsTest, TakesEditsOnTheOneRoadAndIsFoundAgain) {
     QTest::mouseClick(part("lineScanTimeIncBtn"), Qt::LeftButton);
     EXPECT_EQ(agentLog_.next()["mask"].toInteger(), kChangeScanSpeed);
     EXPECT_EQ(prefs.scanMode, 1);
-    EXPECT_EQ(prefs.lineScanTime, 10.5);
+    EXPECT_EQ(double{prefs.lineScanTime}, 10.5);
     leaveBy("startBtn");
     EXPECT_TRUE(find<QAbstractButton>("scanModeRadios1")->isChecked());
     EXPECT_EQ(find("lineScanTimeLabel")->property("text"), QStringLiteral(" 10.5 sec"));
