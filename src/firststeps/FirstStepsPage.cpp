@@ -7,12 +7,12 @@
 #include "platform/CoreFoundation/CFNumber.h"
 #include "platform/CoreFoundation/CFPreferences.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "src/page.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/SliderController.h"
 #include "src/settings.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 
 namespace {
@@ -30,12 +30,6 @@ bool isAnythingStored() {
         return CFPreferencesCopyValue(CFSTR(setting.key), kAgentBundleID, kCFPreferencesCurrentUser,
                                       kCFPreferencesAnyHost)
             .get();
-    });
-}
-
-const Setting& lineScanTimeRow() {
-    return *std::find_if(kSettings.begin(), kSettings.end(), [](const Setting& setting) {
-        return setting.offset == offsetof(PrefsRecord, lineScanTime);
     });
 }
 
@@ -91,7 +85,7 @@ bool FirstStepsPage::show(const std::string& path, std::vector<std::string>& err
     if (!nib_.instantiate(path, *this, errors))
         return false;
     pressView_->setTarget(this);
-    const Setting& time = lineScanTimeRow();
+    const Setting& time = settingAt(offsetof(PrefsRecord, lineScanTime));
     lineScanTime_->setPageSteps(time.limits.pageSteps);
     lineScanTime_->setDoubleKindAt(time.in(prefs), time.limits.step, time.changes,
                                    time.limits.format);
@@ -154,17 +148,7 @@ void FirstStepsPage::close() {
 }
 
 void firstStepsOpen(const CFBundle* bundle, NSWindow window, FirstStepsTarget& target) {
-    const auto form =
-        bundle ? CFBundleCopyResourceURL(bundle, CFSTR("firststeps"), CFSTR("ui"), nullptr)
-               : CFRef<CFURL>();
-    if (page || !form)
-        return;
-    page = std::make_unique<FirstStepsPage>(window, target);
-    std::vector<std::string> errors;
-    if (!page->show(form->path(), errors))
-        page.reset();
-    for (const std::string& error : errors)
-        std::fprintf(stderr, "%s\n", error.c_str());
+    openPage(page, "firststeps", bundle, window, target);
 }
 
 void firstStepsOffer(const CFBundle* bundle, NSWindow window, FirstStepsTarget& target) {

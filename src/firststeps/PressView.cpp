@@ -16,7 +16,6 @@ REGISTER_CLASS(PressView);
 namespace {
 
 constexpr double kShortestTold = 0.05; ///< seconds
-constexpr float kFrameWidth = 1, kFocusedFrameWidth = 3;
 
 std::string countText(int presses) {
     if (presses == 0)
@@ -47,7 +46,7 @@ void PressView::answer() {
     target_->answered();
 }
 
-void PressView::begin(double moment) {
+void PressView::pressed(double moment) {
     if (isDown_)
         return;
     isDown_ = true;
@@ -55,7 +54,7 @@ void PressView::begin(double moment) {
     answer();
 }
 
-void PressView::end(double moment) {
+void PressView::released(double moment) {
     if (!isDown_)
         return;
     isDown_ = false;
@@ -71,7 +70,7 @@ void PressView::drawRect(const NSRect&) {
         NSRectFill(bounds());
     else
         drawPrompt();
-    NSFrameRectWithWidth(bounds(), isFirstResponder() ? kFocusedFrameWidth : kFrameWidth);
+    drawFrame();
 }
 
 void PressView::drawPrompt() const {
@@ -82,32 +81,8 @@ void PressView::drawPrompt() const {
     NSDrawString(text.get(), {(bounds().width - width) / 2, 0, width, bounds().height}, look);
 }
 
-void PressView::mouseDown(NSEvent* event) {
-    begin(event->timestamp());
-}
-
-void PressView::mouseUp(NSEvent* event) {
-    end(event->timestamp());
-}
-
-void PressView::otherMouseDown(NSEvent* event) {
-    begin(event->timestamp());
-}
-
-void PressView::otherMouseUp(NSEvent* event) {
-    end(event->timestamp());
-}
-
-void PressView::keyDown(NSEvent* event) {
-    if (event->charactersIgnoringModifiers() == NSEscapeCharacter)
-        event->passOn();
-    else if (!event->isARepeat())
-        begin(event->timestamp());
-}
-
-void PressView::keyUp(NSEvent* event) {
-    if (!event->isARepeat())
-        end(event->timestamp());
+void PressView::escaped(NSEvent& event) {
+    event.passOn();
 }
 
 // Its end will go elsewhere.
@@ -117,7 +92,7 @@ bool PressView::resignFirstResponder() {
     return true;
 }
 
-void PressView::accessibilityPerformPress() {
+void PressView::acted(double) {
     ++presses_;
     length_ = 0;
     answer();

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/AppKit/NSAccessibility.h"
-#include "platform/AppKit/NSView.h"
+#include "src/switchview.h"
+
+#include <string>
 
 /// Hears of each answer of the view.
 class PressViewTarget {
@@ -13,9 +14,8 @@ protected:
     ~PressViewTarget() = default;
 };
 
-/// A field that answers presses: it is filled while one lasts, and counts them. Any key but Tab and
-/// Escape, any mouse button and the accessibility action are presses.
-class PressView final : public NSView, public NSAccessibilityButton {
+/// A field that answers presses: it is filled while one lasts, and counts them.
+class PressView final : public SwitchView {
 public:
     /// Not owned; not null once the view is shown.
     void setTarget(PressViewTarget* target) { target_ = target; }
@@ -24,26 +24,18 @@ public:
     std::string words() const;
 
     void drawRect(const NSRect& dirtyRect) override;
-    void mouseDown(NSEvent* event) override;
-    void mouseUp(NSEvent* event) override;
-    void otherMouseDown(NSEvent* event) override;
-    void otherMouseUp(NSEvent* event) override;
-    void keyDown(NSEvent* event) override;
-    void keyUp(NSEvent* event) override;
     bool resignFirstResponder() override;
-
-    bool acceptsFirstResponder() const override { return true; }
 
     std::string accessibilityTitle() const override { return accessibilityLabel(); }
 
     std::string accessibilityValue() const override { return words(); }
 
-    void accessibilityPerformPress() override;
-
 private:
+    void pressed(double moment) override;
+    void released(double moment) override;
+    void acted(double moment) override;
+    void escaped(NSEvent& event) override;
     void drawPrompt() const;
-    void begin(double moment);
-    void end(double moment);
     void answer();
 
     PressViewTarget* target_ = nullptr;

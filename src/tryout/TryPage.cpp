@@ -4,6 +4,7 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "src/page.h"
 #include "src/tryout/HistoryView.h"
 #include "src/tryout/words.h"
 
@@ -257,17 +258,7 @@ void TryPage::close() {
 }
 
 void tryPageOpen(const CFBundle* bundle, NSWindow window, TryPageTarget& target) {
-    const auto form = bundle
-                          ? CFBundleCopyResourceURL(bundle, CFSTR("tryout"), CFSTR("ui"), nullptr)
-                          : CFRef<CFURL>();
-    if (page || !form)
-        return;
-    page = std::make_unique<TryPage>(window, target);
-    std::vector<std::string> errors;
-    if (!page->show(form->path(), errors))
-        page.reset();
-    for (const std::string& error : errors)
-        std::fprintf(stderr, "%s\n", error.c_str());
+    openPage(page, "tryout", bundle, window, target);
 }
 
 void tryPageClose() {

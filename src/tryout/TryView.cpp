@@ -21,11 +21,10 @@ namespace {
 using Phase = tryout::Session::Phase;
 
 constexpr double kDrawingTime = 0.04; ///< s, the most from a frame that is due to its drawing
-constexpr float kFrameWidth = 1, kFocusedFrameWidth = 3;
-constexpr float kMarkWidth = 2;     ///< of the lines around the mark
-constexpr double kMarkTint = 0.2;   ///< opacity inside
-constexpr float kPlaceSize = 10;    ///< of the squares that show where the line was stopped
-constexpr double kShownTargets = 3; ///< the picture of the places is at least as high as these
+constexpr float kMarkWidth = 2;       ///< of the lines around the mark
+constexpr double kMarkTint = 0.2;     ///< opacity inside
+constexpr float kPlaceSize = 10;      ///< of the squares that show where the line was stopped
+constexpr double kShownTargets = 3;   ///< the picture of the places is at least as high as these
 constexpr float kLabelHeight = 24, kLabelMargin = 10;
 
 NSColor scanLineColor() {
@@ -113,7 +112,7 @@ void TryView::drawRect(const NSRect&) {
     else
         drawMark();
     markColor(1).set();
-    NSFrameRectWithWidth(bounds(), isFirstResponder() ? kFocusedFrameWidth : kFrameWidth);
+    drawFrame();
     if (showsLine()) {
         shown_ = lineAt(GetCurrentEventTime());
         scanLineColor().set();
@@ -153,34 +152,6 @@ void TryView::drawPlaces() const {
               whole.height - kLabelMargin - kLabelHeight);
 }
 
-void TryView::mouseDown(NSEvent* event) {
-    target_->pressed(event->timestamp());
-}
-
-void TryView::mouseUp(NSEvent* event) {
-    target_->released(event->timestamp());
-}
-
-void TryView::otherMouseDown(NSEvent* event) {
-    target_->pressed(event->timestamp());
-}
-
-void TryView::otherMouseUp(NSEvent* event) {
-    target_->released(event->timestamp());
-}
-
-void TryView::keyDown(NSEvent* event) {
-    if (event->charactersIgnoringModifiers() == NSEscapeCharacter)
-        target_->left();
-    else if (!event->isARepeat())
-        target_->pressed(event->timestamp());
-}
-
-void TryView::keyUp(NSEvent* event) {
-    if (!event->isARepeat())
-        target_->released(event->timestamp());
-}
-
 // A scan key may be one that is held with others.
 bool TryView::performKeyEquivalent(NSEvent* event) {
     const bool isOurs = session_->phase() != Phase::Done && isWithModifier(*event) &&
@@ -201,8 +172,4 @@ std::string TryView::accessibilityValue() const {
     std::snprintf(text, sizeof text, localized("Try", "The mark is %.1f mm from the top.").c_str(),
                   session_->mark());
     return saying_ + ' ' + localizedNumbers(text);
-}
-
-void TryView::accessibilityPerformPress() {
-    target_->acted(GetCurrentEventTime());
 }

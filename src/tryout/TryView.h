@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/AppKit/NSAccessibility.h"
-#include "platform/AppKit/NSView.h"
+#include "src/switchview.h"
 #include "src/tryout/session.h"
 
-/// What the view's presses go to. Moments are those of the events themselves, in seconds of
-/// GetCurrentEventTime's clock.
+#include <string>
+
+/// What the view's presses go to, as SwitchView has them.
 class TryViewTarget {
 public:
     virtual void pressed(double moment) = 0;
@@ -21,9 +21,8 @@ protected:
 
 /// The range that the line of a try sweeps, from top to bottom, with the mark; in the end the
 /// places where it was stopped. The line looks as the settings say, and is drawn where it is when
-/// it is drawn. Any key but Tab, any mouse button and the accessibility action are presses; Escape
-/// leaves.
-class TryView final : public NSView, public NSAccessibilityButton {
+/// it is drawn. Escape leaves.
+class TryView final : public SwitchView {
 public:
     /// Not owned; neither may be null once the view is shown.
     void setTarget(TryViewTarget* target) { target_ = target; }
@@ -40,24 +39,22 @@ public:
     void showFrame();
 
     void drawRect(const NSRect& dirtyRect) override;
-    void mouseDown(NSEvent* event) override;
-    void mouseUp(NSEvent* event) override;
-    void otherMouseDown(NSEvent* event) override;
-    void otherMouseUp(NSEvent* event) override;
-    void keyDown(NSEvent* event) override;
-    void keyUp(NSEvent* event) override;
     bool performKeyEquivalent(NSEvent* event) override;
-
-    bool acceptsFirstResponder() const override { return true; }
 
     std::string accessibilityTitle() const override;
 
     /// What was said last, and where the mark stands.
     std::string accessibilityValue() const override;
 
-    void accessibilityPerformPress() override;
-
 private:
+    void pressed(double moment) override { target_->pressed(moment); }
+
+    void released(double moment) override { target_->released(moment); }
+
+    void acted(double moment) override { target_->acted(moment); }
+
+    void escaped(NSEvent&) override { target_->left(); }
+
     NSRect lineAt(double moment) const;
     NSRect bandAround(double position) const;
     void drawMark() const;

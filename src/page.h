@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/AppKit/NSWindow.h"
+#include "platform/CoreFoundation/CFBundle.h"
+
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// Opens the one page of its kind, which `page` keeps, in the place of the window's content, from
+/// the bundle's form of that name. Does nothing while it is open, or without the form; what is
+/// wrong with the form goes to the standard error. The target isn't owned; `bundle` may be null.
+template <class Page, class Target>
+void openPage(std::unique_ptr<Page>& page, const char* name, const CFBundle* bundle,
+              NSWindow window, Target& target) {
+    const auto form = bundle ? CFBundleCopyResourceURL(bundle, CFSTR(name), CFSTR("ui"), nullptr)
+                             : CFRef<CFURL>();
+    if (page || !form)
+        return;
+    page = std::make_unique<Page>(window, target);
+    std::vector<std::string> errors;
+    if (!page->show(form->path(), errors))
+        page.reset();
+    for (const std::string& error : errors)
+        std::fprintf(stderr, "%s\n", error.c_str());
+}

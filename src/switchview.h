@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/AppKit/NSAccessibility.h"
+#include "platform/AppKit/NSView.h"
+
+/// A view that takes what a switch can be: any key but Tab and Escape, any mouse button, and the
+/// accessibility action. A key that is held down is one press. Moments are those of the events
+/// themselves, in seconds of GetCurrentEventTime's clock.
+class SwitchView : public NSView, public NSAccessibilityButton {
+public:
+    void mouseDown(NSEvent* event) override;
+    void mouseUp(NSEvent* event) override;
+    void otherMouseDown(NSEvent* event) override;
+    void otherMouseUp(NSEvent* event) override;
+    void keyDown(NSEvent* event) override;
+    void keyUp(NSEvent* event) override;
+    void accessibilityPerformPress() override;
+
+    bool acceptsFirstResponder() const override { return true; }
+
+protected:
+    virtual void pressed(double moment) = 0;
+    virtual void released(double moment) = 0;
+    /// Assistive technology made a press; it has no length.
+    virtual void acted(double moment) = 0;
+    virtual void escaped(NSEvent& event) = 0;
+
+    /// In the current colour; wider while the view has the keyboard.
+    void drawFrame() const;
+};
