@@ -92,6 +92,8 @@ public:
     void beginHistory();
     /// Makes those settings the record's, as one change of what differs.
     void adopt(const SettingSet& settings, const PrefsRecord& record) override;
+    /// Makes what a file offers the settings, and tells so with a button that undoes it.
+    void takeImport(const SettingsOffer& offer);
     /// Another profile is in use, which is no step by itself.
     void noteProfile() override;
     void changedElsewhere(const SettingSet& settings, const PrefsRecord& record);
@@ -193,7 +195,6 @@ public:
 
     /// Says what a file has, and changes nothing before the user agrees.
     void importSettings(NSButton* sender);
-    void takeImport(const SettingsOffer& offer);
     void exportSettings(NSButton* sender);
 
     // PreferenceWranglerTryout.cpp: finding the speed of the line

@@ -62,22 +62,6 @@ void offerFile(const std::string& path) {
 
 } // namespace
 
-void PreferenceWrangler::takeImport(const SettingsOffer& offer) {
-    const PrefsRecord before = prefs;
-    const SettingSet changes = offer.settings & differences(before, offer.record);
-    if (changes.none())
-        return;
-    adopt(changes, offer.record);
-    tellUser(kChangeTopic,
-             {.kind = UserMessage::Kind::Note,
-              .text = filled(localized("Changes", "%1.", "a sentence"),
-                             {changesText(changes, before, offer.record, kSettingBecomes)}),
-              .buttons = {{localized("Profiles", "Put it back"), [] {
-                               if (theWrangler)
-                                   theWrangler->undoChange();
-                           }}}});
-}
-
 void PreferenceWrangler::importSettings(NSButton* sender) {
     NSOpenPanel panel;
     panel.setTitle(localized("Profiles", "Settings from a file"));

@@ -116,6 +116,17 @@ void PreferenceWrangler::putBack(const SettingSet& settings, const PrefsRecord& 
                             .buttons = {undoButton(localized("Changes", "Undo"))}});
 }
 
+void PreferenceWrangler::takeImport(const SettingsOffer& offer) {
+    const PrefsRecord before = prefs;
+    const SettingSet changes = offer.settings & differences(before, offer.record);
+    if (changes.none())
+        return;
+    adopt(changes, offer.record);
+    tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note,
+                            .text = stepText(changes, before, prefs, kSettingBecomes),
+                            .buttons = {undoButton(localized("Changes", "Put it back"))}});
+}
+
 /// The agent hears it first: showing every value takes longer.
 void PreferenceWrangler::showAndReport(ChangeMask changes) {
     changed(changes);
