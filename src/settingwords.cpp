@@ -69,6 +69,18 @@ std::string hotKeysText(const HotKey (&hotKeys)[kNumHotKeys]) {
     return text;
 }
 
+/// Of each that differs; empty when none does.
+std::string hotKeysChangeText(const HotKey (&before)[kNumHotKeys],
+                              const HotKey (&after)[kNumHotKeys], const std::string& sentence) {
+    std::string text;
+    for (int i = 0; i < kNumHotKeys; ++i)
+        if (std::memcmp(&before[i], &after[i], sizeof(HotKey)) != 0)
+            text += (text.empty() ? "" : "; ") +
+                    filled(sentence, {localized("HotKeys", kHotKeyRoles[i]), hotKeyText(before[i]),
+                                      hotKeyText(after[i])});
+    return text;
+}
+
 std::string actionsText(const UInt8 (&actions)[kNumPaletteSlots]) {
     const auto count =
         static_cast<int>(std::ranges::count_if(actions, [](UInt8 action) { return action != 0; }));
@@ -127,11 +139,7 @@ std::string changeText(const Setting& setting, const PrefsRecord& before, const 
                        const char* pattern) {
     const std::string sentence = localized("Changes", pattern);
     if (setting.notation == &kHotKeyListNotation)
-        for (int i = 0; i < kNumHotKeys; ++i)
-            if (std::memcmp(&before.hotKeys[i], &after.hotKeys[i], sizeof(HotKey)) != 0)
-                return filled(sentence,
-                              {localized("HotKeys", kHotKeyRoles[i]), hotKeyText(before.hotKeys[i]),
-                               hotKeyText(after.hotKeys[i])});
+        return hotKeysChangeText(before.hotKeys, after.hotKeys, sentence);
     const std::string old = settingText(setting, before);
     const std::string now = settingText(setting, after);
     const std::string name = localized("Settings", setting.name);
