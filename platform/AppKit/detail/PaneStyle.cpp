@@ -189,6 +189,8 @@ int PaneStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
                          QStyleHintReturn* data) const {
     if (hint == SH_UnderlineShortcut)
         return 1;
+    if (hint == SH_FocusFrame_Mask)
+        return 0; // the ring's corners are round
     return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
@@ -204,6 +206,9 @@ int PaneStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_SliderThickness:
     case PM_SliderControlThickness:
         return kTarget;
+    case PM_FocusFrameHMargin:
+    case PM_FocusFrameVMargin:
+        return static_cast<int>(kRing);
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -290,6 +295,9 @@ void PaneStyle::drawControl(ControlElement element, const QStyleOption* option, 
         }
         return;
     }
+    if (element == CE_FocusFrame)
+        return drawBox(*painter, QRectF(option->rect), Qt::NoBrush,
+                       PaneColors(option->palette).accent, kRing);
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 
