@@ -53,7 +53,7 @@ OSStatus StartedApplications::start(const CFURL* url) {
 }
 
 OSStatus StartedApplications::startUnlessRunning(Application& application) {
-    application.startsNext = isQuitting(application);
+    application.startsNext = isQuitting(application) || isGoing(application);
     if (application.startsNext) {
         await(application);
         return noErr;
@@ -93,6 +93,7 @@ void StartedApplications::noteEnd(Application& application) {
     if (!application.isToQuit && !isUp(application, ended))
         ++application.endings;
     tell();
+    startIfNext(application);
 }
 
 void StartedApplications::noteQuitRequest(const ProcessSerialNumber& psn) {
@@ -117,8 +118,12 @@ void StartedApplications::noteQuitRequest(const ProcessSerialNumber& psn) {
 void StartedApplications::noteQuitEnd(pid_t pid) {
     quitting_.erase(pid);
     for (auto& [bundle, application] : applications_)
-        if (application.startsNext && !isQuitting(application))
-            startUnlessRunning(application);
+        startIfNext(application);
+}
+
+void StartedApplications::startIfNext(Application& application) {
+    if (application.startsNext && !isQuitting(application))
+        startUnlessRunning(application);
 }
 
 void StartedApplications::noteProcesses() {
@@ -147,6 +152,11 @@ bool StartedApplications::isQuitting(const Application& application) const {
         const auto& [pid, quitting] = item;
         return isOf(application, pid, quitting.signature) && !quitting.process->hasEnded();
     });
+}
+
+bool StartedApplications::isGoing(const Application& application) const {
+    return application.process && !application.process->hasEnded() && !isUp(application) &&
+           (application.startsNext || !application.awaitedSince);
 }
 
 void StartedApplications::forgive(const std::string& bundle) {

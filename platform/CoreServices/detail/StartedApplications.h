@@ -18,8 +18,8 @@ public:
     /// Lives as long as the program.
     static StartedApplications& shared();
 
-    /// Starts the application unless it runs or is still starting. One that was asked to quit is
-    /// started once that process has ended. `url` names its bundle.
+    /// Starts the application unless it runs or is still starting. One that was asked to quit, or
+    /// that takes no part any more, is started once that process has ended. `url` names its bundle.
     OSStatus start(const CFURL* url);
 
     /// An event asks that process to quit. An application that is to start after it doesn't any
@@ -46,7 +46,7 @@ private:
         std::unique_ptr<ProcessEnd> process; ///< null when none that was started here runs
         std::optional<Clock::time_point> awaitedSince; ///< it was to start then and isn't up yet
         bool couldntStart = false;
-        bool startsNext = false; ///< once the one that was asked to quit has ended
+        bool startsNext = false; ///< once the one that is on its way out has ended
         bool isToQuit = false;   ///< `process` was asked to
         int endings = 0;         ///< by itself
     };
@@ -63,11 +63,15 @@ private:
     void await(Application& application);
     void noteEnd(Application& application);
     void noteQuitEnd(pid_t pid);
+    void startIfNext(Application& application);
     void noteProcesses();
     bool isOf(const Application& application, pid_t pid, OSType signature) const;
     /// `ended` doesn't count: the bus may not know yet that this process is gone.
     bool isUp(const Application& application, pid_t ended = 0) const;
     bool isQuitting(const Application& application) const;
+    /// Whether `process` was up and is no more, and yet hasn't ended: a process leaves the bus a
+    /// moment before the system knows of its end.
+    bool isGoing(const Application& application) const;
     bool isAwaited(const Application& application) const;
     void tell();
 

@@ -13,6 +13,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr OSType kPeer = fourCharCode("peer");
+
 class LaunchServicesTest : public ProcessTest {
 protected:
     LaunchServicesTest() { use("#!/bin/sh\necho $$ >>'" + pids_.string() + "'\nexec sleep 600\n"); }
@@ -40,6 +42,18 @@ protected:
         };
         EXPECT_TRUE(QTest::qWaitFor(hasStarted, 20'000));
         return started().empty() ? 0 : started().back();
+    }
+
+    static void waitForPeer(bool isUp) {
+        const auto is = [=] { return (findProcess(kPeer) != kNoProcess) == isUp; };
+        ASSERT_TRUE(QTest::qWaitFor(is, 10'000)) << isUp;
+    }
+
+    static pid_t peer() {
+        const ProcessSerialNumber psn = findProcess(kPeer);
+        pid_t pid = 0;
+        EXPECT_EQ(GetProcessPID(&psn, &pid), noErr);
+        return pid;
     }
 
     static fs::path proc(pid_t pid) { return "/proc/" + std::to_string(pid); }
@@ -108,34 +122,23 @@ TEST_F(LaunchServicesTest, WhatDoesntComeUpOrKeepsEndingIsTold) {
         const auto found = findLaunchTrouble();
         return found ? static_cast<int>(found->trouble) : -1;
     };
-    const auto waitForPeer = [](bool isUp) {
-        const auto is = [=] { return (findProcess(fourCharCode("peer")) != kNoProcess) == isUp; };
-        ASSERT_TRUE(QTest::qWaitFor(is, 10'000)) << isUp;
-    };
-    const auto peer = [] {
-        const ProcessSerialNumber psn = findProcess(fourCharCode("peer"));
-        pid_t pid = 0;
-        EXPECT_EQ(GetProcessPID(&psn, &pid), noErr);
-        return std::pair(psn, pid);
-    };
-
     use("#!/bin/sh\necho $$ >>'" + pids_.string() + "'\nexec '" TEST_PEER "' " +
         std::to_string(kApplication) + '\n');
     EXPECT_EQ(open(), noErr);
     waitForPeer(true);
-    const AppleEvent quit = makeEvent(peer().first, kCoreEventClass, kAEQuitApplication);
+    const AppleEvent quit = makeEvent(findProcess(kPeer), kCoreEventClass, kAEQuitApplication);
     for (int i = 0; i < 2; ++i) { // the peer takes its time
         AESend(&quit, nullptr, kAENoReply, kAEDefaultTimeout);
         EXPECT_EQ(open(), noErr);
     }
     EXPECT_EQ(started().size(), 1u);
-    signalProcess(peer().second, SIGKILL);
+    signalProcess(peer(), SIGKILL);
     ASSERT_TRUE(QTest::qWaitFor([&] { return started().size() == 2; }, 10'000));
 
     for (int endings = 0; endings < 3; ++endings) {
         waitForPeer(true);
         EXPECT_EQ(trouble(), -1) << endings;
-        signalProcess(peer().second, SIGKILL);
+        signalProcess(peer(), SIGKILL);
         waitForPeer(false);
         ASSERT_TRUE(QTest::qWaitFor([] { return waitpid(-1, nullptr, WNOHANG) == -1; }, 10'000));
         EXPECT_FALSE(isLaunching(bundle_.string()));
@@ -150,6 +153,25 @@ TEST_F(LaunchServicesTest, WhatDoesntComeUpOrKeepsEndingIsTold) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return trouble() >= 0; }, 12'000));
     EXPECT_EQ(findLaunchTrouble()->trouble, LaunchTrouble::NotUp);
     EXPECT_FALSE(isLaunching(findLaunchTrouble()->bundle));
+}
+
+TEST_F(LaunchServicesTest, OneThatHasLeftTheBusIsFollowedByAnotherOnceItHasEnded) {
+    use("#!/bin/sh\necho $$ >>'" + pids_.string() + "'\n'" TEST_PEER "' " +
+        std::to_string(kApplication) + "\nsleep 0.5\n");
+    writeFile(bundle_ / "Contents/Info.plist",
+              dictionaryFile("<key>CFBundleExecutable</key><string>run</string>"
+                             "<key>CFBundleSignature</key><string>peer</string>"));
+    EXPECT_EQ(open(), noErr);
+    waitForPeer(true);
+    signalProcess(peer(), SIGKILL);
+    waitForPeer(false);
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(open(), noErr);
+    EXPECT_EQ(started().size(), 1u);
+    EXPECT_TRUE(isLaunching(bundle_.string()));
+    waitForPeer(true);
+    EXPECT_EQ(started().size(), 2u);
+    signalProcess(peer(), SIGKILL);
 }
 
 TEST_F(LaunchServicesTest, AccessibilitySettingsAreThoseOfTheDesktopThatIsRunning) {
