@@ -32,7 +32,7 @@ class SessionManager:
             function.restype = c_void_p
         self._client = None
         self._results: list[int] = []  # of the savings, in order; 1 is success
-        self._orders: list = []  # what the thread shall call
+        self._lock = threading.Lock()  # the libraries know nothing of threads
         self._table = [Other(lambda: None) for _ in range(CALLBACKS)]
         self._table[REGISTER] = Register(self._register)
         self._table[SAVE_DONE] = SaveDone(lambda client, _, success: self._results.append(success))
@@ -51,11 +51,11 @@ class SessionManager:
     def cancel_a_logout(self) -> None:
         """Has the program save as at the end of the session, which then goes on."""
         before = len(self._results)
-        save = (SAVE_BOTH, True, INTERACT_ANY, False)
-        self._orders.append(lambda: self._sm.SmsSaveYourself(c_void_p(self._client), *save))
+        with self._lock:
+            self._sm.SmsSaveYourself(c_void_p(self._client), SAVE_BOTH, True, INTERACT_ANY, False)
         until(lambda: len(self._results) > before and self._results[-1], "the program has saved")
-        self._orders.append(lambda: self._sm.SmsShutdownCancelled(c_void_p(self._client)))
-        until(lambda: not self._orders, "the program is told that the session goes on")
+        with self._lock:
+            self._sm.SmsShutdownCancelled(c_void_p(self._client))
 
     def wait_for_client(self) -> None:
         until(lambda: self._results, "the program has registered and saved for the first time")
@@ -81,17 +81,15 @@ class SessionManager:
         listeners = {number_of(listener): listener for listener in self._listeners}
         connections: dict[int, c_void_p] = {}
         while not self._ends.is_set():
-            for file in select.select([*listeners, *connections], [], [], 0.05)[0]:
-                if file in listeners:
-                    connection = c_void_p(
-                        self._ice.IceAcceptConnection(listeners[file], byref(c_int()))
-                    )
-                    connections[self._ice.IceConnectionNumber(connection)] = connection
-                elif self._ice.IceProcessMessages(connections[file], None, None) != 0:
-                    del connections[file]  # the program has gone
-            while self._orders:
-                self._orders[0]()
-                del self._orders[0]
+            ready = select.select([*listeners, *connections], [], [], 0.05)[0]
+            with self._lock:
+                for file in ready:
+                    if file in listeners:
+                        accepted = self._ice.IceAcceptConnection(listeners[file], byref(c_int()))
+                        connection = c_void_p(accepted)
+                        connections[self._ice.IceConnectionNumber(connection)] = connection
+                    elif self._ice.IceProcessMessages(connections[file], None, None) != 0:
+                        del connections[file]  # the program has gone
 
     def _welcome(self, client, _data, mask, callbacks, _reason) -> int:
         mask[0] = (1 << CALLBACKS) - 1
