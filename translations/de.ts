@@ -1364,10 +1364,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Kräftige Farben</translation>
     </message>
     <message>
-        <source>Twelve colours that stand out from one another as far as colours can.</source>
-        <translation>Zwölf Farben, die sich so gut voneinander abheben, wie Farben es können.</translation>
-    </message>
-    <message>
         <source>Strong line colours</source>
         <translation>Kräftige Linienfarben</translation>
     </message>
@@ -2022,6 +2018,30 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Settings as a file</source>
         <translation>Einstellungen als Datei</translation>
+    </message>
+    <message>
+        <source>Speed, clicks, area</source>
+        <translation>Tempo, Klicks, Bereich</translation>
+    </message>
+    <message>
+        <source>Switch, keys</source>
+        <translation>Schalter, Tasten</translation>
+    </message>
+    <message>
+        <source>Lines, pointer</source>
+        <translation>Linien, Zeiger</translation>
+    </message>
+    <message>
+        <source>Twelve colours that are easy to tell apart.</source>
+        <translation>Zwölf Farben, die sich gut unterscheiden lassen.</translation>
+    </message>
+    <message>
+        <source>Buttons, size</source>
+        <translation>Knöpfe, Größe</translation>
+    </message>
+    <message>
+        <source>Sound, login, profiles</source>
+        <translation>Ton, Anmeldung, Profile</translation>
     </message>
 </context>
 <context>

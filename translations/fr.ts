@@ -1364,10 +1364,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Couleurs fortes</translation>
     </message>
     <message>
-        <source>Twelve colours that stand out from one another as far as colours can.</source>
-        <translation>Douze couleurs qui se distinguent les unes des autres autant que possible.</translation>
-    </message>
-    <message>
         <source>Strong line colours</source>
         <translation>Couleurs de ligne fortes</translation>
     </message>
@@ -2022,6 +2018,30 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>Settings as a file</source>
         <translation>Réglages dans un fichier</translation>
+    </message>
+    <message>
+        <source>Speed, clicks, area</source>
+        <translation>Vitesse, clics, zone</translation>
+    </message>
+    <message>
+        <source>Switch, keys</source>
+        <translation>Contacteur, touches</translation>
+    </message>
+    <message>
+        <source>Lines, pointer</source>
+        <translation>Lignes, pointeur</translation>
+    </message>
+    <message>
+        <source>Twelve colours that are easy to tell apart.</source>
+        <translation>Douze couleurs faciles à distinguer.</translation>
+    </message>
+    <message>
+        <source>Buttons, size</source>
+        <translation>Boutons, taille</translation>
+    </message>
+    <message>
+        <source>Sound, login, profiles</source>
+        <translation>Son, démarrage, profils</translation>
     </message>
 </context>
 <context>

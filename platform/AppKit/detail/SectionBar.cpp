@@ -13,8 +13,9 @@
 
 namespace {
 
-constexpr int kRowHeight = 52; // points, as all here
+constexpr int kRowHeight = 56; // points, as all here
 constexpr int kSpace = 4;      // between two sections
+constexpr int kAbove = 10;     // at least, above and below the texts
 constexpr int kSide = 14;
 constexpr int kIcon = 24;
 constexpr int kStripe = 4; // at the edge of the current section
@@ -32,9 +33,10 @@ QSize SectionBar::tabSizeHint(int index) const {
     QFont bold = font();
     bold.setBold(true);
     const QFontMetrics metrics(bold);
-    const int text = metrics.size(Qt::TextShowMnemonic, tabText(index)).width();
+    const int text = std::max(metrics.size(Qt::TextShowMnemonic, tabText(index)).width(),
+                              fontMetrics().horizontalAdvance(tabToolTip(index)));
     return {std::max(kLeastWidth, 3 * kSide + kIcon + text),
-            std::max(kRowHeight, metrics.height() + 2 * kSide) + kSpace};
+            std::max(kRowHeight, metrics.height() + fontMetrics().height() + 2 * kAbove) + kSpace};
 }
 
 QSize SectionBar::minimumTabSizeHint(int index) const {
@@ -42,10 +44,30 @@ QSize SectionBar::minimumTabSizeHint(int index) const {
 }
 
 bool SectionBar::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) // which is in sight already
+        return true;
     const bool done = QTabBar::event(event);
     if (event->type() == QEvent::Shortcut && onLetter)
         onLetter();
     return done;
+}
+
+/// The section's name above the words on what it holds.
+void SectionBar::drawTexts(QPainter& painter, int index, const QRect& place) const {
+    const PaneColors colors(palette());
+    QFont name = font();
+    name.setBold(index == currentIndex());
+    const QFontMetrics metrics(name);
+    QRect line(place.x(), 0, place.width(), metrics.height());
+    line.moveTop(place.center().y() - (line.height() + fontMetrics().height()) / 2);
+    painter.setFont(name);
+    painter.setPen(colors.text);
+    painter.drawText(line, Qt::AlignLeft | Qt::TextShowMnemonic, tabText(index));
+    line.moveTop(line.bottom() + 1);
+    line.setHeight(fontMetrics().height());
+    painter.setFont(font());
+    painter.setPen(colors.quietText);
+    painter.drawText(line, Qt::AlignLeft, tabToolTip(index));
 }
 
 void SectionBar::paintEvent(QPaintEvent*) {
@@ -69,12 +91,7 @@ void SectionBar::paintEvent(QPaintEvent*) {
         }
         const QRect icon(row.x() + kSide, row.center().y() - kIcon / 2, kIcon, kIcon);
         drawSectionIcon(painter, tabData(index).toString(), mirrored(icon), colors.text);
-        QFont shown = font();
-        shown.setBold(current);
-        painter.setFont(shown);
-        painter.setPen(colors.text);
-        painter.drawText(mirrored(row.adjusted(2 * kSide + kIcon, 0, 0, 0)),
-                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, tabText(index));
+        drawTexts(painter, index, mirrored(row.adjusted(2 * kSide + kIcon, 0, 0, 0)));
         if (current && hasFocus())
             panestyle::drawRing(painter, *this, QRectF(row));
     }

@@ -3,8 +3,9 @@
 
 #include <QTabBar>
 
-/// The list of sections at a window's side: a tab bar with its texts upright, an icon before each.
-/// A tab's data is its icon's name. Alt with a section's letter goes there, see `onLetter`.
+/// The list of sections at a window's side: a tab bar with its texts upright, an icon before each
+/// and its tool tip, which says what the section holds, as a second line. A tab's data is its
+/// icon's name. Alt with a section's letter goes there, see `onLetter`.
 class SectionBar final : public QTabBar {
 public:
     explicit SectionBar(QWidget* parent);
@@ -16,4 +17,7 @@ protected:
     QSize minimumTabSizeHint(int index) const override;
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void drawTexts(QPainter& painter, int index, const QRect& place) const;
 };

@@ -126,6 +126,7 @@ void SectionFrame::addSections() {
     for (int index = 0; index < pages_->count(); ++index) {
         const QWidget* page = pages_->widget(index);
         bar_->setTabData(bar_->addTab(page->windowTitle()), page->property("icon"));
+        bar_->setTabToolTip(index, page->accessibleDescription());
         QAction* action = menu_->addAction(page->windowTitle());
         action->setCheckable(true);
         connect(action, &QAction::triggered, this, [this, index] { choose(index); });

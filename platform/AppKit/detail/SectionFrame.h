@@ -11,9 +11,10 @@ class QStackedWidget;
 class SectionBar;
 
 /// The window's sections: a list beside the stack of pages that the form lays out in it. A page's
-/// window title, with a letter marked by “&”, is its section's name, and its property `icon` names
-/// the section's icon. Parts of pages with the property `pagePart` get their margins here. A widget
-/// that the form has beside the stack stands above a page that names it in its property `above`.
+/// window title, with a letter marked by “&”, is its section's name, its accessible description
+/// says what the section holds, and its property `icon` names the section's icon. Parts of pages
+/// with the property `pagePart` get their margins here. A widget that the form has beside the stack
+/// stands above a page that names it in its property `above`.
 ///
 /// In a narrow or low window a button with a menu takes the list's place: the one that the property
 /// `menuButton` names. Then widgets whose property `wideOnly` is true vanish, and buttons beside it
