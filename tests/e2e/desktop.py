@@ -186,6 +186,13 @@ def apart(action, *arguments) -> bool:
     return os.waitpid(child, 0)[1] == 0
 
 
+def given(usage: str) -> list[str]:
+    """The command line's arguments. There must be as many as `usage` names."""
+    if len(sys.argv) != 1 + len(usage.split()):
+        sys.exit(f"Usage: python3 -m tests.e2e.{Path(sys.argv[0]).stem} {usage}")
+    return sys.argv[1:]
+
+
 def exit_on_signals() -> None:
     """Makes the signals that end a program leave through its clean-up."""
     for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):

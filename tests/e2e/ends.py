@@ -4,7 +4,7 @@
     python3 -m tests.e2e.ends BUILD_DIR OUT_DIR
 
 Every visit makes a change, comes to a state and loses its display, or its display hangs and it is
-asked to end. OUT_DIR gets the agents' log. The exit status is 1 when a change is lost.
+asked to end.
 """
 
 import os
@@ -16,12 +16,13 @@ from pathlib import Path
 from typing import Callable
 
 from tests.e2e import hotkeys
-from tests.e2e.desktop import Desktop, exit_on_signals, process_of
+from tests.e2e.agentlog import AgentLog
+from tests.e2e.desktop import given, process_of
 from tests.e2e.scanarea import BUTTON
 from tests.e2e.screen import press
 from tests.e2e.sessionmanager import SessionManager
 from tests.e2e.startup import DATE, NEVER, NOTICE
-from tests.e2e.tour import PROGRAM, Tour, make_room, wait_for_agent
+from tests.e2e.tour import PROGRAM, Tour, touring, wait_for_agent
 from tests.e2e.waiting import PATIENCE, Failure, check, until
 
 TABS = "Scanning|Presses|Look|Palette|General"
@@ -154,6 +155,7 @@ def clear_away(tour: Tour) -> None:
         os.kill(agent, signal.SIGTERM)
     until(lambda: not process_of("org.korvex.Agent"), "the agent ends")
     tour.log.path.unlink(missing_ok=True)
+    tour.log = AgentLog(tour.log.path)
 
 
 def succeeds(tour: Tour, what: str, step: Callable, *arguments) -> bool:
@@ -169,27 +171,16 @@ def succeeds(tour: Tour, what: str, step: Callable, *arguments) -> bool:
         clear_away(tour)
 
 
-def main(arguments: list[str]) -> int:
-    if len(arguments) != 2:
-        sys.exit("Usage: python3 -m tests.e2e.ends BUILD_DIR OUT_DIR")
-    build, out = (Path(argument).resolve() for argument in arguments)
-    make_room(out)
-    exit_on_signals()
-    environment = {
-        "KORVEX_AGENT_LOG": str(out / "agent.log"),
+if __name__ == "__main__":
+    sanitizers = {
         "ASAN_OPTIONS": f"detect_leaks=0:exitcode={SANITIZER_FOUND}",
         "UBSAN_OPTIONS": f"exitcode={SANITIZER_FOUND}",
     }
-    with Desktop(1024, 768, environment) as desktop:
+    with touring(*given("BUILD_DIR OUT_DIR"), environment=sanitizers) as a_tour:
         results = [
-            succeeds(Tour(desktop, build, out), f"{state}, {end.__name__}, read: {read}",
-                     visit, state, end, read, status)
-            for state, end, read, status in VISITS
+            succeeds(a_tour, f"{visited[0]}, {visited[1].__name__}, read: {visited[2]}", visit, *visited)
+            for visited in VISITS
         ]
         for what, step in (("killed", crash_and_return), ("logout cancelled", cancel_a_logout)):
-            results.append(succeeds(Tour(desktop, build, out), what, step))
-    return 0 if all(results) else 1
-
-
-if __name__ == "__main__":
-    sys.exit(main(sys.argv[1:]))
+            results.append(succeeds(a_tour, what, step))
+    sys.exit(0 if all(results) else 1)

@@ -3,8 +3,6 @@
 offers.
 
     python3 -m tests.e2e.faults BUILD_DIR OUT_DIR
-
-OUT_DIR gets pictures and the agents' log. The exit status is 1 when something isn't as it must be.
 """
 
 import os
@@ -15,11 +13,11 @@ import subprocess
 import sys
 from pathlib import Path
 
-from tests.e2e.desktop import Desktop, exit_on_signals, process_of
+from tests.e2e.desktop import given, process_of
 from tests.e2e.ends import succeeds
 from tests.e2e.screen import press
 from tests.e2e.startup import DATE, NEVER
-from tests.e2e.tour import AGENT, PROGRAM, Tour, make_room, wait_for_agent
+from tests.e2e.tour import AGENT, PROGRAM, Tour, touring, wait_for_agent
 from tests.e2e.waiting import PATIENCE, check, until
 
 BUNDLE = "Korvex.prefPane"
@@ -61,6 +59,14 @@ def unwritable_folder(tour: Tour) -> None:
     tour.stored.parent.chmod(0o500)
     open_window(tour)
     expect_alert(tour, "can’t be saved: no permission for", str(tour.stored.parent))
+    click_scan_menu_bar(tour)
+    tour.ask_to_close()
+    expect_alert(tour, "couldn’t be saved: no permission")
+    tour.stored.parent.chmod(0o700)
+    tour.screen.click("Try again", "push button")
+    check(tour.program.wait(PATIENCE) == 0, "the program failed")
+    stored = plistlib.loads(tour.stored.read_bytes())["scanner.canScanMenuBar"]
+    check(stored == "no", f"{stored} is stored")
 
 
 def copy_and_close_anyway(tour: Tour) -> None:
@@ -188,19 +194,10 @@ def bring_about(tour: Tour, fault) -> None:
     fault(tour)
 
 
-def main(arguments: list[str]) -> int:
-    if len(arguments) != 2:
-        sys.exit("Usage: python3 -m tests.e2e.faults BUILD_DIR OUT_DIR")
-    build, out = (Path(argument).resolve() for argument in arguments)
-    make_room(out)
-    exit_on_signals()
-    with Desktop(1024, 768, {"KORVEX_AGENT_LOG": str(out / "agent.log")}) as desktop:
+if __name__ == "__main__":
+    with touring(*given("BUILD_DIR OUT_DIR")) as a_tour:
         results = [
-            succeeds(Tour(desktop, build, out), fault.__name__.replace("_", " "), bring_about, fault)
+            succeeds(a_tour, fault.__name__.replace("_", " "), bring_about, fault)
             for fault in FAULTS
         ]
-    return 0 if all(results) else 1
-
-
-if __name__ == "__main__":
-    sys.exit(main(sys.argv[1:]))
+    sys.exit(0 if all(results) else 1)

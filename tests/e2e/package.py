@@ -7,12 +7,11 @@ the package again. Wants root's rights.
 
 import plistlib
 import subprocess
-import sys
 import tempfile
 from contextlib import ExitStack
 from pathlib import Path
 
-from tests.e2e.desktop import Desktop, exit_on_signals
+from tests.e2e.desktop import Desktop, exit_on_signals, given
 from tests.e2e.screen import Screen, press
 from tests.e2e.waiting import PATIENCE, check, until
 
@@ -62,7 +61,7 @@ def open_and_change(desktop: Desktop, root: Path, out: Path) -> None:
     check(status == 0, f"the program ended with {status}: {desktop.output_of('chroot')}")
 
 
-def main(arguments: list[str]) -> None:
+def main(*arguments: str) -> None:
     package, out = (Path(argument).resolve() for argument in arguments)
     exit_on_signals()
     with ExitStack() as undo:
@@ -81,4 +80,4 @@ def main(arguments: list[str]) -> None:
 
 
 if __name__ == "__main__":
-    main(sys.argv[1:])
+    main(*given("KORVEX.deb OUT_DIR"))

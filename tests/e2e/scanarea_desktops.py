@@ -2,24 +2,19 @@
 """What the scan area's overlay must bear on a desktop of each kind.
 
     python3 -m tests.e2e.scanarea_desktops BUILD_DIR OUT_DIR DESKTOP
-
-OUT_DIR gets pictures and the agent's log. The exit status is 1 when something did not have its
-effect.
 """
 
 import os
 import signal
-import sys
-from pathlib import Path
 from typing import NamedTuple
 
-from tests.e2e.desktop import Desktop, ask, exit_on_signals, process_of
+from tests.e2e.desktop import Desktop, ask, given, process_of
 from tests.e2e.scanarea import CURRENT, DRAGGED, NOTHING, PALE_CURRENT
 from tests.e2e.scanarea import Area, Overlay, Place, drag, expect_area, let_go
 from tests.e2e.screen import press, run
 from tests.e2e.startup import dismiss_the_notice
-from tests.e2e.tour import PROGRAM, Tour, make_room
-from tests.e2e.waiting import PATIENCE, Failure, check, until
+from tests.e2e.tour import Tour, touring
+from tests.e2e.waiting import PATIENCE, check, until
 
 
 class Setup(NamedTuple):
@@ -141,34 +136,14 @@ def end_the_program(tour: Tour, setup: Setup) -> None:
 PARTS = take_the_window_used_last, draw_everywhere, keep_to_the_overlay, take_a_display_away, end_the_program
 
 
-def try_setup(setup: Setup, build: Path, out: Path) -> bool:
-    make_room(out)
-    environment = {"KORVEX_AGENT_LOG": str(out / "agent.log")} | setup.environment
-    with Desktop(*SIZE, environment) as desktop:
-        set_up(setup, desktop)
-        tour = Tour(desktop, build, out)
-        try:
-            dismiss_the_notice(tour)
-            tour.agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")
-            tour.log.expect("PPop")
-            for part in PARTS:
-                part(tour, setup)
-        except Failure as failure:
-            tour.picture("failed")
-            print(f"{setup.name}: FAILED. {failure}.\n{desktop.output_of(PROGRAM)}", flush=True)
-            return False
-    print(f"{setup.name}: the area is {setup.area}.", flush=True)
-    return True
-
-
-def main(arguments: list[str]) -> int:
-    named = {setup.name: setup for setup in SETUPS}
-    if len(arguments) != 3 or arguments[2] not in named:
-        sys.exit(f"Usage: python3 -m tests.e2e.scanarea_desktops BUILD OUT {'|'.join(named)}")
-    build, out = (Path(argument).resolve() for argument in arguments[:2])
-    exit_on_signals()
-    return 0 if try_setup(named[arguments[2]], build, out) else 1
-
-
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1:]))
+    build, out, name = given("BUILD_DIR OUT_DIR DESKTOP")
+    setup = next(setup for setup in SETUPS if setup.name == name)
+    with touring(build, out, SIZE, setup.environment) as a_tour:
+        set_up(setup, a_tour.desktop)
+        dismiss_the_notice(a_tour)
+        a_tour.agent = until(lambda: process_of("org.korvex.Agent"), "the agent runs")
+        a_tour.log.expect("PPop")
+        for part in PARTS:
+            part(a_tour, setup)
+    print(f"{name}: the area is {setup.area}.")

@@ -167,7 +167,9 @@ class Screen:
     def bring_into_view(self, control: Control) -> Box:
         """Turns the wheel until the whole control is in sight, and says where it then is."""
         while frame := control.cut_off_by():
-            box = control.box
+            box, high = control.box, frame.bottom - frame.top
+            fits = frame.left <= box.left and box.right <= frame.right and box.bottom - box.top <= high
+            check(fits, f"“{control.name}”, {box}, has no room in {frame}")
             wheel = WHEEL_UP if box.top < frame.top else WHEEL_DOWN
             press("mousemove", *frame.centre, "click", wheel)
             until(lambda: control.box != box, f"the page scrolls towards “{control.name}”")

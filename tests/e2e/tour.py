@@ -3,8 +3,8 @@
 
     python3 -m tests.e2e.tour BUILD_DIR OUT_DIR
 
-OUT_DIR gets pictures, the agent's log and the stored property list. The exit status is 1 when a
-step did not have its effect.
+As with the other programs here, OUT_DIR gets pictures, the agent's log and the stored property list.
+The exit status is 1 when something did not have its effect.
 """
 
 import os
@@ -12,13 +12,13 @@ import plistlib
 import shutil
 import subprocess
 import sys
-import traceback
-from contextlib import suppress
+from contextlib import contextmanager, suppress
 from pathlib import Path
+from typing import Iterator
 
-from tests.e2e import hotkeys, profiles, startup, troubles
+from tests.e2e import hotkeys, startup
 from tests.e2e.agentlog import AgentLog
-from tests.e2e.desktop import Desktop, exit_on_signals, process_of
+from tests.e2e.desktop import Desktop, exit_on_signals, given, process_of
 from tests.e2e.screen import Screen, press
 from tests.e2e.waiting import PATIENCE, Failure, check, until
 
@@ -131,27 +131,6 @@ def change_three_settings(tour: Tour) -> str:
     return f'{time}; {menu_bar}; {tour.log.expect_change(TRIGGERS, "scanMode", 1)}'
 
 
-def put_a_section_back(tour: Tour) -> str:
-    """Put a setting back in its row, then its whole section, and undo each"""
-    tour.choose_tab("Scanning")
-    tour.picture("not-at-their-defaults")
-    tour.screen.click("Put “Line scan time” back to 10.0 sec", "push button")
-    row = tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10)
-    press("key", "ctrl+z")
-    tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10.5)
-    menu_bar = tour.screen.find("Scan the menu bar too", "check box")
-    tour.screen.click("Put 2 settings back", "push button")
-    mask = tour.log.expect("SAPr")["mask"]
-    check(mask == SCAN_SPEED | NO_GROUP, f"mask {mask} of the section")
-    until(lambda: menu_bar.checked, "the menu bar is scanned again")
-    check(tour.screen.find("Line scan time", "slider").value == 10, "the line scan time is changed")
-    tour.picture("section-put-back")
-    press("key", "ctrl+z")
-    undone = tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10.5)
-    until(lambda: not menu_bar.checked, "the menu bar is left out again")
-    return f"{row}; the section, mask {mask}; {undone}"
-
-
 def close_the_pane(tour: Tour) -> str:
     """Close the pane"""
     tour.close()
@@ -205,63 +184,48 @@ STEPS = (
     startup.take_the_first_steps,
     look_at_the_tabs,
     change_three_settings,
-    put_a_section_back,
-    profiles.use_two_in_turn,
     *hotkeys.STEPS,
     startup.launch_at_login,
-    profiles.export_them,
     close_the_pane,
     open_it_again,
     start_it_twice,
     close_it_unchanged,
-    profiles.import_them,
-    troubles.fail_to_save,
     startup.log_in,
 )
 
 
-def walk(tour: Tour) -> bool:
-    """Goes the steps, a line each, to the first that fails."""
-    for number, step in enumerate(STEPS, 1):
+@contextmanager
+def touring(
+    build: str,
+    out: str,
+    size: tuple[int, int] = (1024, 768),
+    environment: dict[str, str] | None = None,
+    first_start: bool = False,
+) -> Iterator[Tour]:
+    """A tour on a desktop of its own. A failure is told and ends the program."""
+    folder = Path(out).resolve()
+    folder.mkdir(parents=True, exist_ok=True)
+    for old in (*folder.glob("[0-9][0-9]-*.png"), *folder.glob("*.plist"), *folder.glob("agent.log")):
+        old.unlink()
+    exit_on_signals()
+    log = {"KORVEX_AGENT_LOG": str(folder / "agent.log")}
+    with Desktop(*size, log | (environment or {}), first_start) as desktop:
+        tour = Tour(desktop, Path(build).resolve(), folder)
         try:
-            print(f"{number:2} {step.__doc__}: {step(tour)}.", flush=True)
-            tour.picture(step.__name__.replace("_", "-"))
-        except Exception as failure:
-            print(f"{number:2} {step.__doc__}: FAILED. {failure}.", flush=True)
-            if not isinstance(failure, Failure):
-                traceback.print_exception(failure)
-            print(tour.desktop.output_of(PROGRAM), end="", file=sys.stderr)
+            yield tour
+        except Failure as failure:
+            print(f"FAILED. {failure}.\n{desktop.output_of(PROGRAM)}", flush=True)
             with suppress(Failure):  # when the display itself is gone
                 tour.picture("failed")
-            return False
-    return True
-
-
-def make_room(out: Path) -> None:
-    """Removes what an earlier tour left."""
-    out.mkdir(parents=True, exist_ok=True)
-    for old in (*out.glob("[0-9][0-9]-*.png"), *out.glob("*.plist"), *out.glob("agent.log")):
-        old.unlink()
-
-
-def main(arguments: list[str]) -> int:
-    if len(arguments) != 2:
-        sys.exit("Usage: python3 -m tests.e2e.tour BUILD_DIR OUT_DIR")
-    build, out = (Path(argument).resolve() for argument in arguments)
-    make_room(out)
-    exit_on_signals()
-    with Desktop(1024, 768, {"KORVEX_AGENT_LOG": str(out / "agent.log")}, True) as desktop:
-        tour = Tour(desktop, build, out)
-        try:
-            succeeded = walk(tour)
+            sys.exit(1)
         finally:
             if tour.stored.exists():
-                shutil.copy(tour.stored, out)
-    return 0 if succeeded else 1
+                shutil.copy(tour.stored, folder)
 
 
 if __name__ == "__main__":
-    try:
-        sys.exit(main(sys.argv[1:]))
-    except Failure as failure:
-        sys.exit(f"The tour could not start: {failure}.")
+    with touring(*given("BUILD_DIR OUT_DIR"), first_start=True) as a_tour:
+        for number, step in enumerate(STEPS, 1):
+            print(f"{number:2} {step.__doc__}: ", end="", flush=True)
+            print(f"{step(a_tour)}.", flush=True)
+            a_tour.picture(step.__name__.replace("_", "-"))

@@ -3,24 +3,22 @@
 
     python3 -m tests.e2e.tryout BUILD_DIR OUT_DIR
 
-OUT_DIR gets pictures, the agent's log and the history. The exit status is 1 when something did not
-have its effect.
+OUT_DIR also gets the history.
 """
 
 import csv
 import plistlib
 import re
 import shutil
-import sys
 import time
 from pathlib import Path
 
-from tests.e2e.desktop import Desktop, exit_on_signals
+from tests.e2e.desktop import Desktop, given
 from tests.e2e.line import Column, Span, Switch, watch
 from tests.e2e.screen import Atspi, Control, GLib, press
-from tests.e2e.startup import DATE
-from tests.e2e.tour import PROGRAM, SCAN_SPEED, Tour, make_room
-from tests.e2e.waiting import Failure, check, until
+from tests.e2e.startup import DATE, NEVER
+from tests.e2e.tour import SCAN_SPEED, Tour, touring
+from tests.e2e.waiting import check, until
 
 SIZE = 1024, 768
 MILLIMETRES_A_PIXEL = 25.4 / 96  # as Xvfb says
@@ -36,7 +34,6 @@ FRAME = 1 / 60  # seconds
 PRESS = 0.008 + FRAME
 
 HELP = "Press any key or button, or"  # of the view
-NEVER = 0x7FFFFFFF  # the notice about assistive access comes no more
 
 
 class Announcements:
@@ -162,9 +159,9 @@ def do_the_sweeps(tour: Tour) -> None:
         check(any(text.startswith(cue) for text in heard), f"“{cue}” wasn’t announced: {heard}")
 
 
-def check_history(tour: Tour, out: Path) -> str:
+def check_history(tour: Tour) -> str:
     file = tour.desktop.home / ".local/share/korvex/tries.csv"
-    shutil.copy(file, out)
+    shutil.copy(file, tour.out)
     (found,) = csv.DictReader(file.open(encoding="ascii"))
     lateness, spread = float(found["lateness seconds"]), float(found["spread seconds"])
     check(abs(lateness - LATENESS) < TOLERANCE, f"the lateness is {lateness}")
@@ -199,31 +196,11 @@ def end_in_a_try(tour: Tour) -> str:
     return "when the program was killed"
 
 
-def try_it(tour: Tour, out: Path) -> None:
-    tour.start()
-    do_the_sweeps(tour)
-    print(f"Measured: {check_history(tour, out)}.", flush=True)
-    print(f"Taken: {take_the_advice(tour)}.", flush=True)
-    print(f"Given back: the keys, {end_in_a_try(tour)}.", flush=True)
-
-
-def main(arguments: list[str]) -> int:
-    if len(arguments) != 2:
-        sys.exit("Usage: python3 -m tests.e2e.tryout BUILD_DIR OUT_DIR")
-    build, out = (Path(argument).resolve() for argument in arguments)
-    make_room(out)
-    exit_on_signals()
-    with Desktop(*SIZE, {"KORVEX_AGENT_LOG": str(out / "agent.log")}) as desktop:
-        store_settings(desktop)
-        tour = Tour(desktop, build, out)
-        try:
-            try_it(tour, out)
-        except Failure as failure:
-            tour.picture("failed")
-            print(f"FAILED. {failure}.\n{desktop.output_of(PROGRAM)}", flush=True)
-            return 1
-    return 0
-
-
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1:]))
+    with touring(*given("BUILD_DIR OUT_DIR"), SIZE) as a_tour:
+        store_settings(a_tour.desktop)
+        a_tour.start()
+        do_the_sweeps(a_tour)
+        print(f"Measured: {check_history(a_tour)}.", flush=True)
+        print(f"Taken: {take_the_advice(a_tour)}.", flush=True)
+        print(f"Given back: the keys, {end_in_a_try(a_tour)}.", flush=True)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/keycombo.h"
 
+#include "platform/HIToolbox/detail/KernelKeyboard.h"
 #include "platform/HIToolbox/detail/ScanCodes.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
@@ -86,6 +87,15 @@ TEST(KeyComboTest, NamesCombinationsByTheFunctionKeysSettingOfTheMoment) {
     for (const auto& test : cases) {
         setFunctionKeys(test.functionKeys);
         EXPECT_EQ(name(test.modifiers, test.keyCode), test.name) << test.functionKeys;
+    }
+}
+
+TEST(KeyComboTest, ReadsWhatTheKernelDoesWithFunctionKeys) {
+    const auto file = makeSandboxFolder("") / "fnmode";
+    EXPECT_TRUE(kernelPrefersFunctionKeys(file.c_str())) << "there is no such keyboard";
+    for (const char* text : {"2\n", "1\n", "3\n", "", "two"}) {
+        writeFile(file, text);
+        EXPECT_EQ(kernelPrefersFunctionKeys(file.c_str()), *text == '2') << text;
     }
 }
 

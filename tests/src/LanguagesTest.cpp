@@ -2,9 +2,6 @@
 #include "tests/support/PaneFixture.h"
 
 #include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTabBar>
 #include <QTranslator>
 

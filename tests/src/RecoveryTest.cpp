@@ -28,7 +28,7 @@ protected:
     void waitForFiles(long count) const {
         for (int i = 0; i < 500 && countFiles() != count; ++i)
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        EXPECT_EQ(countFiles(), count);
+        ASSERT_EQ(countFiles(), count);
     }
 
     /// As a program that changes a setting and is killed.
@@ -43,8 +43,7 @@ protected:
             recoveryKeep(record, changed);
             pause();
         }
-        for (int i = 0; i < 500 && countFiles() == before; ++i)
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        waitForFiles(before + 1);
         kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
     }
@@ -55,7 +54,6 @@ protected:
 TEST_F(RecoveryTest, TakesOverWhatCrashedProgramsChangedTheLatestLast) {
     crash(20);
     crash(30);
-    waitForFiles(2);
     writeFile(state_ / "korvex/unsaved.1.2.damaged", "<plist>");
     writeFile(state_ / "korvex/unsaved.1.2", "damaged");
 

@@ -33,6 +33,9 @@ public:
         return QJsonDocument::fromJson(std::exchange(line_, {})).object();
     }
 
+    /// What the next event says has changed.
+    long nextMask() { return static_cast<long>(next()["mask"].toInteger()); }
+
     /// The name of the next event.
     std::string nextName() { return next()["event"].toString().toStdString(); }
 

@@ -2,12 +2,19 @@
 #pragma once
 
 #include "platform/AppKit/NSView.h"
+#include "platform/AppKit/UserMessages.h"
+#include "src/prefpane/PreferenceWrangler.h"
 #include "src/prefpane/VLDKorvexPane.h"
 #include "src/prefs.h"
 #include "tests/support/AgentTest.h"
 
+#include <QAbstractButton>
 #include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QTest>
@@ -18,7 +25,8 @@
 #include <vector>
 
 /// Opens the built pane, from its real bundle, in this process, and the stand-in agent beside it.
-/// Nothing is open until the test says so.
+/// Nothing is open until the test says so. What the agent hears and the test doesn't expect is a
+/// fault.
 class PaneTest : public AgentTest<QApplication> {
 protected:
     PaneTest() {
@@ -26,8 +34,10 @@ protected:
         registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
     }
 
-    ~PaneTest() override {
-        if (pane_)
+    void TearDown() override {
+        if (pane_ && hasAgent_)
+            EXPECT_THAT(remainingMasks(), testing::IsEmpty());
+        else if (pane_)
             putAway();
     }
 
@@ -51,6 +61,7 @@ protected:
         startAgent();
         open();
         ASSERT_EQ(agentLog_.nextName(), "PPop");
+        hasAgent_ = true;
     }
 
     void putAway() {
@@ -85,6 +96,24 @@ protected:
         QTest::mouseClick(widget, Qt::LeftButton, modifiers, place);
     }
 
+    /// What assistive technology does.
+    static void act(QAccessibleInterface* control) {
+        auto* actions = control->actionInterface();
+        actions->doAction(actions->actionNames().front());
+    }
+
+    static void act(QWidget* widget) { act(QAccessible::queryAccessibleInterface(widget)); }
+
+    /// What the strip at the window's top says; empty without one.
+    static std::string told() { return currentMessage() ? currentMessage()->message.text : ""; }
+
+    static void pressInStrip() {
+        const auto press = currentMessage()->message.buttons.at(0).press;
+        withdrawMessage(std::string(currentMessage()->topic));
+        if (press)
+            press();
+    }
+
     /// The masks that the agent received from the last read event on; puts the pane away, so that
     /// nothing can come after them.
     std::vector<ChangeMask> remainingMasks() {
@@ -97,4 +126,5 @@ protected:
 
     CFRef<CFBundle> bundle_;
     std::unique_ptr<VLDKorvexPane> pane_;
+    bool hasAgent_ = false;
 };

@@ -4,6 +4,11 @@
 #include "platform/CoreFoundation/CFURL.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
+/// A desktop entry with that Exec value, and more lines.
+inline std::string desktopEntry(const std::string& exec, const std::string& more = "") {
+    return "[Desktop Entry]\nType=Application\nName=Any\nExec=" + exec + '\n' + more;
+}
+
 /// Makes an application's bundle, org.korvex.Test, whose executable is Contents/Linux/run. Gives
 /// its URL.
 inline CFRef<CFURL> makeTestApplication(const std::filesystem::path& bundle,

@@ -2,7 +2,6 @@
 #include "tests/platform/AppKit/TestForm.h"
 
 #include <QElapsedTimer>
-#include <QPushButton>
 
 namespace {
 

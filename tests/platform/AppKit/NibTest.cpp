@@ -3,7 +3,6 @@
 #include "tests/platform/AppKit/TestForm.h"
 
 #include <QCheckBox>
-#include <QSlider>
 
 namespace {
 

@@ -2,11 +2,7 @@
 #include "platform/AppKit/NSPopUpButton.h"
 #include "tests/platform/AppKit/TestForm.h"
 
-#include <QAbstractButton>
-#include <QAccessible>
-#include <QApplication>
 #include <QListWidget>
-#include <QPushButton>
 #include <QWindow>
 
 namespace {

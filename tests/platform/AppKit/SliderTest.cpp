@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/AppKit/TestForm.h"
 
-#include <QAccessible>
-#include <QSlider>
 #include <QWheelEvent>
 
 namespace {

@@ -9,7 +9,10 @@
 #include "platform/AppKit/NSTextField.h"
 #include "tests/support/ApplicationTest.h"
 
+#include <QAccessible>
 #include <QApplication>
+#include <QPushButton>
+#include <QSlider>
 #include <QTest>
 #include <gmock/gmock.h>
 

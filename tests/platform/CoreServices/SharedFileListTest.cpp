@@ -11,10 +11,6 @@ namespace {
 const fs::path kSandbox = std::getenv("KORVEX_TEST_SANDBOX");
 const fs::path kFolder = kSandbox / "home/.config/autostart";
 
-std::string entry(const std::string& exec) {
-    return "[Desktop Entry]\nType=Application\nName=Any\nExec=" + exec + '\n';
-}
-
 class SharedFileListTest : public testing::Test {
 protected:
     std::vector<const LSSharedFileListItem*> items() {
@@ -59,9 +55,10 @@ TEST_F(SharedFileListTest, AnEntrysNameIsTakenOnlyFromAnotherOfItsOwn) {
     const auto url = makeTestApplication(kSandbox / "A.app");
     const std::string run = "/A.app/Contents/Linux/run";
     for (const auto& [text, written] :
-         {std::pair(entry("\"" + kSandbox.string() + run + "\"") + "OnlyShowIn=Other;\n", "-2"),
-          {entry("/gone" + run) + "TryExec=/gone\n", ""}, // from where it was before
-          {entry("other") + "Hidden=true\n", "-2"},
+         {std::pair(desktopEntry("\"" + kSandbox.string() + run + "\"") + "OnlyShowIn=Other;\n",
+                    "-2"),
+          {desktopEntry("/gone" + run) + "TryExec=/gone\n", ""}, // from where it was before
+          {desktopEntry("other") + "Hidden=true\n", "-2"},
           {"???", "-2"}}) {
         fs::remove_all(kFolder);
         writeFile(kFolder / "org.korvex.Test.desktop", text);

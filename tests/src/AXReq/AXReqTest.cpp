@@ -8,7 +8,6 @@
 
 #include <QCheckBox>
 #include <QElapsedTimer>
-#include <QPushButton>
 
 #include <ctime>
 

@@ -91,10 +91,6 @@ Files stateOf(const fs::path& folder) {
     return files;
 }
 
-std::string exec(const std::string& command, const std::string& more = "") {
-    return "[Desktop Entry]\nType=Application\nName=Any\nExec=" + command + '\n' + more;
-}
-
 /// An Exec value that starts the application, or one whose path is another.
 std::string startOf(const std::string& path = kApplication) {
     return '"' + path + "/Contents/Linux/run\"";
@@ -115,21 +111,22 @@ TEST_F(LaunchTest, ListsTheApplicationOnceAndTakesItOutWhateverTheFolderHolds) {
     std::string shouting = kApplication;
     std::transform(shouting.begin(), shouting.end(), shouting.begin(), toupper);
     const Files own = {
-        {"a.desktop", exec(startOf())},
-        {"twice.desktop", exec(startOf())},
-        {"another letter case.desktop", exec(startOf(shouting))},
-        {kEntry, exec(startOf(), "X-GNOME-Autostart-Delay=5\nHidden=false\n[Other]\nExec=x\n")},
-        {"through another.desktop", exec("env A=1 " + startOf() + " --quiet")},
+        {"a.desktop", desktopEntry(startOf())},
+        {"twice.desktop", desktopEntry(startOf())},
+        {"another letter case.desktop", desktopEntry(startOf(shouting))},
+        {kEntry,
+         desktopEntry(startOf(), "X-GNOME-Autostart-Delay=5\nHidden=false\n[Other]\nExec=x\n")},
+        {"through another.desktop", desktopEntry("env A=1 " + startOf() + " --quiet")},
     };
     const Files others = {
-        {"another.desktop", exec("other --x")},
-        {"env.desktop", exec("/usr/bin/env")},
-        {"no entry.txt", exec(startOf())},
-        {"beside.desktop", exec(startOf(kApplication.parent_path() / "Other.app"))},
+        {"another.desktop", desktopEntry("other --x")},
+        {"env.desktop", desktopEntry("/usr/bin/env")},
+        {"no entry.txt", desktopEntry(startOf())},
+        {"beside.desktop", desktopEntry(startOf(kApplication.parent_path() / "Other.app"))},
         {"empty.desktop", ""},
         {"binary.desktop", "\x7f\x01[[["},
         {"cut.desktop", "[Desktop Entry]\nExec=" + startOf()},
-        {"without its program.desktop", exec(startOf(), "TryExec=/nowhere\n")},
+        {"without its program.desktop", desktopEntry(startOf(), "TryExec=/nowhere\n")},
     };
 
     for (const bool allUsers : {false, true}) {
@@ -154,7 +151,7 @@ TEST_F(LaunchTest, ListsTheApplicationOnceAndTakesItOutWhateverTheFolderHolds) {
 }
 
 TEST_F(LaunchTest, ALinkIsTakenAwayButNotWhatItPointsTo) {
-    writeFile(kSandbox / "elsewhere.desktop", exec(startOf()));
+    writeFile(kSandbox / "elsewhere.desktop", desktopEntry(startOf()));
     fs::create_directories(kMine);
     fs::create_symlink(kSandbox / "elsewhere.desktop", kMine / "a.desktop");
     fs::create_symlink(kSandbox / "nowhere", kMine / kEntry);
@@ -168,7 +165,7 @@ TEST_F(LaunchTest, ALinkIsTakenAwayButNotWhatItPointsTo) {
 
 TEST_F(LaunchTest, WhatCantBeChangedStaysAndIsTold) {
     for (const char* name : {"a.desktop", "b.desktop"})
-        writeFile(kMine / name, exec(startOf()));
+        writeFile(kMine / name, desktopEntry(startOf()));
     writeFile(kEveryones, "a file in the folder's place");
     const auto before = stateOf(kMine);
     EXPECT_FALSE(set(true, true));
@@ -207,11 +204,11 @@ TEST_F(LaunchTest, NothingElseStartsItForThisUser) {
     const fs::path far = kSandbox / "etc/far/autostart";
     setenv("XDG_CONFIG_DIRS",
            (kSandbox.string() + "/etc/xdg:" + kSandbox.string() + "/etc/far").c_str(), 1);
-    const std::string copy = exec(startOf("/opt" / kApplication.filename()));
-    writeFile(kEveryones / "first.desktop", exec(startOf()));
-    writeFile(far / "far.desktop", exec(startOf()));
+    const std::string copy = desktopEntry(startOf("/opt" / kApplication.filename()));
+    writeFile(kEveryones / "first.desktop", desktopEntry(startOf()));
+    writeFile(far / "far.desktop", desktopEntry(startOf()));
     writeFile(far / "copy.desktop", copy);
-    writeFile(far / "first.desktop", exec("other"));
+    writeFile(far / "first.desktop", desktopEntry("other"));
     writeFile(kMine / "copy of mine.desktop", copy);
     for (const bool on : {true, false}) {
         EXPECT_TRUE(set(on, false));
@@ -226,7 +223,7 @@ TEST_F(LaunchTest, NothingElseStartsItForThisUser) {
 TEST_F(LaunchTest, WhatTheUserSwitchedOffElsewhereStaysUntilSwitchedOnHere) {
     setenv("XDG_CURRENT_DESKTOP", "ubuntu:GNOME", 1);
     for (const char* off : {"Hidden=true\n", "X-GNOME-Autostart-enabled=false\n"}) {
-        const std::string text = exec(startOf(), std::string("Comment=Mine\n") + off);
+        const std::string text = desktopEntry(startOf(), std::string("Comment=Mine\n") + off);
         writeFile(kMine / kEntry, text);
         EXPECT_FALSE(set(true, false));
         EXPECT_EQ(readFile(kMine / kEntry), text);
@@ -236,17 +233,18 @@ TEST_F(LaunchTest, WhatTheUserSwitchedOffElsewhereStaysUntilSwitchedOnHere) {
         launchForgetSwitchedOff(url.get());
         EXPECT_TRUE(set(true, false));
         EXPECT_TRUE(launchAppIsAutoLaunched(url.get()));
-        EXPECT_EQ(readFile(kMine / "any.desktop"), exec(startOf(), "Comment=Mine\n"));
+        EXPECT_EQ(readFile(kMine / "any.desktop"), desktopEntry(startOf(), "Comment=Mine\n"));
         EXPECT_EQ(stateOf(kMine).size(), 1u) << off;
         writeFile(kMine / "any.desktop", text);
-        writeFile(kMine / "a copy's.desktop", exec(startOf("/opt" / kApplication.filename())));
+        writeFile(kMine / "a copy's.desktop",
+                  desktopEntry(startOf("/opt" / kApplication.filename())));
         EXPECT_TRUE(set(true, false)) << "the copy's gives way to one that is on as well";
         EXPECT_TRUE(launchAppIsAutoLaunched(url.get()));
         EXPECT_EQ(readFile(kMine / "any.desktop"), text);
         EXPECT_EQ(stateOf(kMine).size(), 2u);
         fs::remove_all(kMine);
     }
-    writeFile(kMine / "kde.desktop", exec(startOf(), "OnlyShowIn=KDE\n"));
+    writeFile(kMine / "kde.desktop", desktopEntry(startOf(), "OnlyShowIn=KDE\n"));
     EXPECT_TRUE(set(true, false));
     for (const char* desktop : {"KDE", "GNOME", "XFCE"}) {
         setenv("XDG_CURRENT_DESKTOP", desktop, 1);
@@ -259,7 +257,7 @@ TEST_F(LaunchTest, WhatTheUserSwitchedOffElsewhereStaysUntilSwitchedOnHere) {
     for (const auto& [where, listed] : {std::pair("OnlyShowIn=KDE;", false),
                                         {"NotShowIn=XFCE;GNOME", false},
                                         {"OnlyShowIn=KDE;GNOME;", true}}) {
-        writeFile(kMine / kEntry, exec(startOf(), where + std::string("\n")));
+        writeFile(kMine / kEntry, desktopEntry(startOf(), where + std::string("\n")));
         EXPECT_EQ(launchAppIsAutoLaunched(url.get()), listed) << where;
     }
 }

@@ -2,11 +2,7 @@
 #include "platform/AppKit/detail/PopUpButtonWidget.h"
 #include "platform/AppKit/detail/ViewWidget.h"
 #include "src/prefpane/HotKeyView.h"
-#include "src/prefpane/PreferenceWrangler.h"
 #include "tests/support/PaneFixture.h"
-
-#include <QAccessible>
-#include <QLabel>
 
 #include <linux/input-event-codes.h>
 
@@ -120,7 +116,6 @@ TEST_F(HotKeyTest, CapturesWhateverIsPressed) {
         EXPECT_EQ(shown("scanKey"), test.shown);
         EXPECT_FALSE(isCapturing("scanKey") || showsEditingGroup());
     }
-    EXPECT_THAT(remainingMasks(), testing::IsEmpty());
 }
 
 TEST_F(HotKeyTest, HotKeysThatTheAgentCantTellApartAreNoted) {
@@ -145,18 +140,14 @@ TEST_F(HotKeyTest, HotKeysThatTheAgentCantTellApartAreNoted) {
 
 TEST_F(HotKeyTest, MovingAwayStoresNothing) {
     openWithAgent();
-    for (const char* elsewhere :
-         {"masterOnOffRadios1", "volumeIncBtn"}) { // which is on another tab
-        click("cancelScanKey");
-        EXPECT_TRUE(isCapturing("cancelScanKey") && showsEditingGroup());
-        find(elsewhere)->setFocus();
-        EXPECT_FALSE(isCapturing("cancelScanKey") || showsEditingGroup()) << elsewhere;
-    }
+    click("cancelScanKey");
+    EXPECT_TRUE(isCapturing("cancelScanKey") && showsEditingGroup());
+    find("volumeIncBtn")->setFocus(); // on another tab
+    EXPECT_FALSE(isCapturing("cancelScanKey") || showsEditingGroup());
     click("scanKey");
     pane_->willSelect(); // loads anew
     EXPECT_FALSE(showsEditingGroup());
     EXPECT_EQ(agentLog_.nextName(), "PPop");
-    EXPECT_THAT(remainingMasks(), testing::IsEmpty());
 }
 
 TEST_F(HotKeyTest, AHotKeyIsBuiltWithoutAKeyAndATwiceUsedOneIsUsedOnce) {
@@ -182,7 +173,6 @@ TEST_F(HotKeyTest, AHotKeyIsBuiltWithoutAKeyAndATwiceUsedOneIsUsedOnce) {
     EXPECT_EQ(shown("scanKey"), "esc");
     EXPECT_FALSE(popUp("scanKeyBtn").entries().back().enabled) << "there is nothing to settle";
     expectChange(0, 0x35);
-    EXPECT_THAT(remainingMasks(), testing::IsEmpty());
 }
 
 TEST_F(HotKeyTest, ACaptureEndsWithItsWindow) {

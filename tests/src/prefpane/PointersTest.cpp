@@ -137,27 +137,18 @@ TEST_F(PointersTest, TheLastPlusGivesTheHotSpot) {
 
 TEST_F(PointersTest, WhatIsNoPictureInTheFolderIsNotLoaded) {
     const std::string good = png(64, 64);
-    std::string huge = good;
-    huge[16] = 0x7F; // the width's highest byte
     const fs::path folder = AgentBundle::pointers(), outside = AgentBundle::resources() / "outside";
     fs::create_directories(folder / "inner");
-    for (const auto& [file, content] : {std::pair("Good.PNG", good),
-                                        {"cut.png", good.substr(0, good.size() / 2)},
-                                        {"huge.png", huge},
-                                        {"text.png", "GIF89a, says the text"},
-                                        {"empty.png", ""},
-                                        {"\xFF.png", good},
-                                        {"../outside.png", good},
-                                        {"inner/deep.png", good}})
-        touch(file, content);
+    for (const char* file : {"Good.PNG", "\xFF.png", "../outside.png", "inner/deep.png"})
+        touch(file, good);
+    touch("cut.png", good.substr(0, good.size() / 2));
     fs::create_directory(folder / "folder.png");
     fs::create_symlink(outside.string() + ".png", folder / "link.png");
     fs::create_symlink("nothing", folder / "dangling.png");
 
     PointerImage pointer{{}, {7, 8}};
-    for (const char* name :
-         {"", "gone", "cut", "huge", "text", "empty", "\xFF", "../outside", "..", "inner/deep",
-          "./Good", "folder", "link", "dangling", outside.c_str()}) {
+    for (const char* name : {"", "gone", "cut", "\xFF", "../outside", "..", "inner/deep", "./Good",
+                             "folder", "link", "dangling", outside.c_str()}) {
         EXPECT_FALSE(ptrutilLoadPointerFromBundle(daemonMainBundle(), name, &pointer)) << name;
         EXPECT_TRUE(!pointer.image && pointer.hotSpot.x == 7) << name;
     }

@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "platform/AppKit/UserMessages.h"
-#include "src/prefpane/PreferenceWrangler.h"
 #include "src/profiles.h"
 #include "tests/support/PaneFixture.h"
 
 #include <QDir>
 #include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 
 #include <filesystem>
 #include <fstream>
@@ -40,15 +35,6 @@ protected:
         QTest::keyClick(list, row < 0 ? Qt::Key_Escape : Qt::Key_Return);
         return entries;
     }
-
-    static std::string told() { return currentMessage() ? currentMessage()->message.text : ""; }
-
-    static void pressInStrip(std::size_t button) {
-        const auto press = currentMessage()->message.buttons.at(button).press;
-        withdrawMessage(std::string(currentMessage()->topic));
-        if (press)
-            press();
-    }
 };
 
 TEST_F(ProfileEditorTest, AProfileIsUsedAsOneChangeWhichUndoTakesBackWithItsName) {
@@ -71,7 +57,7 @@ TEST_F(ProfileEditorTest, AProfileIsUsedAsOneChangeWhichUndoTakesBackWithItsName
     EXPECT_EQ(sent["mask"].toInteger(), kChangeSounds | kChangeScanSpeed);
     EXPECT_EQ(prefs.on, 0);
     EXPECT_EQ(shown(), "Morning");
-    pressInStrip(0);
+    pressInStrip();
     EXPECT_EQ(double{prefs.lineScanTime}, 20);
     EXPECT_EQ(shown(), "Tired");
     click("redoBtn");
@@ -92,7 +78,7 @@ TEST_F(ProfileEditorTest, TheSectionUpdatesRenamesAndDeletesAndPutsBack) {
     click("updateProfileBtn");
     EXPECT_EQ(window()->focusWidget()->objectName(), QLatin1String("profileGrid"));
     EXPECT_EQ(shown(), "Morning 2");
-    pressInStrip(0);
+    pressInStrip();
     EXPECT_EQ(shown(), "Morning 2, changed");
     find<QLineEdit>("profileName")->setText("Müde");
     click("renameProfileBtn");
@@ -100,19 +86,23 @@ TEST_F(ProfileEditorTest, TheSectionUpdatesRenamesAndDeletesAndPutsBack) {
     click("deleteProfileBtn");
     EXPECT_EQ(profileNames(), std::vector<std::string>{"Morning"});
     EXPECT_EQ(shown(), "Profiles");
-    pressInStrip(0);
+    pressInStrip();
     EXPECT_EQ(shown(), "Müde, changed");
     EXPECT_EQ(readProfile("Müde", prefs).record.soundLevel, 50u);
 }
 
 TEST_F(ProfileEditorTest, OfAFileTheSoundSettingsAreOfferedAndTakenAsOneChange) {
     const QString path = QDir::homePath() + "/brought.plist";
-    const auto import = [&](const char* text) {
-        std::ofstream(path.toStdString()) << text;
-        click("importBtn");
+    const auto chooseFile = [&](const char* button) {
+        click(button);
         auto* dialog = window()->findChild<QFileDialog*>();
         dialog->selectFile(path);
         static_cast<QDialog*>(dialog)->accept();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    const auto import = [&](const char* text) {
+        std::ofstream(path.toStdString()) << text;
+        chooseFile("importBtn");
     };
     openWithAgent();
     import("<plist><dict><key>soundLevel</key><string>0x3");
@@ -126,10 +116,15 @@ TEST_F(ProfileEditorTest, OfAFileTheSoundSettingsAreOfferedAndTakenAsOneChange) 
                       "settings?\nLeft out: palette.borderGap: outside 0 to 100 points.\nLeft out: "
                       "tomorrow: no setting of this version.");
     EXPECT_EQ(prefs.soundLevel, 50u);
-    pressInStrip(0);
-    EXPECT_EQ(agentLog_.next()["mask"].toInteger(), kChangeSounds | kChangeScanSpeed);
+    pressInStrip();
+    EXPECT_EQ(agentLog_.nextMask(), kChangeSounds | kChangeScanSpeed);
+    std::filesystem::remove(path.toStdString());
+    chooseFile("exportBtn");
+    EXPECT_THAT(told(), testing::HasSubstr(path.toStdString()));
     click("undoBtn");
     EXPECT_EQ(prefs.soundLevel, 50u);
+    chooseFile("importBtn");
+    EXPECT_THAT(told(), testing::HasSubstr("Volume: 50 to 3, and 1 setting more."));
     EXPECT_EQ(remainingMasks().size(), 1u);
 }
 

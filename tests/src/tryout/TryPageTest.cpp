@@ -1,9 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "src/prefpane/PreferenceWrangler.h"
 #include "tests/support/PaneFixture.h"
-
-#include <QLabel>
-#include <QPushButton>
 
 namespace {
 
@@ -82,7 +78,6 @@ TEST_F(TryPageTest, TheTargetIsChosenBeforeATryAndKept) {
     openPage();
     EXPECT_EQ(window()->findChild<QLabel*>(QStringLiteral("targetText"))->text(), chosen);
     page_.reset();
-    EXPECT_THAT(remainingMasks(), testing::IsEmpty());
 }
 
 } // namespace

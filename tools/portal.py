@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Stands for the desktop's settings portal: tells programs how the user wishes them to look.
 
-    python3 -m tests.e2e.portal LOOK
+    python3 -m tools.portal LOOK
 """
 
 import sys
