@@ -98,6 +98,7 @@ void PaneHost::open() {
     isSelected_ = true;
     pane_->willSelect();
     tellOfLaunches();
+    tellOfUnkeptChanges();
     // After willSelect, so that what the pane has set up by then is still there when it is called.
     openHost = this;
     std::atexit(endAtExit);

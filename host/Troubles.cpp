@@ -6,6 +6,7 @@
 #include "platform/CoreFoundation/PreferencesOutcome.h"
 #include "platform/CoreServices/ChangeWatch.h"
 #include "platform/CoreServices/LaunchTrouble.h"
+#include "platform/CoreServices/StateFile.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -19,6 +20,7 @@ namespace {
 constexpr char kFiles[] = "files";
 constexpr char kSaving[] = "saving";
 constexpr char kLaunching[] = "launching";
+constexpr char kCrash[] = "crash";
 
 std::string reasonOf(const PreferencesOutcome& outcome) {
     switch (outcome.trouble) {
@@ -117,6 +119,17 @@ void tellOfLaunch() {
                       [bundle = troubled->bundle] { launchAgain(bundle); }}}});
 }
 
+void tellOfStateFile() {
+    const PreferencesOutcome outcome = stateFileOutcome();
+    if (outcome.trouble == FileTrouble::None)
+        return withdrawMessage(kCrash);
+    tellUser(
+        kCrash,
+        {.text = filled(localized("Troubles",
+                                  "Should this window crash, your last changes would be lost: %1."),
+                        {reasonOf(outcome)})});
+}
+
 } // namespace
 
 void tellOfUnusableFiles() {
@@ -128,6 +141,10 @@ void tellOfUnusableFiles() {
 void tellOfLaunches() {
     [[maybe_unused]] static const auto& watch = *new ChangeWatch(watchLaunches(tellOfLaunch));
     tellOfLaunch();
+}
+
+void tellOfUnkeptChanges() {
+    [[maybe_unused]] static const auto& watch = *new ChangeWatch(watchStateFile(tellOfStateFile));
 }
 
 std::string whyNotSaved() {

@@ -14,6 +14,9 @@ void tellOfUnusableFiles();
 /// to start it again, until it is well.
 void tellOfLaunches();
 
+/// From now on tells while what isn't stored yet can't be kept for the case of a crash either.
+void tellOfUnkeptChanges();
+
 /// Why settings aren't saved, in words that follow a colon. Empty when all are.
 std::string whyNotSaved();
 

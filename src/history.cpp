@@ -1,16 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "src/history.h"
 
+#include <bit>
+#include <cstring>
 #include <utility>
 
 namespace {
 
 constexpr double kSameStepSeconds = 2;
 
-/// Whether a setting is changed in small steps or by dragging.
-bool isGradual(const Setting& setting) {
+/// The numbers of a setting that differ, a bit each: its sides, where it has some.
+UInt32 differingParts(const Setting& setting, const PrefsRecord& a, const PrefsRecord& b) {
+    const std::size_t size = setting.notation == &kRectangleNotation ? sizeof(float)
+                             : setting.notation == &kSizeNotation    ? sizeof(SInt16)
+                                                                     : setting.size;
+    const auto* one = static_cast<const UInt8*>(setting.in(a));
+    const auto* other = static_cast<const UInt8*>(setting.in(b));
+    UInt32 parts = 0;
+    for (std::size_t at = 0; at < setting.size; at += size)
+        if (std::memcmp(one + at, other + at, size) != 0)
+            parts |= 1U << at;
+    return parts;
+}
+
+/// Whether a setting is changed in small steps or by dragging: of an area, one side is.
+bool isGradual(const Setting& setting, UInt32 parts) {
     return setting.isNumber() || setting.notation == &kSizeNotation ||
-           setting.notation == &kColourNotation;
+           setting.notation == &kColourNotation ||
+           (setting.notation == &kRectangleNotation && std::has_single_bit(parts));
 }
 
 } // namespace
@@ -21,10 +38,11 @@ void History::note(const PrefsRecord& record, double time, const std::string& pr
     if (changed.none())
         return;
     steps_.resize(position_, HistoryStep());
-    if (before == profile && joinsLast(changed, time)) {
-        steps_.back().after = record;
-        steps_.back().time = time;
-        if ((differences(steps_.back().before, record) & changed).none())
+    if (before == profile && joinsLast(changed, record, time)) {
+        HistoryStep& step = steps_.back();
+        step.after = record;
+        step.time = time;
+        if ((differences(step.before, record) & step.settings).none())
             steps_.pop_back();
     } else {
         steps_.push_back({changed, now_, record, time, before, profile});
@@ -33,10 +51,16 @@ void History::note(const PrefsRecord& record, double time, const std::string& pr
     now_ = record;
 }
 
-bool History::joinsLast(const SettingSet& changed, double time) const {
-    return !steps_.empty() && steps_.back().settings == changed && changed.count() == 1 &&
-           steps_.back().profileBefore == steps_.back().profileAfter &&
-           isGradual(kSettings[firstOf(changed)]) && time - steps_.back().time <= kSameStepSeconds;
+// The first change of an area's side may have put the area to use, too.
+bool History::joinsLast(const SettingSet& changed, const PrefsRecord& record, double time) const {
+    if (steps_.empty() || changed.count() != 1)
+        return false;
+    const HistoryStep& last = steps_.back();
+    const Setting& setting = kSettings[firstOf(changed)];
+    const UInt32 parts = differingParts(setting, now_, record);
+    return (changed & ~last.settings).none() && last.profileBefore == last.profileAfter &&
+           isGradual(setting, parts) && time - last.time <= kSameStepSeconds &&
+           parts == differingParts(setting, last.before, last.after);
 }
 
 void History::finishStep() {

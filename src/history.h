@@ -24,7 +24,8 @@ public:
 
     /// The user changed something at `time`, in seconds of any steady clock. What differs from the
     /// record as last known becomes a step, and what was undone can't be redone any more. Further
-    /// changes of one number, size or colour within two seconds belong to its step. A record
+    /// changes of one number, colour or side of an area or button within two seconds belong to its
+    /// step. A record
     /// without a difference is no step. `profile` names the one in use now; with another one than
     /// before, the change is a step of its own.
     void note(const PrefsRecord& record, double time, const std::string& profile = {});
@@ -48,7 +49,7 @@ public:
     const HistoryStep* redo(PrefsRecord& record);
 
 private:
-    bool joinsLast(const SettingSet& changed, double time) const;
+    bool joinsLast(const SettingSet& changed, const PrefsRecord& record, double time) const;
 
     PrefsRecord now_;
     std::string profile_;

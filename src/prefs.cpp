@@ -90,6 +90,9 @@ void prefsWereChanged(const void* chosen) {
     for (std::size_t i = 0; i < kSettings.size(); ++i)
         settingStates[i].isChosen |= kSettings[i].in(prefs) == chosen;
     prefsNeedSaving = true;
+}
+
+void prefsKeepChanges() {
     recoveryKeep(prefs, chosenSettings());
 }
 

@@ -188,10 +188,13 @@ void prefsSetup();
 /// meanwhile.
 bool savePrefs();
 
-/// Has the change outlast a crash, too (recovery.h).
+/// Marks the record as in need of saving.
 /// `chosen`, if not null, is a field of `prefs` that counts as changed though it may be as before.
 void prefsWereChanged(const void* chosen = nullptr);
 void prefsWerentChanged();
+
+/// Has the changes outlast a crash (recovery.h).
+void prefsKeepChanges();
 
 /// Whether the record is as it was when it was last loaded or saved.
 bool prefsAreAsStored();

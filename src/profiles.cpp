@@ -107,9 +107,12 @@ std::string renameProfile(const std::string& name, const std::string& newName) {
     const bool isCurrent = currentProfile() == name;
     std::error_code error;
     fs::rename(pathOf(name), pathOf(newName), error);
-    if (!error && isCurrent)
-        setCurrentProfile(newName);
-    return reasonOf(error.value());
+    if (error || !isCurrent)
+        return reasonOf(error.value());
+    const std::string fault = setCurrentProfile(newName);
+    if (!fault.empty())
+        fs::rename(pathOf(newName), pathOf(name), error);
+    return fault;
 }
 
 std::string deleteProfile(const std::string& name) {
@@ -127,6 +130,10 @@ std::string currentProfile() {
     return isThere(name) ? name : "";
 }
 
-void setCurrentProfile(const std::string& name) {
-    replaceUserFile(currentProfilePath(), name + "\n");
+std::string setCurrentProfile(const std::string& name) {
+    if (name == currentProfile())
+        return {};
+    const std::string path = currentProfilePath();
+    const std::string reason = reasonOf(replaceUserFile(path, name + "\n"));
+    return reason.empty() ? "" : path + ": " + reason;
 }

@@ -27,11 +27,11 @@ std::string freeProfileName(const std::string& name);
 /// What it offers over `base`; its error is set when there is none of that name.
 SettingsOffer readProfile(const std::string& name, const PrefsRecord& base);
 
-/// Fails when the new name is taken.
+/// Fails when the new name is taken, and when the one in use would lose its place as that.
 std::string renameProfile(const std::string& name, const std::string& newName);
 std::string deleteProfile(const std::string& name);
 
 /// The profile that was used or saved last; empty when there was none or it is gone. Whether the
 /// settings have changed since shows in readProfile.
 std::string currentProfile();
-void setCurrentProfile(const std::string& name);
+std::string setCurrentProfile(const std::string& name);

@@ -3,6 +3,9 @@
 
 #include "platform/CoreFoundation/Localization.h"
 #include "src/keycombo.h"
+#include "src/linecolors.h"
+#include "src/prefpane/palutil.h"
+#include "src/ptrutil.h"
 
 #include <algorithm>
 #include <cctype>
@@ -11,10 +14,12 @@
 
 namespace {
 
+constexpr std::size_t kMostButtonsNamed = 2; ///< of the palette: as many as are swapped
+
 constexpr const char* kHotKeyRoles[kNumHotKeys] = {
     LOCALIZABLE("HotKeys", "Turn scanning on or off"), LOCALIZABLE("HotKeys", "Scan"),
     LOCALIZABLE("HotKeys", "Cancel the scan"), LOCALIZABLE("HotKeys", "Show these settings"),
-    LOCALIZABLE("HotKeys", "Second scan key")};
+    LOCALIZABLE("HotKeys", "Scan, second key")};
 
 template <class T>
 T get(const Setting& setting, const PrefsRecord& record) {
@@ -59,33 +64,87 @@ std::string contentText(UInt32 content) {
 
 std::string hotKeyText(const HotKey& hotKey) {
     const auto text = createKeyComboString(hotKey.modifiers, hotKey.keyCode);
+    return hotKey.keyCode < 0 ? localized("Settings", "none", "keys")
+           : text             ? toUTF8(text.get())
+                              : "";
+}
+
+/// As the window has it, which takes the name for UTF-8, or else in the letters it is stored in.
+std::string pointerText(const Setting& setting, const PrefsRecord& record) {
+    const std::string title = ptrutilPointerTitle(record.pointerImageName);
+    if (CFStringCreateWithCString(title.c_str(), kCFStringEncodingUTF8))
+        return title.empty() ? localized("Pointer", "None") : title;
+    const auto text = setting.notation->write(setting.in(record));
     return text ? toUTF8(text.get()) : "";
 }
 
-std::string hotKeysText(const HotKey (&hotKeys)[kNumHotKeys]) {
-    std::string text;
-    for (const HotKey& hotKey : hotKeys)
-        text += (text.empty() ? "" : ", ") + hotKeyText(hotKey);
-    return text;
+/// Those that `each` gives for 0 up to `count`, with commas between; empty ones are left out.
+template <class Each>
+std::string listed(int count, Each each) {
+    std::string list;
+    for (int i = 0; i < count; ++i)
+        if (const std::string text = each(i); !text.empty())
+            list += (list.empty() ? "" : ", ") + text;
+    return list;
 }
 
-/// Of each that differs; empty when none does.
-std::string hotKeysChangeText(const HotKey (&before)[kNumHotKeys],
-                              const HotKey (&after)[kNumHotKeys], const std::string& sentence) {
-    std::string text;
-    for (int i = 0; i < kNumHotKeys; ++i)
-        if (std::memcmp(&before[i], &after[i], sizeof(HotKey)) != 0)
-            text += (text.empty() ? "" : "; ") +
-                    filled(sentence, {localized("HotKeys", kHotKeyRoles[i]), hotKeyText(before[i]),
-                                      hotKeyText(after[i])});
-    return text;
+std::string hotKeysText(const HotKey (&hotKeys)[kNumHotKeys]) {
+    return listed(kNumHotKeys, [&](int i) { return hotKeyText(hotKeys[i]); });
 }
 
 std::string actionsText(const UInt8 (&actions)[kNumPaletteSlots]) {
-    const auto count =
-        static_cast<int>(std::ranges::count_if(actions, [](UInt8 action) { return action != 0; }));
-    return count == 1 ? localized("Settings", "1 button")
-                      : localized("Settings", "%n buttons", "", count);
+    const std::string text = listed(kNumPaletteSlots, [&](int i) {
+        return actions[i] == kEmptyAction ? "" : palutilActionName(actions[i]);
+    });
+    return text.empty() ? localized("Settings", "none", "buttons") : text;
+}
+
+std::string quoted(const std::string& text) {
+    return filled(localized("Settings", "“%1”", "what is chosen"), {text});
+}
+
+/// A part of a setting that differs.
+struct PartChange {
+    std::string name, before, after;
+};
+
+std::vector<PartChange> hotKeyChanges(const PrefsRecord& before, const PrefsRecord& after) {
+    std::vector<PartChange> changes;
+    for (int i = 0; i < kNumHotKeys; ++i)
+        if (std::memcmp(&before.hotKeys[i], &after.hotKeys[i], sizeof(HotKey)) != 0)
+            changes.push_back({filled(localized("HotKeys", "%1 (hot key)", "as in Scan (hot key)"),
+                                      {localized("HotKeys", kHotKeyRoles[i])}),
+                               hotKeyText(before.hotKeys[i]), hotKeyText(after.hotKeys[i])});
+    return changes;
+}
+
+std::vector<PartChange> actionChanges(const PrefsRecord& before, const PrefsRecord& after) {
+    std::vector<PartChange> changes;
+    for (int i = 0; i < kNumPaletteSlots; ++i)
+        if (before.buttonActions[i] != after.buttonActions[i])
+            changes.push_back({filled(localized("Settings", "Palette button %1", "its number"),
+                                      {std::to_string(i + 1)}),
+                               quoted(palutilActionName(before.buttonActions[i])),
+                               quoted(palutilActionName(after.buttonActions[i]))});
+    return changes;
+}
+
+/// Of a setting with parts that have names, each that differs; else none. A change that moves many
+/// buttons of the palette is told of them as a whole.
+std::vector<PartChange> partChanges(const Setting& setting, const PrefsRecord& before,
+                                    const PrefsRecord& after) {
+    if (setting.notation == &kHotKeyListNotation)
+        return hotKeyChanges(before, after);
+    if (setting.notation != &kActionListNotation)
+        return {};
+    auto changes = actionChanges(before, after);
+    return changes.size() > kMostButtonsNamed ? std::vector<PartChange>() : changes;
+}
+
+/// Whether what is chosen may be of several words, which a sentence sets off.
+bool isTitle(const Setting& setting) {
+    return !setting.choices.empty() || setting.notation == &kTextNotation ||
+           setting.notation == &kActionListNotation;
 }
 
 /// "12.5" of "12.5 sec": a unit that the number after it has, too, is said once.
@@ -118,8 +177,7 @@ std::string settingText(const Setting& setting, const PrefsRecord& record) {
     if (setting.notation == &kRectangleNotation)
         return areaText(record.scanArea);
     if (setting.notation == &kColourNotation)
-        return print("#%02x%02x%02x", record.lineColor.red, record.lineColor.green,
-                     record.lineColor.blue);
+        return lineColorText(record.lineColor);
     if (setting.notation == &kSizeNotation)
         return print(localized("Settings", "%d × %d points").c_str(), record.buttonSize.width,
                      record.buttonSize.height);
@@ -131,19 +189,26 @@ std::string settingText(const Setting& setting, const PrefsRecord& record) {
         return contentText(record.buttonContent);
     if (setting.notation == &kRealNotation)
         return print("%g", settingNumber(setting, record));
-    const auto text = setting.notation->write(setting.in(record));
-    return text ? toUTF8(text.get()) : "";
+    return pointerText(setting, record);
 }
 
 std::string changeText(const Setting& setting, const PrefsRecord& before, const PrefsRecord& after,
                        const char* pattern) {
     const std::string sentence = localized("Changes", pattern);
-    if (setting.notation == &kHotKeyListNotation)
-        return hotKeysChangeText(before.hotKeys, after.hotKeys, sentence);
+    if (const auto parts = partChanges(setting, before, after); !parts.empty()) {
+        std::string text;
+        for (const auto& [name, old, now] : parts)
+            text += (text.empty() ? "" : "; ") + filled(sentence, {name, old, now});
+        return text;
+    }
     const std::string old = settingText(setting, before);
     const std::string now = settingText(setting, after);
     const std::string name = localized("Settings", setting.name);
-    return old == now ? name : filled(sentence, {name, withoutUnit(old, now), now});
+    if (old == now)
+        return name;
+    if (isTitle(setting))
+        return filled(sentence, {name, quoted(old), quoted(now)});
+    return filled(sentence, {name, setting.limits.maximum > 0 ? withoutUnit(old, now) : old, now});
 }
 
 std::string changesText(const SettingSet& settings, const PrefsRecord& before,

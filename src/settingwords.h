@@ -19,7 +19,8 @@ inline constexpr char kSettingBecomes[] = LOCALIZABLE("Changes", "%1: %2 to %3")
 inline constexpr char kSettingBecomesAgain[] = LOCALIZABLE("Changes", "%1: %2 back to %3");
 
 /// What a change did, as in "Line scan time: 12.5 back to 10.0 sec", by one of the patterns above.
-/// Of hot keys it names each that differs. Values that read the same aren't said.
+/// Of hot keys it names each that differs, of the palette's buttons one or two. Values that read
+/// the same aren't said.
 std::string changeText(const Setting& setting, const PrefsRecord& before, const PrefsRecord& after,
                        const char* pattern);
 

@@ -167,6 +167,11 @@
         <source>Blue</source>
         <translation>Blau</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a colour like that name, and its code</comment>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>Commands</name>
@@ -213,14 +218,6 @@
     <message>
         <source>Shows what a file would change; with --yes, changes it.</source>
         <translation>Zeigt, was eine Datei ändern würde; mit --yes wird es geändert.</translation>
-    </message>
-    <message>
-        <source>list|use|save|rename|delete [NAME…]</source>
-        <translation>list|use|save|rename|delete [NAME…]</translation>
-    </message>
-    <message>
-        <source>Lists and uses named states of the settings.</source>
-        <translation>Listet und nutzt benannte Stände der Einstellungen.</translation>
     </message>
     <message>
         <source>Prints the completion for bash.</source>
@@ -279,10 +276,6 @@
         <translation>Nichts wurde geändert. Mit --yes geschieht es.</translation>
     </message>
     <message>
-        <source>profile list, use NAME, save NAME, rename NAME NEW or delete NAME</source>
-        <translation>profile list, use NAME, save NAME, rename NAME NEU oder delete NAME</translation>
-    </message>
-    <message>
         <source>; default: %1</source>
         <translation>; Standard: %1</translation>
     </message>
@@ -319,6 +312,26 @@
     <message>
         <source>%1 (in use, changed)</source>
         <translation>%1 (in Gebrauch, geändert)</translation>
+    </message>
+    <message>
+        <source>list|use|compare|save|rename|delete [NAME…]</source>
+        <translation>list|use|compare|save|rename|delete [NAME…]</translation>
+    </message>
+    <message>
+        <source>Lists, uses and compares named states of the settings; compare says what differs between two, or between one and the settings.</source>
+        <translation>Listet, verwendet und vergleicht benannte Stände der Einstellungen; compare sagt, was zwei unterscheidet oder eines von den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>which profile is in use can&apos;t be kept: %1</source>
+        <translation>welches Profil in Gebrauch ist, kann nicht festgehalten werden: %1</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>Nichts unterscheidet sich.</translation>
+    </message>
+    <message>
+        <source>profile list, use NAME, compare NAME [OTHER], save NAME, rename NAME NEW or delete NAME</source>
+        <translation>profile list, use NAME, compare NAME [ANDERER], save NAME, rename NAME NEU oder delete NAME</translation>
     </message>
 </context>
 <context>
@@ -580,12 +593,17 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Diese Einstellungen zeigen</translation>
     </message>
     <message>
-        <source>Second scan key</source>
-        <translation>Zweite Scan-Taste</translation>
-    </message>
-    <message>
         <source>Keys that this desktop uses itself aren’t heard here. “Choose keys…” in the menu has them too.</source>
         <translation>Tasten, die dieser Desktop selbst benutzt, kommen hier nicht an. Über „Tasten wählen…“ im Menü gehen auch sie.</translation>
+    </message>
+    <message>
+        <source>Scan, second key</source>
+        <translation>Scannen, zweite Taste</translation>
+    </message>
+    <message>
+        <source>%1 (hot key)</source>
+        <comment>as in Scan (hot key)</comment>
+        <translation>%1 (Tastenkombination)</translation>
     </message>
 </context>
 <context>
@@ -2042,6 +2060,16 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Sound, login, profiles</source>
         <translation>Ton, Anmeldung, Profile</translation>
+        <source>Compare the chosen profile</source>
+        <translation>Das gewählte Profil vergleichen</translation>
+    </message>
+    <message>
+        <source>Says how the chosen profile differs from another one, or from the settings as they are.</source>
+        <translation>Sagt, wie sich das gewählte Profil von einem anderen unterscheidet oder von den Einstellungen, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Compare with…</source>
+        <translation>Vergleichen mit…</translation>
     </message>
 </context>
 <context>
@@ -2216,6 +2244,26 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>First type a name, or press one of the ready ones.</source>
         <translation>Tippen Sie zuerst einen Namen, oder drücken Sie einen der fertigen.</translation>
     </message>
+    <message>
+        <source>Which profile is in use can’t be kept: %1.</source>
+        <translation>Welches Profil in Gebrauch ist, kann nicht festgehalten werden: %1.</translation>
+    </message>
+    <message>
+        <source>The settings as they are</source>
+        <translation>Die Einstellungen, wie sie sind</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>“%1” and “%2” have the same settings.</source>
+        <translation>„%1“ und „%2“ haben dieselben Einstellungen.</translation>
+    </message>
+    <message>
+        <source>After “%2”, “%1” would change:</source>
+        <translation>Nach „%2“ würde „%1“ ändern:</translation>
+    </message>
 </context>
 <context>
     <name>PutBackButton</name>
@@ -2336,14 +2384,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Priority over other programs</source>
         <translation>Vorrang vor anderen Programmen</translation>
-    </message>
-    <message>
-        <source>Start at login</source>
-        <translation>Beim Anmelden starten</translation>
-    </message>
-    <message>
-        <source>Scan from the start</source>
-        <translation>Von Anfang an scannen</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -2498,10 +2538,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Bild und Name</translation>
     </message>
     <message>
-        <source>1 button</source>
-        <translation>1 Knopf</translation>
-    </message>
-    <message>
         <source>on</source>
         <translation>ein</translation>
     </message>
@@ -2513,12 +2549,33 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>%d × %d points</source>
         <translation>%d × %d Punkte</translation>
     </message>
-    <message numerus="yes">
-        <source>%n buttons</source>
-        <translation>
-            <numerusform>%n Knopf</numerusform>
-            <numerusform>%n Knöpfe</numerusform>
-        </translation>
+    <message>
+        <source>Start Korvex when you log in</source>
+        <translation>Korvex beim Anmelden starten</translation>
+    </message>
+    <message>
+        <source>Turn scanning on when Korvex starts</source>
+        <translation>Scannen einschalten, wenn Korvex startet</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>keys</comment>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>buttons</comment>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>what is chosen</comment>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>Palette button %1</source>
+        <comment>its number</comment>
+        <translation>Palettenknopf %1</translation>
     </message>
 </context>
 <context>
@@ -2648,6 +2705,10 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Save a copy…</source>
         <translation>Eine Kopie speichern…</translation>
+    </message>
+    <message>
+        <source>Should this window crash, your last changes would be lost: %1.</source>
+        <translation>Sollte dieses Fenster abstürzen, gingen Ihre letzten Änderungen verloren: %1.</translation>
     </message>
 </context>
 <context>

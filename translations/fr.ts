@@ -167,6 +167,11 @@
         <source>Blue</source>
         <translation>Bleu</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a colour like that name, and its code</comment>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>Commands</name>
@@ -213,14 +218,6 @@
     <message>
         <source>Shows what a file would change; with --yes, changes it.</source>
         <translation>Montre ce qu’un fichier changerait&#xa0;; avec --yes, le change.</translation>
-    </message>
-    <message>
-        <source>list|use|save|rename|delete [NAME…]</source>
-        <translation>list|use|save|rename|delete [NOM…]</translation>
-    </message>
-    <message>
-        <source>Lists and uses named states of the settings.</source>
-        <translation>Liste et utilise des états nommés des réglages.</translation>
     </message>
     <message>
         <source>Prints the completion for bash.</source>
@@ -279,10 +276,6 @@
         <translation>Rien n’a été changé. Avec --yes, cela l’est.</translation>
     </message>
     <message>
-        <source>profile list, use NAME, save NAME, rename NAME NEW or delete NAME</source>
-        <translation>profile list, use NOM, save NOM, rename NOM NOUVEAU ou delete NOM</translation>
-    </message>
-    <message>
         <source>; default: %1</source>
         <translation>; par défaut&#xa0;: %1</translation>
     </message>
@@ -319,6 +312,26 @@
     <message>
         <source>%1 (in use, changed)</source>
         <translation>%1 (utilisé, modifié)</translation>
+    </message>
+    <message>
+        <source>list|use|compare|save|rename|delete [NAME…]</source>
+        <translation>list|use|compare|save|rename|delete [NOM…]</translation>
+    </message>
+    <message>
+        <source>Lists, uses and compares named states of the settings; compare says what differs between two, or between one and the settings.</source>
+        <translation>Liste, utilise et compare des états nommés des réglages ; compare dit ce qui distingue deux d’entre eux, ou un seul des réglages.</translation>
+    </message>
+    <message>
+        <source>which profile is in use can&apos;t be kept: %1</source>
+        <translation>impossible de retenir quel profil est utilisé : %1</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>Rien ne diffère.</translation>
+    </message>
+    <message>
+        <source>profile list, use NAME, compare NAME [OTHER], save NAME, rename NAME NEW or delete NAME</source>
+        <translation>profile list, use NOM, compare NOM [AUTRE], save NOM, rename NOM NOUVEAU ou delete NOM</translation>
     </message>
 </context>
 <context>
@@ -580,12 +593,17 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Montrer ces réglages</translation>
     </message>
     <message>
-        <source>Second scan key</source>
-        <translation>Deuxième touche de balayage</translation>
-    </message>
-    <message>
         <source>Keys that this desktop uses itself aren’t heard here. “Choose keys…” in the menu has them too.</source>
         <translation>Les touches que ce bureau utilise lui-même n’arrivent pas ici. «&#xa0;Choisir des touches…&#xa0;» dans le menu les propose aussi.</translation>
+    </message>
+    <message>
+        <source>Scan, second key</source>
+        <translation>Balayer, deuxième touche</translation>
+    </message>
+    <message>
+        <source>%1 (hot key)</source>
+        <comment>as in Scan (hot key)</comment>
+        <translation>%1 (raccourci)</translation>
     </message>
 </context>
 <context>
@@ -2042,6 +2060,16 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>Sound, login, profiles</source>
         <translation>Son, démarrage, profils</translation>
+        <source>Compare the chosen profile</source>
+        <translation>Comparer le profil choisi</translation>
+    </message>
+    <message>
+        <source>Says how the chosen profile differs from another one, or from the settings as they are.</source>
+        <translation>Dit en quoi le profil choisi diffère d’un autre, ou des réglages tels qu’ils sont.</translation>
+    </message>
+    <message>
+        <source>Compare with…</source>
+        <translation>Comparer avec…</translation>
     </message>
 </context>
 <context>
@@ -2216,6 +2244,26 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <source>First type a name, or press one of the ready ones.</source>
         <translation>Tapez d’abord un nom, ou pressez un de ceux tout prêts.</translation>
     </message>
+    <message>
+        <source>Which profile is in use can’t be kept: %1.</source>
+        <translation>Impossible de retenir quel profil est utilisé : %1.</translation>
+    </message>
+    <message>
+        <source>The settings as they are</source>
+        <translation>Les réglages tels qu’ils sont</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>« %1 »</translation>
+    </message>
+    <message>
+        <source>“%1” and “%2” have the same settings.</source>
+        <translation>« %1 » et « %2 » ont les mêmes réglages.</translation>
+    </message>
+    <message>
+        <source>After “%2”, “%1” would change:</source>
+        <translation>Après « %2 », « %1 » changerait :</translation>
+    </message>
 </context>
 <context>
     <name>PutBackButton</name>
@@ -2336,14 +2384,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>Priority over other programs</source>
         <translation>Priorité sur les autres programmes</translation>
-    </message>
-    <message>
-        <source>Start at login</source>
-        <translation>Lancer à l’ouverture de session</translation>
-    </message>
-    <message>
-        <source>Scan from the start</source>
-        <translation>Balayer dès le lancement</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -2498,10 +2538,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>icône et nom</translation>
     </message>
     <message>
-        <source>1 button</source>
-        <translation>1 bouton</translation>
-    </message>
-    <message>
         <source>on</source>
         <translation>oui</translation>
     </message>
@@ -2513,12 +2549,33 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <source>%d × %d points</source>
         <translation>%d × %d points</translation>
     </message>
-    <message numerus="yes">
-        <source>%n buttons</source>
-        <translation>
-            <numerusform>%n bouton</numerusform>
-            <numerusform>%n boutons</numerusform>
-        </translation>
+    <message>
+        <source>Start Korvex when you log in</source>
+        <translation>Lancer Korvex à l’ouverture de session</translation>
+    </message>
+    <message>
+        <source>Turn scanning on when Korvex starts</source>
+        <translation>Activer le balayage au lancement de Korvex</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>keys</comment>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>buttons</comment>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>what is chosen</comment>
+        <translation>« %1 »</translation>
+    </message>
+    <message>
+        <source>Palette button %1</source>
+        <comment>its number</comment>
+        <translation>Bouton %1 de la palette</translation>
     </message>
 </context>
 <context>
@@ -2648,6 +2705,10 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>Save a copy…</source>
         <translation>Enregistrer une copie…</translation>
+    </message>
+    <message>
+        <source>Should this window crash, your last changes would be lost: %1.</source>
+        <translation>Si cette fenêtre plantait, vos derniers changements seraient perdus : %1.</translation>
     </message>
 </context>
 <context>

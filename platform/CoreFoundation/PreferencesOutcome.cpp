@@ -3,9 +3,33 @@
 
 #include "platform/CoreFoundation/detail/PreferencesFiles.h"
 
+#include <cerrno>
 #include <functional>
 
 namespace {
+
+FileTrouble troubleOf(int error) {
+    switch (error) {
+    case EACCES:
+    case EPERM:
+        return FileTrouble::NotAllowed;
+    case EROFS:
+        return FileTrouble::ReadOnly;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+        return FileTrouble::Full;
+    case EWOULDBLOCK:
+        return FileTrouble::InUse;
+    case EISDIR:
+    case ENOTDIR:
+    case EEXIST:
+    case ELOOP:
+        return FileTrouble::InTheWay;
+    default:
+        return FileTrouble::Failed;
+    }
+}
 
 /// What the operation says of this user's file; InTheWay for a name that is no file's.
 template <class Operation>
@@ -15,6 +39,10 @@ PreferencesOutcome askOwnFile(const CFString* domain, Operation operation) {
 }
 
 } // namespace
+
+PreferencesOutcome outcomeOf(int error, const std::string& path) {
+    return {error ? troubleOf(error) : FileTrouble::None, path, false, error};
+}
 
 PreferencesOutcome preferencesLoadOutcome(const CFString* domain) {
     return askOwnFile(domain, std::mem_fn(&PreferencesDomain::loadOutcome));

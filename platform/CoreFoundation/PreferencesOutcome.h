@@ -30,6 +30,9 @@ struct PreferencesOutcome {
     int error = 0;            ///< errno, or 0 when no system call failed
 };
 
+/// Of any file: what errno's number says of it; no trouble for 0.
+PreferencesOutcome outcomeOf(int error, const std::string& path);
+
 /// How this user's file was found when last read, which is no later than now. A file that isn't
 /// there is no trouble. Once a damaged file was kept aside, it stays the outcome.
 PreferencesOutcome preferencesLoadOutcome(const CFString* domain);

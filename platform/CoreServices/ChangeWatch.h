@@ -26,3 +26,6 @@ ChangeWatch watchProcesses(std::function<void()> onChange);
 
 /// Of what findLaunchTrouble and isLaunching (LaunchTrouble.h) answer.
 ChangeWatch watchLaunches(std::function<void()> onChange);
+
+/// Of what stateFileOutcome (StateFile.h) answers.
+ChangeWatch watchStateFile(std::function<void()> onChange);

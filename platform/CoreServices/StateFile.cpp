@@ -3,6 +3,9 @@
 
 #include "platform/CoreFoundation/detail/FileReplacement.h"
 #include "platform/CoreFoundation/detail/XDGFolders.h"
+#include "platform/CoreServices/ChangeWatch.h"
+
+#include <QTimer>
 
 #include <algorithm>
 #include <condition_variable>
@@ -45,20 +48,35 @@ unsigned long long startOf(pid_t process) {
     return start;
 }
 
+int replace(const fs::path& path, const std::string& content) {
+    if (const int error = makeFolders(path.parent_path(), kFolderMode))
+        return error;
+    PendingFile file(path, content, kFileMode);
+    return file.error() ? file.error() : file.putInPlace();
+}
+
 /// Writes and removes on a thread of its own. Never destroyed: an exit handler may store.
 class Writer {
 public:
+    Writer() { changed_.setSingleShot(true); }
+
     void write(std::string path, std::string content);
     void release(std::string path);
     void removeAll();
+    PreferencesOutcome outcome();
+
+    const QTimer& changed() const { return changed_; }
 
 private:
     void run();
+    void note(const PreferencesOutcome& outcome);
 
     std::mutex busy_; ///< while the disk is written to
     std::mutex guard_;
-    std::condition_variable changed_;
+    std::condition_variable waiting_;
     std::optional<std::string> content_; ///< that waits to be written
+    PreferencesOutcome outcome_;         ///< of what was written last
+    QTimer changed_;                     ///< times out on the main thread
     std::string path_;
     std::vector<std::string> released_;
     bool isRunning_ = false;
@@ -71,7 +89,7 @@ void Writer::write(std::string path, std::string content) {
     if (!isRunning_)
         std::thread([this] { run(); }).detach();
     isRunning_ = true;
-    changed_.notify_one();
+    waiting_.notify_one();
 }
 
 void Writer::release(std::string path) {
@@ -90,12 +108,25 @@ void Writer::removeAll() {
         unlink(path.c_str());
     if (!path_.empty())
         unlink(path_.c_str());
+    note({});
+}
+
+PreferencesOutcome Writer::outcome() {
+    const std::lock_guard lock(guard_);
+    return outcome_;
+}
+
+/// Under the guard.
+void Writer::note(const PreferencesOutcome& outcome) {
+    if (std::exchange(outcome_, outcome).error != outcome.error)
+        QMetaObject::invokeMethod(
+            &changed_, [this] { changed_.start(0); }, Qt::QueuedConnection);
 }
 
 void Writer::run() {
     for (;;) {
         std::unique_lock lock(guard_);
-        changed_.wait(lock, [this] { return content_.has_value(); });
+        waiting_.wait(lock, [this] { return content_.has_value(); });
         lock.unlock();
         const std::lock_guard writing(busy_);
         lock.lock();
@@ -105,9 +136,10 @@ void Writer::run() {
         const std::string path = path_;
         const std::vector<std::string> released = std::exchange(released_, {});
         lock.unlock();
-        makeFolders(fs::path(path).parent_path(), kFolderMode);
-        PendingFile file(path, content, kFileMode);
-        if (file.error() != 0 || file.putInPlace() != 0)
+        const int error = replace(path, content);
+        lock.lock();
+        note(outcomeOf(error, path));
+        if (error)
             continue;
         for (const std::string& left : released)
             unlink(left.c_str());
@@ -140,6 +172,14 @@ void keepStateFile(const std::string& name, std::string content) {
 
 void removeStateFile() {
     writer().removeAll();
+}
+
+PreferencesOutcome stateFileOutcome() {
+    return writer().outcome();
+}
+
+ChangeWatch watchStateFile(std::function<void()> onChange) {
+    return {&writer().changed(), std::move(onChange)};
 }
 
 std::vector<std::string> findStateFiles(const std::string& name, StateFileOwner owner) {

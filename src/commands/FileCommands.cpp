@@ -12,21 +12,29 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <optional>
 
 namespace {
 
-/// Says what an offer would change and what it has that can't be taken.
-void printOffer(const SettingsOffer& offer, const PrefsRecord& now) {
-    const SettingSet changed = differences(now, offer.record);
+void printChanges(const PrefsRecord& before, const PrefsRecord& after) {
+    const SettingSet changed = differences(before, after);
     for (std::size_t i = 0; i < kSettings.size(); ++i)
         if (changed[i])
-            std::printf("%s\n",
-                        changeText(kSettings[i], now, offer.record, kSettingBecomes).c_str());
-    if (changed.none())
-        std::puts(localized("Commands", "Nothing differs from the settings as they are.").c_str());
+            std::puts(changeText(kSettings[i], before, after, kSettingBecomes).c_str());
+}
+
+void printRefused(const SettingsOffer& offer) {
     for (const auto& [key, reason] : offer.refused)
         std::fprintf(stderr, "%s\n",
                      filled(localized("Commands", "Left out: %1: %2"), {key, reason}).c_str());
+}
+
+/// Says what an offer would change and what it has that can't be taken.
+void printOffer(const SettingsOffer& offer, const PrefsRecord& now) {
+    printChanges(now, offer.record);
+    if (differences(now, offer.record).none())
+        std::puts(localized("Commands", "Nothing differs from the settings as they are.").c_str());
+    printRefused(offer);
 }
 
 int take(const SettingsOffer& offer) {
@@ -36,6 +44,14 @@ int take(const SettingsOffer& offer) {
 
 int done(const std::string& fault) {
     return fault.empty() ? int{kCommandDone} : commandFailed(fault);
+}
+
+/// When all is done but, with a fault, that which profile is in use could be kept.
+int inUse(const std::string& fault) {
+    return fault.empty()
+               ? int{kCommandDone}
+               : commandFailed(filled(
+                     localized("Commands", "which profile is in use can't be kept: %1"), {fault}));
 }
 
 /// "Tired (in use, changed)"
@@ -78,11 +94,54 @@ int useProfile(const CommandLine& line) {
         return commandFailed(offer.error);
     printOffer(offer, now);
     const std::string former = currentProfile();
-    setCurrentProfile(name);
+    const std::string fault = setCurrentProfile(name);
     const int result = take(offer);
-    if (result != kCommandDone)
+    if (result != kCommandDone && fault.empty())
         setCurrentProfile(former);
-    return result;
+    return result == kCommandDone ? inUse(fault) : result;
+}
+
+/// What is different, for programs.
+void printChangesJson(const PrefsRecord& before, const PrefsRecord& after) {
+    const SettingSet changed = differences(before, after);
+    std::string items;
+    for (std::size_t i = 0; i < kSettings.size(); ++i)
+        if (changed[i])
+            items +=
+                (items.empty() ? "" : ",\n ") + JsonObject()
+                                                    .add("key", kSettings[i].key)
+                                                    .add("from", settingText(kSettings[i], before))
+                                                    .add("to", settingText(kSettings[i], after))
+                                                    .text();
+    std::printf("[%s]\n", items.c_str());
+}
+
+/// The settings as they would be with that profile; none, and it is said why, when it can't be
+/// read.
+std::optional<PrefsRecord> settingsWith(const std::string& profile, const PrefsRecord& now) {
+    const SettingsOffer offer = readProfile(profile, now);
+    printRefused(offer);
+    if (offer.error.empty())
+        return offer.record;
+    commandFailed(profile + ": " + offer.error);
+    return std::nullopt;
+}
+
+/// One with another, or the settings as they are with one.
+int compareProfiles(const CommandLine& line) {
+    const PrefsRecord now = currentSettings();
+    const bool two = line.operands.size() == 3;
+    const auto before = two ? settingsWith(line.operands[1], now) : now;
+    const auto after = before ? settingsWith(line.operands.back(), now) : std::nullopt;
+    if (!after)
+        return kCommandFailed;
+    if (line.json)
+        printChangesJson(*before, *after);
+    else if (differences(*before, *after).any())
+        printChanges(*before, *after);
+    else
+        std::puts(localized("Commands", "Nothing differs.").c_str());
+    return kCommandDone;
 }
 
 /// For a change of profiles that changes no setting.
@@ -93,21 +152,24 @@ int doneWithProfiles(const std::string& fault) {
 }
 
 int saveCurrent(const CommandLine& line) {
-    const std::string fault = saveProfile(line.operands[1], currentSettings());
-    if (fault.empty())
-        setCurrentProfile(line.operands[1]);
-    return doneWithProfiles(fault);
+    std::string fault = saveProfile(line.operands[1], currentSettings());
+    if (!fault.empty())
+        return commandFailed(fault);
+    fault = setCurrentProfile(line.operands[1]);
+    doneWithProfiles({});
+    return inUse(fault);
 }
 
 constexpr ProfileVerb kVerbs[] = {
-    {"list", 0, listProfiles},
-    {"use", 1, useProfile},
-    {"save", 1, saveCurrent},
-    {"rename", 2,
+    {"list", 0, 0, listProfiles},
+    {"use", 1, 1, useProfile},
+    {"compare", 1, 2, compareProfiles},
+    {"save", 1, 1, saveCurrent},
+    {"rename", 2, 2,
      [](const CommandLine& line) {
          return doneWithProfiles(renameProfile(line.operands[1], line.operands[2]));
      }},
-    {"delete", 1,
+    {"delete", 1, 1,
      [](const CommandLine& line) { return doneWithProfiles(deleteProfile(line.operands[1])); }},
 };
 
@@ -142,9 +204,10 @@ std::span<const ProfileVerb> profileVerbs() {
 
 int runProfile(const CommandLine& line) {
     for (const ProfileVerb& verb : kVerbs)
-        if (line.operands[0] == verb.name && line.operands.size() == verb.names + 1)
+        if (line.operands[0] == verb.name && line.operands.size() > verb.fewest &&
+            line.operands.size() <= verb.most + 1)
             return verb.run(line);
-    commandFailed(localized("Commands", "profile list, use NAME, save NAME, rename NAME NEW or "
-                                        "delete NAME"));
+    commandFailed(localized("Commands", "profile list, use NAME, compare NAME [OTHER], save NAME, "
+                                        "rename NAME NEW or delete NAME"));
     return kCommandMisused;
 }

@@ -45,7 +45,7 @@ int runProfile(const CommandLine& line);
 
 struct ProfileVerb {
     const char* name;
-    std::size_t names; ///< of profiles, that follow it
+    std::size_t fewest, most; ///< names of profiles that follow it
     int (*run)(const CommandLine& line);
 };
 

@@ -2,6 +2,7 @@
 #include "src/commands/command.h"
 
 #include "platform/CoreFoundation/Localization.h"
+#include "src/commands/store.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -27,8 +28,10 @@ constexpr Command kCommands[] = {
     {"import", LOCALIZABLE("Commands", "FILE"),
      LOCALIZABLE("Commands", "Shows what a file would change; with --yes, changes it."), runImport,
      1, 1},
-    {"profile", LOCALIZABLE("Commands", "list|use|save|rename|delete [NAME…]"),
-     LOCALIZABLE("Commands", "Lists and uses named states of the settings."), runProfile, 1, 3},
+    {"profile", LOCALIZABLE("Commands", "list|use|compare|save|rename|delete [NAME…]"),
+     LOCALIZABLE("Commands", "Lists, uses and compares named states of the settings; compare says "
+                             "what differs between two, or between one and the settings."),
+     runProfile, 1, 3},
     {"show", LOCALIZABLE("Commands", "SECTION"),
      LOCALIZABLE("Commands", "Opens the window at that section, or brings it to the front there."),
      runShow, 1, 1},
@@ -108,5 +111,6 @@ int korvexRunCommand(int count, const char* const* arguments) {
             *command->operands
                 ? filled(localized("Commands", "%1 takes %2"), {name, operandsOf(*command)})
                 : filled(localized("Commands", "%1 takes no operand"), {name}));
+    nameActions();
     return command->run(line);
 }

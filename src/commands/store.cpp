@@ -19,12 +19,15 @@ std::string savingFault() {
     return outcome.error ? fault + ": " + std::strerror(outcome.error) : fault;
 }
 
+/// The agent's bundle; null when there is none.
+CFRef<CFURL> agentURL() {
+    const CFBundle* pane = paneBundle();
+    return pane ? CFBundleCopyAuxiliaryExecutableURL(pane, CFSTR(kAgentApplicationName)) : nullptr;
+}
+
 /// The window does this when it is open.
 void updateLoginItem() {
-    const CFBundle* pane = paneBundle();
-    const auto agent =
-        pane ? CFBundleCopyAuxiliaryExecutableURL(pane, CFSTR(kAgentApplicationName)) : nullptr;
-    if (agent)
+    if (const auto agent = agentURL())
         launchSetAppIsAutoLaunched(agent.get(), prefs.launchAtLogin != 0, false);
 }
 
@@ -33,6 +36,11 @@ void updateLoginItem() {
 const CFBundle* paneBundle() {
     return CFBundleGetBundleWithIdentifier(
         CFSTR((std::string(kAgentBundleIDText) + ".PrefsPane").c_str()));
+}
+
+void nameActions() {
+    if (const auto agent = agentURL())
+        daemonUseBundle(CFBundleCreate(agent.get()));
 }
 
 PrefsRecord currentSettings() {

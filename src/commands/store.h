@@ -13,6 +13,9 @@ class CFBundle;
 /// The pane's bundle, borrowed; null without one.
 const CFBundle* paneBundle();
 
+/// Has the palette's actions known by their titles, which the agent has.
+void nameActions();
+
 /// The settings as they are now. In an open window a change may be newer than what is stored.
 PrefsRecord currentSettings();
 

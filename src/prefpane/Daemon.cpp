@@ -200,3 +200,7 @@ CFBundle* daemonMainBundle() {
             daemonBundle = CFBundleCreate(url.get());
     return daemonBundle.get();
 }
+
+void daemonUseBundle(CFRef<CFBundle> bundle) {
+    daemonBundle = std::move(bundle);
+}

@@ -36,3 +36,5 @@ AgentState daemonState();
 /// The agent application's bundle, where its resources are; null without a path or bundle. Borrowed
 /// until daemonCleanup.
 CFBundle* daemonMainBundle();
+/// For commands, which don't set the link up: where the agent's resources are; null for nowhere.
+void daemonUseBundle(CFRef<CFBundle> bundle);

@@ -30,14 +30,8 @@ Rect truncated(const NSRect& frame) {
 std::string paletteSlotName(SInt32 index) {
     if (!isSlot(index))
         return {};
-    const UInt8 action = prefs.buttonActions[index];
-    const CFString* title = palutilActionTitle(action);
-    const std::string name = title                    ? toUTF8(title)
-                             : action == kEmptyAction ? localized("Palette", "Empty slot")
-                                                      : filled(localized("Palette", "Action %1"),
-                                                               {std::to_string(action)});
     return filled(localized("Palette", "%1, %2", "number and name of a button"),
-                  {std::to_string(index + 1), name});
+                  {std::to_string(index + 1), palutilActionName(prefs.buttonActions[index])});
 }
 
 void PaletteView::selectBtn(SInt32 index) {

@@ -173,6 +173,8 @@ public:
 
     void chooseProfile(NSMenuItem* sender) { profiles_.chooseFromMenu(*sender); }
 
+    void compareProfile(NSMenuItem* sender) { profiles_.compareWith(*sender); }
+
     void keepProfile(NSMenuItem*) { profiles_.updateInUse(); }
 
     void showProfiles(NSMenuItem*) { profiles_.showSection(); }
@@ -227,12 +229,16 @@ private:
 
     /// The pane's own; null while none is loaded.
     static const CFBundle* ownBundle();
+    void showChanges(ChangeMask changes);
     void noteStep();
     void showStep(const HistoryStep& step, const PrefsRecord& before, const PrefsRecord& after,
                   const char* pattern);
     void updateHistoryUI();
     /// The view that shows a setting; null for one without a control.
     NSView* viewOf(std::size_t row) const;
+    /// The one that shows the first difference: of a hot key for example its own.
+    NSView* viewOf(const SettingSet& settings, const PrefsRecord& before,
+                   const PrefsRecord& after) const;
     /// After fields were set from elsewhere. A record that is as stored needs no saving any more.
     void showAndReport(ChangeMask changes);
 
@@ -244,8 +250,10 @@ private:
     /// A setting, or a part of one that has a row of its own: bytes of the record, or bits of one.
     struct DefaultPlace {
         std::size_t offset, size;
-        const NSView* view;
+        NSView* view;
         UInt8 bits = 0xFF;
+
+        bool isSameIn(const PrefsRecord& a, const PrefsRecord& b) const;
     };
 
     struct ResetButtons {

@@ -62,6 +62,8 @@ void PreferenceWrangler::changed(ChangeMask changes) {
     updateUIForChanges(changes);
     prefsWereChanged(changes & kChangeOnOff ? &prefs.on : nullptr);
     daemonSendChanges(changes, true);
+    prefsKeepChanges();
+    showChanges(changes);
     noteStep();
     updateDefaults();
 }
@@ -78,12 +80,18 @@ void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {
         showSampleLineType(kSampleGuideLine);
     if (changes & kPreviewChanges)
         sampleScanImage_->setNeedsDisplay(true);
+    if (changes & kChangeLaunch)
+        updateLaunchUI();
+    if (changes & kChangeScanArea)
+        updateScanAreaRadios();
+}
+
+/// What else shows those groups. The agent doesn't wait for it.
+void PreferenceWrangler::showChanges(ChangeMask changes) {
     if (changes & kChangePalette)
         palette_.updateButtonSizes();
     if (changes & kChangeScanArea)
         showScanArea();
-    if (changes & kChangeLaunch)
-        updateLaunchUI();
     if (changes & kChangePointer)
         pointers_.updatePointerName();
     if (changes & kChangeHotKeys)
@@ -111,6 +119,7 @@ void PreferenceWrangler::setMasterOnOff(bool on) {
     if ((prefs.on != 0) != on) {
         prefs.on = on;
         prefsWereChanged();
+        prefsKeepChanges();
         history_.follow(prefs);
     }
     updateMasterOnOff();

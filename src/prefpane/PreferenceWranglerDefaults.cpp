@@ -59,7 +59,7 @@ void PreferenceWrangler::setupDefaults() {
     for (const std::size_t offset : {kKeys, kContent})
         inParts.set(rowAt(offset));
     for (std::size_t row = 0; row < kSettings.size(); ++row)
-        if (const NSView* view = viewOf(row); view && !inParts[row])
+        if (NSView* view = viewOf(row); view && !inParts[row])
             places_.push_back({kSettings[row].offset, kSettings[row].size, view});
 
     resets_.clear();
@@ -72,6 +72,26 @@ void PreferenceWrangler::setupDefaults() {
         resets_.push_back({button, settings & profileSettings()});
     }
     resets_.push_back({resetBtns_.all, profileSettings()});
+}
+
+bool PreferenceWrangler::DefaultPlace::isSameIn(const PrefsRecord& a, const PrefsRecord& b) const {
+    const auto* one = reinterpret_cast<const UInt8*>(&a) + offset;
+    const auto* other = reinterpret_cast<const UInt8*>(&b) + offset;
+    return std::equal(one, one + size, other,
+                      [this](UInt8 x, UInt8 y) { return ((x ^ y) & bits) == 0; });
+}
+
+NSView* PreferenceWrangler::viewOf(const SettingSet& settings, const PrefsRecord& before,
+                                   const PrefsRecord& after) const {
+    NSView* view = nullptr;
+    std::size_t first = sizeof(PrefsRecord); // the bytes of the record are in the settings' order
+    for (const DefaultPlace& place : places_)
+        if (settings[rowAt(place.offset)] && place.offset < first &&
+            !place.isSameIn(before, after)) {
+            view = place.view;
+            first = place.offset;
+        }
+    return view;
 }
 
 const NSView* PreferenceWrangler::pageOf(const NSView* view) const {

@@ -101,10 +101,11 @@ void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& be
     if (step.profileBefore != step.profileAfter)
         profiles_.setInUse(&before == &step.before ? step.profileAfter : step.profileBefore);
     showAndReport(changesOf(step.settings));
-    if (NSView* view = viewOf(firstOf(step.settings)))
+    if (NSView* view = viewOf(step.settings, before, after))
         view->scrollToVisible();
-    tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note,
-                            .text = stepText(step.settings, before, after, pattern)});
+    tellUser(kChangeTopic,
+             {.kind = UserMessage::Kind::Note,
+              .text = stepText(step.settings, before, after, pattern) + profiles_.keepInUse()});
     updateHistoryUI();
 }
 

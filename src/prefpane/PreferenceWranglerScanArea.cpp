@@ -4,20 +4,9 @@
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "src/prefpane/choosearea.h"
-
-#include <cstdio>
+#include "src/settingwords.h"
 
 namespace {
-
-std::string describe(const ScanArea& area) {
-    if (area.width <= 0 || area.height <= 0)
-        return localized("Settings", "none", "an area");
-    char text[100];
-    std::snprintf(text, sizeof text,
-                  localized("Settings", "%g × %g at %g, %g", "width, height, x, y").c_str(),
-                  double{area.width}, double{area.height}, double{area.x}, double{area.y});
-    return localizedNumbers(text);
-}
 
 /// What keeps the user from drawing an area, and what helps.
 std::string explain(OSStatus error) {
@@ -31,12 +20,11 @@ std::string explain(OSStatus error) {
 } // namespace
 
 void PreferenceWrangler::updateScanAreaText() {
-    scanAreaText_->setStringValue(describe(prefs.scanArea));
+    scanAreaText_->setStringValue(settingText(settingAt(offsetof(PrefsRecord, scanArea)), prefs));
 }
 
 void PreferenceWrangler::showScanArea() {
     updateScanAreaText();
-    updateScanAreaRadios();
     scanAreas_.update();
 }
 

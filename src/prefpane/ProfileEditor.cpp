@@ -56,6 +56,7 @@ ProfileEditor::~ProfileEditor() {
 void ProfileEditor::setup(NSObject& menuTarget) {
     menuTarget_ = &menuTarget;
     menu->setDelegate(this);
+    compareMenu->setDelegate(this);
     grid->setSource(this);
 }
 
@@ -63,7 +64,8 @@ void ProfileEditor::load() {
     profiles_.clear();
     for (const std::string& each : profileNames())
         profiles_.push_back({each, readProfile(each, prefs)});
-    inUse_ = currentProfile();
+    if (isInUseKept_ || !find(inUse_))
+        inUse_ = currentProfile();
     if (!find(chosen_))
         chosen_ = inUse_.empty() && !profiles_.empty() ? profiles_.front().name : inUse_;
     show();
@@ -75,9 +77,17 @@ void ProfileEditor::show() {
 }
 
 void ProfileEditor::setInUse(const std::string& profile) {
-    setCurrentProfile(profile);
     inUse_ = find(profile) ? profile : "";
     chosen_ = inUse_.empty() ? chosen_ : inUse_;
+}
+
+std::string ProfileEditor::keepInUse() {
+    const std::string fault = setCurrentProfile(inUse_);
+    isInUseKept_ = fault.empty();
+    return fault.empty()
+               ? ""
+               : " " + filled(localized("Profiles", "Which profile is in use can’t be kept: %1."),
+                              {fault});
 }
 
 const ProfileEditor::Profile* ProfileEditor::find(const std::string& profile) const {
@@ -110,33 +120,54 @@ void ProfileEditor::showMenuTitle() {
                                       inUse_));
 }
 
-void ProfileEditor::menuNeedsUpdate(NSPopUpButton*) {
+void ProfileEditor::menuNeedsUpdate(NSPopUpButton* opening) {
     load();
-    menu->removeAllItems();
+    opening->removeAllItems();
+    if (opening == menu)
+        fillMenu();
+    else
+        fillCompareMenu();
+}
+
+void ProfileEditor::fillMenu() {
     bool isInUseChanged = false;
     for (int i = 0; i < choiceCount(); ++i) {
         const Profile& profile = profiles_[static_cast<std::size_t>(i)];
         if (profile.name != inUse_) {
-            addItem(named(LOCALIZABLE("Profiles", "Use “%1”"), profile.name), "chooseProfile:", i);
+            addItem(menu, named(LOCALIZABLE("Profiles", "Use “%1”"), profile.name),
+                    "chooseProfile:", i);
             continue;
         }
         isInUseChanged = isChanged(profile);
         if (isInUseChanged)
-            addItem(named(LOCALIZABLE("Profiles", "Back to “%1”"), inUse_), "chooseProfile:", i);
+            addItem(menu, named(LOCALIZABLE("Profiles", "Back to “%1”"), inUse_),
+                    "chooseProfile:", i);
         else
-            addItem(named(LOCALIZABLE("Profiles", "“%1” is in use"), inUse_), nullptr, i);
+            addItem(menu, named(LOCALIZABLE("Profiles", "“%1” is in use"), inUse_), nullptr, i);
     }
     if (isInUseChanged)
-        addItem(named(LOCALIZABLE("Profiles", "Save the changes in “%1”"), inUse_),
+        addItem(menu, named(LOCALIZABLE("Profiles", "Save the changes in “%1”"), inUse_),
                 "keepProfile:", 0);
-    addItem(profiles_.empty() ? localized("Profiles", "Save a profile…")
+    addItem(menu,
+            profiles_.empty() ? localized("Profiles", "Save a profile…")
                               : localized("Profiles", "Save, rename, delete…"),
             "showProfiles:", 0);
 }
 
-void ProfileEditor::addItem(const std::string& title, const char* action, int tag) {
-    menu->addItemWithTitle(title);
-    NSMenuItem* item = menu->itemWithTitle(title);
+/// The settings as they are have the tag 0, profiles one more than their place.
+void ProfileEditor::fillCompareMenu() {
+    addItem(compareMenu, localized("Profiles", "The settings as they are"), "compareProfile:", 0);
+    for (int i = 0; i < choiceCount(); ++i)
+        if (const Profile& profile = profiles_[static_cast<std::size_t>(i)];
+            profile.name != chosen_)
+            addItem(compareMenu, named(LOCALIZABLE("Profiles", "“%1”"), profile.name),
+                    "compareProfile:", i + 1);
+}
+
+void ProfileEditor::addItem(NSPopUpButton* to, const std::string& title, const char* action,
+                            int tag) {
+    to->addItemWithTitle(title);
+    NSMenuItem* item = to->itemWithTitle(title);
     item->setTag(tag);
     item->setTarget(menuTarget_);
     item->setAction(action ? menuTarget_->selector(action) : nullptr);
@@ -145,6 +176,13 @@ void ProfileEditor::addItem(const std::string& title, const char* action, int ta
 void ProfileEditor::chooseFromMenu(const NSMenuItem& item) {
     if (item.tag() < choiceCount())
         use(profiles_[static_cast<std::size_t>(item.tag())]);
+}
+
+void ProfileEditor::compareWith(const NSMenuItem& item) {
+    comparedWith_ = item.tag() > 0 && item.tag() <= choiceCount()
+                        ? profiles_[static_cast<std::size_t>(item.tag() - 1)].name
+                        : "";
+    showChosen();
 }
 
 void ProfileEditor::updateInUse() {
@@ -203,16 +241,32 @@ void ProfileEditor::showChosen() {
         button->setEnabled(changes.any());
     for (NSButton* button : {renameBtn, deleteBtn})
         button->setEnabled(profile != nullptr);
-    std::string text =
-        !profile ? localized("Profiles", "There is no profile yet. Save the settings as they are "
-                                         "now, and come back to them with two presses.")
-        : changes.none()
-            ? named(LOCALIZABLE("Profiles", "The settings are those of “%1”."), chosen_)
-            : named(LOCALIZABLE("Profiles", "“%1” would change:"), chosen_);
+    compareMenu->setEnabled(profiles_.size() > 1);
+    explanation->setStringValue(
+        profile ? explanationOf(*profile)
+                : localized("Profiles", "There is no profile yet. Save the settings as they are "
+                                        "now, and come back to them with two presses."));
+}
+
+/// What would change if it were used now, or after the one that it is compared with.
+std::string ProfileEditor::explanationOf(const Profile& profile) const {
+    const Profile* other = comparedWith_ == profile.name ? nullptr : find(comparedWith_);
+    PrefsRecord before = prefs, after = prefs;
+    if (other)
+        copySettings(other->offer.settings, other->offer.record, before);
+    copySettings(profile.offer.settings, profile.offer.record, after);
+    const SettingSet changes = differences(before, after);
+    const std::initializer_list<std::string> names = {profile.name, comparedWith_};
+    std::string text = filled(
+        changes.none() ? other ? localized("Profiles", "“%1” and “%2” have the same settings.")
+                               : localized("Profiles", "The settings are those of “%1”.")
+        : other ? localized("Profiles", "After “%2”, “%1” would change:")
+                       : localized("Profiles", "“%1” would change:"),
+        names);
     for (std::size_t i = 0; i < kSettings.size(); ++i)
         if (changes[i])
-            text += "\n" + changeText(kSettings[i], prefs, profile->offer.record, kSettingBecomes);
-    explanation->setStringValue(text);
+            text += "\n" + changeText(kSettings[i], before, after, kSettingBecomes);
+    return text;
 }
 
 // What is done with a profile
@@ -232,6 +286,7 @@ void ProfileEditor::use(Profile profile) {
     setInUse(profile.name);
     target_.adopt(changes, record);
     target_.noteProfile();
+    const std::string notKept = keepInUse(); // the agent need not wait for the disk
     show();
     std::string text = named(LOCALIZABLE("Profiles", "“%1” is in use."), profile.name);
     if (changes.any())
@@ -240,6 +295,7 @@ void ProfileEditor::use(Profile profile) {
     if (!refused.empty())
         text += " " + filled(localized("Profiles", "Left out: %1: %2."),
                              {refused[0].key, refused[0].reason});
+    text += notKept;
     if (changes.none())
         return tell(text);
     tell(text, {{localized("Profiles", kPutBack), [this] { target_.undoChange(); }}});
@@ -275,7 +331,7 @@ void ProfileEditor::save(const std::string& profile) {
     show();
     target_.noteProfile();
     const std::string text =
-        named(LOCALIZABLE("Profiles", "The settings are saved as “%1”."), profile);
+        named(LOCALIZABLE("Profiles", "The settings are saved as “%1”."), profile) + keepInUse();
     if (former.empty())
         return tell(text);
     tell(text, {{localized("Profiles", kPutBack),
@@ -287,12 +343,13 @@ void ProfileEditor::putBack(const Profile& profile, bool wasInUse) {
     const auto& [record, settings, refused, error] = profile.offer;
     if (!succeeded(::saveProfile(profile.name, record, settings), kCannotSave, profile.name))
         return;
-    if (wasInUse)
-        setCurrentProfile(profile.name);
-    chosen_ = profile.name;
     load();
+    if (wasInUse)
+        setInUse(profile.name);
+    chosen_ = profile.name;
+    show();
     target_.noteProfile();
-    tell(named(LOCALIZABLE("Profiles", "“%1” is as it was."), profile.name));
+    tell(named(LOCALIZABLE("Profiles", "“%1” is as it was."), profile.name) + keepInUse());
 }
 
 void ProfileEditor::renameChosen() {

@@ -31,6 +31,7 @@ class ProfileEditor final : public NSMenuDelegate, public ChoiceGridSource {
 public:
     NSPopUpButton* menu = nullptr;
     ChoiceGrid* grid = nullptr;
+    NSPopUpButton* compareMenu = nullptr;
     NSTextField* explanation = nullptr; ///< what using the chosen one would change
     NSTextField* name = nullptr;        ///< for a new one, or for the chosen one
     NSButton* useBtn = nullptr;
@@ -53,10 +54,15 @@ public:
     /// The profile in use; empty for none.
     const std::string& inUse() const { return inUse_; }
 
+    /// Until it is kept, only for this visit.
     void setInUse(const std::string& profile);
+    /// For the next visit, too. Gives a sentence for the user, a blank before it, when that fails.
+    std::string keepInUse();
 
     void menuNeedsUpdate(NSPopUpButton* menu) override;
     void chooseFromMenu(const NSMenuItem& item);
+    /// Has the explanation say how the chosen one differs from another, or from the settings.
+    void compareWith(const NSMenuItem& item);
     void updateInUse();
     void showSection();
 
@@ -92,7 +98,10 @@ private:
 
     bool isChanged(const Profile& profile) const { return changesBy(profile).any(); }
 
-    void addItem(const std::string& title, const char* action, int tag);
+    void fillMenu();
+    void fillCompareMenu();
+    void addItem(NSPopUpButton* to, const std::string& title, const char* action, int tag);
+    std::string explanationOf(const Profile& profile) const;
     void use(Profile profile);
     void save(const std::string& profile);
     /// Whether there is one in the field; else it is asked for.
@@ -107,5 +116,7 @@ private:
     NSObject* menuTarget_ = nullptr;
     std::vector<Profile> profiles_; ///< as last read
     std::string inUse_;
-    std::string chosen_; ///< in the list
+    bool isInUseKept_ = true;
+    std::string chosen_;       ///< in the list
+    std::string comparedWith_; ///< another one; empty for the settings as they are
 };

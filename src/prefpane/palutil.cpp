@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/prefpane/palutil.h"
 
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreServices/LaunchServices.h"
 #include "platform/HIToolbox/Appearance.h"
 #include "src/iconutil.h"
@@ -128,6 +129,14 @@ const CFString* palutilActionTitle(UInt8 action) {
         if (const CFDictionary* entry = getDictForAction(action))
             title = propUtilGetRetainedDictString(entry, CFSTR("title"));
     return title.get();
+}
+
+std::string palutilActionName(UInt8 action) {
+    const CFString* title = palutilActionTitle(action);
+    return title ? toUTF8(title)
+           : action == kEmptyAction
+               ? localized("Palette", "Empty slot")
+               : filled(localized("Palette", "Action %1"), {std::to_string(action)});
 }
 
 CFRef<Icon> palutilCopyActionIcon(UInt8 action) {

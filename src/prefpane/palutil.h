@@ -5,6 +5,8 @@
 #include "platform/IconServices/Icons.h"
 #include "platform/QuickDraw/QuickDraw.h"
 
+#include <string>
+
 // The palette's actions, which the pane knows by number, title and icon from the list in the
 // agent's bundle, and the drawing of its buttons. What was found is kept from palutilSetup to
 // palutilCleanup, one visit of the pane. Whatever is missing or damaged yields less content.
@@ -28,6 +30,9 @@ void palutilCleanup();
 
 /// Null when the action has none. Borrowed until palutilCleanup.
 const CFString* palutilActionTitle(UInt8 action);
+
+/// The action in words, in UTF-8: its title, else its number.
+std::string palutilActionName(UInt8 action);
 
 /// Null when the action has none. Action 1 has that of an outside application while that one is
 /// installed.

@@ -81,12 +81,14 @@ TEST(HistoryTest, TheUseOfAProfileIsAStepOfItsOwn) {
 
 TEST(SettingWordsTest, EverySettingReadsInPeoplesWords) {
     PrefsRecord before, after;
+    before.scanArea = {0, 10, 64, 48};
     after.on = 0;
     after.scanMode = 1;
     after.scanArea = {0, 10, 640, 480};
-    after.lineColor = {255, 128, 0};
+    after.lineColor = {0, 83, 138};
     after.menuScanSpeedScaleFactor = 65;
     after.lineThickness = 9;
+    std::strcpy(before.pointerImageName, "Zeiger größer+20x20");
     std::strcpy(after.pointerImageName, "big\x8e");
     after.hotKeys[2] = {-1, 0};
     after.buttonSize = {.height = 50, .width = 60};
@@ -100,16 +102,21 @@ TEST(SettingWordsTest, EverySettingReadsInPeoplesWords) {
             texts += changeText(kSettings[i], before, after, kSettingBecomes) + "\n";
     EXPECT_EQ(texts,
               "Scanning: on to off\n"
-              "Scan mode: Press to start, press to choose to Hold to scan, let go to choose\n"
-              "My own area: none to 640 × 480 at 0, 10\n"
+              "Scan mode: “Press to start, press to choose” to “Hold to scan, let go to choose”\n"
+              "My own area: 64 × 48 at 0, 10 to 640 × 480 at 0, 10\n"
               "Speed in menus: 60% to 65%\n"
-              "Line colour: #640000 to #ff8000\n"
+              "Line colour: Red (#640000) to Blue\n"
               "Line thickness: 7 to 9 points\n"
-              "Pointer: default to bigé\n"
-              "Cancel the scan: esc to -none-\n"
+              "Pointer: “Zeiger größer” to “bigé”\n"
+              "Cancel the scan (hot key): esc to none\n"
               "Size of palette buttons: 40 × 40 to 60 × 50 points\n"
               "Shown on palette buttons: icon and name to icon\n"
-              "Palette buttons: 5 to 4 buttons\n");
+              "Palette button 1: “Action 20” to “Empty slot”; "
+              "Palette button 2: “Action 21” to “Action 7”\n");
+    before.buttonActions[4] = 9;
+    EXPECT_EQ(changeText(kSettings.back(), before, after, kSettingBecomesAgain),
+              "Palette buttons: “Action 20, Action 21, Action 22, Action 1, Action 9” back to "
+              "“Action 7, Action 22, Action 1, Action 2”");
 }
 
 } // namespace

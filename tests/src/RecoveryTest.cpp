@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/recovery.h"
+
+#include "platform/CoreServices/StateFile.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <gmock/gmock.h>
@@ -72,6 +74,16 @@ TEST_F(RecoveryTest, TakesOverWhatCrashedProgramsChangedTheLatestLast) {
     EXPECT_TRUE(recoveryTakeOver(again).none()) << "a file of a living process";
     recoveryForget();
     waitForFiles(2);
+}
+
+TEST_F(RecoveryTest, AFolderThatCannotBeWrittenIsTroubleUntilTheChangesAreSaved) {
+    writeFile(state_ / "korvex", "in the way");
+    recoveryKeep(PrefsRecord(), {});
+    for (int i = 0; i < 500 && stateFileOutcome().trouble == FileTrouble::None; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_EQ(stateFileOutcome().trouble, FileTrouble::InTheWay);
+    recoveryForget();
+    EXPECT_EQ(stateFileOutcome().trouble, FileTrouble::None);
 }
 
 } // namespace

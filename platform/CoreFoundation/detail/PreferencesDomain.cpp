@@ -21,33 +21,6 @@ unsigned folderMode(PreferencesDomain::Readers readers) {
     return readers == PreferencesDomain::Readers::ThisUser ? 0700 : 0755;
 }
 
-FileTrouble troubleOf(int error) {
-    switch (error) {
-    case EACCES:
-    case EPERM:
-        return FileTrouble::NotAllowed;
-    case EROFS:
-        return FileTrouble::ReadOnly;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-        return FileTrouble::Full;
-    case EWOULDBLOCK:
-        return FileTrouble::InUse;
-    case EISDIR:
-    case ENOTDIR:
-    case EEXIST:
-    case ELOOP:
-        return FileTrouble::InTheWay;
-    default:
-        return FileTrouble::Failed;
-    }
-}
-
-PreferencesOutcome failure(int error, const std::string& path) {
-    return {troubleOf(error), path, false, error};
-}
-
 /// Writes the whole document to a file beside the target and puts it there. With `aside`, what is
 /// there is kept under the name that it gets.
 PreferencesOutcome replaceFile(const std::string& target, const std::string& document,
@@ -56,11 +29,11 @@ PreferencesOutcome replaceFile(const std::string& target, const std::string& doc
         return {FileTrouble::TooLarge, target};
     PendingFile file(target, document, mode);
     if (file.error() != 0)
-        return failure(file.error(), target);
+        return outcomeOf(file.error(), target);
     if (aside && (*aside = keepAside(target)).empty())
-        return failure(errno, target);
+        return outcomeOf(errno, target);
     const int error = file.putInPlace();
-    return error != 0 ? failure(error, target) : PreferencesOutcome{FileTrouble::None, target};
+    return error != 0 ? outcomeOf(error, target) : PreferencesOutcome{FileTrouble::None, target};
 }
 
 /// A copy, containers and texts included, that later changes of the value don't reach. Null when a
@@ -115,10 +88,10 @@ bool PreferencesDomain::synchronize() {
 
 PreferencesOutcome PreferencesDomain::save() {
     if (const int error = makeFolders(folder(), folderMode(readers_)))
-        return failure(error, folder());
+        return outcomeOf(error, folder());
     const FileLock lock(path_ + ".lock", fileMode(readers_));
     if (lock.error() != 0)
-        return failure(lock.error(), path_ + ".lock");
+        return outcomeOf(lock.error(), path_ + ".lock");
     return write(refresh());
 }
 
@@ -152,7 +125,7 @@ PreferencesDomain::FileState PreferencesDomain::refresh() {
 PreferencesDomain::FileState PreferencesDomain::note(FileState state, int error) {
     if (state == FileState::Unreadable)
         loaded_ =
-            error != 0 ? failure(error, path_) : PreferencesOutcome{FileTrouble::InTheWay, path_};
+            error != 0 ? outcomeOf(error, path_) : PreferencesOutcome{FileTrouble::InTheWay, path_};
     else if (state == FileState::Damaged)
         loaded_ = {FileTrouble::Damaged, path_};
     else if (!loaded_.isKeptAside)
@@ -207,9 +180,9 @@ PreferencesOutcome PreferencesDomain::saveOutlook() const {
     while (above.rfind('/') != 0 && access(above.c_str(), F_OK) != 0 && errno == ENOENT)
         above.erase(above.rfind('/'));
     if (!std::filesystem::is_directory(above))
-        return failure(ENOTDIR, above);
+        return outcomeOf(ENOTDIR, above);
     return access(above.c_str(), W_OK | X_OK) == 0 ? PreferencesOutcome{FileTrouble::None, path_}
-                                                   : failure(errno, above);
+                                                   : outcomeOf(errno, above);
 }
 
 PreferencesOutcome PreferencesDomain::saveCopy(const std::string& path) const {

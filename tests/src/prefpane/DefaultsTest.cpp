@@ -37,9 +37,9 @@ TEST_P(DefaultsTest, EachRowThatDiffersIsMarkedAndPutBack) {
         {[](auto& r) { r.canScanMenuBar = 0; }, "canScanMenuBarCheckPutBack",
          "Put “Scan the menu bar too” back to on", 0},
         {[](auto& r) { r.launchAtLogin = 0; }, "launchAtLoginPutBack",
-         "Put “Start at login” back to on", kChangeLaunch},
+         "Put “Start Korvex when you log in” back to on", kChangeLaunch},
         {[](auto& r) { r.scanMode = 2; }, "scanModeRadios2PutBack",
-         "Put “Scan mode” back to Press to start, press to choose", kChangeTriggers},
+         "Put “Scan mode” back to “Press to start, press to choose”", kChangeTriggers},
         {[](auto& r) {
              r.scanArea = {0, 0, 640, 480};
          },
@@ -47,12 +47,12 @@ TEST_P(DefaultsTest, EachRowThatDiffersIsMarkedAndPutBack) {
         {[](auto& r) {
              r.lineColor = {0, 0, 255};
          },
-         "lineColorRowPutBack", "Put “Line colour” back to #640000",
+         "lineColorRowPutBack", "Put “Line colour” back to Red (#640000)",
          kChangeScanLineLook | kChangeGuideLineLook},
         {[](auto& r) { std::strcpy(r.pointerImageName, "big"); }, "pointerRowPutBack",
-         "Put “Pointer” back to default", kChangePointer},
+         "Put “Pointer” back to “default”", kChangePointer},
         {[](auto& r) { r.buttonShape = 1; }, "buttonShapeRowPutBack",
-         "Put “Corners of palette buttons” back to Square", kChangePalette},
+         "Put “Corners of palette buttons” back to “Square”", kChangePalette},
         {[](auto& r) { r.buttonContent = 1; }, "buttonContentNameCheckPutBack",
          "Put “Shown on palette buttons” back to icon and name", kChangePalette},
         {[](auto& r) { r.buttonSize.width = 60; }, "buttonWidthPutBack",
@@ -60,9 +60,9 @@ TEST_P(DefaultsTest, EachRowThatDiffersIsMarkedAndPutBack) {
         {[](auto& r) {
              r.hotKeys[2] = {-1, 0};
          },
-         "cancelScanKeyRowPutBack", "Put “Cancel the scan” back to esc", kChangeHotKeys},
+         "cancelScanKeyRowPutBack", "Put “Cancel the scan (hot key)” back to esc", kChangeHotKeys},
         {[](auto& r) { r.buttonActions[0] = 5; }, "paletteEditorPutBack",
-         "Put “Palette buttons” back to its default", kChangePalette},
+         "Put “Palette button 1” back to “Click”", kChangePalette},
     };
 
     muteNotice("<key>scanner.lineScanTime</key><string>20.0</string>");

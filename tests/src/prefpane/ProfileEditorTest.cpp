@@ -22,8 +22,8 @@ protected:
     }
 
     /// The entries of the menu, of which the one in that row is chosen; -1 for none.
-    QStringList menu(int row) {
-        auto* button = find("profileMenu");
+    QStringList menu(int row, const char* name = "profileMenu") {
+        auto* button = find(name);
         QTest::keyClick(button, Qt::Key_Space);
         auto* list = button->findChild<QListWidget*>();
         QStringList entries;
@@ -77,6 +77,9 @@ TEST_F(ProfileEditorTest, TheSectionUpdatesRenamesAndDeletesAndPutsBack) {
     find("updateProfileBtn")->setFocus();
     click("updateProfileBtn");
     EXPECT_EQ(window()->focusWidget()->objectName(), QLatin1String("profileGrid"));
+    EXPECT_EQ(menu(1, "compareMenu"), QStringList({"The settings as they are", "“Morning”"}));
+    EXPECT_EQ(find<QLabel>("profileExplanation")->text(),
+              "After “Morning”, “Morning 2” would change:\nVolume: 50 to 51");
     EXPECT_EQ(shown(), "Morning 2");
     pressInStrip();
     EXPECT_EQ(shown(), "Morning 2, changed");
@@ -130,8 +133,11 @@ TEST_F(ProfileEditorTest, OfAFileTheSoundSettingsAreOfferedAndTakenAsOneChange) 
 
 TEST_F(ProfileEditorTest, WhatCannotBeDoneIsToldAndChangesNothing) {
     const std::filesystem::path folder = std::string(std::getenv("XDG_DATA_HOME")) + "/korvex";
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder / "profiles") << "in the way";
+    const std::filesystem::path state = std::getenv("XDG_STATE_HOME");
+    for (const auto& blocked : {folder / "profiles", state / "korvex"}) {
+        std::filesystem::create_directories(blocked.parent_path());
+        std::ofstream(blocked) << "in the way";
+    }
     open();
     save("profileNameMorning");
     EXPECT_EQ(told(), "“Morning” couldn’t be saved: Not a directory.");
@@ -140,6 +146,12 @@ TEST_F(ProfileEditorTest, WhatCannotBeDoneIsToldAndChangesNothing) {
     find<QLineEdit>("profileName")->clear();
     click("saveProfileBtn");
     EXPECT_EQ(told(), "First type a name, or press one of the ready ones.");
+    std::filesystem::remove(folder / "profiles");
+    save("profileNameMorning");
+    EXPECT_EQ(told(),
+              "The settings are saved as “Morning”. Which profile is in use can’t be kept: " +
+                  state.string() + "/korvex/profile: Not a directory.");
+    EXPECT_EQ(menu(-1).first(), "“Morning” is in use");
 }
 
 } // namespace
