@@ -74,8 +74,8 @@
         <translation>„%1“ zurücksetzen auf %3</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
+        <source>Undo this</source>
+        <translation>Dies rückgängig machen</translation>
     </message>
 </context>
 <context>

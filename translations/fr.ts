@@ -74,8 +74,8 @@
         <translation>Remettre «&#xa0;%1&#xa0;» à %3</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Annuler</translation>
+        <source>Undo this</source>
+        <translation>Annuler ceci</translation>
     </message>
 </context>
 <context>

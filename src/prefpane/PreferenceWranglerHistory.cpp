@@ -114,7 +114,7 @@ void PreferenceWrangler::putBack(const SettingSet& settings, const PrefsRecord& 
     adopt(settings, record);
     tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note,
                             .text = stepText(settings, before, prefs, kSettingBecomesAgain),
-                            .buttons = {undoButton(localized("Changes", "Undo"))}});
+                            .buttons = {undoButton(localized("Changes", "Undo this"))}});
 }
 
 void PreferenceWrangler::takeImport(const SettingsOffer& offer) {

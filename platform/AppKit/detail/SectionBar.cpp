@@ -29,6 +29,14 @@ SectionBar::SectionBar(QWidget* parent) : QTabBar(parent) {
     setUsesScrollButtons(true);
 }
 
+// The name comes last: no other text has the tabs measured again.
+void SectionBar::addSection(const QString& name, const QString& holds, const QString& icon) {
+    const int index = addTab(QString());
+    setTabData(index, icon);
+    setTabToolTip(index, holds);
+    setTabText(index, name);
+}
+
 QSize SectionBar::tabSizeHint(int index) const {
     QFont bold = font();
     bold.setBold(true);

@@ -3,12 +3,15 @@
 
 #include <QTabBar>
 
-/// The list of sections at a window's side: a tab bar with its texts upright, an icon before each
-/// and its tool tip, which says what the section holds, as a second line. A tab's data is its
-/// icon's name. Alt with a section's letter goes there, see `onLetter`.
+/// The list of sections at a window's side: a tab bar with its texts upright, an icon before each.
+/// Alt with a section's letter goes there, see `onLetter`.
 class SectionBar final : public QTabBar {
 public:
     explicit SectionBar(QWidget* parent);
+
+    /// `holds` says in a few words what the section holds. It stands in the second line and is the
+    /// tab's tool tip, which screen readers take for its description.
+    void addSection(const QString& name, const QString& holds, const QString& icon);
 
     std::function<void()> onLetter; ///< called when a letter has chosen the current section
 

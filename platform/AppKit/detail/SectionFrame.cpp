@@ -125,8 +125,8 @@ void SectionFrame::addSections() {
     menu_ = new QMenu(this);
     for (int index = 0; index < pages_->count(); ++index) {
         const QWidget* page = pages_->widget(index);
-        bar_->setTabData(bar_->addTab(page->windowTitle()), page->property("icon"));
-        bar_->setTabToolTip(index, page->accessibleDescription());
+        bar_->addSection(page->windowTitle(), page->accessibleDescription(),
+                         page->property("icon").toString());
         QAction* action = menu_->addAction(page->windowTitle());
         action->setCheckable(true);
         connect(action, &QAction::triggered, this, [this, index] { choose(index); });
