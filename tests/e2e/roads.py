@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""Goes from the notice through the first steps and every section, and makes the same changes once by keyboard alone, once by
-clicks alone, once through accessibility actions alone, and by a command. All must store the same.
+"""Goes from the notice through every section, and changes the same settings once by keyboard alone,
+once by clicks alone, once through accessibility actions alone, and by a command. All must store the
+same.
 
     python3 -m tests.e2e.roads BUILD_DIR OUT_DIR
 
@@ -186,6 +187,7 @@ class Keys(Road):
         keys = ("Left", "Right") if first.top == second.top else ("Up", "Down")
         return keys[way > 0]
 
+
 def store(road: type[Road] | None, build: Path, out: Path) -> bool:
     """Goes the road, or gives the command, in a fresh home, and keeps what was stored."""
     with Desktop(1500, 900, {"KORVEX_AGENT_LOG": "/dev/null"}, first_start=True) as desktop:
@@ -220,7 +222,7 @@ def main(build: str, out: str) -> int:
     ]
     faults = 0
     for road, stored in zip(roads[1:], others):
-        stored = {key: value for key, value in stored.items() if key not in (DATE, "firstStepsSeen")}
+        stored = {key: stored[key] for key in stored if key not in (DATE, "firstStepsSeen")}
         for key in sorted(wanted.keys() | stored.keys()):
             if wanted.get(key) != stored.get(key):
                 faults += 1
