@@ -23,11 +23,9 @@ constexpr OSStatus kLSApplicationNotFoundErr = -10814;
 /// the desktop that is running; kLSApplicationNotFoundErr where it isn't known to have any.
 OSStatus LSOpenCFURLRef(const CFURL* url, CFRef<CFURL>* launched);
 
-constexpr OSType kLSUnknownCreator = 0;
-
 /// Finds an installed application by all of the criteria that are given: its creator code (unless
-/// kLSUnknownCreator), its bundle identifier and the name of its file, extension included (either
-/// may be null). At least one has to be given.
+/// 0), its bundle identifier and the name of its file, extension included (either may be null). At
+/// least one has to be given.
 ///
 /// Applications are installed in the folders `applications` under $XDG_DATA_HOME and then under
 /// each of $XDG_DATA_DIRS; the first that fits is found. It is a bundle `Name.app` whose Info.plist

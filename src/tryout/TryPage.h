@@ -40,8 +40,6 @@ public:
     /// the reasons in `errors`, when that can't be loaded.
     bool show(const std::string& path, std::vector<std::string>& errors);
 
-    bool isLeft() const { return isLeft_; }
-
     std::span<const Outlet> outlets() const override;
     std::span<const Action> actions() const override;
 

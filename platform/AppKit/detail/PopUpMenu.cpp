@@ -2,6 +2,7 @@
 #include "platform/AppKit/detail/PopUpMenu.h"
 
 #include "platform/AppKit/detail/ListAccessibility.h"
+#include "platform/AppKit/detail/PaneStyle.h"
 
 #include <QKeyEvent>
 #include <QScreen>
@@ -12,8 +13,6 @@
 
 namespace {
 
-constexpr int kEntryHeight = 44;        // points, as buttons; where there isn't the room for that
-constexpr int kMinimumEntryHeight = 24; // what a finger or a trembling hand needs
 constexpr int kMinimumIconSize = 16;
 constexpr int kRoomAroundText = 6; // above and below it, together
 constexpr int kRoomBesideText = 12;
@@ -51,7 +50,7 @@ PopUpMenu::PopUpMenu(QWidget* button) : QListWidget(button) {
     setMovement(Static);
     setResizeMode(Adjust);
     setEditTriggers(NoEditTriggers);
-    setTextElideMode(Qt::ElideNone);
+    setTextElideMode(Qt::ElideMiddle);
     setMouseTracking(true);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setBackgroundRole(QPalette::Base);
@@ -74,10 +73,8 @@ void PopUpMenu::open(const std::vector<PopUpEntry>& entries, std::optional<QPoin
 
 void PopUpMenu::fill(const std::vector<PopUpEntry>& entries) {
     clear();
-    const int least = fontMetrics().height() + kRoomAroundText;
-    entryHeight_ = std::max(kEntryHeight, least);
-    if (heightOf(static_cast<int>(entries.size())) > roomAtButton())
-        entryHeight_ = std::max(kMinimumEntryHeight, least);
+    entryHeight_ = std::max(panestyle::kTarget, fontMetrics().height() + kRoomAroundText);
+    const int widest = parentWidget()->screen()->availableSize().width() - aroundEntries();
     const int iconWidth = std::max(kMinimumIconSize, fontMetrics().height());
     setIconSize({iconWidth, iconWidth});
     const bool hasIcons = std::any_of(entries.begin(), entries.end(),
@@ -88,26 +85,23 @@ void PopUpMenu::fill(const std::vector<PopUpEntry>& entries) {
             new QListWidgetItem(entry.icon.isNull() ? noIcon : entry.icon, entry.title, this);
         item->setFlags(entry.enabled ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
         const int width = sizeHintForIndex(indexFromItem(item)).width() + kRoomBesideText;
-        item->setSizeHint({width, entryHeight_});
+        item->setSizeHint({std::min(width, widest), entryHeight_});
     }
 }
 
-int PopUpMenu::roomAtButton() const {
-    const QWidget* button = parentWidget();
-    const QRect room = button->screen()->availableGeometry();
-    const int top = button->mapToGlobal(QPoint(0, 0)).y();
-    return std::max(top - room.top(), room.bottom() - top - button->height());
+int PopUpMenu::aroundEntries() const {
+    return 2 * (kMargin + frameWidth());
 }
 
 int PopUpMenu::heightOf(int rows) const {
     // One more than the rows: a list begins a new column when one fills the height exactly.
-    return rows * entryHeight_ + 1 + 2 * (kMargin + frameWidth());
+    return rows * entryHeight_ + 1 + aroundEntries();
 }
 
 PopUpMenu::Grid PopUpMenu::gridIn(int height) const {
     const int fitting = std::max(1, (height - heightOf(0)) / entryHeight_);
     const int columns = dividedUp(count(), fitting);
-    Grid grid{dividedUp(count(), columns), 2 * (kMargin + frameWidth())};
+    Grid grid{dividedUp(count(), columns), aroundEntries()};
     for (int first = 0; first < count(); first += grid.rows) {
         int widest = 0;
         for (int row = first; row < std::min(first + grid.rows, count()); ++row)
@@ -142,7 +136,8 @@ void PopUpMenu::placeAtButton() {
     const auto within = [](int place, int low, int high) {
         return std::max(low, std::min(place, high));
     };
-    setGeometry({{within(opener.left(), room.left(), room.right() + 1 - size.width()),
+    const int left = isRightToLeft() ? opener.right() + 1 - size.width() : opener.left();
+    setGeometry({{within(left, room.left(), room.right() + 1 - size.width()),
                   within(top, room.top(), room.bottom() + 1 - size.height())},
                  size});
     rows_ = grid.rows;
@@ -183,6 +178,8 @@ std::optional<PopUpMenu::Move> PopUpMenu::moveOf(int key) const {
     const int last = count() - 1;
     const int current = currentRow();
     const int nextColumn = current + rows_;
+    if (isRightToLeft() && (key == Qt::Key_Left || key == Qt::Key_Right))
+        key = key == Qt::Key_Left ? Qt::Key_Right : Qt::Key_Left;
     switch (key) {
     case Qt::Key_Home:
         return Move{0, 1};

@@ -17,11 +17,10 @@ struct PopUpEntry {
     bool enabled = true;
 };
 
-/// The menu that a button opens, in a window of its own. It shows all its entries at once, in as
-/// few columns as the room above or below the button allows, read from top to bottom; it scrolls,
-/// column by column, only when the whole screen is too small. Entries that fit into one column are
-/// as high as buttons. To a screen reader they are buttons: Qt's own lists offer no action that
-/// chooses.
+/// The menu that a button opens, in a window of its own. Its entries are as high as buttons. It
+/// shows all of them at once, in as few columns as the room above or below the button allows, read
+/// from top to bottom; it scrolls, column by column, only when the whole screen is too small.
+/// Assistive technology can press each: Qt's own lists offer no action that chooses.
 class PopUpMenu final : public QListWidget, public NSAccessibilityList {
 public:
     explicit PopUpMenu(QWidget* button);
@@ -63,10 +62,9 @@ private:
     };
 
     void fill(const std::vector<PopUpEntry>& entries);
-    /// The larger part of the screen beside the button, above or below.
-    int roomAtButton() const;
     void placeAtButton();
     Grid gridIn(int height) const;
+    int aroundEntries() const;    ///< both sides' margins and frames together
     int heightOf(int rows) const; ///< of the menu
     std::optional<Move> moveOf(int key) const;
     void go(Move move);

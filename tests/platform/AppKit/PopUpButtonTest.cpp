@@ -56,13 +56,10 @@ protected:
 };
 
 TEST_F(PopUpButtonTest, KeysOpenItAtItsFirstItemAndChoose) {
-    const struct {
-        Qt::Key opening;
-        Qt::KeyboardModifiers modifiers;
-        Qt::Key choosing;
-    } kTable[] = {{Qt::Key_Space, {}, Qt::Key_Space},
-                  {Qt::Key_Down, {}, Qt::Key_Enter},
-                  {Qt::Key_A, Qt::AltModifier, Qt::Key_Return}};
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, Qt::Key> kTable[] = {
+        {Qt::Key_Space, {}, Qt::Key_Space},
+        {Qt::Key_Down, {}, Qt::Key_Enter},
+        {Qt::Key_A, Qt::AltModifier, Qt::Key_Return}};
 
     addItems({"Hold", "Drag", "Übergang", "Click", "Hold"}); // the first one is replaced
     for (const auto& [opening, modifiers, choosing] : kTable) {
@@ -149,20 +146,15 @@ TEST_F(PopUpButtonTest, DisablingItClosesItAndItsActionMayDoSo) {
 }
 
 TEST_F(PopUpButtonTest, ShowsAsMuchAsItCanBesideTheButtonInColumnsThatArrowsWalk) {
-    const struct {
-        QPoint place;
-        int textHeight;
-        bool covers, scrolls;
-    } kPlaces[] = {{{700, 650}, 12, false, false},
-                   {{0, 400}, 14, true, false},
-                   {{0, 400}, 28, true, true},
-                   {{-40, 0}, 12, false, false}};
-
+    const std::tuple<QPoint, int, bool, bool> kPlaces[] = {{{700, 650}, 12, false, false},
+                                                           {{0, 400}, 14, true, false},
+                                                           {{0, 400}, 28, true, true},
+                                                           {{-40, 0}, 12, false, false}};
     const std::pair<Qt::Key, int> kKeys[] = {
-        {Qt::Key_Up, 0},   {Qt::Key_Down, 1},      {Qt::Key_Right, 21},    {Qt::Key_Right, 21},
-        {Qt::Key_Left, 1}, {Qt::Key_PageDown, 21}, {Qt::Key_PageDown, 38}, {Qt::Key_PageUp, 18}};
+        {Qt::Key_Up, 0},    {Qt::Key_Down, 1},      {Qt::Key_Right, 14},    {Qt::Key_Right, 27},
+        {Qt::Key_Left, 14}, {Qt::Key_PageDown, 27}, {Qt::Key_PageDown, 38}, {Qt::Key_PageUp, 25}};
     for (int i = 0; i < 39; ++i)
-        addItems({std::string(22, 'm') + std::to_string(i)});
+        addItems({std::string(14, 'm') + std::to_string(i)});
     for (const auto& [place, textHeight, covers, scrolls] : kPlaces) {
         SCOPED_TRACE(testing::Message() << place.y() << ' ' << textHeight);
         key(Qt::Key_Escape);
@@ -178,15 +170,22 @@ TEST_F(PopUpButtonTest, ShowsAsMuchAsItCanBesideTheButtonInColumnsThatArrowsWalk
         EXPECT_EQ(menu_->geometry().intersects(opener), covers);
         const QRect sight = menu_->viewport()->rect();
         EXPECT_TRUE(sight.contains(rowRect(0)) && sight.contains(rowRect(38)) != scrolls);
+        EXPECT_EQ(rowRect(0).height(), 44);
         key(Qt::Key_End);
         EXPECT_TRUE(menu_->currentRow() == 38 && sight.contains(rowRect(38)));
         key(Qt::Key_Home);
     }
-    EXPECT_EQ(rowRect(21).topLeft(), QPoint(rowRect(0).right() + 1, rowRect(1).top()));
+    EXPECT_EQ(rowRect(13).topLeft(), rowRect(0).topRight() + QPoint(1, 0));
     for (const auto& [code, row] : kKeys) {
         key(code);
         EXPECT_EQ(menu_->currentRow(), row) << code;
     }
+    key(Qt::Key_Escape);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    key(Qt::Key_Space);
+    key(Qt::Key_Left);
+    EXPECT_EQ(menu_->currentRow(), 13);
+    EXPECT_EQ(rowRect(13).topRight(), rowRect(0).topLeft() - QPoint(1, 0));
 }
 
 TEST_F(PopUpButtonTest, ScreenReaderFollowsTheMenu) {
