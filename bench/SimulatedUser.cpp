@@ -23,14 +23,25 @@ double nextPress(const SimulatedUser& user, const tryout::Sweep& sweep, double m
     return markTime + user.timing.lateness + spread * std::normal_distribution<>()(random);
 }
 
-/// Whether the true rates, of presses that are no lapses, are what was promised.
-bool keepsPromise(const tryout::Advice& advice, tryout::Conditions tried,
+/// The true rate of hits, of presses that are no lapses.
+double trueRate(const tryout::Conditions& tried, const tryout::Timing& truth, double lineTime,
+                double pointerTime) {
+    const tryout::Sweep line = {tried.sweep.travel, lineTime, tried.sweep.accelerates};
+    double rate = hitRate(line, tried.target, truth);
+    if (tried.pointer)
+        rate *= hitRate({tried.pointer->travel, pointerTime, tried.pointer->accelerates},
+                        tried.across, truth);
+    return rate;
+}
+
+/// Whether the true rates, of line and pointer, are what was promised.
+bool keepsPromise(const tryout::Advice& advice, const tryout::Conditions& tried,
                   const tryout::Timing& truth) {
-    tried.sweep.time = advice.time;
-    if (hitRate(tried.sweep, tried.target, truth) < tryout::kQuickestRate)
+    const double pointerTime = tried.pointer ? advice.pointerTime.value_or(tried.pointer->time) : 0;
+    if (trueRate(tried, truth, advice.time, pointerTime) < tryout::kQuickestRate)
         return false;
-    tried.sweep.time = advice.surest.value_or(advice.time);
-    return !advice.surest || hitRate(tried.sweep, tried.target, truth) >= tryout::kSurestRate;
+    return !advice.surest || trueRate(tried, truth, advice.surest->line.time,
+                                      advice.surest->pointer.time) >= tryout::kSurestRate;
 }
 
 } // namespace
@@ -51,7 +62,10 @@ const SimulatedUser kSimulatedUsers[12] = {
 };
 
 tryout::Conditions simulatedConditions() {
-    return {.sweep = {.travel = 500, .time = 10}, .target = 10, .delay = 1.5};
+    return {.sweep = {.travel = 300, .time = 10},
+            .target = 10,
+            .delay = 1.5,
+            .pointer = tryout::Sweep{.travel = 530, .time = 10}};
 }
 
 tryout::Measured simulateTry(const SimulatedUser& user, const tryout::Conditions& conditions,
@@ -72,6 +86,7 @@ tryout::Measured simulateTry(const SimulatedUser& user, const tryout::Conditions
         if (trial.pressed) {
             trial.offset = press - trial.markTime;
             trial.miss = sweep.positionAt(press) - mark;
+            trial.next = uniform(1, 12, random); // some rest
             if (uniform(0, 1, random) < user.doublePresses)
                 measured.extras.push_back({uniform(0.1, 0.4, random), 0.05});
         }
@@ -83,26 +98,31 @@ tryout::Measured simulateTry(const SimulatedUser& user, const tryout::Conditions
 SimulatedRun simulateRun(const SimulatedUser& user, tryout::Conditions conditions,
                          std::mt19937& random) {
     SimulatedRun run;
-    std::vector<double> earlier;
+    tryout::Earlier earlier;
     while (run.tries++ < kMostTries) {
         tryout::Measured measured = simulateTry(user, conditions, random);
-        measured.earlierOffsets = earlier;
+        measured.earlier = earlier;
         const tryout::Advice advice = tryout::advise(measured, conditions);
         using enum tryout::Verdict;
         if (run.tries == 1)
             run.first = advice.verdict;
         if (advice.verdict == OutOfReach || user.verdict)
             return run;
-        if (advice.verdict == Keep || advice.verdict == Change) {
-            run.advised = true;
-            run.kept = keepsPromise(advice, conditions, user.timing);
+        const bool isPromised = !conditions.pointer || advice.pointerTime;
+        const bool isKept = isPromised && keepsPromise(advice, conditions, user.timing);
+        if (advice.verdict == Keep) {
+            run.advised = isPromised;
+            run.kept = isKept;
             run.time = advice.time;
+            run.pointerTime = advice.pointerTime.value_or(0);
             return run;
         }
+        if (advice.verdict == Change && isPromised && !run.isChanged) {
+            run.isChanged = true;
+            run.isChangeKept = isKept;
+        }
         conditions.sweep.time = advice.time;
-        for (const tryout::Trial& trial : measured.trials)
-            if (trial.pressed)
-                earlier.push_back(trial.offset);
+        remember(earlier, measured, conditions);
     }
     return run;
 }

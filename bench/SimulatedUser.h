@@ -22,19 +22,22 @@ struct SimulatedUser {
 tryout::Measured simulateTry(const SimulatedUser& user, const tryout::Conditions& conditions,
                              std::mt19937& random);
 
-/// What came of following the advice, trying again wherever it says so.
+/// What came of following the advice, trying again wherever it says so. A promise is of the rate of
+/// clicks, with the time for the pointer that goes with the line's.
 struct SimulatedRun {
-    tryout::Verdict first{}; ///< of the first try
-    bool advised = false;    ///< a time was promised in the end
-    bool kept = false;       ///< the promised rate is reached at it, and at the surest time too
-    double time = 0;
+    tryout::Verdict first{};  ///< of the first try
+    bool advised = false;     ///< in the end the line's time was right, and a promise made
+    bool kept = false;        ///< that promise is true
+    bool isChanged = false;   ///< before, a change of the line's time was promised something
+    bool isChangeKept = true; ///< the first of those promises is true
+    double time = 0, pointerTime = 0; ///< in the end, in seconds
     int tries = 0;
 };
 
 SimulatedRun simulateRun(const SimulatedUser& user, tryout::Conditions conditions,
                          std::mt19937& random);
 
-/// Users from quick and even to slow and shaky, and odd ones; a screen of 500 mm swept in 10 s at
-/// first.
+/// Users from quick and even to slow and shaky, and odd ones; a screen of 530 by 300 mm, swept in
+/// 10 s by line and pointer at first.
 extern const SimulatedUser kSimulatedUsers[12];
 tryout::Conditions simulatedConditions();

@@ -2822,22 +2822,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Ihre Drücke kamen alle im selben Moment, soweit dieser Computer es sagen kann. </translation>
     </message>
     <message>
-        <source>%.1f seconds suits you: we expect at least %d in 10.</source>
-        <translation>%.1f Sekunden passen zu Ihnen: Wir erwarten mindestens %d von 10.</translation>
-    </message>
-    <message>
-        <source>%.1f seconds suits you: we expect %d in 10, and at least %d.</source>
-        <translation>%.1f Sekunden passen zu Ihnen: Wir erwarten %d von 10, und mindestens %d.</translation>
-    </message>
-    <message>
-        <source>At %.1f seconds we expect at least %d in 10.</source>
-        <translation>Bei %.1f Sekunden erwarten wir mindestens %d von 10.</translation>
-    </message>
-    <message>
-        <source>At %.1f seconds we expect %d in 10, and at least %d.</source>
-        <translation>Bei %.1f Sekunden erwarten wir %d von 10, und mindestens %d.</translation>
-    </message>
-    <message>
         <source>A slower line is likely to suit you better. Try it at %.1f seconds, and we can tell.</source>
         <translation>Eine langsamere Linie passt wohl besser zu Ihnen. Probieren Sie es mit %.1f Sekunden, dann können wir es sagen.</translation>
     </message>
@@ -2926,10 +2910,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Im Abstand von %g mm zur Marke haben Sie %d Mal von %zu angehalten. </translation>
     </message>
     <message>
-        <source> With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit.</source>
-        <translation> Mit dem Zeiger danach, bei %.1f Sekunden, erwarten wir, dass %d von 10 Klicks treffen.</translation>
-    </message>
-    <message>
         <source> That is for a line that sweeps; as you have set it, it moves one step a press.</source>
         <translation> Das gilt für eine Linie, die durchläuft; so wie Sie es eingestellt haben, rückt sie mit jedem Druck einen Schritt weiter.</translation>
     </message>
@@ -2948,6 +2928,38 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>The line</source>
         <translation>Die Linie</translation>
+    </message>
+    <message>
+        <source>%.1f seconds suits you: we expect %d in 10.</source>
+        <translation>%.1f Sekunden passen zu Ihnen: Wir erwarten %d von 10.</translation>
+    </message>
+    <message>
+        <source>At %.1f seconds we expect %d in 10.</source>
+        <translation>Bei %.1f Sekunden erwarten wir %d von 10.</translation>
+    </message>
+    <message>
+        <source> With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit, and at least %d.</source>
+        <translation> Mit dem Zeiger danach, bei %.1f Sekunden, erwarten wir, dass %d von 10 Klicks treffen, und mindestens %d.</translation>
+    </message>
+    <message>
+        <source> With the pointer after it, at %.1f seconds instead of %.1f, we expect %d clicks in 10 to hit, and at least %d.</source>
+        <translation> Mit dem Zeiger danach, bei %.1f statt %.1f Sekunden, erwarten wir, dass %d von 10 Klicks treffen, und mindestens %d.</translation>
+    </message>
+    <message>
+        <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm.</source>
+        <translation>Auch bei %.0f Sekunden, dem Langsamsten, können wir nicht erwarten, dass 3 von 4 Klicks treffen. Ziele von %.0f mm würden es möglich machen, oder ein Scanbereich von nur %.0f × %.0f mm.</translation>
+    </message>
+    <message>
+        <source> %d clicks in 10 to hit takes %.1f seconds for the line and %.1f for the pointer.</source>
+        <translation> Damit %d von 10 Klicks treffen, braucht die Linie %.1f Sekunden und der Zeiger %.1f.</translation>
+    </message>
+    <message>
+        <source> After a miss it took %.1f seconds to go on.</source>
+        <translation> Nach einem Fehlschlag dauerte es %.1f Sekunden, bis es weiterging.</translation>
+    </message>
+    <message>
+        <source> On this desktop no window can keep keys for itself, so your switch may scan as well meanwhile.</source>
+        <translation> Auf diesem Desktop kann kein Fenster Tasten für sich behalten, darum scannt Ihr Schalter vielleicht auch währenddessen.</translation>
     </message>
 </context>
 <context>

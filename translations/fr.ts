@@ -2822,22 +2822,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Vos appuis sont tous tombés au même moment, pour autant que cet ordinateur le sache. </translation>
     </message>
     <message>
-        <source>%.1f seconds suits you: we expect at least %d in 10.</source>
-        <translation>%.1f secondes vous conviennent&#xa0;: nous attendons au moins %d sur 10.</translation>
-    </message>
-    <message>
-        <source>%.1f seconds suits you: we expect %d in 10, and at least %d.</source>
-        <translation>%.1f secondes vous conviennent&#xa0;: nous attendons %d sur 10, et au moins %d.</translation>
-    </message>
-    <message>
-        <source>At %.1f seconds we expect at least %d in 10.</source>
-        <translation>À %.1f secondes, nous attendons au moins %d sur 10.</translation>
-    </message>
-    <message>
-        <source>At %.1f seconds we expect %d in 10, and at least %d.</source>
-        <translation>À %.1f secondes, nous attendons %d sur 10, et au moins %d.</translation>
-    </message>
-    <message>
         <source>A slower line is likely to suit you better. Try it at %.1f seconds, and we can tell.</source>
         <translation>Une ligne plus lente vous conviendra sans doute mieux. Essayez à %.1f secondes, et nous le saurons.</translation>
     </message>
@@ -2926,10 +2910,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Vous vous êtes arrêté à moins de %g mm du repère %d fois sur %zu. </translation>
     </message>
     <message>
-        <source> With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit.</source>
-        <translation> Avec le pointeur ensuite, à %.1f secondes, nous attendons %d clics justes sur 10.</translation>
-    </message>
-    <message>
         <source> That is for a line that sweeps; as you have set it, it moves one step a press.</source>
         <translation> Cela vaut pour une ligne qui balaie&#xa0;; avec votre réglage, elle avance d’un pas par appui.</translation>
     </message>
@@ -2948,6 +2928,38 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>The line</source>
         <translation>La ligne</translation>
+    </message>
+    <message>
+        <source>%.1f seconds suits you: we expect %d in 10.</source>
+        <translation>%.1f secondes vous conviennent&#xa0;: nous attendons %d sur 10.</translation>
+    </message>
+    <message>
+        <source>At %.1f seconds we expect %d in 10.</source>
+        <translation>À %.1f secondes, nous attendons %d sur 10.</translation>
+    </message>
+    <message>
+        <source> With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit, and at least %d.</source>
+        <translation> Avec le pointeur ensuite, à %.1f secondes, nous attendons %d clics justes sur 10, et au moins %d.</translation>
+    </message>
+    <message>
+        <source> With the pointer after it, at %.1f seconds instead of %.1f, we expect %d clicks in 10 to hit, and at least %d.</source>
+        <translation> Avec le pointeur ensuite, à %.1f secondes au lieu de %.1f, nous attendons %d clics justes sur 10, et au moins %d.</translation>
+    </message>
+    <message>
+        <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm.</source>
+        <translation>Même à %.0f secondes, le plus lent, nous n’attendons pas 3 clics justes sur 4. Des cibles de %.0f mm le permettraient, ou une zone de balayage de %.0f × %.0f mm seulement.</translation>
+    </message>
+    <message>
+        <source> %d clicks in 10 to hit takes %.1f seconds for the line and %.1f for the pointer.</source>
+        <translation> Pour %d clics justes sur 10, il faut %.1f secondes pour la ligne et %.1f pour le pointeur.</translation>
+    </message>
+    <message>
+        <source> After a miss it took %.1f seconds to go on.</source>
+        <translation> Après un raté, il a fallu %.1f secondes pour continuer.</translation>
+    </message>
+    <message>
+        <source> On this desktop no window can keep keys for itself, so your switch may scan as well meanwhile.</source>
+        <translation> Sur ce bureau, aucune fenêtre ne peut garder les touches pour elle&#xa0;: votre contacteur peut donc aussi balayer pendant ce temps.</translation>
     </message>
 </context>
 <context>

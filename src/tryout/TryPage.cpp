@@ -4,6 +4,7 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "platform/HIToolbox/HotKeyMode.h"
 #include "src/page.h"
 #include "src/tryout/HistoryView.h"
 #include "src/tryout/words.h"
@@ -54,10 +55,7 @@ std::span<const Outlet> TryPage::outlets() const {
         outletRow<&P::takeBtn_>("takeBtn"),
         outletRow<&P::keepBtn_>("keepBtn"),
         outletRow<&P::againBtn_>("againBtn"),
-        outletRow<&P::firstSuggestionBtn_>("firstSuggestionBtn"),
-        outletRow<&P::secondSuggestionBtn_>("secondSuggestionBtn"),
-        outletRow<&P::thirdSuggestionBtn_>("thirdSuggestionBtn"),
-        outletRow<&P::fourthSuggestionBtn_>("fourthSuggestionBtn"),
+        outletRow<&P::suggestionBtn_>("suggestionBtn"),
         outletRow<&P::targetText_>("targetText"),
         outletRow<&P::targetSmallerBtn_>("targetSmallerBtn"),
         outletRow<&P::targetLargerBtn_>("targetLargerBtn"),
@@ -108,7 +106,7 @@ bool TryPage::show(const std::string& path, std::vector<std::string>& errors) {
 void TryPage::startTry() {
     const tryout::Trigger trigger = tryout::triggerOf(prefs);
     if (trigger != trigger_)
-        earlierOffsets_.clear();
+        earlier_ = {};
     trigger_ = trigger;
     keyboard_.stir(GetCurrentEventTime());
     makeSession();
@@ -134,6 +132,11 @@ bool TryPage::hasBegun() const {
     return session_->sweepIndex() > 0 || session_->phase() != Phase::Ready;
 }
 
+std::string TryPage::courseText() const {
+    const bool areKeysShared = !hasBegun() && desktopKeepsItsShortcuts();
+    return tryout::courseText(*session_, trigger_) + (areKeysShared ? tryout::sharedKeysText() : "");
+}
+
 void TryPage::frame() {
     if (isLeft_)
         return close(); // which ends this object
@@ -156,15 +159,13 @@ void TryPage::showPhase() {
     tryView_->setNeedsDisplay(true);
     const bool isDone = phase == Phase::Done;
     for (NSView* view :
-         std::initializer_list<NSView*>{takeBtn_, keepBtn_, againBtn_, numbers_, historyView_,
-                                        historyNote_, exportBtn_, deleteBtn_})
+         std::initializer_list<NSView*>{takeBtn_, suggestionBtn_, keepBtn_, againBtn_, numbers_,
+                                        historyView_, historyNote_, exportBtn_, deleteBtn_})
         view->setHidden(!isDone);
-    for (NSButton* button : suggestionBtns())
-        button->setHidden(true);
     showTarget();
     if (isDone)
         return showResult();
-    say(tryout::courseText(*session_, trigger_));
+    say(courseText());
 }
 
 void TryPage::say(const std::string& text) {
@@ -177,7 +178,7 @@ bool TryPage::wakesUp(double moment) {
         session_->phase() == Phase::Ready && keyboard_.isResting(GetCurrentEventTime());
     keyboard_.stir(moment);
     if (wasResting)
-        say(tryout::courseText(*session_, trigger_));
+        say(courseText());
     return wasResting;
 }
 

@@ -11,7 +11,6 @@
 #include "src/tryout/suggestions.h"
 #include "src/tryout/tryconditions.h"
 
-#include <array>
 #include <optional>
 
 class HistoryView;
@@ -64,6 +63,7 @@ private:
     void startTry();
     void makeSession();
     bool hasBegun() const;
+    std::string courseText() const;
     /// Brings the page up to date with the session's phase.
     void showPhase();
     /// Shows the text and has a screen reader say it.
@@ -73,11 +73,10 @@ private:
 
     // TryPageResult.cpp: what a try tells, what comes of it, and the tries before
     void showResult();
-    void showSuggestions();
+    void showSuggestion();
     void keep(const tryout::Advice& advice, const tryout::Measured& measured);
     void showTarget();
     void setTarget(tryout::TargetChoice choice);
-    std::array<NSButton*, 4> suggestionBtns() const;
     void showHistory(const std::string& note);
     void close();
 
@@ -93,9 +92,9 @@ private:
     std::optional<tryout::Session> session_;
     std::optional<tryout::Session::Phase> shownPhase_;
     float sessionHeight_ = 0; ///< of the view, when the session was made
-    std::vector<double> earlierOffsets_;
-    double advised_ = 0;                          ///< seconds
-    std::vector<tryout::Suggestion> suggestions_; ///< in the order of their buttons
+    tryout::Earlier earlier_;
+    double advised_ = 0; ///< seconds
+    std::optional<tryout::Suggestion> suggestion_;
     tryout::TargetChoice targetChoice_;
     HeldKeyboard keyboard_;
     tryout::History history_;
@@ -108,10 +107,7 @@ private:
     NSButton* takeBtn_ = nullptr;
     NSButton* keepBtn_ = nullptr;
     NSButton* againBtn_ = nullptr;
-    NSButton* firstSuggestionBtn_ = nullptr;
-    NSButton* secondSuggestionBtn_ = nullptr;
-    NSButton* thirdSuggestionBtn_ = nullptr;
-    NSButton* fourthSuggestionBtn_ = nullptr;
+    NSButton* suggestionBtn_ = nullptr;
     NSTextField* targetText_ = nullptr;
     NSButton* targetSmallerBtn_ = nullptr;
     NSButton* targetLargerBtn_ = nullptr;

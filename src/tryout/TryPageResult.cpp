@@ -8,7 +8,6 @@
 #include "src/tryout/HistoryView.h"
 #include "src/tryout/words.h"
 
-#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -23,15 +22,11 @@ std::string withSeconds(const char* sentence, double seconds) {
 
 } // namespace
 
-std::array<NSButton*, 4> TryPage::suggestionBtns() const {
-    return {firstSuggestionBtn_, secondSuggestionBtn_, thirdSuggestionBtn_, fourthSuggestionBtn_};
-}
-
 // The keyboard stays at the picture, where presses do nothing now: one press too many takes no
 // advice.
 void TryPage::showResult() {
     tryout::Measured measured = session_->measured();
-    measured.earlierOffsets = earlierOffsets_;
+    measured.earlier = earlier_;
     const tryout::Advice advice = tryout::advise(measured, conditions_);
     const tryout::Steadiness steadiness = tryout::steady(measured);
     advised_ = advice.time;
@@ -43,39 +38,32 @@ void TryPage::showResult() {
     takeBtn_->setHidden(!isOffered);
     takeBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Try it at %.1f"), advised_));
     keepBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Keep %.1f"), conditions_.sweep.time));
-    suggestions_ = tryout::suggestionsOf(advice, steadiness, prefs);
-    showSuggestions();
+    suggestion_ = tryout::suggestionOf(advice, steadiness, prefs);
+    showSuggestion();
     keep(advice, measured);
 }
 
-void TryPage::showSuggestions() {
-    const auto buttons = suggestionBtns();
-    for (std::size_t i = 0; i < buttons.size(); ++i) {
-        buttons[i]->setHidden(i >= suggestions_.size());
-        if (i >= suggestions_.size())
-            continue;
-        const auto& [setting, seconds] = suggestions_[i];
-        PrefsRecord record = prefs;
-        *static_cast<double*>(setting->in(record)) = seconds;
-        buttons[i]->setTitle(
-            filled(localized("Try", "Set “%1” to %2"),
-                   {localized("Settings", setting->name), settingText(*setting, record)}));
-    }
+void TryPage::showSuggestion() {
+    suggestionBtn_->setHidden(!suggestion_);
+    if (!suggestion_)
+        return;
+    const auto& [setting, seconds] = *suggestion_;
+    PrefsRecord record = prefs;
+    *static_cast<double*>(setting->in(record)) = seconds;
+    suggestionBtn_->setTitle(
+        filled(localized("Try", "Set “%1” to %2"),
+               {localized("Settings", setting->name), settingText(*setting, record)}));
 }
 
 /// Only one change at a time: what it brings about shows the next try.
-void TryPage::takeSuggestion(NSButton* sender) {
-    const auto buttons = suggestionBtns();
-    const auto place = static_cast<std::size_t>(std::find(buttons.begin(), buttons.end(), sender) -
-                                                buttons.begin());
-    if (place >= suggestions_.size())
+void TryPage::takeSuggestion(NSButton*) {
+    if (!suggestion_)
         return;
-    const auto [setting, seconds] = suggestions_[place];
+    const auto [setting, seconds] = *suggestion_;
     const PrefsRecord before = prefs;
     target_.takeTime(*setting, seconds);
-    suggestions_.clear();
-    showSuggestions();
-    takeBtn_->setHidden(true);
+    suggestion_.reset();
+    showSuggestion();
     window_.makeFirstResponder(againBtn_);
     say(filled(localized("Try", "%1. Undo takes it back. Try once more before you change anything "
                                 "else."),
@@ -83,9 +71,8 @@ void TryPage::takeSuggestion(NSButton* sender) {
 }
 
 void TryPage::keep(const tryout::Advice& advice, const tryout::Measured& measured) {
-    for (const tryout::Trial& trial : measured.trials)
-        if (trial.pressed && advice.verdict != tryout::Verdict::Random)
-            earlierOffsets_.push_back(trial.offset);
+    if (advice.verdict != tryout::Verdict::Random)
+        remember(earlier_, measured, conditions_);
     using enum tryout::Trigger::Way;
     const bool isOnRelease = trigger_.way == Release || trigger_.way == Hold;
     const bool isStored =

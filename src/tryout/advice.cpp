@@ -62,25 +62,21 @@ std::optional<Verdict> objection(const Measured& measured, const Sample& sample,
     return {};
 }
 
-/// What is swept: by the line, or along it by the pointer.
-struct Axis {
-    Sweep sweep;
-    double target, delay;
+bool isMiss(const Trial& trial, const Conditions& tried) {
+    return trial.pressed && std::abs(trial.miss) > tried.target / 2;
+}
 
-    double rateAt(double time, const Timing& timing) const {
-        return hitRate(at(time), target, timing);
-    }
+/// A time that a sweep is set to, and its share of hits.
+RatedTime rated(Sweep sweep, double time, double width, const Timing& timing) {
+    sweep.time = time;
+    return {time, hitRate(sweep, width, timing)};
+}
 
-    double timePerHitAt(double time, const Timing& timing) const {
-        return timePerHit(at(time), target, timing, delay);
-    }
-
-private:
-    Sweep at(double time) const { return {sweep.travel, time, sweep.accelerates}; }
-};
-
-Axis lineOf(const Conditions& tried) {
-    return {tried.sweep, tried.target, tried.delay};
+/// Whether presses are known from about the pointer's speed: they were tried at the line's.
+bool isForetold(const Earlier& known, const Sweep& pointer, double time) {
+    const auto [slowest, fastest] = std::minmax_element(known.speeds.begin(), known.speeds.end());
+    const double speed = pointer.travel / time;
+    return speed >= kSlowestForetold * *slowest && speed <= kFastestForetold * *fastest;
 }
 
 /// The least rate of hits that goes with nothing but hits in 95 of 100 tries; 0 after a miss.
@@ -88,57 +84,97 @@ double countedRate(const Advice& advice) {
     return advice.hits < advice.presses ? 0 : std::pow(0.05, 1.0 / advice.presses);
 }
 
-bool isWorthwhile(double time, const Axis& axis, const Timing& timing) {
-    const double now = axis.sweep.time;
-    return axis.rateAt(now, timing) < kQuickestRate ||
-           axis.timePerHitAt(time, timing) <
-               axis.timePerHitAt(now, timing) * (1 - kWorthwhileSaving);
+/// What is to be chosen from, rated by the cautious timing.
+struct Choices {
+    std::vector<RatedTime> line, pointer;
+    RatedTime tried; ///< the line's time
+    Waits waits;
+
+    bool isWorthwhile(const Click& better, const Click& now) const {
+        return now.rate() < kQuickestRate ||
+               timePerHit(better, waits) < timePerHit(now, waits) * (1 - kWorthwhileSaving);
+    }
+
+    /// Whether no other time for the line would do better by enough, with the pointer's that suits
+    /// it.
+    bool isTriedRight(const std::optional<Click>& best) const {
+        const auto kept = quickestTimes({&tried, 1}, pointer, waits);
+        return kept && !(best && isWorthwhile(*best, *kept));
+    }
+};
+
+Choices choicesOf(const Advice& advice, const Conditions& tried) {
+    const Timing& timing = advice.cautious;
+    Choices choices = {.line = ratedTimes(tried.sweep, tried.target, timing, tried.times),
+                       .pointer = {std::begin(kNoPointer), std::end(kNoPointer)},
+                       .tried = rated(tried.sweep, tried.sweep.time, tried.target, timing),
+                       .waits = {tried.delay, advice.costOfMiss.value_or(kCostOfMiss)}};
+    if (tried.pointer)
+        choices.pointer = ratedTimes(*tried.pointer, tried.across, timing, tried.times);
+    choices.tried.rate = std::max(choices.tried.rate, countedRate(advice));
+    return choices;
 }
 
 void adviseOutOfReach(Advice& advice, const Conditions& tried) {
-    Sweep slowest = tried.sweep;
-    slowest.time = tried.times.max;
+    std::vector<Axis> axes = {{tried.sweep, tried.target}};
+    if (tried.pointer)
+        axes.push_back({*tried.pointer, tried.across});
+    for (Axis& axis : axes)
+        axis.sweep.time = tried.times.max;
     advice.verdict = Verdict::OutOfReach;
-    advice.neededTarget = neededWidth(slowest, advice.cautious, kQuickestRate);
-    // Rates depend on width and travel by their quotient alone.
-    advice.neededTravel = slowest.travel * tried.target / advice.neededTarget;
+    advice.enlargement = neededEnlargement(axes, advice.cautious, kQuickestRate);
 }
 
-void adviseTime(Advice& advice, const Conditions& tried) {
+void adviseTime(Advice& advice, const Conditions& tried, const Choices& choices,
+                const Earlier& known) {
     const double fastest = tried.times.roundUp(tried.sweep.time / kFastestForetold);
     const double slowest = std::max(tried.sweep.time / kSlowestForetold, fastest);
-    const auto best =
-        quickestTime(tried.sweep, tried.target, advice.cautious, tried.delay, tried.times);
-    if (!best && slowest >= tried.times.max)
-        return adviseOutOfReach(advice, tried);
-    const double wanted = best.value_or(tried.times.max);
-    const bool isSlower = wanted > tried.sweep.time;
-    if ((isSlower && countedRate(advice) >= kQuickestRate) ||
-        !isWorthwhile(wanted, lineOf(tried), advice.cautious))
+    const auto best = quickestTimes(choices.line, choices.pointer, choices.waits);
+    const double wanted = best ? best->line.time : tried.times.max;
+    if (choices.isTriedRight(best))
         advice.verdict = Verdict::Keep;
+    else if (!best && slowest >= tried.times.max)
+        return adviseOutOfReach(advice, tried);
     else if (wanted > slowest || wanted < fastest)
         advice.verdict = Verdict::TryAgain;
     else
         advice.verdict = Verdict::Change;
     if (advice.verdict != Verdict::Keep)
         advice.time = tried.times.roundUp(std::clamp(wanted, fastest, slowest));
-    const auto surest = surestTime(tried.sweep, tried.target, advice.cautious, tried.times);
-    if (surest && *surest >= fastest && *surest <= slowest)
+    const auto surest = surestTimes(choices.line, choices.pointer);
+    if (surest && surest->line.time >= fastest && surest->line.time <= slowest &&
+        (!tried.pointer || isForetold(known, *tried.pointer, surest->pointer.time)))
         advice.surest = surest;
 }
 
-/// Its speeds are held against the line's: those are what the presses are known for.
-void advisePointer(Advice& advice, const Conditions& tried) {
-    const Axis axis = {*tried.pointer, tried.across, 0};
-    advice.both = advice.expected * axis.rateAt(axis.sweep.time, advice.timing);
-    const auto best =
-        quickestTime(axis.sweep, axis.target, advice.cautious, axis.delay, tried.times);
-    if (advice.verdict != Verdict::Keep || !best)
+/// The set time stays, unless another that can be foretold is better by enough.
+void advisePointer(Advice& advice, const Conditions& tried, Choices& choices,
+                   const Earlier& known) {
+    const RatedTime line = {advice.time, advice.promised};
+    const RatedTime set = rated(*tried.pointer, tried.pointer->time, tried.across, advice.cautious);
+    std::erase_if(choices.pointer, [&](const RatedTime& pointer) {
+        return !isForetold(known, *tried.pointer, pointer.time);
+    });
+    const auto best = quickestTimes({&line, 1}, choices.pointer, choices.waits);
+    const RatedTime suits = best && choices.isWorthwhile(*best, {line, set}) ? best->pointer : set;
+    if (!isForetold(known, *tried.pointer, suits.time))
         return;
-    const double speed = axis.sweep.travel / *best * tried.sweep.time / tried.sweep.travel;
-    if (speed >= kSlowestForetold && speed <= kFastestForetold &&
-        isWorthwhile(*best, axis, advice.cautious))
-        advice.pointerTime = best;
+    advice.pointerTime = suits.time;
+    advice.clicksPromised = line.rate * suits.rate;
+    advice.clicks =
+        advice.expected * rated(*tried.pointer, suits.time, tried.across, advice.timing).rate;
+}
+
+/// Of presses that are all as they should be.
+void adviseTimes(Advice& advice, const Conditions& tried, const Earlier& known) {
+    Choices choices = choicesOf(advice, tried);
+    adviseTime(advice, tried, choices, known);
+    advice.expected = rated(tried.sweep, advice.time, tried.target, advice.timing).rate;
+    advice.promised = rated(tried.sweep, advice.time, tried.target, advice.cautious).rate;
+    if (advice.verdict == Verdict::Keep)
+        advice.promised = choices.tried.rate;
+    if (tried.pointer && (advice.verdict == Verdict::Keep || advice.verdict == Verdict::Change))
+        advisePointer(advice, tried, choices, known);
 }
 
 } // namespace
@@ -150,33 +186,36 @@ Timing cautiousTiming(const Timing& measured, int presses) {
     return {measured.lateness + std::copysign(error, measured.lateness), spread};
 }
 
+void remember(Earlier& earlier, const Measured& measured, const Conditions& tried) {
+    for (const Trial& trial : measured.trials) {
+        if (trial.pressed)
+            earlier.offsets.push_back(trial.offset);
+        if (isMiss(trial, tried) && trial.next > 0)
+            earlier.costs.push_back(trial.next);
+    }
+    earlier.speeds.push_back(tried.sweep.travel / tried.sweep.time);
+}
+
 Advice advise(const Measured& measured, const Conditions& tried) {
     const Sample sample = sampleOf(measured);
     Advice advice;
     advice.presses = static_cast<int>(sample.offsets.size());
-    advice.hits = static_cast<int>(
-        std::count_if(measured.trials.begin(), measured.trials.end(), [&](const Trial& trial) {
-            return trial.pressed && std::abs(trial.miss) <= tried.target / 2;
-        }));
+    advice.hits =
+        advice.presses -
+        static_cast<int>(std::count_if(measured.trials.begin(), measured.trials.end(),
+                                       [&](const Trial& trial) { return isMiss(trial, tried); }));
     advice.time = tried.sweep.time;
-    std::vector<double> offsets = measured.earlierOffsets;
-    offsets.insert(offsets.end(), sample.offsets.begin(), sample.offsets.end());
-    advice.timing = {median(offsets), spread(offsets)};
+    Earlier known = measured.earlier;
+    remember(known, measured, tried);
+    advice.timing = {median(known.offsets), spread(known.offsets)};
     if (advice.presses >= kFewestTrials)
-        advice.cautious = cautiousTiming(advice.timing, static_cast<int>(offsets.size()));
-    const auto wrong = objection(measured, sample, advice.timing.lateness);
-    if (wrong) {
+        advice.cautious = cautiousTiming(advice.timing, static_cast<int>(known.offsets.size()));
+    if (std::ssize(known.costs) >= kFewestMisses)
+        advice.costOfMiss = median(known.costs); // a rest among them spoils nothing
+    if (const auto wrong = objection(measured, sample, advice.timing.lateness))
         advice.verdict = *wrong;
-        return advice;
-    }
-    adviseTime(advice, tried);
-    advice.expected = lineOf(tried).rateAt(advice.time, advice.timing);
-    advice.promised = lineOf(tried).rateAt(advice.time, advice.cautious);
-    if (advice.verdict == Verdict::Keep)
-        advice.promised = std::max(advice.promised, countedRate(advice));
-    advice.both = advice.expected;
-    if (tried.pointer)
-        advisePointer(advice, tried);
+    else
+        adviseTimes(advice, tried, known);
     return advice;
 }
 

@@ -10,13 +10,13 @@
 namespace tryout {
 
 // Theirs: the rule that a step's time is the reaction time divided by 0.65 (Simpson, Koester and
-// LoPresti 2007), and settings of scanning adjusted to each user's measured presses (Koester and
-// Simpson 2014). Both are for scans that step from item to item, and neither is used: a sweeping
-// line isn't reacted to, its coming is foreseen. Theirs, too: errors of presses that have to fall
-// into a stretch of time, from their scatter (Lee and Oulasvirta 2016, on moving targets), and
-// scanning by one bar after the other (MacKenzie, on two-bar scanning).
-// Derived here: the normal scatter about a constant lateness for a line of constant speed, the
-// product of the two axes, the bounds and the two times. No number below is from those papers.
+// LoPresti 2007), and the adjusting of scanning settings (Koester and Simpson 2014). Both are about
+// scans that step from item to item, and neither is used: a sweeping line isn't reacted to, its
+// coming is foreseen. Lee and Oulasvirta's subject is moving targets, MacKenzie's scanning by two
+// bars: akin to a line, and to a pointer after it. No number and no formula below is from any of
+// them.
+// Derived here: a normal scatter about a constant lateness, for a line of constant speed; that two
+// axes multiply, as if their presses had nothing to do with each other; the bounds and both times.
 
 namespace {
 
@@ -29,6 +29,22 @@ double rateAtSpeed(double speed, double width, const Timing& timing) {
     const double spread = speed * std::max(timing.spread, kFinestSpread);
     const double middle = speed * timing.lateness;
     return normalShare((width / 2 - middle) / spread) - normalShare((-width / 2 - middle) / spread);
+}
+
+/// The pair with the least of what `costOf` gives, among those that reach the rate.
+template <class Cost>
+std::optional<Click> best(RatedTimes lines, RatedTimes pointers, double rate, Cost costOf) {
+    std::optional<Click> found;
+    double least = std::numeric_limits<double>::infinity();
+    for (const RatedTime& line : lines)
+        for (const RatedTime& pointer : pointers) {
+            const Click click = {line, pointer};
+            if (click.rate() < rate || costOf(click) >= least)
+                continue;
+            found = click;
+            least = costOf(click);
+        }
+    return found;
 }
 
 } // namespace
@@ -69,42 +85,43 @@ double SettingRange::roundUp(double value) const {
     return std::clamp(std::ceil(value / step - 1e-6) * step, min, max);
 }
 
-double timePerHit(const Sweep& sweep, double width, const Timing& timing, double delay) {
-    const double rate = hitRate(sweep, width, timing);
+double timePerHit(const Click& click, const Waits& waits) {
+    const double rate = click.rate();
     if (rate <= 0)
         return std::numeric_limits<double>::infinity();
-    return (delay + sweep.time / 2 + (1 - rate) * kCostOfMiss) / rate;
+    return (waits.delay + click.time() / 2 + (1 - rate) * waits.miss) / rate;
 }
 
-std::optional<double> surestTime(Sweep sweep, double width, const Timing& timing,
-                                 const SettingRange& range) {
+std::vector<RatedTime> ratedTimes(Sweep sweep, double width, const Timing& timing,
+                                  const SettingRange& range) {
+    std::vector<RatedTime> times;
     for (sweep.time = range.min; sweep.time <= range.max; sweep.time += range.step)
-        if (hitRate(sweep, width, timing) >= kSurestRate)
-            return sweep.time;
-    return {};
+        times.push_back({sweep.time, hitRate(sweep, width, timing)});
+    return times;
 }
 
-std::optional<double> quickestTime(Sweep sweep, double width, const Timing& timing, double delay,
-                                   const SettingRange& range) {
-    std::optional<double> best;
-    double least = std::numeric_limits<double>::infinity();
-    for (sweep.time = range.min; sweep.time <= range.max; sweep.time += range.step) {
-        const double cost = timePerHit(sweep, width, timing, delay);
-        if (hitRate(sweep, width, timing) >= kQuickestRate && cost < least) {
-            best = sweep.time;
-            least = cost;
-        }
-    }
-    return best;
+std::optional<Click> surestTimes(RatedTimes line, RatedTimes pointer) {
+    return best(line, pointer, kSurestRate, [](const Click& click) { return click.time(); });
 }
 
-double neededWidth(const Sweep& sweep, const Timing& timing, double rate) {
+std::optional<Click> quickestTimes(RatedTimes line, RatedTimes pointer, const Waits& waits) {
+    return best(line, pointer, kQuickestRate,
+                [&](const Click& click) { return timePerHit(click, waits); });
+}
+
+double neededEnlargement(std::span<const Axis> axes, const Timing& timing, double rate) {
+    const auto isEnough = [&](double times) {
+        double all = 1;
+        for (const Axis& axis : axes)
+            all *= hitRate(axis.sweep, axis.width * times, timing);
+        return all >= rate;
+    };
     double low = 0, high = 1;
-    while (hitRate(sweep, high, timing) < rate)
+    while (!isEnough(high))
         high *= 2;
     for (int step = 0; step < 50; ++step) {
         const double middle = (low + high) / 2;
-        (hitRate(sweep, middle, timing) < rate ? low : high) = middle;
+        (isEnough(middle) ? high : low) = middle;
     }
     return high;
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <optional>
+#include <span>
+#include <vector>
 
 /// How often a line that sweeps at a constant pace, or speeds up, is stopped on a target. Lengths
 /// are in one unit, whichever, and times in seconds.
@@ -32,8 +34,7 @@ struct Timing {
 constexpr double kFinestSpread = 0.005;
 
 /// The share of presses, 0 to 1, that stop the line on a target of this width in the line's
-/// direction; the mean over all places when the line speeds up. A line and a pointer that follows
-/// it hit with the product of both.
+/// direction; the mean over all places when the line speeds up.
 double hitRate(const Sweep& sweep, double width, const Timing& timing);
 
 /// The values that a setting can have.
@@ -44,26 +45,62 @@ struct SettingRange {
     double roundUp(double value) const;
 };
 
+/// A time for a sweep, in seconds, and the share of presses that hit then.
+struct RatedTime {
+    double time = 0;
+    double rate = 1;
+};
+
+/// What one click takes: a press for the line, then one for the pointer along it. Without a pointer
+/// its time is 0, and it never misses.
+struct Click {
+    RatedTime line, pointer;
+
+    /// Two axes multiply.
+    double rate() const { return line.rate * pointer.rate; }
+
+    double time() const { return line.time + pointer.time; }
+};
+
 /// What a miss costs unless it was measured: the time until the next scan can start.
 constexpr double kCostOfMiss = 5;
 
-/// The time that a hit takes on average, with the wait before each scan and the misses on the way.
-/// (D + T/2 + (1 - P) c) / P; infinite when nothing is hit.
-double timePerHit(const Sweep& sweep, double width, const Timing& timing, double delay);
+/// What there is to wait for besides the sweeps, in seconds.
+struct Waits {
+    double delay = 0; ///< before the line sets off
+    double miss = kCostOfMiss;
+};
+
+/// The time that a hit takes on average, with the wait before each scan and the misses on the way:
+/// (D + T/2 + (1 - P) c) / P, where T is the time of both sweeps; infinite when nothing is hit.
+double timePerHit(const Click& click, const Waits& waits);
+
+/// Every time of the range for the sweep, from the shortest on.
+std::vector<RatedTime> ratedTimes(Sweep sweep, double width, const Timing& timing,
+                                  const SettingRange& range);
 
 constexpr double kSurestRate = 0.9;
 constexpr double kQuickestRate = 0.75;
 
-/// The shortest time for the sweep that reaches kSurestRate; none when the longest doesn't.
-std::optional<double> surestTime(Sweep sweep, double width, const Timing& timing,
-                                 const SettingRange& range);
+using RatedTimes = std::span<const RatedTime>;
 
-/// The time with the least time for a hit, among those that reach kQuickestRate; none when the
-/// longest doesn't.
-std::optional<double> quickestTime(Sweep sweep, double width, const Timing& timing, double delay,
-                                   const SettingRange& range);
+/// For a line without a pointer.
+inline constexpr RatedTime kNoPointer[] = {{}};
 
-/// How wide a target must be to be hit at `rate`.
-double neededWidth(const Sweep& sweep, const Timing& timing, double rate);
+/// Of these the two times with the shortest sweeps that reach kSurestRate together; none when none
+/// do.
+std::optional<Click> surestTimes(RatedTimes line, RatedTimes pointer);
+
+/// The two with the least time for a hit, among those that reach kQuickestRate together.
+std::optional<Click> quickestTimes(RatedTimes line, RatedTimes pointer, const Waits& waits);
+
+/// What has to be hit, by what.
+struct Axis {
+    Sweep sweep;
+    double width; ///< of the target in the sweep's direction
+};
+
+/// How many times as wide all targets must be to be hit at `rate` by presses for each axis.
+double neededEnlargement(std::span<const Axis> axes, const Timing& timing, double rate);
 
 } // namespace tryout

@@ -121,8 +121,10 @@ void Session::count(double moment) {
 }
 
 void Session::start(double moment) {
-    if (isAwaitingReady_ && !measured_.trials.empty())
+    if (isAwaitingReady_ && !measured_.trials.empty()) {
         measured_.trials.back().ready = pressed_ - released_;
+        measured_.trials.back().next = pressed_ - stopped_;
+    }
     isAwaitingReady_ = false;
     started_ = moment + delay_;
     phase_ = Phase::Delay;

@@ -5,30 +5,32 @@
 
 namespace tryout {
 
-std::vector<Suggestion> suggestionsOf(const Advice& advice, const Steadiness& steadiness,
-                                      const PrefsRecord& record) {
+std::optional<Suggestion> suggestionOf(const Advice& advice, const Steadiness& steadiness,
+                                       const PrefsRecord& record) {
     constexpr double kDifference = 1e-6; ///< of values that are the same
+
+    if (advice.verdict == Verdict::Change || advice.verdict == Verdict::TryAgain)
+        return {};
 
     const struct {
         const Setting& setting;
         std::optional<double> value;
         bool mayBeLess;
     } rows[] = {
+        {settingAt(offsetof(PrefsRecord, pointerScanTime)), advice.pointerTime, true},
         {settingAt(offsetof(PrefsRecord, afterClickDelay)), steadiness.afterClickDelay, false},
         {settingAt(offsetof(PrefsRecord, minTriggerDuration)), steadiness.minTriggerDuration,
          false},
         {settingAt(offsetof(PrefsRecord, preScanDelay)), steadiness.preScanDelay, false},
-        {settingAt(offsetof(PrefsRecord, pointerScanTime)), advice.pointerTime, true},
     };
 
-    std::vector<Suggestion> suggestions;
     for (const auto& [setting, value, mayBeLess] : rows) {
         const double change = value.value_or(0) - settingNumber(setting, record);
         if (value && *value <= setting.limits.maximum &&
             (change > kDifference || (mayBeLess && change < -kDifference)))
-            suggestions.push_back({&setting, *value});
+            return Suggestion{&setting, *value};
     }
-    return suggestions;
+    return {};
 }
 
 } // namespace tryout

@@ -5,7 +5,7 @@
 #include "src/tryout/advice.h"
 #include "src/tryout/steadiness.h"
 
-#include <vector>
+#include <optional>
 
 namespace tryout {
 
@@ -15,9 +15,10 @@ struct Suggestion {
     double value;
 };
 
-/// What a try suggests besides the line's time. Waits and filters are only made longer, and none is
-/// suggested that can't be set: such a long one was a rest.
-std::vector<Suggestion> suggestionsOf(const Advice& advice, const Steadiness& steadiness,
-                                      const PrefsRecord& record);
+/// What a try suggests besides the line's time, the most valuable: one change at a time, and none
+/// beside one of the line. Waits and filters are only made longer, and none is suggested that can't
+/// be set: such a long one was a rest.
+std::optional<Suggestion> suggestionOf(const Advice& advice, const Steadiness& steadiness,
+                                       const PrefsRecord& record);
 
 } // namespace tryout

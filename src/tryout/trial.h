@@ -15,6 +15,7 @@ struct Trial {
     double miss = 0;      ///< of the stopped line's centre from the mark; negative: short of it
     double hold = 0;      ///< how long the key was down; 0: not known
     double ready = 0;     ///< from its release to the next press that was asked for; 0: none came
+    double next = 0;      ///< from the stop of the line to that press
 };
 
 /// A press that nothing asked for, soon after one that counted.
@@ -23,13 +24,18 @@ struct ExtraPress {
     double hold = 0; ///< how long it lasted
 };
 
+/// Of the tries just before, by the same user with the same trigger: they tell of the user, too.
+struct Earlier {
+    std::vector<double> offsets;
+    std::vector<double> costs;  ///< of each miss: until the next scan was started
+    std::vector<double> speeds; ///< of the line, on the whole way; mm/s
+};
+
 /// The twelve sweeps of a try, as far as the user went; the first two, free, aren't in it.
 struct Measured {
     std::vector<Trial> trials;
     std::vector<ExtraPress> extras;
-    /// Of the tries just before, by the same user with the same trigger: they tell of the user's
-    /// timing as well.
-    std::vector<double> earlierOffsets;
+    Earlier earlier = {};
 };
 
 } // namespace tryout

@@ -3,6 +3,7 @@
 
 #include "platform/CoreFoundation/Localization.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdarg>
 #include <cstdio>
@@ -89,34 +90,27 @@ std::string evenText(const Advice& advice) {
         "Try", "Your presses all came at the same moment, as far as this computer can tell. ");
 }
 
-std::string keepText(const Advice& advice) {
-    const int expected = tenths(advice.expected), promised = tenths(advice.promised);
-    if (expected <= promised)
-        return format(LOCALIZABLE("Try", "%.1f seconds suits you: we expect at least %d in 10."),
-                      advice.time, promised);
-    return format(
-        LOCALIZABLE("Try", "%.1f seconds suits you: we expect %d in 10, and at least %d."),
-        advice.time, expected, promised);
-}
-
-std::string changeText(const Advice& advice) {
-    const int expected = tenths(advice.expected), promised = tenths(advice.promised);
-    if (expected <= promised)
-        return format(LOCALIZABLE("Try", "At %.1f seconds we expect at least %d in 10."),
-                      advice.time, promised);
-    return format(LOCALIZABLE("Try", "At %.1f seconds we expect %d in 10, and at least %d."),
-                  advice.time, expected, promised);
+std::string lineText(const Advice& advice) {
+    return format(advice.verdict == Verdict::Keep
+                      ? LOCALIZABLE("Try", "%.1f seconds suits you: we expect %d in 10.")
+                      : LOCALIZABLE("Try", "At %.1f seconds we expect %d in 10."),
+                  advice.time, tenths(std::max(advice.expected, advice.promised)));
 }
 
 /// What becomes of it with the pointer after the line.
-std::string bothText(const Advice& advice, const Conditions& tried) {
-    if (!tried.pointer)
+std::string clicksText(const Advice& advice, const Conditions& tried) {
+    if (!advice.pointerTime)
         return {};
+    const int promised = tenths(advice.clicksPromised);
+    const int expected = std::max(tenths(advice.clicks), promised);
+    if (*advice.pointerTime == tried.pointer->time)
+        return format(LOCALIZABLE("Try", " With the pointer after it, at %.1f seconds, we expect "
+                                         "%d clicks in 10 to hit, and at least %d."),
+                      *advice.pointerTime, expected, promised);
     return format(
-        LOCALIZABLE(
-            "Try",
-            " With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit."),
-        tried.pointer->time, tenths(advice.both));
+        LOCALIZABLE("Try", " With the pointer after it, at %.1f seconds instead of %.1f, we expect "
+                           "%d clicks in 10 to hit, and at least %d."),
+        *advice.pointerTime, tried.pointer->time, expected, promised);
 }
 
 std::string tryAgainText(const Advice& advice, const Conditions& tried) {
@@ -129,12 +123,20 @@ std::string tryAgainText(const Advice& advice, const Conditions& tried) {
 }
 
 std::string outOfReachText(const Advice& advice, const Conditions& tried) {
+    const double target = std::ceil(tried.target * advice.enlargement);
+    // Rates depend on the target's size and the way by their quotient alone.
+    const double height = std::floor(tried.sweep.travel / advice.enlargement);
+    if (!tried.pointer)
+        return format(
+            LOCALIZABLE("Try",
+                        "Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f "
+                        "mm wide would make it so, or a scan area only %.0f mm across."),
+            tried.times.max, target, height);
     return format(
-        LOCALIZABLE(
-            "Try",
-            "Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f mm wide "
-            "would make it so, or a scan area only %.0f mm across."),
-        tried.times.max, std::ceil(advice.neededTarget), std::floor(advice.neededTravel));
+        LOCALIZABLE("Try",
+                    "Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. "
+                    "Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm."),
+        tried.times.max, target, std::floor(tried.pointer->travel / advice.enlargement), height);
 }
 
 std::string tooFewText(const Advice& advice, const Measured& measured) {
@@ -178,6 +180,15 @@ std::string steadinessText(const Steadiness& steadiness) {
     return text;
 }
 
+std::string surestText(const Click& click) {
+    if (click.pointer.time <= 0)
+        return format(LOCALIZABLE("Try", " %d in 10 takes %.1f seconds."), tenths(kSurestRate),
+                      click.line.time);
+    return format(LOCALIZABLE("Try", " %d clicks in 10 to hit takes %.1f seconds for the line and "
+                                     "%.1f for the pointer."),
+                  tenths(kSurestRate), click.line.time, click.pointer.time);
+}
+
 /// Of as many presses as any advice takes.
 std::string numbersText(const Advice& advice) {
     if (advice.presses < kFewestTrials)
@@ -186,9 +197,11 @@ std::string numbersText(const Advice& advice) {
         LOCALIZABLE("Try", "Lateness %.0f ms, spread %.0f ms (%.0f ms at most), from %d presses."),
         advice.timing.lateness * 1000, advice.timing.spread * 1000, advice.cautious.spread * 1000,
         advice.presses);
+    if (advice.costOfMiss)
+        text += format(LOCALIZABLE("Try", " After a miss it took %.1f seconds to go on."),
+                       *advice.costOfMiss);
     if (advice.surest)
-        text += format(LOCALIZABLE("Try", " %d in 10 takes %.1f seconds."), tenths(kSurestRate),
-                       *advice.surest);
+        text += surestText(*advice.surest);
     return text;
 }
 
@@ -214,9 +227,8 @@ std::string verdictText(const Advice& advice, const Conditions& tried, const Mea
                          "The presses became less even from sweep to sweep. Have a rest, then try "
                          "once more.");
     case Verdict::Keep:
-        return hits + keepText(advice) + bothText(advice, tried);
     case Verdict::Change:
-        return hits + changeText(advice) + bothText(advice, tried);
+        return hits + lineText(advice) + clicksText(advice, tried);
     case Verdict::TryAgain:
         return hits + tryAgainText(advice, tried);
     case Verdict::OutOfReach:
@@ -234,6 +246,11 @@ std::string resultText(const Advice& advice, const Conditions& tried, const Meas
                ? text
                : text + localized("Try", " That is for a line that sweeps; as you have set it, it "
                                          "moves one step a press.");
+}
+
+std::string sharedKeysText() {
+    return localized("Try", " On this desktop no window can keep keys for itself, so your switch "
+                            "may scan as well meanwhile.");
 }
 
 std::string restText() {

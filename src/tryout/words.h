@@ -21,6 +21,9 @@ std::string detailsText(const Advice& advice, const Steadiness& steadiness);
 /// What to do now, or what just happened.
 std::string courseText(const Session& session, const Trigger& trigger);
 
+/// Before the first sweep, where the keys can't be kept from the agent and the desktop.
+std::string sharedKeysText();
+
 /// After a long time without a press.
 std::string restText();
 
