@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/detail/HeldKeys.h"
 
+#include "platform/HIToolbox/EventTimers.h"
+#include "platform/HIToolbox/detail/EventMoment.h"
+
 #include <QGuiApplication>
 #include <QKeyEvent>
 
@@ -34,6 +37,7 @@ std::bitset<kKeyCount> keysDown() {
 
 void HeldKeys::reset() {
     since_.clear();
+    resetAt_ = GetCurrentEventTime();
     const auto down = keysDown();
     for (quint32 key = 0; key < kKeyCount; ++key)
         if (down[key])
@@ -46,6 +50,9 @@ bool HeldKeys::isRepeat(const QKeyEvent& press) {
     if (press.timestamp() == 0)
         return press.isAutoRepeat();
     const auto [key, isNew] = since_.try_emplace(press.nativeScanCode(), press.timestamp());
+    const bool wasUnderWay = key->second == kBefore && momentOf(press.timestamp()) <= resetAt_;
+    if (wasUnderWay)
+        key->second = press.timestamp();
     return press.isAutoRepeat() || (!isNew && key->second != press.timestamp());
 }
 

@@ -12,7 +12,8 @@ class QKeyEvent;
 /// are down. On other platforms Qt's word is taken.
 class HeldKeys {
 public:
-    /// Starts anew with what is down at this moment.
+    /// Starts anew with what is down at this moment. A press that is still to be handled then is
+    /// none of them.
     void reset();
 
     /// Takes in a press; true when the key was down already. Asked again of the same press it
@@ -28,4 +29,5 @@ public:
 
 private:
     std::map<quint32, quint64> since_; ///< the time stamp of each key's press
+    double resetAt_ = 0;               ///< on GetCurrentEventTime's clock
 };
