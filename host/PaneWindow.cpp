@@ -2,6 +2,7 @@
 #include "host/PaneWindow.h"
 
 #include "host/Strip.h"
+#include "platform/AppKit/detail/SectionFrame.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
@@ -31,7 +32,10 @@ void PaneWindow::open() {
     create();
     // Left around the window for its frame, which isn't known before it is shown.
     constexpr QSize kFrame(16, 48);
-    const QSize needed = pane_->sizeHint(); // now that all that it shows is there
+    for (auto* part : pane_->findChildren<QWidget*>())
+        if (auto* sections = dynamic_cast<SectionFrame*>(part))
+            sections->measure(); // now that all that it shows is there
+    const QSize needed = pane_->sizeHint();
     resize(formSize_.expandedTo(needed).boundedTo(screen()->availableSize() - kFrame));
     windowHandle()->installEventFilter(this);
     show();

@@ -8,8 +8,7 @@
 
 namespace {
 
-constexpr int kMostWidth = 780;  // points, as all here: of a column
-constexpr int kLeastWidth = 700; // where there are two
+constexpr int kLeastWidth = 700; // points, of a column where there are two
 
 int heightOf(const QLayoutItem& item, int width) {
     return item.hasHeightForWidth() ? item.heightForWidth(width) : item.sizeHint().height();
@@ -51,7 +50,7 @@ public:
     QSize sizeIn(int columns) const {
         const QMargins around = contentsMargins();
         const int width =
-            columns * kMostWidth + (columns - 1) * spacing() + around.left() + around.right();
+            columns * kColumnWidth + (columns - 1) * spacing() + around.left() + around.right();
         return {width, heightForWidth(width)};
     }
 
@@ -80,8 +79,8 @@ private:
         const int room = width - contentsMargins().left() - contentsMargins().right();
         const int half = (room - spacing()) / 2;
         if (half < kLeastWidth || count() < 2)
-            return {std::min(room, kMostWidth), count()};
-        Columns best{std::min(half, kMostWidth), 1};
+            return {std::min(room, kColumnWidth), count()};
+        Columns best{std::min(half, kColumnWidth), 1};
         int least = INT_MAX;
         for (int end = 1; end < count(); ++end) {
             const auto [left, right] = heightsOf({best.width, end});

@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+constexpr int kColumnWidth = 780; ///< points, at most
+
 /// The cards of a page, as the form's vertical layout has them: one below the other, in the middle
 /// of the page, or where there is room in two columns, the second going on where the first ends.
 class CardColumns final : public QWidget, public FormPart {

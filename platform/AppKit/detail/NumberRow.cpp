@@ -93,7 +93,7 @@ void NumberRow::build() {
     if (hasSlider)
         text.caption->setProperty("outlet", QStringLiteral("title"));
     text.caption->setBuddy(field);
-    new RowLayout(this, text.layout(), controls, putBack, rowIndent(*this));
+    new RowLayout(this, text, controls, putBack, rowIndent(*this));
 }
 
 void NumberRow::setCompact(bool compact) {

@@ -51,20 +51,20 @@ public:
     }
 
     void build() override {
+        isBuilt_ = true;
         if (!isInRow(*this))
             putBack_ = new PutBackButton(this);
     }
 
     QSize sizeHint() const override {
-        const int width = look().widthHint();
-        return {width, look().heightForWidth(width)};
-    }
-
-    QSize minimumSizeHint() const override {
         return {isInRow(*this) ? look().widthHint() : panestyle::kTarget, panestyle::kTarget};
     }
 
-    int heightForWidth(int width) const override { return look().heightForWidth(width); }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+    int heightForWidth(int width) const override {
+        return isBuilt_ ? look().heightForWidth(width) : panestyle::kTarget;
+    }
 
     void setCompact(bool compact) override {
         isCompact_ = compact;
@@ -97,6 +97,7 @@ private:
 
     PutBackButton* putBack_ = nullptr; ///< null for none
     bool isCompact_ = false;
+    bool isBuilt_ = false; ///< or the form is being read, and nothing need be measured
 };
 
 using CheckRow = OptionRow<QCheckBox>;

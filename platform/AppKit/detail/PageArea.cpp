@@ -2,12 +2,12 @@
 #include "platform/AppKit/detail/PageArea.h"
 
 #include <QApplication>
-#include <QLayout>
 #include <QScrollBar>
 
 namespace {
 
-constexpr int kAround = 30; // points that stay in sight above and below
+constexpr int kAround = 30;     // points that stay in sight above and below
+constexpr QSize kUsual(36, 24); // in heights of a line
 
 } // namespace
 
@@ -24,15 +24,16 @@ PageArea::PageArea(QWidget* parent) : QScrollArea(parent) {
     });
 }
 
+QSize PageArea::sizeHint() const {
+    return fontMetrics().height() * kUsual;
+}
+
 QSize PageArea::minimumSizeHint() const {
-    // A page that isn't shown doesn't hear that its parts have become narrower, or have gone.
-    if (widget() && !isVisible()) {
-        const auto parts = widget()->findChildren<QWidget*>();
-        for (auto part = parts.rbegin(); part != parts.rend(); ++part)
-            if ((*part)->layout())
-                (*part)->layout()->activate();
-        widget()->layout()->activate();
-    }
-    const int width = widget() ? widget()->minimumSizeHint().width() : 0;
+    const int width = widget() && !isHidden() ? widget()->minimumSizeHint().width() : 0;
     return {width + verticalScrollBar()->sizeHint().width(), 100};
+}
+
+void PageArea::hideEvent(QHideEvent* event) {
+    QScrollArea::hideEvent(event);
+    updateGeometry();
 }

@@ -9,5 +9,11 @@ class PageArea final : public QScrollArea {
 public:
     explicit PageArea(QWidget* parent);
 
+    /// Says nothing of the contents, which scroll.
+    QSize sizeHint() const override;
+    /// As wide as the contents are at least, while the page is the one that is shown.
     QSize minimumSizeHint() const override;
+
+protected:
+    void hideEvent(QHideEvent* event) override;
 };

@@ -42,6 +42,36 @@ QColor standingOut(const QColor& from, const QColor& to, std::initializer_list<Q
     return to;
 }
 
+/// What a palette is asked for.
+struct Given {
+    QColor ground, card, text, highlight;
+
+    bool operator==(const Given&) const = default;
+};
+
+PaneColors derive(const Given& given) {
+    PaneColors its;
+    const auto& [ground, card, givenText, highlight] = given;
+    its.ground = ground;
+    its.card = card;
+    const bool isDark = luminance(ground) < 0.18; // where black and white stand out alike
+    const QColor farthest = isDark ? Qt::white : Qt::black;
+    const QColor text = its.text = standingOut(givenText, farthest, {ground, card}, kReadable);
+    its.buttonFace = blend(card, text, 0.03F);
+    its.pressed = blend(card, text, 0.15F);
+    its.cardLine = blend(ground, text, 0.18F);
+    const std::initializer_list<QColor> grounds = {ground, card, its.buttonFace};
+    its.quietText = standingOut(blend(ground, text, 0.6F), text, grounds, kReadable);
+    its.disabledText = standingOut(ground, text, grounds, kVisible);
+    its.mark = standingOut(blend(ground, text, 0.3F), text, grounds, kVisible);
+    its.accent = standingOut(highlight, farthest, {ground, card}, kReadable);
+    const bool cardIsFarther =
+        contrastBetween(its.accent, card) >= contrastBetween(its.accent, ground);
+    its.onAccent = cardIsFarther ? card : ground;
+    its.chosen = blend(card, its.accent, isDark ? 0.1F : 0.12F);
+    return its;
+}
+
 } // namespace
 
 double contrastBetween(const QColor& a, const QColor& b) {
@@ -50,20 +80,16 @@ double contrastBetween(const QColor& a, const QColor& b) {
 }
 
 PaneColors::PaneColors(const QPalette& palette) {
-    ground = palette.color(QPalette::Active, QPalette::Window);
-    card = palette.color(QPalette::Active, QPalette::Base);
-    const QColor given = palette.color(QPalette::Active, QPalette::WindowText);
-    const bool isDark = luminance(ground) < 0.18; // where black and white stand out alike
-    const QColor farthest = isDark ? Qt::white : Qt::black;
-    text = standingOut(given, farthest, {ground, card}, kReadable);
-    buttonFace = blend(card, text, 0.03F);
-    pressed = blend(card, text, 0.15F);
-    cardLine = blend(ground, text, 0.18F);
-    quietText = standingOut(blend(ground, text, 0.6F), text, {ground, card, buttonFace}, kReadable);
-    disabledText = standingOut(ground, text, {ground, card, buttonFace}, kVisible);
-    mark = standingOut(blend(ground, text, 0.3F), text, {ground, card, buttonFace}, kVisible);
-    const QColor highlight = palette.color(QPalette::Active, QPalette::Highlight);
-    accent = standingOut(highlight, farthest, {ground, card}, kReadable);
-    onAccent = contrastBetween(accent, card) >= contrastBetween(accent, ground) ? card : ground;
-    chosen = blend(card, accent, isDark ? 0.1F : 0.12F);
+    static Given last;
+    static PaneColors derived;
+    const auto color = [&](QPalette::ColorRole role) {
+        return palette.color(QPalette::Active, role);
+    };
+    const Given given{color(QPalette::Window), color(QPalette::Base), color(QPalette::WindowText),
+                      color(QPalette::Highlight)};
+    if (given != last) {
+        last = given;
+        derived = derive(given);
+    }
+    *this = derived;
 }

@@ -9,8 +9,9 @@ class QPalette;
 double contrastBetween(const QColor& a, const QColor& b);
 
 /// The pane's colours, derived from the desktop's palette so that they can be told apart in every
-/// one: light, dark or of high contrast.
+/// one: light, dark or of high contrast. Those of the palette that was asked for last are kept.
 struct PaneColors {
+    PaneColors() = default;
     explicit PaneColors(const QPalette& palette);
 
     QColor ground;    ///< of the window

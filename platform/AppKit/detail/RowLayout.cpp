@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/RowLayout.h"
 
+#include "platform/AppKit/detail/CardColumns.h"
 #include "platform/AppKit/detail/PutBackButton.h"
 
+#include <QLabel>
 #include <QStyle>
 
 #include <algorithm>
@@ -15,8 +17,12 @@ constexpr int kNarrow = 500;
 constexpr int kAbove = 9;
 constexpr int kGap = 16;         // between text and controls side by side
 constexpr int kGapBeneath = 6;   // and one above the other
+constexpr int kLineGap = 2;      // between caption and explanation
 constexpr int kTextColumn = 13;  // in heights of a line, the least width of a text beside controls
 constexpr int kLeastHeight = 44; // of what a row shows
+constexpr int kCardLine = 1;     // at either side
+
+enum { kPutBack, kControls, kCaption }; // and the explanation, if there is one
 
 int heightFor(const QLayoutItem& item, int width) {
     return item.hasHeightForWidth() ? item.heightForWidth(width) : item.sizeHint().height();
@@ -24,18 +30,21 @@ int heightFor(const QLayoutItem& item, int width) {
 
 } // namespace
 
-RowLayout::RowLayout(QWidget* row, QLayout* text, QLayout* controls, QWidget* putBack, int indent)
+RowLayout::RowLayout(QWidget* row, const RowText& text, QLayout* controls, QWidget* putBack,
+                     int indent)
     : QLayout(row), indent_(indent) {
     setContentsMargins(0, 0, 0, 0);
-    for (QLayout* layout : {text, controls}) {
-        addChildLayout(layout);
-        items_ << layout;
-    }
     addWidget(putBack);
+    addChildLayout(controls);
+    items_ << controls;
+    addWidget(text.caption);
+    if (text.explanation)
+        addWidget(text.explanation);
 }
 
 RowLayout::~RowLayout() {
-    qDeleteAll(items_);
+    while (const QLayoutItem* item = takeAt(0)) // a layout takes itself away
+        delete item;
 }
 
 void RowLayout::addItem(QLayoutItem* item) {
@@ -68,18 +77,31 @@ QRect RowLayout::takePlace(QRect& part) {
     return button;
 }
 
+/// The least width of a text beside controls.
+int RowLayout::textColumn() const {
+    return kTextColumn * parentWidget()->fontMetrics().height();
+}
+
+/// Of the labels one above the other.
+int RowLayout::textHeight(int width) const {
+    int height = -kLineGap;
+    for (int label = kCaption; label < count(); ++label)
+        if (!items_[label]->isEmpty())
+            height += heightFor(*items_[label], width) + kLineGap;
+    return height;
+}
+
 RowLayout::Places RowLayout::places(const QRect& rect) const {
     constexpr int kRoom = PutBackButton::kRoom;
     const QRect room = rect.marginsRemoved(margins(rect.width()));
-    const QLayoutItem& controls = *items_[1];
-    const int column = kTextColumn * parentWidget()->fontMetrics().height() + kRoom;
-    const int beside = room.width() - kGap - column;
+    const QLayoutItem& controls = *items_[kControls];
+    const int beside = room.width() - kGap - textColumn() - kRoom;
     if (beside < controls.minimumSize().width())
         return placesBeneath(room);
     const int width = std::min(beside, controls.sizeHint().width());
     const int left = room.width() - kGap - width;
     const int height =
-        std::max({heightFor(*items_[0], left - kRoom), heightFor(controls, width), kLeastHeight});
+        std::max({textHeight(left - kRoom), heightFor(controls, width), kLeastHeight});
     const int shown = std::max(height, room.height());
     Places where{.text = {room.x(), room.y(), left, shown},
                  .controls = {room.x() + left + kGap, room.y(), width, shown},
@@ -90,10 +112,10 @@ RowLayout::Places RowLayout::places(const QRect& rect) const {
 
 RowLayout::Places RowLayout::placesBeneath(const QRect& room) const {
     constexpr int kRoom = PutBackButton::kRoom;
-    const QLayoutItem& controls = *items_[1];
+    const QLayoutItem& controls = *items_[kControls];
     const bool isWide = room.width() >= controls.minimumSize().width() + kRoom;
-    const int above = isWide ? heightFor(*items_[0], room.width())
-                             : std::max(heightFor(*items_[0], room.width() - kRoom), kLeastHeight);
+    const int above = isWide ? textHeight(room.width())
+                             : std::max(textHeight(room.width() - kRoom), kLeastHeight);
     const int beneath = heightFor(controls, room.width() - (isWide ? kRoom : 0));
     Places where{.text = {room.x(), room.y(), room.width(), above},
                  .controls = {room.x(), room.y() + above + kGapBeneath, room.width(), beneath},
@@ -102,15 +124,15 @@ RowLayout::Places RowLayout::placesBeneath(const QRect& room) const {
     return where;
 }
 
+// The width that it has in a wide window: its labels needn't be measured for another one.
 QSize RowLayout::sizeHint() const {
-    const int width = items_[0]->sizeHint().width() + kGap + items_[1]->sizeHint().width() +
-                      2 * kSide + PutBackButton::kRoom + indent_;
-    return {width, heightForWidth(width)};
+    return {kColumnWidth - 2 * kCardLine, kLeastHeight};
 }
 
 QSize RowLayout::minimumSize() const {
     const QMargins around = margins(0);
-    return {items_[1]->minimumSize().width() + around.left() + around.right(), kLeastHeight};
+    return {items_[kControls]->minimumSize().width() + around.left() + around.right(),
+            kLeastHeight};
 }
 
 bool RowLayout::hasHeightForWidth() const {
@@ -128,9 +150,18 @@ void RowLayout::setGeometry(const QRect& rect) {
         items_[item]->setGeometry(
             QStyle::visualRect(parentWidget()->layoutDirection(), rect, place));
     };
-    put(0, where.text);
-    put(1, where.controls);
-    put(2, where.putBack);
+    put(kPutBack, where.putBack);
+    put(kControls, where.controls);
+    const int width = where.text.width();
+    int y = where.text.y() + (where.text.height() - textHeight(width)) / 2;
+    for (int label = kCaption; label < count(); ++label) {
+        const int height = heightFor(*items_[label], width);
+        const QRect place(where.text.x(), y, width, height);
+        // Through its item it would be measured for other widths as well.
+        items_[label]->widget()->setGeometry(
+            QStyle::visualRect(parentWidget()->layoutDirection(), rect, place));
+        y += height + kLineGap;
+    }
 }
 
 Qt::Orientations RowLayout::expandingDirections() const {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/AppKit/detail/RowText.h"
+
 #include <QLayout>
 
 /// The layout of a row: its text at the left and its controls at the right or, where that would
@@ -8,9 +10,9 @@
 /// its place at the right of the text or, beneath it, of the controls.
 class RowLayout final : public QLayout {
 public:
-    /// Owns both layouts; the button is the row's. `indent`: from the row's left edge to its text,
-    /// in points, besides the margin.
-    RowLayout(QWidget* row, QLayout* text, QLayout* controls, QWidget* putBack, int indent);
+    /// Owns `controls`; the text's labels and the button are the row's. `indent`: from the row's
+    /// left edge to its text, in points, besides the margin.
+    RowLayout(QWidget* row, const RowText& text, QLayout* controls, QWidget* putBack, int indent);
     ~RowLayout() override;
 
     void addItem(QLayoutItem* item) override;
@@ -34,7 +36,9 @@ private:
     Places placesBeneath(const QRect& room) const;
     static QRect takePlace(QRect& part);
     QMargins margins(int width) const;
+    int textColumn() const;
+    int textHeight(int width) const;
 
     int indent_;
-    QList<QLayoutItem*> items_; ///< the text, the controls, the button
+    QList<QLayoutItem*> items_; ///< the button, the controls, the one or two labels
 };

@@ -7,13 +7,11 @@
 #include <QLabel>
 #include <QPainter>
 #include <QRegularExpression>
-#include <QVBoxLayout>
 #include <QVariant>
 
 namespace {
 
 constexpr int kSubordinate = panestyle::kIndicator + 12; // points: under the text of a radio button
-constexpr int kLineGap = 2;
 
 QLabel* makeLabel(QWidget& row, const QString& text, const char* suffix) {
     auto* label = new QLabel(text, &row);
@@ -34,18 +32,6 @@ RowText::RowText(QWidget& row, const QString& captionText, const QString& explan
     explanation->setProperty("textColor", QStringLiteral("secondaryLabelColor"));
     // A screen reader that comes into a card reads out all of its labels that belong to nothing.
     explanation->setBuddy(&row);
-}
-
-QLayout* RowText::layout() const {
-    auto* lines = new QVBoxLayout;
-    lines->setContentsMargins(0, 0, 0, 0);
-    lines->setSpacing(kLineGap);
-    lines->addStretch();
-    lines->addWidget(caption);
-    if (explanation)
-        lines->addWidget(explanation);
-    lines->addStretch();
-    return lines;
 }
 
 void showExplanation(QWidget& row, QLabel* explanation, bool compact) {

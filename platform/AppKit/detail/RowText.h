@@ -2,7 +2,6 @@
 #pragma once
 
 class QLabel;
-class QLayout;
 class QString;
 class QWidget;
 
@@ -11,9 +10,6 @@ class QWidget;
 struct RowText {
     /// `caption` may hold a letter marked with “&”. An empty explanation makes no label.
     RowText(QWidget& row, const QString& caption, const QString& explanation);
-
-    /// Its labels one above the other. The caller owns the layout.
-    QLayout* layout() const;
 
     QLabel* caption;
     QLabel* explanation; ///< null for none

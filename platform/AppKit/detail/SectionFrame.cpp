@@ -44,16 +44,13 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
                         : nullptr;
 }
 
-/// Parts that were never shown don't tell the layouts around them that they need another size.
-void refreshSizes(const QWidget& pages) {
-    const auto parts = pages.findChildren<QWidget*>();
-    for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
-        (*part)->updateGeometry();
-        if (QLayout* layout = (*part)->layout()) {
-            layout->invalidate();
-            layout->activate();
-        }
-    }
+/// What isn't shown doesn't tell the layouts around it that it needs another size. Makes all inside
+/// the widget be asked anew.
+void forgetSizes(const QWidget& widget) {
+    for (auto* part : widget.findChildren<QWidget*>())
+        part->updateGeometry();
+    for (auto* layout : widget.findChildren<QLayout*>())
+        layout->invalidate();
 }
 
 } // namespace
@@ -90,7 +87,7 @@ void SectionFrame::build() {
     button_ = window()->findChild<QPushButton*>(property("menuButton").toString());
     addSections();
     addShortcuts();
-    setPageMargins(false); // for sizeHint
+    setPageMargins(false); // for measure
     showCurrent();
 }
 
@@ -98,27 +95,34 @@ void SectionFrame::build() {
 QSize SectionFrame::sizeIn(int columns) const {
     QSize size;
     for (int index = 0; index < pages_->count(); ++index) {
-        const auto* page = qobject_cast<const QScrollArea*>(pages_->widget(index));
-        const auto* cards = page ? dynamic_cast<const CardColumns*>(page->widget()) : nullptr;
+        const auto* cards = dynamic_cast<const CardColumns*>(page(index)->widget());
         if (!cards)
             continue;
         QSize needed = cards->sizeIn(columns);
         for (const QWidget* above : aboves_)
-            if (above->objectName() == page->property("above"))
+            if (above->objectName() == page(index)->property("above"))
                 needed.rheight() += above->minimumSizeHint().height();
         size = size.expandedTo(needed);
     }
     return size + QSize(bar_->sizeHint().width() + 2 * kListMargin, 0);
 }
 
-QSize SectionFrame::sizeHint() const {
-    if (!bar_)
-        return QWidget::sizeHint();
+void SectionFrame::measure() {
     const QSize room = screen()->availableSize() - QSize(kFrame, kFrame + kHeader);
-    if (!isVisible()) // where layouts go on asking
-        refreshSizes(*pages_);
-    const QSize one = sizeIn(1), two = sizeIn(2);
-    return one.height() > room.height() && two.width() <= room.width() ? two : one;
+    forgetSizes(*pages_);
+    measured_ = sizeIn(1);
+    if (measured_.height() > room.height())
+        if (const QSize two = sizeIn(2); two.width() <= room.width())
+            measured_ = two;
+    updateGeometry();
+}
+
+QSize SectionFrame::sizeHint() const {
+    return measured_.isValid() ? measured_ : QWidget::sizeHint();
+}
+
+QScrollArea* SectionFrame::page(int index) const {
+    return qobject_cast<QScrollArea*>(pages_->widget(index));
 }
 
 void SectionFrame::addSections() {
@@ -201,12 +205,16 @@ void SectionFrame::fitWindow() {
 void SectionFrame::setPageMargins(bool narrow) {
     const int aside = narrow ? kNarrowPageSide : kPageSide;
     const int above = narrow ? kNarrowPageSide : kPageAbove;
-    for (auto* part : findChildren<QWidget*>())
-        if (part->property("pagePart").toBool())
-            part->layout()->setContentsMargins(aside, above, aside, above);
+    QList<QWidget*> parts = aboves_;
+    for (int index = 0; index < pages_->count(); ++index)
+        parts << page(index)->widget();
+    for (QWidget* part : parts)
+        part->layout()->setContentsMargins(aside, above, aside, above);
 }
 
 void SectionFrame::setNarrow(bool narrow) {
+    if (narrow == isNarrow_)
+        return;
     isNarrow_ = narrow;
     const bool hadFocus = bar_->hasFocus() || (button_ && button_->hasFocus());
     bar_->setVisible(!narrow);

@@ -7,14 +7,15 @@
 
 class QMenu;
 class QPushButton;
+class QScrollArea;
 class QStackedWidget;
 class SectionBar;
 
-/// The window's sections: a list beside the stack of pages that the form lays out in it. A page's
-/// window title, with a letter marked by “&”, is its section's name, its accessible description
-/// says what the section holds, and its property `icon` names the section's icon. Parts of pages
-/// with the property `pagePart` get their margins here. A widget that the form has beside the stack
-/// stands above a page that names it in its property `above`.
+/// The window's sections: a list beside the stack of PageAreas that the form lays out in it. A
+/// page's window title, with a letter marked by “&”, is its section's name, its accessible
+/// description says what the section holds, and its property `icon` names the section's icon. A
+/// widget that the form has beside the stack stands above a page that names it in its property
+/// `above`. The pages' contents and what stands above them get their margins here.
 ///
 /// In a narrow or low window a button with a menu takes the list's place: the one that the property
 /// `menuButton` names. Then widgets whose property `wideOnly` is true vanish, and buttons beside it
@@ -30,7 +31,10 @@ public:
 
     void build() override;
 
-    /// Room for the whole of every section; in two columns if that spares scrolling on this screen.
+    /// From now on, `sizeHint` is room for the whole of every section as it is; in two columns if
+    /// that spares scrolling on this screen.
+    void measure();
+
     QSize sizeHint() const override;
 
 protected:
@@ -40,6 +44,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QScrollArea* page(int index) const;
     QSize sizeIn(int columns) const;
     void addSections();
     void addShortcuts();
@@ -57,6 +62,7 @@ private:
     SectionBar* bar_ = nullptr;
     QPushButton* button_ = nullptr; ///< the form's; null when it has none
     QMenu* menu_ = nullptr;
+    QSize measured_;
     bool isNarrow_ = false;
     bool isLow_ = false;
 };

@@ -35,7 +35,7 @@ void SettingRow::build() {
         line->addWidget(control);
     QLayout* arranged = makeLine(nullptr);
     arranged->addWidget(controls);
-    new RowLayout(this, text.layout(), arranged, putBack, rowIndent(*this));
+    new RowLayout(this, text, arranged, putBack, rowIndent(*this));
     for (auto* each : controls->findChildren<QWidget*>()) {
         if (each->focusPolicy() & Qt::TabFocus) {
             text.caption->setBuddy(each);

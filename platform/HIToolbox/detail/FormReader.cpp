@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/detail/FormReader.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -38,6 +39,14 @@ private:
 };
 
 } // namespace
+
+WithoutPlugins::WithoutPlugins() : paths_(QCoreApplication::libraryPaths()) {
+    QCoreApplication::setLibraryPaths({});
+}
+
+WithoutPlugins::~WithoutPlugins() {
+    QCoreApplication::setLibraryPaths(paths_);
+}
 
 QWidget* FormReader::loadFile(const QString& path) {
     QFile file(path);
