@@ -55,14 +55,24 @@ bool isDark(const QPalette& palette) {
            luminance(palette.color(QPalette::WindowText));
 }
 
+/// Can be read, and is told at once from what can be used.
+QColor betweenGroundAndText(const QPalette& palette) {
+    constexpr float kShare = 0.55F;
+    const QColor ground = palette.color(QPalette::Window), text = palette.color(QPalette::Text);
+    const auto part = [](float a, float b) { return a + (b - a) * kShare; };
+    return QColor::fromRgbF(part(ground.redF(), text.redF()), part(ground.greenF(), text.greenF()),
+                            part(ground.blueF(), text.blueF()));
+}
+
 QPalette ownPalette(bool dark, bool highContrast) {
     const auto column = highContrast ? (dark ? &RoleColors::plainDark : &RoleColors::plainLight)
                                      : (dark ? &RoleColors::dark : &RoleColors::light);
     QPalette palette;
     for (const RoleColors& colors : kColors)
         palette.setColor(colors.role, QColor::fromRgb(colors.*column));
+    const QColor disabled = betweenGroundAndText(palette);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, palette.color(QPalette::PlaceholderText));
+        palette.setColor(QPalette::Disabled, role, disabled);
     return palette;
 }
 

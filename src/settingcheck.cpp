@@ -19,11 +19,11 @@ std::string rangeWords(const SettingLimits& limits) {
 }
 
 std::string choiceWords(const Setting& setting) {
-    std::string words;
+    std::vector<std::string> words;
     for (std::size_t i = 0; i < setting.choices.size(); ++i)
-        words += (i ? ", " : "") + std::to_string(i) + " (" +
-                 localized("Choices", setting.choices[i]) + ")";
-    return filled(localized("Faults", "none of: %1"), {words});
+        words.push_back(
+            joined(Joint::Note, {std::to_string(i), localized("Choices", setting.choices[i])}));
+    return filled(localized("Faults", "none of: %1"), {joined(Joint::Items, words)});
 }
 
 bool isWithin(const SettingLimits& limits, double value) {

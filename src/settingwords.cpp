@@ -78,14 +78,13 @@ std::string pointerText(const Setting& setting, const PrefsRecord& record) {
     return text ? toUTF8(text.get()) : "";
 }
 
-/// Those that `each` gives for 0 up to `count`, with commas between; empty ones are left out.
+/// Those that `each` gives for 0 up to `count`.
 template <class Each>
 std::string listed(int count, Each each) {
-    std::string list;
+    std::vector<std::string> items;
     for (int i = 0; i < count; ++i)
-        if (const std::string text = each(i); !text.empty())
-            list += (list.empty() ? "" : ", ") + text;
-    return list;
+        items.push_back(each(i));
+    return joined(Joint::Items, items);
 }
 
 std::string hotKeysText(const HotKey (&hotKeys)[kNumHotKeys]) {

@@ -276,8 +276,8 @@
         <translation>Nichts wurde geändert. Mit --yes geschieht es.</translation>
     </message>
     <message>
-        <source>; default: %1</source>
-        <translation>; Standard: %1</translation>
+        <source>default: %1</source>
+        <translation>Standard: %1</translation>
     </message>
     <message>
         <source>can&apos;t store the settings in %1</source>
@@ -474,6 +474,22 @@
 <context>
     <name>Host</name>
     <message>
+        <source>Korvex.prefPane: not found beside this program</source>
+        <translation>Korvex.prefPane: nicht neben diesem Programm gefunden</translation>
+    </message>
+    <message>
+        <source>it is open already, but doesn&apos;t answer</source>
+        <translation>es ist schon offen, antwortet aber nicht</translation>
+    </message>
+    <message>
+        <source>there is no section &apos;%1&apos;</source>
+        <translation>es gibt keinen Abschnitt „%1“</translation>
+    </message>
+    <message>
+        <source>the settings aren&apos;t saved: %1</source>
+        <translation>die Einstellungen sind nicht gespeichert: %1</translation>
+    </message>
+    <message>
         <source>Usage: korvex-preferences [BUNDLE.prefPane]
        korvex-preferences COMMAND OPERANDS
        korvex-preferences --section NAME
@@ -504,22 +520,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
   --help          gibt diesen Text aus
   --version       gibt die Version aus
 </translation>
-    </message>
-    <message>
-        <source>Korvex.prefPane: not found beside this program</source>
-        <translation>Korvex.prefPane: nicht neben diesem Programm gefunden</translation>
-    </message>
-    <message>
-        <source>it is open already, but doesn&apos;t answer</source>
-        <translation>es ist schon offen, antwortet aber nicht</translation>
-    </message>
-    <message>
-        <source>there is no section &apos;%1&apos;</source>
-        <translation>es gibt keinen Abschnitt „%1“</translation>
-    </message>
-    <message>
-        <source>the settings aren&apos;t saved: %1</source>
-        <translation>die Einstellungen sind nicht gespeichert: %1</translation>
     </message>
 </context>
 <context>
@@ -557,8 +557,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Standard</translation>
     </message>
     <message>
-        <source>Listening: press the new hot key, one key, alone or with Ctrl, Alt, Shift or Super held down. Every key counts, Esc and Tab too. %1 seconds left.</source>
-        <translation>Drücken Sie jetzt die neue Taste, allein oder zusammen mit Strg, Alt, Umschalt oder Super. Jede Taste zählt, auch Esc und Tab. Noch %1 Sekunden.</translation>
+        <source>Listening: press the new hot key, one key, alone or with Ctrl, Alt, Shift or Super held down. Every key counts, Esc and Tab too. Seconds left: %1.</source>
+        <translation>Drücken Sie jetzt die neue Taste, allein oder zusammen mit Strg, Alt, Umschalt oder Super. Jede Taste zählt, auch Esc und Tab. Verbleibende Sekunden: %1.</translation>
     </message>
     <message>
         <source>“%1”</source>
@@ -569,8 +569,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>⚠ Dieselben Tasten wie %1. Das Menü daneben bietet an, sie nur hier zu verwenden oder die vorigen zurückzuholen.</translation>
     </message>
     <message>
-        <source>Now %1. </source>
-        <translation>Jetzt %1. </translation>
+        <source>Now %1.</source>
+        <translation>Jetzt %1.</translation>
     </message>
     <message>
         <source>Capturing: press the new keys.</source>
@@ -604,6 +604,34 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>%1 (hot key)</source>
         <comment>as in Scan (hot key)</comment>
         <translation>%1 (Tastenkombination)</translation>
+    </message>
+</context>
+<context>
+    <name>Joints</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>two clauses of a sentence</comment>
+        <translation>%1; %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>two items of a list</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what something is, and a note on it</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <comment>a value, and a sentence on it</comment>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>
@@ -721,6 +749,11 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Only %1 to %2 can be set.</source>
         <translation>Möglich ist nur %1 bis %2.</translation>
+    </message>
+    <message>
+        <source>%1. %2.</source>
+        <comment>a value, and what a press changes</comment>
+        <translation>%1. %2.</translation>
     </message>
 </context>
 <context>
@@ -1006,8 +1039,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Nur mein eigener Bereich</translation>
     </message>
     <message>
-        <source>A smaller area takes less time. You can choose this once an area has been drawn.</source>
-        <translation>Ein kleinerer Bereich braucht weniger Zeit. Das geht, sobald ein Bereich gezeichnet ist.</translation>
+        <source>A smaller area takes less time. It is the part that you choose, draw or type below.</source>
+        <translation>Ein kleinerer Bereich braucht weniger Zeit. Es ist der, den Sie unten wählen, zeichnen oder eingeben.</translation>
     </message>
     <message>
         <source>Part of the screen</source>
@@ -2058,8 +2091,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Knöpfe, Größe</translation>
     </message>
     <message>
-        <source>Sound, login, profiles</source>
-        <translation>Ton, Anmeldung, Profile</translation>
         <source>Compare the chosen profile</source>
         <translation>Das gewählte Profil vergleichen</translation>
     </message>
@@ -2070,6 +2101,10 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Compare with…</source>
         <translation>Vergleichen mit…</translation>
+    </message>
+    <message>
+        <source>Sound, login, profiles</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2290,8 +2325,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Ein anderes Programm hält die Tastatur. Schließen Sie seine Menüs, dann versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>This desktop lets no window cover the screens. Log in to a session with X11 (Xorg) to draw an area.</source>
-        <translation>Auf diesem Schreibtisch darf kein Fenster die Bildschirme bedecken. Melden Sie sich in einer Sitzung mit X11 (Xorg) an, um einen Bereich zu zeichnen.</translation>
+        <source>This desktop lets no window cover the screens. Choose a part above or type numbers; to draw an area, log in to a session with X11 (Xorg).</source>
+        <translation>Auf dieser Oberfläche darf kein Fenster die Bildschirme bedecken. Wählen Sie oben einen Teil oder geben Sie Zahlen ein; zum Zeichnen melden Sie sich in einer Sitzung mit X11 (Xorg) an.</translation>
     </message>
     <message>
         <source>Whole screen</source>
@@ -2726,8 +2761,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>%.1f behalten</translation>
     </message>
     <message>
-        <source>This try couldn’t be stored. </source>
-        <translation>Dieser Versuch konnte nicht gespeichert werden. </translation>
+        <source>This try couldn’t be stored.</source>
+        <translation>Dieser Versuch konnte nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>Your tries stay on this computer.</source>
@@ -2742,20 +2777,20 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Ganzer Bildschirm</translation>
     </message>
     <message>
-        <source>The copy couldn’t be written. </source>
-        <translation>Die Kopie konnte nicht geschrieben werden. </translation>
+        <source>The copy couldn’t be written.</source>
+        <translation>Die Kopie konnte nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>Saved as %1. </source>
-        <translation>Gespeichert als %1. </translation>
+        <source>Saved as %1.</source>
+        <translation>Gespeichert als %1.</translation>
     </message>
     <message>
-        <source>All tries are deleted. </source>
-        <translation>Alle Versuche sind gelöscht. </translation>
+        <source>All tries are deleted.</source>
+        <translation>Alle Versuche sind gelöscht.</translation>
     </message>
     <message>
-        <source>The tries couldn’t be deleted. </source>
-        <translation>Die Versuche konnten nicht gelöscht werden. </translation>
+        <source>The tries couldn’t be deleted.</source>
+        <translation>Die Versuche konnten nicht gelöscht werden.</translation>
     </message>
     <message>
         <source>Early</source>
@@ -2818,8 +2853,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>%.0f mm hinter der Marke.</translation>
     </message>
     <message>
-        <source>Your presses all came at the same moment, as far as this computer can tell. </source>
-        <translation>Ihre Drücke kamen alle im selben Moment, soweit dieser Computer es sagen kann. </translation>
+        <source>Your presses all came at the same moment, as far as this computer can tell.</source>
+        <translation>Ihre Drücke kamen alle im selben Moment, soweit dieser Computer es sagen kann.</translation>
     </message>
     <message>
         <source>A slower line is likely to suit you better. Try it at %.1f seconds, and we can tell.</source>
@@ -2842,28 +2877,28 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>%zu von %zu Drücken kamen, als nichts danach fragte. Sorgen Sie vor dem Tempo für ruhigere Drücke.</translation>
     </message>
     <message>
-        <source>Ready for the next press after %.1f seconds. </source>
-        <translation>Bereit für den nächsten Druck nach %.1f Sekunden. </translation>
+        <source>Ready for the next press after %.1f seconds.</source>
+        <translation>Bereit für den nächsten Druck nach %.1f Sekunden.</translation>
     </message>
     <message>
-        <source>Ignoring presses for %.1f seconds after a click would catch most of those that nothing asked for. </source>
-        <translation>%.1f Sekunden nach einem Klick keine Drücke zu beachten würde die meisten ungefragten abfangen. </translation>
+        <source>Ignoring presses for %.1f seconds after a click would catch most of those that nothing asked for.</source>
+        <translation>%.1f Sekunden nach einem Klick keine Drücke zu beachten würde die meisten ungefragten abfangen.</translation>
     </message>
     <message>
-        <source>A shortest press of %.1f seconds would, too. </source>
-        <translation>Ein kürzester Druck von %.1f Sekunden würde das auch. </translation>
+        <source>A shortest press of %.1f seconds would, too.</source>
+        <translation>Ein kürzester Druck von %.1f Sekunden würde das auch.</translation>
     </message>
     <message>
-        <source>They last as long as your other presses, so no shortest press tells them apart. </source>
-        <translation>Sie dauern so lange wie Ihre anderen Drücke, darum unterscheidet kein kürzester Druck sie. </translation>
+        <source>They last as long as your other presses, so no shortest press tells them apart.</source>
+        <translation>Sie dauern so lange wie Ihre anderen Drücke, darum unterscheidet kein kürzester Druck sie.</translation>
     </message>
     <message>
         <source>Lateness %.0f ms, spread %.0f ms (%.0f ms at most), from %d presses.</source>
         <translation>Verspätung %.0f ms, Streuung %.0f ms (höchstens %.0f ms), aus %d Drücken.</translation>
     </message>
     <message>
-        <source> %d in 10 takes %.1f seconds.</source>
-        <translation> %d von 10 brauchen %.1f Sekunden.</translation>
+        <source>%d in 10 takes %.1f seconds.</source>
+        <translation>%d von 10 brauchen %.1f Sekunden.</translation>
     </message>
     <message>
         <source>No press arrived. Look whether your switch is connected and counts as a trigger, then try once more.</source>
@@ -2886,8 +2921,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Los.</translation>
     </message>
     <message>
-        <source>%s: %.1f seconds, %.0f hits and %.0f misses, lateness %.0f ms, spread %.0f ms</source>
-        <translation>%s: %.1f Sekunden, %.0f Treffer und %.0f daneben, Verspätung %.0f ms, Streuung %.0f ms</translation>
+        <source>%s: %.1f seconds, hits: %.0f, misses: %.0f, lateness %.0f ms, spread %.0f ms</source>
+        <translation>%s: %.1f Sekunden, getroffen: %.0f, daneben: %.0f, Verspätung %.0f ms, Streuung %.0f ms</translation>
     </message>
     <message>
         <source>%s   %.1f s   %.0f of %.0f   spread %.0f ms</source>
@@ -2906,12 +2941,12 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>So wie Sie es eingestellt haben, rückt jeder Druck den Scan einen Schritt weiter, und kein Tempo spielt eine Rolle. Hier können Sie eine Linie probieren, die durchläuft: Drücken Sie, wenn sie auf der Marke ist.</translation>
     </message>
     <message>
-        <source>You stopped within %g mm of the mark %d times in %zu. </source>
-        <translation>Im Abstand von %g mm zur Marke haben Sie %d Mal von %zu angehalten. </translation>
+        <source>You stopped within %g mm of the mark in %d of %zu sweeps.</source>
+        <translation>Im Abstand von höchstens %g mm zur Marke haben Sie bei %d von %zu Durchläufen angehalten.</translation>
     </message>
     <message>
-        <source> That is for a line that sweeps; as you have set it, it moves one step a press.</source>
-        <translation> Das gilt für eine Linie, die durchläuft; so wie Sie es eingestellt haben, rückt sie mit jedem Druck einen Schritt weiter.</translation>
+        <source>That is for a line that sweeps; as you have set it, it moves one step a press.</source>
+        <translation>Das gilt für eine Linie, die durchläuft; so wie Sie es eingestellt haben, rückt sie mit jedem Druck einen Schritt weiter.</translation>
     </message>
     <message>
         <source>You are having a rest, and your switch scans as ever. Press here to go on.</source>
@@ -2938,28 +2973,28 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Bei %.1f Sekunden erwarten wir %d von 10.</translation>
     </message>
     <message>
-        <source> With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit, and at least %d.</source>
-        <translation> Mit dem Zeiger danach, bei %.1f Sekunden, erwarten wir, dass %d von 10 Klicks treffen, und mindestens %d.</translation>
+        <source>With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit, and at least %d.</source>
+        <translation>Mit dem Zeiger danach, bei %.1f Sekunden, erwarten wir, dass %d von 10 Klicks treffen, und mindestens %d.</translation>
     </message>
     <message>
-        <source> With the pointer after it, at %.1f seconds instead of %.1f, we expect %d clicks in 10 to hit, and at least %d.</source>
-        <translation> Mit dem Zeiger danach, bei %.1f statt %.1f Sekunden, erwarten wir, dass %d von 10 Klicks treffen, und mindestens %d.</translation>
+        <source>With the pointer after it, at %.1f seconds instead of %.1f, we expect %d clicks in 10 to hit, and at least %d.</source>
+        <translation>Mit dem Zeiger danach, bei %.1f statt %.1f Sekunden, erwarten wir, dass %d von 10 Klicks treffen, und mindestens %d.</translation>
     </message>
     <message>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm.</source>
         <translation>Auch bei %.0f Sekunden, dem Langsamsten, können wir nicht erwarten, dass 3 von 4 Klicks treffen. Ziele von %.0f mm würden es möglich machen, oder ein Scanbereich von nur %.0f × %.0f mm.</translation>
     </message>
     <message>
-        <source> %d clicks in 10 to hit takes %.1f seconds for the line and %.1f for the pointer.</source>
-        <translation> Damit %d von 10 Klicks treffen, braucht die Linie %.1f Sekunden und der Zeiger %.1f.</translation>
+        <source>%d clicks in 10 to hit takes %.1f seconds for the line and %.1f for the pointer.</source>
+        <translation>Damit %d von 10 Klicks treffen, braucht die Linie %.1f Sekunden und der Zeiger %.1f.</translation>
     </message>
     <message>
-        <source> After a miss it took %.1f seconds to go on.</source>
-        <translation> Nach einem Fehlschlag dauerte es %.1f Sekunden, bis es weiterging.</translation>
+        <source>After a miss it took %.1f seconds to go on.</source>
+        <translation>Nach einem Fehlschlag dauerte es %.1f Sekunden, bis es weiterging.</translation>
     </message>
     <message>
-        <source> On this desktop no window can keep keys for itself, so your switch may scan as well meanwhile.</source>
-        <translation> Auf diesem Desktop kann kein Fenster Tasten für sich behalten, darum scannt Ihr Schalter vielleicht auch währenddessen.</translation>
+        <source>On this desktop no window can keep keys for itself, so your switch may scan as well meanwhile.</source>
+        <translation>Auf diesem Desktop kann kein Fenster Tasten für sich behalten, darum scannt Ihr Schalter vielleicht auch währenddessen.</translation>
     </message>
 </context>
 <context>

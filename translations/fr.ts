@@ -276,8 +276,8 @@
         <translation>Rien n’a été changé. Avec --yes, cela l’est.</translation>
     </message>
     <message>
-        <source>; default: %1</source>
-        <translation>; par défaut&#xa0;: %1</translation>
+        <source>default: %1</source>
+        <translation>par défaut&#xa0;: %1</translation>
     </message>
     <message>
         <source>can&apos;t store the settings in %1</source>
@@ -474,6 +474,22 @@
 <context>
     <name>Host</name>
     <message>
+        <source>Korvex.prefPane: not found beside this program</source>
+        <translation>Korvex.prefPane&#xa0;: introuvable à côté de ce programme</translation>
+    </message>
+    <message>
+        <source>it is open already, but doesn&apos;t answer</source>
+        <translation>la fenêtre est déjà ouverte, mais ne répond pas</translation>
+    </message>
+    <message>
+        <source>there is no section &apos;%1&apos;</source>
+        <translation>il n’y a pas de section «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the settings aren&apos;t saved: %1</source>
+        <translation>les réglages ne sont pas enregistrés&#xa0;: %1</translation>
+    </message>
+    <message>
         <source>Usage: korvex-preferences [BUNDLE.prefPane]
        korvex-preferences COMMAND OPERANDS
        korvex-preferences --section NAME
@@ -504,22 +520,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
   --help          affiche ce texte
   --version       affiche la version
 </translation>
-    </message>
-    <message>
-        <source>Korvex.prefPane: not found beside this program</source>
-        <translation>Korvex.prefPane&#xa0;: introuvable à côté de ce programme</translation>
-    </message>
-    <message>
-        <source>it is open already, but doesn&apos;t answer</source>
-        <translation>la fenêtre est déjà ouverte, mais ne répond pas</translation>
-    </message>
-    <message>
-        <source>there is no section &apos;%1&apos;</source>
-        <translation>il n’y a pas de section «&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message>
-        <source>the settings aren&apos;t saved: %1</source>
-        <translation>les réglages ne sont pas enregistrés&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -557,8 +557,8 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Par défaut</translation>
     </message>
     <message>
-        <source>Listening: press the new hot key, one key, alone or with Ctrl, Alt, Shift or Super held down. Every key counts, Esc and Tab too. %1 seconds left.</source>
-        <translation>À l’écoute&#xa0;: appuyez sur le nouveau raccourci, une touche, seule ou avec Ctrl, Alt, Maj ou Super. Chaque touche compte, Échap et Tab aussi. Encore %1 secondes.</translation>
+        <source>Listening: press the new hot key, one key, alone or with Ctrl, Alt, Shift or Super held down. Every key counts, Esc and Tab too. Seconds left: %1.</source>
+        <translation>À l’écoute&#xa0;: appuyez sur le nouveau raccourci, une touche, seule ou avec Ctrl, Alt, Maj ou Super. Chaque touche compte, Échap et Tab aussi. Secondes restantes&#xa0;: %1.</translation>
     </message>
     <message>
         <source>“%1”</source>
@@ -569,8 +569,8 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>⚠ Les mêmes touches que %1. Le menu à côté propose de les garder ici seulement, ou de remettre ce qui était ici.</translation>
     </message>
     <message>
-        <source>Now %1. </source>
-        <translation>Maintenant %1. </translation>
+        <source>Now %1.</source>
+        <translation>Maintenant %1.</translation>
     </message>
     <message>
         <source>Capturing: press the new keys.</source>
@@ -604,6 +604,34 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <source>%1 (hot key)</source>
         <comment>as in Scan (hot key)</comment>
         <translation>%1 (raccourci)</translation>
+    </message>
+</context>
+<context>
+    <name>Joints</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>two clauses of a sentence</comment>
+        <translation>%1&#xa0;; %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>two items of a list</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what something is, and a note on it</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <comment>a value, and a sentence on it</comment>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>
@@ -721,6 +749,11 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>Only %1 to %2 can be set.</source>
         <translation>Seules les valeurs de %1 à %2 sont possibles.</translation>
+    </message>
+    <message>
+        <source>%1. %2.</source>
+        <comment>a value, and what a press changes</comment>
+        <translation>%1. %2.</translation>
     </message>
 </context>
 <context>
@@ -1006,8 +1039,8 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Seulement ma zone</translation>
     </message>
     <message>
-        <source>A smaller area takes less time. You can choose this once an area has been drawn.</source>
-        <translation>Une zone plus petite prend moins de temps. Vous pouvez la choisir une fois qu’une zone est dessinée.</translation>
+        <source>A smaller area takes less time. It is the part that you choose, draw or type below.</source>
+        <translation>Une zone plus petite prend moins de temps. C’est celle que vous choisissez, dessinez ou saisissez ci-dessous.</translation>
     </message>
     <message>
         <source>Part of the screen</source>
@@ -2058,8 +2091,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Boutons, taille</translation>
     </message>
     <message>
-        <source>Sound, login, profiles</source>
-        <translation>Son, démarrage, profils</translation>
         <source>Compare the chosen profile</source>
         <translation>Comparer le profil choisi</translation>
     </message>
@@ -2070,6 +2101,10 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>Compare with…</source>
         <translation>Comparer avec…</translation>
+    </message>
+    <message>
+        <source>Sound, login, profiles</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2290,8 +2325,8 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Un autre programme tient le clavier. Fermez ses menus, puis réessayez.</translation>
     </message>
     <message>
-        <source>This desktop lets no window cover the screens. Log in to a session with X11 (Xorg) to draw an area.</source>
-        <translation>Ce bureau ne laisse aucune fenêtre couvrir les écrans. Ouvrez une session X11 (Xorg) pour dessiner une zone.</translation>
+        <source>This desktop lets no window cover the screens. Choose a part above or type numbers; to draw an area, log in to a session with X11 (Xorg).</source>
+        <translation>Ce bureau ne laisse aucune fenêtre couvrir les écrans. Choisissez une partie ci-dessus ou saisissez des nombres&#xa0;; pour dessiner une zone, ouvrez une session X11 (Xorg).</translation>
     </message>
     <message>
         <source>Whole screen</source>
@@ -2726,8 +2761,8 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Garder %.1f</translation>
     </message>
     <message>
-        <source>This try couldn’t be stored. </source>
-        <translation>Cet essai n’a pas pu être enregistré. </translation>
+        <source>This try couldn’t be stored.</source>
+        <translation>Cet essai n’a pas pu être enregistré.</translation>
     </message>
     <message>
         <source>Your tries stay on this computer.</source>
@@ -2742,20 +2777,20 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Plein écran</translation>
     </message>
     <message>
-        <source>The copy couldn’t be written. </source>
-        <translation>La copie n’a pas pu être écrite. </translation>
+        <source>The copy couldn’t be written.</source>
+        <translation>La copie n’a pas pu être écrite.</translation>
     </message>
     <message>
-        <source>Saved as %1. </source>
-        <translation>Enregistré sous %1. </translation>
+        <source>Saved as %1.</source>
+        <translation>Enregistré sous %1.</translation>
     </message>
     <message>
-        <source>All tries are deleted. </source>
-        <translation>Tous les essais sont supprimés. </translation>
+        <source>All tries are deleted.</source>
+        <translation>Tous les essais sont supprimés.</translation>
     </message>
     <message>
-        <source>The tries couldn’t be deleted. </source>
-        <translation>Les essais n’ont pas pu être supprimés. </translation>
+        <source>The tries couldn’t be deleted.</source>
+        <translation>Les essais n’ont pas pu être supprimés.</translation>
     </message>
     <message>
         <source>Early</source>
@@ -2818,8 +2853,8 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>%.0f mm après le repère.</translation>
     </message>
     <message>
-        <source>Your presses all came at the same moment, as far as this computer can tell. </source>
-        <translation>Vos appuis sont tous tombés au même moment, pour autant que cet ordinateur le sache. </translation>
+        <source>Your presses all came at the same moment, as far as this computer can tell.</source>
+        <translation>Vos appuis sont tous tombés au même moment, pour autant que cet ordinateur le sache.</translation>
     </message>
     <message>
         <source>A slower line is likely to suit you better. Try it at %.1f seconds, and we can tell.</source>
@@ -2842,28 +2877,28 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>%zu appuis sur %zu sont venus sans que rien ne les demande. Avant la vitesse, rendez les appuis plus sûrs.</translation>
     </message>
     <message>
-        <source>Ready for the next press after %.1f seconds. </source>
-        <translation>Prêt pour l’appui suivant après %.1f secondes. </translation>
+        <source>Ready for the next press after %.1f seconds.</source>
+        <translation>Prêt pour l’appui suivant après %.1f secondes.</translation>
     </message>
     <message>
-        <source>Ignoring presses for %.1f seconds after a click would catch most of those that nothing asked for. </source>
-        <translation>Ignorer les appuis pendant %.1f secondes après un clic arrêterait la plupart de ceux que rien ne demandait. </translation>
+        <source>Ignoring presses for %.1f seconds after a click would catch most of those that nothing asked for.</source>
+        <translation>Ignorer les appuis pendant %.1f secondes après un clic arrêterait la plupart de ceux que rien ne demandait.</translation>
     </message>
     <message>
-        <source>A shortest press of %.1f seconds would, too. </source>
-        <translation>Un appui minimal de %.1f secondes aussi. </translation>
+        <source>A shortest press of %.1f seconds would, too.</source>
+        <translation>Un appui minimal de %.1f secondes aussi.</translation>
     </message>
     <message>
-        <source>They last as long as your other presses, so no shortest press tells them apart. </source>
-        <translation>Ils durent autant que vos autres appuis&#xa0;; aucune durée minimale ne les distingue. </translation>
+        <source>They last as long as your other presses, so no shortest press tells them apart.</source>
+        <translation>Ils durent autant que vos autres appuis&#xa0;; aucune durée minimale ne les distingue.</translation>
     </message>
     <message>
         <source>Lateness %.0f ms, spread %.0f ms (%.0f ms at most), from %d presses.</source>
         <translation>Retard %.0f ms, dispersion %.0f ms (%.0f ms au plus), sur %d appuis.</translation>
     </message>
     <message>
-        <source> %d in 10 takes %.1f seconds.</source>
-        <translation> %d sur 10 demande %.1f secondes.</translation>
+        <source>%d in 10 takes %.1f seconds.</source>
+        <translation>%d sur 10 demande %.1f secondes.</translation>
     </message>
     <message>
         <source>No press arrived. Look whether your switch is connected and counts as a trigger, then try once more.</source>
@@ -2886,8 +2921,8 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Allez.</translation>
     </message>
     <message>
-        <source>%s: %.1f seconds, %.0f hits and %.0f misses, lateness %.0f ms, spread %.0f ms</source>
-        <translation>%s&#xa0;: %.1f secondes, %.0f réussis et %.0f manqués, retard %.0f ms, dispersion %.0f ms</translation>
+        <source>%s: %.1f seconds, hits: %.0f, misses: %.0f, lateness %.0f ms, spread %.0f ms</source>
+        <translation>%s&#xa0;: %.1f secondes, réussis&#xa0;: %.0f, manqués&#xa0;: %.0f, retard %.0f ms, dispersion %.0f ms</translation>
     </message>
     <message>
         <source>%s   %.1f s   %.0f of %.0f   spread %.0f ms</source>
@@ -2906,12 +2941,12 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>Avec votre réglage, chaque appui avance le balayage d’un pas, et aucune vitesse ne compte. Ici, vous pouvez essayer une ligne qui balaie&#xa0;: appuyez quand elle est sur le repère.</translation>
     </message>
     <message>
-        <source>You stopped within %g mm of the mark %d times in %zu. </source>
-        <translation>Vous vous êtes arrêté à moins de %g mm du repère %d fois sur %zu. </translation>
+        <source>You stopped within %g mm of the mark in %d of %zu sweeps.</source>
+        <translation>Vous vous êtes arrêté à moins de %g mm du repère lors de %d passages sur %zu.</translation>
     </message>
     <message>
-        <source> That is for a line that sweeps; as you have set it, it moves one step a press.</source>
-        <translation> Cela vaut pour une ligne qui balaie&#xa0;; avec votre réglage, elle avance d’un pas par appui.</translation>
+        <source>That is for a line that sweeps; as you have set it, it moves one step a press.</source>
+        <translation>Cela vaut pour une ligne qui balaie&#xa0;; avec votre réglage, elle avance d’un pas par appui.</translation>
     </message>
     <message>
         <source>You are having a rest, and your switch scans as ever. Press here to go on.</source>
@@ -2938,28 +2973,28 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>À %.1f secondes, nous attendons %d sur 10.</translation>
     </message>
     <message>
-        <source> With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit, and at least %d.</source>
-        <translation> Avec le pointeur ensuite, à %.1f secondes, nous attendons %d clics justes sur 10, et au moins %d.</translation>
+        <source>With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit, and at least %d.</source>
+        <translation>Avec le pointeur ensuite, à %.1f secondes, nous attendons %d clics justes sur 10, et au moins %d.</translation>
     </message>
     <message>
-        <source> With the pointer after it, at %.1f seconds instead of %.1f, we expect %d clicks in 10 to hit, and at least %d.</source>
-        <translation> Avec le pointeur ensuite, à %.1f secondes au lieu de %.1f, nous attendons %d clics justes sur 10, et au moins %d.</translation>
+        <source>With the pointer after it, at %.1f seconds instead of %.1f, we expect %d clicks in 10 to hit, and at least %d.</source>
+        <translation>Avec le pointeur ensuite, à %.1f secondes au lieu de %.1f, nous attendons %d clics justes sur 10, et au moins %d.</translation>
     </message>
     <message>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm.</source>
         <translation>Même à %.0f secondes, le plus lent, nous n’attendons pas 3 clics justes sur 4. Des cibles de %.0f mm le permettraient, ou une zone de balayage de %.0f × %.0f mm seulement.</translation>
     </message>
     <message>
-        <source> %d clicks in 10 to hit takes %.1f seconds for the line and %.1f for the pointer.</source>
-        <translation> Pour %d clics justes sur 10, il faut %.1f secondes pour la ligne et %.1f pour le pointeur.</translation>
+        <source>%d clicks in 10 to hit takes %.1f seconds for the line and %.1f for the pointer.</source>
+        <translation>Pour %d clics justes sur 10, il faut %.1f secondes pour la ligne et %.1f pour le pointeur.</translation>
     </message>
     <message>
-        <source> After a miss it took %.1f seconds to go on.</source>
-        <translation> Après un raté, il a fallu %.1f secondes pour continuer.</translation>
+        <source>After a miss it took %.1f seconds to go on.</source>
+        <translation>Après un raté, il a fallu %.1f secondes pour continuer.</translation>
     </message>
     <message>
-        <source> On this desktop no window can keep keys for itself, so your switch may scan as well meanwhile.</source>
-        <translation> Sur ce bureau, aucune fenêtre ne peut garder les touches pour elle&#xa0;: votre contacteur peut donc aussi balayer pendant ce temps.</translation>
+        <source>On this desktop no window can keep keys for itself, so your switch may scan as well meanwhile.</source>
+        <translation>Sur ce bureau, aucune fenêtre ne peut garder les touches pour elle&#xa0;: votre contacteur peut donc aussi balayer pendant ce temps.</translation>
     </message>
 </context>
 <context>

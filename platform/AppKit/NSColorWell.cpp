@@ -2,6 +2,7 @@
 #include "platform/AppKit/NSColorWell.h"
 
 #include "platform/AppKit/detail/ColorWellButton.h"
+#include "platform/CoreFoundation/Localization.h"
 
 #include <QColorDialog>
 #include <QCoreApplication>
@@ -46,7 +47,7 @@ void NSColorWell::setColor(const NSColor& color) {
     button->setColor(toQColor(color));
     const QString words = inWords(button->color());
     button->setAccessibleDescription(
-        description_.empty() ? words : words + ". " + QString::fromStdString(description_));
+        QString::fromStdString(joined(Joint::Value, {words.toStdString(), description_})));
 }
 
 void NSColorWell::choose(const NSColor& color) {

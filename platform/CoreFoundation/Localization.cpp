@@ -64,6 +64,26 @@ std::string filled(const std::string& text, std::initializer_list<std::string> p
     return result;
 }
 
+std::string joined(Joint joint, const std::vector<std::string>& parts) {
+    static constexpr struct {
+        const char *text, *comment;
+    } kPatterns[] = {
+        QT_TRANSLATE_NOOP3("Joints", "%1 %2", "two sentences"),
+        QT_TRANSLATE_NOOP3("Joints", "%1; %2", "two clauses of a sentence"),
+        QT_TRANSLATE_NOOP3("Joints", "%1, %2", "two items of a list"),
+        QT_TRANSLATE_NOOP3("Joints", "%1 (%2)", "what something is, and a note on it"),
+        QT_TRANSLATE_NOOP3("Joints", "%1. %2", "a value, and a sentence on it"),
+    };
+
+    const auto& [pattern, comment] = kPatterns[static_cast<int>(joint)];
+    std::string text;
+    for (const std::string& part : parts)
+        if (!part.empty())
+            text =
+                text.empty() ? part : filled(localized("Joints", pattern, comment), {text, part});
+    return text;
+}
+
 std::string localizedNumbers(std::string text) {
     for (std::size_t i = 1; i + 1 < text.size(); ++i)
         if (text[i] == '.' && isDigit(text[i - 1]) && isDigit(text[i + 1]))

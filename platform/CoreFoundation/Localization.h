@@ -3,6 +3,7 @@
 
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 // Stands for NSLocalizedString and the string tables of a bundle. The table comes first, because
 // the tools that collect the texts want it there. Texts are UTF-8.
@@ -17,6 +18,18 @@ std::string localized(const char* table, const char* text, const char* comment =
 
 /// The text with `parts` in the places of %1, %2 and so on, at most nine.
 std::string filled(const std::string& text, std::initializer_list<std::string> parts);
+
+/// How texts follow one another, each in its language's way.
+enum class Joint {
+    Sentences, ///< "One. Two."
+    Clauses,   ///< "one; two"
+    Items,     ///< "one, two"
+    Note,      ///< "what it is (one)"
+    Value,     ///< "12.5 sec. What it means."
+};
+
+/// The parts in a row; empty ones are left out.
+std::string joined(Joint joint, const std::vector<std::string>& parts);
 
 /// The text with each point between two digits as the user's language has it.
 std::string localizedNumbers(std::string text);

@@ -21,10 +21,10 @@ std::string choiceText(const Setting& setting) {
     if (const SettingLimits& limits = setting.limits; limits.maximum > 0) {
         return rangeText(limits);
     }
-    std::string choices;
+    std::vector<std::string> choices;
     for (const char* choice : setting.choices)
-        choices += (choices.empty() ? "" : ", ") + localized("Choices", choice);
-    return choices;
+        choices.push_back(localized("Choices", choice));
+    return joined(Joint::Items, choices);
 }
 
 JsonObject describe(const Setting& setting, const PrefsRecord& record) {
@@ -59,16 +59,13 @@ int runList(const CommandLine& line) {
     const SettingSet changed = differences(now, defaults);
     for (std::size_t i = 0; i < kSettings.size(); ++i) {
         const Setting& setting = kSettings[i];
-        std::printf("%s = %s\n    %s", setting.key, settingText(setting, now).c_str(),
-                    localized("Settings", setting.name).c_str());
-        if (const std::string range = choiceText(setting); !range.empty())
-            std::printf(" (%s)", range.c_str());
-        if (changed[i])
-            std::fputs(
-                filled(localized("Commands", "; default: %1"), {settingText(setting, defaults)})
-                    .c_str(),
-                stdout);
-        std::puts("");
+        const std::string words =
+            joined(Joint::Note, {localized("Settings", setting.name), choiceText(setting)});
+        const std::string usual = changed[i] ? filled(localized("Commands", "default: %1"),
+                                                      {settingText(setting, defaults)})
+                                             : "";
+        std::printf("%s = %s\n    %s\n", setting.key, settingText(setting, now).c_str(),
+                    joined(Joint::Clauses, {words, usual}).c_str());
     }
     return kCommandDone;
 }

@@ -24,12 +24,12 @@ void printHeading(const std::string& text) {
 }
 
 std::string describe(const Setting& setting) {
-    std::string range = setting.limits.maximum > 0 ? rangeText(setting.limits) : "";
+    std::vector<std::string> range;
+    if (setting.limits.maximum > 0)
+        range.push_back(rangeText(setting.limits));
     for (std::size_t i = 0; i < setting.choices.size(); ++i)
-        range +=
-            (i ? ", " : "") + std::to_string(i) + " " + localized("Choices", setting.choices[i]);
-    const std::string name = localized("Settings", setting.name);
-    return range.empty() ? name : name + " (" + range + ")";
+        range.push_back(std::to_string(i) + " " + localized("Choices", setting.choices[i]));
+    return joined(Joint::Note, {localized("Settings", setting.name), joined(Joint::Items, range)});
 }
 
 std::string spaced(const std::string& text, const std::string& word) {

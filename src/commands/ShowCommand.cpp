@@ -42,13 +42,9 @@ std::vector<std::string> sectionNames() {
 int runShow(const CommandLine& line) {
     const std::string name = nameOf(line.operands[0]);
     const std::vector<std::string> names = sectionNames();
-    if (std::ranges::find(names, name) == names.end()) {
-        std::string known;
-        for (const std::string& each : names)
-            known += (known.empty() ? "" : ", ") + each;
+    if (std::ranges::find(names, name) == names.end())
         return commandFailed(filled(localized("Commands", "there is no section \"%1\", but %2"),
-                                    {line.operands[0], known}));
-    }
+                                    {line.operands[0], joined(Joint::Items, names)}));
     execl("/proc/self/exe", "korvex-preferences", "--section", name.c_str(), nullptr);
     return commandFailed(std::strerror(errno));
 }

@@ -148,7 +148,7 @@ void HotKeyEditor::countDown() {
     std::string prompt = filled(
         localized("HotKeys", "Listening: press the new hot key, one key, alone or with Ctrl, "
                              "Alt, Shift or Super held down. Every key counts, Esc and Tab "
-                             "too. %1 seconds left."),
+                             "too. Seconds left: %1."),
         {std::to_string(secondsLeft_--)});
     if (desktopKeepsItsShortcuts())
         prompt += "\n" + localized("HotKeys", "Keys that this desktop uses itself aren’t heard "
@@ -206,24 +206,24 @@ void HotKeyEditor::updateHotKeyNotes() {
     const auto all = rows();
     for (std::size_t i = 0; i < all.size(); ++i) {
         const auto same = sameAs(i);
-        std::string names, note;
+        std::string note;
+        std::vector<std::string> names;
         for (const std::size_t other : same)
-            names += (names.empty() ? "" : ", ") +
-                     filled(localized("HotKeys", "“%1”"), {all[other]->view->accessibilityLabel()});
+            names.push_back(
+                filled(localized("HotKeys", "“%1”"), {all[other]->view->accessibilityLabel()}));
         if (!same.empty())
             note =
                 filled(localized("HotKeys", "⚠ The same keys as %1. The menu beside it offers to "
                                             "use them here alone, or to put back what was here."),
-                       {names});
+                       {joined(Joint::Items, names)});
         all[i]->note->setStringValue(note);
         for (const char* offer : {kClaim, kRestore})
             all[i]
                 ->menu->itemWithTitle(localized("HotKeys", offer))
                 ->setTarget(same.empty() ? nullptr : menuTarget_);
         const auto combination = all[i]->view->combination();
-        all[i]->menu->setAccessibilityHelp(
-            (combination ? filled(localized("HotKeys", "Now %1. "), {toUTF8(combination.get())})
-                         : std::string()) +
-            note);
+        const std::string now =
+            combination ? filled(localized("HotKeys", "Now %1."), {toUTF8(combination.get())}) : "";
+        all[i]->menu->setAccessibilityHelp(joined(Joint::Sentences, {now, note}));
     }
 }

@@ -36,8 +36,8 @@ void NumberControls::update(const NumberController& controller, const std::strin
         button->setEnabled(enabled);
         button->setToolTip(words);
         // The value first: a screen reader that is at the button hears it when it changes.
-        std::string help = shown;
-        button->setAccessibilityHelp(help.append(". ").append(words).append("."));
+        button->setAccessibilityHelp(filled(
+            localized("Numbers", "%1. %2.", "a value, and what a press changes"), {shown, words}));
     }
 }
 

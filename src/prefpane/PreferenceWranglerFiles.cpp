@@ -29,8 +29,9 @@ std::string refusedText(const std::vector<RefusedKey>& refused) {
         text += "\n" + filled(localized("Profiles", "Left out: %1: %2."), {key, refused[i].reason});
     }
     if (refused.size() > kMostNamed)
-        text += " " + filled(localized("Profiles", "And %1 more."),
-                             {std::to_string(refused.size() - kMostNamed)});
+        text =
+            joined(Joint::Sentences, {text, filled(localized("Profiles", "And %1 more."),
+                                                   {std::to_string(refused.size() - kMostNamed)})});
     return text;
 }
 

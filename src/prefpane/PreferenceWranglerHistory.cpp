@@ -105,7 +105,8 @@ void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& be
         view->scrollToVisible();
     tellUser(kChangeTopic,
              {.kind = UserMessage::Kind::Note,
-              .text = stepText(step.settings, before, after, pattern) + profiles_.keepInUse()});
+              .text = joined(Joint::Sentences, {stepText(step.settings, before, after, pattern),
+                                                profiles_.keepInUse()})});
     updateHistoryUI();
 }
 

@@ -13,8 +13,10 @@ std::string explain(OSStatus error) {
     return error == errCouldntSetUserFocus
                ? localized("ScanArea",
                            "Another program holds the keyboard. Close its menus, then try again.")
-               : localized("ScanArea", "This desktop lets no window cover the screens. Log in to a "
-                                       "session with X11 (Xorg) to draw an area.");
+               : localized("ScanArea",
+                           "This desktop lets no window cover the screens. Choose a part "
+                           "above or type numbers; to draw an area, log in to a "
+                           "session with X11 (Xorg).");
 }
 
 } // namespace

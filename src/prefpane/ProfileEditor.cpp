@@ -86,8 +86,8 @@ std::string ProfileEditor::keepInUse() {
     isInUseKept_ = fault.empty();
     return fault.empty()
                ? ""
-               : " " + filled(localized("Profiles", "Which profile is in use can’t be kept: %1."),
-                              {fault});
+               : filled(localized("Profiles", "Which profile is in use can’t be kept: %1."),
+                        {fault});
 }
 
 const ProfileEditor::Profile* ProfileEditor::find(const std::string& profile) const {
@@ -288,14 +288,15 @@ void ProfileEditor::use(Profile profile) {
     target_.noteProfile();
     const std::string notKept = keepInUse(); // the agent need not wait for the disk
     show();
-    std::string text = named(LOCALIZABLE("Profiles", "“%1” is in use."), profile.name);
+    std::vector texts = {named(LOCALIZABLE("Profiles", "“%1” is in use."), profile.name)};
     if (changes.any())
-        text += " " + filled(localized("Changes", "%1.", "a sentence"),
-                             {changesText(changes, before, record, kSettingBecomes)});
+        texts.push_back(filled(localized("Changes", "%1.", "a sentence"),
+                               {changesText(changes, before, record, kSettingBecomes)}));
     if (!refused.empty())
-        text += " " + filled(localized("Profiles", "Left out: %1: %2."),
-                             {refused[0].key, refused[0].reason});
-    text += notKept;
+        texts.push_back(filled(localized("Profiles", "Left out: %1: %2."),
+                               {refused[0].key, refused[0].reason}));
+    texts.push_back(notKept);
+    const std::string text = joined(Joint::Sentences, texts);
     if (changes.none())
         return tell(text);
     tell(text, {{localized("Profiles", kPutBack), [this] { target_.undoChange(); }}});
@@ -330,8 +331,9 @@ void ProfileEditor::save(const std::string& profile) {
     setInUse(profile);
     show();
     target_.noteProfile();
-    const std::string text =
-        named(LOCALIZABLE("Profiles", "The settings are saved as “%1”."), profile) + keepInUse();
+    const std::string text = joined(
+        Joint::Sentences,
+        {named(LOCALIZABLE("Profiles", "The settings are saved as “%1”."), profile), keepInUse()});
     if (former.empty())
         return tell(text);
     tell(text, {{localized("Profiles", kPutBack),
@@ -349,7 +351,8 @@ void ProfileEditor::putBack(const Profile& profile, bool wasInUse) {
     chosen_ = profile.name;
     show();
     target_.noteProfile();
-    tell(named(LOCALIZABLE("Profiles", "“%1” is as it was."), profile.name) + keepInUse());
+    tell(joined(Joint::Sentences,
+                {named(LOCALIZABLE("Profiles", "“%1” is as it was."), profile.name), keepInUse()}));
 }
 
 void ProfileEditor::renameChosen() {

@@ -56,7 +56,7 @@ public:
 
     /// Until it is kept, only for this visit.
     void setInUse(const std::string& profile);
-    /// For the next visit, too. Gives a sentence for the user, a blank before it, when that fails.
+    /// For the next visit, too. Gives a sentence for the user when that fails.
     std::string keepInUse();
 
     void menuNeedsUpdate(NSPopUpButton* menu) override;

@@ -134,8 +134,8 @@ bool TryPage::hasBegun() const {
 
 std::string TryPage::courseText() const {
     const bool areKeysShared = !hasBegun() && desktopKeepsItsShortcuts();
-    return tryout::courseText(*session_, trigger_) +
-           (areKeysShared ? tryout::sharedKeysText() : "");
+    return joined(Joint::Sentences, {tryout::courseText(*session_, trigger_),
+                                     areKeysShared ? tryout::sharedKeysText() : ""});
 }
 
 void TryPage::frame() {

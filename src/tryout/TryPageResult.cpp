@@ -77,7 +77,7 @@ void TryPage::keep(const tryout::Advice& advice, const tryout::Measured& measure
     const bool isOnRelease = trigger_.way == Release || trigger_.way == Hold;
     const bool isStored =
         advice.presses == 0 || history_.add(pastTry(advice, conditions_, measured, isOnRelease));
-    showHistory(isStored ? "" : localized("Try", "This try couldn’t be stored. "));
+    showHistory(isStored ? "" : localized("Try", "This try couldn’t be stored."));
 }
 
 void TryPage::showHistory(const std::string& note) {
@@ -86,21 +86,22 @@ void TryPage::showHistory(const std::string& note) {
     exportBtn_->setHidden(isEmpty);
     deleteBtn_->setHidden(isEmpty);
     historyView_->setTries(history_.tries());
-    historyNote_->setStringValue(note + localized("Try", "Your tries stay on this computer."));
+    historyNote_->setStringValue(
+        joined(Joint::Sentences, {note, localized("Try", "Your tries stay on this computer.")}));
 }
 
 void TryPage::exportHistory(NSButton*) {
     const std::string path = history_.exportCopy();
-    showHistory(path.empty() ? localized("Try", "The copy couldn’t be written. ")
-                             : filled(localized("Try", "Saved as %1. "), {path}));
+    showHistory(path.empty() ? localized("Try", "The copy couldn’t be written.")
+                             : filled(localized("Try", "Saved as %1."), {path}));
 }
 
 void TryPage::deleteHistory(NSButton*) {
     const bool isDeleted = history_.clear();
     if (isDeleted)
         window_.makeFirstResponder(againBtn_);
-    showHistory(isDeleted ? localized("Try", "All tries are deleted. ")
-                          : localized("Try", "The tries couldn’t be deleted. "));
+    showHistory(isDeleted ? localized("Try", "All tries are deleted.")
+                          : localized("Try", "The tries couldn’t be deleted."));
 }
 
 /// It can be chosen before a try and after one.

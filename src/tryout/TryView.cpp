@@ -171,5 +171,5 @@ std::string TryView::accessibilityValue() const {
     char text[200];
     std::snprintf(text, sizeof text, localized("Try", "The mark is %.1f mm from the top.").c_str(),
                   session_->mark());
-    return saying_ + ' ' + localizedNumbers(text);
+    return joined(Joint::Sentences, {saying_, localizedNumbers(text)});
 }

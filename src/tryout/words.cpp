@@ -79,15 +79,15 @@ std::string stoppedText(const Session& session) {
 }
 
 std::string hitsText(const Advice& advice, const Conditions& tried, const Measured& measured) {
-    return format(LOCALIZABLE("Try", "You stopped within %g mm of the mark %d times in %zu. "),
+    return format(LOCALIZABLE("Try", "You stopped within %g mm of the mark in %d of %zu sweeps."),
                   shownLength(tried.target / 2), advice.hits, measured.trials.size());
 }
 
 std::string evenText(const Advice& advice) {
     if (advice.timing.spread >= kFinestSpread)
         return {};
-    return localized(
-        "Try", "Your presses all came at the same moment, as far as this computer can tell. ");
+    return localized("Try",
+                     "Your presses all came at the same moment, as far as this computer can tell.");
 }
 
 std::string lineText(const Advice& advice) {
@@ -104,11 +104,11 @@ std::string clicksText(const Advice& advice, const Conditions& tried) {
     const int promised = tenths(advice.clicksPromised);
     const int expected = std::max(tenths(advice.clicks), promised);
     if (*advice.pointerTime == tried.pointer->time)
-        return format(LOCALIZABLE("Try", " With the pointer after it, at %.1f seconds, we expect "
+        return format(LOCALIZABLE("Try", "With the pointer after it, at %.1f seconds, we expect "
                                          "%d clicks in 10 to hit, and at least %d."),
                       *advice.pointerTime, expected, promised);
     return format(
-        LOCALIZABLE("Try", " With the pointer after it, at %.1f seconds instead of %.1f, we expect "
+        LOCALIZABLE("Try", "With the pointer after it, at %.1f seconds instead of %.1f, we expect "
                            "%d clicks in 10 to hit, and at least %d."),
         *advice.pointerTime, tried.pointer->time, expected, promised);
 }
@@ -158,33 +158,31 @@ std::string unsteadyText(const Advice& advice, const Measured& measured) {
 
 /// The settings that would steady the presses; empty when there was nothing to measure.
 std::string steadinessText(const Steadiness& steadiness) {
-    std::string text;
+    std::vector<std::string> texts;
     if (steadiness.preScanDelay)
-        text += format(LOCALIZABLE("Try", "Ready for the next press after %.1f seconds. "),
-                       *steadiness.preScanDelay);
+        texts.push_back(format(LOCALIZABLE("Try", "Ready for the next press after %.1f seconds."),
+                               *steadiness.preScanDelay));
     if (steadiness.afterClickDelay)
-        text += format(
+        texts.push_back(format(
             LOCALIZABLE("Try",
                         "Ignoring presses for %.1f seconds after a click would catch most of those "
-                        "that nothing asked for. "),
-            *steadiness.afterClickDelay);
+                        "that nothing asked for."),
+            *steadiness.afterClickDelay));
     if (steadiness.minTriggerDuration)
-        text += format(LOCALIZABLE("Try", "A shortest press of %.1f seconds would, too. "),
-                       *steadiness.minTriggerDuration);
+        texts.push_back(format(LOCALIZABLE("Try", "A shortest press of %.1f seconds would, too."),
+                               *steadiness.minTriggerDuration));
     if (steadiness.holdsOverlap)
-        text += localized(
+        texts.push_back(localized(
             "Try",
-            "They last as long as your other presses, so no shortest press tells them apart. ");
-    if (!text.empty())
-        text.pop_back();
-    return text;
+            "They last as long as your other presses, so no shortest press tells them apart."));
+    return joined(Joint::Sentences, texts);
 }
 
 std::string surestText(const Click& click) {
     if (click.pointer.time <= 0)
-        return format(LOCALIZABLE("Try", " %d in 10 takes %.1f seconds."), tenths(kSurestRate),
+        return format(LOCALIZABLE("Try", "%d in 10 takes %.1f seconds."), tenths(kSurestRate),
                       click.line.time);
-    return format(LOCALIZABLE("Try", " %d clicks in 10 to hit takes %.1f seconds for the line and "
+    return format(LOCALIZABLE("Try", "%d clicks in 10 to hit takes %.1f seconds for the line and "
                                      "%.1f for the pointer."),
                   tenths(kSurestRate), click.line.time, click.pointer.time);
 }
@@ -193,20 +191,24 @@ std::string surestText(const Click& click) {
 std::string numbersText(const Advice& advice) {
     if (advice.presses < kFewestTrials)
         return {};
-    std::string text = format(
+    const std::string text = format(
         LOCALIZABLE("Try", "Lateness %.0f ms, spread %.0f ms (%.0f ms at most), from %d presses."),
         advice.timing.lateness * 1000, advice.timing.spread * 1000, advice.cautious.spread * 1000,
         advice.presses);
-    if (advice.costOfMiss)
-        text += format(LOCALIZABLE("Try", " After a miss it took %.1f seconds to go on."),
-                       *advice.costOfMiss);
-    if (advice.surest)
-        text += surestText(*advice.surest);
-    return text;
+    const std::string onMiss =
+        advice.costOfMiss
+            ? format(LOCALIZABLE("Try", "After a miss it took %.1f seconds to go on."),
+                     *advice.costOfMiss)
+            : "";
+    return joined(Joint::Sentences,
+                  {text, onMiss, advice.surest ? surestText(*advice.surest) : ""});
 }
 
 std::string verdictText(const Advice& advice, const Conditions& tried, const Measured& measured) {
-    const std::string hits = hitsText(advice, tried, measured) + evenText(advice);
+    const auto withHits = [&](const std::string& text, const std::string& more = {}) {
+        return joined(Joint::Sentences,
+                      {hitsText(advice, tried, measured), evenText(advice), text, more});
+    };
     switch (advice.verdict) {
     case Verdict::NothingPressed:
         return localized(
@@ -222,17 +224,16 @@ std::string verdictText(const Advice& advice, const Conditions& tried, const Mea
             "Try", "The presses came at other moments than the marks, so we can’t suggest a speed. "
                    "Wait for the line to reach the mark, then press.");
     case Verdict::Tired:
-        return hits +
-               localized("Try",
-                         "The presses became less even from sweep to sweep. Have a rest, then try "
-                         "once more.");
+        return withHits(localized(
+            "Try", "The presses became less even from sweep to sweep. Have a rest, then try "
+                   "once more."));
     case Verdict::Keep:
     case Verdict::Change:
-        return hits + lineText(advice) + clicksText(advice, tried);
+        return withHits(lineText(advice), clicksText(advice, tried));
     case Verdict::TryAgain:
-        return hits + tryAgainText(advice, tried);
+        return withHits(tryAgainText(advice, tried));
     case Verdict::OutOfReach:
-        return hits + outOfReachText(advice, tried);
+        return withHits(outOfReachText(advice, tried));
     }
     return {};
 }
@@ -242,14 +243,15 @@ std::string verdictText(const Advice& advice, const Conditions& tried, const Mea
 std::string resultText(const Advice& advice, const Conditions& tried, const Measured& measured,
                        Trigger::Way way) {
     const std::string text = verdictText(advice, tried, measured);
-    return way != Trigger::Way::Step
-               ? text
-               : text + localized("Try", " That is for a line that sweeps; as you have set it, it "
-                                         "moves one step a press.");
+    if (way != Trigger::Way::Step)
+        return text;
+    return joined(Joint::Sentences,
+                  {text, localized("Try", "That is for a line that sweeps; as you have set it, it "
+                                          "moves one step a press.")});
 }
 
 std::string sharedKeysText() {
-    return localized("Try", " On this desktop no window can keep keys for itself, so your switch "
+    return localized("Try", "On this desktop no window can keep keys for itself, so your switch "
                             "may scan as well meanwhile.");
 }
 
@@ -265,8 +267,7 @@ std::string targetText(double height, bool isPaletteButton) {
 }
 
 std::string detailsText(const Advice& advice, const Steadiness& steadiness) {
-    const std::string numbers = numbersText(advice), steady = steadinessText(steadiness);
-    return numbers + (numbers.empty() || steady.empty() ? "" : " ") + steady;
+    return joined(Joint::Sentences, {numbersText(advice), steadinessText(steadiness)});
 }
 
 std::string courseText(const Session& session, const Trigger& trigger) {
@@ -287,8 +288,8 @@ std::string courseText(const Session& session, const Trigger& trigger) {
 
 std::string pastTryText(const PastTry& past) {
     return format(
-        LOCALIZABLE(
-            "Try", "%s: %.1f seconds, %.0f hits and %.0f misses, lateness %.0f ms, spread %.0f ms"),
+        LOCALIZABLE("Try",
+                    "%s: %.1f seconds, hits: %.0f, misses: %.0f, lateness %.0f ms, spread %.0f ms"),
         past.date.c_str(), past.sweepTime, past.hits, past.misses, past.lateness * 1000,
         past.spread * 1000);
 }

@@ -105,11 +105,15 @@ class Desktop:
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
             **self.environment,
         )
-        bus = ("--session", "--nofork", f"--address=unix:path={runtime}/bus")
-        _, os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start_and_ask(
-            "dbus-daemon", *bus, "--print-address"
-        )
+        self.open_bus("dbus-daemon")
         self.open_display()
+
+    def open_bus(self, *daemon: str) -> None:
+        """Starts the session bus with a command."""
+        bus = ("--session", "--nofork", f"--address=unix:path={self.folder}/run/bus")
+        _, os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start_and_ask(
+            *daemon, *bus, "--print-address"
+        )
 
     def open_display(self) -> None:
         """Starts a display server, `display`, and its window manager."""

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""Installs a package into a clean Debian system, opens the pane there, changes a setting, and removes
-the package again. Wants root's rights.
+"""Installs a package into a clean Debian system, finds the pane by name in a menu of applications there
+and opens it, changes settings, has the bus open it as well, and removes the package again. Wants root's
+rights.
 
     python3 -m tests.e2e.package KORVEX.deb OUT_DIR
 """
@@ -11,20 +12,27 @@ import tempfile
 from contextlib import ExitStack
 from pathlib import Path
 
-from tests.e2e.desktop import Desktop, exit_on_signals, given
-from tests.e2e.screen import Screen, press
+from tests.e2e.desktop import Desktop, exit_on_signals, given, process_of
+from tests.e2e.screen import Screen, press, run, until_at_rest
 from tests.e2e.waiting import PATIENCE, check, until
 
 PROGRAM = "korvex-preferences"
+NAME = "org.korvex.Preferences"
+MENU = "xfce4-appfinder"
+CHROOT = "/usr/sbin/chroot"
+FIND = f"from gi.repository import Gio; print(Gio.DesktopAppInfo.search('korvex')[0][0] == '{NAME}.desktop')"
 
 
 def install(package: Path, root: Path) -> None:
-    """Makes a minimal Debian in a folder, with the package and what it depends on."""
+    """Makes a minimal Debian in a folder, with the package, what it depends on and recommends, and a menu
+    of applications."""
     inside = f"/tmp/{package.name}"
     hooks = (
         f"--customize-hook=copy-in {package} /tmp",
-        f'--customize-hook=chroot "$1" apt-get install -qq -y --no-install-recommends {inside}',
+        f'--customize-hook=chroot "$1" apt-get install -qq -y --install-recommends {inside}',
         f'--customize-hook=rm "$1{inside}"',
+        '--customize-hook=chroot "$1" apt-get install -qq -y --no-install-recommends'
+        f" {MENU} libgtk-3-bin python3-gi",
     )
     command = ("mmdebstrap", "--quiet", "--variant=apt", *hooks, "bookworm", root)
     done = subprocess.run(command, capture_output=True, text=True, check=False)
@@ -38,27 +46,73 @@ def remove(root: Path) -> None:
     check(not left, f"removing it leaves {left}")
 
 
-def bind(folder: Path, root: Path, undo: ExitStack) -> None:
-    """Has the folder in sight at the same path inside."""
-    place = root / folder.relative_to("/")
-    place.mkdir(parents=True, exist_ok=True)
-    subprocess.run(("mount", "--bind", folder, place), check=True)
-    undo.callback(subprocess.run, ("umount", place), check=True)
+class InstalledDesktop(Desktop):
+    """A desktop whose programs and bus are those of the system in the folder `root`."""
+
+    def __init__(self, root: Path, undo: ExitStack):
+        super().__init__(1024, 768, {"NO_AT_BRIDGE": "1", "XDG_CURRENT_DESKTOP": "XFCE"}, first_start=True)
+        self.root, self.undo = root, undo
+
+    def open_bus(self, *daemon: str) -> None:
+        place = self.root / self.folder.relative_to("/")
+        place.mkdir(parents=True)
+        subprocess.run(("mount", "--bind", self.folder, place), check=True)
+        self.undo.callback(subprocess.run, ("umount", "--lazy", place), check=True)
+        super().open_bus(CHROOT, str(self.root), *daemon)
+
+    def run(self, *command: str) -> subprocess.Popen:
+        return self.start(CHROOT, str(self.root), *command)
 
 
-def open_and_change(desktop: Desktop, root: Path, out: Path) -> None:
-    screen = Screen()
-    program = desktop.start(Path("/usr/sbin/chroot"), str(root), f"/usr/bin/{PROGRAM}")
-    screen.find("Not now", "push button")
+class Visit:
+    """What is done in the window that something has opened."""
+
+    def __init__(self, screen: Screen):
+        self.screen = screen
+
+    def lengthen(self, seconds: float) -> None:
+        self.screen.click("Line scan time, longer", "push button")
+        slider = self.screen.find("Line scan time", "slider")
+        until(lambda: slider.value == seconds, f"the time becomes {seconds}")
+
+    def close(self) -> None:
+        press("key", "alt+F4")
+        until(lambda: not self.screen.windows(PROGRAM), "the window closes")
+
+
+def open_itself(desktop: InstalledDesktop, visit: Visit) -> None:
+    program = desktop.run(f"/usr/bin/{PROGRAM}")
+    visit.screen.find("Not now", "push button")
     press("key", "Escape")
-    screen.click("Start", "push button")
-    screen.click("Line scan time, longer", "push button")
-    slider = screen.find("Line scan time", "slider")
-    until(lambda: slider.value == 10.5, "the setting changes")
-    screen.picture(out / "installed.png")
-    press("key", "alt+F4")
+    visit.screen.click("Start", "push button")
+    visit.lengthen(10.5)
+    visit.close()
     status = program.wait(PATIENCE)
     check(status == 0, f"the program ended with {status}: {desktop.output_of('chroot')}")
+
+
+def open_from_menu(desktop: InstalledDesktop, visit: Visit, out: Path) -> None:
+    """Its name is typed, and Return pressed."""
+    desktop.run(MENU)
+    until(lambda: visit.screen.windows(MENU), "the menu is there")
+    empty = until_at_rest(lambda: run("maim"))
+    press("type", "korvex")
+    until(lambda: run("maim") != empty, "the menu looks for it")
+    visit.screen.picture(out / "menu.png")
+    press("key", "Return")
+    visit.lengthen(11)
+    visit.screen.picture(out / "installed.png")
+    visit.close()
+
+
+def open_by_bus(desktop: InstalledDesktop, visit: Visit) -> None:
+    """As GNOME's menu does: the bus is asked, and starts it."""
+    check(desktop.run("/usr/bin/python3", "-c", f"{FIND} or exit(1)").wait(PATIENCE) == 0, "not found by name")
+    check(desktop.run("gtk-launch", NAME).wait(PATIENCE) == 0, desktop.output_of("chroot"))
+    visit.lengthen(11.5)
+    command = Path(f"/proc/{process_of(NAME)}/cmdline").read_bytes().split(b"\0")
+    check(b"--service" in command, f"the bus has started {command}")
+    visit.close()
 
 
 def main(*arguments: str) -> None:
@@ -68,15 +122,20 @@ def main(*arguments: str) -> None:
         folder = Path(undo.enter_context(tempfile.TemporaryDirectory(prefix="korvex-system.")))
         root = folder / "root"
         install(package, root)
-        desktop = undo.enter_context(Desktop(1024, 768, {}, first_start=True))
-        bind(desktop.folder, root, undo)
-        open_and_change(desktop, root, out)
+        print("Installed into a clean system", flush=True)
+        desktop = undo.enter_context(InstalledDesktop(root, undo))
+        visit = Visit(Screen())
+        open_itself(desktop, visit)
+        open_from_menu(desktop, visit, out)
+        print("Found by name in a menu, opened from there, a setting changed", flush=True)
+        open_by_bus(desktop, visit)
+        print("Found by name, opened by the bus, a setting changed", flush=True)
         remove(root)
         stored = plistlib.loads((desktop.config / "Preferences/org.korvex.Agent.plist").read_bytes())
-        check(stored["scanner.lineScanTime"] == "10.500000", "the user's settings are gone")
+        check(stored["scanner.lineScanTime"] == "11.500000", "the user's settings are gone")
         autostart = desktop.config / "autostart"
         check(not autostart.exists(), "without an agent, something starts at login")
-    print("Installed, opened, changed, removed: nothing is left but the user's settings")
+    print("Removed: nothing is left but the user's settings")
 
 
 if __name__ == "__main__":

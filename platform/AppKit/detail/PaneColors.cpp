@@ -11,6 +11,7 @@ namespace {
 
 constexpr double kReadable = 8.2; // above the 7 : 1 and 3 : 1 that are asked for, since the ground
 constexpr double kVisible = 3.3;  // of what is chosen is a little nearer and strokes may be thin
+constexpr double kHighContrast = 20; // between ground and text, where the user wishes for the most
 
 double luminance(const QColor& color) {
     const auto linear = [](float part) {
@@ -59,11 +60,12 @@ PaneColors derive(const Given& given) {
     const QColor text = its.text = standingOut(givenText, farthest, {ground, card}, kReadable);
     its.buttonFace = blend(card, text, 0.03F);
     its.pressed = blend(card, text, 0.15F);
-    its.cardLine = blend(ground, text, 0.18F);
+    const bool isHigh = contrastBetween(ground, text) >= kHighContrast;
+    its.cardLine = blend(ground, text, isHigh ? 0.45F : 0.18F);
     const std::initializer_list<QColor> grounds = {ground, card, its.buttonFace};
     its.quietText = standingOut(blend(ground, text, 0.6F), text, grounds, kReadable);
     its.disabledText = standingOut(ground, text, grounds, kVisible);
-    its.mark = standingOut(blend(ground, text, 0.3F), text, grounds, kVisible);
+    its.mark = standingOut(blend(ground, text, 0.3F), text, grounds, isHigh ? kReadable : kVisible);
     its.accent = standingOut(highlight, farthest, {ground, card}, kReadable);
     const bool cardIsFarther =
         contrastBetween(its.accent, card) >= contrastBetween(its.accent, ground);

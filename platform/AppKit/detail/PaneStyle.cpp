@@ -100,6 +100,17 @@ void drawRadio(QPainter& painter, const QStyleOption& option) {
     painter.drawEllipse(square.adjusted(6, 6, -6, -6));
 }
 
+void drawArrow(QPainter& painter, const QStyleOption& option) {
+    const Smooth smooth(painter);
+    const PaneColors colors(option.palette);
+    const QPointF middle = QRectF(option.rect).center();
+    const QColor color = has(option, QStyle::State_Enabled) ? colors.text : colors.disabledText;
+    painter.setPen(QPen(color, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolyline(
+        QPolygonF({middle + QPointF(-4, -2), middle + QPointF(0, 2), middle + QPointF(4, -2)}));
+}
+
 QRect sliderHandle(const QStyleOptionSlider& option) {
     const int room = option.rect.width() - kIndicator;
     const int place = QStyle::sliderPositionFromValue(
@@ -185,12 +196,21 @@ void PaneStyle::polish(QPalette& palette) {
     }
 }
 
+// Some styles hide the letters until Alt is held.
+void PaneStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                             const QPalette& palette, bool enabled, const QString& text,
+                             QPalette::ColorRole role) const {
+    QStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
+}
+
 int PaneStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                          QStyleHintReturn* data) const {
     if (hint == SH_UnderlineShortcut)
         return 1;
     if (hint == SH_FocusFrame_Mask)
         return 0; // the ring's corners are round
+    if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText)
+        return 0; // its own colour tells enough
     return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
@@ -265,6 +285,8 @@ void PaneStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         return drawControlBox(*painter, *option, PaneColors(option->palette).card);
     case PE_FrameLineEdit:
         return; // drawn with its panel
+    case PE_IndicatorArrowDown:
+        return drawArrow(*painter, *option);
     case PE_Frame:
         return drawBox(*painter, QRectF(option->rect), Qt::NoBrush,
                        PaneColors(option->palette).mark, kBorder);
@@ -295,6 +317,9 @@ void PaneStyle::drawControl(ControlElement element, const QStyleOption* option, 
         }
         return;
     }
+    // What lies on the button's own face, in its text's colour, whatever the desktop's style does.
+    if (element == CE_PushButtonLabel || element == CE_ToolButtonLabel)
+        return QCommonStyle::drawControl(element, option, painter, widget);
     if (element == CE_FocusFrame)
         return drawBox(*painter, QRectF(option->rect), Qt::NoBrush,
                        PaneColors(option->palette).accent, kRing);
@@ -309,5 +334,7 @@ void PaneStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     if (const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
         box && control == CC_GroupBox && !(box->subControls & SC_GroupBoxCheckBox))
         return drawCard(*painter, *box, widget);
+    if (control == CC_ToolButton)
+        return QCommonStyle::drawComplexControl(control, option, painter, widget);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }

@@ -15,6 +15,8 @@ public:
     void polish(QPalette& palette) override;
     using QProxyStyle::polish;
 
+    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                      bool enabled, const QString& text, QPalette::ColorRole role) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option,

@@ -2,6 +2,7 @@
 #include "platform/AppKit/detail/SliderAccessibility.h"
 
 #include "platform/AppKit/detail/SliderWidget.h"
+#include "platform/CoreFoundation/Localization.h"
 
 #include <QAccessibleWidget>
 
@@ -27,7 +28,8 @@ public:
             return slider_->valueText();
         if (kind != QAccessible::Description || slider_->valueText().isEmpty())
             return own;
-        return own.isEmpty() ? slider_->valueText() : slider_->valueText() + ". " + own;
+        return QString::fromStdString(
+            joined(Joint::Value, {slider_->valueText().toStdString(), own.toStdString()}));
     }
 
     QVariant currentValue() const override { return slider_->doubleValue(); }

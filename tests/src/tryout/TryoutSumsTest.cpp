@@ -134,7 +134,7 @@ TEST(TryoutAdvice, EachKindOfUserGetsWordsOfTheirOwn) {
          13.5, "quicker line"},
         {"even", tryOf(kEven), 12, Verdict::Keep, 12, "12.0 seconds suits you: we expect 8 in 10"},
         {"uneven", withExtras(tryOf(kUneven), 3), 12, Verdict::Change, 22,
-         "10 times in 12. At 22.0 seconds we expect 9 in 10"},
+         "in 10 of 12 sweeps. At 22.0 seconds we expect 9 in 10"},
         {"slow", tryOf(late), 10, Verdict::TryAgain, 20, "slower line"},
         {"slowest", tryOf(late), 40, Verdict::OutOfReach, 40, "Even at 60 seconds"},
     };
