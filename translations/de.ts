@@ -2104,7 +2104,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Sound, login, profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Ton, Anmeldung, Profile</translation>
     </message>
 </context>
 <context>

@@ -2104,7 +2104,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Sound, login, profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Son, démarrage, profils</translation>
     </message>
 </context>
 <context>

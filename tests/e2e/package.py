@@ -20,7 +20,7 @@ PROGRAM = "korvex-preferences"
 NAME = "org.korvex.Preferences"
 MENU = "xfce4-appfinder"
 CHROOT = "/usr/sbin/chroot"
-FIND = f"from gi.repository import Gio; print(Gio.DesktopAppInfo.search('korvex')[0][0] == '{NAME}.desktop')"
+FIND = f"from gi.repository import Gio; exit(['{NAME}.desktop'] not in Gio.DesktopAppInfo.search('korvex'))"
 
 
 def install(package: Path, root: Path) -> None:
@@ -107,7 +107,9 @@ def open_from_menu(desktop: InstalledDesktop, visit: Visit, out: Path) -> None:
 
 def open_by_bus(desktop: InstalledDesktop, visit: Visit) -> None:
     """As GNOME's menu does: the bus is asked, and starts it."""
-    check(desktop.run("/usr/bin/python3", "-c", f"{FIND} or exit(1)").wait(PATIENCE) == 0, "not found by name")
+    # As a session does when it starts: the bus came before the display.
+    check(desktop.run("dbus-update-activation-environment", "--all").wait(PATIENCE) == 0, "no display told")
+    check(desktop.run("/usr/bin/python3", "-c", FIND).wait(PATIENCE) == 0, "not found by name")
     check(desktop.run("gtk-launch", NAME).wait(PATIENCE) == 0, desktop.output_of("chroot"))
     visit.lengthen(11.5)
     command = Path(f"/proc/{process_of(NAME)}/cmdline").read_bytes().split(b"\0")
