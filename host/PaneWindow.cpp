@@ -21,8 +21,8 @@ PaneWindow::PaneWindow(QWidget* pane) : pane_(pane), formSize_(pane->size()) {
     auto* rows = new QVBoxLayout(content);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
-    rows->addWidget(new Strip(content));
     rows->addWidget(scroller, 1);
+    rows->addWidget(new Strip(content)); // below, so that what is pressed stays where it is
     setCentralWidget(content);
     for (const auto key : {Qt::CTRL | Qt::Key_W, Qt::CTRL | Qt::Key_Q})
         new QShortcut(QKeySequence(key), this, this, &QWidget::close);

@@ -55,8 +55,8 @@ Strip::Strip(QWidget* parent)
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
-    all->addLayout(content);
     all->addWidget(edge);
+    all->addLayout(content);
     setMessageListener([this] { showCurrent(); });
     showCurrent();
 }

@@ -97,6 +97,12 @@ SettingsOffer readProfile(const std::string& name, const PrefsRecord& base) {
     return offer;
 }
 
+ProfileStamp profileStamp(const std::string& name) {
+    std::error_code error;
+    const auto time = fs::last_write_time(pathOf(name), error);
+    return {time, fs::file_size(pathOf(name), error)};
+}
+
 std::string renameProfile(const std::string& name, const std::string& newName) {
     if (const std::string fault = profileNameFault(newName); !fault.empty())
         return fault;

@@ -3,6 +3,10 @@
 
 #include "src/settingsfile.h"
 
+#include <cstdint>
+#include <filesystem>
+#include <utility>
+
 // Named states of the settings, such as "Morning" or "Tired": a file of settings each, in
 // korvex/profiles under the user's data folder. Names and messages are in UTF-8. An operation that
 // can fail returns why, in words, or an empty text.
@@ -26,6 +30,11 @@ std::string freeProfileName(const std::string& name);
 
 /// What it offers over `base`; its error is set when there is none of that name.
 SettingsOffer readProfile(const std::string& name, const PrefsRecord& base);
+
+/// Tells whether a profile's file is still the one that was read: when it was written, and its
+/// size.
+using ProfileStamp = std::pair<std::filesystem::file_time_type, std::uintmax_t>;
+ProfileStamp profileStamp(const std::string& name);
 
 /// Fails when the new name is taken, and when the one in use would lose its place as that.
 std::string renameProfile(const std::string& name, const std::string& newName);

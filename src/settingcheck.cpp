@@ -6,6 +6,7 @@
 #include "src/settingwords.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -45,6 +46,14 @@ void setNumber(const Setting& setting, double value, PrefsRecord& record) {
         std::memcpy(setting.in(record), &whole, sizeof whole);
 }
 
+/// A list's text as it is compared: without blanks, in small letters.
+std::string bare(const CFString* text) {
+    std::string result = text ? toUTF8(text) : "";
+    std::erase(result, ' ');
+    std::ranges::transform(result, result.begin(), [](unsigned char c) { return std::tolower(c); });
+    return result;
+}
+
 /// "12.5" and what may stand behind it: the unit, its beginning, or %.
 std::optional<double> numberFrom(std::string words, const std::string& unit) {
     double value;
@@ -78,6 +87,15 @@ std::string settingFault(const Setting& setting, const PrefsRecord& record) {
         return choiceWords(setting);
     if (setting.notation == &kRealNotation && !std::isfinite(settingNumber(setting, record)))
         return localized("Faults", "not a number");
+    const auto& [x, y, width, height] = record.scanArea;
+    if (setting.notation == &kRectangleNotation && !std::isfinite(x + y + width + height))
+        return localized("Faults", "not a value of this setting");
+    if (setting.offset == offsetof(PrefsRecord, useScanArea) && record.useScanArea &&
+        !isUsable(record.scanArea))
+        return localized("Faults", "there is no area of your own yet");
+    if (setting.offset == offsetof(PrefsRecord, buttonContent) &&
+        record.buttonContent > (kButtonContentIcon | kButtonContentName))
+        return filled(localized("Faults", "outside %1"), {rangeText({.maximum = 3})});
     if (setting.notation == &kSizeNotation && !(isWithin(setting.limits, record.buttonSize.width) &&
                                                 isWithin(setting.limits, record.buttonSize.height)))
         return rangeWords(setting.limits);
@@ -89,6 +107,22 @@ std::string settingFault(const Setting& setting, const PrefsRecord& record) {
         std::ranges::any_of(actions, [](UInt8 action) { return action >= kNumActions; }))
         return localized("Faults", "an action that there isn't");
     return {};
+}
+
+// What is stored is read as far as it goes; from outside, a list of other length or with numbers
+// that don't fit would lose some of them.
+std::string setFromValue(const Setting& setting, const CFType* value, PrefsRecord& record) {
+    PrefsRecord changed = record;
+    const bool isList =
+        setting.notation == &kHotKeyListNotation || setting.notation == &kActionListNotation;
+    if (!setting.notation->read(value, setting.in(changed)) ||
+        (isList && bare(dynamicCFCast<CFString>(value)) !=
+                       bare(setting.notation->write(setting.in(changed)).get())))
+        return localized("Faults", "not a value of this setting");
+    std::string fault = settingFault(setting, changed);
+    if (fault.empty())
+        record = changed;
+    return fault;
 }
 
 std::string setFromWords(const Setting& setting, const std::string& words, PrefsRecord& record) {
@@ -114,11 +148,10 @@ std::string setFromWords(const Setting& setting, const std::string& words, Prefs
                                  : isOn                             ? "yes"
                                  : isOff                            ? "no"
                                                                     : words;
-        if (!setting.notation->read(createFromUTF8(text).get(), setting.in(changed)))
-            return localized("Faults", "not a value of this setting");
-        if (std::string fault = settingFault(setting, changed); !fault.empty())
-            return fault;
+        return setFromValue(setting, createFromUTF8(text).get(), record);
     }
+    if (std::string fault = settingFault(setting, changed); !fault.empty())
+        return fault;
     record = changed;
     return {};
 }

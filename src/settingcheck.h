@@ -12,7 +12,10 @@
 /// within its limits, a choice is one of the choices.
 std::string settingFault(const Setting& setting, const PrefsRecord& record);
 
-/// Puts a value in people's words or in its stored text into the record: "12.5", "12.5 sec", "60%",
-/// "on", "no", a choice's words or number, "(40,40)". Returns why it can't be, and leaves the
-/// record then; empty when it could.
+/// Puts a stored value into the record. Returns why it can't be, and leaves the record then; empty
+/// when it could.
+std::string setFromValue(const Setting& setting, const CFType* value, PrefsRecord& record);
+
+/// The same with a value in people's words or with its stored text: "12.5", "12.5 sec", "60%",
+/// "on", "no", a choice's words or number, "(40,40)".
 std::string setFromWords(const Setting& setting, const std::string& words, PrefsRecord& record);

@@ -7,6 +7,11 @@
 #include "src/proputil.h"
 #include "src/settingcheck.h"
 
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+
 namespace {
 
 /// Takes one value over; returns why it can't be, or an empty text.
@@ -14,14 +19,22 @@ std::string take(const std::string& key, const CFType* value, SettingsOffer& off
     const Setting* setting = settingOfKey(key);
     if (!setting)
         return localized("Faults", "no setting of this version");
-    PrefsRecord record = offer.record;
-    if (!setting->notation->read(value, setting->in(record)))
-        return localized("Faults", "not a value of this setting");
-    if (const std::string fault = settingFault(*setting, record); !fault.empty())
-        return fault;
-    offer.record = record;
-    offer.settings[static_cast<std::size_t>(setting - kSettings.data())] = true;
-    return {};
+    std::string fault = setFromValue(*setting, value, offer.record);
+    if (fault.empty())
+        offer.settings[static_cast<std::size_t>(setting - kSettings.data())] = true;
+    return fault;
+}
+
+/// Why a file that isn't taken as one of settings isn't.
+std::string fileFault(const std::string& path) {
+    std::error_code error;
+    const auto size = std::filesystem::file_size(path, error);
+    if (error)
+        return error.message();
+    if (size > kPropertyListMaxSize)
+        return localized("Faults", "larger than a file of settings can be");
+    return std::ifstream(path) ? localized("Faults", "damaged, or no file of settings")
+                               : std::strerror(errno);
 }
 
 } // namespace
@@ -41,7 +54,7 @@ SettingsOffer readSettingsFile(const std::string& path, const PrefsRecord& base)
     const auto list = propUtilReadFile(url.get(), CFDictionaryGetTypeID());
     const auto* dictionary = dynamicCFCast<CFDictionary>(list.get());
     if (!dictionary) {
-        offer.error = localized("Faults", "not a file of settings, or it can't be read");
+        offer.error = fileFault(path);
         return offer;
     }
     for (const auto& [key, value] : dictionary->items()) {

@@ -28,7 +28,7 @@ std::string settingsDocument(const SettingSet& settings, const PrefsRecord& reco
 
 /// Reads a file over `base`. Unknown keys, values of another kind and numbers outside their range
 /// are refused one by one; a file that is no property list with a dictionary at its root as a
-/// whole.
+/// whole. No version is noted in a file: what a newer one brings are such keys and values.
 SettingsOffer readSettingsFile(const std::string& path, const PrefsRecord& base);
 
 /// Writes a file as a whole; returns errno's number, 0 for none.

@@ -195,10 +195,10 @@ std::string changeText(const Setting& setting, const PrefsRecord& before, const 
                        const char* pattern) {
     const std::string sentence = localized("Changes", pattern);
     if (const auto parts = partChanges(setting, before, after); !parts.empty()) {
-        std::string text;
+        std::vector<std::string> texts;
         for (const auto& [name, old, now] : parts)
-            text += (text.empty() ? "" : "; ") + filled(sentence, {name, old, now});
-        return text;
+            texts.push_back(filled(sentence, {name, old, now}));
+        return joined(Joint::Clauses, texts);
     }
     const std::string old = settingText(setting, before);
     const std::string now = settingText(setting, after);

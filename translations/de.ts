@@ -397,8 +397,16 @@
         <translation>keine Einstellung dieser Version</translation>
     </message>
     <message>
-        <source>not a file of settings, or it can&apos;t be read</source>
-        <translation>keine Datei mit Einstellungen, oder nicht lesbar</translation>
+        <source>there is no area of your own yet</source>
+        <translation>es gibt noch keinen eigenen Bereich</translation>
+    </message>
+    <message>
+        <source>larger than a file of settings can be</source>
+        <translation>größer, als eine Datei mit Einstellungen sein kann</translation>
+    </message>
+    <message>
+        <source>damaged, or no file of settings</source>
+        <translation>beschädigt oder keine Datei mit Einstellungen</translation>
     </message>
 </context>
 <context>
@@ -2296,8 +2304,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>„%1“ und „%2“ haben dieselben Einstellungen.</translation>
     </message>
     <message>
-        <source>After “%2”, “%1” would change:</source>
-        <translation>Nach „%2“ würde „%1“ ändern:</translation>
+        <source>“%1” in place of “%2” would change:</source>
+        <translation>„%1“ anstelle von „%2“ würde ändern:</translation>
     </message>
 </context>
 <context>

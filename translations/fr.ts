@@ -319,11 +319,11 @@
     </message>
     <message>
         <source>Lists, uses and compares named states of the settings; compare says what differs between two, or between one and the settings.</source>
-        <translation>Liste, utilise et compare des états nommés des réglages ; compare dit ce qui distingue deux d’entre eux, ou un seul des réglages.</translation>
+        <translation>Liste, utilise et compare des états nommés des réglages&#xa0;; compare dit ce qui distingue deux d’entre eux, ou un seul des réglages.</translation>
     </message>
     <message>
         <source>which profile is in use can&apos;t be kept: %1</source>
-        <translation>impossible de retenir quel profil est utilisé : %1</translation>
+        <translation>impossible de retenir quel profil est utilisé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Nothing differs.</source>
@@ -397,8 +397,16 @@
         <translation>ce n’est pas un réglage de cette version</translation>
     </message>
     <message>
-        <source>not a file of settings, or it can&apos;t be read</source>
-        <translation>ce n’est pas un fichier de réglages, ou il est illisible</translation>
+        <source>there is no area of your own yet</source>
+        <translation>il n’y a pas encore de zone à vous</translation>
+    </message>
+    <message>
+        <source>larger than a file of settings can be</source>
+        <translation>plus grand qu’un fichier de réglages ne peut l’être</translation>
+    </message>
+    <message>
+        <source>damaged, or no file of settings</source>
+        <translation>endommagé, ou pas un fichier de réglages</translation>
     </message>
 </context>
 <context>
@@ -2281,7 +2289,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Which profile is in use can’t be kept: %1.</source>
-        <translation>Impossible de retenir quel profil est utilisé : %1.</translation>
+        <translation>Impossible de retenir quel profil est utilisé&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The settings as they are</source>
@@ -2289,15 +2297,15 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>“%1”</source>
-        <translation>« %1 »</translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>“%1” and “%2” have the same settings.</source>
-        <translation>« %1 » et « %2 » ont les mêmes réglages.</translation>
+        <translation>«&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» ont les mêmes réglages.</translation>
     </message>
     <message>
-        <source>After “%2”, “%1” would change:</source>
-        <translation>Après « %2 », « %1 » changerait :</translation>
+        <source>“%1” in place of “%2” would change:</source>
+        <translation>«&#xa0;%1&#xa0;» à la place de «&#xa0;%2&#xa0;» changerait&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -2605,7 +2613,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>“%1”</source>
         <comment>what is chosen</comment>
-        <translation>« %1 »</translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Palette button %1</source>
@@ -2743,7 +2751,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Should this window crash, your last changes would be lost: %1.</source>
-        <translation>Si cette fenêtre plantait, vos derniers changements seraient perdus : %1.</translation>
+        <translation>Si cette fenêtre plantait, vos derniers changements seraient perdus&#xa0;: %1.</translation>
     </message>
 </context>
 <context>

@@ -4,7 +4,34 @@
 #include "platform/AppKit/NSView.h"
 #include "platform/AppKit/detail/PutBackButton.h"
 
+#include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
+
+namespace {
+
+/// One more press of a key does something.
+bool isPressed(const QWidget* widget) {
+    return qobject_cast<const QPushButton*>(widget) || qobject_cast<const QToolButton*>(widget);
+}
+
+bool canBeOperated(const QWidget* widget) {
+    return (widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() && widget->isVisible() &&
+           !qobject_cast<const QLineEdit*>(widget) && !dynamic_cast<const PutBackButton*>(widget);
+}
+
+/// The first by Tab in the widget, or itself; null for none.
+QWidget* firstIn(const QWidget* around, bool orButton) {
+    QWidget* const window = around->window();
+    for (QWidget* each = window->nextInFocusChain(); each != window;
+         each = each->nextInFocusChain())
+        if ((each == around || around->isAncestorOf(each)) && canBeOperated(each) &&
+            (orButton || !isPressed(each)))
+            return each;
+    return nullptr;
+}
+
+} // namespace
 
 void setRowMark(const NSView& view, const std::string& label, std::function<void()> press) {
     const QString text = QString::fromStdString(label);
@@ -20,4 +47,14 @@ void setRowMark(const NSView& view, const std::string& label, std::function<void
     for (QWidget* row = view.widget(); row; row = row->parentWidget())
         if (auto* button = PutBackButton::of(*row))
             return button->offer(text, std::move(press));
+}
+
+void focusRow(const NSView& view) {
+    for (auto* radio : view.widget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
+        if (radio->isChecked())
+            return radio->setFocus(Qt::OtherFocusReason);
+    for (const QWidget* around = view.widget(); around; around = around->parentWidget())
+        for (const bool orButton : {false, true})
+            if (QWidget* found = firstIn(around, orButton))
+                return found->setFocus(Qt::OtherFocusReason);
 }

@@ -6,7 +6,7 @@
 #include <vector>
 
 // What a program has to tell its user without standing in the way: the host shows it in a strip at
-// the top of its window, one message at a time, alerts first. No operation of the platform. Main
+// the bottom of its window, one message at a time, alerts first. No operation of the platform. Main
 // thread only; texts are UTF-8.
 
 struct UserMessage {

@@ -138,7 +138,7 @@ void Writer::run() {
         lock.unlock();
         const int error = replace(path, content);
         lock.lock();
-        note(outcomeOf(error, path));
+        note(outcomeOf(error, fs::path(path).parent_path()));
         if (error)
             continue;
         for (const std::string& left : released)

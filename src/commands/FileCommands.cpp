@@ -16,8 +16,29 @@
 
 namespace {
 
-void printChanges(const PrefsRecord& before, const PrefsRecord& after) {
+/// What is different, for programs.
+void printChangesJson(const PrefsRecord& before, const PrefsRecord& after) {
     const SettingSet changed = differences(before, after);
+    std::string items;
+    for (std::size_t i = 0; i < kSettings.size(); ++i)
+        if (changed[i])
+            items +=
+                (items.empty() ? "" : ",\n ") + JsonObject()
+                                                    .add("key", kSettings[i].key)
+                                                    .add("from", settingText(kSettings[i], before))
+                                                    .add("to", settingText(kSettings[i], after))
+                                                    .text();
+    std::printf("[%s]\n", items.c_str());
+}
+
+/// Says what is different, or with `none` that nothing is.
+void printChanges(const CommandLine& line, const PrefsRecord& before, const PrefsRecord& after,
+                  const std::string& none) {
+    const SettingSet changed = differences(before, after);
+    if (line.json)
+        return printChangesJson(before, after);
+    if (changed.none())
+        std::puts(none.c_str());
     for (std::size_t i = 0; i < kSettings.size(); ++i)
         if (changed[i])
             std::puts(changeText(kSettings[i], before, after, kSettingBecomes).c_str());
@@ -30,10 +51,9 @@ void printRefused(const SettingsOffer& offer) {
 }
 
 /// Says what an offer would change and what it has that can't be taken.
-void printOffer(const SettingsOffer& offer, const PrefsRecord& now) {
-    printChanges(now, offer.record);
-    if (differences(now, offer.record).none())
-        std::puts(localized("Commands", "Nothing differs from the settings as they are.").c_str());
+void printOffer(const CommandLine& line, const SettingsOffer& offer, const PrefsRecord& now) {
+    printChanges(line, now, offer.record,
+                 localized("Commands", "Nothing differs from the settings as they are."));
     printRefused(offer);
 }
 
@@ -92,28 +112,13 @@ int useProfile(const CommandLine& line) {
     const SettingsOffer offer = readProfile(name, now);
     if (!offer.error.empty())
         return commandFailed(offer.error);
-    printOffer(offer, now);
+    printOffer(line, offer, now);
     const std::string former = currentProfile();
     const std::string fault = setCurrentProfile(name);
     const int result = take(offer);
     if (result != kCommandDone && fault.empty())
         setCurrentProfile(former);
     return result == kCommandDone ? inUse(fault) : result;
-}
-
-/// What is different, for programs.
-void printChangesJson(const PrefsRecord& before, const PrefsRecord& after) {
-    const SettingSet changed = differences(before, after);
-    std::string items;
-    for (std::size_t i = 0; i < kSettings.size(); ++i)
-        if (changed[i])
-            items +=
-                (items.empty() ? "" : ",\n ") + JsonObject()
-                                                    .add("key", kSettings[i].key)
-                                                    .add("from", settingText(kSettings[i], before))
-                                                    .add("to", settingText(kSettings[i], after))
-                                                    .text();
-    std::printf("[%s]\n", items.c_str());
 }
 
 /// The settings as they would be with that profile; none, and it is said why, when it can't be
@@ -135,12 +140,7 @@ int compareProfiles(const CommandLine& line) {
     const auto after = before ? settingsWith(line.operands.back(), now) : std::nullopt;
     if (!after)
         return kCommandFailed;
-    if (line.json)
-        printChangesJson(*before, *after);
-    else if (differences(*before, *after).any())
-        printChanges(*before, *after);
-    else
-        std::puts(localized("Commands", "Nothing differs.").c_str());
+    printChanges(line, *before, *after, localized("Commands", "Nothing differs."));
     return kCommandDone;
 }
 
@@ -191,10 +191,11 @@ int runImport(const CommandLine& line) {
     const SettingsOffer offer = readSettingsFile(line.operands[0], now);
     if (!offer.error.empty())
         return commandFailed(line.operands[0] + ": " + offer.error);
-    printOffer(offer, now);
+    printOffer(line, offer, now);
     if (line.yes)
         return take(offer);
-    std::puts(localized("Commands", "Nothing was changed. With --yes it is.").c_str());
+    if (!line.json)
+        std::puts(localized("Commands", "Nothing was changed. With --yes it is.").c_str());
     return kCommandDone;
 }
 

@@ -56,14 +56,11 @@ int runList(const CommandLine& line) {
         printListJson(now, defaults);
         return kCommandDone;
     }
-    const SettingSet changed = differences(now, defaults);
-    for (std::size_t i = 0; i < kSettings.size(); ++i) {
-        const Setting& setting = kSettings[i];
+    for (const Setting& setting : kSettings) {
         const std::string words =
             joined(Joint::Note, {localized("Settings", setting.name), choiceText(setting)});
-        const std::string usual = changed[i] ? filled(localized("Commands", "default: %1"),
-                                                      {settingText(setting, defaults)})
-                                             : "";
+        const std::string usual =
+            filled(localized("Commands", "default: %1"), {settingText(setting, defaults)});
         std::printf("%s = %s\n    %s\n", setting.key, settingText(setting, now).c_str(),
                     joined(Joint::Clauses, {words, usual}).c_str());
     }

@@ -11,6 +11,7 @@ struct CommandLine {
     std::vector<std::string> operands;
     bool json = false; ///< --json: for programs
     bool yes = false;  ///< --yes: don't ask
+    bool help = false; ///< --help: not this, but how
 };
 
 struct Command {

@@ -73,6 +73,8 @@ bool parse(std::span<const char* const> arguments, CommandLine& line) {
             line.json = true;
         else if (argument == "--yes")
             line.yes = true;
+        else if (argument == "--help")
+            line.help = true;
         else
             return false;
     }
@@ -105,6 +107,8 @@ int korvexRunCommand(int count, const char* const* arguments) {
     CommandLine line;
     if (!parse({arguments + 1, arguments + count}, line))
         return misused(localized("Commands", "there is no such option"));
+    if (line.help)
+        return printHelp();
     const std::size_t most = command->most ? command->most : command->fewest ? SIZE_MAX : 0;
     if (line.operands.size() < command->fewest || line.operands.size() > most)
         return misused(

@@ -288,3 +288,10 @@ void PaletteEditor::changedButtonSizes() {
     prefs.buttonSize = size;
     changes_.changed(kChangePalette);
 }
+
+void PaletteEditor::pointAtChange(const PrefsRecord& before, const PrefsRecord& after) {
+    const auto& actions = before.buttonActions;
+    const auto* slot = std::ranges::mismatch(actions, after.buttonActions).in1;
+    if (slot != std::end(actions))
+        paletteView->moveCursor(static_cast<SInt32>(slot - actions));
+}

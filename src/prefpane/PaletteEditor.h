@@ -68,6 +68,8 @@ public:
     void updatePaletteCtls();
     /// Ends a swap and clears the selection.
     void resetPaletteControls();
+    /// Moves the keyboard's place in the palette to the first slot that differs, if one does.
+    void pointAtChange(const PrefsRecord& before, const PrefsRecord& after);
 
     void changedButtonShape(const NSMatrix& sender);
     void changedButtonContentName(const NSButton& sender);

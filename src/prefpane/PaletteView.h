@@ -53,6 +53,9 @@ public:
 
     void accessibilityPress(int index) override;
 
+    /// The keyboard's place among the slots, which may be beyond the first or the last.
+    void moveCursor(SInt32 index);
+
 private:
     void calcBtnPlacement();
     void drawBtn(SInt32 index);
@@ -60,7 +63,6 @@ private:
     SInt32 btnAt(NSPoint point) const;
     void hit(SInt32 index);
     void pressed(const NSEvent& event, SInt32 index);
-    void moveCursor(SInt32 index);
 
     SInt32 selectedBtn_ = 0;
     PaletteViewTarget* target_ = nullptr;

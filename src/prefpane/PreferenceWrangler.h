@@ -233,6 +233,7 @@ private:
     void noteStep();
     void showStep(const HistoryStep& step, const PrefsRecord& before, const PrefsRecord& after,
                   const char* pattern);
+    void moveTo(NSView* view);
     void updateHistoryUI();
     /// The view that shows a setting; null for one without a control.
     NSView* viewOf(std::size_t row) const;

@@ -5,6 +5,8 @@
 #include "platform/AppKit/NSColorWell.h"
 #include "platform/AppKit/NSMatrix.h"
 #include "platform/AppKit/NSTextField.h"
+#include "platform/AppKit/NSWindow.h"
+#include "platform/AppKit/RowMarks.h"
 #include "platform/AppKit/UserMessages.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "src/defaults.h"
@@ -101,13 +103,26 @@ void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& be
     if (step.profileBefore != step.profileAfter)
         profiles_.setInUse(&before == &step.before ? step.profileAfter : step.profileBefore);
     showAndReport(changesOf(step.settings));
-    if (NSView* view = viewOf(step.settings, before, after))
-        view->scrollToVisible();
+    moveTo(viewOf(step.settings, before, after));
+    palette_.pointAtChange(before, after);
     tellUser(kChangeTopic,
              {.kind = UserMessage::Kind::Note,
               .text = joined(Joint::Sentences, {stepText(step.settings, before, after, pattern),
                                                 profiles_.keepInUse()})});
     updateHistoryUI();
+}
+
+/// The keyboard goes along, unless it is at a button that undoes still more.
+void PreferenceWrangler::moveTo(NSView* view) {
+    const bool goesOn = (undoBtn_->isFirstResponder() && history_.canUndo()) ||
+                        (redoBtn_->isFirstResponder() && history_.canRedo());
+    if (!view)
+        return;
+    if (!goesOn)
+        view->window().makeFirstResponder(nullptr); // what is hidden hands it to nobody else
+    view->scrollToVisible();
+    if (!goesOn)
+        focusRow(*view);
 }
 
 void PreferenceWrangler::putBack(const SettingSet& settings, const PrefsRecord& record) {

@@ -8,7 +8,6 @@
 #include "platform/AppKit/UserMessages.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "src/prefpane/PreferenceWrangler.h"
-#include "src/profiles.h"
 #include "src/settingwords.h"
 
 #include <utility>
@@ -61,14 +60,24 @@ void ProfileEditor::setup(NSObject& menuTarget) {
 }
 
 void ProfileEditor::load() {
-    profiles_.clear();
-    for (const std::string& each : profileNames())
-        profiles_.push_back({each, readProfile(each, prefs)});
+    std::vector<Profile> now;
+    for (const std::string& each : profileNames()) {
+        const Profile* known = find(each);
+        now.push_back(known ? *known : Profile{each, {}, {}});
+        read(now.back());
+    }
+    profiles_ = std::move(now);
     if (isInUseKept_ || !find(inUse_))
         inUse_ = currentProfile();
     if (!find(chosen_))
         chosen_ = inUse_.empty() && !profiles_.empty() ? profiles_.front().name : inUse_;
     show();
+}
+
+void ProfileEditor::read(Profile& profile) {
+    const ProfileStamp stamp = profileStamp(profile.name);
+    if (std::exchange(profile.stamp, stamp) != stamp)
+        profile.offer = readProfile(profile.name, prefs);
 }
 
 void ProfileEditor::show() {
@@ -260,7 +269,7 @@ std::string ProfileEditor::explanationOf(const Profile& profile) const {
     std::string text = filled(
         changes.none() ? other ? localized("Profiles", "“%1” and “%2” have the same settings.")
                                : localized("Profiles", "The settings are those of “%1”.")
-        : other ? localized("Profiles", "After “%2”, “%1” would change:")
+        : other ? localized("Profiles", "“%1” in place of “%2” would change:")
                        : localized("Profiles", "“%1” would change:"),
         names);
     for (std::size_t i = 0; i < kSettings.size(); ++i)
@@ -277,7 +286,7 @@ void ProfileEditor::useChosen() {
 }
 
 void ProfileEditor::use(Profile profile) {
-    profile.offer = readProfile(profile.name, prefs);
+    read(profile);
     const auto& [record, settings, refused, error] = profile.offer;
     if (!succeeded(error, LOCALIZABLE("Profiles", "“%1” can’t be used: %2."), profile.name))
         return;
@@ -327,6 +336,7 @@ void ProfileEditor::save(const std::string& profile) {
     if (!succeeded(::saveProfile(profile, prefs), kCannotSave, profile))
         return;
     name->setStringValue("");
+    profiles_.clear(); // the time of a file may be too coarse to tell
     load();
     setInUse(profile);
     show();
@@ -345,6 +355,7 @@ void ProfileEditor::putBack(const Profile& profile, bool wasInUse) {
     const auto& [record, settings, refused, error] = profile.offer;
     if (!succeeded(::saveProfile(profile.name, record, settings), kCannotSave, profile.name))
         return;
+    profiles_.clear();
     load();
     if (wasInUse)
         setInUse(profile.name);

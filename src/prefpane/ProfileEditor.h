@@ -3,7 +3,7 @@
 
 #include "platform/AppKit/NSPopUpButton.h"
 #include "src/prefpane/ChoiceGrid.h"
-#include "src/settingsfile.h"
+#include "src/profiles.h"
 
 #include <string>
 #include <vector>
@@ -88,9 +88,12 @@ public:
 private:
     struct Profile {
         std::string name;
+        ProfileStamp stamp;
         SettingsOffer offer;
     };
 
+    /// What its file holds: once more only when that has changed.
+    static void read(Profile& profile);
     /// Null when there is none of that name.
     const Profile* find(const std::string& profile) const;
     /// What using it would change.

@@ -3,6 +3,9 @@
 
 import json
 import os
+import resource
+import shutil
+import signal
 import subprocess
 import sys
 import time
@@ -49,6 +52,10 @@ def without_a_window():
     assert len(keys) == 40
     run("profile", "save", "Tired")
     run("reset", "all")
+    run("profile", "save", "Rested")
+    expect("“Each press moves one step” to “Press to start", "profile", "compare", "Tired", "Rested")
+    expect('"from": "10.0 sec", "to": "12.5 sec"', "profile", "compare", "Tired", "--json")
+    expect("there is no profile", "profile", "compare", "Nobody", "Tired", status=1)
     expect("10.0 sec", "get", "scanner.lineScanTime")
     expect("Line scan time: 10.0 to 12.5 sec", "profile", "use", "Tired")
     run("set", "soundLevel", "49")
@@ -62,6 +69,8 @@ def without_a_window():
     with open("all.plist", "w") as file:
         file.write(text)
     expect("Left out: off: no setting of this version", "import", "all.plist")
+    expect('"from": "10.0 sec", "to": "12.5 sec"', "import", "--json", "all.plist")
+    expect("Usage: ", "import", "--help")
     expect("10.0 sec", "get", "scanner.lineScanTime")
     run("import", "--yes", "all.plist")
     expect("12.5 sec", "get", "scanner.lineScanTime")
@@ -80,13 +89,20 @@ def what_goes_wrong_loses_nothing():
     together = [start("set", key, value.split()[0]) for key, value in values.items()]
     assert not any(each.wait(20) for each in together)
     assert run("get", *values).splitlines() == list(values.values())
-    for delay in range(8):
-        saving = start("profile", "save", "Tired")
-        time.sleep(delay / 50)
-        saving.kill()
-        saving.wait()
-        expect("Tired", "profile", "list")
-        assert "Left out" not in run("profile", "use", "Tired")
+    config, data, state = (os.environ[f"XDG_{name}_HOME"] for name in ("CONFIG", "DATA", "STATE"))
+    files = ("all.plist", f"{data}/korvex/profiles/Tired.plist",
+             f"{config}/Preferences/org.korvex.Agent.plist")
+    before = [open(file).read() for file in files]
+    for command in (("export", "all.plist"), ("profile", "save", "Tired"), ("reset", "all")):
+        cut = lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (400, 400))  # in bytes
+        dying = subprocess.Popen([HOST, *command], env=ENVIRONMENT, preexec_fn=cut)
+        assert dying.wait(20) == -signal.SIGXFSZ, "it isn't killed in the middle of writing"
+        assert [open(file).read() for file in files] == before, command
+    shutil.rmtree(f"{state}/korvex")
+    with open(f"{state}/korvex", "w"):
+        expect("which profile is in use can't be kept: ", "profile", "use", "Tired", status=1)
+    expect("50", "get", "soundLevel")
+    os.remove(f"{state}/korvex")
 
 
 def with_an_open_window():

@@ -3,11 +3,11 @@
 
 #include "src/settingcheck.h"
 #include "src/settingwords.h"
+#include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <algorithm>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
@@ -48,38 +48,62 @@ TEST(ProfilesTest, AProfileBringsBackAllButTheSwitchAndTheLogin) {
 }
 
 TEST(ProfilesTest, OfAFileTheSoundSettingsAreOfferedAndTheOthersNamed) {
-    fs::create_directories(kFolder);
-    std::ofstream(kFolder + "/Mixed.plist")
-        << "<plist><dict><key>scanner.lineScanTime</key><string>12.500000</string>"
-           "<key>scanner.pointerScanTime</key><string>61</string>"
-           "<key>scanner.scanMode</key><integer>3</integer>"
-           "<key>scanner.lineThickness</key><string>thick</string>"
-           "<key>scanner.interClickDelay</key><string>nan</string>"
-           "<key>palette.buttonSize</key><string>(40,19)</string>"
-           "<key>palette.buttonActions</key><string>[ 40]</string>"
-           "<key>scanner.lineColor</key><string>[0x100,0x0,0x0]</string>"
-           "<key>tomorrow</key><true/></dict></plist>";
+    const char kNotAValue[] = "not a value of this setting";
+
+    const struct {
+        const char* key;
+        const char* value;
+        const char* reason; ///< why it is left out
+    } cases[] = {
+        {"palette.borderGap", "<string>thick</string>", kNotAValue},
+        {"palette.buttonActions", "<string>[ 20 21 22 1 2 40 0 0 0]</string>",
+         "an action that there isn't"},
+        {"palette.buttonContent", "<string>0x4</string>", "outside 0 to 3"},
+        {"palette.buttonSize", "<string>(40,19)</string>", "outside 20 to 100"},
+        {"playClickSounds", "<array/>", kNotAValue},
+        {"scanner.interClickDelay", "<string>nan</string>", "not a number"},
+        {"scanner.lineColor", "<string>[0x100,0x0,0x0]</string>", "outside 0 to 255"},
+        {"scanner.lineThickness", "<dict/>", kNotAValue},
+        {"scanner.pointerScanTime", "<string>61</string>", "outside 1 to 60 seconds"},
+        {"scanner.scanArea", "<string>origin(0,0); size(nan,9)</string>", kNotAValue},
+        {"scanner.scanMode", "<integer>3</integer>",
+         "none of: 0 (Press to start, press to choose), 1 (Hold to scan, let go to choose), 2 "
+         "(Each "
+         "press moves one step)"},
+        {"scanner.useScanArea", "<true/>", "there is no area of your own yet"},
+        {"soundLevel", "<real>3</real>", kNotAValue},
+        {"tomorrow", "<true/>", "no setting of this version"},
+    };
+
+    std::string list = "<key>scanner.lineScanTime</key><string>12.500000</string>", refused, named;
+    for (const auto& [key, value, reason] : cases) {
+        list += "<key>" + std::string(key) + "</key>" + value;
+        refused += std::string(key) + ": " + reason + "\n";
+    }
+    writeFile(kFolder + "/Mixed.plist", dictionaryFile(list));
     const SettingsOffer offer = readProfile("Mixed", PrefsRecord());
     EXPECT_EQ(differences(offer.record, PrefsRecord()).count(), 1u);
     EXPECT_EQ(double{offer.record.lineScanTime}, 12.5);
-    std::string refused;
     for (const auto& [key, reason] : offer.refused)
-        refused += key + ": " + reason + "\n";
-    EXPECT_EQ(refused, "palette.buttonActions: an action that there isn't\n"
-                       "palette.buttonSize: outside 20 to 100\n"
-                       "scanner.interClickDelay: not a number\n"
-                       "scanner.lineColor: outside 0 to 255\n"
-                       "scanner.lineThickness: not a value of this setting\n"
-                       "scanner.pointerScanTime: outside 1 to 60 seconds\n"
-                       "scanner.scanMode: none of: 0 (Press to start, press to choose), "
-                       "1 (Hold to scan, let go to choose), 2 (Each press moves one step)\n"
-                       "tomorrow: no setting of this version\n");
+        named += key + ": " + reason + "\n";
+    EXPECT_EQ(named, refused);
 
-    for (const std::string& text : {std::string("<plist><array/></plist>"), std::string("<pl"),
-                                    std::string("<plist><dict><key>soundLevel</key><string>0x3"),
-                                    std::string(10u << 20, 'x')}) {
-        std::ofstream(kFolder + "/Mixed.plist") << text;
-        EXPECT_NE(readProfile("Mixed", PrefsRecord()).error, "");
+    // Of a list all entries, and no more.
+    for (const char* actions :
+         {"[ 20 21]", "[ 20 21 22 1 2 0 0 0 0 5]", "[ 276 21 22 1 2 0 0 0 0]"})
+        EXPECT_EQ(setFromWords(*settingOfKey("palette.buttonActions"), actions, prefs), kNotAValue);
+
+    const std::string truncated = "<plist><dict><key>soundLevel</key><string>0x3";
+    const std::string damaged = "damaged, or no file of settings";
+    for (const auto& [content, error] :
+         {std::pair(std::string("<plist><array/></plist>"), damaged),
+          {truncated, damaged},
+          {"", damaged},
+          {truncated + "</string></dict></plist><plist/>", damaged},
+          {truncated + std::string(10U << 20, ' ') + "</string></dict></plist>",
+           "larger than a file of settings can be"}}) {
+        writeFile(kFolder + "/Mixed.plist", content);
+        EXPECT_EQ(readProfile("Mixed", PrefsRecord()).error, error);
     }
 }
 

@@ -67,9 +67,12 @@ PutBackButton* PutBackButton::of(const QWidget& row) {
 void PutBackButton::offer(const QString& label, std::function<void()> press) {
     const bool offered = !label.isEmpty();
     press_ = offered ? std::move(press) : nullptr;
-    setAccessibleName(
-        offered ? label : QCoreApplication::translate("PutBackButton", "Back at its default"));
-    setToolTip(label);
+    const QString name =
+        offered ? label : QCoreApplication::translate("PutBackButton", "Back at its default");
+    if (accessibleName() != name) { // or else assistive technology hears of no news
+        setAccessibleName(name);
+        setToolTip(label);
+    }
     bar_->setVisible(offered);
     offered ? show() : hideWhenLeft();
     update();

@@ -79,7 +79,7 @@ TEST_F(ProfileEditorTest, TheSectionUpdatesRenamesAndDeletesAndPutsBack) {
     EXPECT_EQ(window()->focusWidget()->objectName(), QLatin1String("profileGrid"));
     EXPECT_EQ(menu(1, "compareMenu"), QStringList({"The settings as they are", "“Morning”"}));
     EXPECT_EQ(find<QLabel>("profileExplanation")->text(),
-              "After “Morning”, “Morning 2” would change:\nVolume: 50 to 51");
+              "“Morning 2” in place of “Morning” would change:\nVolume: 50 to 51");
     EXPECT_EQ(shown(), "Morning 2");
     pressInStrip();
     EXPECT_EQ(shown(), "Morning 2, changed");
@@ -109,8 +109,7 @@ TEST_F(ProfileEditorTest, OfAFileTheSoundSettingsAreOfferedAndTakenAsOneChange) 
     };
     openWithAgent();
     import("<plist><dict><key>soundLevel</key><string>0x3");
-    EXPECT_EQ(told(),
-              "“brought.plist” can’t be used: not a file of settings, or it can't be read.");
+    EXPECT_EQ(told(), "“brought.plist” can’t be used: damaged, or no file of settings.");
     import("<plist><dict><key>soundLevel</key><string>0x3</string>"
            "<key>palette.borderGap</key><string>101</string>"
            "<key>scanner.lineScanTime</key><string>12</string><key>tomorrow</key><true/></dict></"
