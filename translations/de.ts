@@ -2757,10 +2757,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
 <context>
     <name>Try</name>
     <message>
-        <source>Spread of your presses</source>
-        <translation>Streuung Ihrer Drücke</translation>
-    </message>
-    <message>
         <source>Try it at %.1f</source>
         <translation>Mit %.1f probieren</translation>
     </message>
@@ -2909,10 +2905,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>%d von 10 brauchen %.1f Sekunden.</translation>
     </message>
     <message>
-        <source>No press arrived. Look whether your switch is connected and counts as a trigger, then try once more.</source>
-        <translation>Kein Druck kam an. Sehen Sie nach, ob Ihr Schalter angeschlossen ist und als Auslöser zählt, dann versuchen Sie es noch einmal.</translation>
-    </message>
-    <message>
         <source>The presses came at other moments than the marks, so we can’t suggest a speed. Wait for the line to reach the mark, then press.</source>
         <translation>Die Drücke kamen in anderen Momenten als die Marken, darum können wir kein Tempo vorschlagen. Warten Sie, bis die Linie die Marke erreicht, dann drücken Sie.</translation>
     </message>
@@ -2931,10 +2923,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>%s: %.1f seconds, hits: %.0f, misses: %.0f, lateness %.0f ms, spread %.0f ms</source>
         <translation>%s: %.1f Sekunden, getroffen: %.0f, daneben: %.0f, Verspätung %.0f ms, Streuung %.0f ms</translation>
-    </message>
-    <message>
-        <source>%s   %.1f s   %.0f of %.0f   spread %.0f ms</source>
-        <translation>%s   %.1f s   %.0f von %.0f   Streuung %.0f ms</translation>
     </message>
     <message>
         <source>Set “%1” to %2</source>
@@ -3003,6 +2991,22 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>On this desktop no window can keep keys for itself, so your switch may scan as well meanwhile.</source>
         <translation>Auf diesem Desktop kann kein Fenster Tasten für sich behalten, darum scannt Ihr Schalter vielleicht auch währenddessen.</translation>
+    </message>
+    <message>
+        <source>The line started, but nothing stopped it. %s Try once more when you like.</source>
+        <translation>Die Linie lief los, aber nichts hielt sie an. %s Versuchen Sie es noch einmal, wenn Sie möchten.</translation>
+    </message>
+    <message>
+        <source>No press has arrived yet. Look whether your switch is connected and counts as a trigger.</source>
+        <translation>Noch kein Druck kam an. Sehen Sie nach, ob Ihr Schalter angeschlossen ist und als Auslöser zählt.</translation>
+    </message>
+    <message>
+        <source>Spread of your presses, up to %.0f ms</source>
+        <translation>Streuung Ihrer Drücke, bis %.0f ms</translation>
+    </message>
+    <message>
+        <source>%s   %.1f s   %.0f of %.0f   lateness %.0f ms   spread %.0f ms</source>
+        <translation>%s   %.1f s   %.0f von %.0f   Verspätung %.0f ms   Streuung %.0f ms</translation>
     </message>
 </context>
 <context>

@@ -2757,10 +2757,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
 <context>
     <name>Try</name>
     <message>
-        <source>Spread of your presses</source>
-        <translation>Dispersion de vos appuis</translation>
-    </message>
-    <message>
         <source>Try it at %.1f</source>
         <translation>Essayer à %.1f</translation>
     </message>
@@ -2909,10 +2905,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <translation>%d sur 10 demande %.1f secondes.</translation>
     </message>
     <message>
-        <source>No press arrived. Look whether your switch is connected and counts as a trigger, then try once more.</source>
-        <translation>Aucun appui n’est arrivé. Vérifiez que votre contacteur est branché et qu’il compte, puis réessayez.</translation>
-    </message>
-    <message>
         <source>The presses came at other moments than the marks, so we can’t suggest a speed. Wait for the line to reach the mark, then press.</source>
         <translation>Les appuis sont venus à d’autres moments que les repères&#xa0;; nous ne pouvons pas proposer de vitesse. Attendez que la ligne atteigne le repère, puis appuyez.</translation>
     </message>
@@ -2931,10 +2923,6 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>%s: %.1f seconds, hits: %.0f, misses: %.0f, lateness %.0f ms, spread %.0f ms</source>
         <translation>%s&#xa0;: %.1f secondes, réussis&#xa0;: %.0f, manqués&#xa0;: %.0f, retard %.0f ms, dispersion %.0f ms</translation>
-    </message>
-    <message>
-        <source>%s   %.1f s   %.0f of %.0f   spread %.0f ms</source>
-        <translation>%s   %.1f s   %.0f sur %.0f   dispersion %.0f ms</translation>
     </message>
     <message>
         <source>Set “%1” to %2</source>
@@ -3003,6 +2991,22 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>On this desktop no window can keep keys for itself, so your switch may scan as well meanwhile.</source>
         <translation>Sur ce bureau, aucune fenêtre ne peut garder les touches pour elle&#xa0;: votre contacteur peut donc aussi balayer pendant ce temps.</translation>
+    </message>
+    <message>
+        <source>The line started, but nothing stopped it. %s Try once more when you like.</source>
+        <translation>La ligne est partie, mais rien ne l’a arrêtée. %s Réessayez quand vous voulez.</translation>
+    </message>
+    <message>
+        <source>No press has arrived yet. Look whether your switch is connected and counts as a trigger.</source>
+        <translation>Aucun appui n’est encore arrivé. Vérifiez que votre contacteur est branché et qu’il compte.</translation>
+    </message>
+    <message>
+        <source>Spread of your presses, up to %.0f ms</source>
+        <translation>Dispersion de vos appuis, jusqu’à %.0f ms</translation>
+    </message>
+    <message>
+        <source>%s   %.1f s   %.0f of %.0f   lateness %.0f ms   spread %.0f ms</source>
+        <translation>%s   %.1f s   %.0f sur %.0f   retard %.0f ms   dispersion %.0f ms</translation>
     </message>
 </context>
 <context>

@@ -28,6 +28,12 @@ public:
 
     ~HotKeyMode() override { release(); }
 
+    void renew() {
+        if (!isGrabbed_ && QGuiApplication::focusWindow() == window_)
+            takeKeyboard();
+        longestGrab_.start();
+    }
+
     void end() {
         hasEnded_ = true;
         leaveWhenUp();
@@ -69,12 +75,16 @@ private:
     }
 
     void grab() {
+        takeKeyboard();
+        longestGrab_.start();
+        held_.reset();
+    }
+
+    void takeKeyboard() {
         // Others can't grab, and say so on the standard error.
         const bool canGrab = QGuiApplication::platformName() == QLatin1String("xcb");
         if (canGrab && window_)
             isGrabbed_ = window_->setKeyboardGrabEnabled(true);
-        longestGrab_.start();
-        held_.reset();
     }
 
     void release() {
@@ -101,16 +111,26 @@ private:
     bool hasEnded_ = false;
 };
 
+/// Null for a token of none. Those of an application that is gone went with it.
+HotKeyMode* modeOf(void* token) {
+    const bool isThere = qApp && qApp->children().contains(static_cast<QObject*>(token));
+    return isThere ? static_cast<HotKeyMode*>(static_cast<QObject*>(token)) : nullptr;
+}
+
 } // namespace
 
 void* PushSymbolicHotKeyMode(OptionBits options) {
     return options & kHIHotKeyModeAllDisabled ? static_cast<QObject*>(new HotKeyMode) : nullptr;
 }
 
+void RenewSymbolicHotKeyMode(void* token) {
+    if (HotKeyMode* mode = modeOf(token))
+        mode->renew();
+}
+
 void PopSymbolicHotKeyMode(void* token) {
-    // Those of an application that is gone went with it.
-    if (qApp && qApp->children().contains(static_cast<QObject*>(token)))
-        static_cast<HotKeyMode*>(static_cast<QObject*>(token))->end();
+    if (HotKeyMode* mode = modeOf(token))
+        mode->end();
 }
 
 bool desktopKeepsItsShortcuts() {

@@ -18,6 +18,9 @@ enum : OptionBits { kHIHotKeyModeAllDisabled = 1 };
 /// nobody until they come up, and no key repeats.
 void* PushSymbolicHotKeyMode(OptionBits options);
 
+/// The thirty seconds start anew, and the keyboard is grabbed if another program had it.
+void RenewSymbolicHotKeyMode(void* token);
+
 /// Ends the mode. Keys that are down are ignored until they come up: their repetitions, and also
 /// the press that is being handled. Does nothing for null.
 void PopSymbolicHotKeyMode(void* token);

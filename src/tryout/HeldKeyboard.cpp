@@ -24,10 +24,13 @@ void HeldKeyboard::update(double now, bool isWanted, bool isKeyDown) {
     const bool isHeld = isWanted && !isResting(now);
     if (isKeyDown)
         return;
-    if (mode_ && (!isHeld || now > since_ + kRenewal))
+    if (mode_ && !isHeld)
         PopSymbolicHotKeyMode(std::exchange(mode_, nullptr));
-    if (isHeld && !mode_) {
+    if (!isHeld || (mode_ && now < since_ + kRenewal))
+        return;
+    since_ = now;
+    if (mode_)
+        RenewSymbolicHotKeyMode(mode_);
+    else
         mode_ = PushSymbolicHotKeyMode(kHIHotKeyModeAllDisabled);
-        since_ = now;
-    }
 }

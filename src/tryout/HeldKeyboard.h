@@ -23,6 +23,6 @@ public:
 
 private:
     void* mode_ = nullptr; ///< the token, while they are held
-    double since_ = 0;     ///< when the mode began
+    double since_ = 0;     ///< when the mode began, or was renewed
     double stirred_ = 0;
 };

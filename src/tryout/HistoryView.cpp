@@ -6,7 +6,6 @@
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSGraphics.h"
 #include "platform/AppKit/NSStringDrawing.h"
-#include "platform/CoreFoundation/Localization.h"
 #include "src/tryout/words.h"
 
 #include <algorithm>
@@ -59,13 +58,13 @@ void HistoryView::drawRect(const NSRect&) {
 void HistoryView::drawChart() const {
     const NSRect whole = bounds();
     const float width = whole.width * kChartShare - 2 * kMargin;
-    drawText(localized("Try", "Spread of your presses"), {kMargin, 2, width, kLabelHeight});
     const std::size_t count = std::min<std::size_t>(tries_.size(), kMostPoints);
     const std::span<const tryout::PastTry> shown(tries_.end() - static_cast<std::ptrdiff_t>(count),
                                                  tries_.end());
     double top = kLeastTop;
     for (const tryout::PastTry& past : shown)
         top = std::max(top, past.spread);
+    drawText(tryout::chartText(top), {kMargin, 2, width, kLabelHeight});
     const float bottom = whole.height - kMargin, height = bottom - kLabelHeight - kMargin;
     const float step = count > 1 ? width / static_cast<float>(count - 1) : 0;
     NSPoint former = {};

@@ -132,12 +132,6 @@ bool TryPage::hasBegun() const {
     return session_->sweepIndex() > 0 || session_->phase() != Phase::Ready;
 }
 
-std::string TryPage::courseText() const {
-    const bool areKeysShared = !hasBegun() && desktopKeepsItsShortcuts();
-    return joined(Joint::Sentences, {tryout::courseText(*session_, trigger_),
-                                     areKeysShared ? tryout::sharedKeysText() : ""});
-}
-
 void TryPage::frame() {
     if (isLeft_)
         return close(); // which ends this object
@@ -148,7 +142,7 @@ void TryPage::frame() {
     showPhase();
     keyboard_.update(now, session_->phase() != Phase::Done, session_->isPressed());
     if (session_->phase() == Phase::Ready && keyboard_.isResting(now))
-        say(tryout::restText());
+        say(tryout::restText(hasBegun()));
     tryView_->showFrame();
 }
 
@@ -166,7 +160,18 @@ void TryPage::showPhase() {
     showTarget();
     if (isDone)
         return showResult();
-    say(courseText());
+    showCourse();
+}
+
+/// What became of the last sweep stays in sight, but is heard once.
+void TryPage::showCourse() {
+    const std::string course = tryout::courseText(*session_, trigger_);
+    const std::string keys = desktopKeepsItsShortcuts() ? tryout::sharedKeysText() : "";
+    numbers_->setHidden(keys.empty());
+    numbers_->setStringValue(keys);
+    tryView_->setSaying(hasBegun() ? course : joined(Joint::Sentences, {course, keys}));
+    const bool isAfterSweep = session_->phase() == Phase::Ready && hasBegun();
+    course_->setStringValue(isAfterSweep ? tryout::lastText(*session_) + '\n' + course : course);
 }
 
 void TryPage::say(const std::string& text) {
@@ -179,7 +184,7 @@ bool TryPage::wakesUp(double moment) {
         session_->phase() == Phase::Ready && keyboard_.isResting(GetCurrentEventTime());
     keyboard_.stir(moment);
     if (wasResting)
-        say(courseText());
+        showCourse();
     return wasResting;
 }
 

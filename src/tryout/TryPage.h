@@ -63,9 +63,9 @@ private:
     void startTry();
     void makeSession();
     bool hasBegun() const;
-    std::string courseText() const;
     /// Brings the page up to date with the session's phase.
     void showPhase();
+    void showCourse();
     /// Shows the text and has a screen reader say it.
     void say(const std::string& text);
     /// Takes the press for going on after a rest, if it was one.

@@ -165,7 +165,9 @@ void Session::finish(const Trial& trial, double moment) {
 void Session::noteExtra(double pressed, double released) {
     const double gap = pressed - released_, hold = released - pressed;
     const bool isFiltered = hold < trigger_.shortest || pressed < stopped_ + trigger_.ignoreAfter;
-    if (!isFree() && !isFiltered)
+    const bool isOfFree =
+        index_ < kFreeSweeps || (phase_ == Phase::Stopped && index_ == kFreeSweeps);
+    if (!isOfFree && !isFiltered)
         measured_.extras.push_back({gap, hold});
 }
 

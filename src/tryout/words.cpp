@@ -67,17 +67,6 @@ std::string readyText(const Session& session, const Trigger& trigger) {
                   session.sweepIndex() - kFreeSweeps + 1, kMeasuredSweeps);
 }
 
-std::string stoppedText(const Session& session) {
-    const Trial& last = session.last();
-    if (!last.pressed)
-        return localized("Try", "The line passed.");
-    if (std::abs(last.miss) <= session.target() / 2)
-        return localized("Try", "On the mark.");
-    return format(last.miss < 0 ? LOCALIZABLE("Try", "%.0f mm before the mark.")
-                                : LOCALIZABLE("Try", "%.0f mm past the mark."),
-                  std::abs(last.miss));
-}
-
 std::string hitsText(const Advice& advice, const Conditions& tried, const Measured& measured) {
     return format(LOCALIZABLE("Try", "You stopped within %g mm of the mark in %d of %zu sweeps."),
                   shownLength(tried.target / 2), advice.hits, measured.trials.size());
@@ -204,17 +193,18 @@ std::string numbersText(const Advice& advice) {
                   {text, onMiss, advice.surest ? surestText(*advice.surest) : ""});
 }
 
-std::string verdictText(const Advice& advice, const Conditions& tried, const Measured& measured) {
+std::string verdictText(const Advice& advice, const Conditions& tried, const Measured& measured,
+                        Trigger::Way way) {
     const auto withHits = [&](const std::string& text, const std::string& more = {}) {
         return joined(Joint::Sentences,
                       {hitsText(advice, tried, measured), evenText(advice), text, more});
     };
     switch (advice.verdict) {
     case Verdict::NothingPressed:
-        return localized(
-            "Try",
-            "No press arrived. Look whether your switch is connected and counts as a trigger, "
-            "then try once more.");
+        return format(LOCALIZABLE("Try",
+                                  "The line started, but nothing stopped it. %s Try once more "
+                                  "when you like."),
+                      howToPress(way).c_str());
     case Verdict::TooFew:
         return tooFewText(advice, measured);
     case Verdict::Unsteady:
@@ -242,7 +232,7 @@ std::string verdictText(const Advice& advice, const Conditions& tried, const Mea
 
 std::string resultText(const Advice& advice, const Conditions& tried, const Measured& measured,
                        Trigger::Way way) {
-    const std::string text = verdictText(advice, tried, measured);
+    const std::string text = verdictText(advice, tried, measured, way);
     if (way != Trigger::Way::Step)
         return text;
     return joined(Joint::Sentences,
@@ -255,7 +245,11 @@ std::string sharedKeysText() {
                             "may scan as well meanwhile.");
 }
 
-std::string restText() {
+std::string restText(bool hasBegun) {
+    if (!hasBegun)
+        return localized("Try",
+                         "No press has arrived yet. Look whether your switch is connected and "
+                         "counts as a trigger.");
     return localized("Try", "You are having a rest, and your switch scans as ever. Press here to "
                             "go on.");
 }
@@ -270,6 +264,17 @@ std::string detailsText(const Advice& advice, const Steadiness& steadiness) {
     return joined(Joint::Sentences, {numbersText(advice), steadinessText(steadiness)});
 }
 
+std::string lastText(const Session& session) {
+    const Trial& last = session.last();
+    if (!last.pressed)
+        return localized("Try", "The line passed.");
+    if (std::abs(last.miss) <= session.target() / 2)
+        return localized("Try", "On the mark.");
+    return format(last.miss < 0 ? LOCALIZABLE("Try", "%.0f mm before the mark.")
+                                : LOCALIZABLE("Try", "%.0f mm past the mark."),
+                  std::abs(last.miss));
+}
+
 std::string courseText(const Session& session, const Trigger& trigger) {
     switch (session.phase()) {
     case Session::Phase::Ready:
@@ -279,11 +284,15 @@ std::string courseText(const Session& session, const Trigger& trigger) {
     case Session::Phase::Sweeping:
         return localized("Try", "Go.");
     case Session::Phase::Stopped:
-        return stoppedText(session);
+        return lastText(session);
     case Session::Phase::Done:
         break;
     }
     return {};
+}
+
+std::string chartText(double spread) {
+    return format(LOCALIZABLE("Try", "Spread of your presses, up to %.0f ms"), spread * 1000);
 }
 
 std::string pastTryText(const PastTry& past) {
@@ -295,9 +304,10 @@ std::string pastTryText(const PastTry& past) {
 }
 
 std::string pastTryRow(const PastTry& past) {
-    return format(LOCALIZABLE("Try", "%s   %.1f s   %.0f of %.0f   spread %.0f ms"),
-                  past.date.c_str(), past.sweepTime, past.hits, past.hits + past.misses,
-                  past.spread * 1000);
+    return format(
+        LOCALIZABLE("Try", "%s   %.1f s   %.0f of %.0f   lateness %.0f ms   spread %.0f ms"),
+        past.date.c_str(), past.sweepTime, past.hits, past.hits + past.misses, past.lateness * 1000,
+        past.spread * 1000);
 }
 
 } // namespace tryout

@@ -18,17 +18,23 @@ std::string resultText(const Advice& advice, const Conditions& tried, const Meas
 /// The measured numbers, for a therapist, and what they say of the other settings.
 std::string detailsText(const Advice& advice, const Steadiness& steadiness);
 
+/// What became of the last sweep.
+std::string lastText(const Session& session);
+
 /// What to do now, or what just happened.
 std::string courseText(const Session& session, const Trigger& trigger);
 
-/// Before the first sweep, where the keys can't be kept from the agent and the desktop.
+/// Where the keys can't be kept from the agent and the desktop.
 std::string sharedKeysText();
 
-/// After a long time without a press.
-std::string restText();
+/// After a long time without a press, or without any.
+std::string restText(bool hasBegun);
 
 /// How large the marks are, in millimetres in the direction of the line's way.
 std::string targetText(double height, bool isPaletteButton);
+
+/// What the chart shows; its top, in seconds.
+std::string chartText(double spread);
 
 /// A try of the history: as it is spoken, and as short as a table has it.
 std::string pastTryText(const PastTry& past);

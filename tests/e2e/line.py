@@ -26,6 +26,10 @@ class Span(NamedTuple):
         return Span(self.least - length, self.most - length)
 
     @property
+    def middle(self) -> float:
+        return (self.least + self.most) / 2
+
+    @property
     def sure(self) -> float:
         """How far it is from 0 at the least."""
         return max(self.least, -self.most, 0)

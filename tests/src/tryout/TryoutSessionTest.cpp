@@ -75,22 +75,23 @@ TEST(TryoutSession, PressesThatNothingAskedForAreKeptApart) {
         const char* what;
         Trigger trigger;
         double gap, length;
-        std::size_t extras;
+        std::size_t extras, measured = 1;
     } rows[] = {
         {"a second press", {}, 0.2, 0.05, 1},
         {"one that the settings ignore", {.ignoreAfter = 1}, 0.2, 0.05, 0},
         {"one too short to count", {.shortest = 0.2}, 0.2, 0.05, 0},
         {"the start of the next sweep", {}, kSettlingTime + 0.1, 0.05, 0},
+        {"a second press of a free sweep", {}, 0.2, 0.05, 0, 0},
     };
 
     for (const auto& row : rows) {
         Presses user(row.trigger);
-        for (int i = 0; i <= kFreeSweeps; ++i)
+        for (std::size_t i = 0; i < kFreeSweeps + row.measured; ++i)
             user.sweep();
         user.session.advance(user.now += row.gap);
         user.press(row.length);
         const Measured& measured = user.session.measured();
-        EXPECT_EQ(measured.trials.size(), 1U) << row.what;
+        EXPECT_EQ(measured.trials.size(), row.measured) << row.what;
         ASSERT_EQ(measured.extras.size(), row.extras) << row.what;
         if (row.extras > 0) {
             EXPECT_NEAR(measured.extras[0].gap, row.gap, 1e-6);

@@ -151,7 +151,7 @@ TEST(TryoutAdvice, EachKindOfUserGetsWordsOfTheirOwn) {
 }
 
 TEST(TryoutAdvice, WhoCannotBeAdvisedIsToldWhy) {
-    const std::map<Verdict, const char*> reasons = {{Verdict::NothingPressed, "connected"},
+    const std::map<Verdict, const char*> reasons = {{Verdict::NothingPressed, "nothing stopped it"},
                                                     {Verdict::Random, "other moments"},
                                                     {Verdict::Tired, "rest"}};
     const Conditions tried = simulatedConditions();
