@@ -16,7 +16,7 @@ const QString kService = QStringLiteral("org.a11y.Bus");
 const QString kObject = QStringLiteral("/org/a11y/bus");
 const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
 
-constexpr int kPatience = 100; ///< with the first answer, in milliseconds
+constexpr int kPatience = 100; ///< milliseconds to wait for the first answer
 
 QDBusMessage statusQuestion(bool startsService) {
     auto question =
@@ -43,7 +43,7 @@ private:
     void take(const QDBusMessage& reply);
 
     QDBusServiceWatcher service_;
-    QTimer changed_; ///< fires when anything has been announced, once for all of it
+    QTimer changed_; ///< fires once for all that was announced meanwhile
     bool isOn_ = false;
     bool isKnown_ = false;
 };

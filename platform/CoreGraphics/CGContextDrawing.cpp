@@ -23,8 +23,7 @@ void SyncCGContextOriginWithPort(CGContext* context, GrafPtr port) {
                           static_cast<CGFloat>(port->origin.y()));
 }
 
-// The painter's coordinates grow downward from the port's top: what the context's own are moved and
-// scaled by is mirrored.
+// The painter's y grows downward and the context's upward, so y changes its sign.
 void CGContextTranslateCTM(CGContext* context, CGFloat x, CGFloat y) {
     context->painter().translate(x, -y);
 }
@@ -80,8 +79,8 @@ void CGContextFillRect(CGContext* context, CGRect rect) {
     painter.fillRect(context->toPainter(rect).normalized(), painter.brush());
 }
 
-// Filled between its two outlines: Qt takes ten times as long to stroke it when the clip has
-// several parts.
+// Filled between two outlines. With a clip of several parts Qt takes ten times as long to stroke
+// it.
 void CGContextStrokeRectWithWidth(CGContext* context, CGRect rect, CGFloat width) {
     QPainter& painter = context->painter();
     const QPen pen = painter.pen();

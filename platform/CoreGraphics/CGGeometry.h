@@ -17,7 +17,7 @@ struct CGSize {
     bool operator==(const CGSize&) const = default;
 };
 
-/// A width or height below zero reaches to the other side of the origin.
+/// A negative width or height extends to the other side of the origin.
 struct CGRect {
     CGPoint origin;
     CGSize size;
@@ -37,7 +37,7 @@ constexpr bool CGRectIsEmpty(const CGRect& rect) {
 /// The same rectangle with sides of zero or more.
 CGRect CGRectStandardize(CGRect rect);
 
-/// Standardises the rectangle and moves its edges inward, outward by less than zero.
+/// Standardises the rectangle and moves its edges inward; with negative numbers, outward.
 CGRect CGRectInset(CGRect rect, CGFloat dx, CGFloat dy);
 
 /// The smallest rectangle that holds both; standardised.

@@ -26,9 +26,9 @@ private:
 
 enum CGColorRenderingIntent { kCGRenderingIntentDefault = 0 };
 
-/// Decodes a PNG; colours are taken as the device's. Null when the data isn't one, is damaged, or
-/// says that it is larger than 4096 pixels on a side: then nothing is decoded. `decode` must be
-/// null; interpolation and intent make no difference.
+/// Decodes a PNG. Its colours are taken as the device's. Null when the data is no PNG, is damaged,
+/// or is larger than 4096 pixels on a side; then nothing is decoded. `decode` must be null. The
+/// last two arguments have no effect.
 CFRef<CGImage> CGImageCreateWithPNGDataProvider(const CGDataProvider* source, const CGFloat* decode,
                                                 bool shouldInterpolate,
                                                 CGColorRenderingIntent intent);
@@ -37,6 +37,6 @@ CFRef<CGImage> CGImageCreateWithPNGDataProvider(const CGDataProvider* source, co
 std::size_t CGImageGetWidth(const CGImage* image);
 std::size_t CGImageGetHeight(const CGImage* image);
 
-/// Draws the image into the rectangle, its top where y is largest. It lies on whole pixels of the
-/// screen. A scale of whole numbers keeps its pixels' edges sharp, any other smooths them.
+/// Draws the image into the rectangle, upright. Its edges lie on whole pixels of the screen. With a
+/// scale of a whole number pixels keep sharp edges; with any other the image is smoothed.
 void CGContextDrawImage(CGContext* context, CGRect rect, const CGImage* image);

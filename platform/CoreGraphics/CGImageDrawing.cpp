@@ -6,7 +6,7 @@
 
 namespace {
 
-/// What lies further out, in pixels of the screen, is on no screen.
+/// In pixels of the screen. No screen reaches further.
 constexpr double kFarthest = 1 << 24;
 
 bool isWholeMultiple(const QSize& size, const QSize& of) {

@@ -34,7 +34,8 @@ public:
         return all;
     }
 
-    /// Whether somebody can see it as a window: no panel, no desktop, not minimised or elsewhere.
+    /// Whether it is a window on the screen: not a panel, not the desktop, not minimised, not on
+    /// another workspace.
     bool isInSight(xcb_window_t window) const {
         const auto has = [&](const char* property, const char* value) {
             return std::ranges::count(this->property(window, property), atom(value)) > 0;
@@ -44,7 +45,7 @@ public:
                !has("_NET_WM_STATE", "_NET_WM_STATE_HIDDEN") && isMapped(window);
     }
 
-    /// In the desktop's pixels, with the frame around it; empty when it is gone.
+    /// In the desktop's pixels, with its frame. Empty when the window is gone.
     QRect frameOf(xcb_window_t window) const {
         const Reply<xcb_get_geometry_reply_t> size(
             xcb_get_geometry_reply(&x_, xcb_get_geometry(&x_, window), nullptr), std::free);

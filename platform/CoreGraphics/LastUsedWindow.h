@@ -6,11 +6,11 @@
 #include <functional>
 #include <optional>
 
-/// The frame of the window that was used last and is still in sight, in global coordinates, without
-/// regard to this program's own. Empty when there is none, or where no program may know: only X11
-/// tells.
+/// The frame of the window that was used last and is still on the screen, in global coordinates.
+/// This program's own windows don't count. None without such a window, or on a platform that
+/// doesn't tell (all but X11).
 std::optional<CGRect> lastUsedWindow();
 
-/// Has `changed` called whenever that may be another one. There is one watcher at most; an empty
-/// function for none.
+/// Calls `changed` whenever the result may be another one. There is one watcher. An empty function
+/// removes it.
 void watchLastUsedWindow(std::function<void()> changed);

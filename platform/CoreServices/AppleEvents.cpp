@@ -9,7 +9,7 @@
 #include <bit>
 #include <cstring>
 
-// The bytes of integers are copied as they stand.
+// The bytes of integers are sent as they are in memory.
 static_assert(std::endian::native == std::endian::little);
 
 namespace {

@@ -8,12 +8,12 @@
 #include <memory>
 #include <vector>
 
-// The Apple Event Manager. An event is a call of Event(u class, u id, a(uuay) parameters) → (i
-// result) on interface org.korvex.AppleEvents1 of object /org/korvex/AppleEvents of the process
-// addressed; a parameter is (keyword, type, bytes). Integers travel little-endian. At most 64
-// parameters of 1 MiB together; docs/agent-contract.md has the whole protocol.
+// The Apple Event Manager. An event is a D-Bus call: Event(u class, u id, a(uuay) parameters) → (i
+// result), on interface org.korvex.AppleEvents1 of object /org/korvex/AppleEvents of the addressed
+// process. A parameter is keyword, type and bytes. Integers are little-endian. An event has at most
+// 64 parameters and 1 MiB. docs/agent-contract.md has the whole protocol.
 //
-// Needs a QCoreApplication, whose event loop delivers the events that come in to their handlers.
+// Needs a QCoreApplication. Its event loop delivers incoming events to their handlers.
 
 using AEEventClass = FourCharCode;
 using AEEventID = FourCharCode;
@@ -45,7 +45,7 @@ constexpr OSErr errAETimeout = -1712;
 constexpr OSErr errAEHandlerNotFound = -1717;
 constexpr OSErr connectionInvalid = -609;
 
-/// A typed run of bytes. Copies share nothing; the destructor disposes.
+/// Bytes and their type. Copies share nothing; the destructor disposes.
 struct AEDesc {
     DescType descriptorType = 0;
     std::vector<UInt8> data;
@@ -53,7 +53,7 @@ struct AEDesc {
 
 using AEAddressDesc = AEDesc;
 
-/// An event with its address and parameters, or the reply to one. The destructor disposes.
+/// An event with address and parameters, or a reply. The destructor disposes.
 struct AppleEvent {
     AEEventClass eventClass = 0;
     AEEventID eventID = 0;
@@ -63,41 +63,45 @@ struct AppleEvent {
 
 OSErr AECreateDesc(DescType type, const void* data, std::size_t size, AEDesc* result);
 
-/// paramErr when `target` isn't a process serial number.
+/// paramErr when `target` is no process serial number.
 OSErr AECreateAppleEvent(AEEventClass eventClass, AEEventID eventID, const AEAddressDesc* target,
                          SInt16 returnID, SInt32 transactionID, AppleEvent* result);
 
-/// Adds the parameter, or replaces the one of that keyword.
+/// Adds the parameter, or replaces the one with that keyword.
 OSErr AEPutParamPtr(AppleEvent* event, AEKeyword keyword, DescType type, const void* data,
                     std::size_t size);
 
-/// Copies at most `maximumSize` bytes of the parameter; `*actualSize` is its whole size.
-/// errAEDescNotFound when it is absent, errAECoercionFail when it is of another type than
-/// `desiredType`. `actualType` may be null.
+/// Copies at most `maximumSize` bytes of the parameter; `*actualSize` receives its whole size.
+/// errAEDescNotFound when it is missing. errAECoercionFail when its type isn't `desiredType`.
+/// `actualType` may be null.
 OSErr AEGetParamPtr(const AppleEvent* event, AEKeyword keyword, DescType desiredType,
                     DescType* actualType, void* data, std::size_t maximumSize,
                     std::size_t* actualSize);
 
-/// The same for an attribute of the event; keyEventIDAttr is the one there is.
+/// The same for an attribute of the event. There is only keyEventIDAttr.
 OSErr AEGetAttributePtr(const AppleEvent* event, AEKeyword keyword, DescType desiredType,
                         DescType* actualType, void* data, std::size_t maximumSize,
                         std::size_t* actualSize);
 
-/// Sends the event. With kAENoReply it is handed to the bus, nothing is awaited, and an addressee
-/// that has gone goes unnoticed. With kAEWaitReply the call blocks until the handler has answered,
-/// for `timeOutInTicks` sixtieths of a second or, for kAEDefaultTimeout, a minute; the handler's
-/// result is then the result, errAETimeout when none comes in time, or procNotFound.
-/// connectionInvalid without a bus. `reply` (may be null) is left empty: only the result travels
+/// Sends the event.
+///
+/// kAENoReply: the event is handed to the bus and the call returns. It doesn't notice when the
+/// addressee is gone.
+///
+/// kAEWaitReply: the call waits for the handler, at most `timeOutInTicks` sixtieths of a second, or
+/// a minute for kAEDefaultTimeout. It returns the handler's result, errAETimeout, or procNotFound.
+///
+/// connectionInvalid without a bus. `reply` (may be null) is left empty: only the result is sent
 /// back.
 OSErr AESend(const AppleEvent* event, AppleEvent* reply, AESendMode mode, SInt32 timeOutInTicks);
 
-/// Handles one event on the main thread; the result goes back to a sender that waits for it.
+/// Handles one event on the main thread. The result goes to a sender that waits.
 using AEEventHandler = OSErr (*)(const AppleEvent* event, AppleEvent* reply, void* refCon);
 
-/// Installs the handler for a class and ID, either of which may be typeWildCard; it takes the place
-/// of one that is installed for the same two. The more specific handler wins, and the class counts
-/// before the ID. An event that no handler takes is answered with errAEEventNotHandled.
+/// Installs the handler for a class and an ID. Either may be typeWildCard. It replaces a handler
+/// for the same two. The most specific handler gets the event; a fitting class counts more than a
+/// fitting ID. An event without a handler is answered with errAEEventNotHandled.
 OSErr AEInstallEventHandler(AEEventClass eventClass, AEEventID eventID, AEEventHandler handler,
                             void* refCon);
-/// errAEHandlerNotFound when another handler, or none, is installed for just that class and ID.
+/// errAEHandlerNotFound unless this handler is installed for exactly that class and ID.
 OSErr AERemoveEventHandler(AEEventClass eventClass, AEEventID eventID, AEEventHandler handler);

@@ -6,11 +6,11 @@
 
 class QTimer;
 
-/// Calls a function from the event loop each time after something has changed, once for all that
-/// happened meanwhile. Ends with this object. Like Processes.h it needs a QCoreApplication.
+/// Calls a function from the event loop after changes, once for all that happened meanwhile. It
+/// stops when this object is destroyed. Needs a QCoreApplication.
 class ChangeWatch {
 public:
-    /// `changed` times out after changes, and lives as long as the program. Null: never called.
+    /// `changed` times out after changes. It must live as long as the program. Null: never called.
     ChangeWatch(const QTimer* changed, std::function<void()> onChange);
     ChangeWatch(ChangeWatch&&) noexcept;
     ChangeWatch& operator=(ChangeWatch&&) noexcept;
@@ -21,10 +21,10 @@ private:
     std::unique_ptr<Connection> connection_;
 };
 
-/// Of processes that begin or cease to take part. Without a session bus it never calls.
+/// Processes that begin or cease to take part. Never called without a session bus.
 ChangeWatch watchProcesses(std::function<void()> onChange);
 
-/// Of what findLaunchTrouble and isLaunching (LaunchTrouble.h) answer.
+/// Answers of findLaunchTrouble and isLaunching (LaunchTrouble.h).
 ChangeWatch watchLaunches(std::function<void()> onChange);
 
 /// Of what stateFileOutcome (StateFile.h) answers.

@@ -77,7 +77,7 @@ OSErr FSOpenFork(const FSRef* ref, std::size_t nameLength, const UniChar*, SInt8
     const SInt16 number = freeRefNum();
     if (number == 0)
         return tmfoErr;
-    // Without waiting for the other end of a pipe.
+    // Doesn't wait for the other end of a pipe.
     const int file = open(ref->path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (file < 0)
         return errorOfErrno(errno);

@@ -13,8 +13,8 @@ struct FSRef {
 /// False when nothing is there.
 bool CFURLGetFSRef(const CFURL* url, FSRef* ref);
 
-// Forks. A file here has its data fork only: its content. An open fork has a reference number above
-// zero. Main thread only.
+// Forks. Here a file has only a data fork, which is its content. An open fork has a reference
+// number above zero. Main thread only.
 
 constexpr SInt8 fsRdPerm = 1;
 constexpr UInt16 fsFromStart = 1;
@@ -27,18 +27,18 @@ constexpr OSErr rfNumErr = -51;
 constexpr OSErr permErr = -54;
 constexpr OSErr errFSForkNotFound = -1409;
 
-/// Opens the fork for reading and gives its reference number; no other permission than fsRdPerm is
-/// granted. The data fork's name is empty. Symbolic links are followed; what isn't a regular file
-/// is refused without waiting for it. fnfErr, permErr, tmfoErr when too many are open, or
-/// errFSForkNotFound for a name that isn't empty.
+/// Opens the fork for reading and gives its reference number. fsRdPerm is the only permission
+/// granted; the data fork's name is empty. Follows symbolic links. Refuses all but regular files,
+/// without waiting. fnfErr, permErr, tmfoErr when too many are open, errFSForkNotFound for another
+/// name.
 OSErr FSOpenFork(const FSRef* ref, std::size_t nameLength, const UniChar* name, SInt8 permissions,
                  SInt16* fork);
 
-/// In bytes, as it is now.
+/// In bytes, at this moment.
 OSErr FSGetForkSize(SInt16 fork, std::int64_t* size);
 
 /// Reads `count` bytes at `offset` from the start (`positionMode` is fsFromStart). eofErr when the
-/// fork ends before; `*actualCount` (may be null) is then the number of bytes that were read.
+/// fork ends earlier. `*actualCount` (may be null) receives the number of bytes read.
 OSErr FSReadFork(SInt16 fork, UInt16 positionMode, std::int64_t offset, std::size_t count,
                  void* buffer, std::size_t* actualCount);
 

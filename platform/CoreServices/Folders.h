@@ -12,6 +12,6 @@ enum : OSType {
     kDocumentsFolderType = fourCharCode("docs"), ///< as the desktop names it, else the home folder
 };
 
-/// fnfErr when the folder is missing and not to be made, or can't be made; paramErr for any other
+/// fnfErr when the folder is missing and isn't to be made, or can't be made. paramErr for any other
 /// domain or type.
 OSErr FSFindFolder(SInt16 domain, OSType type, bool createFolder, FSRef* folder);

@@ -7,6 +7,6 @@ constexpr OSType gestaltSystemVersion = fourCharCode("sysv");
 
 constexpr OSErr gestaltUndefSelectorErr = -5551;
 
-/// The version of the system that this layer stands for, 10.7.0 as 0x1070, for
-/// gestaltSystemVersion; gestaltUndefSelectorErr for any other selector.
+/// The version of the system that this layer stands for: 10.7.0, as 0x1070. gestaltUndefSelectorErr
+/// for any selector but gestaltSystemVersion.
 OSErr Gestalt(OSType selector, SInt32* response);

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The pane of the system's settings that every desktop has in its own way.
+/// macOS's accessibility settings. Each desktop has its own.
 constexpr char kUniversalAccessPane[] =
     "/System/Library/PreferencePanes/UniversalAccessPref.prefPane";
 

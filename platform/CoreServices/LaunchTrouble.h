@@ -6,14 +6,14 @@
 #include <optional>
 #include <string>
 
-// What has become of the applications that this process started with LSOpenCFURLRef, for whoever
-// tells the user. An application is up while a process takes part that is the one started, or that
-// is of type 'APPL' and of the signature that its Info.plist says (CFBundleSignature).
+// What became of the applications that this process started with LSOpenCFURLRef. An application is
+// up while the started process takes part, or another process of type 'APPL' with the signature in
+// its Info.plist (CFBundleSignature).
 //
 // Main thread only. Nothing here waits.
 
 enum class LaunchTrouble {
-    NotUp,       ///< it couldn't be started, or isn't up ten seconds after it was to start
+    NotUp,       ///< it can't be started, or wasn't up within ten seconds
     KeepsEnding, ///< it isn't up, and has ended by itself more than twice
 };
 
@@ -22,16 +22,15 @@ struct TroubledApplication {
     LaunchTrouble trouble{};
 };
 
-/// The application that is in trouble; none when all are well, or may still come up. An end that
-/// this process asked for ('quit') is no trouble, nor is one while another process keeps the
+/// The application that is in trouble. None while all are well or may still come up. An end that
+/// this process asked for ('quit') is no trouble. Nor is an end while another process keeps the
 /// application up.
 std::optional<TroubledApplication> findLaunchTrouble();
 
-/// Whether the application of that bundle was started less than ten seconds ago, or is to start
-/// once another has ended, and may still come up.
+/// Whether the application may still come up: it was started less than ten seconds ago, or starts
+/// when another process has ended.
 bool isLaunching(const std::string& bundle);
 
-/// Starts the application of that bundle as LSOpenCFURLRef does, and forgets what went wrong
-/// before: it has ten seconds again, and endings count from none. One that hangs while it starts is
-/// left as it is, and can't be started a second time.
+/// Starts the application as LSOpenCFURLRef does, and forgets earlier trouble. It has ten seconds
+/// again. An application that hangs while it starts isn't started a second time.
 OSStatus launchAgain(const std::string& bundle);

@@ -5,8 +5,8 @@
 
 #include <memory>
 
-/// A block of memory, or null; an empty block isn't null. Who holds the handle owns the block, and
-/// its destructor disposes of it. Blocks stay where they are, so there is nothing to lock.
+/// A block of memory, or null. An empty block isn't null. The handle owns the block and disposes of
+/// it. Blocks don't move, so they needn't be locked.
 class Handle {
 public:
     Handle() = default;
@@ -24,7 +24,8 @@ private:
     CFIndex size_ = 0;
 };
 
-/// A block of `size` bytes, of any content. Null when the size is negative or memory is short.
+/// A block of `size` bytes with undefined content. Null when the size is negative or memory is
+/// short.
 Handle NewHandle(CFIndex size);
 
 /// In bytes; 0 for a null handle.

@@ -32,7 +32,7 @@ bool isEarlier(const timespec& a, const timespec& b) {
     return a.tv_sec != b.tv_sec ? a.tv_sec < b.tv_sec : a.tv_nsec < b.tv_nsec;
 }
 
-/// When the directory entry itself was last changed; the epoch when there is none.
+/// When the directory entry itself was last changed. The epoch when there is none.
 timespec changeTime(const std::string& path) {
     struct stat status {};
 
@@ -53,8 +53,8 @@ bool isAnythingAt(const std::string& path) {
     return fs::exists(fs::symlink_status(path, error));
 }
 
-/// The *.desktop files of the folders, the last changed one last; of one name, that of the first
-/// folder. False when a folder can't be read.
+/// The *.desktop files of the folders, the last changed one last. Of equal names the first folder's
+/// counts. False when a folder can't be read.
 bool listEntryFiles(const std::vector<std::string>& folders, std::vector<EntryFile>& files) {
     std::error_code error;
     std::set<std::string> names;
@@ -76,9 +76,9 @@ bool listEntryFiles(const std::vector<std::string>& folders, std::vector<EntryFi
     return true;
 }
 
-/// Whether an entry for the application may be written there: nothing is there, or what starts that
-/// very application, or what used to start one of its name and starts nothing any more. What the
-/// user has switched off, or has for other desktops, stays.
+/// Whether an entry for the application may be written there. It may when nothing is there, when
+/// the entry starts this application, or when it started one of the same name and now starts
+/// nothing. An entry that the user switched off, or that is for other desktops, stays.
 bool isFree(const std::string& path, const std::string& application) {
     if (!isAnythingAt(path))
         return true;
@@ -88,7 +88,7 @@ bool isFree(const std::string& path, const std::string& application) {
             (!entry->isLive && isSameLoginApplication(entry->application, application)));
 }
 
-/// The application's entries among the files that the user has switched off.
+/// The application's entries that the user has switched off.
 std::vector<std::string> switchedOffPaths(const std::vector<EntryFile>& files,
                                           const std::string& application) {
     std::vector<std::string> paths;
@@ -100,8 +100,8 @@ std::vector<std::string> switchedOffPaths(const std::vector<EntryFile>& files,
     return paths;
 }
 
-/// The desktops, each with a semicolon after it, on which entries among the files start the
-/// application, but not on that which is running.
+/// The other desktops on which entries among the files start the application. A semicolon follows
+/// each.
 std::string otherDesktops(const std::vector<EntryFile>& files, const std::string& application) {
     std::string desktops;
     for (const EntryFile& file : files) {
@@ -116,7 +116,7 @@ std::string otherDesktops(const std::vector<EntryFile>& files, const std::string
     return desktops;
 }
 
-/// A path in the folder for the application's entry; empty when all are taken.
+/// A path for the application's entry in the folder. Empty when all are taken.
 std::string freePath(const std::string& folder, const std::string& identifier,
                      const std::string& application) {
     for (int n = 1; n <= kMostNames; ++n) {
@@ -133,7 +133,7 @@ bool replaceFile(const LSSharedFileList& list, const std::string& path, const st
     return file.error() == 0 && file.putInPlace() == 0;
 }
 
-/// Makes the file the last of its folder, also where the clock has been set back or is too coarse.
+/// Makes the file the last one of its folder, even if the clock was set back or is too coarse.
 void makeLast(const std::string& path, const std::vector<EntryFile>& others) {
     if (others.empty() || isEarlier(others.back().changed, changeTime(path)))
         return;

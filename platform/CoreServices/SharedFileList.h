@@ -6,16 +6,16 @@
 #include "platform/CoreServices/Files.h"
 #include "platform/Security/Authorization.h"
 
-// Launch Services' shared lists of the applications that are opened at login. On Linux they are the
-// autostart entries, *.desktop: `autostart` under $XDG_CONFIG_HOME for this user and
-// under the first of $XDG_CONFIG_DIRS for all users. An item is an entry that a login heeds: broken
-// files, and entries that are hidden, switched off or without their program, aren't items. Desktops
-// know no order; here items are in the order in which their files were last changed.
+// Launch Services' shared lists of the applications that are opened at login. On Linux they are
+// autostart entries, *.desktop files. This user's are in `autostart` under $XDG_CONFIG_HOME, all
+// users' in `autostart` under the first of $XDG_CONFIG_DIRS. An item is an entry that is started at
+// login. Broken files aren't items, nor are entries that are hidden, switched off or without their
+// program. Autostart has no order; here items are in the order in which their files last changed.
 //
-// Entries that other programs own are listed like any other, and never changed. Nothing is kept in
-// memory: a list is read when its snapshot is taken.
+// Entries of other programs are listed too, and never changed. Nothing is kept in memory: taking a
+// snapshot reads the folders.
 
-/// The two lists; compared by address.
+/// The two lists. They are compared by address.
 extern const CFString* const kLSSharedFileListSessionLoginItems; ///< this user's
 extern const CFString* const kLSSharedFileListGlobalLoginItems;  ///< all users'
 
@@ -28,10 +28,10 @@ class LSSharedFileList final : public CFType {
 public:
     explicit LSSharedFileList(bool isGlobal) : isGlobal_(isGlobal) {}
 
-    /// Where new entries are made.
+    /// The folder for new entries.
     std::string folder() const;
 
-    /// All that are searched, the first first.
+    /// All folders that are searched, in order.
     std::vector<std::string> folders() const;
 
     bool isGlobal() const { return isGlobal_; }
@@ -64,30 +64,29 @@ extern const LSSharedFileListItem* const kLSSharedFileListItemLast;
 /// Null for any other type of list.
 CFRef<LSSharedFileList> LSSharedFileListCreate(const CFString* listType);
 
-/// Says nothing here: the file system decides what may be changed.
+/// Has no effect here: file permissions decide.
 OSStatus LSSharedFileListSetAuthorization(LSSharedFileList* list, AuthorizationRef authorization);
 
-/// The items as they are now, each an LSSharedFileListItem. A folder that isn't there has none;
-/// null when it can't be read. `seed` (may be null) is set to 0.
+/// The items as they are now, each an LSSharedFileListItem. Empty when the folder is missing, null
+/// when it can't be read. `seed` (may be null) is set to 0.
 CFRef<CFArray> LSSharedFileListCopySnapshot(const LSSharedFileList* list, UInt32* seed);
 
-/// The application that the item starts: its bundle, or else its program. `ref` is null. fnfErr
-/// when the entry names its program without a path. Whether anything is there isn't looked at, so
-/// that neither a user nor a volume is needed, whatever the flags.
+/// The application that the item starts: its bundle, or else its program. It needn't exist. `flags`
+/// has no effect; `ref` must be null. fnfErr when the entry names its program without a path.
 OSStatus LSSharedFileListItemResolve(const LSSharedFileListItem* item, UInt32 flags,
                                      CFRef<CFURL>* url, FSRef* ref);
 
-/// Deletes the item's entry; of a symbolic link, the link. Where all users' list has an entry of
-/// the same file name, which would be heeded from now on, this user's list gets a hidden one of
-/// that name. fnfErr when it is gone already, permErr when the folder can't be written.
+/// Deletes the item's entry; if that is a symbolic link, the link. All users' entry of the same
+/// file name would then be started. To prevent that, this user gets a hidden entry of that name.
+/// fnfErr when it is already gone, permErr when the folder can't be written.
 OSStatus LSSharedFileListItemRemove(LSSharedFileList* list, const LSSharedFileListItem* item);
 
-/// Writes an entry that starts the application, as the last item: `after` is
-/// kLSSharedFileListItemLast, the others are null. Its file is named for the bundle's identifier,
-/// with a number where another program, or an entry that the user has switched off, has that name
-/// already. Where another entry starts the application on certain desktops only, this one isn't
-/// heeded on those. Null when the URL names no bundle with an executable, or the folder can't be
-/// made or written.
+/// Writes an entry that starts the application, as the last item. `after` is
+/// kLSSharedFileListItemLast; the other pointers are null. The file is named after the bundle's
+/// identifier. A number is added when another program's entry, or one that the user has switched
+/// off, has the name. On desktops where another entry already starts the application, this one has
+/// no effect. Null when the URL names no bundle with an executable, or the folder can't be made or
+/// written.
 CFRef<LSSharedFileListItem> LSSharedFileListInsertItemURL(LSSharedFileList* list,
                                                           const LSSharedFileListItem* after,
                                                           const CFString* displayName,
@@ -95,17 +94,17 @@ CFRef<LSSharedFileListItem> LSSharedFileListInsertItemURL(LSSharedFileList* list
                                                           const CFDictionary* propertiesToSet,
                                                           const CFArray* propertiesToClear);
 
-/// Whether both paths are of one application: the same bundle, in any letter case, or copies of it
-/// in different folders.
+/// Whether both paths name the same application: the same bundle, in any letter case, or copies of
+/// it in different folders.
 bool isSameLoginApplication(const std::string& path, const std::string& other);
 
-/// Keeps all users' items of the application from being heeded for this user: a hidden entry of the
-/// same file name in this user's folder takes the place of each. False when one can't be written.
+/// Keeps all users' items of the application from being started for this user. For each it writes a
+/// hidden entry of the same file name. False when one can't be written.
 bool hideGlobalLoginItems(const CFURL* application);
 
 /// Whether the user has switched off an entry of the application.
 bool isLoginItemSwitchedOff(const CFURL* application);
 
-/// If the user has switched off an entry of the application, switches it on again; all else in it
-/// stays. Further entries that are switched off, and those of copies in other folders, are deleted.
+/// If the user has switched off an entry of the application, switches it on again and keeps the
+/// rest of it. Deletes its other switched-off entries, and those of copies in other folders.
 void forgetSwitchedOffLoginItem(const CFURL* application);

@@ -31,14 +31,14 @@ fs::path stateFolder() {
     return xdgStateHome() + "/korvex";
 }
 
-/// When a process started, which with its number tells it from all others since the machine was
-/// started: in clock ticks since then. Zero for one that isn't there.
+/// When a process started, in clock ticks since the machine was started. Together with its ID it is
+/// unique until the next boot. Zero when there is no such process.
 unsigned long long startOf(pid_t process) {
     std::ifstream file("/proc/" + std::to_string(process) + "/stat");
     std::string text;
     std::getline(file, text);
-    // Behind the program's name, which is in brackets and may hold any character: the state, 18
-    // numbers, and the start.
+    // Fields behind the program's name, which is in brackets and may hold any character: the state,
+    // 18 numbers, and the start.
     std::istringstream fields(text.substr(std::min(text.size(), text.rfind(')') + 1)));
     std::string skipped;
     for (int i = 0; i < 19; ++i)
@@ -55,7 +55,7 @@ int replace(const fs::path& path, const std::string& content) {
     return file.error() ? file.error() : file.putInPlace();
 }
 
-/// Writes and removes on a thread of its own. Never destroyed: an exit handler may store.
+/// Writes and removes on its own thread. Never destroyed, since an exit handler may store.
 class Writer {
 public:
     Writer() { changed_.setSingleShot(true); }
@@ -71,10 +71,10 @@ private:
     void run();
     void note(const PreferencesOutcome& outcome);
 
-    std::mutex busy_; ///< while the disk is written to
+    std::mutex busy_; ///< held while the disk is written
     std::mutex guard_;
     std::condition_variable waiting_;
-    std::optional<std::string> content_; ///< that waits to be written
+    std::optional<std::string> content_; ///< waits to be written
     PreferencesOutcome outcome_;         ///< of what was written last
     QTimer changed_;                     ///< times out on the main thread
     std::string path_;
@@ -151,7 +151,7 @@ Writer& writer() {
     return only;
 }
 
-/// Whether the file is one of that name, or the beginning of one, with such an owner.
+/// Whether the file has that name, complete or still being written, and such an owner.
 bool belongsTo(StateFileOwner owner, const fs::path& file, const std::string& name) {
     pid_t process = 0;
     unsigned long long start = 0;
@@ -193,7 +193,7 @@ std::vector<std::string> findStateFiles(const std::string& name, StateFileOwner 
         if (path.find(kPendingSuffix, path.rfind('/')) == path.npos)
             paths.push_back(std::move(path));
         else if (owner == StateFileOwner::Gone)
-            unlink(path.c_str()); // never became one
+            unlink(path.c_str()); // it was never renamed
     return paths;
 }
 

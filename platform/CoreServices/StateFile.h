@@ -6,18 +6,18 @@
 #include <string>
 #include <vector>
 
-// A file of this process's own that outlives a crash of it, for work that isn't stored yet:
-// $XDG_STATE_HOME/korvex/<name>.<process>.<its start>, for this user alone. The file is written
-// whole and flushed to disk, on a thread of its own. Where it can't be written there is none, which
-// stateFileOutcome tells; watchStateFile (ChangeWatch.h) says when to ask.
+// A file that outlives a crash of this process, for work that isn't stored yet:
+// $XDG_STATE_HOME/korvex/<name>.<process>.<its start>. Only this user can read it. A thread of its
+// own writes it whole and flushes it to disk. If it can't be written there is none:
+// stateFileOutcome says why, and watchStateFile (ChangeWatch.h) when to ask.
 //
-// One name a process. Main thread only; nothing here waits for more than one writing.
+// A process uses one name. Main thread only. No call waits for more than one write.
 
-/// Writes the content soon, in place of what was kept before. Of several that come while the disk
-/// is busy the last is written.
+/// Writes the content soon, and replaces earlier content. If several calls come while the disk is
+/// busy, only the last is written.
 void keepStateFile(const std::string& name, std::string content);
 
-/// Removes this process's file, and the left ones that were released.
+/// Removes this process's file and those that were released.
 void removeStateFile();
 
 /// How the last writing ended; no trouble when there was none, or the file is removed.
@@ -26,8 +26,8 @@ PreferencesOutcome stateFileOutcome();
 /// What became of the process that a state file belongs to.
 enum class StateFileOwner { Gone, Running };
 
-/// The paths of the files of that name with such an owner, the oldest first.
+/// The paths of the files with that name and such an owner, the oldest first.
 std::vector<std::string> findStateFiles(const std::string& name, StateFileOwner owner);
 
-/// Removes the left file once this process's own is on disk.
+/// Removes that file once this process's own is on disk.
 void releaseLeftStateFile(std::string path);

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The group's number as the platform has it.
+/// The group's number on the platform.
 int platformGroup(gid_t id) {
     constexpr gid_t kRoot = 0;
     const group* found = getgrgid(id);

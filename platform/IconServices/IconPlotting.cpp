@@ -8,8 +8,7 @@
 
 namespace {
 
-/// The image as large as `area` allows, in its centre, both in device pixels; to whole pixels, so
-/// that nothing is smeared.
+/// The image as large as `area` allows, centred, in whole device pixels. So nothing is blurred.
 QRect centredFit(const QSize& image, const QRectF& area) {
     const QSize size = QSizeF(image).scaled(area.size(), Qt::KeepAspectRatio).toSize();
     const QPointF middle = area.center();
@@ -27,7 +26,7 @@ OSStatus PlotIconRefInContext(CGContext* context, const CGRect* rect, IconAlignm
         transform != kTransformNone || labelColor || flags != kPlotIconRefNormalFlags)
         return paramErr;
     if (!(rect->size.width > 0 && rect->size.height > 0))
-        return noErr; // or the device's whole pixels would make a speck of it
+        return noErr; // else rounding to whole pixels would draw a speck
     QPainter& painter = context->painter();
     const QTransform toDevice = painter.deviceTransform();
     const QRectF area = toDevice.mapRect(context->toPainter(*rect));

@@ -14,7 +14,7 @@ constexpr OSType kApplicationType = fourCharCode("APPL");
 
 /// By creator and type.
 std::map<std::pair<OSType, OSType>, CFRef<Icon>>& registeredIcons() {
-    // Never destroyed: icons are given back when the program is on its way out.
+    // Never destroyed: icons are given back while the program exits.
     static auto& icons = *new std::map<std::pair<OSType, OSType>, CFRef<Icon>>;
     return icons;
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// All that 16 bits can say.
+/// The largest region that 16 bits can describe.
 QRect wideOpen() {
     using Limits = std::numeric_limits<SInt16>;
     return toQRect({Limits::min(), Limits::min(), Limits::max(), Limits::max()});

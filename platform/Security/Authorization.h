@@ -5,9 +5,8 @@
 
 #include <cstddef>
 
-// Authorization Services: what a program asks for before it changes what belongs to all users. Here
-// the file system decides what may be changed, so that the rights below are granted without asking
-// anybody.
+// Authorization Services: a program asks for a right before it changes what belongs to all users.
+// Here file permissions decide. So the right below is granted without asking anybody.
 
 constexpr OSStatus errAuthorizationSuccess = 0;
 constexpr OSStatus errAuthorizationInvalidRef = -60002;
@@ -21,8 +20,8 @@ enum : AuthorizationFlags {
     kAuthorizationFlagExtendRights = 2,
 };
 
-/// A right: "system.global-login-items.", to change the applications opened at login. All others
-/// are denied.
+/// A right. The only one granted is "system.global-login-items.": changing the applications that
+/// are opened at login.
 struct AuthorizationItem {
     const char* name;
     std::size_t valueLength;
@@ -38,12 +37,12 @@ struct AuthorizationRights {
 using AuthorizationEnvironment = AuthorizationRights;
 using AuthorizationRef = const struct AuthorizationOpaqueRef*;
 
-/// `rights` and `environment` are null; `*authorization` is to be freed.
+/// `rights` and `environment` must be null. `*authorization` must be freed.
 OSStatus AuthorizationCreate(const AuthorizationRights* rights,
                              const AuthorizationEnvironment* environment, AuthorizationFlags flags,
                              AuthorizationRef* authorization);
 
-/// Success when all the rights are granted. `authorizedRights` is null.
+/// Success when all rights are granted. `authorizedRights` must be null.
 OSStatus AuthorizationCopyRights(AuthorizationRef authorization, const AuthorizationRights* rights,
                                  const AuthorizationEnvironment* environment,
                                  AuthorizationFlags flags, AuthorizationRights** authorizedRights);

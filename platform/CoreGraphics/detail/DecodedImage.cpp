@@ -6,7 +6,7 @@
 
 namespace {
 
-/// A reader of bytes in memory, which are borrowed.
+/// Reads bytes in memory. They are borrowed.
 class BytesReader {
 public:
     BytesReader(std::span<const UInt8> bytes, const char* format)

@@ -6,12 +6,12 @@
 
 class QScreen;
 
-// Where displays and windows lie, in three kinds of coordinates:
-// - pixels of the desktop, as the X server counts them, over all displays;
-// - Qt's units: a display's corner in pixels, and within the display units of its own scale;
-// - points: units of the main display's scale from its top-left corner, over all displays.
+// Places of displays and windows, in three kinds of coordinates:
+// - pixels of the desktop: those of the X server, over all displays;
+// - Qt's units: a display's corner is in pixels; inside the display a unit has the display's scale;
+// - points: units of the main display's scale, from its top-left corner, over all displays.
 
-/// A display as Qt tells it.
+/// A display as Qt describes it.
 struct DisplayPlace {
     explicit DisplayPlace(const QScreen& screen);
 
@@ -23,5 +23,5 @@ struct DisplayPlace {
 
 QRectF toPoints(const DisplayPlace& display, const DisplayPlace& main);
 
-/// In Qt's units. `counted` is the display that Qt takes the window to be on.
+/// To Qt's units. `counted` is the display that Qt takes the window to be on.
 QRect toQtUnits(const QRectF& points, const DisplayPlace& main, const DisplayPlace& counted);

@@ -39,7 +39,7 @@ bool open(const std::string& desktop) {
 
 } // namespace
 
-// The variable lists the desktop and what it is like, closest first: "ubuntu:GNOME".
+// The variable names the desktop, then similar ones: "ubuntu:GNOME".
 bool openAccessibilitySettings() {
     const char* value = std::getenv("XDG_CURRENT_DESKTOP");
     std::istringstream desktops(value ? value : "");

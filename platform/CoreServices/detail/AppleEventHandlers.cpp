@@ -13,8 +13,8 @@ struct InstalledHandler {
     void* refCon;
 };
 
-/// The application's handler table. It lives as long as the program: the link to the agent is taken
-/// down when that exits.
+/// The application's handlers. Lives as long as the program: the link to the agent is closed at
+/// exit.
 std::map<HandlerKey, InstalledHandler>& handlers() {
     static auto& table = *new std::map<HandlerKey, InstalledHandler>;
     return table;

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A parameter as it travels: (uuay).
+/// A parameter in the message: (uuay).
 struct WireParameter {
     uint keyword = 0;
     uint type = 0;

@@ -8,20 +8,20 @@
 
 #include <optional>
 
-// How an event travels: as a call of the one method of the one interface.
+// How an event is sent: as a call of one method.
 
 const QString kEventObjectPath = QStringLiteral("/org/korvex/AppleEvents");
 const QString kEventInterface = QStringLiteral("org.korvex.AppleEvents1");
 const QString kEventMember = QStringLiteral("Event");
 const QString kEventSignature = QStringLiteral("uua(uuay)");
 
-/// What one event may carry: more parameters, or more bytes in all of them together, are refused.
+/// Limits of one event. One with more parameters, or more bytes in all, is refused.
 constexpr std::size_t kMaxEventParameters = 64;
 constexpr std::size_t kMaxEventBytes = 1u << 20;
 
-/// The call that carries an event to its target.
+/// The D-Bus call for an event.
 QDBusMessage messageOfEvent(const AppleEvent& event);
 
-/// The event that a call of kEventSignature carries; none when it exceeds the limits. The last of
-/// several parameters of one keyword counts.
+/// The event in a call of kEventSignature. None when it exceeds the limits. Of several parameters
+/// with the same keyword the last counts.
 std::optional<AppleEvent> eventOfMessage(const QDBusMessage& message);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// Receives events at /org/korvex/AppleEvents from now on and gives them to their handlers. False
-/// without a bus. Calling it again does nothing.
+/// From now on receives events at /org/korvex/AppleEvents and gives them to their handlers. False
+/// without a bus. A second call does nothing.
 bool exportAppleEventObject();

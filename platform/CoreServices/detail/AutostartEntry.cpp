@@ -14,8 +14,8 @@ namespace {
 
 constexpr std::string_view kExecutables = "/Contents/Linux/";
 
-/// The arguments of an Exec value, without field codes. Outside of double quotes a backslash stands
-/// for itself.
+/// The arguments of an Exec value, without field codes. Outside double quotes a backslash is an
+/// ordinary character.
 std::vector<std::string> execArguments(std::string_view exec) {
     std::vector<std::string> arguments;
     bool quoted = false, begun = false;
@@ -44,7 +44,7 @@ std::vector<std::string> execArguments(std::string_view exec) {
     return arguments;
 }
 
-/// The bundle that the executable belongs to, or nothing.
+/// The bundle that the executable belongs to. Empty when none.
 std::string bundleOf(const std::string& executable) {
     const std::size_t folder = executable.rfind(kExecutables);
     if (!executable.starts_with('/') || folder == std::string::npos ||
@@ -61,9 +61,9 @@ std::string applicationOf(std::string_view exec) {
     return !arguments.empty() && arguments.front().starts_with('/') ? arguments.front() : "";
 }
 
-constexpr char kHiddenHere[] = "X-Korvex-Hidden"; ///< of entries that only hide the system's
+constexpr char kHiddenHere[] = "X-Korvex-Hidden"; ///< marks entries that only hide the system's
 
-/// What marks an entry as deleted or switched off.
+/// Keys that mark an entry as deleted or switched off.
 constexpr struct {
     const char *key, *value;
 } kSwitches[] = {
@@ -78,13 +78,13 @@ bool isSwitchedOff(const DesktopEntry& entry) {
     });
 }
 
-/// Whether the line of a file sets one of the keys above.
+/// Whether the line sets one of these keys.
 bool isSwitch(const std::string& line) {
     const std::string key = line.substr(0, line.find_first_of("= \t"));
     return std::ranges::any_of(kSwitches, [&](const auto& each) { return each.key == key; });
 }
 
-/// Whether one of the desktops that are running is in the list, each with a semicolon after it.
+/// Whether the list has one of the running desktops. A semicolon follows each.
 bool listsThisDesktop(const std::string& list) {
     const char* value = std::getenv("XDG_CURRENT_DESKTOP");
     std::istringstream running(value ? value : "");
@@ -100,7 +100,7 @@ bool isForThisDesktop(const DesktopEntry& entry) {
            !listsThisDesktop(desktopEntryValue(entry, "NotShowIn"));
 }
 
-/// A text as a value of type string.
+/// The text, escaped as a value of type string.
 std::string escaped(std::string_view text) {
     constexpr std::string_view meanings = "\n\t\r\\", letters = "ntr\\";
     std::string value;

@@ -4,34 +4,34 @@
 #include <optional>
 #include <string>
 
-// Desktop entries that start a program when a session begins, as the Desktop Application Autostart
-// and Desktop Entry specifications of freedesktop.org have them.
+// Desktop entries that start a program at login. They follow the freedesktop.org specifications
+// Desktop Application Autostart and Desktop Entry.
 
 struct AutostartEntry {
-    /// What it starts: the bundle whose executable its Exec names, whether itself or through
-    /// another program such as env; else the program, if that is an absolute path; else empty.
+    /// What it starts. The bundle whose executable is named in Exec, directly or behind a program
+    /// such as env. Else the program, if it is an absolute path. Else empty.
     std::string application;
-    /// Whether a login to the desktop that is running heeds it: it isn't marked as deleted,
-    /// switched off or for other desktops only, and the program that its TryExec names is there.
+    /// Whether a login to the running desktop starts it. It must not be deleted, switched off or
+    /// only for other desktops, and the program in TryExec must exist.
     bool isLive = false;
-    /// Whether the user has marked it as deleted or switched off, in the desktop's own tool or by
-    /// hand. Entries of hiddenAutostartEntryText aren't the user's.
+    /// Whether the user has deleted it or switched it off. That doesn't hold for entries of
+    /// hiddenAutostartEntryText.
     bool isSwitchedOff = false;
-    /// The desktops that alone heed it, when that which is running isn't one: OnlyShowIn's value.
+    /// OnlyShowIn's value when the running desktop isn't in it; else empty.
     std::string onlyElsewhere;
 };
 
-/// None when the file can't be read or isn't an application's desktop entry.
+/// None when the file can't be read or is no application's desktop entry.
 std::optional<AutostartEntry> readAutostartEntry(const std::string& path);
 
-/// The text of an entry that starts the executable, an absolute path, under that name, but not on
-/// the desktops in `notShowIn`, each with a semicolon after it.
+/// An entry that starts the executable, an absolute path, under that name. It isn't started on the
+/// desktops in `notShowIn`; a semicolon follows each.
 std::string autostartEntryText(const std::string& name, const std::string& executable,
                                const std::string& notShowIn);
 
-/// The text of the entry with all but what switches it off.
+/// The entry's text without the lines that switch it off.
 std::string switchedOnEntryText(const std::string& path);
 
-/// The text of an entry that starts nothing, and keeps the system's entry of the same file name
-/// from starting. It still tells which application it was for.
+/// An entry that starts nothing, and keeps the system's entry of the same file name from being
+/// started. It names the application that it was for.
 std::string hiddenAutostartEntryText(const std::string& name, const std::string& application);

@@ -4,8 +4,8 @@
 #include <map>
 #include <string>
 
-/// The keys of a desktop entry's group [Desktop Entry], with their values as they stand in the
-/// file, but for the escapes, which are resolved. Localized keys are left out.
+/// Keys and values of a desktop entry's group [Desktop Entry]. Escapes in values are resolved.
+/// Localized keys are left out.
 using DesktopEntry = std::map<std::string, std::string>;
 
 /// Empty when the file can't be read, or is larger than 1 MiB.
@@ -14,5 +14,5 @@ DesktopEntry readDesktopEntry(const std::string& path);
 /// Empty for a key that isn't there.
 std::string desktopEntryValue(const DesktopEntry& entry, const std::string& key);
 
-/// Whether it is an application that isn't hidden, and the program that TryExec names is there.
+/// Whether it is an application, isn't hidden, and the program in TryExec exists.
 bool isInstalledApplication(const DesktopEntry& entry);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kFirstOtherFile = 3; ///< after input, output and errors
 
-/// What the program's files and its current folder are to be.
+/// The program's open files and its current folder.
 void describeFiles(posix_spawn_file_actions_t& files) {
     posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);

@@ -5,12 +5,12 @@
 #include <sys/types.h>
 #include <vector>
 
-/// Starts a program to live on its own, also after this one; its process ID, or 0 when it can't be
-/// executed. Waits for the exec itself, about a millisecond.
+/// Starts a program that may outlive this one. Returns its process ID, or 0 when it can't be
+/// executed. Waits for the exec, about a millisecond.
 ///
-/// It has a session of its own, the root as its current folder, no signal blocked or ignored. Its
-/// input and output are /dev/null, its errors go where this process's go; all other files are
-/// closed. An executable that is named without a slash is looked for in $PATH.
+/// The program has its own login session, the root as current folder, and no signals blocked or
+/// ignored. Input and output are /dev/null, errors go where this process's go. All other files are
+/// closed. An executable without a slash in its name is looked for in $PATH.
 ///
-/// The caller has it reaped (ProcessEnd.h).
+/// The caller must have it reaped (ProcessEnd.h).
 pid_t startDetached(std::string executable, std::vector<std::string> arguments = {});

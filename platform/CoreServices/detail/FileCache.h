@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-/// One state of what a path names: changes whenever that is written, replaced, made or removed.
+/// The state of a path's file. It changes when the file is written, replaced, made or removed.
 struct FileState {
     bool exists = false;
     std::uint64_t device = 0;
@@ -16,19 +16,19 @@ struct FileState {
 
     bool operator==(const FileState&) const = default;
 
-    /// Whether the next change is sure to show. File systems keep times in steps of up to two
-    /// seconds: two changes in one step can't be told apart.
+    /// Whether any later change will show. File systems keep times in steps of up to two seconds.
+    /// Two changes in one step look alike.
     bool isSettled() const;
 };
 
 FileState stateOfFile(const std::string& path);
 
-/// What was read from files and folders, each read again only after it changed.
+/// Caches what was read from files and folders. Each is read again only after it changed.
 template <class Value>
 class FileCache {
 public:
-    /// What `read(path)` gave for the path's present state; a default value when nothing is there.
-    /// Borrowed until the next call for that path.
+    /// The result of `read(path)` for the path's present state. A default value when nothing is
+    /// there. Borrowed until the next call for that path.
     template <class Read>
     const Value& get(const std::string& path, Read read) {
         Entry& entry = entries_[path];

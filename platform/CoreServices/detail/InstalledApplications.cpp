@@ -16,19 +16,19 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What a bundle's Info.plist says of it.
+/// A bundle's Info.plist.
 struct BundleInfo {
     OSType signature = 0;
     std::string identifier;
     std::string iconFile;
 };
 
-// Asked for at every drawing of a button.
+// These are asked for whenever a button is drawn.
 FileCache<std::vector<std::string>> bundleNames; ///< by folder
 FileCache<BundleInfo> bundleInfos;               ///< by the path of Info.plist
 FileCache<DesktopEntry> desktopEntries;          ///< by path
 
-/// The identifier that each creator code was last found with.
+/// The identifier that was last found with each creator code.
 std::map<OSType, std::string>& identifiersOfCreators() {
     static auto& identifiers = *new std::map<OSType, std::string>;
     return identifiers;
@@ -72,7 +72,7 @@ BundleInfo readBundleInfo(const std::string& path) {
             utf8(text("CFBundleIconFile"))};
 }
 
-/// The first bundle in the folder that fits.
+/// The first fitting bundle in the folder.
 std::optional<InstalledApplication> findBundle(const std::string& folder, OSType creator,
                                                const std::string& identifier,
                                                const std::string& fileName) {
@@ -102,7 +102,7 @@ std::optional<InstalledApplication> search(OSType creator, const std::string& id
         const DesktopEntry& entry = desktopEntries.get(path, readDesktopEntry);
         if (isInstalledApplication(entry))
             return InstalledApplication{path, false, desktopEntryValue(entry, "Icon")};
-        wantsEntry = entry.empty(); // else it hides those in later folders
+        wantsEntry = entry.empty(); // a hidden entry hides those in later folders
     }
     return std::nullopt;
 }

@@ -6,11 +6,11 @@
 #include <optional>
 #include <string>
 
-/// An application as it is installed: a bundle or a desktop entry.
+/// An installed application: a bundle or a desktop entry.
 struct InstalledApplication {
     std::string path; ///< the bundle's folder, or the entry's file
     bool isBundle = false;
-    std::string icon; ///< CFBundleIconFile or Icon, as it is written there; may be empty
+    std::string icon; ///< CFBundleIconFile or Icon; may be empty
 };
 
 /// Finds an application as LSFindApplicationForInfo does. Criteria that are 0 or empty don't count.
@@ -18,6 +18,6 @@ std::optional<InstalledApplication> findInstalledApplication(OSType creator,
                                                              const std::string& identifier,
                                                              const std::string& fileName);
 
-/// The application by its creator code alone; a desktop entry by the identifier that was last found
-/// along with the code.
+/// Finds the application by its creator code alone. A desktop entry is found by the identifier that
+/// last came with the code.
 std::optional<InstalledApplication> findApplicationOfCreator(OSType creator);

@@ -6,12 +6,12 @@
 
 class QSocketNotifier;
 
-/// Watches one process until it has ended, by a handle that no later process of the same number can
-/// take over. A child of this process is reaped once it has ended.
+/// Watches a process until it ends. A later process with the same ID isn't mistaken for it. A child
+/// of this process is reaped when it ends.
 class ProcessEnd {
 public:
-    /// `onEnded` is called once, from the event loop; it may delete this object. It is never called
-    /// when there is no such process any more.
+    /// `onEnded` is called once, from the event loop. It may delete this object. It is never called
+    /// when the process is already gone.
     ProcessEnd(pid_t pid, std::function<void()> onEnded);
     ~ProcessEnd();
     ProcessEnd(const ProcessEnd&) = delete;
@@ -19,7 +19,7 @@ public:
 
     pid_t pid() const { return pid_; }
 
-    /// Asks the system, so that it is right also before the event loop has seen the end.
+    /// Asks the system. So it is right even before the event loop has seen the end.
     bool hasEnded() const;
 
 private:
@@ -28,5 +28,5 @@ private:
     QSocketNotifier* ended_ = nullptr;
 };
 
-/// Reaps a child of this process once it has ended, from the event loop.
+/// From the event loop, reaps a child of this process when it ends.
 void reapAtItsEnd(pid_t pid);

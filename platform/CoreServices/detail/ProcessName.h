@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// What a bus name tells of the process that owns it.
+/// What a bus name tells about its process.
 struct ProcessName {
     OSType type = 0;
     OSType signature = 0;
@@ -17,11 +17,11 @@ struct ProcessName {
 /// org.korvex.Process1.t<type>.s<signature>.p<pid>, with upper-case digits.
 QString formatProcessName(const ProcessName& process);
 
-/// Takes digits of either case. None for any other name: other numbers of digits, a
-/// process ID that isn't a positive decimal number, missing or further fields.
+/// Accepts digits of either case. None for any other name: wrong number of digits, missing or extra
+/// fields, a process ID that is no positive decimal number.
 std::optional<ProcessName> parseProcessName(const QString& busName);
 
-/// The serial number {a, b} of the unique bus name :a.b; none for any other name.
+/// The serial number {a, b} of the unique bus name :a.b. None for any other name.
 std::optional<ProcessSerialNumber> parseUniqueName(const QString& uniqueName);
 
 /// The unique bus name of a process serial number.

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Whether the bus gave this connection the name, or had given it before.
+/// Whether this connection has the name.
 bool requestName(const QString& busName) {
     constexpr uint doNotQueue = 4, primaryOwner = 1, alreadyOwner = 4;
     const QDBusReply<uint> reply = sessionBus().call(
@@ -20,10 +20,10 @@ bool requestName(const QString& busName) {
 
 } // namespace
 
-// Apart from Processes.cpp: a process that takes part receives events, and those who send events
-// look up processes.
+// Not in Processes.cpp: that would be a circle. Taking part includes receiving events, and sending
+// events looks up processes.
 bool registerCurrentProcess(OSType type, OSType signature) {
-    // The object first: events may come as soon as the name can be seen.
+    // The object first: events may come as soon as others see the name.
     return sessionBus().isConnected() && exportAppleEventObject() &&
            requestName(formatProcessName({type, signature, getpid()}));
 }

@@ -21,7 +21,7 @@ ProcessTable::ProcessTable(QObject* parent) : QObject(parent) {
                 setOwner(busName, owner);
                 changed_.start();
             });
-    // What is announced from here on comes after what is listed now, and is taken in after it.
+    // Announcements from here on are taken in after what is listed now.
     fill();
 }
 

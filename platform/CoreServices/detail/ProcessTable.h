@@ -8,8 +8,8 @@
 
 #include <map>
 
-/// Who takes part, by bus name. The bus announces every change; those that have reached this
-/// process are taken in before each look, so that a look is fresh and asks nobody.
+/// Who takes part, by bus name. The bus announces every change. Each look first takes in the
+/// announcements that have arrived. So it is up to date without asking anybody.
 class ProcessTable final : public QObject {
 public:
     struct Process {
@@ -17,15 +17,15 @@ public:
         ProcessName name;
     };
 
-    /// The table, made and filled on first use; null without a bus.
+    /// Made and filled on first use. Null without a bus.
     static ProcessTable* shared();
 
     const Process* find(const ProcessSerialNumber& psn) const;
 
-    /// The one with the next higher serial number.
+    /// The process with the next higher serial number.
     const Process* findAfter(const ProcessSerialNumber& psn) const;
 
-    /// The first, in no order, that `fits`; null when none does.
+    /// The first that `fits`, in no particular order. Null when none does.
     template <class Predicate>
     const Process* findIf(Predicate fits) const {
         for (const auto& [busName, process] : processes_)
@@ -34,7 +34,7 @@ public:
         return nullptr;
     }
 
-    /// Fires from the event loop after processes have come or gone, once for all of them.
+    /// Times out after processes have come or gone, once for all of them.
     const QTimer& changed() const { return changed_; }
 
 private:

@@ -8,7 +8,7 @@
 
 void receiveWithoutPause(const QDBusConnection& connection) {
     using SetLimit = void (*)(void* connection, long bytes);
-    // Of the library that Qt uses; Qt passes it on only as a pointer.
+    // This is libdbus, which Qt uses. Qt gives access to it by a pointer only.
     static const auto setLimit =
         reinterpret_cast<SetLimit>(dlsym(RTLD_DEFAULT, "dbus_connection_set_max_received_size"));
     if (setLimit && connection.isConnected())
@@ -20,8 +20,8 @@ QDBusConnection sessionBus() {
     static bool made = false;
     if (!made && QCoreApplication::instance()) {
         made = true;
-        // A connection by name delivers from the start; the default one holds messages back until
-        // the event loop runs, and the first queries come before that.
+        // A named connection delivers messages from the start. The default one holds them back
+        // until the event loop runs, and the first queries come earlier.
         receiveWithoutPause(QDBusConnection::connectToBus(QDBusConnection::SessionBus, name));
     }
     return QDBusConnection(name);

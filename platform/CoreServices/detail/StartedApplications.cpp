@@ -15,7 +15,7 @@ constexpr int kMostEndings = 2;
 
 constexpr OSType kApplicationType = fourCharCode("APPL");
 
-/// 0 when the bundle says none.
+/// 0 when the bundle has none.
 OSType signatureOf(const CFBundle* bundle) {
     const auto* text = dynamicCFCast<CFString>(
         CFBundleGetValueForInfoDictionaryKey(bundle, CFSTR("CFBundleSignature")));
@@ -81,7 +81,7 @@ OSStatus StartedApplications::launch(Application& application) {
 
 void StartedApplications::await(Application& application) {
     application.awaitedSince = Clock::now();
-    // A coarse timer may be early, and is the only one: nobody would be told.
+    // A coarse timer may fire early. This one fires only once, so nobody would be told.
     QTimer::singleShot(kPatience, Qt::PreciseTimer, QCoreApplication::instance(),
                        [this] { tell(); });
     tell();

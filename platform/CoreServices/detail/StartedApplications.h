@@ -11,22 +11,22 @@
 
 class CFBundle;
 
-/// The applications that this process starts: each runs once at a time, and what becomes of it is
-/// kept, by the path of its bundle. Main thread only.
+/// The applications that this process starts, by the paths of their bundles. Each runs once at a
+/// time. Main thread only.
 class StartedApplications {
 public:
     /// Lives as long as the program.
     static StartedApplications& shared();
 
-    /// Starts the application unless it runs or is still starting. One that was asked to quit, or
-    /// that takes no part any more, is started once that process has ended. `url` names its bundle.
+    /// Starts the application unless it runs or is starting. If it was asked to quit, or has left
+    /// the bus, it is started when its process has ended. `url` names its bundle.
     OSStatus start(const CFURL* url);
 
-    /// An event asks that process to quit. An application that is to start after it doesn't any
-    /// more.
+    /// Tells that an event asks this process to quit. An application that waited for its end isn't
+    /// started any more.
     void noteQuitRequest(const ProcessSerialNumber& psn);
 
-    /// What went wrong so far doesn't count any more.
+    /// Forgets what went wrong.
     void forgive(const std::string& bundle);
 
     std::optional<TroubledApplication> findTrouble() const;
@@ -34,7 +34,7 @@ public:
     /// See LaunchTrouble.h.
     bool isLaunching(const std::string& bundle) const;
 
-    /// Times out after anything has changed, once for all that happened meanwhile.
+    /// Times out after changes, once for all that happened meanwhile.
     const QTimer& changed() const { return changed_; }
 
 private:
@@ -44,9 +44,9 @@ private:
         std::string executable;
         OSType signature = 0;                ///< 0 when unknown
         std::unique_ptr<ProcessEnd> process; ///< null when none that was started here runs
-        std::optional<Clock::time_point> awaitedSince; ///< it was to start then and isn't up yet
+        std::optional<Clock::time_point> awaitedSince; ///< it was started then and isn't up yet
         bool couldntStart = false;
-        bool startsNext = false; ///< once the one that is on its way out has ended
+        bool startsNext = false; ///< when its process has ended
         bool isToQuit = false;   ///< `process` was asked to
         int endings = 0;         ///< by itself
     };
@@ -69,8 +69,8 @@ private:
     /// `ended` doesn't count: the bus may not know yet that this process is gone.
     bool isUp(const Application& application, pid_t ended = 0) const;
     bool isQuitting(const Application& application) const;
-    /// Whether `process` was up and is no more, and yet hasn't ended: a process leaves the bus a
-    /// moment before the system knows of its end.
+    /// Whether `process` was up, has left the bus, and hasn't ended yet. Leaving the bus comes a
+    /// moment before the end.
     bool isGoing(const Application& application) const;
     bool isAwaited(const Application& application) const;
     void tell();

@@ -14,10 +14,10 @@
 
 namespace {
 
-/// What a drawing is taken to measure, in pixels: enough for 32 points at any density.
+/// The size that a drawing without pixels gets, in pixels. Enough for 32 points at any density.
 constexpr int kDrawingSide = 256;
 
-/// The folders of the hicolor theme that applications install their icons in, and the suffix there.
+/// Folders of the hicolor theme with applications' icons, and the suffix there.
 constexpr struct {
     const char *folder, *suffix;
 } kThemeFolders[] = {
@@ -27,7 +27,7 @@ constexpr struct {
     {"512x512", ".png"}, {"scalable", ".svg"},
 };
 
-/// A file that belongs to an icon, and the state that it was read in.
+/// A file of an icon, and its state when it was read.
 struct IconFile {
     std::string path;
     FileState state;
@@ -35,7 +35,7 @@ struct IconFile {
     bool operator==(const IconFile&) const = default;
 };
 
-/// Files that aren't there are left out.
+/// Missing files are left out.
 class IconFiles {
 public:
     void add(const std::string& path) {
@@ -53,8 +53,8 @@ private:
     std::vector<IconFile> files_;
 };
 
-/// The first data folder that has the icon in its hicolor theme gives all sizes of it, else the
-/// first that has it among its pixmaps.
+/// All sizes come from the first data folder that has the icon in its hicolor theme. If none has,
+/// from the first with it in `pixmaps`.
 IconFiles filesOfNamedIcon(const std::string& name) {
     IconFiles files;
     if (name.empty() || name.find('/') != name.npos)

@@ -4,6 +4,6 @@
 #include "platform/CoreServices/detail/InstalledApplications.h"
 #include "platform/IconServices/Icons.h"
 
-/// The application's icon; null when it has none that can be read. The same object as long as no
-/// file of the icon changes.
+/// The application's icon. Null when it has none that can be read. The same object until a file of
+/// the icon changes.
 CFRef<Icon> iconOfApplication(const InstalledApplication& application);

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-/// The number in the first four bytes, of which there are at least four.
+/// The number in the first four bytes. There must be at least four.
 inline UInt32 bigEndian32(std::string_view bytes) {
     UInt32 number = 0;
     for (std::size_t i = 0; i < 4; ++i)

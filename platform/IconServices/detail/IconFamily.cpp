@@ -9,17 +9,17 @@
 #include <map>
 #include <string>
 
-// libicns decodes what no one else does: packed colours and palettes. It trusts lengths,
-// so it sees only single elements whose length was found right here, in a family made for them.
+// libicns decodes packed colours and palettes, which Qt can't. It trusts lengths in the file. So it
+// gets single elements only, each with a checked length and in a family made for it.
 
 namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::size_t kHeaderSize = 8; // of the family, and of each element: type, length with it
+constexpr std::size_t kHeaderSize = 8; // of the family and of each element: type and length
 constexpr auto kPNGSignature = "\x89PNG\r\n\x1A\n"sv;
 
-/// The elements' content by their type; the first of each type counts.
+/// The elements' contents by type. The first of each type counts.
 using Elements = std::map<OSType, std::string_view>;
 
 /// None when the lengths don't fit.
@@ -62,7 +62,7 @@ std::string makeFamily(const Elements& elements) {
     return family + body;
 }
 
-/// The image of one size and depth as libicns combines it with its mask.
+/// One image, which libicns combines with its mask.
 QImage decodeWithLibicns(const Elements& elements, OSType type, const QSize& size) {
     std::string bytes = makeFamily(elements);
     icns_set_print_errors(0);
@@ -77,7 +77,7 @@ QImage decodeWithLibicns(const Elements& elements, OSType type, const QSize& siz
     return status == ICNS_STATUS_OK ? image.toQImage(size) : QImage();
 }
 
-/// The classic images of one size, by their depth.
+/// The classic images of one size, by depth.
 struct ClassicSize {
     int width, height;
     OSType colour, palette256, palette16, bitmap; ///< a bitmap has a mask after it
@@ -99,10 +99,10 @@ constexpr ClassicSize kClassicSizes[] = {
     {128, 128, fourCharCode("it32"), 0, 0, 0, fourCharCode("t8mk")},
 };
 
-/// Whether packed colours fill all three channels: runs of one byte, repeated (high bit set, length
-/// less 125, then the byte), or of different bytes (length less 1, then the bytes), none reaching
-/// into the next channel. The 128-pixel images have four zero bytes in front. Or four plain bytes a
-/// pixel.
+/// Whether packed colours are sound. Each of the three channels is a series of runs. A run is one
+/// repeated byte (length + 125, then the byte) or different bytes (length - 1, then the bytes). No
+/// run may cross into the next channel. 128-pixel images begin with four zero bytes. Unpacked
+/// colours are sound too: four bytes a pixel.
 bool isSoundColour(std::string_view content, std::size_t pixels) {
     if (content.size() == 4 * pixels)
         return true;
@@ -133,10 +133,10 @@ bool isSound(const ClassicSize& size, OSType type, std::string_view content) {
         return content.size() == pixels;
     if (type == size.palette16)
         return content.size() == pixels / 2;
-    return content.size() == pixels / 4; // one bit a pixel, and as many for the mask
+    return content.size() == pixels / 4; // one bit a pixel, and one for the mask
 }
 
-/// Gives the image the mask of 8 bits if there is one, else that of one bit, else none.
+/// Applies the 8-bit mask if there is one, else the 1-bit mask, else none.
 void applyMask(QImage& image, std::string_view mask, std::string_view bitmap) {
     const std::string_view bits = bitmap.substr(bitmap.size() / 2);
     std::size_t at = 0;
@@ -157,8 +157,8 @@ QImage decodeClassic(const ClassicSize& size, OSType type, const Elements& eleme
         const auto found = elements.find(wanted);
         return found == elements.end() ? std::string_view() : found->second;
     };
-    // libicns combines colours with an 8-bit mask only, and the rest with a 1-bit mask only: it
-    // gets one that hides nothing.
+    // libicns combines colours only with an 8-bit mask, and other depths only with a 1-bit mask. So
+    // it gets a mask that hides nothing.
     const std::string opaque(size.pixels(), '\xFF');
     Elements forLibrary = {{type, content(type)}};
     if (type == size.colour)

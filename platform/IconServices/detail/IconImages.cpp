@@ -28,7 +28,7 @@ QImage IconImages::atLeast(int side) {
         if (!imageOf(*at).isNull())
             return at->image;
 
-    // The largest of the smaller ones; of those of one size, the first.
+    // The largest of the smaller ones. Of equal sizes, the first.
     const Entry* best = nullptr;
     for (auto at = enough; at != entries_.begin();) {
         --at;

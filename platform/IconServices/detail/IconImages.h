@@ -6,21 +6,21 @@
 #include <functional>
 #include <vector>
 
-/// The images of one icon, each decoded when it is first asked for, and kept.
+/// The images of one icon. Each is decoded when it is first needed, then kept.
 class IconImages {
 public:
-    /// Gives a null image when what it decodes is damaged.
+    /// Returns a null image when its data is damaged.
     using Decoder = std::function<QImage()>;
 
-    /// Adds an image of that size in pixels; an empty one isn't added. Of several with the same
-    /// longer side, the first is taken that isn't damaged.
+    /// Adds an image of that size in pixels. An empty one isn't added. If several have the same
+    /// longer side, the first sound one is used.
     void add(const QSize& size, Decoder decode);
 
     /// Whether at least one image decodes.
     bool anyDecodes();
 
-    /// The smallest image with at least that many pixels on its longer side, else the largest; a
-    /// null image when none decodes.
+    /// The smallest image whose longer side has at least that many pixels, else the largest. Null
+    /// when none decodes.
     QImage atLeast(int side);
 
 private:

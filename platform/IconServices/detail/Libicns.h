@@ -9,7 +9,7 @@ extern "C" {
 #include <icns.h>
 }
 
-/// An image that libicns made; freed with the object.
+/// An image made by libicns. The object owns it.
 class LibicnsImage {
 public:
     LibicnsImage() = default;
@@ -21,7 +21,7 @@ public:
 
     icns_image_t* get() { return &image_; }
 
-    /// A copy, with plain alpha. Null unless it is of that size and has four channels of 8 bits.
+    /// A copy with plain alpha. Null unless it has that size and four channels of 8 bits.
     QImage toQImage(const QSize& size) const {
         const auto width = static_cast<icns_uint32_t>(size.width());
         const auto height = static_cast<icns_uint32_t>(size.height());

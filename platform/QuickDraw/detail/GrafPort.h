@@ -10,8 +10,8 @@
 /// A widget's picture, in the widget's own coordinates.
 class GrafPort {
 public:
-    /// A view's port, while the painter is active on it. It is the current port from its making to
-    /// its end, when the one before it becomes current again. Neither is owned.
+    /// A view's port while the painter is active on it. It is the current port until it is
+    /// destroyed; then the one before it is current again. Owns neither argument.
     GrafPort(QPainter& painter, const QWidget& widget);
     virtual ~GrafPort();
     GrafPort(const GrafPort&) = delete;
@@ -21,7 +21,7 @@ public:
     static GrafPort* current();
     static void setCurrent(GrafPort* port);
 
-    /// Whose style, palette and fonts the theme takes.
+    /// The theme takes style, palette and fonts from it.
     const QWidget& widget() const { return widget_; }
 
     QColor background = Qt::white;
@@ -38,15 +38,15 @@ public:
 
     virtual void endDrawing() {}
 
-    /// What was drawn inside the region, in the widget's coordinates, is to be on the screen once
-    /// the drawing has ended. A view's always is.
+    /// Once the drawing has ended, what was drawn inside the region is on the screen. The region is
+    /// in the widget's coordinates. A view needs no flush.
     virtual void flush(const QRegion&) {}
 
-    /// Takes away what was drawn in the rectangle, in the widget's coordinates.
+    /// Removes what was drawn in the rectangle, which is in the widget's coordinates.
     virtual void erase(const QRectF& rect);
 
 protected:
-    /// A port that is there without a painter, and not current.
+    /// A port without a painter. It isn't current.
     explicit GrafPort(const QWidget& widget);
 
     void setPainter(QPainter* painter) { painter_ = painter; }
@@ -61,5 +61,5 @@ inline QRect toQRect(const Rect& rect) {
     return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
 }
 
-/// Edges that 16 bits can't hold become the nearest that they can.
+/// Edges are limited to what 16 bits hold.
 Rect toRect(const QRect& rect);
