@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// An ordered list of objects, each retained. Immutable, but for CFMutableArray.
+/// An ordered list of objects, each retained. Immutable, except CFMutableArray.
 class CFArray : public CFType {
 public:
     using Items = std::vector<CFRef<const CFType>>;
@@ -38,8 +38,8 @@ CFIndex CFArrayGetCount(const CFArray* array);
 /// Null for an index outside the array.
 const CFType* CFArrayGetValueAtIndex(const CFArray* array, CFIndex index);
 
-/// Calls the function for each item of that part of the array, in order; for a range that isn't
-/// within the array, for none. The function must not change the array.
+/// Calls the function for each item of the range, in order. For a range outside the array it calls
+/// nothing. The function must not change the array.
 using CFArrayApplierFunction = void (*)(const CFType* value, void* context);
 void CFArrayApplyFunction(const CFArray* array, CFRange range, CFArrayApplierFunction function,
                           void* context);

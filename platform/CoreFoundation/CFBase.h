@@ -23,7 +23,7 @@ using UniChar = char16_t;
 using CFIndex = std::ptrdiff_t;
 using CFHashCode = std::size_t;
 
-/// `length` places from `location` on.
+/// `length` places, beginning at `location`.
 struct CFRange {
     CFIndex location = 0;
     CFIndex length = 0;
@@ -59,9 +59,9 @@ enum class CFTypeID : int {
     SharedFileListItem
 };
 
-/// The root of all Core Foundation objects: a reference count and a type. Objects start with one
-/// reference, which the Create function that made them hands to its caller as a CFRef. Main thread
-/// only: the count isn't atomic.
+/// The root of all Core Foundation objects: a reference count and a type. A new object has one
+/// reference, which its Create function returns as a CFRef. Main thread only: the count isn't
+/// atomic.
 class CFType {
 public:
     CFType(const CFType&) = delete;
@@ -69,8 +69,8 @@ public:
 
     virtual CFTypeID typeID() const = 0;
 
-    /// Whether `other`, of the same type, holds the same value. Objects of a type without values
-    /// equal themselves only.
+    /// Whether `other`, of the same type, has the same value. Objects without a value equal only
+    /// themselves.
     virtual bool isEqual(const CFType& other) const { return this == &other; }
 
     virtual CFHashCode hash() const { return std::hash<const CFType*>()(this); }
@@ -93,8 +93,8 @@ private:
     mutable long count_ = 1;
 };
 
-/// An owning reference to a Core Foundation object, or null. Copying retains, destroying releases;
-/// nothing else in the system touches a reference count.
+/// An owning reference to a Core Foundation object, or null. Copying retains, destroying releases.
+/// Nothing else touches reference counts.
 template <class T>
 class CFRef {
 public:
@@ -119,7 +119,7 @@ public:
         return *this;
     }
 
-    /// Takes over the one reference that a new object starts with.
+    /// Takes over the reference of a new object.
     static CFRef adopt(T* object) {
         CFRef ref;
         ref.object_ = object;
@@ -141,7 +141,7 @@ public:
 
     explicit operator bool() const { return object_ != nullptr; }
 
-    /// Gives the reference up without releasing it.
+    /// Gives up the reference without releasing it.
     [[nodiscard]] T* leak() { return std::exchange(object_, nullptr); }
 
 private:
@@ -153,7 +153,7 @@ CFTypeID CFGetTypeID(const CFType* object);
 bool CFEqual(const CFType* a, const CFType* b);
 CFHashCode CFHash(const CFType* object);
 
-/// The object as a T, or null when it is null or of another type: for values from outside.
+/// The object as a T. Null when it is null or of another type. For values from outside.
 template <class T>
 const T* dynamicCFCast(const CFType* object) {
     return dynamic_cast<const T*>(object);

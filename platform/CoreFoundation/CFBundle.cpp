@@ -13,8 +13,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Every living bundle; they take themselves out. Never destroyed, since bundles that static
-/// objects hold go last.
+/// All bundles in memory. Their destructors remove them. The list is never destroyed: static
+/// objects may hold bundles until the very end.
 std::vector<CFBundle*>& livingBundles() {
     static auto& bundles = *new std::vector<CFBundle*>;
     return bundles;
@@ -59,8 +59,8 @@ bool equalIgnoringCase(const std::string& a, const std::string& b) {
                       [&](char x, char y) { return lower(x) == lower(y); });
 }
 
-/// The path, or that of the first file beside it whose name differs in letter case alone: file
-/// names ignore that on the platform.
+/// The path; or the first file beside it whose name differs in letter case alone. On macOS file
+/// names ignore case.
 fs::path inAnyCase(const fs::path& path) {
     std::error_code error;
     if (fs::exists(fs::symlink_status(path, error)))
@@ -72,7 +72,7 @@ fs::path inAnyCase(const fs::path& path) {
     return path;
 }
 
-/// The URL of `relative` in `folder`, or null when it isn't there or would climb out.
+/// The URL of `relative` in `folder`. Null when nothing is there, or it lies outside.
 CFRef<CFURL> existingURL(const fs::path& folder, const fs::path& relative) {
     const bool climbs = std::find(relative.begin(), relative.end(), "..") != relative.end();
     if (relative.empty() || relative.is_absolute() || climbs)
@@ -96,10 +96,9 @@ CFBundle::~CFBundle() {
     std::erase(livingBundles(), this);
 }
 
-/// All symbols are resolved at once, so that a missing one is this call's error and not a crash
-/// later. The code's own symbols stay local: its classes come forward through the registry that the
-/// program exports, and types of both sides are compared by name, so nobody needs to find the
-/// bundle's symbols and two bundles can't clash.
+/// All symbols are resolved at once, so a missing one is an error here and no crash later. The
+/// library's own symbols stay local, so two bundles can't clash. Nothing looks them up: classes
+/// register themselves with the program, and types are compared by name.
 bool CFBundle::load(std::string* error) {
     const CFRef<CFURL> executable = CFBundleCopyExecutableURL(this);
     if (!library_ && executable)

@@ -12,7 +12,7 @@ struct MallocDeallocator {
     void operator()(UInt8* bytes) const { std::free(bytes); }
 };
 
-/// A buffer that malloc made.
+/// A buffer from malloc.
 using MallocBuffer = std::unique_ptr<UInt8[], MallocDeallocator>;
 
 /// Bytes. Immutable.
@@ -29,12 +29,12 @@ public:
     CFHashCode hash() const override;
 
 private:
-    std::shared_ptr<const UInt8> bytes_; ///< deallocates as the bytes were allocated
+    std::shared_ptr<const UInt8> bytes_; ///< freed the way they were allocated
     std::size_t length_;
 };
 
 CFRef<CFData> CFDataCreate(const UInt8* bytes, CFIndex length);
 
-/// Takes over a buffer of at least `length` bytes, which is freed with the object. Null when the
-/// buffer is, or for a negative length; the buffer is freed then as well.
+/// Takes over a buffer of at least `length` bytes and frees it with the object. For a null buffer
+/// or a negative length the result is null, and the buffer is freed.
 CFRef<CFData> CFDataCreateWithBytesNoCopy(MallocBuffer bytes, CFIndex length);

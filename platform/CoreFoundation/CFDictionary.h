@@ -5,8 +5,8 @@
 
 #include <map>
 
-/// A dictionary with string keys, as property lists have; values are retained. Immutable, but for
-/// CFMutableDictionary. Walks are in the order of the keys.
+/// A dictionary with strings as keys. Values are retained. Immutable, except CFMutableDictionary.
+/// Iterates in the order of the keys.
 class CFDictionary : public CFType {
 public:
     using Items = std::map<std::u16string, CFRef<const CFType>, std::less<>>;
@@ -34,7 +34,7 @@ public:
 
 CFTypeID CFDictionaryGetTypeID();
 CFRef<CFMutableDictionary> CFDictionaryCreateMutable();
-/// Borrowed; null when the key is absent.
+/// Borrowed. Null when the key is missing.
 const CFType* CFDictionaryGetValue(const CFDictionary* dictionary, const CFString* key);
 void CFDictionarySetValue(CFMutableDictionary* dictionary, const CFString* key,
                           const CFType* value);

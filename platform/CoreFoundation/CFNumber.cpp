@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kTwoTo63 = 9223372036854775808.0;
 
-/// The integer that `value` is exactly, if there is one.
+/// False unless `value` is exactly an integer.
 bool exactInteger(double value, std::int64_t& integer) {
     if (!(value >= -kTwoTo63 && value < kTwoTo63) || value != std::trunc(value))
         return false;

@@ -48,6 +48,6 @@ private:
 
 bool CFBooleanGetValue(const CFBoolean* boolean);
 
-/// The two booleans; each lives as long as the process.
+/// The two booleans. They live as long as the process.
 extern const CFBoolean* const kCFBooleanTrue;
 extern const CFBoolean* const kCFBooleanFalse;

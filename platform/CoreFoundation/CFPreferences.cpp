@@ -31,7 +31,7 @@ const CFType* appValue(const CFString* key, const CFString* domain) {
     return own ? own : everyonesValue(*files, key);
 }
 
-/// Where the user's values are written; null when there is no such file.
+/// The file that the user's values are written to. Null when there is none.
 PreferencesDomain* writtenDomain(const CFString* name, const CFString* user) {
     PreferencesFiles* files = preferencesFiles(name);
     if (files && user == kCFPreferencesCurrentUser)

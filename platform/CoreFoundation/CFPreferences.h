@@ -3,29 +3,27 @@
 
 #include "platform/CoreFoundation/CFPropertyList.h"
 
-// Preferences: one property list a domain and user. This user's domain `com.example.app` is the
-// file $XDG_CONFIG_HOME/Preferences/com.example.app.plist; all users' domain is Preferences/… under
-// the folders of $XDG_CONFIG_DIRS, read in their order and written in the first. Application-level
-// reads look in this user's file, then in all users', which so serve as an administrator's
-// defaults; they don't look in the global domain.
+// Preferences: a property list for each domain and user. The domain `com.example.app` of this user
+// is the file $XDG_CONFIG_HOME/Preferences/com.example.app.plist. All users' domains are in
+// Preferences/ under the folders of $XDG_CONFIG_DIRS. They are searched in order; the first is
+// written. Application-level reads look in this user's file, then in all users'. So an
+// administrator can set defaults there. The global domain isn't searched.
 //
-// The process keeps each domain in memory from its first use. Setting a value changes that copy and
-// marks the key; synchronising takes the domain's lock, reads the file afresh, applies the marked
-// keys, writes a new file, flushes it to disk and renames it over the old one. A key is marked also
-// when it is set to the value that it has in memory: the file may hold another one by now. See
-// PreferencesMerging.h for keys that shall yield to that one.
+// A domain is read on first use and kept in memory. Setting a value changes that copy and marks the
+// key. Synchronising takes the domain's lock, reads the file again, applies the marked keys, writes
+// a new file, flushes it to disk and renames it over the old one. Setting the same value marks the
+// key too, since the file may have changed meanwhile. PreferencesMerging.h has an exception.
 //
-// A file that isn't a property list with a dictionary at its root reads as empty on first use, and
-// leaves the copy in memory as it is later on. The next writing keeps it aside as
-// <file>.damaged-<n> and stores the whole copy. A file that can't be read at all (refused, not a
-// regular file) is never replaced. Where the file is a symbolic link, its target is read and
-// replaced. This user's files are created with mode 0600 and folders with 0700; all users' with
-// 0644 and 0755, for everyone reads them.
+// A damaged file is one that is no property list with a dictionary at its root. On first use it
+// reads as empty; later the copy in memory stays. The next write keeps it as <file>.damaged-<n> and
+// stores the whole copy. A file that can't be read at all (no permission, no regular file) is never
+// replaced. Of a symbolic link the target is read and replaced. This user's files get mode 0600 and
+// folders 0700, all users' 0644 and 0755, so that everyone can read them.
 //
-// A domain's name is a file's name: an empty one, or one with a slash, has no values, keeps none
-// and doesn't synchronise.
+// A domain's name is a file name. An empty name, or one with a slash, has no values and can't be
+// synchronised.
 
-/// The user scopes; compared by address.
+/// The user scopes. They are compared by address.
 extern const CFString* const kCFPreferencesCurrentUser;
 extern const CFString* const kCFPreferencesAnyUser;
 extern const CFString* const kCFPreferencesCurrentHost;
@@ -36,25 +34,24 @@ extern const CFString* const kCFPreferencesAnyApplication;
 /// This user's value, else all users', else null.
 CFRef<const CFType> CFPreferencesCopyAppValue(const CFString* key, const CFString* domain);
 
-/// `*exists` (may be null) tells whether the key is there and reads as a boolean: a boolean; a
-/// number, non-zero being true; or the text yes, true, no or false in any letter case.
+/// `*exists` (may be null) tells whether the key exists and reads as a boolean: a boolean, a number
+/// (true unless 0), or the text yes, true, no or false in any letter case.
 bool CFPreferencesGetAppBooleanValue(const CFString* key, const CFString* domain, bool* exists);
 
-/// `*exists` (may be null) tells whether the key is there and reads as an integer: a number, of
-/// which a fraction is cut off; or text that is wholly a decimal integer of 64 bits, with or
-/// without a sign, without blanks.
+/// `*exists` (may be null) tells whether the key exists and reads as an integer: a number, whose
+/// fraction is dropped, or a decimal integer of 64 bits as text. The text may have a sign but no
+/// blanks.
 CFIndex CFPreferencesGetAppIntegerValue(const CFString* key, const CFString* domain, bool* exists);
 
-/// Sets this user's value; a null value removes the key. What a property list can't hold isn't set.
+/// Sets this user's value. Null removes the key. A value that a property list can't hold isn't set.
 void CFPreferencesSetAppValue(const CFString* key, const CFType* value, const CFString* domain);
 
-/// Writes the keys set since the last time, and takes in what others wrote. False when the file
-/// couldn't be read or written, or another program held its lock for two seconds; the keys stay
-/// marked and the next call tries again.
+/// Writes the keys set since the last call, and takes in what others wrote. False when the file
+/// can't be read or written, or another program held its lock for two seconds. Keys then stay
+/// marked for the next call.
 bool CFPreferencesAppSynchronize(const CFString* domain);
 
-// The same with a user scope of the caller's choice. The host says nothing here: files belong to
-// this machine.
+// The same with a given user scope. The host has no effect.
 CFRef<const CFType> CFPreferencesCopyValue(const CFString* key, const CFString* domain,
                                            const CFString* user, const CFString* host);
 void CFPreferencesSetValue(const CFString* key, const CFType* value, const CFString* domain,

@@ -24,7 +24,7 @@ void CFMutableString::append(std::u16string_view more) {
 
 const CFString* CFSTR(const char* ascii) {
     using Strings = std::map<std::string, CFRef<const CFString>, std::less<>>;
-    static Strings& strings = *new Strings; // outlives every static object that holds a constant
+    static Strings& strings = *new Strings; // outlives static objects that hold constants
     auto found = strings.find(std::string_view(ascii));
     if (found == strings.end())
         found =

@@ -12,7 +12,7 @@ enum CFStringEncoding : UInt32 {
     kCFStringEncodingUTF8 = 0x08000100,
 };
 
-/// A text of UTF-16 code units. Immutable, but for CFMutableString.
+/// A text of UTF-16 code units. Immutable, except CFMutableString.
 class CFString : public CFType {
 public:
     explicit CFString(std::u16string text) : text_(std::move(text)) {}
@@ -30,7 +30,7 @@ protected:
 
 class CFMutableString final : public CFString {
 public:
-    /// `maxLength` in code units, 0 for no limit: what would exceed it isn't appended.
+    /// `maxLength` is in code units; 0 means no limit. What exceeds it isn't appended.
     explicit CFMutableString(CFIndex maxLength) : CFString({}), maxLength_(maxLength) {}
 
     void append(std::u16string_view more);
@@ -39,7 +39,7 @@ private:
     CFIndex maxLength_;
 };
 
-/// The constant string of an ASCII literal: made once, lives as long as the process.
+/// The constant string of an ASCII literal. It lives as long as the process.
 const CFString* CFSTR(const char* ascii);
 
 /// Null when `text` is null or isn't valid in the encoding.
@@ -56,20 +56,19 @@ enum CFComparisonResult {
 
 enum CFStringCompareFlags : UInt32 { kCFCompareCaseInsensitive = 1 };
 
-/// Compares by code units; with kCFCompareCaseInsensitive, letters that differ in case only are
-/// equal, whatever the user's language.
+/// Compares code units. With kCFCompareCaseInsensitive letter case doesn't count, in any language.
 CFComparisonResult CFStringCompare(const CFString* a, const CFString* b,
                                    CFStringCompareFlags flags);
 
-/// Writes the text and a terminating NUL into `buffer` of `bufferSize` bytes. False when it doesn't
-/// fit or has a character that the encoding lacks; the buffer's content is then unspecified.
+/// Writes the text and a terminating NUL into `buffer`. False when it doesn't fit in `bufferSize`
+/// bytes or has a character that the encoding lacks; the content is then unspecified.
 bool CFStringGetCString(const CFString* string, char* buffer, CFIndex bufferSize,
                         CFStringEncoding encoding);
 
 /// The encoding of file names and of the environment: UTF-8.
 CFStringEncoding CFStringGetSystemEncoding();
 
-// The way to the standard library's texts and back.
+// Conversion to and from the standard library's strings.
 
 /// An unpaired surrogate becomes U+FFFD.
 std::string toUTF8(const CFString* string);

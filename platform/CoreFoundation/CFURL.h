@@ -3,8 +3,8 @@
 
 #include "platform/CoreFoundation/CFString.h"
 
-/// The URL of a file or folder: an absolute path, without a trailing slash, and whether it names a
-/// folder. Only file URLs exist here.
+/// The URL of a file or folder: an absolute path without a trailing slash, and whether it is a
+/// folder. There are no other URLs here.
 class CFURL final : public CFType {
 public:
     CFURL(std::string path, bool isDirectory) : path_(std::move(path)), isDirectory_(isDirectory) {}
@@ -23,7 +23,7 @@ private:
     bool isDirectory_;
 };
 
-/// A relative path is taken from the current folder. Null for an empty path.
+/// A relative path starts at the current folder. Null for an empty path.
 CFRef<CFURL> CFURLCreateWithFileSystemPath(const CFString* posixPath, bool isDirectory);
 CFRef<CFURL> CFURLCreateFromFileSystemRepresentation(const char* path, bool isDirectory);
 CFRef<CFURL> CFURLCreateCopyAppendingPathComponent(const CFURL* url, const CFString* component,
@@ -31,5 +31,5 @@ CFRef<CFURL> CFURLCreateCopyAppendingPathComponent(const CFURL* url, const CFStr
 /// The POSIX path; null when its bytes aren't valid UTF-8.
 CFRef<CFString> CFURLCopyFileSystemPath(const CFURL* url);
 CFRef<CFString> CFURLCopyLastPathComponent(const CFURL* url);
-/// Writes the path and a terminating NUL; false when it doesn't fit `bufferSize` bytes.
+/// Writes the path and a terminating NUL. False when it doesn't fit in `bufferSize` bytes.
 bool CFURLGetFileSystemRepresentation(const CFURL* url, char* buffer, CFIndex bufferSize);

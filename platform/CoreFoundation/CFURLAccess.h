@@ -4,16 +4,16 @@
 #include "platform/CoreFoundation/CFData.h"
 #include "platform/CoreFoundation/CFURL.h"
 
-// Writing whole files. Those that are made are for this user alone.
+// Writing whole files. Only this user can read new ones.
 
-/// Writes the file anew and puts it in the old one's place, which so is whole at every moment;
-/// folders that are missing are made. Where it is a symbolic link, its target is replaced. False
-/// when that failed; `*errorCode` (may be null) is then an errno.
+/// Replaces the file as a whole: it is complete at every moment. Makes missing folders. Of a
+/// symbolic link the target is replaced. False on failure; `*errorCode` (may be null) is then an
+/// errno.
 bool CFURLWriteDataAndPropertiesToResource(const CFURL* url, const CFData* data, SInt32* errorCode);
 
-/// Deletes a file. True, too, when none is there.
+/// Deletes a file. True also when it is missing.
 bool CFURLDestroyResource(const CFURL* url, SInt32* errorCode);
 
-/// Keeps a damaged file under a second name, <file>.damaged-<n>, before it is replaced; whether it
-/// has one. No operation of the platform.
+/// Keeps a damaged file under a second name, <file>.damaged-<n>, before it is replaced. Whether
+/// that succeeded. macOS has no such operation.
 bool keepFileAside(const CFURL* url);

@@ -20,7 +20,7 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// The languages that the user reads, the best first, up to English, which needs no table.
+/// The user's languages, the preferred first, up to English, which needs no table.
 QStringList languagesBeforeEnglish() {
     QStringList languages;
     if (QLocale::system().language() == QLocale::C)
@@ -34,7 +34,7 @@ QStringList languagesBeforeEnglish() {
     return languages;
 }
 
-/// The application owns what it loads; it lives as long.
+/// The application owns what is loaded.
 void install(const QString& file, const QString& folder) {
     auto* translator = new QTranslator(QCoreApplication::instance());
     if (translator->load(file, folder))
@@ -99,7 +99,7 @@ void loadLocalizations(const std::string& resources) {
         if (!std::filesystem::exists(folder + '/' + kTableFile))
             continue;
         folderInUse = folder;
-        // Qt's own texts, as in the dialogs for files and colours; ours come first.
+        // Qt's own texts, such as those of file dialogues. Ours have precedence.
         install("qtbase_" + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
         install(QLatin1String(kTableFile), QString::fromStdString(folder));
         return;

@@ -5,18 +5,18 @@
 #include <string>
 #include <vector>
 
-// Stands for NSLocalizedString and the string tables of a bundle. The table comes first, because
-// the tools that collect the texts want it there. Texts are UTF-8.
+// Stands for NSLocalizedString and a bundle's string tables. The table is the first argument,
+// because the tools that collect texts want it there. Texts are UTF-8.
 
-/// Marks a text of a constant table, which `localized` gets later.
+/// Marks a text in a constant table. `localized` translates it later.
 #define LOCALIZABLE(table, text) text
 
-/// The text in the user's language, or as it is. `comment` is for translators and tells equal texts
-/// apart. With a `count` from 0 on, %n stands for it, and the language's plural is taken.
+/// The text in the user's language, or unchanged. `comment` is for translators and distinguishes
+/// equal texts. A `count` of 0 or more replaces %n and selects the plural.
 std::string localized(const char* table, const char* text, const char* comment = nullptr,
                       int count = -1);
 
-/// The text with `parts` in the places of %1, %2 and so on, at most nine.
+/// The text with `parts` in place of %1, %2 and so on, at most nine.
 std::string filled(const std::string& text, std::initializer_list<std::string> parts);
 
 /// How texts follow one another, each in its language's way.
@@ -31,12 +31,13 @@ enum class Joint {
 /// The parts in a row; empty ones are left out.
 std::string joined(Joint joint, const std::vector<std::string>& parts);
 
-/// The text with each point between two digits as the user's language has it.
+/// The text with the language's decimal sign in place of each point between two digits.
 std::string localizedNumbers(std::string text);
 
-/// Takes the user's first language that the bundle's Resources folder has, from LANGUAGE.lproj
-/// there; none for English. Until then all stays English, with points, as programs want it.
+/// Loads the user's first language that the bundle's Resources folder has, from its LANGUAGE.lproj.
+/// English needs none. Before this call everything is English, with decimal points, as programs
+/// expect.
 void loadLocalizations(const std::string& resources);
 
-/// The folder LANGUAGE.lproj of the language that was loaded; empty for English.
+/// The folder LANGUAGE.lproj of the loaded language. Empty for English.
 const std::string& localizationFolder();

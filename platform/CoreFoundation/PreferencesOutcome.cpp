@@ -31,7 +31,7 @@ FileTrouble troubleOf(int error) {
     }
 }
 
-/// What the operation says of this user's file; InTheWay for a name that is no file's.
+/// The operation's result for this user's file. InTheWay when the name is no file name.
 template <class Operation>
 PreferencesOutcome askOwnFile(const CFString* domain, Operation operation) {
     const PreferencesFiles* files = preferencesFiles(domain);

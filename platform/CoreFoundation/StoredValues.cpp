@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The text of a string of ASCII characters, else an empty one.
+/// The text of an ASCII string. Empty for anything else.
 std::string asciiText(const CFType* value) {
     const auto* string = dynamicCFCast<CFString>(value);
     return string ? encodeText(string->text(), kCFStringEncodingASCII).value_or("") : "";

@@ -5,11 +5,11 @@
 
 #include <optional>
 
-// How a value that was stored as a text, a number or a boolean reads. `value` may be null, and a
-// value that reads as neither gives none.
+// How stored texts, numbers and booleans read as a type. `value` may be null. None when it doesn't
+// read as that type.
 
-/// A boolean; a number, true but for 0; or yes, true, no or false in any letter case.
+/// A boolean; a number, true unless 0; yes, true, no or false in any letter case.
 std::optional<bool> booleanFromValue(const CFType* value);
 
-/// A number, truncated; or a text that is wholly a decimal integer.
+/// A number, truncated; or text that is exactly a decimal integer.
 std::optional<CFIndex> integerFromValue(const CFType* value);

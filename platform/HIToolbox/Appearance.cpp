@@ -13,16 +13,16 @@
 
 namespace {
 
-/// From a button's edge to its content: its outline and a point of its bevel.
+/// From a button's edge to its content: the outline and one point of the bevel.
 constexpr int kContentInset = 2;
-/// The label font's size as a part of the text size.
+/// The label font's size, as a share of the text size.
 constexpr double kLabelScale = 10.0 / 12.0;
-/// How much smaller a line may become to have room; beyond that it is cut short.
+/// How much smaller a line may be drawn to fit. Beyond that it is shortened.
 constexpr double kLeastTextScale = 0.75;
-/// How many lines are kept laid out: the palette's names, some in two sizes.
+/// How many laid-out lines are cached: the palette's names, some in two sizes.
 constexpr int kMostLines = 100;
-/// The width of the rings that mark a button as pushed in, whatever little the style makes of that,
-/// and as the keyboard's.
+/// The width of the rings that mark a pushed-in button and the keyboard focus. Some styles show
+/// neither clearly.
 constexpr int kRing = 2;
 constexpr double kCornerRadius = 3.0;
 
@@ -37,7 +37,7 @@ void scaleFont(QFont& font, double scale) {
         font.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() * scale))));
 }
 
-/// Kept from one text to the next: a new font costs Qt a search among all there are.
+/// Cached between texts: for a new font Qt searches all fonts.
 const QFont& labelFont(const QFont& textFont) {
     static QFont lastTextFont, label;
     static bool isMade = false;
@@ -54,7 +54,7 @@ const QFont& themeFont(const GrafPort& port, ThemeFontID id) {
     return id == kThemeLabelFont ? labelFont(textFont) : textFont;
 }
 
-/// A line that is laid out already: the same few names are drawn again and again.
+/// A cached layout: the same few names are drawn again and again.
 const QStaticText& laidOut(const CFString* text, const QFont& font) {
     static auto& lines = *new QCache<std::pair<QString, QFont>, QStaticText>(kMostLines);
     const std::pair key(toQString(text).replace(u'\n', u' '), font);
@@ -67,13 +67,13 @@ const QStaticText& laidOut(const CFString* text, const QFont& font) {
     return *made;
 }
 
-/// Where a ring's middle runs, so that its outer side meets the edge.
+/// Where the middle of a ring's line runs if its outer side touches the edge.
 QRectF insideEdge(const QRect& bounds) {
     return QRectF(bounds).adjusted(kRing / 2.0, kRing / 2.0, -kRing / 2.0, -kRing / 2.0);
 }
 
-/// Draws a line in the middle of the width. One that is too long is drawn smaller, within reason,
-/// and then cut short.
+/// Draws a line of text centred in the width. One that is too long is drawn smaller, then
+/// shortened.
 void drawLine(QPainter& painter, const QRect& place, const QStaticText& line) {
     const double room = place.width() - line.size().width();
     if (room >= 0) {

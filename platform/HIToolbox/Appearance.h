@@ -5,14 +5,14 @@
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/QuickDraw/QuickDraw.h"
 
-// The Appearance Manager: buttons and texts in the look of the user's desktop, drawn into the
-// current port. Its style, palette and text size are those of the view being drawn.
+// The Appearance Manager: buttons and texts in the desktop's look, drawn into the current port.
+// Style, palette and text size are those of the view being drawn.
 
 constexpr OSStatus kThemeNoPortErr = -30566;
 
 enum ThemeButtonKind : UInt16 {
     kThemeBevelButton = 3,         ///< with square corners
-    kThemeRoundedBevelButton = 15, ///< as the desktop's own push buttons
+    kThemeRoundedBevelButton = 15, ///< like the desktop's own push buttons
 };
 
 enum ThemeDrawState : UInt32 { kThemeStateActive = 1 };
@@ -30,25 +30,25 @@ struct ThemeButtonDrawInfo {
     ThemeButtonAdornment adornment;
 };
 
-/// Draws what is on a button; `bounds` is the place inside its frame.
+/// Draws a button's content. `bounds` is the area inside its frame.
 using ThemeButtonDrawUPP = void (*)(const Rect* bounds, ThemeButtonKind kind,
                                     const ThemeButtonDrawInfo* info, void* userData);
 using ThemeEraseUPP = void (*)(const Rect* bounds, void* userData);
 
-/// Draws a button and then calls `label` for its content. `previousInfo` and `erase` say nothing
-/// here: every view is erased before it is drawn. kThemeNoPortErr outside of drawing.
+/// Draws a button and calls `label` for its content. `previousInfo` and `erase` have no effect:
+/// views are erased before they are drawn. kThemeNoPortErr outside of drawing.
 OSStatus DrawThemeButton(const Rect* bounds, ThemeButtonKind kind, const ThemeButtonDrawInfo* info,
                          const ThemeButtonDrawInfo* previousInfo, ThemeEraseUPP erase,
                          ThemeButtonDrawUPP label, void* userData);
 
 enum ThemeBrush : SInt16 { kThemeBrushUtilityWindowBackgroundActive = 7 /**< of palettes */ };
 
-/// Gives the current port the brush's colour as its background. Depth and kind of the device make
-/// no difference. kThemeNoPortErr outside of drawing.
+/// Sets the current port's background to the brush's colour. Depth and kind of the device have no
+/// effect. kThemeNoPortErr outside of drawing.
 OSStatus SetThemeBackground(ThemeBrush brush, SInt16 depth, bool isColorDevice);
 
-/// Draws the ring that shows where the keyboard acts, just inside the rectangle; nothing when
-/// `hasFocus` is false, as every view is erased before it is drawn.
+/// Draws the ring of the keyboard focus just inside the rectangle. Nothing when `hasFocus` is
+/// false, since views are erased before they are drawn.
 OSStatus DrawThemeFocusRect(const Rect* rect, bool hasFocus);
 
 enum ThemeFontID : UInt16 {
@@ -58,17 +58,17 @@ enum ThemeFontID : UInt16 {
 
 enum ThemeJustification : SInt16 { teCenter = 1 };
 
-/// Measures a text, in which a carriage return begins a line: `bounds->h` becomes its width and
-/// `bounds->v` its height, rounded up; with `wrapToWidth`, `bounds->h` is first the width to wrap
-/// at. `baseline` (may be null) receives the distance of the last line's baseline from the bottom,
+/// Measures a text; a carriage return begins a new line. `bounds->h` receives its width,
+/// `bounds->v` its height, both rounded up. With `wrapToWidth`, `bounds->h` must hold the width to
+/// wrap at. `baseline` (may be null) receives the distance from the bottom to the last baseline,
 /// negative. kThemeNoPortErr outside of drawing.
 OSStatus GetThemeTextDimensions(const CFString* text, ThemeFontID font, ThemeDrawState state,
                                 bool wrapToWidth, Point* bounds, SInt16* baseline);
 
-/// Draws a text into the box, from its top. A single line that is too wide for it is drawn up to a
-/// quarter smaller, and beyond that is shortened and ends in an ellipsis. With a context, the box
-/// lies in its coordinates, with y growing downward, and the text has its fill colour; with null,
-/// in the current port's, and the text has the theme's.
+/// Draws a text at the top of the box. A single line that is too wide is drawn up to a quarter
+/// smaller; beyond that it ends in an ellipsis. With a context, the box is in its coordinates, with
+/// y growing downward, and the text has its fill colour. With null, the box is in the current
+/// port's coordinates, and the text has the theme's colour.
 OSStatus DrawThemeTextBox(const CFString* text, ThemeFontID font, ThemeDrawState state,
                           bool wrapToWidth, const Rect* box, ThemeJustification justification,
                           CGContext* context);

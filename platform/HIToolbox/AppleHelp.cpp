@@ -22,7 +22,7 @@ std::map<std::u16string, fs::path>& books() {
     return folders;
 }
 
-/// The page's file, with links resolved; empty when there is none inside the book's folder.
+/// The page's file, with links resolved. Empty when it isn't inside the book's folder.
 fs::path findPage(const fs::path& folder, const fs::path& page) {
     std::error_code error;
     const fs::path file = fs::canonical(folder / page, error);
@@ -32,7 +32,7 @@ fs::path findPage(const fs::path& folder, const fs::path& page) {
     return inside.empty() || *inside.begin() == ".." ? fs::path() : file;
 }
 
-/// The book in the user's language; empty when there is none.
+/// The book in the user's language. Empty when there is none.
 fs::path localizedBook(const fs::path& book) {
     std::error_code error;
     const fs::path folder = fs::path(localizationFolder()) / book.filename();

@@ -6,12 +6,12 @@
 
 constexpr OSStatus kAHInternalErr = -10790;
 
-/// Makes the help book of the bundle at `bundle` known under its CFBundleHelpBookName. The book is
-/// the folder of HTML pages in the bundle's resources that CFBundleHelpBookFolder names; it starts
-/// with index.html. kAHInternalErr when the bundle names no book or the start page isn't there.
+/// Registers the help book of the bundle at `bundle` under its CFBundleHelpBookName. The book is a
+/// folder of HTML pages in the bundle's resources, which CFBundleHelpBookFolder names. Its start
+/// page is index.html. kAHInternalErr when the bundle names no book or the start page is missing.
 OSStatus AHRegisterHelpBook(const FSRef* bundle);
 
-/// Opens a page of a registered book in the desktop's browser, without waiting for it: the start
-/// page when `path`, relative to the book's folder, is null. `anchor`, null for none, names a place
-/// in the page. kAHInternalErr when the book isn't known or the page isn't there.
+/// Opens a page of a registered book in the desktop's browser, without waiting. `path` is relative
+/// to the book's folder; null means the start page. `anchor` (may be null) is a place in the page.
+/// kAHInternalErr when the book or the page isn't known.
 OSStatus AHGotoPage(const CFString* bookName, const CFString* path, const CFString* anchor);

@@ -6,11 +6,11 @@
 
 #include <cstddef>
 
-// The Carbon Event Manager: what happens to a window reaches the handlers that are installed for it
-// on the window's target, newest first, until one of them has handled it.
+// The Carbon Event Manager. A window's events go to the handlers installed on its target, newest
+// first, until one has handled them.
 
 constexpr OSStatus eventParameterNotFoundErr = -9870;
-/// What a handler returns for an event that others may still act on; noErr ends its way.
+/// A handler returns this to let others handle the event, and noErr to stop it.
 constexpr OSStatus eventNotHandledErr = -9874;
 
 enum : OSType {
@@ -76,20 +76,20 @@ struct EventTypeSpec {
     bool operator==(const EventTypeSpec&) const = default;
 };
 
-/// An event on its way; borrowed, until the handler returns.
+/// An event being handled. Borrowed until the handler returns.
 using EventRef = class EventRecord*;
 
 UInt32 GetEventClass(EventRef event);
 UInt32 GetEventKind(EventRef event);
 
-/// Copies a parameter: its whole size, or `bufferSize` bytes when that is less, go to `data`.
-/// `actualType`, `actualSize` and `data` may be null. eventParameterNotFoundErr when the event has
-/// no parameter of that name and type.
+/// Copies a parameter: its whole size, or the first `bufferSize` bytes, to `data`. `actualType`,
+/// `actualSize` and `data` may be null. eventParameterNotFoundErr when the event has no parameter
+/// of that name and type.
 OSStatus GetEventParameter(EventRef event, EventParamName name, EventParamType desiredType,
                            EventParamType* actualType, std::size_t bufferSize,
                            std::size_t* actualSize, void* data);
 
-/// The handlers that would follow.
+/// The remaining handlers.
 using EventHandlerCallRef = class CarbonEventHandlers*;
 using EventHandlerUPP = OSStatus (*)(EventHandlerCallRef nextHandler, EventRef event,
                                      void* userData);
@@ -103,29 +103,29 @@ using EventTargetRef = class CarbonEventTarget*;
 
 EventTargetRef GetWindowEventTarget(WindowRef window);
 
-/// Installs a handler for `count` types of events. It goes with its target: `handlerRef` may be
-/// null. paramErr without a target, a handler or a type.
+/// Installs a handler for `count` types of events. It is removed with its target. `handlerRef` may
+/// be null. paramErr without a target, a handler or a type.
 OSStatus InstallEventHandler(EventTargetRef target, EventHandlerUPP handler, std::size_t count,
                              const EventTypeSpec* types, void* userData,
                              EventHandlerRef* handlerRef);
 
-/// Before its target goes.
+/// Call it before the target goes.
 OSStatus RemoveEventHandler(EventHandlerRef handler);
 
-/// Handles events until the loop is ended for the window, or the window goes, or the program is to
-/// end. The program's other windows get none of the user's meanwhile; all else goes on.
-/// errCouldntSetUserFocus when the window can't have the keyboard that it was to get.
+/// Handles events until the loop is ended, the window goes, or the program is to quit. Meanwhile
+/// the program's other windows get no input; everything else goes on. errCouldntSetUserFocus when
+/// the window can't get the keyboard that it asked for.
 OSStatus RunAppModalLoopForWindow(WindowRef window);
 
-/// Ends the window's loop once the event being handled is done.
+/// Ends the window's loop after the current event.
 OSStatus QuitAppModalLoopForWindow(WindowRef window);
 
-/// Gives the window every key press while it is shown. If another program holds the keyboard, such
-/// as one with an open menu, tries again for at most five seconds, then ends the window's modal
-/// loop.
+/// Gives the window every key press while it is shown. While another program holds the keyboard,
+/// for example with an open menu, it tries again for up to five seconds. Then it ends the window's
+/// modal loop.
 OSStatus SetUserFocusWindow(WindowRef window);
 
-/// Modifier keys as Carbon's events have them. On Linux command is the Super key and option is Alt.
+/// Modifier keys as in Carbon's events. On Linux command is the Super key and option is Alt.
 enum : UInt32 {
     cmdKey = 0x0100,
     shiftKey = 0x0200,
@@ -134,11 +134,11 @@ enum : UInt32 {
     controlKey = 0x1000,
 };
 
-/// The modifier keys that were held when the event being handled was made.
+/// The modifier keys that were held when the current event was made.
 UInt32 GetCurrentEventKeyModifiers();
 
-/// The modifier keys that are held at this moment, of which the display is asked.
+/// The modifier keys held right now. Asks the display server.
 UInt32 GetCurrentKeyModifiers();
 
-/// The system beep; `duration` says nothing here.
+/// The system beep. `duration` has no effect.
 void SysBeep(SInt16 duration);

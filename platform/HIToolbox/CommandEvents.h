@@ -3,8 +3,8 @@
 
 #include "platform/HIToolbox/CarbonEvents.h"
 
-/// The direct object of a kEventCommandProcess, which a control with a command sends to its window
-/// when the user has operated it. 14 bytes, as on the platform; no menu sends any here.
+/// The direct object of kEventCommandProcess. A control with a command sends that event to its
+/// window when it is operated. 14 bytes, as on macOS. Menus don't send it here.
 #pragma pack(push, 2)
 
 struct HICommand {

@@ -4,10 +4,10 @@
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "platform/IconServices/Icons.h"
 
-/// A button or check box of a window from an interface file, which owns it.
+/// A button or check box of a window from an interface file. The window owns it.
 using ControlRef = class CarbonControl*;
 
-/// How an interface file names a control.
+/// Identifies a control in an interface file.
 struct ControlID {
     OSType signature;
     SInt32 id;
@@ -17,14 +17,14 @@ struct ControlID {
 
 constexpr OSStatus errControlNotFound = -30584;
 
-/// errControlNotFound when the window holds no such control.
+/// errControlNotFound when the window has no such control.
 OSStatus GetControlByID(WindowRef window, const ControlID* id, ControlRef* control);
 
-/// Where its kEventControlHit goes when the user has operated it; the direct object is the control,
-/// whose value has changed already.
+/// The target of kEventControlHit, sent when the control was operated. The direct object is the
+/// control, which already has its new value.
 EventTargetRef GetControlEventTarget(ControlRef control);
 
-/// Of a check box: 1 when it is on.
+/// For a check box: 1 when it is on.
 SInt32 GetControl32BitValue(ControlRef control);
 /// Never sends an event.
 void SetControl32BitValue(ControlRef control, SInt32 value);
@@ -37,7 +37,7 @@ using ControlContentType = SInt16;
 constexpr ControlContentType kControlNoContent = 0;
 constexpr ControlContentType kControlContentIconRef = 132;
 
-/// What a button shows. `iconRef` counts for kControlContentIconRef, and is borrowed.
+/// What a button shows. `iconRef` is used with kControlContentIconRef and borrowed.
 struct ControlButtonContentInfo {
     ControlContentType contentType = kControlNoContent;
     IconRef iconRef = nullptr;

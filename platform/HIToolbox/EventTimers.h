@@ -17,11 +17,11 @@ constexpr EventLoopTimerUPP NewEventLoopTimerUPP(EventLoopTimerUPP function) {
 
 EventLoopRef GetMainEventLoop();
 
-/// A steady clock, whatever becomes of the date.
+/// A steady clock. Changes of the date don't affect it.
 EventTime GetCurrentEventTime();
 
-/// Calls the function after `delay` and then, unless `interval` is 0, again and again. The timer is
-/// to be removed, whether or not it has fired.
+/// Calls the function after `delay` and then, unless `interval` is 0, again and again. The timer
+/// must be removed, even if it has fired.
 OSStatus InstallEventLoopTimer(EventLoopRef loop, EventTimerInterval delay,
                                EventTimerInterval interval, EventLoopTimerUPP function,
                                void* userData, EventLoopTimerRef* timer);

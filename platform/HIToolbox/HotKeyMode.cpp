@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kLongestGrabMs = 30'000;
 
-/// One such time, from its beginning until the keys that are down at its end have come up. Deletes
+/// One use of the mode. It lasts until the keys that are down at its end have come up, then deletes
 /// itself.
 class HotKeyMode final : public QObject {
 public:
@@ -48,7 +48,7 @@ public:
     }
 
 private:
-    /// Whether the press goes no further.
+    /// Whether the event stops here.
     bool pressed(QKeyEvent& event) {
         const bool isOld =
             hasEnded_ ? held_.contains(event.nativeScanCode()) : held_.isRepeat(event);
@@ -81,7 +81,7 @@ private:
     }
 
     void takeKeyboard() {
-        // Others can't grab, and say so on the standard error.
+        // Other platforms can't grab, and print a warning.
         const bool canGrab = QGuiApplication::platformName() == QLatin1String("xcb");
         if (canGrab && window_)
             isGrabbed_ = window_->setKeyboardGrabEnabled(true);

@@ -8,7 +8,7 @@ class CarbonNib {
 public:
     explicit CarbonNib(QWidget* form) : form_(form) {}
 
-    /// Takes the window of that name out of the form; null when there is none.
+    /// Takes the window with that name out of the form. Null when there is none.
     std::unique_ptr<QWidget> takeWindow(const QString& name) {
         auto* window = form_->findChild<QWidget*>(name, Qt::FindDirectChildrenOnly);
         if (window)

@@ -3,5 +3,5 @@
 
 #include "platform/CoreFoundation/CFBase.h"
 
-/// Stands for the code of a key that no Apple keyboard has.
+/// The code of keys that Apple keyboards don't have.
 constexpr UInt16 kNoKeyCode = 0xFFFF;

@@ -4,14 +4,14 @@
 #include "platform/CoreFoundation/CFBase.h"
 #include "platform/QuickDraw/QuickDraw.h"
 
-// The Window Manager. Places and sizes are in points; global coordinates have their origin at the
-// top-left corner of the main display, and y grows downward.
+// The Window Manager. Places and sizes are in points. The origin of global coordinates is the main
+// display's top-left corner; y grows downward.
 
 using WindowRef = class CarbonWindow*;
 
-/// The desktop can't have such a window: on Wayland none may cover the screens.
+/// The desktop can't have such a window. On Wayland no window may cover the screens.
 constexpr OSStatus errWindowClassNotSupported = -5601;
-/// Another program holds the keyboard and doesn't let it go.
+/// Another program holds the keyboard and doesn't release it.
 constexpr OSStatus errCouldntSetUserFocus = -5609;
 
 enum WindowClass : UInt32 {
@@ -21,16 +21,15 @@ enum WindowClass : UInt32 {
 using WindowAttributes = UInt32;
 
 enum : WindowAttributes {
-    kWindowOpaqueForEventsAttribute = 1u << 18, ///< gets the clicks in its transparent parts too
+    kWindowOpaqueForEventsAttribute = 1u << 18, ///< also gets clicks in its transparent parts
     kWindowStandardHandlerAttribute = 1u << 25,
 };
 
-/// Makes a window, hidden still. errWindowClassNotSupported for another class as well.
+/// Makes a window, hidden at first. errWindowClassNotSupported also for any other class.
 OSStatus CreateNewWindow(WindowClass windowClass, WindowAttributes attributes,
                          const Rect* contentBounds, WindowRef* window);
 
-/// Takes the window off the screen and ends it, with all handlers that are installed on it. May be
-/// called while one of them runs.
+/// Hides and destroys the window and its handlers. May be called while one of them runs.
 void DisposeWindow(WindowRef window);
 
 void ShowWindow(WindowRef window);
@@ -38,11 +37,11 @@ void ShowWindow(WindowRef window);
 /// Brings the window to the front.
 void SelectWindow(WindowRef window);
 
-/// Moves the window's top-left corner, in global coordinates; `front` also brings it to the front.
+/// Moves the window's top-left corner, in global coordinates. `front` also brings it to the front.
 void MoveWindow(WindowRef window, SInt16 h, SInt16 v, bool front);
 
-/// `update` also has the window drawn anew.
+/// `update` also redraws the window.
 void SizeWindow(WindowRef window, SInt16 width, SInt16 height, bool update);
 
-/// The window's picture. Drawing in it shows when the drawing context is flushed.
+/// The window's port. Drawing shows when the drawing context is flushed.
 GrafPtr GetWindowPort(WindowRef window);

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Never destroyed: bundles' code may be loaded at any time.
+// Never destroyed: bundles may be loaded at any time.
 std::vector<NibRequirement>& requirements() {
     static auto& all = *new std::vector<NibRequirement>;
     return all;
@@ -21,7 +21,7 @@ std::string codeText(OSType code) {
     return text;
 }
 
-/// What the window lacks.
+/// What is missing in the window.
 QStringList missingIn(const NibWindow& window, const NibRequirement& requirement) {
     QStringList missing;
     const auto any = [&](auto&& holds) {

@@ -8,12 +8,12 @@
 #include <string>
 #include <vector>
 
-/// What the code expects in a Carbon interface file. Registered by a static object beside that
-/// code, so that the build can check the file.
+/// What code expects in a Carbon interface file. A static object beside the code registers it, so
+/// that the build can check the file.
 struct NibRequirement {
     const char* nib; ///< the file's name without its extension
     std::span<const char* const> windows;
-    // In each of the windows:
+    // In each window:
     std::span<const ControlID> controls;
     std::span<const UInt32> commands;
 };
@@ -23,6 +23,6 @@ public:
     explicit NibRequirementRegistration(const NibRequirement& requirement);
 };
 
-/// Loads the interface file of every registered requirement and checks it. False when anything is
-/// missing or wrong; `errors` then says what, one line each, beginning with the file's path.
+/// Loads and checks the interface file of every registered requirement. False when anything is
+/// missing or wrong. `errors` then says what, a line each, beginning with the file's path.
 bool checkCarbonNibs(const CFBundle* bundle, std::vector<std::string>& errors);

@@ -5,7 +5,7 @@
 #include "platform/HIToolbox/detail/SheetShade.h"
 
 OSStatus ShowSheetWindow(WindowRef sheet, WindowRef parent) {
-    new SheetShade(&parent->widget(), &sheet->widget()); // which the parent owns
+    new SheetShade(&parent->widget(), &sheet->widget()); // the parent owns it
     return noErr;
 }
 

@@ -5,8 +5,8 @@
 
 #include <string>
 
-/// A value that another program wrote and nothing here reads: a date, or a number that is out of
-/// range. It is carried to the next writing of the property list as it was.
+/// A value of another program that nothing here reads: a date, or a number out of range. The next
+/// write of the property list writes it unchanged.
 class CarriedValue final : public CFType {
 public:
     CarriedValue(std::string element, std::string_view text)

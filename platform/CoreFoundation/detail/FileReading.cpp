@@ -18,7 +18,7 @@ FileContents readOpenFile(int file, std::size_t limit) {
     if (static_cast<std::size_t>(info.st_size) > limit)
         return {FileStatus::TooLarge, nullptr};
 
-    // One byte more than the size, so that a file that grows meanwhile is noticed.
+    // One byte more than the size, to notice a file that grows meanwhile.
     std::vector<UInt8> bytes(static_cast<std::size_t>(info.st_size) + 1);
     std::size_t filled = 0;
     for (;;) {

@@ -9,7 +9,7 @@ enum class FileStatus {
     Read,
     Missing,
     TooLarge,  ///< a regular file above the limit
-    Unreadable ///< refused, not a regular file, or a read error
+    Unreadable ///< no permission, no regular file, or a read error
 };
 
 struct FileContents {
@@ -18,6 +18,6 @@ struct FileContents {
     int error = 0;      ///< errno, or 0 when no system call failed
 };
 
-/// Reads a whole regular file of at most `limit` bytes. Symbolic links are followed; a pipe or
-/// device neither blocks nor is read.
+/// Reads a whole regular file of at most `limit` bytes. Follows symbolic links. Doesn't read pipes
+/// or devices, and doesn't block on them.
 FileContents readRegularFile(const std::string& path, std::size_t limit);

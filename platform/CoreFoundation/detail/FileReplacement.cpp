@@ -45,14 +45,14 @@ void flushFolder(const std::string& path) {
     close(folder);
 }
 
-/// The flush under way. Files are replaced from several threads.
+/// The current flush of a folder. Several threads replace files.
 struct FolderFlush {
     std::mutex guard;
     std::thread thread;
     bool exitWaits = false; ///< an exit handler waits for the thread
 };
 
-/// Never destroyed: exit handlers save as well.
+/// Never destroyed: exit handlers save too.
 FolderFlush& folderFlush() {
     static FolderFlush& flush = *new FolderFlush;
     return flush;
@@ -66,9 +66,9 @@ void finishFlush() {
         flush.thread.join();
 }
 
-/// Flushes the folder, so that the new name outlasts a power cut. That takes as long as flushing
-/// the file did, so it has a thread of its own: until it is done a power cut may leave the old
-/// file, which is whole, too. At most one flush is under way, and the process ends after it.
+/// Flushes the folder, so that the new name survives a power cut. That takes as long as flushing
+/// the file, so it has a thread of its own. Before it is done a power cut may leave the old file,
+/// which is whole. There is one flush at a time, and the process waits for it before it exits.
 void flushFolderSoon(const std::string& path) {
     FolderFlush& flush = folderFlush();
     const std::lock_guard lock(flush.guard);
@@ -83,7 +83,7 @@ void flushFolderSoon(const std::string& path) {
     }
 }
 
-/// Whether the file beside the destination was never put in place and nobody writes it any more.
+/// Whether the file beside the destination was never put in place and nobody writes to it any more.
 bool isLeftover(const fs::directory_entry& file, const std::string& destination) {
     const std::string name = file.path().filename();
     const std::string start =
@@ -170,7 +170,7 @@ std::string keepAside(const std::string& path) {
             return name;
         if (errno == EEXIST)
             continue;
-        // A file system without hard links: the name changes instead.
+        // A file system without hard links: rename it instead.
         if (renameat2(AT_FDCWD, path.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE) == 0)
             return name;
         if (errno != EEXIST)

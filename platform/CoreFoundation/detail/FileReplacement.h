@@ -4,21 +4,21 @@
 #include <string>
 #include <string_view>
 
-// Steps of replacing a file so that at every moment, a crash and a full disk included, its name
-// stands for the whole old or the whole new content. Errors are errno's numbers, 0 for none.
+// Steps of replacing a file. At every moment its name stands for the whole old or the whole new
+// content, even after a crash or on a full disk. Errors are errno numbers, 0 for none.
 
-/// Makes the folder and those above it that are missing.
+/// Makes the folder and missing ones above it.
 int makeFolders(const std::string& path, unsigned mode);
 
-/// The path at the end of the symbolic links at `path`, whether or not a file is there.
+/// The target of the symbolic links at `path`. It needn't exist.
 std::string resolveLinks(std::string path);
 
-/// Begins what follows the destination's name in the names of files that aren't put in place yet.
+/// Follows the destination's name in the names of files that aren't in place yet.
 constexpr std::string_view kPendingSuffix = ".new";
 
-/// A new file's content beside the place where it is going to be, on disk already. Removed again
-/// unless it was put there. Its name is its own, so that writers without a lock never take each
-/// other's. What crashes left is removed first, once it is a minute old.
+/// New content in a file beside its destination, on disk. The file is removed unless it is put in
+/// place. Its name is unique, so writers without a lock don't share one. Leftovers of crashes are
+/// removed first, once they are a minute old.
 class PendingFile {
 public:
     PendingFile(const std::string& destination, std::string_view content, unsigned mode);
@@ -26,7 +26,7 @@ public:
     PendingFile(const PendingFile&) = delete;
     PendingFile& operator=(const PendingFile&) = delete;
 
-    /// Of writing it.
+    /// The error of writing it.
     int error() const { return error_; }
 
     /// Renames it over what is at the destination.
@@ -41,6 +41,6 @@ private:
     bool isThere_;
 };
 
-/// Gives the file a second name, `path`.damaged-<n> with the first free n. Empty with errno set
-/// when it can't.
+/// Gives the file a second name, `path`.damaged-<n> with the first free n. On failure empty, with
+/// errno set.
 std::string keepAside(const std::string& path);

@@ -21,8 +21,8 @@ unsigned folderMode(PreferencesDomain::Readers readers) {
     return readers == PreferencesDomain::Readers::ThisUser ? 0700 : 0755;
 }
 
-/// Writes the whole document to a file beside the target and puts it there. With `aside`, what is
-/// there is kept under the name that it gets.
+/// Writes the document to a file beside the target and puts it in place. With `aside`, the old file
+/// is kept; `*aside` receives its new name.
 PreferencesOutcome replaceFile(const std::string& target, const std::string& document,
                                unsigned mode, std::string* aside = nullptr) {
     if (document.empty())
@@ -36,13 +36,13 @@ PreferencesOutcome replaceFile(const std::string& target, const std::string& doc
     return error != 0 ? outcomeOf(error, target) : PreferencesOutcome{FileTrouble::None, target};
 }
 
-/// A copy, containers and texts included, that later changes of the value don't reach. Null when a
-/// property list can't hold the value.
+/// A deep copy, which later changes of the value don't affect. Null when a property list can't hold
+/// the value.
 CFRef<const CFType> deepCopy(const CFType* value) {
     if (const auto* string = dynamicCFCast<CFString>(value)) // nearly always
         return isXMLText(string->text()) ? CFRef<CFString>::adopt(new CFString(string->text()))
                                          : nullptr;
-    // As part of a list, so that a domain has room for it.
+    // Inside a list, since a domain is one level above it.
     const CFArray wrapped({CFRef<const CFType>::retain(value)});
     const std::string document = propertyListToXML(&wrapped);
     const auto copy = document.empty() ? nullptr : readXMLPropertyList(document);
@@ -95,7 +95,7 @@ PreferencesOutcome PreferencesDomain::save() {
     return write(refresh());
 }
 
-/// Takes the file's content in, unless it is the one that is known.
+/// Takes in the file's content if it has changed.
 PreferencesDomain::FileState PreferencesDomain::refresh() {
     const FileContents file = readRegularFile(path_, kPropertyListMaxSize);
     switch (file.status) {
@@ -121,7 +121,7 @@ PreferencesDomain::FileState PreferencesDomain::refresh() {
     return note(FileState::Sound);
 }
 
-/// Keeps what the file's state means for the user; `error` is errno for an unreadable one.
+/// Notes what the file's state means for the user. `error` is the errno of an unreadable file.
 PreferencesDomain::FileState PreferencesDomain::note(FileState state, int error) {
     if (state == FileState::Unreadable)
         loaded_ =
@@ -133,7 +133,7 @@ PreferencesDomain::FileState PreferencesDomain::note(FileState state, int error)
     return state;
 }
 
-/// The stored values with the changes in them.
+/// The stored values with the changes applied.
 CFRef<const CFDictionary> PreferencesDomain::merged() const {
     CFDictionary::Items items = stored_->items();
     for (const auto& [key, change] : changes_) {
@@ -149,7 +149,7 @@ CFRef<const CFDictionary> PreferencesDomain::merged() const {
     return CFRef<CFDictionary>::adopt(new CFDictionary(std::move(items)));
 }
 
-/// Called under the lock, with what `refresh` just found.
+/// Called under the lock, with the result of `refresh`.
 PreferencesOutcome PreferencesDomain::write(FileState state) {
     if (state == FileState::Unreadable)
         return loaded_;

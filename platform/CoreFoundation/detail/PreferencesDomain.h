@@ -4,8 +4,7 @@
 #include "platform/CoreFoundation/CFPropertyList.h"
 #include "platform/CoreFoundation/PreferencesOutcome.h"
 
-/// One domain of one user scope: its values in memory, and the file behind them. CFPreferences.h
-/// says how they meet.
+/// One domain of one user scope: its values in memory and its file. CFPreferences.h describes it.
 class PreferencesDomain {
 public:
     enum class Readers { ThisUser, Everyone };
@@ -37,7 +36,7 @@ private:
 
     struct Change {
         CFRef<const CFType> value; ///< null for a key that was removed
-        bool givesWay = false;     ///< to a stored value that is another than `seen`
+        bool givesWay = false;     ///< to a stored value other than `seen`
         CFRef<const CFType> seen;
     };
 

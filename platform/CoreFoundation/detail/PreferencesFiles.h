@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-/// The files of one domain: this user's, and all users' in the order in which they are searched.
-/// All users' values are written to the first.
+/// The files of one domain: this user's, and all users' in search order. All users' values are
+/// written to the first of those.
 struct PreferencesFiles {
     explicit PreferencesFiles(const std::string& fileName);
 
@@ -17,9 +17,8 @@ struct PreferencesFiles {
     std::vector<PreferencesDomain> everyones; ///< never empty
 };
 
-/// The domain's files, read on first use and kept until the process is gone. Null for a name that
-/// is no file's.
+/// The domain's files, read on first use and kept in memory. Null when the name is no file name.
 PreferencesFiles* preferencesFiles(const CFString* domain);
 
-/// All that were asked for, by name.
+/// All domains that were asked for, by name.
 const std::map<std::u16string, PreferencesFiles>& allPreferencesFiles();

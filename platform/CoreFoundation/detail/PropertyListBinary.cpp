@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The layout: "bplist00"; the objects, each a byte of type and length and its content; the table
+/// The layout: "bplist00"; the objects, each a byte of type and length, then its content; a table
 /// of the objects' offsets; a trailer. Numbers are big-endian.
 constexpr std::size_t kHeaderSize = 8;
 constexpr std::size_t kTrailerSize = 32;
@@ -25,8 +25,8 @@ struct Object {
     std::size_t size;    ///< of the content, in bytes
 };
 
-/// The XML text of a moment, `seconds` after 2001-01-01 00:00 UTC. XML has the years 1 to 9999;
-/// what lies outside becomes their first or last second.
+/// A moment as XML text, `seconds` after 2001-01-01 00:00 UTC. XML has the years 1 to 9999. Moments
+/// outside become the first or last second of those.
 std::string dateText(double seconds) {
     using namespace std::chrono;
     constexpr sys_days epoch = 2001y / January / 1;
@@ -45,7 +45,7 @@ std::string dateText(double seconds) {
     return text;
 }
 
-/// Builds the objects from the root on.
+/// Builds the objects, beginning at the root.
 class Reader {
 public:
     explicit Reader(std::string_view bytes) : bytes_(bytes) {}
@@ -60,7 +60,7 @@ private:
         return value;
     }
 
-    /// The table must fill the space between the objects and the trailer to the byte.
+    /// The table must exactly fill the space between the objects and the trailer.
     bool readTrailer() {
         if (!bytes_.starts_with("bplist00") || bytes_.size() < kHeaderSize + 1 + kTrailerSize)
             return false;
@@ -86,7 +86,7 @@ private:
         return readCount(object) && measure(object) && object.size <= table_ - object.content;
     }
 
-    /// A length of 15 means that the length follows, as an integer object.
+    /// A length of 15 means that an integer object with the length follows.
     bool readCount(Object& object) const {
         const bool isCounted = object.type >= 4 && object.type != 8;
         if (!isCounted || object.count != 15)
@@ -102,7 +102,7 @@ private:
         return object.count <= bytes_.size();
     }
 
-    /// The content's size in bytes; false for a type that a property list doesn't have.
+    /// Finds the content's size in bytes. False for a type that a property list doesn't have.
     bool measure(Object& object) const {
         const std::size_t count = object.count;
         switch (object.type) {
@@ -139,8 +139,8 @@ private:
         }
     }
 
-    /// Finds a key's or value's object. What is used twice counts as if it were written twice, so
-    /// that a small file can't grow large in memory.
+    /// Finds the object of a key or value. One that is used twice counts twice, so a small file
+    /// can't become large in memory.
     bool takeObject(std::size_t reference, Object& object) {
         if (!findObject(reference, object))
             return false;
@@ -159,7 +159,7 @@ private:
         return isSound ? std::optional(std::move(text)) : std::nullopt;
     }
 
-    /// Of 16 bytes for what a signed 64-bit integer doesn't hold.
+    /// An integer that doesn't fit a signed 64-bit integer has 16 bytes.
     CFRef<const CFType> readInteger(const Object& object) const {
         if (object.size <= 8)
             return CFRef<CFNumber>::adopt(
@@ -177,7 +177,7 @@ private:
                                 : double{std::bit_cast<float>(static_cast<std::uint32_t>(bits))};
     }
 
-    /// A reference in a keyed archive, which XML spells as a dictionary.
+    /// A reference in a keyed archive. XML writes it as a dictionary.
     CFRef<const CFType> readUID(const Object& object) const {
         CFDictionary::Items items;
         items.emplace(u"CF$UID", CFRef<CFNumber>::adopt(new CFNumber(static_cast<std::int64_t>(

@@ -5,6 +5,6 @@
 
 #include <string_view>
 
-/// Reads a binary property list of version "bplist00". Null unless the bytes are
-/// exactly one whole, sound list within the limits of CFPropertyList.h.
+/// Reads a binary property list of version "bplist00". Null unless the bytes are exactly one sound
+/// list within the limits of CFPropertyList.h.
 CFRef<const CFType> readBinaryPropertyList(std::string_view bytes);

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The most characters that an entity of the document's own may stand for.
+/// The most characters that an entity of the document may stand for.
 constexpr int kLongestEntity = 64;
 
 bool isBlank(char c) {
@@ -30,8 +30,8 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
-// The values of the elements without children, from their texts. Null when the text can't be that
-// element's. A number or date out of range is carried.
+// Values of elements without children, from their texts. Null when the text doesn't fit the
+// element. A number or date out of range is carried.
 
 template <class Value, class... Base>
 CFRef<const CFType> numberOf(const char* element, std::string_view text, std::string_view digits,
@@ -46,7 +46,7 @@ CFRef<const CFType> numberOf(const char* element, std::string_view text, std::st
     return CFRef<CFNumber>::adopt(new CFNumber(value));
 }
 
-/// Decimal, or hexadecimal with 0x in front.
+/// Decimal, or hexadecimal after 0x.
 CFRef<const CFType> integerOf(std::string_view text) {
     std::string_view digits = text;
     if (digits.starts_with('+'))
@@ -90,7 +90,7 @@ CFRef<const CFType> booleanOf(std::string_view text) {
 
 constexpr struct {
     std::u16string_view name;
-    CFRef<const CFType> (*read)(std::string_view text); ///< without blanks around it
+    CFRef<const CFType> (*read)(std::string_view text); ///< without surrounding blanks
 } kElements[] = {{u"integer", integerOf},      {u"real", realOf}, {u"true", booleanOf<true>},
                  {u"false", booleanOf<false>}, {u"date", dateOf}, {u"data", dataOf}};
 
@@ -107,8 +107,8 @@ std::u16string_view view(QStringView text) {
     return {text.utf16(), static_cast<std::size_t>(text.size())};
 }
 
-/// Builds the objects while the parser walks through the elements. What isn't a property list stops
-/// it for good.
+/// Builds objects while the parser walks through the elements. It stops for good at the first
+/// fault.
 class Reader {
 public:
     explicit Reader(std::string_view bytes)
@@ -129,8 +129,8 @@ public:
     }
 
 private:
-    /// Moves to the next child of the element that is open. False at the element's end, or when
-    /// anything but tags, blanks and comments stands there.
+    /// Moves to the next child of the open element. False at the element's end, or when anything
+    /// but tags, blanks and comments follows.
     bool nextChild() {
         while (!failed_) {
             switch (xml_.readNext()) {
@@ -153,7 +153,7 @@ private:
         return false;
     }
 
-    /// The text of the element that is open, up to its end.
+    /// The text of the open element, up to its end.
     std::optional<std::u16string> readText() {
         std::u16string text;
         while (xml_.readNext() != QXmlStreamReader::EndElement) {
@@ -196,7 +196,7 @@ private:
             auto value = isKey && key && nextChild() ? readValue(depth) : nullptr;
             if (!value)
                 return nullptr;
-            // Keys mostly come in their order, which makes the end the right hint.
+            // Keys are mostly sorted, so the end is the best hint.
             items.insert_or_assign(items.end(), std::move(*key), std::move(value));
         }
         return CFRef<CFDictionary>::adopt(new CFDictionary(std::move(items)));

@@ -28,7 +28,7 @@ public:
     std::string take() { return isSound_ ? std::move(document_) : std::string(); }
 
 private:
-    /// A line of its own, `depth` containers deep.
+    /// Writes a line, indented `depth` levels.
     void line(std::size_t depth, std::string_view text) {
         document_.append(depth, '\t').append(text) += '\n';
     }
@@ -51,7 +51,7 @@ private:
             case '>':
                 content += "&gt;";
                 break;
-            case '\r': // a parser takes a plain one for a line feed
+            case '\r': // a parser reads a plain one as a line feed
                 content += "&#13;";
                 break;
             default:

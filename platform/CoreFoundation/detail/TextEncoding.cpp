@@ -39,7 +39,7 @@ std::optional<std::u16string> decodeUTF8(std::string_view bytes) {
     return text.toStdU16String();
 }
 
-/// With U+FFFD for an unpaired surrogate, which is the encoder's error.
+/// An unpaired surrogate becomes U+FFFD and sets `isValid` to false.
 std::string encodeUTF8(std::u16string_view text, bool& isValid) {
     QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
     const QByteArray bytes = encoder(QStringView(text));
@@ -47,7 +47,7 @@ std::string encodeUTF8(std::u16string_view text, bool& isValid) {
     return bytes.toStdString();
 }
 
-/// ASCII when `upperHalf` is empty.
+/// An empty `upperHalf` means ASCII.
 std::optional<std::u16string> decodeBytes(std::string_view bytes, std::u16string_view upperHalf) {
     std::u16string text;
     text.reserve(bytes.size());

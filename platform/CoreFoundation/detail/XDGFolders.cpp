@@ -22,13 +22,13 @@ std::string homeFolder() {
     return user ? user->pw_dir : "/";
 }
 
-/// The folder that the variable names, else the one in the home folder.
+/// The folder in the variable, else the one in the home folder.
 std::string userFolder(const char* variable, const char* inHome) {
     const std::string folder = absoluteVariable(variable);
     return folder.empty() ? homeFolder() + inHome : folder;
 }
 
-/// The absolute ones among the folders that the variable lists, else `defaults`.
+/// The absolute folders in the variable's list, else `defaults`.
 std::vector<std::string> foldersOfVariable(const char* name, std::vector<std::string> defaults) {
     const char* value = std::getenv(name);
     std::istringstream list(value ? value : "");

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The property's four characters as a number; 0 for any other text.
+/// The property's four characters as a number. 0 for any other text.
 OSType codeProperty(const QAbstractButton& button, const char* name) {
     const QByteArray text = button.property(name).toString().toLatin1();
     OSType code = 0;
@@ -26,7 +26,7 @@ CarbonControl::CarbonControl(QAbstractButton& button, CarbonEventTarget& windowT
     QObject::connect(&button, &QAbstractButton::clicked, &button, [this] { hit(); });
 }
 
-// A handler may end the window, and the control with it.
+// A handler may destroy the window with the control.
 void CarbonControl::hit() {
     const ControlRef self = this;
     const UInt32 command = command_;

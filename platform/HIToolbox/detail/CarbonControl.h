@@ -9,8 +9,8 @@
 /// A button or check box of a Carbon window.
 class CarbonControl {
 public:
-    /// The form's properties of the button say what it is; see IBCarbonRuntime.h. What it sends as
-    /// a command goes to `windowTarget`. Neither is owned, and both outlive the control.
+    /// The button's dynamic properties describe it (IBCarbonRuntime.h). Its command goes to
+    /// `windowTarget`. Owns neither; both outlive the control.
     CarbonControl(QAbstractButton& button, CarbonEventTarget& windowTarget);
 
     QAbstractButton& button() const { return button_; }

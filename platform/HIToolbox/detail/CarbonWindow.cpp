@@ -33,7 +33,7 @@ void CarbonWindow::show() {
 }
 
 void CarbonWindow::setBounds(const QRect& bounds) {
-    widget_->winId(); // whose making chooses the display that Qt counts the window to
+    widget_->winId(); // makes Qt choose the window's display
     const DisplayPlace main(*QGuiApplication::primaryScreen());
     widget_->setGeometry(toQtUnits(bounds, main, DisplayPlace(*widget_->screen())));
     if (bounds == bounds_)

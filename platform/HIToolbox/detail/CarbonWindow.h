@@ -14,18 +14,18 @@
 
 class GrafPort;
 
-/// Set by the host when its window is about to go for good. From then on windows are left as they
-/// are: raising or hiding one asks the display's server, which would wait for one that hangs and
-/// crash without one.
+/// The host sets this before its window goes for good. From then on windows are left as they are.
+/// Raising or hiding one asks the display server: that would wait for one that hangs and crash
+/// without one.
 inline bool areWindowsLeft = false;
 
 /// A top-level widget as a Carbon window.
 class CarbonWindow {
 public:
-    /// Takes the widget, which has no parent.
+    /// Takes over the widget, which must have no parent.
     explicit CarbonWindow(std::unique_ptr<QWidget> widget);
-    /// Hides the widget at once. It is deleted later, because one of its events may be on its way.
-    /// When windows are to be left as they are, neither happens.
+    /// Hides the widget at once and deletes it later, since one of its events may be under way.
+    /// Does neither when windows are left as they are.
     virtual ~CarbonWindow();
     CarbonWindow(const CarbonWindow&) = delete;
     CarbonWindow& operator=(const CarbonWindow&) = delete;
@@ -36,27 +36,26 @@ public:
 
     OSStatus send(EventRecord event) { return target_.send(event); }
 
-    /// Null for a window whose picture is its widgets' alone.
+    /// Null for a window that only shows its widgets.
     virtual GrafPort* port() { return nullptr; }
 
     virtual void show();
 
-    /// In points, global coordinates; as last set.
+    /// As last set, in points and global coordinates.
     const QRect& bounds() const { return bounds_; }
 
     void setBounds(const QRect& bounds);
 
-    /// Handles events until endModal. Gives what that was called with.
+    /// Handles events until endModal. Returns endModal's argument.
     OSStatus runModal();
     void endModal(OSStatus result);
 
-    /// Asks for the keyboard until the window has it or is hidden. After five seconds without
-    /// success, nobody could end the window by a key: its modal loop ends with
-    /// errCouldntSetUserFocus.
+    /// Asks for the keyboard until the window has it or is hidden. After five seconds in vain the
+    /// modal loop ends with errCouldntSetUserFocus, since no key could end it.
     void takeKeyboard();
 
 protected:
-    /// Leaves the widget to whoever owns it; for a destructor.
+    /// Gives up ownership of the widget; for a destructor.
     void leaveWidget() { static_cast<void>(widget_.release()); }
 
 private:

@@ -30,7 +30,7 @@ bool isSelectionOwned(xcb_connection_t* x, const std::string& selection) {
     return owner && owner->owner != XCB_NONE;
 }
 
-/// Of the display that DISPLAY names.
+/// Of the display named in DISPLAY.
 int screenNumber() {
     char* host = nullptr;
     int display = 0;
@@ -50,7 +50,7 @@ QRect pixelsOf(const QScreen& screen) {
 bool isDesktopComposited() {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     xcb_connection_t* connection = x11 ? x11->connection() : nullptr;
-    // A Wayland desktop mixes all windows, those of X programs too.
+    // A Wayland desktop composites all windows, those of X programs too.
     if (!connection || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         return true;
     // The compositing manager of a screen owns this selection (Extended Window Manager Hints).

@@ -4,15 +4,14 @@
 #include <QImage>
 #include <QRect>
 
-/// Whether windows can be transparent: without a compositing manager what is behind them isn't
-/// mixed in.
+/// Whether windows can be transparent. That needs a compositing manager.
 bool isDesktopComposited();
 
-/// What was on the displays at some time, in the desktop's pixels.
+/// A picture of all displays, in the desktop's pixels.
 class DesktopPicture {
 public:
-    /// Takes the displays' present picture. What an earlier one shows is kept: a window may cover
-    /// it by now.
+    /// Takes a picture of the displays. An earlier one keeps its content: by now a window may cover
+    /// that.
     void take();
 
     /// Null before the first take.

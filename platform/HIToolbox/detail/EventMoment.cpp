@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr std::int32_t kLongestWait = 5000; ///< ms, of an event for its handling
+constexpr std::int32_t kLongestWait = 5000; ///< ms from an event to its handling
 
 } // namespace
 

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-/// When an event happened, on GetCurrentEventTime's clock, from the milliseconds that the display
-/// server stamped it with. Servers count from the computer's start, X11's in 32 bits; an event
-/// with the time of any other clock counts as happening now.
+/// When an event happened, on GetCurrentEventTime's clock. The argument is the display server's
+/// time stamp in milliseconds. Servers count from the computer's start, X11's in 32 bits. An event
+/// with a time of any other clock counts as happening now.
 double momentOf(std::uint64_t milliseconds);

@@ -8,14 +8,14 @@
 #include <type_traits>
 #include <vector>
 
-/// An event, as those make it who send it.
+/// An event, as its sender makes it.
 class EventRecord {
 public:
     EventRecord(OSType eventClass, UInt32 eventKind) : type_{eventClass, eventKind} {}
 
     const EventTypeSpec& type() const { return type_; }
 
-    /// Adds a parameter of the value's bytes; one name once.
+    /// Adds a parameter with the value's bytes. Each name once.
     template <class T>
     EventRecord& with(EventParamName name, EventParamType type, const T& value) {
         static_assert(std::is_trivially_copyable_v<T>);
@@ -31,7 +31,7 @@ public:
         std::vector<std::byte> bytes;
     };
 
-    /// Null when there is none of that name and type.
+    /// Null when there is none with that name and type.
     const Parameter* find(EventParamName name, EventParamType type) const;
 
 private:
@@ -39,21 +39,21 @@ private:
     std::vector<Parameter> parameters_;
 };
 
-/// What events are sent to: the handlers of one window or control.
+/// A target of events: the handlers of one window or control.
 class CarbonEventTarget {
 public:
     CarbonEventTarget();
-    /// May happen while a handler runs; none is called after it.
+    /// May run while a handler runs. No further handler is called.
     ~CarbonEventTarget();
     CarbonEventTarget(const CarbonEventTarget&) = delete;
     CarbonEventTarget& operator=(const CarbonEventTarget&) = delete;
 
-    /// The handler, until it is removed or the target goes.
+    /// The handler stays until it is removed or the target goes.
     EventHandlerRef install(EventHandlerUPP function, std::vector<EventTypeSpec> types,
                             void* userData);
 
     /// Calls the handlers for the event's type, newest first, until one returns something else than
-    /// eventNotHandledErr. Gives the last one's result; without any, eventNotHandledErr.
+    /// eventNotHandledErr. Returns the last result, or eventNotHandledErr without a handler.
     OSStatus send(EventRecord& event);
 
 private:
@@ -61,7 +61,7 @@ private:
 
     using Handlers = std::vector<std::unique_ptr<CarbonEventHandler>>;
 
-    /// Shared with the sends that are under way.
+    /// Sends that are under way share it.
     std::shared_ptr<Handlers> handlers_ = std::make_shared<Handlers>();
 };
 

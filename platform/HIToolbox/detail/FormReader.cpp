@@ -10,7 +10,7 @@
 
 namespace {
 
-/// While it lives, what Qt's form reader would print as a warning goes into a list instead.
+/// While it exists, warnings of Qt's form reader go into a list and aren't printed.
 class DesignerWarnings {
 public:
     DesignerWarnings() {

@@ -23,8 +23,8 @@ public:
     /// Qt would load all of Designer's plug-ins, and with them whole libraries.
     explicit FormReader(const WithoutPlugins& = WithoutPlugins()) {}
 
-    /// The form's outermost widget, which the caller owns; null when the file can't be read or
-    /// isn't a form. What is wrong with it is added to errors().
+    /// The form's outermost widget, owned by the caller. Null when the file can't be read or isn't
+    /// a form. Faults are added to errors().
     QWidget* loadFile(const QString& path);
 
     const QStringList& errors() const { return errors_; }

@@ -15,11 +15,11 @@
 
 namespace {
 
-/// Of a press that came before anybody counted.
+/// The time of a press from before the counting began.
 constexpr quint64 kBefore = std::numeric_limits<quint64>::max();
 constexpr quint32 kKeyCount = 256; ///< X11's scan codes
 
-/// The keys that X11's server knows to be down; none on other displays.
+/// The keys that the X11 server reports as down. None on other displays.
 std::bitset<kKeyCount> keysDown() {
     std::bitset<kKeyCount> keys;
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
@@ -45,8 +45,8 @@ void HeldKeys::reset() {
 }
 
 bool HeldKeys::isRepeat(const QKeyEvent& press) {
-    // Of a press that assistive technology has looked at there come copies, without a time, and
-    // some without a key.
+    // Assistive technology may look at a press first. Then copies of it come without a time, some
+    // without a key.
     if (press.timestamp() == 0)
         return press.isAutoRepeat();
     const auto [key, isNew] = since_.try_emplace(press.nativeScanCode(), press.timestamp());

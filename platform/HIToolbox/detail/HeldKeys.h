@@ -7,20 +7,20 @@
 
 class QKeyEvent;
 
-/// Which keys are down, by scan code. While a key repeats, X11 reports it as released and pressed
-/// again, and Qt can take the first half for a real release. So the X server is asked which keys
-/// are down. On other platforms Qt's word is taken.
+/// Which keys are down, by scan code. For a repeating key X11 reports a release and a new press,
+/// and Qt may take the first for a real release. So the X server is asked which keys are down.
+/// Other platforms are trusted.
 class HeldKeys {
 public:
-    /// Starts anew with what is down at this moment. A press that is still to be handled then is
-    /// none of them.
+    /// Starts again with the keys that are down now. A press that isn't handled yet isn't one of
+    /// them.
     void reset();
 
-    /// Takes in a press; true when the key was down already. Asked again of the same press it
-    /// answers the same.
+    /// Notes a press. True when the key was already down. Asking again about the same press gives
+    /// the same answer.
     bool isRepeat(const QKeyEvent& press);
 
-    /// Takes in a release; true when the key really is up.
+    /// Notes a release. True when the key is really up.
     bool isUp(const QKeyEvent& release);
 
     bool contains(quint32 scanCode) const { return since_.contains(scanCode); }

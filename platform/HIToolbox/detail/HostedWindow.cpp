@@ -17,7 +17,7 @@ public:
 } // namespace
 
 WindowRef windowRefOf(QWidget* window) {
-    // Never destroyed: widgets may go when the program is on its way out.
+    // Never destroyed: widgets may go while the program exits.
     static auto& windows = *new std::map<const QObject*, HostedWindow>;
     const auto [place, isNew] = windows.try_emplace(window, window);
     if (isNew)

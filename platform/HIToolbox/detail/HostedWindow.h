@@ -5,6 +5,6 @@
 
 class QWidget;
 
-/// The Carbon window for a top-level widget that somebody else owns. Every call gives the same one.
-/// It goes with the widget.
+/// The Carbon window for a top-level widget that somebody else owns. Each widget has one, which is
+/// destroyed with it.
 WindowRef windowRefOf(QWidget* window);

@@ -11,7 +11,7 @@ constexpr int kFunctionKeysFirst = 2;
 
 bool kernelPrefersFunctionKeys(const char* parameterFile) {
     std::ifstream file(parameterFile);
-    int mode = kFunctionKeysFirst; // without Apple's keyboards: others have no fn to hold
+    int mode = kFunctionKeysFirst; // without Apple keyboards; others have no fn key
     if (file)
         mode = 0, file >> mode;
     return mode == kFunctionKeysFirst;

@@ -12,9 +12,9 @@
 
 namespace {
 
-constexpr std::uint8_t kSentByPrograms = 0x80; ///< a bit beside the event's kind
+constexpr std::uint8_t kSentByPrograms = 0x80; ///< a bit in the event's kind
 
-/// By X11's key code, in its server's milliseconds; 0: none was seen.
+/// By X11 key code, in the server's milliseconds. 0: none seen.
 struct Moments {
     std::array<std::uint32_t, 256> down{}, up{};
 };

@@ -3,10 +3,10 @@
 
 class QKeyEvent;
 
-/// Begins to note when the display server says that keys go down and up. Calling it again does
+/// Begins to note the display server's times of key presses and releases. A second call does
 /// nothing.
 void noteKeyMoments();
 
-/// When a key went down or up, as momentOf of EventMoment.h. While assistive technology looks at
-/// keys first, Qt hands on copies of the events without their times: what was noted is taken then.
+/// When a key went down or up, on the clock of EventMoment.h. If assistive technology looks at keys
+/// first, Qt delivers copies without times. Then the noted time is used.
 double momentOf(const QKeyEvent& event);

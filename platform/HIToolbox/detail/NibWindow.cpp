@@ -7,14 +7,14 @@
 NibWindow::NibWindow(std::unique_ptr<QWidget> own) : CarbonWindow(std::move(own)) {
     for (auto* button : widget().findChildren<QAbstractButton*>()) {
         controls_.push_back(std::make_unique<CarbonControl>(*button, target()));
-        // Ambiguous where the window around it has a use for the key, too.
+        // Qt calls the key ambiguous when the surrounding window uses it too.
         if (button->property("cancelButton").toBool())
             new QShortcut(QKeySequence(Qt::Key_Escape), &widget(), button, &QAbstractButton::click,
                           &QAbstractButton::click, Qt::WidgetWithChildrenShortcut);
     }
 }
 
-// The widget lives on for a moment: nothing of it may reach the controls any more.
+// The widget lives a moment longer. Nothing from it may reach the controls any more.
 NibWindow::~NibWindow() {
     for (const auto& control : controls_)
         control->button().disconnect();

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-/// A window that an interface file laid out.
+/// A window from an interface file.
 class NibWindow final : public CarbonWindow {
 public:
     explicit NibWindow(std::unique_ptr<QWidget> widget);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// Lives while something runs that no event of the user's brought about, such as an action that
-/// assistive technology asks for. GetCurrentEventKeyModifiers gives no keys then.
+/// Exists while something runs that no input event caused, such as an action of assistive
+/// technology. GetCurrentEventKeyModifiers then returns no keys.
 class OutsideEvents {
 public:
     OutsideEvents() { ++depth_; }

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// The Mac OS Roman character of a key, none when it has none.
+/// The Mac OS Roman character of a key. None when it has none.
 std::optional<char> characterOf(const QKeyEvent& event) {
     static constexpr struct {
         int key;
@@ -35,7 +35,7 @@ std::optional<char> characterOf(const QKeyEvent& event) {
 
 } // namespace
 
-/// Hands the window its events.
+/// Passes the window its events.
 class OverlayWidget final : public QWidget {
 public:
     OverlayWidget() {
@@ -46,11 +46,11 @@ public:
         setWindowModality(Qt::ApplicationModal);
     }
 
-    OverlayWindow* window = nullptr; ///< null once it is gone
+    OverlayWindow* window = nullptr; ///< null once the window is gone
 
 protected:
     bool event(QEvent* event) override {
-        // Shortcuts are the other windows'.
+        // Shortcuts belong to the other windows.
         if (event->type() == QEvent::ShortcutOverride)
             event->accept();
         return QWidget::event(event);
@@ -105,7 +105,7 @@ OverlayWindow::OverlayWindow() : CarbonWindow(std::make_unique<OverlayWidget>())
 OverlayWindow::~OverlayWindow() {
     static_cast<OverlayWidget&>(widget()).window = nullptr;
     widget().hide();
-    // Not every window manager sees to it that some window has the focus then.
+    // Not every window manager then gives some window the focus.
     if (focusedBefore_ && focusedBefore_->isVisible())
         focusedBefore_->requestActivate();
 }

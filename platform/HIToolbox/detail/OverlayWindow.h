@@ -9,17 +9,18 @@
 #include <QTimer>
 #include <QWindow>
 
-/// A window without a frame, above all others of all programs. It is transparent where nothing is
-/// drawn, and gets the clicks there too. Where windows can't be transparent, it shows the desktop
-/// as it was when the window was shown. While it is shown the program's other windows get no input.
+/// A frameless window above all windows of all programs. It is transparent where nothing is drawn,
+/// and gets clicks there too. Where windows can't be transparent, it shows a picture of the desktop
+/// from when it was shown. While it is shown the program's other windows get no input.
 ///
-/// When the displays change, it is told that its bounds have: whoever made it sets them anew.
+/// When the displays change, it sends kEventWindowBoundsChanged. Its owner then sets the bounds
+/// again.
 class OverlayWindow final : public CarbonWindow {
 public:
     OverlayWindow();
     ~OverlayWindow() override;
 
-    /// Whether the desktop can have such a window.
+    /// Whether the desktop allows such a window.
     static bool isSupported();
 
     GrafPort* port() override { return &port_; }

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// X11's codes, and Wayland's, are the kernel's plus this.
+/// X11's and Wayland's codes are the kernel's plus this.
 constexpr UInt32 kScanCodeOffset = 8;
 
 struct KeyRow {
@@ -17,9 +17,9 @@ struct KeyRow {
     UInt8 virtualKey;
 };
 
-/// The kernel's codes are those of linux/input-event-codes.h, the virtual key codes those that
-/// HIToolbox/Events.h names kVK_…; both name a key of the ANSI, ISO or JIS arrangement by its
-/// place. What a PC's extra keys stand for is what an Apple system makes of them.
+/// The kernel's codes are those of linux/input-event-codes.h. Virtual key codes are the kVK_… of
+/// HIToolbox/Events.h. Both identify a key by its place on an ANSI, ISO or JIS keyboard. Extra keys
+/// of PCs have the codes that macOS gives them.
 constexpr KeyRow kRows[] = {
     // The letters, as on a US keyboard
     {KEY_A, 0x00},

@@ -20,7 +20,7 @@ constexpr int kRadius = 8;      ///< of the sheet's corners, in points
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     auto* shade = dynamic_cast<SheetShade*>(object);
-    // Screen readers read out a notification when it comes into sight, wherever the keyboard is.
+    // Screen readers read out a notification when it appears, wherever the focus is.
     return shade ? new QAccessibleWidget(shade, QAccessible::Notification) : nullptr;
 }
 
@@ -28,7 +28,7 @@ bool takesTab(const QWidget* widget) {
     return widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus);
 }
 
-/// The next place for the keyboard inside `group`, in the order of Tab; null when there is none.
+/// The next widget inside `group` that Tab reaches. Null when there is none.
 QWidget* nextInside(const QWidget* group, QWidget* from, bool forward) {
     QWidget* next = from;
     do {
@@ -39,7 +39,7 @@ QWidget* nextInside(const QWidget* group, QWidget* from, bool forward) {
     return nullptr;
 }
 
-/// The sheet's default button, or else the first of what takes the keyboard.
+/// The sheet's default button, else its first widget that takes focus.
 QWidget* entryOf(QWidget* sheet) {
     for (auto* button : sheet->findChildren<QPushButton*>())
         if (button->isDefault())
@@ -109,7 +109,7 @@ bool SheetShade::eventFilter(QObject* watched, QEvent* event) {
     const auto* widget = qobject_cast<QWidget*>(watched);
     if (event->type() != QEvent::Shortcut || !widget || widget->window() != window() || !sheet_)
         return false;
-    // A letter of a button, or Escape. What is covered may have it too, and Qt then asks either.
+    // A button's letter, or Escape. If a covered widget has the same, Qt sends the event to both.
     const QKeySequence& key = static_cast<QShortcutEvent*>(event)->key();
     for (auto* button : sheet_->findChildren<QAbstractButton*>())
         if (button->shortcut() == key ||
@@ -152,7 +152,7 @@ bool SheetShade::focusNextPrevChild(bool next) {
     return heir != nullptr;
 }
 
-/// `focus` is null when the keyboard went to another program, or to nothing in this window.
+/// `focus` is null when focus went to another program or to nothing in this window.
 void SheetShade::focusMoved(QWidget* focus) {
     const bool isInContent =
         focus ? focus->window() == window() && !isAncestorOf(focus) : window()->isActiveWindow();

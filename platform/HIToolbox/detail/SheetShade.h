@@ -4,13 +4,13 @@
 #include <QPointer>
 #include <QWidget>
 
-/// What lies between a window's content and its sheet: it dims the content, keeps clicks, the
-/// keyboard and shortcut letters from it, and holds the sheet at the top. To a screen reader it is
-/// a notification with the sheet's name and description.
+/// Lies between a window's content and its sheet. It dims the content, keeps clicks, keys and
+/// shortcut letters from it, and holds the sheet at the top. To a screen reader it is a
+/// notification with the sheet's name and description.
 class SheetShade final : public QWidget {
 public:
-    /// Takes the sheet, which has no parent, and shows it. When the shade goes, the sheet is hidden
-    /// and has no parent again.
+    /// Takes the sheet, which must have no parent, and shows it. When the shade goes, the sheet is
+    /// hidden and has no parent again.
     SheetShade(QWidget* window, QWidget* sheet);
     ~SheetShade() override;
 
@@ -29,6 +29,6 @@ private:
     void giveKeyboardBack();
 
     QPointer<QWidget> sheet_;
-    QPointer<QWidget> entry_;       ///< where in the sheet the keyboard comes in
-    QPointer<QWidget> formerFocus_; ///< where the keyboard was before the sheet took it
+    QPointer<QWidget> entry_;       ///< gets the focus in the sheet
+    QPointer<QWidget> formerFocus_; ///< had the focus before the sheet
 };

@@ -11,7 +11,8 @@ void WindowPort::setPaintEventPainter(QPainter* painter) {
         painter->scale(unitsAPoint(), unitsAPoint());
 }
 
-// It is 1, but while Qt takes the window to be on a display of another scale than the main one's.
+// Usually 1. Another number only when Qt takes the window to be on a display of another scale than
+// the main one.
 double WindowPort::unitsAPoint() const {
     return QGuiApplication::primaryScreen()->devicePixelRatio() / widget_.devicePixelRatioF();
 }
@@ -26,7 +27,7 @@ bool WindowPort::beginDrawing() {
     QBackingStore* store = widget_.backingStore();
     if (!widget_.isVisible() || !store || store->size() != widget_.size())
         return false;
-    store->beginPaint({}); // no part of the picture is lost by it
+    store->beginPaint({}); // keeps the whole picture
     ownPainter_.begin(store->paintDevice());
     ownPainter_.scale(unitsAPoint(), unitsAPoint());
     setPainter(&ownPainter_);

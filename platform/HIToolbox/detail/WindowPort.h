@@ -5,21 +5,21 @@
 
 #include <QImage>
 
-/// The picture of a top-level widget that is drawn in at any time, also outside of its paint
-/// events, straight into what is shown.
+/// The picture of a top-level widget. It can be drawn in at any time, even outside paint events;
+/// the result shows directly.
 class WindowPort final : public GrafPort {
 public:
-    /// `widget` has no children with pictures of their own, and is opaque or translucent as a
-    /// whole.
+    /// `widget` must have no children with pictures of their own. As a whole it is either opaque or
+    /// translucent.
     explicit WindowPort(QWidget& widget) : GrafPort(widget), widget_(widget) {}
 
-    /// What shows where nothing is drawn; null for what lies beneath.
+    /// Shown where nothing is drawn. Null: what lies beneath is shown.
     void setBackdrop(QImage backdrop) { backdrop_ = std::move(backdrop); }
 
-    /// While a paint event is handled, drawing goes through its painter. Null when it is done.
+    /// During a paint event drawing uses its painter. Null afterwards.
     void setPaintEventPainter(QPainter* painter);
 
-    /// The widget's units in a point.
+    /// The widget's units per point.
     double unitsAPoint() const;
 
     QSize size() const override;
@@ -31,6 +31,6 @@ public:
 private:
     QWidget& widget_;
     QImage backdrop_;
-    QPainter ownPainter_; ///< active while drawing outside of a paint event
+    QPainter ownPainter_; ///< active while drawing outside a paint event
     QRegion flushed_;
 };
