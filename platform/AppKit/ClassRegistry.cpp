@@ -5,7 +5,7 @@
 
 namespace {
 
-// Never destroyed: classes are looked up by programs that are already on their way out.
+// Never destroyed: classes are looked up even while a program exits.
 std::map<std::string_view, RegisteredClass>& registry() {
     static auto& classes = *new std::map<std::string_view, RegisteredClass>;
     return classes;

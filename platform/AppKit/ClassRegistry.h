@@ -3,14 +3,14 @@
 
 #include "platform/AppKit/NSObject.h"
 
-/// A class that an interface file or an Info.plist names.
+/// A class that interface files or Info.plist can name.
 struct RegisteredClass {
     std::string_view name;
     NSObject* (*make)(); ///< the caller owns the result
 };
 
-/// Adds a class to the registry that NSClassFromString searches; a static object of this type
-/// beside the class's code does it when that code is loaded.
+/// Registers a class for NSClassFromString. A static object of this type stands beside the class's
+/// code, so loading the code registers the class.
 class ClassRegistration {
 public:
     explicit ClassRegistration(RegisteredClass entry);

@@ -3,7 +3,7 @@
 
 #include "platform/AppKit/NSGeometry.h"
 
-/// Lines in the current colour; see NSGraphics.h.
+/// Draws lines in the current colour; see NSGraphics.h.
 class NSBezierPath {
 public:
     /// In points, until the graphics state is restored.

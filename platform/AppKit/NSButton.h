@@ -7,21 +7,21 @@ class QTimer;
 
 enum NSCellState { NSOffState = 0, NSOnState = 1 };
 
-/// A push button or check box. The form's property keyEquivalent, as in "F1", names keys that click
-/// it from anywhere in its window.
+/// A push button or check box. The dynamic property keyEquivalent names keys, such as "F1", that
+/// click it from anywhere in its window.
 class NSButton : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;
 
     void setTitle(std::string_view utf8);
-    std::string title() const; ///< in UTF-8, without the mark of its letter
+    std::string title() const; ///< in UTF-8, without the mnemonic's mark
 
     int state() const;
     void setState(int state);
 
-    /// Makes the button repeat its action while it is held down, by pointer or by keyboard: first
-    /// after `delay` seconds, then every `interval` seconds, until it is released or disabled. The
-    /// release that ends a repetition sends nothing more; a short click sends the action once.
+    /// Repeats the action while the button is held down by mouse or keyboard: first after `delay`
+    /// seconds, then every `interval` seconds. A short click sends the action once. The release
+    /// after a repetition sends nothing. Disabling the button stops it.
     void setPeriodicDelay(float delay, float interval);
 
 private:

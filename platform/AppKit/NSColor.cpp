@@ -18,7 +18,7 @@ void NSColor::set() const {
     GrafPort* port = GrafPort::current();
     if (!port)
         return;
-    // Nothing else is a colour to Qt; what isn't a number counts as 0.
+    // Qt takes no other numbers. A component that is no number counts as 0.
     const auto component = [](double value) {
         return value > 0 ? static_cast<float>(std::min(value, 1.0)) : 0.0F;
     };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// A colour in the device's RGB space; components from 0 to 1.
+/// A colour in the device's RGB space. Components are from 0 to 1.
 class NSColor {
 public:
     static NSColor colorWithDeviceRed(double red, double green, double blue, double alpha) {
@@ -12,10 +12,10 @@ public:
 
     static NSColor lightGrayColor() { return {2.0 / 3, 2.0 / 3, 2.0 / 3, 1}; }
 
-    /// Of the ring around what has the keyboard.
+    /// The colour of the focus ring.
     static NSColor keyboardFocusIndicatorColor();
 
-    /// Makes it the colour that is drawn with; see NSGraphics.h.
+    /// Makes this the current colour; see NSGraphics.h.
     void set() const;
 
     double redComponent() const { return red_; }

@@ -7,10 +7,9 @@
 #include <string>
 
 /// A button that shows a colour and opens the desktop's colour chooser. The action is sent for
-/// every colour tried in the chooser, so that its effect is seen at once; cancelling the chooser
-/// sends it once more, with the colour from before. The chooser never blocks the program; it goes,
-/// without cancelling, when the well is hidden. In the form it is a QPushButton promoted to
-/// NSColorWell.
+/// every colour tried in the chooser, so its effect shows at once. Cancelling sends it again with
+/// the original colour. The chooser never blocks. When the well is hidden, the chooser closes
+/// without cancelling. In the form the well is a QPushButton promoted to NSColorWell.
 class NSColorWell final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;
@@ -24,5 +23,5 @@ private:
     void choose(const NSColor& color);
 
     NSColor color_ = NSColor::colorWithDeviceRed(0, 0, 0, 1);
-    std::string description_; ///< what the form says of the control, in UTF-8
+    std::string description_; ///< from the form, in UTF-8
 };

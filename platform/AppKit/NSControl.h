@@ -3,24 +3,23 @@
 
 #include "platform/AppKit/NSView.h"
 
-/// A view that a user operates. When it is operated it sends its action to its target; setting it
-/// from code never does.
+/// A view that the user operates. It then sends its action to its target. Setting it from code
+/// sends nothing.
 class NSControl : public NSView {
 public:
     void setEnabled(bool enabled);
 
-    /// Neither is owned; without both, nothing is sent.
+    /// Not owned. Without both nothing is sent.
     void setTarget(NSObject* target) { target_ = target; }
 
     void setAction(SEL action) { action_ = action; }
 
-    /// What is shown beside the pointer when it rests on the control; UTF-8, empty for nothing.
+    /// The tool tip; UTF-8, empty for none.
     void setToolTip(std::string_view text);
 
 protected:
     void sendAction();
-    /// The same when no event of the user's brought it about: the keys that were held with the last
-    /// event don't count.
+    /// The same without an input event as its cause. Keys held during the last event don't count.
     void sendActionOutsideEvents();
 
 private:

@@ -4,8 +4,7 @@
 #include "platform/AppKit/NSGeometry.h"
 #include "platform/HIToolbox/KeyCodes.h"
 
-// Characters that stand for keys without a letter, in the Unicode private use area as on the
-// platform.
+// Characters for keys without a letter. They are in the Unicode private use area, as on macOS.
 constexpr char16_t NSUpArrowFunctionKey = 0xF700;
 constexpr char16_t NSDownArrowFunctionKey = 0xF701;
 constexpr char16_t NSLeftArrowFunctionKey = 0xF702;
@@ -16,8 +15,7 @@ constexpr char16_t NSCarriageReturnCharacter = 0x000D;
 constexpr char16_t NSEnterCharacter = 0x0003; ///< of the keypad
 constexpr char16_t NSEscapeCharacter = 0x001B;
 
-/// Modifier keys, whichever of the two of a kind is held. On Linux command is the Super key, and
-/// option is Alt and AltGr.
+/// Modifier keys, left or right. On Linux command is the Super key; option is Alt and AltGr.
 enum NSEventModifierFlags : UInt32 {
     NSAlphaShiftKeyMask = 1 << 16, ///< caps lock is on
     NSShiftKeyMask = 1 << 17,
@@ -28,13 +26,13 @@ enum NSEventModifierFlags : UInt32 {
 
 /// The key of an event.
 struct EventKey {
-    char16_t character = 0; ///< one of the constants above or a letter; 0 when it has neither
+    char16_t character = 0; ///< a letter or one of the constants above, else 0
     UInt16 code = kNoKeyCode;
-    UInt32 modifierFlags = 0; ///< what was held beside it
+    UInt32 modifierFlags = 0; ///< modifiers held during the event
     bool isARepeat = false;   ///< the key was down already
 };
 
-/// A press or release of a mouse button, of a key or of a modifier key, on its way to a view.
+/// A press or release of a mouse button, a key or a modifier key.
 class NSEvent {
 public:
     static NSEvent mouseDown(NSPoint locationInWindow, double timestamp = 0) {
@@ -43,23 +41,23 @@ public:
 
     static NSEvent key(const EventKey& key, double timestamp = 0) { return {{}, key, timestamp}; }
 
-    /// When it happened, not when it is handled: seconds of GetCurrentEventTime's clock.
+    /// When it happened, on GetCurrentEventTime's clock, in seconds.
     double timestamp() const { return timestamp_; }
 
-    /// Of the mouse; y grows downward.
+    /// The mouse's place. y grows downward.
     NSPoint locationInWindow() const { return locationInWindow_; }
 
-    /// Of the key, one of the constants above or a letter; 0 for a key that has neither.
+    /// The key's letter or one of the constants above, else 0.
     char16_t charactersIgnoringModifiers() const { return key_.character; }
 
-    /// The virtual key code, which names the key by its place, or kNoKeyCode.
+    /// The virtual key code, which stands for the key's place. kNoKeyCode for unknown keys.
     UInt16 keyCode() const { return key_.code; }
 
     UInt32 modifierFlags() const { return key_.modifierFlags; }
 
     bool isARepeat() const { return key_.isARepeat; }
 
-    /// A view that has no use for the event gives it back to those around it.
+    /// Gives the event to the surrounding views, when the view has no use for it.
     void passOn() { passedOn_ = true; }
 
     bool isPassedOn() const { return passedOn_; }

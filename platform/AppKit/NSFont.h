@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// A font of texts that a view draws.
+/// A font for texts drawn by a view.
 class NSFont {
 public:
-    /// The font of the view's other texts; `size` in points, 0 for the size that the user's desktop
-    /// gives them.
+    /// The font of the view's other texts. `size` is in points; 0 means the desktop's text size.
     static NSFont systemFontOfSize(double size) { return NSFont(size); }
 
-    /// Of less important texts, in points: 11 where the desktop's texts have 13.
+    /// For less important texts, in points: 11 where the desktop's text size is 13.
     static double smallSystemFontSize();
 
     double pointSize() const { return size_; }

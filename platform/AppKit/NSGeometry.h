@@ -12,7 +12,7 @@ struct NSSize {
     float height = 0;
 };
 
-/// A rectangle of an interface, in points; y grows downward.
+/// A rectangle in points; y grows downward.
 struct NSRect {
     float x = 0;
     float y = 0;
@@ -20,13 +20,13 @@ struct NSRect {
     float height = 0;
 };
 
-/// The right and the lower edge are outside.
+/// The right and lower edges are outside.
 inline bool NSPointInRect(NSPoint point, const NSRect& rect) {
     return point.x >= rect.x && point.x < rect.x + rect.width && point.y >= rect.y &&
            point.y < rect.y + rect.height;
 }
 
-/// The rectangle without a margin of `dx` on its left and right and of `dy` above and below.
+/// The rectangle with its sides moved inward, left and right by `dx`, top and bottom by `dy`.
 inline NSRect NSInsetRect(const NSRect& rect, float dx, float dy) {
     return {rect.x + dx, rect.y + dy, rect.width - 2 * dx, rect.height - 2 * dy};
 }

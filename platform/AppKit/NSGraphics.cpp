@@ -22,7 +22,7 @@ void NSRectFillUsingOperation(const NSRect& rect, NSCompositingOperation operati
     const QPainter::CompositionMode before = painter.compositionMode();
     painter.setCompositionMode(operation == NSCompositeCopy ? QPainter::CompositionMode_Source
                                                             : QPainter::CompositionMode_SourceOver);
-    // No more than there is: the numbers may be too large for pixels.
+    // Clipped to the widget, since the numbers may be too large for pixels.
     painter.fillRect(QRectF(rect.x, rect.y, rect.width, rect.height) & port->widget().rect(),
                      painter.brush());
     painter.setCompositionMode(before);
@@ -34,7 +34,7 @@ void NSFrameRectWithWidth(const NSRect& rect, float width) {
                   port->painter().brush().color());
 }
 
-// All of it is kept by the current port.
+// The current port holds its state.
 NSGraphicsContext* NSGraphicsContext::currentContext() {
     static NSGraphicsContext context;
     return GrafPort::current() ? &context : nullptr;

@@ -17,7 +17,7 @@ bool isEnabledItself(const QAbstractButton* button) {
     return button->isEnabledTo(button->parentWidget());
 }
 
-/// The widget of the innermost matrix around a button.
+/// The innermost matrix around a button.
 const QWidget* matrixOf(const QWidget* button) {
     const QWidget* around = button->parentWidget();
     while (around && around->property("customClass") != QLatin1String("NSMatrix"))
@@ -25,7 +25,7 @@ const QWidget* matrixOf(const QWidget* button) {
     return around;
 }
 
-// The selected cell takes the Tab key or, when it can't, the first that can.
+// Tab reaches the selected cell, or the first enabled one if that is disabled.
 void chooseTabStop(const QButtonGroup* group) {
     const QAbstractButton* stop = group->checkedButton();
     const auto buttons = group->buttons();
@@ -58,7 +58,7 @@ void NSMatrix::attachWidget(QWidget* widget) {
         cells_.push_back(std::make_unique<NSCell>(button));
         connectToggleAction(button, [this, group, button] {
             if (!button->isChecked())
-                return; // the one that is checked instead tells of both
+                return; // the newly checked one reports for both
             chooseTabStop(group);
             sendActionOutsideEvents();
         });
@@ -87,7 +87,7 @@ bool NSMatrix::selectCellWithTag(int tag) {
     const QSignalBlocker blocker(button);
     button->setChecked(true);
     chooseTabStop(button->group());
-    // The arrow keys start from the cell that has the focus.
+    // The arrow keys start at the focused cell.
     if (focus && focus != button && widget()->isAncestorOf(focus) && button->isEnabled())
         button->setFocus(Qt::OtherFocusReason);
     return true;

@@ -14,7 +14,7 @@ public:
     explicit NSCell(QAbstractButton* button) : button_(button) {}
 
     int tag() const;
-    /// An enabled cell of a disabled matrix can't be clicked either.
+    /// A cell of a disabled matrix can't be clicked, even if it is enabled.
     void setEnabled(bool enabled);
 
 private:
@@ -23,17 +23,17 @@ private:
     QAbstractButton* button_;
 };
 
-/// A group of radio buttons, of which one at a time is selected. Its cells are the radio buttons in
-/// the widget that are in no matrix inside it, told apart by their tags. A click on the selected
-/// cell sends the action as well. The Tab key stops once, at the selected cell; the arrow keys go
-/// to the other cells and select them.
+/// A group of radio buttons, one of which is selected at a time. Its cells are the radio buttons in
+/// the widget except those of an inner matrix. Tags identify them. Clicking the selected cell also
+/// sends the action. Tab stops once, at the selected cell. Arrow keys move to the other cells and
+/// select them.
 class NSMatrix final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;
 
-    /// The selected cell's tag, or -1 when none is selected.
+    /// The selected cell's tag. -1 when none is selected.
     int selectedTag() const;
-    /// False, and nothing changes, when no cell has the tag.
+    /// False when no cell has the tag; nothing changes then.
     bool selectCellWithTag(int tag);
     /// Null when no cell has the tag. Owned by the matrix.
     NSCell* cellWithTag(int tag) const;

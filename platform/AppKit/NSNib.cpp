@@ -8,7 +8,7 @@
 
 NSNib::NSNib() = default;
 
-// The widgets go first: they call the views when they are used, never the other way about.
+// The widgets go first: they call the views, and never the other way round.
 NSNib::~NSNib() {
     delete form_;
 }

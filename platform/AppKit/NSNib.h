@@ -10,18 +10,18 @@
 
 class QWidget;
 
-/// A loaded interface file: a Qt Designer form, read at run time. Dynamic properties in the form
-/// say what becomes of its widgets:
+/// A loaded interface file: a Qt Designer form, read at run time. Dynamic properties describe its
+/// widgets:
 ///
-/// - customClass: the widget makes an object of that class, one of the class registry or of the
-///   layer's controls. If the class isn't a view, the widget only groups the object's parts.
-/// - outlet: the field, of the object that encloses the widget, that the widget's object fills.
-/// - action: the selector that the control sends to the object that encloses it or, if that has no
-///   such action, to the next object outward.
+/// - customClass: the widget makes an object of that class, from the class registry or a control of
+///   this layer. If the class is no view, the widget only groups the object's parts.
+/// - outlet: the field that the widget's object is stored in. It belongs to the enclosing object.
+/// - action: the selector that the control sends to the enclosing object. If that has no such
+///   action, the next object outward gets it.
 /// - tag, minValue, maxValue: see NSMatrix and NSSlider.
-/// - keepsKeyboard: while the keyboard acts on the widget, no sheet takes it away; see Sheets.h.
+/// - keepsKeyboard: while the widget has the focus, no sheet takes it away; see Sheets.h.
 ///
-/// The outermost object is the file's owner, which exists already.
+/// The outermost object is the file's owner, which exists before.
 class NSNib {
 public:
     NSNib();
@@ -29,15 +29,15 @@ public:
     NSNib(const NSNib&) = delete;
     NSNib& operator=(const NSNib&) = delete;
 
-    /// Loads the form and wires it to `owner`, then sends awakeFromNib to every object made, and at
-    /// last to the owner. False when anything is wrong: a file that can't be read or isn't a form,
-    /// an unknown class, an outlet or action that the class lacks, a wrong type, an outlet left
-    /// empty. `errors` then says what, one line each, beginning with the file's path; nothing has
-    /// awoken. Call once.
+    /// Loads the form and wires it to `owner`. Then sends awakeFromNib to every object made, and
+    /// last to the owner. False when anything is wrong: a file that can't be read or is no form, an
+    /// unknown class, an outlet or action that the class lacks, a wrong type, an empty outlet.
+    /// `errors` then says what, a line each, beginning with the file's path; awakeFromNib isn't
+    /// sent. Call it once.
     bool instantiate(const std::string& path, NSObject& owner, std::vector<std::string>& errors);
 
-    /// The form's outermost widget. The nib deletes it in the end, if a parent that it was given
-    /// has not done so before. Null until loaded.
+    /// The form's outermost widget. The nib deletes it, unless its parent has done so. Null until
+    /// loaded.
     QWidget* topLevelWidget() const { return form_; }
 
     /// Null until loaded.

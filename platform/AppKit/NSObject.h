@@ -9,7 +9,7 @@
 #include <vector>
 
 /// The root of the classes that an interface file can make and wire. Such a class lists its outlets
-/// and actions in one table each, and its name in the registry below.
+/// in one table, its actions in another, and registers its name (ClassRegistry.h).
 class NSObject {
 public:
     NSObject() = default;
@@ -21,11 +21,11 @@ public:
 
     virtual std::span<const Action> actions() const { return {}; }
 
-    /// What the interface file lays out otherwise than the code expects, in words; asked when all
-    /// outlets are filled.
+    /// How the interface file differs from what the code expects, in words. Asked when all outlets
+    /// are filled.
     virtual std::vector<std::string> layoutFaults() const { return {}; }
 
-    /// Called once, when the whole interface file has been loaded and wired.
+    /// Called once, when the whole interface file is loaded and wired.
     virtual void awakeFromNib() {}
 
     /// The action of that name, or null.

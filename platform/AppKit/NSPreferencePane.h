@@ -4,18 +4,18 @@
 #include "platform/AppKit/NSNib.h"
 #include "platform/CoreFoundation/CFBundle.h"
 
-/// The principal class of a preference-pane bundle derives from this. The host makes it, gives it
-/// its bundle, loads its main view and then calls, in order: mainViewDidLoad once; for each visit
-/// willSelect, didSelect (the pane is in sight), didUnselect (it is out of sight again). In
-/// between, whenever what the user changed is to be stored, commitEditing.
+/// The base of a preference-pane bundle's principal class. The host makes the object, gives it the
+/// bundle and loads its main view. Then it calls mainViewDidLoad once and, for each visit,
+/// willSelect, didSelect (the pane is shown) and didUnselect (it is hidden again). In between it
+/// calls commitEditing to have changes stored.
 class NSPreferencePane : public NSObject {
 public:
     void initWithBundle(CFBundle* bundle) { bundle_ = CFRef<CFBundle>::retain(bundle); }
 
     CFBundle* bundle() const { return bundle_.get(); }
 
-    /// Loads the interface file that the bundle's NSMainNibFile names, with the pane as its owner.
-    /// False when it can't be loaded; `errors` then says why, one line each.
+    /// Loads the interface file that the bundle's NSMainNibFile names, with the pane as owner.
+    /// False when it can't be loaded; `errors` then says why, a line each.
     bool loadMainView(std::vector<std::string>& errors);
 
     /// Null until loaded.
@@ -27,7 +27,7 @@ public:
 
     virtual void didSelect() {}
 
-    /// Stores what the user changed; the visit goes on. False when that failed.
+    /// Stores what the user has changed. The visit goes on. False on failure.
     virtual bool commitEditing() { return true; }
 
     virtual void didUnselect() {}

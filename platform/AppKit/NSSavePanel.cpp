@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr QSize kFrame(16, 48); ///< left around the dialogue for the window manager's frame
+constexpr QSize kFrame(16, 48); ///< room for the window manager's frame
 
 using Chosen = std::function<void(const std::string& path)>;
 

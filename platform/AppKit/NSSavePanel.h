@@ -6,8 +6,8 @@
 
 class NSWindow;
 
-/// Asks for the place of a file that is to be written, in the desktop's own dialogue where it has
-/// one. It begins in the user's documents, or else in the home folder.
+/// Asks where to save a file, in the desktop's own dialogue if it has one. It starts in the user's
+/// documents folder, or else the home folder.
 class NSSavePanel {
 public:
     virtual ~NSSavePanel() = default;
@@ -17,9 +17,9 @@ public:
 
     void setNameFieldStringValue(std::string_view utf8) { name_ = utf8; }
 
-    /// Shows the dialogue over the window and returns at once. `chosen` is called with the file's
-    /// path, in the file system's bytes, if one is chosen before the window goes; this object isn't
-    /// needed any more by then.
+    /// Shows the dialogue over the window and returns at once. If a file is chosen before the
+    /// window goes, `chosen` is called with its path in the file system's bytes. This object may be
+    /// gone by then.
     virtual void beginSheetModalForWindow(const NSWindow& window,
                                           std::function<void(const std::string& path)> chosen);
 
@@ -27,7 +27,7 @@ protected:
     std::string title_, name_;
 };
 
-/// Asks for a file that exists.
+/// Asks for an existing file.
 class NSOpenPanel final : public NSSavePanel {
 public:
     void beginSheetModalForWindow(const NSWindow& window,

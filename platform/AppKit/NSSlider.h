@@ -3,13 +3,12 @@
 
 #include "platform/AppKit/NSControl.h"
 
-/// A slider over a range of doubles. The form's properties minValue and maxValue are its ends;
-/// without them the widget's own whole numbers are. The widget's numbers say how many places a user
-/// can reach, and its single and page step what the arrow and page keys do. The wheel doesn't move
-/// it, so that a page can be scrolled past it. A click beside its knob takes the knob there.
+/// A slider over a range of doubles. Its limits are the dynamic properties minValue and maxValue,
+/// or else the widget's own whole numbers. The widget's range is the number of steps a user can
+/// reach. Its single and page steps are those of the arrow and page keys. The wheel doesn't move
+/// it, so that it can scroll the page. A click beside the knob moves the knob there.
 ///
-/// A screen reader hears the real value, and as its text that of the label beside the slider that
-/// is the outlet `label`.
+/// A screen reader says the real value, as the text of the label beside it with the outlet `label`.
 class NSSlider final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;
@@ -17,9 +16,9 @@ public:
     double minValue() const;
     double maxValue() const;
 
-    /// What was last set, unrounded, or what the user chose since.
+    /// What was last set, unrounded, or what the user chose since then.
     double doubleValue() const;
 
-    /// A value outside the range is taken as the nearer limit.
+    /// A value outside the range becomes the nearer limit.
     void setDoubleValue(double value);
 };

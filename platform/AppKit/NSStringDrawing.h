@@ -5,17 +5,16 @@
 #include "platform/AppKit/NSGeometry.h"
 #include "platform/CoreFoundation/CFString.h"
 
-/// How a text is drawn; its colour is that of the view's other texts.
+/// How a text is drawn. Its colour is that of the view's other texts.
 struct TextAttributes {
     NSFont font;
 };
 
-/// The room that one line of text takes, in points.
+/// The size of a line of text, in points.
 NSSize sizeWithAttributes(const CFString* text, const TextAttributes& attributes);
-/// Draws one line of text in black, whatever the colour of other texts, with its top-left corner at
-/// the point.
+/// Draws a line of text in black, with its top-left corner at the point.
 void drawAtPoint(const CFString* text, NSPoint point, const TextAttributes& attributes);
 
-/// Draws one line of text from the rectangle's left side, in the middle of its height. A text that
-/// is too wide is shortened in its middle. See NSGraphics.h.
+/// Draws a line of text, left-aligned and vertically centred. A text that is too wide is shortened
+/// in its middle. See NSGraphics.h.
 void NSDrawString(const CFString* text, const NSRect& rect, const TextAttributes& attributes);

@@ -3,5 +3,5 @@
 
 #include "platform/AppKit/NSControl.h"
 
-/// A stack of pages, of which one shows. No code acts on it; it is here to be an outlet.
+/// A stack of pages that shows one at a time. No code uses it; outlets need the class.
 class NSTabView final : public NSView {};

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kFieldMargin = 8; // points beside the text
 
-/// Keeps a label's text quieter than others, in every palette.
+/// Gives a label a weaker text colour than others, in every palette.
 class SecondaryColor final : public QObject {
 public:
     explicit SecondaryColor(QLabel* label) : QObject(label) {

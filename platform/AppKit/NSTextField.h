@@ -5,10 +5,10 @@
 
 #include <string>
 
-/// A line of text. A row's value field can be edited: it sends its action when another text was
-/// typed; a QLineEdit of the form does when Return is pressed. The dynamic property textColor with
-/// the value secondaryLabelColor makes it quieter than other texts, in every palette;
-/// hidesWhenEmpty takes it out of sight while it has no text.
+/// A line of text. A row's value field can be edited and sends its action when another text was
+/// typed. A QLineEdit sends it when Return is pressed. Dynamic properties: textColor with the value
+/// secondaryLabelColor weakens the colour, in every palette; hidesWhenEmpty hides the field while
+/// it is empty.
 class NSTextField final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;
@@ -16,9 +16,10 @@ public:
     void setStringValue(std::string_view utf8);
     std::string stringValue() const;
 
-    /// Of a field: puts back what was shown and tells, in words, why what was typed isn't taken.
+    /// For a value field: shows the earlier text again and explains why what was typed isn't
+    /// accepted.
     void refuse(std::string_view why);
 
-    /// Shows the number in the C locale with at most six significant digits: 70, 0.5.
+    /// Shows the number in the C locale with up to six significant digits: 70, 0.5.
     void setDoubleValue(double value);
 };

@@ -83,7 +83,7 @@ std::string NSView::accessibilityLabel() const {
 
 void NSView::setAccessibilityLabel(std::string_view label) {
     const QString name = QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size()));
-    if (name != widget_->accessibleName()) // or it would be told once more
+    if (name != widget_->accessibleName()) // else it would be told twice
         widget_->setAccessibleName(name);
 }
 

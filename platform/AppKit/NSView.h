@@ -8,84 +8,85 @@
 class NSEvent;
 class QWidget;
 
-/// A part of the interface. It stands for one widget of the loaded form, which owns the picture;
-/// the Nib that loaded the form owns the view.
+/// A part of the interface. It stands for one widget of the loaded form. The nib that loaded the
+/// form owns the view.
 class NSView : public NSObject {
 public:
-    /// Takes the widget that the view stands for; called once, by the loader.
+    /// Takes the view's widget. The loader calls it once.
     virtual void attachWidget(QWidget* widget);
 
     QWidget* widget() const { return widget_; }
 
-    /// The view that holds this one; null for the main view and for a detached view.
+    /// The view around this one. Null for the main view and for a detached view.
     NSView* superview() const;
 
     NSWindow window() const;
 
-    /// Detaches the view: it vanishes from its superview, which keeps its place free, and stays
-    /// alive with its frame unchanged.
+    /// Detaches the view. It is no longer shown, but stays alive with its frame, and its superview
+    /// keeps its place free.
     void removeFromSuperview();
 
-    /// Puts a detached view back, on top of this view's others. A view that came from this very
-    /// superview returns to its old place.
+    /// Puts a detached view back, above this view's others. If this was its superview before, it
+    /// returns to its old place.
     void addSubview(NSView* view);
 
-    /// Hidden it takes no room, and neither keyboard nor screen reader find it.
+    /// A hidden view takes no room. Keyboard and screen reader don't find it.
     void setHidden(bool hidden);
 
-    /// Asks its superview for at least so much room, in points.
+    /// Asks its superview for at least this much room, in points.
     void setFrameSize(const NSSize& size);
 
     NSRect bounds() const; ///< in its own coordinates: origin 0, 0
-    /// Turns every stack of pages to the one with this view, and scrolls to it.
+    /// Shows its page in every stack of pages, and scrolls to it.
     void scrollToVisible();
     void setNeedsDisplay(bool needsDisplay);
     void setNeedsDisplayInRect(const NSRect& rect);
 
-    /// From the coordinates of another view, or of the window when `view` is null, to its own.
+    /// Converts from the coordinates of another view, or of the window when `view` is null, to its
+    /// own.
     NSPoint convertPoint(NSPoint point, const NSView* view) const;
 
-    /// What a screen reader calls it, in UTF-8; given by the form at first.
+    /// Its name for screen readers, in UTF-8. At first that of the form.
     std::string accessibilityLabel() const;
     void setAccessibilityLabel(std::string_view label);
-    /// What a screen reader says of it besides; UTF-8.
+    /// Its description for screen readers; UTF-8.
     void setAccessibilityHelp(std::string_view help);
 
-    /// Whether it has the keyboard focus, in the active window.
+    /// Whether it has the keyboard focus in the active window.
     bool isFirstResponder() const;
 
-    // What a view of the pane's own overrides; its widget is one that the form promoted to it.
+    // For views that the pane defines. Their widgets are promoted to them in the form.
 
-    /// Draws the view. What lies outside `dirtyRect` need not be drawn.
+    /// Draws the view. Only `dirtyRect` must be drawn.
     virtual void drawRect(const NSRect& dirtyRect);
     virtual void mouseDown(NSEvent* event);
-    /// The left button was released, after a mouseDown that wasn't passed on.
+    /// The left button was released after a mouseDown that wasn't passed on.
     virtual void mouseUp(NSEvent* event);
-    /// Of any other button, as mouseDown and mouseUp are of the left one.
+    /// The same for any other button.
     virtual void otherMouseDown(NSEvent* event);
     virtual void otherMouseUp(NSEvent* event);
     virtual void keyDown(NSEvent* event);
     virtual void keyUp(NSEvent* event);
 
-    /// Offers a key press to the view that has the keyboard focus, before any shortcut sees it.
-    /// True when the view used it; it then goes no further.
+    /// Offers a key press to the focused view before shortcuts. True when the view has used it; it
+    /// then goes no further.
     virtual bool performKeyEquivalent(NSEvent* event);
 
     /// A modifier key went down or up.
     virtual void flagsChanged(NSEvent* event);
 
-    /// The view became its window's first responder. It stays that while another window is active.
-    /// The result means nothing here.
+    /// The view became its window's first responder, and stays so while another window is active.
+    /// The result has no effect here.
     virtual bool becomeFirstResponder();
-    /// It no longer is. The result means nothing here.
+    /// It no longer is first responder. The result has no effect here.
     virtual bool resignFirstResponder();
 
-    /// Whether it can have the focus: by Tab and by click, or as its focusPolicy in the form says.
-    /// Asked once, when it gets its widget.
+    /// Whether it can have the focus, by Tab and click or by the form's focusPolicy. Asked once,
+    /// when it gets its widget.
     virtual bool acceptsFirstResponder() const { return false; }
 
 private:
-    friend class NibWiring; // which knows the superviews
+    friend class NibWiring; // it knows the superviews
 
     QWidget* widget_ = nullptr;
     NSView* superview_ = nullptr; ///< kept while detached

@@ -13,7 +13,7 @@
 namespace {
 
 constexpr double kMillimetresAnInch = 25.4;
-/// Points an inch; what a display says beyond these isn't true.
+/// Points per inch. A display that reports anything beyond these is wrong.
 constexpr double kLeastDensity = 40, kMostDensity = 400, kCommonDensity = 96;
 
 NSSize millimetresOf(const QScreen& screen) {
@@ -39,7 +39,7 @@ WindowRef NSWindow::windowRef() const {
 }
 
 void NSWindow::setContentView(NSView* view) {
-    // One at a time: the former one goes first.
+    // One at a time: the earlier one goes first.
     delete ContentCover::of(window_);
     if (view)
         new ContentCover(window_, view->widget());

@@ -7,27 +7,27 @@
 class NSView;
 class QWidget;
 
-/// The display that a window is on, or most of it.
+/// The display that shows a window, or most of it.
 struct NSScreen {
     NSSize frame;                  ///< in points
-    NSSize millimetres;            ///< as its maker says; of one that doesn't, by a common density
+    NSSize millimetres;            ///< as reported, or from a common density when unknown
     double maximumFramesPerSecond; ///< at least 1
 };
 
-/// The window that a view is in, which lives as long as it; see NSView::window.
+/// A view's window; see NSView::window. It lives as long as the view.
 class NSWindow {
 public:
     explicit NSWindow(QWidget* window) : window_(window) {}
 
-    /// Gives the keyboard to a view of the window or, with null, to none: keys then reach the
-    /// window alone.
+    /// Gives the keyboard focus to a view of the window. With null no view has it, and only the
+    /// window gets keys.
     void makeFirstResponder(NSView* view);
 
-    /// Shows the view, all over the window, in the place of what the window shows by itself, which
-    /// comes back with null. Neither is deleted. The keyboard is where it was then.
+    /// Covers the whole window with the view. Null shows the window's own content again, with the
+    /// focus where it was. Neither is deleted.
     void setContentView(NSView* view);
 
-    /// Fills the whole screen, or no longer.
+    /// Fills the whole screen, or stops doing so.
     void toggleFullScreen();
     bool isFullScreen() const;
 
@@ -35,7 +35,7 @@ public:
 
     QWidget* widget() const { return window_; }
 
-    /// The window as Carbon knows it.
+    /// The same window for Carbon.
     WindowRef windowRef() const;
 
 private:

@@ -8,17 +8,17 @@
 
 class NSObject;
 
-/// One field of a class that an interface file can fill, by name.
+/// A field of a class that an interface file can fill by name.
 struct Outlet {
     std::string_view name;
     const std::type_info* type; ///< what the field points to
-    /// Stores `object` in the owner's field; false when it isn't of the field's type.
+    /// Stores `object` in the owner's field. False when its type doesn't fit.
     bool (*connect)(NSObject& owner, NSObject& object);
     bool (*isConnected)(const NSObject& owner);
 };
 
-/// One method of a class that a control can send, by its selector's name, with the sending control
-/// as its argument. A pointer to an entry of a class's action table stands for the selector.
+/// A method of a class that a control can call by its selector's name. Its argument is the sender.
+/// A selector is a pointer to an entry of the class's action table.
 struct Action {
     std::string_view name;            ///< with the colon, "changedScanMode:"
     const std::type_info* senderType; ///< what the method takes
@@ -44,7 +44,7 @@ struct MemberTraits<void (OwnerType::*)(SenderType*)> {
     using Sender = SenderType;
 };
 
-/// The field that the pointers to members lead to, one after another.
+/// The field at the end of a chain of pointers to members.
 template <auto First, auto... Rest, class Owner>
 auto& follow(Owner& owner) {
     if constexpr (sizeof...(Rest) == 0)
@@ -55,7 +55,7 @@ auto& follow(Owner& owner) {
 
 } // namespace wiring
 
-/// A row of an outlet table: `outletRow<&PreferenceWrangler::volume>("volume")`. The field may lie
+/// A row of an outlet table: `outletRow<&PreferenceWrangler::volume>("volume")`. The field may be
 /// in a part of the owner: `outletRow<&PreferenceWrangler::palette, &PaletteEditor::view>("view")`.
 template <auto First, auto... Rest>
 constexpr Outlet outletRow(std::string_view name) {

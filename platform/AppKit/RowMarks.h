@@ -6,10 +6,10 @@
 
 class NSView;
 
-/// Shows in the row around a view that what it sets isn't at its default, with a button that calls
-/// `press`. In a group of radio buttons that are a row each, that is the chosen one's. `label` is
-/// what a press does, in words and in UTF-8; empty takes all that away. A view in no row shows
-/// nothing. No operation of the platform.
+/// Marks the row around a view: what it sets isn't at its default. A button in the row calls
+/// `press`. If each radio button of a group is a row, the chosen one's row is marked. `label` says
+/// what the button does, in UTF-8; empty removes the mark. A view outside rows isn't marked. macOS
+/// has no such operation.
 void setRowMark(const NSView& view, const std::string& label, std::function<void()> press);
 
 /// Gives the keyboard to the view, which is in sight, or to what is operated in the row around it:

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Never destroyed: something may be told when the program is on its way out.
+// Never destroyed: messages may come while the program exits.
 auto& messages = *new std::vector<CurrentMessage>; ///< in the order in which they were told
 auto& messageListener = *new std::function<void()>;
 

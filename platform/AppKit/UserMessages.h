@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-// What a program has to tell its user without standing in the way: the host shows it in a strip at
-// the bottom of its window, one message at a time, alerts first. No operation of the platform. Main
-// thread only; texts are UTF-8.
+// Messages to the user that don't interrupt. The host shows them in a strip at the bottom of its
+// window, one at a time, alerts first. macOS has no such operation. Main thread only; texts are
+// UTF-8.
 
 struct UserMessage {
     struct Button {
@@ -16,21 +16,20 @@ struct UserMessage {
     };
 
     enum class Kind {
-        Alert, ///< something is wrong: screen readers read it out at once
+        Alert, ///< something is wrong: screen readers say it at once
         Note,
     };
 
     Kind kind = Kind::Alert;
-    std::string text = {}; ///< in words, one or two sentences
-    std::vector<Button> buttons =
-        {}; ///< beside the one that every message has, which only withdraws it
+    std::string text = {};            ///< in words, one or two sentences
+    std::vector<Button> buttons = {}; ///< besides the one that only closes the message
 };
 
-/// Tells the message, in place of an earlier one of the same topic. The same text again changes
-/// nothing for who has read it.
+/// Shows the message in place of an earlier one of the same topic. The same text again isn't
+/// announced again.
 void tellUser(const std::string& topic, UserMessage message);
 
-/// Takes the topic's message away; without one, nothing.
+/// Removes the topic's message, if there is one.
 void withdrawMessage(const std::string& topic);
 
 struct CurrentMessage {
@@ -38,8 +37,8 @@ struct CurrentMessage {
     UserMessage message;
 };
 
-/// For the host: the message to show, borrowed until the next change; null when there is none.
+/// For the host: the message to show. Borrowed until the next change; null when there is none.
 const CurrentMessage* currentMessage();
 
-/// For the host: called whenever currentMessage may be another one. There is one listener.
+/// For the host: called whenever currentMessage may have changed. There is one listener.
 void setMessageListener(std::function<void()> listener);

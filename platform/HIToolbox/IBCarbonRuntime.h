@@ -8,9 +8,8 @@
 // identified by name. Buttons and check boxes have dynamic properties:
 //
 // - controlSignature (four characters) and controlID (a number): see GetControlByID.
-// - command (four characters): if nobody handles the control's kEventControlHit, it sends
-// kEventCommandProcess with
-// this command to its window.
+// - command (four characters): the command of the kEventCommandProcess that the control sends to
+//   its window if nobody handles its kEventControlHit.
 // - cancelButton: Escape presses this button.
 
 constexpr OSStatus kIBCarbonRuntimeCantFindNibFile = -10960;

@@ -12,9 +12,9 @@
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
 
-/// Qt announces from 6.8 on, and what it tells of a new description has no text in it. So the text
-/// goes out beside Qt's own signals, on the connection that it keeps to assistive technology, as
-/// the description of what has the keyboard: that is what screen readers of its time say.
+/// Qt has announcements from 6.8 on. Before that its signal for a new description lacks the text.
+/// So the text is sent on Qt's connection to assistive technology, as the new description of the
+/// focused control. Screen readers say that.
 void announce(const QString& text) {
     const QWidget* focus = QApplication::focusWidget();
     const QDBusConnection bus(QStringLiteral("a11y"));

@@ -4,8 +4,8 @@
 class QString;
 class QWidget;
 
-/// Has a screen reader say the text, wherever the keyboard is.
+/// Makes a screen reader say the text, wherever the focus is.
 void announce(const QString& text);
 
-/// Has a screen reader that is at the widget say its new description.
+/// Makes a screen reader that is at the widget say its new description.
 void announceDescription(const QWidget& widget);

@@ -43,7 +43,7 @@ void ColorWellButton::paintEvent(QPaintEvent*) {
     painter.drawRect(rect().adjusted(kBorder, kBorder, -kBorder - 1, -kBorder - 1));
 }
 
-// The chooser goes with the button, but not when the window is only minimised.
+// The chooser closes with the button, but not when the window is only minimised.
 void ColorWellButton::hideEvent(QHideEvent* event) {
     auto* chooser = findChild<QColorDialog*>();
     if (chooser && !event->spontaneous()) {

@@ -25,7 +25,7 @@ ContentCover::ContentCover(QWidget* window, QWidget* content)
     setGeometry(window->rect());
     window->installEventFilter(this);
     for (auto* child : window->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-        // Before the window is shown, what it will show is hidden as well, but not explicitly.
+        // Before the window is shown, its content is hidden too, but not explicitly.
         const bool isHidden =
             child->isHidden() && child->testAttribute(Qt::WA_WState_ExplicitShowHide);
         if (child == this || child->isWindow() || isHidden)

@@ -6,14 +6,14 @@
 
 #include <vector>
 
-/// Another content in a window: it takes all of its room, and what was there is hidden, from the
-/// keyboard and from screen readers as well, until this goes.
+/// Another content that covers a window. While it exists the window's own content is hidden, also
+/// from keyboard and screen readers.
 class ContentCover final : public QWidget {
 public:
-    /// The window's, or null.
+    /// The window's cover, or null.
     static ContentCover* of(QWidget* window);
 
-    /// Takes the content, and leaves it hidden and without a parent in the end.
+    /// Takes the content. At its end the content is hidden and has no parent.
     ContentCover(QWidget* window, QWidget* content);
     ~ContentCover() override;
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// A widget of a form that stands for a whole row, frame or list. Once it has the form's
-/// properties, it builds what is always the same.
+/// A widget of a form that stands for a whole row, frame or list. When its properties are set, it
+/// builds the parts that are always the same.
 class FormPart {
 public:
     FormPart() = default;
@@ -10,6 +10,6 @@ public:
     FormPart& operator=(const FormPart&) = delete;
     virtual ~FormPart() = default;
 
-    /// Called once, when the whole form has been read; those around it have been built before.
+    /// Called once, when the whole form is read. Surrounding parts are built first.
     virtual void build() = 0;
 };

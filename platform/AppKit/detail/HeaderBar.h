@@ -3,13 +3,13 @@
 
 #include <QWidget>
 
-/// The strip at a window's top, parted from what is beneath it.
+/// The strip at a window's top, with a line beneath.
 class HeaderBar final : public QWidget {
 public:
     using QWidget::QWidget;
 
-    /// A text that wraps has room beside the buttons. Told otherwise, the window would ask for the
-    /// height of whole pages, and scroll.
+    /// Wrapped texts have room beside the buttons. Otherwise the window would ask for the height of
+    /// whole pages, and scroll.
     bool hasHeightForWidth() const override { return false; }
 
 protected:

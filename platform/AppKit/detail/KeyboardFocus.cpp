@@ -23,7 +23,7 @@ QWidget* neighbour(const QWidget* leaving, const QWidget* group, Step step) {
     return nullptr;
 }
 
-/// A group has no mark of its own for the keyboard focus: it gets a frame while it has it.
+/// A group shows no focus of its own, so it gets a frame while it has it.
 void focusGroup(QWidget* group) {
     group->setFocus(Qt::OtherFocusReason);
     auto* frame = new QFocusFrame(group);

@@ -3,7 +3,7 @@
 
 class QWidget;
 
-/// If the keyboard focus is in `leaving`, which is about to be disabled or hidden, moves it to
-/// where one more press of a key does no harm: to the nearest control of its row or card that isn't
-/// a button, or else to the row itself, from where Tab goes on in its order.
+/// If `leaving`, which is about to be disabled or hidden, contains the focus, moves it to a place
+/// where another key press is harmless: the nearest control of its row or card that is no button.
+/// If there is none, to the row itself; Tab then continues in its order.
 void moveFocusOutOf(const QWidget* leaving);

@@ -7,7 +7,7 @@
 
 class NSAccessibilityList;
 
-/// A widget as the list of its elements, each with an action that presses it. Borrows both.
+/// A widget as a list of elements. Each has an action that presses it. Borrows both.
 class ListInterface final : public QAccessibleWidget {
 public:
     ListInterface(QWidget& widget, NSAccessibilityList& list);
@@ -17,7 +17,7 @@ public:
 
     NSAccessibilityList& list() const { return list_; }
 
-    /// The parent of a window of its own, too: a menu belongs to its button.
+    /// Also for a widget with a window of its own: a menu belongs to its button.
     QAccessibleInterface* parent() const override;
     int childCount() const override;
     QAccessibleInterface* child(int index) const override;

@@ -37,7 +37,7 @@ QString className(const NSObject& object) {
     return className(typeid(object));
 }
 
-/// The value of a dynamic property of the form as a text, null when the widget has none.
+/// A dynamic property of the form as text. Null when the widget has none.
 QString formText(const QWidget* widget, const char* property) {
     return widget->property(property).toString();
 }
@@ -112,7 +112,7 @@ NSObject* NibWiring::makeCustomObject(QWidget* widget, const QString& className)
     return object;
 }
 
-// An object that isn't a view gets a plain one for its picture.
+// An object that is no view gets a plain view for its widget.
 NSView* NibWiring::makeView(QWidget* widget, NSView* superview, NSObject* object) {
     auto* view = dynamic_cast<NSView*>(object);
     if (!view) {

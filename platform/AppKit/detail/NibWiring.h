@@ -15,15 +15,15 @@ class NSMatrix;
 class NSView;
 class QWidget;
 
-/// Makes the objects that a form's widgets stand for and connects their outlets and actions. It
-/// carries on after an error, so that one run tells everything that is wrong.
+/// Makes the objects for a form's widgets and connects outlets and actions. It goes on after an
+/// error, so that one run finds all errors.
 class NibWiring {
 public:
-    /// `owner` is the outermost object; what is made goes to the end of `objects`.
+    /// `owner` is the outermost object. New objects are added to `objects`.
     NibWiring(NSObject& owner, std::vector<std::unique_ptr<NSObject>>& objects);
 
-    /// Makes and wires the objects of the widget and of those inside it, and then looks for outlets
-    /// that were left empty. Gives the widget's view.
+    /// Makes and wires the objects of the widget and of those inside, then looks for empty outlets.
+    /// Returns the widget's view.
     NSView* wireForm(QWidget* form);
 
     const QStringList& errors() const { return errors_; }

@@ -20,7 +20,7 @@ namespace {
 constexpr int kGap = 6; // points between neighbouring controls
 constexpr int kSliderWidth = 150;
 constexpr int kLeastSliderWidth = 48;
-constexpr int kPagePositions = 10; // that the page keys go
+constexpr int kPagePositions = 10; // steps of the page keys
 
 } // namespace
 
@@ -73,7 +73,7 @@ void NumberRow::build() {
 
     const RowText text(*this, caption, accessibleDescription());
     explanation_ = text.explanation;
-    auto* putBack = new PutBackButton(this); // in the reading order before the controls
+    auto* putBack = new PutBackButton(this); // before the controls in reading order
     auto* controls = new QHBoxLayout;
     controls->setContentsMargins(0, 0, 0, 0);
     controls->setSpacing(kGap);

@@ -10,16 +10,16 @@ class QAbstractButton;
 class QHBoxLayout;
 class QLabel;
 
-/// A row of the form for a number. It builds the caption, the explanation, minus and plus buttons
-/// for a step and for many, a slider, and a field with the value, each named for assistive
-/// technology, as outlets of the controller that the row's customClass makes: decBtn, incBtn,
-/// pageDecBtn, pageIncBtn, label and, with limits, title and slider. The form's properties:
+/// A row of the form for a number. It builds caption, explanation, minus and plus buttons for one
+/// step and for many, a slider, and a field with the value. Each has a name for assistive
+/// technology. They are outlets of the controller that the row's customClass makes: decBtn, incBtn,
+/// pageDecBtn, pageIncBtn, label and, with limits, title and slider. Properties in the form:
 ///
-/// - caption, with a letter marked by “&”; accessibleName, if it differs from the caption;
-///   accessibleDescription, the explanation that is shown;
+/// - caption, with a mnemonic marked by “&”; accessibleName, if it differs from the caption;
+///   accessibleDescription: the explanation that is shown;
 /// - less, more: what its buttons do, as in "Line scan time, longer";
-/// - minValue, maxValue, decimals: the slider's limits and how many digits behind the point it
-///   reaches; without limits there is no slider;
+/// - minValue, maxValue, decimals: the slider's limits and its decimal places; without limits there
+///   is no slider;
 /// - indented: the row belongs to the radio button above it.
 class NumberRow final : public QWidget, public FormPart, public CompactRow {
 public:

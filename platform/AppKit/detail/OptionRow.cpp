@@ -35,7 +35,7 @@ QSize OptionLook::textSize(int width) const {
             caption.height() + (beneath.isEmpty() ? 0 : kLineGap + beneath.height())};
 }
 
-/// Where something is, from the side where the user's language begins.
+/// The mirror image of a place in a language that is written from right to left.
 QRect OptionLook::mirrored(const QRect& rect, const QRect& part) const {
     return QStyle::visualRect(button_.layoutDirection(), rect, part);
 }

@@ -10,17 +10,17 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
-/// Where a button that is a whole row has its parts, and how it draws them.
+/// The parts of a button that is a whole row: their places and their drawing.
 class OptionLook {
 public:
-    /// `indicatorAtRight`: of a check box; a radio button has it before its text.
+    /// `indicatorAtRight`: true for check boxes. A radio button has its indicator before the text.
     OptionLook(const QAbstractButton& button, bool indicatorAtRight, bool isCompact)
         : button_(button), room_(PutBackButton::of(button) ? PutBackButton::kRoom : 0),
           indicatorAtRight_(indicatorAtRight), isCompact_(isCompact) {}
 
     int widthHint() const;
     int heightForWidth(int width) const;
-    /// Of the button that puts the row back.
+    /// The place of the button that puts the row back.
     QRect putBackRect(const QRect& rect) const;
     void draw(QWidget& row, QStyle::PrimitiveElement indicator, const QStyleOption& option) const;
 
@@ -33,14 +33,14 @@ private:
     QRect indicatorRect(const QRect& rect) const;
 
     const QAbstractButton& button_;
-    int room_; ///< points, for the button that puts the row back
+    int room_; ///< points for the button that puts the row back
     bool indicatorAtRight_;
-    bool isCompact_; ///< without its explanation
+    bool isCompact_; ///< shows no explanation
 };
 
-/// A check box or radio button that is a whole row, with its accessible description beneath its
-/// text. A click anywhere in the row is one on the button. It has a button that puts it back unless
-/// it lies in another row. The form's property `indented`: see NumberRow.
+/// A check box or radio button that is a whole row. Its accessible description is shown beneath its
+/// text. A click anywhere in the row clicks it. It has a button that puts it back, unless it is
+/// inside another row. Property `indented`: see NumberRow.
 template <class Button>
 class OptionRow final : public Button, public FormPart, public CompactRow {
 public:

@@ -28,8 +28,8 @@ QColor blend(const QColor& from, const QColor& to, float share) {
                             part(from.blueF(), to.blueF()));
 }
 
-/// The first colour on the way from one to the other that stands out from every ground by `ratio`;
-/// the end of the way if none does.
+/// The first colour on the way from one to the other whose contrast to every ground is at least
+/// `ratio`. The end of the way if there is none.
 QColor standingOut(const QColor& from, const QColor& to, std::initializer_list<QColor> grounds,
                    double ratio) {
     constexpr int kSteps = 50;

@@ -5,11 +5,11 @@
 
 class QPalette;
 
-/// The ratio of two colours' luminances, 1 to 21, as WCAG defines it.
+/// The contrast ratio of two colours, 1 to 21, as WCAG defines it.
 double contrastBetween(const QColor& a, const QColor& b);
 
-/// The pane's colours, derived from the desktop's palette so that they can be told apart in every
-/// one: light, dark or of high contrast. Those of the palette that was asked for last are kept.
+/// The pane's colours. They are derived from the desktop's palette and can be told apart in every
+/// one: light, dark or high contrast. Those of the last palette are cached.
 struct PaneColors {
     PaneColors() = default;
     explicit PaneColors(const QPalette& palette);

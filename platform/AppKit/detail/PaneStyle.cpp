@@ -20,7 +20,7 @@ constexpr int kPadding = 32; ///< of a button, both sides of its text together
 constexpr qreal kCardRadius = 10;
 constexpr int kHeadingGap = 8; ///< between a group's heading and its card
 
-/// Sets a painter up for smooth shapes, and back again.
+/// Sets a painter up for antialiased shapes, and restores it.
 class Smooth {
 public:
     explicit Smooth(QPainter& painter) : painter_(painter) {
@@ -41,7 +41,7 @@ bool has(const QStyleOption& option, QStyle::StateFlag flag) {
     return option.state.testFlag(flag);
 }
 
-/// What a border says: the keyboard's ring, a mark, or, of what can't be used, nothing.
+/// The border shows focus, a mark, or nothing when the control is disabled.
 void drawControlBox(QPainter& painter, const QStyleOption& option, const QColor& fill) {
     const PaneColors colors(option.palette);
     const bool focused = has(option, QStyle::State_HasFocus);
@@ -291,7 +291,7 @@ void PaneStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         return drawBox(*painter, QRectF(option->rect), Qt::NoBrush,
                        PaneColors(option->palette).mark, kBorder);
     case PE_FrameFocusRect:
-        // Buttons and fields wear the ring as their border.
+        // Buttons and fields have the ring as their border.
         if (!qobject_cast<const QAbstractButton*>(widget) &&
             !qobject_cast<const QLineEdit*>(widget))
             drawBox(*painter, QRectF(option->rect), Qt::NoBrush, PaneColors(option->palette).accent,

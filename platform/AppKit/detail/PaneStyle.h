@@ -3,13 +3,12 @@
 
 #include <QProxyStyle>
 
-/// The desktop's own style, with marks, rings and targets that can be seen and hit: a ring of 3
-/// points around what has the keyboard, borders and indicators of 3 : 1 at least against what is
-/// around them, controls of 44 points at least, rows in quiet cards. All colours come from the
-/// palette.
+/// The desktop's style with clear marks, rings and targets: a ring of 3 points around the focused
+/// control, borders and indicators with a contrast of at least 3 : 1, controls of at least 44
+/// points, rows in quiet cards. All colours come from the palette.
 class PaneStyle final : public QProxyStyle {
 public:
-    /// Makes it the application's style. Calling it again does nothing.
+    /// Makes it the application's style. A second call does nothing.
     static void install();
 
     void polish(QPalette& palette) override;
@@ -41,11 +40,11 @@ constexpr qreal kRing = 3;     ///< the width of the ring around what has the ke
 constexpr qreal kBorder = 1.5;
 constexpr qreal kRadius = 8; ///< of a control's corners
 
-/// Draws a rounded box whose border lies inside `bounds`.
+/// Draws a rounded box with the border inside `bounds`.
 void drawBox(QPainter& painter, const QRectF& bounds, const QBrush& fill, const QColor& border,
              qreal width, qreal radius = kRadius);
 
-/// Draws the ring around what has the keyboard.
+/// Draws the ring around the focused control.
 void drawRing(QPainter& painter, const QWidget& widget, const QRectF& bounds);
 
 } // namespace panestyle

@@ -79,7 +79,7 @@ void PutBackButton::offer(const QString& label, std::function<void()> press) {
 }
 
 void PutBackButton::hideWhenLeft() {
-    // In a window that isn't active, its button that had the keyboard will have it again.
+    // In an inactive window, the focus widget gets the focus back later.
     if (!press_ && !underMouse() && window()->focusWidget() != this)
         hide();
 }

@@ -7,21 +7,21 @@
 
 #include <functional>
 
-/// Shows that what a row sets isn't at its default: a bar at the start of the widget that holds the
-/// button, which is the row, and the button itself, which puts it back. Both show only while there
-/// is something to put back; but the button stays, and does nothing, as long as it has the keyboard
-/// or the pointer, so that a second press hits nothing else.
+/// Shows that a row's setting isn't at its default. It has a bar at the start of the row, which is
+/// the widget around the button, and a button that puts the setting back. Both show only while
+/// there is something to put back. But a button with focus or under the pointer stays and does
+/// nothing, so that a second press hits nothing else.
 class PutBackButton final : public QToolButton {
 public:
     static constexpr int kSide = panestyle::kTarget; ///< points, as the next
-    static constexpr int kRoom = kSide + 8;          ///< that a row keeps free, shown or not
+    static constexpr int kRoom = kSide + 8;          ///< kept free in a row, shown or not
 
     explicit PutBackButton(QWidget* row);
 
-    /// `label`: what a press does, in words; empty when there is nothing to put back.
+    /// `label` says what a press does. Empty when there is nothing to put back.
     void offer(const QString& label, std::function<void()> press);
 
-    /// The one that the widget itself holds; null for none.
+    /// The button directly in the widget, or null.
     static PutBackButton* of(const QWidget& row);
 
 protected:

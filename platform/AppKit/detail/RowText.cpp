@@ -30,7 +30,7 @@ RowText::RowText(QWidget& row, const QString& captionText, const QString& explan
     if (!explanation)
         return;
     explanation->setProperty("textColor", QStringLiteral("secondaryLabelColor"));
-    // A screen reader that comes into a card reads out all of its labels that belong to nothing.
+    // On entering a card, screen readers say all its labels without a buddy.
     explanation->setBuddy(&row);
 }
 

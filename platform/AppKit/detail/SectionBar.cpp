@@ -60,7 +60,7 @@ bool SectionBar::event(QEvent* event) {
     return done;
 }
 
-/// The section's name above the words on what it holds.
+/// The section's name, and below it what the section holds.
 void SectionBar::drawTexts(QPainter& painter, int index, const QRect& place) const {
     const PaneColors colors(palette());
     QFont name = font();

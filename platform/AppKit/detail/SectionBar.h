@@ -3,17 +3,17 @@
 
 #include <QTabBar>
 
-/// The list of sections at a window's side: a tab bar with its texts upright, an icon before each.
-/// Alt with a section's letter goes there, see `onLetter`.
+/// The list of sections at a window's side: a tab bar with upright texts, an icon before each. Alt
+/// and a section's mnemonic choose it, see `onLetter`.
 class SectionBar final : public QTabBar {
 public:
     explicit SectionBar(QWidget* parent);
 
-    /// `holds` says in a few words what the section holds. It stands in the second line and is the
-    /// tab's tool tip, which screen readers take for its description.
+    /// `holds` says in a few words what the section holds. It is the second line and the tab's tool
+    /// tip, which screen readers say as its description.
     void addSection(const QString& name, const QString& holds, const QString& icon);
 
-    std::function<void()> onLetter; ///< called when a letter has chosen the current section
+    std::function<void()> onLetter; ///< called when a mnemonic has chosen the section
 
 protected:
     QSize tabSizeHint(int index) const override;

@@ -6,10 +6,9 @@
 
 #include <QWidget>
 
-/// A row of the form with any controls: its children in the form, side by side. It builds the
-/// caption and the explanation, from the properties `caption` and accessibleDescription, and puts
-/// the controls at the right of them. Alt with the caption's letter acts on the row's first
-/// control.
+/// A row of the form with any controls: its children in the form, side by side. It builds caption
+/// and explanation from the properties `caption` and accessibleDescription and puts the controls to
+/// their right. Alt and the caption's mnemonic act on the row's first control.
 class SettingRow final : public QWidget, public FormPart, public CompactRow {
 public:
     using QWidget::QWidget;

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Tells assistive technology the real value, where Qt's own interface tells whole-number steps.
+/// Reports real values to assistive technology. Qt's own interface reports whole-number steps.
 class SliderInterface final : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
     explicit SliderInterface(SliderWidget* slider)
@@ -20,8 +20,7 @@ public:
         return QAccessibleWidget::interface_cast(type);
     }
 
-    // The protocol of the Linux desktops has no place for a value's text, so the description
-    // begins with it.
+    // AT-SPI has no text for a value, so the description begins with it.
     QString text(QAccessible::Text kind) const override {
         const QString own = QAccessibleWidget::text(kind);
         if (kind == QAccessible::Value)

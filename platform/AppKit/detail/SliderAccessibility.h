@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// Makes Qt ask here for the accessibility of sliders. Calling it again does nothing.
+/// Makes Qt use this for sliders' accessibility. A second call does nothing.
 void installSliderAccessibility();

@@ -56,7 +56,7 @@ double SliderWidget::valueAt(int position) const {
         return maxValue_;
     const double steps = maximum() - minimum();
     const double step = position - minimum();
-    // Divided last, so that a tenth is the double nearest to it.
+    // The division comes last, so that a tenth is the double nearest to it.
     return (minValue_ * (steps - step) + maxValue_ * step) / steps;
 }
 
@@ -86,7 +86,7 @@ void SliderWidget::mousePressEvent(QMouseEvent* event) {
         QSlider::mousePressEvent(event);
         return;
     }
-    // The middle button is the one that takes the knob to the pointer in every style.
+    // In every style the middle button moves the knob to the pointer.
     QMouseEvent middle(event->type(), event->position(), event->globalPosition(), Qt::MiddleButton,
                        Qt::MiddleButton, event->modifiers());
     QSlider::mousePressEvent(&middle);

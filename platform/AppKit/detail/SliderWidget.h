@@ -3,7 +3,7 @@
 
 #include <QSlider>
 
-/// The widget behind an NSSlider: its whole-number positions stand for doubles between two limits.
+/// The widget behind an NSSlider. Its whole-number positions stand for doubles between two limits.
 class SliderWidget final : public QSlider {
 public:
     explicit SliderWidget(QWidget* parent);
@@ -14,21 +14,21 @@ public:
 
     double maxValue() const { return maxValue_; }
 
-    /// What was last set or what the user chose since.
+    /// What was last set, or what the user chose since then.
     double doubleValue() const { return doubleValue_; }
 
-    /// Goes to the nearest position; emits nothing.
+    /// Goes to the nearest position and emits nothing.
     void setDoubleValue(double value);
 
-    /// Goes to the nearest position, as if the user had moved it there.
+    /// Goes to the nearest position as if the user had moved it.
     void moveTo(double value);
 
-    /// How wide it would like to be, in points.
+    /// The preferred width, in points.
     void setPreferredWidth(int width) { preferredWidth_ = width; }
 
     QSize sizeHint() const override;
 
-    /// The text of the value label beside the slider, without blanks around it; may be empty.
+    /// The text of the value label beside the slider, trimmed. May be empty.
     QString valueText() const;
 
 protected:

@@ -33,7 +33,7 @@ bool SwitchCell::hitButton(const QPoint& place) const {
     return rect().contains(place);
 }
 
-/// The cell that stands so many places further on, or null.
+/// The cell that many places further on, or null.
 SwitchCell* SwitchCell::other(int step) const {
     QList<SwitchCell*> cells;
     for (QObject* each : parentWidget()->children())
@@ -75,7 +75,7 @@ void SwitchCell::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const qreal radius = height() / 2.0;
-    // The side that meets the other cell lies outside, so that only the outer corners are round.
+    // The side towards the other cell lies outside, so only the outer corners are round.
     const bool isAtLeft = !other(isRightToLeft() ? 1 : -1);
     const QRectF whole =
         QRectF(rect()).adjusted(isAtLeft ? 0 : -radius, 0, isAtLeft ? radius : 0, 0);

@@ -3,8 +3,8 @@
 
 #include <QRadioButton>
 
-/// One side of a switch: radio buttons that stand side by side and are drawn as one control. The
-/// arrow keys go to the other side without choosing it; Space or Return chooses.
+/// One side of a switch: radio buttons side by side, drawn as one control. Arrow keys move the
+/// focus to the other side without choosing it. Space or Return chooses.
 class SwitchCell final : public QRadioButton {
 public:
     using QRadioButton::QRadioButton;

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// A text that can be read from end to end but not edited or selected.
+/// A text that can be read but not edited or selected.
 class TextAccessibility final : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
     TextAccessibility(ViewWidget& widget, NSAccessibilityStaticText& text)
@@ -80,7 +80,7 @@ private:
     QString value() const { return QString::fromStdString(text_.accessibilityValue()); }
 
     NSAccessibilityStaticText& text_;
-    QString told_; ///< the value that was told last
+    QString told_; ///< the last reported value
 };
 
 } // namespace

@@ -5,5 +5,5 @@ class NSAccessibilityStaticText;
 class QAccessibleInterface;
 class ViewWidget;
 
-/// What a screen reader is told of a view that draws one text. The caller owns the result.
+/// Describes a view with one text to screen readers. The caller owns the result.
 QAccessibleInterface* makeTextAccessibility(ViewWidget& widget, NSAccessibilityStaticText& text);

@@ -6,7 +6,7 @@
 #include <memory>
 
 void connectToggleAction(QAbstractButton* button, std::function<void()> act) {
-    // A click changes the button between its press and its release.
+    // A click changes the button between press and release.
     const auto isInClick = std::make_shared<bool>(false);
     QObject::connect(button, &QAbstractButton::pressed, button, [=] { *isInClick = true; });
     QObject::connect(button, &QAbstractButton::released, button, [=] { *isInClick = false; });

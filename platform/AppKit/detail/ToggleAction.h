@@ -5,6 +5,6 @@
 
 class QAbstractButton;
 
-/// Calls `act` whenever a check box or radio button changes without a click: assistive technology
-/// toggles it so. Code that sets the button blocks its signals meanwhile.
+/// Calls `act` when a check box or radio button changes without a click, as assistive technology
+/// does it. Code that sets the button must block its signals.
 void connectToggleAction(QAbstractButton* button, std::function<void()> act);

@@ -82,7 +82,7 @@ void ValueField::keyPressEvent(QKeyEvent* event) {
         withdrawRefusal();
         break;
     case Qt::Key_Space:
-        // One press too many of a button that has just gone.
+        // For one press too many on a button that is gone.
         if (selectedText() != text())
             QLineEdit::keyPressEvent(event);
         break;

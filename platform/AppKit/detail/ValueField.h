@@ -5,20 +5,20 @@
 
 class QLabel;
 
-/// A field that shows a value and takes another one that is typed. What is typed counts when
-/// Return is pressed or the field is left; Escape gives the shown value back.
+/// A field that shows a value and accepts a typed one. The text is taken when Return is pressed or
+/// the focus leaves. Escape shows the old value again.
 class ValueField final : public QLineEdit {
 public:
     explicit ValueField(QWidget* parent);
 
-    /// Shows a text in place of what was typed.
+    /// Shows a text and drops what was typed.
     void showText(const QString& text);
 
-    /// Where a refusal is told, in place of the label's own text; not owned, null for nowhere.
+    /// The label that shows refusals in place of its own text. Not owned; null for none.
     void setExplanation(QLabel* label);
 
-    /// Gives the shown value back, and says why what was typed isn't taken until the field is left
-    /// or something else is typed.
+    /// Shows the old value again and explains why the typed one isn't accepted. The explanation
+    /// stays until the focus leaves or something else is typed.
     void refuse(const QString& why);
 
     QSize sizeHint() const override;

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The view itself, as one button.
+/// The view as a single button.
 class ButtonInterface final : public QAccessibleWidget {
 public:
     ButtonInterface(ViewWidget* widget, NSAccessibilityButton& button)
@@ -54,7 +54,7 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     return nullptr;
 }
 
-/// Sends the event of the element, if anybody listens.
+/// Sends the event of the element if somebody listens.
 void post(QWidget* widget, int index, QAccessible::Event type) {
     if (!QAccessible::isActive())
         return;

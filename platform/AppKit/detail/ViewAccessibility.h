@@ -3,12 +3,12 @@
 
 class ViewWidget;
 
-/// Makes Qt ask here for the accessibility of views that draw themselves. Calling it again does
+/// Makes Qt use this for the accessibility of views that draw themselves. A second call does
 /// nothing.
 void installViewAccessibility();
 
-/// Lets go of what Qt took the widget for before it had its view; called when it gets it.
+/// Drops the accessibility object that Qt made before the widget had its view.
 void renewAccessibility(ViewWidget& widget);
 
-/// Tells a screen reader which element of the view has the focus, now that the view has it.
+/// Tells a screen reader which element of the focused view has the focus.
 void notifyFocusInside(ViewWidget& widget);

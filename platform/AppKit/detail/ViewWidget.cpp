@@ -21,7 +21,7 @@ namespace {
 
 constexpr const char* kAspectRatio = "aspectRatio";
 
-/// The character of a key, 0 for none that the layer knows.
+/// The character of a key. 0 when the layer knows none.
 char16_t characterOf(const QKeyEvent& event) {
     static constexpr struct {
         int key;
@@ -123,7 +123,7 @@ NSEvent ViewWidget::mouseEventOf(const QMouseEvent& event) const {
                               momentOf(event.timestamp()));
 }
 
-// Every press begins with the question whether it is a shortcut.
+// For each press Qt first asks whether it is a shortcut.
 bool ViewWidget::isKeyTaken(QEvent& event) {
     if (event.type() == QEvent::KeyPress)
         return std::exchange(isKeyTaken_, false);
@@ -174,7 +174,7 @@ void ViewWidget::focusOutEvent(QFocusEvent* event) {
     updateFirstResponder();
 }
 
-// The keyboard also comes and goes with the window, which keeps its first responder meanwhile.
+// The focus also changes with the window's activation. The window keeps its first responder then.
 void ViewWidget::updateFirstResponder() {
     const bool isFirst = window()->focusWidget() == this;
     if (std::exchange(isFirstResponder_, isFirst) == isFirst)
@@ -183,7 +183,7 @@ void ViewWidget::updateFirstResponder() {
         view_->becomeFirstResponder();
         return;
     }
-    // Or it would be given back with its tab's page.
+    // Otherwise it would get the focus again with its page.
     if (!(focusPolicy() & Qt::TabFocus))
         clearFocus();
     view_->resignFirstResponder();

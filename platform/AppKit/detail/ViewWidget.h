@@ -7,18 +7,18 @@ class GrafPort;
 class NSEvent;
 class NSView;
 
-/// The widget behind a view that draws itself: it hands the view its events. The form's dynamic
-/// property aspectRatio, width by height, makes it as high as its width asks for.
+/// The widget behind a view that draws itself. It passes events to the view. The dynamic property
+/// aspectRatio, width divided by height, sets its height by its width.
 class ViewWidget final : public QWidget {
 public:
     explicit ViewWidget(QWidget* parent);
 
     NSView* view() const { return view_; }
 
-    /// The port that it is drawn into; null but while it is painted.
+    /// The port that it is painted into. Null except while it is painted.
     GrafPort* port() const { return port_; }
 
-    /// Not owned; outlives the widget.
+    /// Not owned. Must outlive the widget.
     void setView(NSView* view);
 
     bool hasHeightForWidth() const override;
@@ -43,5 +43,5 @@ private:
     NSView* view_ = nullptr;
     GrafPort* port_ = nullptr;
     bool isFirstResponder_ = false;
-    bool isKeyTaken_ = false; ///< the view used the key whose press event is yet to come
+    bool isKeyTaken_ = false; ///< the view has used the key; the press event follows
 };
