@@ -4,13 +4,9 @@
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/TestIcons.h"
 
-#include <gtest/gtest.h>
-
 #include <set>
 
 namespace {
-
-namespace fs = std::filesystem;
 
 const fs::path kResources = KORVEX_AGENT_RESOURCES;
 

@@ -7,7 +7,6 @@
 #include "tests/support/TestIcons.h"
 
 #include <cstring>
-#include <gtest/gtest.h>
 #include <map>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -94,7 +93,7 @@ extern "C" int LLVMFuzzerTestOneInput(const UInt8* bytes, std::size_t size) {
 TEST(CorpusTest, IsReadWithoutAFault) {
     for (const auto& [folder, read] : kReaders) {
         int files = 0;
-        for (const auto& file : std::filesystem::directory_iterator(CORPUS + ('/' + folder))) {
+        for (const auto& file : fs::directory_iterator(CORPUS + ('/' + folder))) {
             const std::string text = readFile(file.path());
             const bool isBad = file.path().filename().string().starts_with("bad-");
             EXPECT_FALSE(read(text) && isBad) << file.path();

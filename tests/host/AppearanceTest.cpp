@@ -9,7 +9,6 @@
 #include <QDBusMetaType>
 #include <QDBusVirtualObject>
 #include <QTest>
-#include <gmock/gmock.h>
 
 struct Accent {
     double red, green, blue;

@@ -2,9 +2,6 @@
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <QProcess>
-#include <gmock/gmock.h>
-
-namespace fs = std::filesystem;
 
 using testing::HasSubstr;
 

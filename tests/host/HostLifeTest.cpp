@@ -8,13 +8,10 @@
 #include <QDBusVirtualObject>
 #include <QJsonArray>
 #include <QProcess>
-#include <gmock/gmock.h>
 
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
-
-namespace fs = std::filesystem;
 
 using testing::AllOf;
 using testing::HasSubstr;

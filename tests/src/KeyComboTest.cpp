@@ -5,9 +5,6 @@
 #include "platform/HIToolbox/detail/ScanCodes.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <linux/input-event-codes.h>
 #include <map>
 #include <sstream>

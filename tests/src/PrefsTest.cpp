@@ -2,6 +2,7 @@
 #include "src/prefs.h"
 
 #include "platform/CoreFoundation/CFPreferences.h"
+#include "src/settings.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <QByteArray>
@@ -10,12 +11,9 @@
 
 #include <clocale>
 #include <cstring>
-#include <gtest/gtest.h>
 #include <map>
 #include <regex>
 #include <sstream>
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -54,6 +52,7 @@ std::string bytesOf(const PrefsRecord& record, std::size_t offset = 0,
 struct Contract {
     QByteArray record = QByteArray(sizeof(PrefsRecord), '\0'); ///< of all defaults
     Texts notations;                                           ///< by key
+    std::map<std::string, ChangeMask> masks;                   ///< by key
     Texts examples;                                            ///< by notation
 
     Contract() {
@@ -64,6 +63,7 @@ struct Contract {
                 cells << cell.trimmed().remove('`');
             if (cells.size() == 10 && cells[2].toInt() > 0) {
                 write(cells[1].toInt(), cells[2].toInt(), cells[3], cells[5]);
+                masks[cells[7].toStdString()] = cells[6].toUInt(nullptr, 0);
                 if (!cells[8].isEmpty())
                     notations[cells[7].toStdString()] = cells[8].toStdString();
             } else if (cells.size() == 7 && cells[2].toInt() > 0) {
@@ -100,9 +100,11 @@ private:
     }
 };
 
-TEST(PrefsTest, AFreshRecordAndTheStoredKeysAndNotationsAreThoseOfTheContract) {
+TEST(PrefsTest, AFreshRecordAndTheKeysNotationsAndMasksAreThoseOfTheContract) {
     const Contract contract;
     EXPECT_EQ(bytesOf(prefs), contract.record.toHex().toStdString());
+    for (const Setting& setting : kSettings)
+        EXPECT_EQ(setting.changes, contract.masks.at(setting.key)) << setting.key;
     ASSERT_TRUE(savePrefs());
     EXPECT_EQ(storedTexts().size(), contract.notations.size());
     for (const auto& [key, notation] : contract.notations) {

@@ -4,14 +4,10 @@
 #include "platform/CoreServices/StateFile.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
-#include <gmock/gmock.h>
-
 #include <csignal>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 

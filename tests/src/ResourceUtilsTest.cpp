@@ -5,10 +5,7 @@
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/TestIcons.h"
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -58,16 +55,13 @@ TEST_F(ResourceUtilsTest, FilesAreReadFromAnOffsetOnOrNotAtAll) {
     } cases[] = {{"digits", INT32_MIN, 10}, {"digits", 4, 6}, {"digits", 10, 0}, {"digits", 11, -1},
                  {"digits", INT32_MAX, -1}, {"huge", 0, -1},  {"pipe", 0, -1},   {"none", 0, -1}};
 
-    const auto countOpen = [] {
-        return std::distance(fs::directory_iterator("/proc/self/fd"), {});
-    };
-    const auto openBefore = countOpen();
+    const auto openBefore = countOpenFiles();
     for (const auto& row : cases) {
         const Handle handle =
             fsGetFileContentsAsHandle(url(resources_ / row.name).get(), row.offset);
         EXPECT_EQ(handle ? GetHandleSize(handle) : -1, row.length) << row.name << row.offset;
     }
-    EXPECT_EQ(countOpen(), openBefore) << "left open";
+    EXPECT_EQ(countOpenFiles(), openBefore) << "left open";
     EXPECT_EQ(fsGetFileContents(url(resources_ / "digits").get())->bytes().size(), 10u);
     EXPECT_FALSE(fsGetFileContents(url(resources_ / "huge").get()));
 }

@@ -10,8 +10,8 @@
 class AgentBundle {
 public:
     AgentBundle() {
-        std::filesystem::remove_all(path());
-        std::filesystem::create_directories(pointers());
+        fs::remove_all(path());
+        fs::create_directories(pointers());
         write(path() / "Contents/Info.plist", dictionaryFile(""));
         prefs = PrefsRecord{};
         prefs.on = 0;
@@ -22,11 +22,11 @@ public:
 
     AgentBundle(const AgentBundle&) = delete;
 
-    static std::filesystem::path path() { return makeSandboxFolder("Test Agent.app"); }
+    static fs::path path() { return makeSandboxFolder("Test Agent.app"); }
 
-    static std::filesystem::path resources() { return path() / "Contents/Resources"; }
+    static fs::path resources() { return path() / "Contents/Resources"; }
 
-    static std::filesystem::path pointers() { return resources() / "Pointers"; }
+    static fs::path pointers() { return resources() / "Pointers"; }
 
     static constexpr auto write = writeFile;
 };

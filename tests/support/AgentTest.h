@@ -53,9 +53,8 @@ protected:
         return agent != kNoProcess && GetProcessPID(&agent, &pid) == noErr ? pid : 0;
     }
 
-    static std::filesystem::path storedFile() {
-        return std::filesystem::path(std::getenv("XDG_CONFIG_HOME")) /
-               "Preferences/org.korvex.Agent.plist";
+    static fs::path storedFile() {
+        return fs::path(std::getenv("XDG_CONFIG_HOME")) / "Preferences/org.korvex.Agent.plist";
     }
 
     AgentLog agentLog_;

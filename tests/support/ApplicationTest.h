@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 /// A test in a Qt application of that class.
 template <class Application>

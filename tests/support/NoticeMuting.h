@@ -5,9 +5,8 @@
 
 /// All users' preferences as an administrator may set them: they keep the notice about assistive
 /// access away from everybody who hasn't seen it yet.
-inline std::filesystem::path noticeMutingFile() {
-    return std::filesystem::path(std::getenv("XDG_CONFIG_DIRS")) /
-           "Preferences/org.korvex.Agent.plist";
+inline fs::path noticeMutingFile() {
+    return fs::path(std::getenv("XDG_CONFIG_DIRS")) / "Preferences/org.korvex.Agent.plist";
 }
 
 /// `more`: elements of theirs besides.

@@ -18,7 +18,6 @@
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QTest>
-#include <gmock/gmock.h>
 
 #include <clocale>
 #include <memory>

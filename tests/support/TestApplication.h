@@ -11,11 +11,11 @@ inline std::string desktopEntry(const std::string& exec, const std::string& more
 
 /// Makes an application's bundle, org.korvex.Test, whose executable is Contents/Linux/run. Gives
 /// its URL.
-inline CFRef<CFURL> makeTestApplication(const std::filesystem::path& bundle,
+inline CFRef<CFURL> makeTestApplication(const fs::path& bundle,
                                         const std::string& script = "#!/bin/sh\n") {
     const auto executable = bundle / "Contents/Linux/run";
     writeFile(executable, script);
-    std::filesystem::permissions(executable, std::filesystem::perms::owner_all);
+    fs::permissions(executable, fs::perms::owner_all);
     writeFile(bundle / "Contents/Info.plist",
               dictionaryFile("<key>CFBundleIdentifier</key><string>org.korvex.Test</string>"
                              "<key>CFBundleName</key><string>Test</string>"

@@ -4,7 +4,6 @@
 #include "platform/CoreServices/detail/FileCache.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
-#include <gtest/gtest.h>
 #include <unistd.h>
 
 /// Data folders of the test's own, in the order in which they are searched.
@@ -15,7 +14,7 @@ protected:
         setenv("XDG_DATA_DIRS", (near_.string() + ":relative:" + far_.string()).c_str(), 1);
     }
 
-    static void installBundle(const std::filesystem::path& data, const std::string& name,
+    static void installBundle(const fs::path& data, const std::string& name,
                               const std::string& signature, const std::string& identifier) {
         writeFile(data / "applications" / name / "Contents/Info.plist",
                   dictionaryFile("<key>CFBundleSignature</key><string>" + signature + "</string>" +
@@ -23,19 +22,18 @@ protected:
                                  "</string><key>CFBundleIconFile</key><string>Icon</string>"));
     }
 
-    static void installEntry(const std::filesystem::path& data, const std::string& identifier,
+    static void installEntry(const fs::path& data, const std::string& identifier,
                              const std::string& keys = "") {
         writeFile(data / "applications" / (identifier + ".desktop"),
                   "[Desktop Entry]\nType=Application\nName=Keys\nExec=keys\n" + keys);
     }
 
     /// Waits until the file's state tells every later change of it.
-    static void waitUntilSettled(const std::filesystem::path& path) {
+    static void waitUntilSettled(const fs::path& path) {
         while (!stateOfFile(path).isSettled())
             usleep(20'000);
     }
 
-    std::filesystem::path folder_ = makeSandboxFolder("data");
-    std::filesystem::path home_ = folder_ / "home", near_ = folder_ / "near",
-                          far_ = folder_ / "far";
+    fs::path folder_ = makeSandboxFolder("data");
+    fs::path home_ = folder_ / "home", near_ = folder_ / "near", far_ = folder_ / "far";
 };

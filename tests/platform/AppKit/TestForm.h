@@ -14,7 +14,6 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QTest>
-#include <gmock/gmock.h>
 
 #include <cstdlib>
 #include <fstream>

@@ -2,10 +2,6 @@
 #include "platform/CoreFoundation/CFBundle.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
-#include <gtest/gtest.h>
-
-namespace fs = std::filesystem;
-
 namespace {
 
 class CFBundleTest : public testing::Test {
@@ -52,9 +48,9 @@ TEST_F(CFBundleTest, ResourcesAreFoundAndNothingOutside) {
                  {"passwd", nullptr, "/etc", nullptr}};
 
     for (const auto& row : cases) {
-        const auto text = [](const char* ascii) { return ascii ? CFSTR(ascii) : nullptr; };
-        const auto url = CFBundleCopyResourceURL(bundle.get(), text(row.name), text(row.type),
-                                                 text(row.subdirectory));
+        const auto url =
+            CFBundleCopyResourceURL(bundle.get(), constantText(row.name), constantText(row.type),
+                                    constantText(row.subdirectory));
         const fs::path expected = row.found ? contents_ / "Resources" / row.found : fs::path();
         EXPECT_EQ(url ? url->path() : "", expected) << row.name;
     }

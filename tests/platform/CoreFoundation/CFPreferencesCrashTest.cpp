@@ -4,7 +4,6 @@
 
 #include <atomic>
 #include <cerrno>
-#include <gtest/gtest.h>
 #include <new>
 #include <random>
 #include <sys/mman.h>
@@ -13,8 +12,6 @@
 #include <thread>
 #include <unistd.h>
 #include <vector>
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -81,7 +78,7 @@ TEST(CFPreferencesCrash, KilledWriterLeavesTheOldOrTheNewFile) {
         ::kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
 
-        if (saved == 0 && !std::filesystem::exists(path))
+        if (saved == 0 && !fs::exists(path))
             continue;
         const std::string found = readFile(path);
         const bool isNext = found == document(saved + 1);

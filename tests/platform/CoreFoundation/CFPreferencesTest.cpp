@@ -7,14 +7,11 @@
 #include <csignal>
 #include <fcntl.h>
 #include <functional>
-#include <gmock/gmock.h>
 #include <regex>
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 

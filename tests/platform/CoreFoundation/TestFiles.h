@@ -7,26 +7,33 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <gmock/gmock.h>
 #include <iterator>
 #include <string>
 #include <string_view>
 
-inline void writeFile(const std::filesystem::path& path, std::string_view bytes) {
-    std::filesystem::create_directories(path.parent_path());
+namespace fs = std::filesystem;
+
+inline void writeFile(const fs::path& path, std::string_view bytes) {
+    fs::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary | std::ios::trunc).write(bytes.data(), std::ssize(bytes));
 }
 
-inline std::string readFile(const std::filesystem::path& path) {
+inline std::string readFile(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
 /// How many files beside that one were to replace it and haven't.
-inline long countPending(const std::filesystem::path& path) {
+inline long countPending(const fs::path& path) {
     const std::string start = path.filename().string() + ".new";
-    return std::count_if(
-        std::filesystem::directory_iterator(path.parent_path()), {},
-        [&](const auto& file) { return file.path().filename().string().starts_with(start); });
+    return std::count_if(fs::directory_iterator(path.parent_path()), {}, [&](const auto& file) {
+        return file.path().filename().string().starts_with(start);
+    });
+}
+
+inline long countOpenFiles() {
+    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
 }
 
 /// An XML property list with `body` in its root dictionary.
@@ -34,9 +41,14 @@ inline std::string dictionaryFile(const std::string& body) {
     return "<?xml version=\"1.0\"?>\n<plist version=\"1.0\"><dict>" + body + "</dict></plist>\n";
 }
 
+/// The constant string, or null.
+inline const CFString* constantText(const char* ascii) {
+    return ascii ? CFSTR(ascii) : nullptr;
+}
+
 /// A new folder in the test's sandbox.
-inline std::filesystem::path makeSandboxFolder(const std::string& name) {
-    const auto folder = std::filesystem::path(std::getenv("KORVEX_TEST_SANDBOX")) / name;
-    std::filesystem::create_directories(folder);
+inline fs::path makeSandboxFolder(const std::string& name) {
+    const auto folder = fs::path(std::getenv("KORVEX_TEST_SANDBOX")) / name;
+    fs::create_directories(folder);
     return folder;
 }

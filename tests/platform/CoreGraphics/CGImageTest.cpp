@@ -3,12 +3,11 @@
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/TestIcons.h"
 
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 
 namespace {
 
-CFRef<CGDataProvider> provider(const std::filesystem::path& path) {
+CFRef<CGDataProvider> provider(const fs::path& path) {
     return CGDataProviderCreateWithURL(
         CFURLCreateFromFileSystemRepresentation(path.c_str(), false).get());
 }
@@ -36,7 +35,7 @@ TEST(CGImageTest, WhatIsNoWholePNGOrTooLargeIsNullAndTakesNoMemory) {
     EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 16'000) << "kilobytes";
     EXPECT_FALSE(provider("/dev/zero"));
     const auto file = makeSandboxFolder("images") / "file.png";
-    std::filesystem::resize_file(file, kMaxImageFileSize + 1);
+    fs::resize_file(file, kMaxImageFileSize + 1);
     EXPECT_FALSE(provider(file));
 }
 

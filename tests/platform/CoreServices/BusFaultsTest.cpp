@@ -16,12 +16,6 @@ void expectNobody() {
         EXPECT_EQ(AESend(&event, nullptr, mode, kAEDefaultTimeout), connectionInvalid);
 }
 
-TEST_F(ProcessTest, NobodyTakesPartWithoutABus) {
-    setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus", 1);
-    EXPECT_FALSE(takePart());
-    expectNobody();
-}
-
 /// A bus of its own, to be ended by the test.
 class BusFaultsTest : public ProcessTest {
 protected:

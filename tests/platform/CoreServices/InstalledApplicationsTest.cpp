@@ -2,8 +2,6 @@
 #include "platform/CoreServices/LaunchServices.h"
 #include "tests/support/TestApplications.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
 constexpr OSType kCode = fourCharCode("TEST");
@@ -13,11 +11,10 @@ protected:
     /// The path of the application, relative to the data folders; empty when none is found.
     std::string find(OSType creator = kCode, const char* identifier = "org.keys",
                      const char* name = nullptr) {
-        const auto text = [](const char* ascii) { return ascii ? CFSTR(ascii) : nullptr; };
         FSRef ref;
         CFRef<CFURL> url;
-        const OSStatus status =
-            LSFindApplicationForInfo(creator, text(identifier), text(name), &ref, &url);
+        const OSStatus status = LSFindApplicationForInfo(creator, constantText(identifier),
+                                                         constantText(name), &ref, &url);
         EXPECT_EQ(status, url ? noErr : kLSApplicationNotFoundErr);
         EXPECT_EQ(url ? url->path() : "", ref.path);
         return url ? fs::relative(ref.path, folder_).string() : "";

@@ -9,8 +9,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace fs = std::filesystem;
-
 namespace {
 
 constexpr OSType kPeer = fourCharCode("peer");

@@ -3,8 +3,6 @@
 #include "platform/CoreServices/detail/SessionBus.h"
 #include "tests/platform/CoreServices/TestPeer.h"
 
-#include <gmock/gmock.h>
-
 #include <unistd.h>
 
 using testing::ElementsAre;

@@ -2,10 +2,6 @@
 #include "platform/CoreServices/SharedFileList.h"
 #include "tests/support/TestApplication.h"
 
-#include <gmock/gmock.h>
-
-namespace fs = std::filesystem;
-
 namespace {
 
 const fs::path kSandbox = std::getenv("KORVEX_TEST_SANDBOX");

@@ -9,8 +9,6 @@
 
 namespace {
 
-namespace fs = std::filesystem;
-
 const std::string kName = "<key>CFBundleHelpBookName</key><string>Test Help</string>";
 const std::string kFolder = "<key>CFBundleHelpBookFolder</key><string>my help</string>";
 
@@ -53,12 +51,11 @@ TEST_F(AppleHelpTest, OpensThePagesOfAWholeBookAndNoOthers) {
 
     const std::string folder =
         "file://" + bundle.parent_path().string() + "/Test%20Pane.prefPane/Contents/Resources/";
-    const auto text = [](const char* ascii) { return ascii ? CFSTR(ascii) : nullptr; };
     for (const auto& [page, anchor, opened] : cases) {
         SCOPED_TRACE(page ? page : "start page");
         QTextBrowser desktop;
         QDesktopServices::setUrlHandler(QStringLiteral("file"), &desktop, "setSource");
-        EXPECT_EQ(AHGotoPage(CFSTR("Test Help"), text(page), text(anchor)),
+        EXPECT_EQ(AHGotoPage(CFSTR("Test Help"), constantText(page), constantText(anchor)),
                   opened ? OSStatus{noErr} : kAHInternalErr);
         EXPECT_EQ(desktop.source().toString(QUrl::FullyEncoded).toStdString(),
                   opened ? folder + opened : "");

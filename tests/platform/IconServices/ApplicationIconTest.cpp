@@ -60,7 +60,7 @@ TEST_F(ApplicationIconTest, FollowsInstallationChangeAndRemoval) {
 
     const auto held = iconNow();
     EXPECT_EQ(iconNow().get(), held.get()) << "it didn't change";
-    std::filesystem::remove(near_ / "applications/org.example.keys.desktop");
+    fs::remove(near_ / "applications/org.example.keys.desktop");
     EXPECT_EQ(colourAt(32), QColor());
     EXPECT_EQ(held->images().atLeast(32).width(), 32) << "the caller's own";
     installBundle(near_, "Keys.app", "TEST", "org.example.keys");

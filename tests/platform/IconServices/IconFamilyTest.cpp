@@ -3,8 +3,6 @@
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/TestIcons.h"
 
-#include <gmock/gmock.h>
-
 namespace {
 
 IconImages readFamily(const std::string& bytes) {
@@ -71,7 +69,7 @@ TEST(IconFamilyTest, DecodesEveryDepthWithEveryMaskAndTheMostColoursThatAreWhole
 }
 
 TEST(IconFamilyTest, ReadsWhatPillowWrites) {
-    const std::string bytes = readFile(std::filesystem::path(TEST_ICONS) / "Pillow.icns");
+    const std::string bytes = readFile(fs::path(TEST_ICONS) / "Pillow.icns");
     const QImage image = readFamily(bytes).atLeast(32);
     ASSERT_EQ(image.size(), QSize(32, 32));
     EXPECT_EQ(image.pixelColor(16, 16), QColor(0x20, 0x60, 0xC0));

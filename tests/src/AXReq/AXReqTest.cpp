@@ -39,9 +39,7 @@ protected:
 
     /// The day of the last notice as the file has it, or 0.
     static SInt32 storedDay() {
-        const std::string text =
-            readFile(std::filesystem::path(std::getenv("XDG_CONFIG_HOME")) / "Preferences" /
-                     (std::string(kAgentBundleIDText) + ".plist"));
+        const std::string text = readFile(storedFile());
         const auto key = text.find("axReqLastNoticeDate"), value = text.find("<integer>", key);
         return key == text.npos ? 0 : std::stoi(text.substr(value + 9));
     }

@@ -91,7 +91,7 @@ TEST_F(DaemonTest, OnlyAReportOfAnotherStateIsKeptAndNoneIsSentBack) {
         EXPECT_EQ(answerTo(kAgentClass, row.eventID, row.parameters), row.answer);
         EXPECT_EQ(prefs.on, row.after);
         prefsFlushChanges();
-        EXPECT_EQ(std::filesystem::remove(storedFile()), row.before != row.after) << "saved";
+        EXPECT_EQ(fs::remove(storedFile()), row.before != row.after) << "saved";
     }
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
     EXPECT_EQ(answerTo(kAgentClass, kOnOff, off), errAEEventNotHandled)

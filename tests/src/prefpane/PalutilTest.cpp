@@ -11,8 +11,6 @@
 
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr UInt32 kBoth = kButtonContentIcon | kButtonContentName;
 constexpr UInt8 kClick = 20;
 const fs::path kBuilt = KORVEX_BUNDLE "/Contents/Linux/Korvex Agent.app";

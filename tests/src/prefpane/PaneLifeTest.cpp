@@ -6,8 +6,6 @@
 
 #include <unistd.h>
 
-namespace fs = std::filesystem;
-
 namespace {
 
 /// The pane as the host opens it and puts it away, and the agent beside it.
@@ -19,10 +17,6 @@ protected:
     }
 
     static void signalAgent(int signal) { signalProcess(agentPID(), signal); }
-
-    static long countOpenFiles() {
-        return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
-    }
 
     static long residentKilobytes() {
         std::ifstream file("/proc/self/statm");

@@ -5,15 +5,12 @@
 #include "tests/support/AgentBundle.h"
 
 #include <QImage>
-#include <gmock/gmock.h>
 
-#include <algorithm>
 #include <optional>
 #include <sys/stat.h>
 
 namespace {
 
-namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
 
 /// The catalogue and the loader, on the pointers of a bundle that the test writes.

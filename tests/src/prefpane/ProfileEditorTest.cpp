@@ -6,9 +6,6 @@
 #include <QFileDialog>
 #include <QListWidget>
 
-#include <filesystem>
-#include <fstream>
-
 namespace {
 
 class ProfileEditorTest : public PaneTest {
@@ -120,7 +117,7 @@ TEST_F(ProfileEditorTest, OfAFileTheSoundSettingsAreOfferedAndTakenAsOneChange) 
     EXPECT_EQ(prefs.soundLevel, 50u);
     pressInStrip();
     EXPECT_EQ(agentLog_.nextMask(), kChangeSounds | kChangeScanSpeed);
-    std::filesystem::remove(path.toStdString());
+    fs::remove(path.toStdString());
     chooseFile("exportBtn");
     EXPECT_THAT(told(), testing::HasSubstr(path.toStdString()));
     click("undoBtn");
@@ -131,12 +128,10 @@ TEST_F(ProfileEditorTest, OfAFileTheSoundSettingsAreOfferedAndTakenAsOneChange) 
 }
 
 TEST_F(ProfileEditorTest, WhatCannotBeDoneIsToldAndChangesNothing) {
-    const std::filesystem::path folder = std::string(std::getenv("XDG_DATA_HOME")) + "/korvex";
-    const std::filesystem::path state = std::getenv("XDG_STATE_HOME");
-    for (const auto& blocked : {folder / "profiles", state / "korvex"}) {
-        std::filesystem::create_directories(blocked.parent_path());
-        std::ofstream(blocked) << "in the way";
-    }
+    const fs::path folder = std::string(std::getenv("XDG_DATA_HOME")) + "/korvex";
+    const fs::path state = std::getenv("XDG_STATE_HOME");
+    for (const fs::path& blocked : {folder / "profiles", state / "korvex"})
+        writeFile(blocked, "in the way");
     open();
     save("profileNameMorning");
     EXPECT_EQ(told(), "“Morning” couldn’t be saved: Not a directory.");

@@ -2,11 +2,9 @@
 #include "src/tryout/history.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 using namespace tryout;
-namespace fs = std::filesystem;
 
 namespace {
 
