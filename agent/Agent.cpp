@@ -27,7 +27,7 @@ std::string line(const QJsonObject& event) {
     return QJsonDocument(event).toJson(QJsonDocument::Compact).toStdString();
 }
 
-/// Reads a parameter of exactly the type and size of `value`.
+/// Reads a parameter that has exactly the type and size of `value`.
 template <class T>
 OSErr read(const AppleEvent& event, AEKeyword keyword, DescType type, T& value) {
     std::size_t size = 0;
@@ -107,7 +107,7 @@ void Agent::flip() {
 void Agent::report() {
     if (paneIsClosed_)
         return;
-    // An agent that the pane launched was never told which process shows the pane.
+    // An agent that the pane launched wasn't told which process shows the pane.
     if (pane_ == kNoProcess)
         pane_ = findOtherApplication(fourCharCode("sprf"));
     AEAddressDesc address;

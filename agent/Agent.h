@@ -4,21 +4,21 @@
 #include "agent/EventLog.h"
 #include "platform/CoreServices/AppleEvents.h"
 
-/// The agent's side of docs/agent-contract.md: takes the pane's events, logs them, and keeps one
-/// state of its own, on or off, which it reports when it changes by itself.
+/// The agent's side of docs/agent-contract.md. It receives the pane's events, logs them, and keeps
+/// one state: on or off. It reports the state when it changes by itself.
 class Agent {
 public:
     /// `log` must outlive the agent.
     explicit Agent(const EventLog& log);
 
-    /// Takes events from now on. One agent a process.
+    /// From now on receives events. One agent per process.
     void installHandlers();
 
-    /// Takes the stored state over; on by default. To be called once this process takes part: what
-    /// a pane stores before that is read, and what it changes after that is sent.
+    /// Reads the stored state; the default is on. Call it once this process takes part. What a pane
+    /// stores before that is read; what it changes later is sent.
     void readStoredState();
 
-    /// Changes the state by itself, as a hot key of a real agent does: stores and reports it.
+    /// Changes, stores and reports the state, like a hot key of a real agent.
     void flip();
 
 private:
@@ -35,10 +35,9 @@ private:
 
     const EventLog& log_;
     bool on_ = true;
-    bool paneIsClosed_ = false;             ///< it said so
-    ProcessSerialNumber pane_ = kNoProcess; ///< as it told when it opened
+    bool paneIsClosed_ = false;             ///< as it said
+    ProcessSerialNumber pane_ = kNoProcess; ///< from its opening event
 };
 
-/// The process that takes part as of type 'APPL' and that signature, other than this one; the first
-/// of several, or kNoProcess.
+/// The first other process that takes part with type 'APPL' and that signature, or kNoProcess.
 ProcessSerialNumber findOtherApplication(OSType signature);

@@ -3,8 +3,8 @@
 
 #include <string>
 
-/// A file that receives one JSON object a line; each line is one write at the file's end, so that
-/// a reader never sees half of one.
+/// A file of JSON objects, one a line. Each line is a single write at the end, so a reader never
+/// sees half a line.
 class EventLog {
 public:
     /// Writes to standard output.
@@ -13,11 +13,11 @@ public:
     EventLog(const EventLog&) = delete;
     EventLog& operator=(const EventLog&) = delete;
 
-    /// Appends to the file at `path` from now on, made with mode 0600 if it isn't there. False,
-    /// with the reason in errno, when it can't be opened.
+    /// From now on appends to the file at `path`. A new file gets mode 0600. False with errno set
+    /// when it can't be opened.
     bool open(const char* path);
 
-    /// `json` is a whole JSON object without a line end.
+    /// `json` is one JSON object without a line end.
     void append(const std::string& json) const;
 
 private:

@@ -7,8 +7,8 @@
 #include <initializer_list>
 #include <memory>
 
-/// Hands signals of this process to the event loop. Made before any thread is started, since it
-/// blocks them for the threads that follow.
+/// Passes signals of this process to the event loop. Make it before any thread is started: it
+/// blocks the signals for later threads.
 class UnixSignals {
 public:
     explicit UnixSignals(std::initializer_list<int> signals);
@@ -16,7 +16,7 @@ public:
     UnixSignals(const UnixSignals&) = delete;
     UnixSignals& operator=(const UnixSignals&) = delete;
 
-    /// Calls `handler` with the number of each signal from now on. Needs a QCoreApplication; `this`
+    /// From now on calls `handler` with the number of each signal. Needs a QCoreApplication; `this`
     /// must outlive its event loop.
     void deliverTo(std::function<void(int)> handler);
 

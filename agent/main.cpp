@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The stand-in agent: a program of its own that takes the pane's events and logs them.
+// The stand-in agent: a program that receives the pane's events and logs them.
 //
-// KORVEX_AGENT_LOG names the file that gets a JSON object for each event; without it they go to
+// KORVEX_AGENT_LOG names the log file, which gets a JSON object per event. Without it they go to
 // standard output. SIGUSR1 flips the on/off state; SIGTERM, SIGINT and SIGHUP end the program.
 
 #include "agent/Agent.h"
@@ -17,12 +17,12 @@
 
 namespace {
 
-/// How long the program may take to start, in seconds. Qt can wait for good for the answer of a bus
-/// that goes in that moment.
+/// Seconds that the program may take to start. Qt can wait forever for a bus that goes at that
+/// moment.
 constexpr unsigned kStartSeconds = 10;
 
-/// Whether this is the session's one agent. The bus gives a name to one owner only, so that of two
-/// that start at the same moment one stays.
+/// Whether this is the session's only agent. The bus gives a name to one owner, so of two that
+/// start together one remains.
 bool becomeTheAgent() {
     return findOtherApplication(fourCharCode("Krvx")) == kNoProcess &&
            QDBusConnection::sessionBus().registerService(QStringLiteral("org.korvex.Agent"));

@@ -17,13 +17,13 @@ const auto kInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
 using Groups = QMap<QString, QVariantMap>;
 
-/// The portal may have to be started for it, in milliseconds.
+/// Milliseconds. The portal may have to be started first.
 constexpr int kTimeoutMs = 10'000;
 
-/// Anything else stands for no wish.
+/// A number outside counts as no wish.
 constexpr double kLeastTextScale = 0.5, kMostTextScale = 3;
 
-/// Three parts from 0 to 1; anything else stands for no wish.
+/// Three components from 0 to 1. Anything else counts as no wish.
 QColor color(const QVariant& value) {
     if (!value.canConvert<QDBusArgument>())
         return {};
@@ -52,8 +52,8 @@ double scale(const QVariant& value) {
     return wish >= kLeastTextScale && wish <= kMostTextScale ? wish : 1;
 }
 
-/// Those that all desktops have in common, and GNOME's for those that it says nowhere else. A value
-/// of another type stands for no wish.
+/// The desktops' common settings, and GNOME's where there is no common one. A value of another type
+/// counts as no wish.
 constexpr struct Wish {
     const char *group, *key;
     void (*take)(DesktopLook&, const QVariant&);
@@ -74,13 +74,12 @@ constexpr struct Wish {
      [](DesktopLook& look, const QVariant& value) { look.textScale = scale(value); }},
 };
 
-/// X11's server tells the resolution of text, in which the desktop has its scale.
+/// The X server reports a resolution for text, which includes the desktop's text scale.
 bool serverScalesText() {
     return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
-/// Adwaita's styles draw each control in colours of their own: with another palette its text could
-/// not be read.
+/// Adwaita draws controls in its own colours. With another palette their text couldn't be read.
 bool styleTakesPalette() {
     const QStyle* style = QApplication::style();
     if (const auto* proxy = qobject_cast<const QProxyStyle*>(style))
@@ -98,7 +97,7 @@ void Appearance::follow() {
 Appearance::Appearance(QObject* application)
     : QObject(application), themeFont_(QApplication::font()) {
     auto bus = QDBusConnection::sessionBus();
-    // From any sender: who owns the portal's name would be a question to wait for.
+    // From any sender: asking who owns the portal's name would mean waiting.
     bus.connect(QString(), kPath, kInterface, QStringLiteral("SettingChanged"), this,
                 SLOT(settingChanged(QDBusMessage)));
     ask();
@@ -146,7 +145,7 @@ void Appearance::apply() {
         return;
     applied_ = look_;
     if (styleTakesPalette()) {
-        QApplication::setPalette(QPalette()); // the theme's, as it is by now
+        QApplication::setPalette(QPalette()); // the theme's, as it is now
         QApplication::setPalette(desktopPalette(look_, QApplication::palette()));
     }
     if (!serverScalesText() && themeFont_.pointSizeF() > 0) {

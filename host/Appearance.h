@@ -7,16 +7,16 @@
 #include <QFont>
 #include <QObject>
 
-/// Has the application look as the desktop's settings portal wishes, from now on and at every
-/// change: its palette; its font's size, where the display's server doesn't tell it; and without
-/// animations, for which the application's property "reducedMotion" is true as well.
+/// Makes the application look as the desktop's settings portal wishes, now and after each change.
+/// It sets the palette, the font size where the display server doesn't report it, and whether there
+/// are animations (also as the application's property "reducedMotion").
 ///
-/// Nothing waits for the portal: without a session bus, a portal or an answer all stays as it is.
+/// Nothing waits for the portal. Without a session bus, portal or answer nothing changes.
 class Appearance final : public QObject {
     Q_OBJECT
 
 public:
-    /// Owned by the application, which must be there.
+    /// Owned by the application, which must exist.
     static void follow();
 
 private Q_SLOTS:

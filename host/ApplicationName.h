@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// The program's name on the session bus, which its desktop entry has as well, and its object
-/// there.
+/// The program's name on the session bus and of its desktop entry, and its object path.
 inline constexpr char kApplicationName[] = "org.korvex.Preferences";
 inline constexpr char kApplicationPath[] = "/org/korvex/Preferences";

@@ -24,7 +24,7 @@ const char* const kUsage = LOCALIZABLE(
 
 namespace {
 
-/// A bundle is named by its path or its ending; any other word is a command.
+/// A bundle is named by its path or its ending. Any other word is a command.
 bool isCommand(const std::string& operand) {
     return operand.find('/') == std::string::npos && !operand.ends_with(".prefPane");
 }
@@ -38,7 +38,7 @@ Arguments parseArguments(int argc, char** argv) {
         {"section", required_argument, nullptr, 's'}, {"service", no_argument, nullptr, 'b'},
         {"version", no_argument, nullptr, 'v'},       {},
     };
-    // Nothing is looked for behind the first operand, and no option goes with one.
+    // Options end at the first operand. No option goes with another.
     const int option = getopt_long(argc, argv, "+", kOptions, nullptr);
     const int operands = argc - optind;
     if (option == -1 && operands >= 1 && isCommand(argv[optind]))

@@ -3,13 +3,13 @@
 
 #include <string>
 
-/// What the command line asks for.
+/// The parsed command line.
 struct Arguments {
     enum class Task { Show, Command, Serve, Check, Help, Version, Misuse };
 
     Task task = Task::Show;
-    std::string bundle;  ///< path of the bundle; empty for the one that belongs to this program
-    std::string section; ///< of the pane, to be shown first; empty for its own choice
+    std::string bundle;  ///< path; empty for this program's own
+    std::string section; ///< shown first; empty for the pane's own choice
 };
 
 /// The text that --help prints, in English.
@@ -17,9 +17,9 @@ extern const char* const kUsage;
 
 Arguments parseArguments(int argc, char** argv);
 
-/// The path of the bundle that lies beside this program, in its build folder or where both are
-/// installed; empty when there is none.
+/// The path of the bundle that belongs to this program, in the build folder or where it is
+/// installed. Empty when there is none.
 std::string findOwnBundle();
 
-/// Loads the user's language from that bundle. An application object must exist.
+/// Loads the user's language from that bundle. Needs an application object.
 void loadOwnLocalizations();

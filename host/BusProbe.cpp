@@ -23,8 +23,8 @@ std::string busAddress() {
     return runtime ? "unix:path=" + std::string(runtime) + "/bus" : std::string();
 }
 
-/// The name of the first socket in an address as a socket's address has it: an abstract one begins
-/// with a zero byte. Empty for other kinds of transport.
+/// The name of an address's first socket, as in a socket address: an abstract one begins with a
+/// zero byte. Empty for other transports.
 std::string socketName(const std::string& address) {
     const std::string name = address.substr(0, address.find_first_of(",;"));
     const std::size_t text = name.find('=') + 1;
@@ -33,7 +33,7 @@ std::string socketName(const std::string& address) {
     return name.starts_with("unix:abstract=") ? '\0' + name.substr(text) : std::string();
 }
 
-/// Whether a server that listens answers a first word. One that isn't there fails all at once.
+/// Whether a server listens but doesn't answer. Without a server it fails at once.
 bool hangs(const std::string& name) {
     sockaddr_un place{};
     place.sun_family = AF_UNIX;
@@ -44,7 +44,7 @@ bool hangs(const std::string& name) {
     const int file = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     bool isWaiting = false;
     if (file >= 0 && connect(file, reinterpret_cast<const sockaddr*>(&place), size) == 0 &&
-        send(file, "\0AUTH\r\n", 7, MSG_NOSIGNAL) == 7) { // it lists the ways to log in
+        send(file, "\0AUTH\r\n", 7, MSG_NOSIGNAL) == 7) { // it answers with ways to log in
         pollfd answer{file, POLLIN, 0};
         isWaiting = poll(&answer, 1, kPatienceMs) == 0;
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// Goes on without the session bus when it is there but doesn't answer within two seconds: whoever
-/// connects to it would wait for as long as it hangs. To be called before anybody connects. What is
-/// started from here has no bus then either.
+/// Continues without the session bus if it doesn't answer within two seconds. Otherwise every
+/// connection would wait for it. Call it before anything connects. Programs started from here then
+/// have no bus either.
 void leaveOutHangingBus();

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Answers for programs are the same in every language.
+/// Output for programs is the same in every language.
 bool isForPeople(int argc, char** argv) {
     return std::none_of(argv + 1, argv + argc, [](std::string_view word) {
         return word == "--json" || word == "completion";

@@ -14,8 +14,8 @@ namespace {
 constexpr int kTimeoutMs = 2000;
 
 struct Token {
-    const char* key;      ///< in platform data
-    const char* variable; ///< in the environment of a program that is started
+    const char* key;      ///< in the platform data
+    const char* variable; ///< in the environment of a started program
 };
 
 constexpr Token kActivationToken = {"activation-token", "XDG_ACTIVATION_TOKEN"};
@@ -44,7 +44,7 @@ private:
         const auto text = [&](const Token& token) {
             return platformData.value(QLatin1String(token.key)).toString();
         };
-        // Where Qt's Wayland windows look for the right to come to the front.
+        // Qt's Wayland windows read the activation token there.
         qputenv(kActivationToken.variable, text(kActivationToken).toUtf8());
         onShow_({section, text(kStartupID)});
     }

@@ -8,23 +8,23 @@
 
 class QDBusConnection;
 
-/// What a desktop, or another start of the program, asks of the one that is open: to come to the
-/// front, perhaps with one of its sections.
+/// A request of the desktop, or of another start, to the running program: to come to the front,
+/// perhaps with a section.
 struct ShowRequest {
-    QString section;   ///< as showSection() takes it; empty for the one in sight
-    QString startupID; ///< as completeStartup() takes it
+    QString section;   ///< as for showSection(); empty for the current one
+    QString startupID; ///< as for completeStartup()
 };
 
-/// What a start of this program passes on to the window, so that the desktop lets it come to the
-/// front: the tokens that it was started with. Taken before there is a QApplication, which takes
-/// them itself.
+/// Tokens that this program was started with. The window passes them on, so that the desktop lets
+/// it come to the front. Take them before there is a QApplication, which removes them.
 QVariantMap activationData();
 
-/// Exports the interface org.freedesktop.Application. Activate and ActivateAction, with a section's
-/// name as the action, call `onShow`; so does Open, whose files are left alone. To be called once.
+/// Exports the interface org.freedesktop.Application. These methods call `onShow`: Activate,
+/// ActivateAction with a section's name as the action, and Open, whose files are ignored. Call it
+/// once.
 void exportDesktopApplication(QDBusConnection& bus, std::function<void(const ShowRequest&)> onShow);
 
-/// Asks the program that owns the name for the same, and waits at most two seconds for its answer:
-/// false without one. It is not started for it.
+/// Sends the request to the program that owns the name and waits two seconds for its answer. False
+/// without one. Doesn't start the program.
 bool askDesktopApplication(const QDBusConnection& bus, const ShowRequest& request,
                            const QVariantMap& activation);

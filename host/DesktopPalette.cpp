@@ -10,7 +10,7 @@ namespace {
 
 struct RoleColors {
     QPalette::ColorRole role;
-    QRgb light, dark, plainLight, plainDark; ///< plain: of the highest contrast
+    QRgb light, dark, plainLight, plainDark; ///< plain: highest contrast
 };
 
 constexpr RoleColors kColors[] = {
@@ -36,7 +36,7 @@ constexpr RoleColors kColors[] = {
     {QPalette::LinkVisited, 0x6a3fa0, 0xc3a4f0, 0x5b1a8f, 0xffe100},
 };
 
-/// As WCAG 2 defines it: 0 for black to 1 for white.
+/// As WCAG 2 defines it, from 0 for black to 1 for white.
 double luminance(const QColor& color) {
     const auto linear = [](float part) {
         return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
@@ -76,7 +76,7 @@ QPalette ownPalette(bool dark, bool highContrast) {
     return palette;
 }
 
-/// What is chosen is of the accent; a link as well, where it can be read on the window.
+/// Selections get the accent. So do links, if it is readable on the window.
 void applyAccent(QPalette& palette, const QColor& accent) {
     constexpr double kReadable = 4.5;
     const bool takesWhite = contrast(accent, Qt::white) >= contrast(accent, Qt::black);

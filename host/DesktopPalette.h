@@ -4,7 +4,7 @@
 #include <QColor>
 #include <QPalette>
 
-/// How the desktop wishes programs to look.
+/// The look that the desktop wishes for programs.
 struct DesktopLook {
     enum class Scheme { Any, Dark, Light };
 
@@ -17,6 +17,6 @@ struct DesktopLook {
     bool operator==(const DesktopLook&) const = default;
 };
 
-/// The theme's palette where it does as the desktop wishes, else one of this program's own: Qt 6.4
-/// doesn't ask for these wishes, and under some desktops its theme knows nothing of them.
+/// The theme's palette if it fits the wishes, else one of this program. Qt 6.4 doesn't ask for
+/// these wishes, and some desktops' themes don't know them.
 QPalette desktopPalette(const DesktopLook& look, const QPalette& theme);

@@ -21,18 +21,18 @@
 
 namespace {
 
-/// From the moment when the settings are stored to the end of the program, in seconds.
+/// Seconds from storing the settings to the end of the program.
 constexpr unsigned kMostSecondsToLeave = 3;
 
 PaneHost* openHost = nullptr; // for the exit handler
 int exitStatus = EXIT_SUCCESS;
 
-/// Until an answer has come back, what was sent before may still be on its way to the bus.
+/// Waits for an answer. By then all earlier messages have reached the bus.
 void sendQueuedMessages() {
     sessionBus().call(busMethod(QStringLiteral("GetId"), {}), QDBus::Block, kBusTimeout);
 }
 
-/// Ends the program even when the display's server hangs.
+/// Ends the program even if the display server hangs.
 void leaveInTime() {
     std::signal(SIGALRM, [](int) { _exit(exitStatus); });
     alarm(kMostSecondsToLeave);
@@ -99,7 +99,7 @@ void PaneHost::open() {
     pane_->willSelect();
     tellOfLaunches();
     tellOfUnkeptChanges();
-    // After willSelect, so that what the pane has set up by then is still there when it is called.
+    // After willSelect: what the pane has set up by then still exists when this is called.
     openHost = this;
     std::atexit(endAtExit);
     window_->open();
@@ -152,8 +152,8 @@ void PaneHost::deselect() {
     sendQueuedMessages();
 }
 
-// Qt leaves by exit() when the display's server is gone. The windows are as good as gone then, but
-// the settings can still be saved.
+// Qt calls exit() when the display server is gone. Windows can't be used then, but the settings can
+// still be saved.
 void PaneHost::endAtExit() {
     if (!openHost || !openHost->isSelected_)
         return;

@@ -10,7 +10,7 @@
 class PaneWindow;
 struct ShowRequest;
 
-/// A preference pane, its window, and the one visit that this program pays to it.
+/// A preference pane, its window, and this program's one visit to it.
 class PaneHost {
 public:
     PaneHost();
@@ -18,36 +18,36 @@ public:
     PaneHost(const PaneHost&) = delete;
     PaneHost& operator=(const PaneHost&) = delete;
 
-    /// Loads the bundle, its code and its main view. False when something is wrong; `errors` then
-    /// says what, one line each, beginning with a file's path. Nothing of the pane has been called.
+    /// Loads the bundle, its code and its main view. False when something is wrong. `errors` then
+    /// says what, a line each, beginning with a file's path. No method of the pane has been called.
     bool load(const std::string& path, std::vector<std::string>& errors);
 
-    /// After load: whether the bundle's other interface files hold what its code expects.
+    /// After load: whether the bundle's other interface files have what the code expects.
     bool checkWindows(std::vector<std::string>& errors);
 
-    /// Selects the pane and shows its window. When the user closes that, the visit ends.
+    /// Selects the pane and shows its window. Closing the window ends the visit.
     void open();
 
-    /// To be called once open.
+    /// Call it when open.
     void bringToFront();
 
-    /// To be called once open: turns to the section, when one is named, and has the desktop know
-    /// that the window is there.
+    /// Call it when open. Shows the section, if one is named, and tells the desktop that the window
+    /// is there.
     void comply(const ShowRequest& request);
 
-    /// To be called once open: has the pane store what was changed; the visit goes on. False when
-    /// that failed: why is told in the window and on standard error.
+    /// Call it when open. Makes the pane store changes; the visit goes on. False on failure: the
+    /// window and standard error say why.
     bool store();
 
-    /// Ends the visit and the program; once it has ended already, nothing. Everything that can
-    /// bring the end comes here. What matters goes first: the settings are stored, the agent is
-    /// told, and only then windows are touched, whose server may be dead or hang.
+    /// Ends the visit and the program. A second call does nothing. Every way to end comes here. The
+    /// order matters: the settings are stored, the agent is told, and only then windows are
+    /// touched. Their server may be dead or hang.
     void end();
 
 private:
     static void endAtExit();
 
-    /// The user closes the window, which stays when the settings can't be stored.
+    /// The user closes the window. It stays when the settings can't be stored.
     void close();
     void deselect();
     std::string infoText(const char* key) const;

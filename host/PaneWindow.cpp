@@ -30,7 +30,7 @@ PaneWindow::PaneWindow(QWidget* pane) : pane_(pane), formSize_(pane->size()) {
 
 void PaneWindow::open() {
     create();
-    // Left around the window for its frame, which isn't known before it is shown.
+    // Room for the window's frame, which isn't known before the window is shown.
     constexpr QSize kFrame(16, 48);
     for (auto* part : pane_->findChildren<QWidget*>())
         if (auto* sections = dynamic_cast<SectionFrame*>(part))
@@ -50,7 +50,7 @@ void PaneWindow::bringToFront() {
 bool PaneWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Expose && windowHandle()->isExposed()) {
         watched->removeEventFilter(this);
-        // The frame is drawn by this very event, after its filters.
+        // This event draws the frame, after the filters.
         QMetaObject::invokeMethod(
             this, [this] { onShown(); }, Qt::QueuedConnection);
     }
@@ -58,6 +58,6 @@ bool PaneWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void PaneWindow::closeEvent(QCloseEvent* event) {
-    event->ignore(); // the visit's end hides the window
+    event->ignore(); // the end of the visit hides the window
     onClosed();
 }

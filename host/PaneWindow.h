@@ -5,18 +5,18 @@
 
 #include <functional>
 
-/// The window around a pane, which assistive technology knows as one by its class. It grows and
-/// shrinks as the user likes: what doesn't fit is scrolled.
+/// The window around a pane. Assistive technology recognises it by its class. It can be resized;
+/// what doesn't fit is scrolled.
 class PaneWindow final : public QMainWindow {
 public:
-    /// Takes `pane` as its child.
+    /// Takes `pane` as a child.
     explicit PaneWindow(QWidget* pane);
 
     std::function<void()> onShown;  ///< called once, after the first frame is on the screen
-    std::function<void()> onClosed; ///< called when the user closes it; it is still there
+    std::function<void()> onClosed; ///< called when the user closes it; it still exists
 
-    /// Shows the window, of the size that the pane has in its form or that its contents need, but
-    /// never beyond the screen.
+    /// Shows the window in the size that the form or its contents need, but never larger than the
+    /// screen.
     void open();
     void bringToFront();
 

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Turns every stack that the page lies in to it.
+/// Shows the page in every stack around it.
 void turnTo(QWidget* page) {
     for (QWidget* leaf = page; QWidget* around = leaf->parentWidget(); leaf = around)
         if (auto* stack = qobject_cast<QStackedWidget*>(around))

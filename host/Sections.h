@@ -4,7 +4,6 @@
 class QString;
 class QWidget;
 
-/// Brings a section of the pane into sight: the page of the form whose property "section" is
-/// `name`, in letters of either case and with dashes for blanks. False when the pane has none of
-/// that name.
+/// Shows a section of the pane: the page whose property "section" is `name`, in any letter case and
+/// with dashes for blanks. False when there is none.
 bool showSection(QWidget* pane, const QString& name);

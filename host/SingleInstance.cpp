@@ -36,6 +36,6 @@ SingleInstance becomeSingleInstance(const ShowRequest& request, const QVariantMa
         return SingleInstance::First;
     if (askDesktopApplication(bus, request, activation))
         return SingleInstance::Second;
-    // Either it hangs or it was about to end; in that case the name is free now.
+    // The other hangs or was about to end. In the latter case the name is free now.
     return requestName(bus) ? SingleInstance::First : SingleInstance::SecondToOneThatHangs;
 }

@@ -5,10 +5,10 @@
 
 enum class SingleInstance { First, Second, SecondToOneThatHangs };
 
-/// Makes this the one instance of the program in the session, which other starts of it and the
-/// desktop ask to come to the front. Each ask calls `onShow`.
+/// Makes this the session's one instance of the program. Other starts and the desktop ask it to
+/// come to the front; each request calls `onShow`.
 ///
-/// When there is another instance, that one has been asked for `request`; its answer is awaited for
-/// at most two seconds. Without a session bus every start is the first.
+/// If there already is an instance, it gets `request`. Its answer is awaited for two seconds at
+/// most. Without a session bus every start is the first.
 SingleInstance becomeSingleInstance(const ShowRequest& request, const QVariantMap& activation,
                                     std::function<void(const ShowRequest&)> onShow);

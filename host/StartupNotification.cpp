@@ -17,7 +17,7 @@ public:
         : connection_(connection), window_(window),
           root_(xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root) {}
 
-    /// A source of 1 says that an application asks.
+    /// Source 1 means that an application asks.
     void activate(xcb_timestamp_t time) {
         xcb_client_message_event_t event = message("_NET_ACTIVE_WINDOW", 32);
         event.data.data32[0] = 1;
@@ -27,7 +27,7 @@ public:
         send(event, kToWindowManager);
     }
 
-    /// The text goes with its final zero, in parts of 20 bytes.
+    /// Sends the text and its final zero in parts of 20 bytes.
     void broadcast(const QByteArray& text) {
         xcb_client_message_event_t event = message("_NET_STARTUP_INFO_BEGIN", 8);
         for (qsizetype sent = 0; sent <= text.size(); sent += sizeof event.data) {
@@ -69,7 +69,7 @@ private:
     xcb_window_t window_, root_;
 };
 
-/// In milliseconds of the X server; 0 without one.
+/// In milliseconds of the X server. 0 when the ID has none.
 xcb_timestamp_t timeOf(const QString& startupID) {
     const auto mark = QStringLiteral("_TIME");
     const auto place = startupID.lastIndexOf(mark);

@@ -4,8 +4,8 @@
 class QString;
 class QWindow;
 
-/// On X11, where Qt knows only the startup ID that the program itself was started with: tells the
-/// desktop that the start with this one is over, and brings the window to the front with the time
-/// of the user's deed that the ID carries, so that the window manager lets it pass. On another
-/// platform, or without an ID, nothing.
+/// Ends a startup notification on X11: tells the desktop that the start with this ID is over, and
+/// brings the window to the front. It uses the time of the user's action from the ID, so that the
+/// window manager allows it. Qt knows only the ID that the program was started with. Does nothing
+/// on other platforms or without an ID.
 void completeStartup(QWindow* window, const QString& startupID);

@@ -14,9 +14,9 @@ namespace {
 
 constexpr int kButtonSide = 44;
 constexpr int kMargin = 12;
-constexpr int kEdge = 3; ///< the line that tells the strip from the pane, in points
+constexpr int kEdge = 3; ///< a line between strip and pane, in points
 
-// Dark on light, 14 to 1, whatever the desktop's colours are.
+// Dark on light with a contrast of 14 : 1, whatever the desktop's colours are.
 constexpr QColor kBackground(0xFF, 0xF1, 0xC2);
 constexpr QColor kForeground(0x2B, 0x1D, 0x00);
 constexpr QColor kEdgeColor(0x8A, 0x4B, 0x00);
@@ -66,7 +66,7 @@ Strip::~Strip() {
 }
 
 void Strip::showCurrent() {
-    // Later: one of them may be the button whose press is being handled.
+    // Later: the press of one of them may be under way.
     for (auto* button : buttonRow_->findChildren<QPushButton*>()) {
         buttons_->removeWidget(button);
         button->hide();
@@ -81,7 +81,7 @@ void Strip::showCurrent() {
     setAccessibleName(text);
     const auto withdrawn = [topic = current->topic](std::function<void()> press) {
         return [topic, press = std::move(press)] {
-            withdrawMessage(std::string(topic)); // this function goes with its button, but later
+            withdrawMessage(std::string(topic)); // deletes the button and this function, but later
             if (press)
                 press();
         };
@@ -109,7 +109,7 @@ void Strip::resizeEvent(QResizeEvent* event) {
     arrangeButtons();
 }
 
-/// Side by side, or one below the other where there isn't room for that.
+/// Side by side, or one above the other where there is too little room.
 void Strip::arrangeButtons() {
     int needed = 0;
     for (const auto* button : buttonRow_->findChildren<QPushButton*>())

@@ -7,9 +7,8 @@ class QBoxLayout;
 class QLabel;
 class QPushButton;
 
-/// Shows the current message of UserMessages.h, in words and with its buttons; without one it is
-/// hidden. To a screen reader it is an alert that has the message's text as its name. It never
-/// takes the keyboard by itself.
+/// Shows the current message of UserMessages.h with its buttons. Hidden without a message. To a
+/// screen reader it is an alert named by the message's text. It never takes the focus by itself.
 class Strip final : public QFrame {
 public:
     explicit Strip(QWidget* parent);

@@ -15,7 +15,7 @@ int pipeEnds[2] = {-1, -1}; // to read, to write
 
 void wakeEventLoop(int) {
     const int savedErrno = errno;
-    // A full pipe already holds a wake-up call.
+    // If the pipe is full, there already is a wake-up call in it.
     [[maybe_unused]] const ssize_t written = write(pipeEnds[1], "", 1);
     errno = savedErrno;
 }

@@ -3,6 +3,6 @@
 
 #include <functional>
 
-/// From now on SIGTERM, SIGINT and SIGHUP don't kill the program but have `onSignal` called from
-/// its event loop. Processes that it starts get the signals' usual effect. Called once.
+/// From now on SIGTERM, SIGINT and SIGHUP don't kill the program. Its event loop calls `onSignal`
+/// instead. Processes that it starts get the usual effect. Call it once.
 void handleTerminationSignals(std::function<void()> onSignal);

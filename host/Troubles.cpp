@@ -69,7 +69,7 @@ std::string textOfUnusableFile(const CFString* domain) {
     return {};
 }
 
-/// The first of the domains with values that aren't saved; null when there is none.
+/// The first domain with unsaved values. Null when there is none.
 const CFString* unsavedDomain() {
     for (const CFString* domain : preferencesDomainsInUse())
         if (preferencesAreUnsaved(domain))
@@ -79,7 +79,7 @@ const CFString* unsavedDomain() {
 
 using Buttons = std::vector<UserMessage::Button>;
 
-/// Asks for a place and saves a copy there; then tells how that went, with the same buttons.
+/// Asks where to save a copy and saves it. Then says how that went, with the same buttons.
 void saveCopy(const Buttons& buttons) {
     const CFString* domain = unsavedDomain();
     if (!domain)

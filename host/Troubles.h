@@ -4,25 +4,25 @@
 #include <functional>
 #include <string>
 
-// What the platform layer knows to have gone wrong, in words for the user. The pane's own modules
-// stay silent.
+// Words for what the platform layer knows to have gone wrong. The pane's own modules report
+// nothing.
 
-/// Tells of settings files that can't be read or written. For when the pane has been opened.
+/// Reports settings files that can't be read or written. Call it when the pane is open.
 void tellOfUnusableFiles();
 
-/// From now on tells of a started application that doesn't come up or keeps ending, with a button
-/// to start it again, until it is well.
+/// From now on reports a started application that doesn't come up or keeps ending, with a button to
+/// start it again, until it is up.
 void tellOfLaunches();
 
-/// From now on tells while what isn't stored yet can't be kept for the case of a crash either.
+/// From now on reports while unsaved changes can't be kept in a file either.
 void tellOfUnkeptChanges();
 
-/// Why settings aren't saved, in words that follow a colon. Empty when all are.
+/// Why settings aren't saved, as words after a colon. Empty when all are.
 std::string whyNotSaved();
 
-/// Tells that settings aren't saved, and why. `tryAgain` and `leave` are what the user may choose;
-/// a copy for the user to keep is made here.
+/// Reports that settings aren't saved, and why. The user can choose `tryAgain` or `leave`, or save
+/// a copy.
 void tellNotSaved(std::function<void()> tryAgain, std::function<void()> leave);
 
-/// After a later success.
+/// Call it after a later success.
 void withdrawNotSaved();

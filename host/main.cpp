@@ -22,19 +22,19 @@
 
 namespace {
 
-/// Letters typed this close together, in milliseconds, look for one entry of a list: the usual 400
-/// leave a slow hand no second letter.
+/// Milliseconds between typed letters that look up one list entry. The usual 400 are too few for a
+/// slow hand.
 constexpr int kSlowTypingMs = 2000;
 
-/// How long a service waits for the request that it was started for, in milliseconds.
+/// Milliseconds that a service waits for the request that it was started for.
 constexpr int kServicePatienceMs = 10'000;
 
 enum ExitStatus { kDone = 0, kFailed = 1, kMisused = 2 };
 
 constexpr const char* kPlatformVariable = "QT_QPA_PLATFORM";
 
-/// Qt's platform. Null when there is no display. X11 comes first because on Wayland no program may
-/// place a window over all screens.
+/// Qt's platform. Null without a display. X11 comes first, because on Wayland no program can place
+/// a window over all screens.
 const char* choosePlatform(Arguments::Task task) {
     if (task == Arguments::Task::Check)
         return "offscreen";
@@ -65,7 +65,7 @@ bool load(PaneHost& host, const std::string& bundle, Arguments::Task task) {
     return errors.empty();
 }
 
-/// The pane's host, which opens it at the first request.
+/// The pane's host. It opens the pane at the first request.
 struct Visit {
     PaneHost host;
     bool isReady = false;
@@ -92,7 +92,7 @@ struct Visit {
     }
 };
 
-/// Shows the pane until its window is closed: at once, or as a service at the first request.
+/// Shows the pane until its window is closed; a service shows it at the first request.
 int show(const Arguments& arguments, const QVariantMap& activation) {
     Visit visit;
     const auto comply = [&](const ShowRequest& request) { visit.comply(request); };
@@ -124,7 +124,7 @@ int show(const Arguments& arguments, const QVariantMap& activation) {
     return QApplication::exec();
 }
 
-/// Qt itself knows a language's direction only together with its own texts in it.
+/// Qt knows a language's direction only if it has its own texts in that language.
 void followDirection() {
     const QFileInfo folder(QString::fromStdString(localizationFolder()));
     if (const QString language = folder.completeBaseName(); !language.isEmpty())
@@ -144,15 +144,15 @@ int run(const Arguments& arguments, int argc, char** argv) {
         qputenv(kPlatformVariable, platform);
     QApplication application(argc, argv);
     if (!isChosen)
-        qunsetenv(kPlatformVariable); // not the choice of the programs that are started from here
+        qunsetenv(kPlatformVariable); // programs started from here choose for themselves
     if (arguments.task != Arguments::Task::Check)
         loadOwnLocalizations();
-    // QApplication takes on the user's locale. Texts are made with a point, which localizedNumbers
-    // makes the user's own sign.
+    // QApplication sets the user's locale. Texts are made with a decimal point; localizedNumbers
+    // replaces it.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("korvex-preferences"));
     QApplication::setDesktopFileName(QStringLiteral("org.korvex.Preferences"));
-    // For window managers that don't look into desktop entries.
+    // For window managers that don't read desktop entries.
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.korvex.Preferences")));
     if (arguments.task != Arguments::Task::Check) {
         followDirection();
@@ -166,7 +166,7 @@ int run(const Arguments& arguments, int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
-    // What is written to a reader that has gone must not end the program before it has saved.
+    // Writing to a reader that is gone must not end the program before it has saved.
     std::signal(SIGPIPE, SIG_IGN);
     const Arguments arguments = parseArguments(argc, argv);
     switch (arguments.task) {

@@ -3,6 +3,6 @@
 
 #include "src/prefs.h"
 
-/// What the settings are for somebody who has stored none: the administrator's, from the domain of
-/// all users, else the factory's.
+/// The settings of somebody who has stored none: the administrator's from all users' domain, else
+/// the factory defaults.
 PrefsRecord defaultRecord();

@@ -5,17 +5,17 @@
 
 #include <bitset>
 
-/// Some of the settings, by their place in kSettings. A state of all settings is a record; what
-/// tells two states apart is such a set.
+/// A set of settings, by their index in kSettings. A state of all settings is a record; the
+/// difference between two states is such a set.
 using SettingSet = std::bitset<kSettings.size()>;
 
 SettingSet differences(const PrefsRecord& a, const PrefsRecord& b);
 
-/// What changing those settings reports: the groups of all of them.
+/// The groups that a change of those settings reports.
 ChangeMask changesOf(const SettingSet& settings);
 
 /// Copies those settings and no other byte.
 void copySettings(const SettingSet& settings, const PrefsRecord& from, PrefsRecord& to);
 
-/// The first of them; kSettings.size() when there is none.
+/// The index of the first one. kSettings.size() when there is none.
 std::size_t firstOf(const SettingSet& settings);

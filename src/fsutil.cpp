@@ -7,7 +7,7 @@ namespace {
 
 constexpr SInt16 kForkNotOpen = -1;
 
-/// A file's data fork, closed at the end of its scope.
+/// A file's data fork, closed at the end of the scope.
 class DataFork {
 public:
     explicit DataFork(const CFURL* url) : refNum_(openURLDataFork(url, &size_)) {}
@@ -24,7 +24,7 @@ public:
 
     UInt32 size() const { return size_; }
 
-    /// Whether all of it could be read.
+    /// Whether everything could be read.
     bool read(std::int64_t start, std::size_t length, UInt8* bytes) const {
         std::size_t actual = 0;
         return FSReadFork(refNum_, fsFromStart, start, length, bytes, &actual) == noErr &&

@@ -17,10 +17,10 @@ struct ByValue {
     }
 };
 
-/// The icon registered for each file; Icon Services owns the icons.
+/// The registered icon of each file. Icon Services owns the icons.
 std::unordered_map<CFRef<CFNumber>, IconRef, ByHash, ByValue> iconCache;
 
-/// How many registrations have been tried. Registration k is of icon type k; none is used twice in
+/// The number of attempted registrations. Attempt k uses icon type k, so no type is used twice in
 /// the process.
 UInt32 lastIconType = 0;
 

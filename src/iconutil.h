@@ -7,11 +7,11 @@
 #include "platform/IconServices/Icons.h"
 #include "platform/QuickDraw/QuickDraw.h"
 
-// Icons from icon-family files, registered under the agent's creator code and kept from
-// iconUtilSetup to iconUtilCleanup, one visit of the pane. In between, a file that could be read is
-// read once. Icons are borrowed until the cleanup; null when missing or damaged.
+// Icons from icon-family files. They are registered under the agent's creator code and cached from
+// iconUtilSetup to iconUtilCleanup, during one visit. A readable file is read once. Icons are
+// borrowed until the cleanup. Null when missing or damaged.
 
-/// Starts with nothing kept.
+/// Begins with an empty cache.
 void iconUtilSetup();
 
 /// Unregisters all icons.
@@ -19,16 +19,16 @@ void iconUtilCleanup();
 
 IconRef iconUtilGetIconFile(const CFURL* url);
 
-/// The bundle's resource `name`.icns; null for a null name.
+/// The bundle's resource `name`.icns. Null for a null name.
 IconRef iconUtilGetBundlesResourceIcon(const CFBundle* bundle, const CFString* name);
 IconRef iconUtilGetResourceIcon(const CFString* name); ///< of the main bundle
 
-/// Plots the icon into the current port; nothing without a port.
+/// Plots the icon into the current port. Does nothing without a port.
 void iconUtilPlotIcon(const Rect& rect, IconAlignmentType alignment, IconTransformType transform,
                       IconRef icon);
 
-/// Makes the icon, or nothing if it is null, the button's content.
+/// Makes the icon the button's content; a null icon means no content.
 void iconUtilSetControlButtonContentIcon(ControlButtonContentInfo* content, IconRef icon);
 
-/// What icons are kept by: the hash of the file's URL, as a signed 32-bit number.
+/// The key in the cache: the hash of the file's URL, as a signed 32-bit number.
 CFRef<CFNumber> createHashKeyForURL(const CFURL* url);

@@ -7,7 +7,7 @@ namespace {
 
 constexpr SInt32 kPictureFileHeaderSize = 512;
 
-/// The URL of the bundle's resource at the top level; null without a bundle.
+/// The URL of the bundle's resource at the top level. Null without a bundle.
 CFRef<CFURL> resourceURL(const CFBundle* bundle, const CFString* name, const CFString* type) {
     return bundle ? CFBundleCopyResourceURL(bundle, name, type, nullptr) : nullptr;
 }

@@ -9,10 +9,10 @@
 
 namespace {
 
-// How keyChars describes a key.
+// Bits of an entry of keyChars.
 constexpr UInt32 kKeyCharString = 0x80000000; ///< the low 16 bits index keyStrings
 constexpr UInt32 kKeyCharKeypad = 0x40000000;
-constexpr UInt32 kKeyCharFn = 0x20000000; ///< fn must be held where F-keys have special functions
+constexpr UInt32 kKeyCharFn = 0x20000000; ///< needs fn when F-keys have special functions
 constexpr UInt32 kKeyCharMask = 0x0000FFFF;
 
 constexpr const char* keyStrings[] = {
@@ -70,7 +70,7 @@ constexpr UInt32 kp(char16_t character) {
     return kKeyCharKeypad | character;
 }
 
-// The symbols of keys, as Apple prints them on its keyboards.
+// Symbols of keys, as on Apple's keyboards.
 constexpr char16_t kControlSymbol = 0x2303;
 constexpr char16_t kCommandSymbol = 0x2318;
 constexpr char16_t kShiftSymbol = 0x21E7;

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The square of how far two colours are apart.
+/// The square of the distance of two colours.
 int distance(const LineColor& a, const LineColor& b) {
     const int red = a.red - b.red, green = a.green - b.green, blue = a.blue - b.blue;
     return red * red + green * green + blue * blue;

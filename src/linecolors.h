@@ -11,7 +11,7 @@ struct NamedColor {
     LineColor color;
 };
 
-/// The twelve of strongest contrast with one another, from Kenneth Kelly's list of 1965.
+/// Twelve colours of strongest contrast with one another, from Kenneth Kelly's list of 1965.
 inline constexpr NamedColor kLineColors[] = {
     {LOCALIZABLE("Colour", "White"), {255, 255, 255}},
     {LOCALIZABLE("Colour", "Black"), {0, 0, 0}},
@@ -27,6 +27,6 @@ inline constexpr NamedColor kLineColors[] = {
     {LOCALIZABLE("Colour", "Blue"), {0, 83, 138}},
 };
 
-/// The colour in words, in UTF-8: its name, or the one that comes closest with its code behind it,
-/// as in "Red (#640000)".
+/// The colour in words, in UTF-8: its name, or the nearest name and the colour's code, such as "Red
+/// (#640000)".
 std::string lineColorText(const LineColor& color);

@@ -63,7 +63,7 @@ std::optional<std::string> sendToWindow(const SettingSet& settings, const PrefsR
     switch (AESend(&event, &reply, kAEWaitReply, kPatience)) {
     case noErr:
         return "";
-    case errAEEventNotHandled: // the program is there, but shows no window yet, or no more
+    case errAEEventNotHandled: // the program shows no window yet, or no more
     case procNotFound:
         return std::nullopt;
     case errAETimeout:

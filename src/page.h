@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-/// Opens the one page of its kind, which `page` keeps, in the place of the window's content, from
-/// the bundle's form of that name. Does nothing while it is open, or without the form; what is
-/// wrong with the form goes to the standard error. The target isn't owned; `bundle` may be null.
+/// Opens the page, of which there is one, kept in `page`. It is shown in place of the window's
+/// content, from the bundle's form of that name. Does nothing while it is open or without the form.
+/// Faults of the form go to standard error. The target isn't owned; `bundle` may be null.
 template <class Page, class Target>
 void openPage(std::unique_ptr<Page>& page, const char* name, const CFBundle* bundle,
               NSWindow window, Target& target) {

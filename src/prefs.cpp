@@ -18,14 +18,14 @@ namespace {
 
 bool prefsNeedSaving = false;
 
-/// What is known of a setting. A save writes it for sure when it was chosen here; else it yields to
-/// what another program stored since it was loaded.
+/// What is known about a setting. If it was chosen here, a save writes it in any case. Else it
+/// gives way to what another program has stored since it was loaded.
 struct SettingState {
     CFRef<const CFType> loaded; ///< as stored when it was loaded; null: not there
-    bool isChosen = false;      ///< and not saved since
+    bool isChosen = false;      ///< and not saved since then
 };
 
-/// One a row of kSettings. Never destroyed: an exit handler may save.
+/// One for each row of kSettings. Never destroyed: an exit handler may save.
 auto& settingStates = *new std::array<SettingState, kSettings.size()>;
 
 PrefsRecord stored;   ///< the record when it was last loaded or saved

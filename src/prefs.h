@@ -5,14 +5,14 @@
 
 #include <cstddef>
 
-/// The agent's bundle identifier, which is also the preference domain of all settings. The pane's
-/// own identifier is this one followed by ".PrefsPane".
+/// The agent's bundle identifier, and the preference domain of all settings. The pane's own
+/// identifier is this one followed by ".PrefsPane".
 inline constexpr char kAgentBundleIDText[] = "org.korvex.Agent";
 /// The agent application's name in the pane's bundle.
 inline constexpr char kAgentApplicationName[] = "Korvex Agent.app";
 extern const CFString* const kAgentBundleID;
 
-/// The groups of settings that a change touched.
+/// The groups of settings in a change.
 using ChangeMask = UInt32;
 
 enum : ChangeMask {
@@ -29,7 +29,7 @@ enum : ChangeMask {
     kChangeOnOff = 0x1000,
     kChangeForceOnOff = 0x2000, ///< quit the agent when off, launch it when on
     kChangeLaunch = 0x8000,
-    // The pending steps of the palette's button size; these three never leave the pane.
+    // Pending steps of the palette's button size. These three never leave the pane.
     kChangeButtonHeightBump = 0x20000000,
     kChangeButtonWidthBump = 0x40000000,
     kChangeButtonSizeBump = 0x80000000,
@@ -41,16 +41,16 @@ constexpr int kNumPaletteSlots = 9;
 constexpr int kMinButtonSize = 20; ///< points, as is the next; of a palette button's side
 constexpr int kMaxButtonSize = 100;
 
-// Doubles sit at 4-byte alignment in the record, as in the agent.
+// Doubles have 4-byte alignment in the record, as in the agent.
 #pragma pack(push, 4)
 
-/// A hot key; its place in the record is its role.
+/// A hot key. Its index in the record is its role.
 struct HotKey {
     SInt32 keyCode;   ///< virtual key code; negative (bit 31 set): no key assigned
     UInt32 modifiers; ///< Carbon modifier bits: command, shift, option, control
 };
 
-/// A rectangle on the screen, in global display coordinates; empty when a side is zero or less.
+/// A rectangle in global display coordinates. Empty when a side is zero or less.
 struct ScanArea {
     float x, y, width, height;
 };
@@ -59,14 +59,13 @@ struct LineColor {
     UInt16 red, green, blue; ///< 0 to 255 each
 };
 
-/// Height comes first in memory, width first in the stored text. Points.
+/// In points. Height comes first in memory, width first in the stored text.
 struct ButtonSize {
     SInt16 height, width;
 };
 
-/// Every setting of the agent: 340 bytes, little-endian, with fixed offsets. The image goes to the
-/// agent as it stands, padding included. Flags hold 0 or 1. The initial values are the factory
-/// defaults.
+/// Every setting of the agent: 340 bytes, little-endian, with fixed offsets. The agent gets these
+/// bytes, padding included. Flags are 0 or 1. The initial values are the factory defaults.
 struct PrefsRecord {
     UInt8 on = 1; ///< the agent's master switch
     UInt8 playClickSounds = 1;
@@ -170,61 +169,61 @@ static_assert(offsetof(PrefsRecord, buttonContent) == 320);
 static_assert(offsetof(PrefsRecord, buttonActions) == 324);
 static_assert(offsetof(PrefsRecord, reservedTail) == 336);
 
-/// Whether the area can be scanned: neither side is zero or less.
+/// Whether the area can be scanned: both sides are greater than zero.
 inline bool isUsable(const ScanArea& area) {
     return area.width > 0 && area.height > 0;
 }
 
-/// The one record. Its fields are read and written in place; whoever changes one reports it to the
-/// wrangler, or calls prefsWereChanged.
+/// The one record. Its fields are read and written in place. Whoever changes one tells the wrangler
+/// or calls prefsWereChanged.
 extern PrefsRecord prefs;
 
-/// Loads every key of the domain over the record's current contents. An absent key, or a text that
-/// doesn't parse, leaves its field as it is. Neither synchronises the domain nor marks a change.
+/// Loads every key of the domain into the record. A missing key, or a text that doesn't parse,
+/// leaves its field unchanged. Neither synchronises the domain nor marks a change.
 void prefsSetup();
 
-/// Writes every key and synchronises the domain once; returns whether that succeeded. A setting
-/// that wasn't changed here since it was loaded or saved yields to what another program stored
+/// Writes every key and synchronises the domain once. True on success. A setting that hasn't
+/// changed here since it was loaded or saved gives way to what another program has stored
 /// meanwhile.
 bool savePrefs();
 
-/// Marks the record as in need of saving.
-/// `chosen`, if not null, is a field of `prefs` that counts as changed though it may be as before.
+/// Marks the record for saving. `chosen` (may be null) is a field of `prefs` that counts as changed
+/// even if its value is the same.
 void prefsWereChanged(const void* chosen = nullptr);
 void prefsWerentChanged();
 
-/// Has the changes outlast a crash (recovery.h).
+/// Keeps the changes in a file that survives a crash (recovery.h).
 void prefsKeepChanges();
 
-/// Whether the record is as it was when it was last loaded or saved.
+/// Whether the record is the same as when it was last loaded or saved.
 bool prefsAreAsStored();
 
-/// Saves when the record was changed since it was last saved, else does nothing.
+/// Saves if the record has changed since it was last saved.
 void prefsFlushChanges();
 
-/// The same, but what an earlier save couldn't write is tried again. False when something isn't
-/// saved now.
+/// The same, but also retries what an earlier save couldn't write. False when something isn't
+/// saved.
 bool prefsCommit();
 
-/// As prefsFlushChanges; called when the pane is put away.
+/// As prefsFlushChanges. Called when the pane is put away.
 void prefsCleanup();
 
-/// A single key, stored as "0x%08lx": 0 when it is absent or doesn't parse.
+/// A single key, stored as "0x%08lx". 0 when it is missing or doesn't parse.
 UInt32 prefsGetUnsignedValue(const CFString* key);
-/// Sets the key at once; the next flush synchronises.
+/// Sets the key at once. The next flush synchronises.
 void prefsSetUnsignedValue(const CFString* key, UInt32 value);
 
-// One accessor a notation (prefsnotation.h). Texts are in Mac OS Roman.
+// One accessor for each notation (prefsnotation.h). Texts are in Mac OS Roman.
 
-/// A text that isn't valid in Mac OS Roman isn't stored.
+/// A text that isn't valid Mac OS Roman isn't stored.
 void setPrefStr(const CFString* key, const char* text);
 void setPrefDouble(const CFString* key, double value);
 void setPrefSInt32(const CFString* key, SInt32 value);
 void setPrefUInt32(const CFString* key, UInt32 value);
 
-/// False, with `buffer` untouched, when the key is absent or isn't a text; false, with an empty
-/// text in the buffer, when it doesn't fit `bufferSize` bytes or can't be converted.
+/// False with `buffer` unchanged when the key is missing or no text. False with an empty text in
+/// the buffer when it doesn't fit in `bufferSize` bytes or can't be converted.
 bool getPrefStr(const CFString* key, char* buffer, CFIndex bufferSize);
-/// The target changes only when the key holds a text of that notation.
+/// The target changes only if the key has a text in that notation.
 void getPrefDouble(const CFString* key, double* value);
 void getPrefUInt32(const CFString* key, UInt32* value);

@@ -25,7 +25,7 @@ bool set(void* field, const T& value) {
     return true;
 }
 
-/// While it lives, this thread's numbers have a point, whatever the user's language.
+/// While it exists, this thread's numbers have a decimal point, whatever the user's language.
 class PointLocale {
 public:
     PointLocale() : previous_(uselocale(portable())) {}
@@ -44,7 +44,8 @@ private:
     locale_t previous_;
 };
 
-/// Reads a conversion a part from a text shorter than `Size` bytes; false unless all are there.
+/// Reads one conversion for each part, from a text shorter than `Size` bytes. False unless all are
+/// there.
 template <std::size_t Size, class... Parts>
 bool scan(const CFType* value, const char* format, Parts*... parts) {
     char text[Size];
@@ -53,7 +54,7 @@ bool scan(const CFType* value, const char* format, Parts*... parts) {
            std::sscanf(text, format, parts...) == int{sizeof...(parts)};
 }
 
-/// Null when the text has `Size` bytes or more: no reader would take it.
+/// Null when the text has `Size` bytes or more, which no reader takes.
 template <std::size_t Size, class... Parts>
 CFRef<const CFString> print(const char* format, Parts... parts) {
     char text[Size];
@@ -125,7 +126,7 @@ CFRef<const CFString> writeColour(const void* field) {
 }
 
 bool readText(const CFType* value, void* field) {
-    // One byte less than the field has: what the agent reads back is at most 98 characters.
+    // One byte less than the field, since the agent reads back at most 98 characters.
     return copyStoredText(value, static_cast<char*>(field),
                           sizeof(PrefsRecord::pointerImageName) - 1);
 }
@@ -150,7 +151,7 @@ CFRef<const CFString> writeSize(const void* field) {
     return print<100>("(%d,%d)", size.width, size.height);
 }
 
-/// Fetches a list's text; false when it is no list.
+/// Copies a list's text. False when it is no list.
 bool copyList(const CFType* value, char (&text)[1000]) {
     return copyStoredText(value, text, sizeof text) && text[0] == '[';
 }
@@ -162,7 +163,7 @@ CFRef<const CFString> list(const std::string& entries) {
     return CFStringCreateWithCString(text.c_str(), kCFStringEncodingMacRoman);
 }
 
-/// `steps` characters on, or the end of the text if that comes first.
+/// `steps` characters further, but at most the end of the text.
 const char* skip(const char* text, int steps) {
     while (steps-- > 0 && *text)
         ++text;

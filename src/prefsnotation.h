@@ -3,13 +3,13 @@
 
 #include "src/prefs.h"
 
-/// How one kind of setting is stored: as a text of its own, which the comments below show.
-/// A field is copied, never used in place: doubles lie at 4-byte alignment in the record.
+/// How one kind of setting is stored: as a text, shown in the comments below. A field is copied,
+/// never used in place: doubles have 4-byte alignment in the record.
 struct PrefsNotation {
-    /// Takes a stored value over into the field. False, and the field is as it was, when the value
-    /// isn't written so; a list may have set some of its entries.
+    /// Reads a stored value into the field. False when the value has another notation; the field is
+    /// then unchanged, but a list may have set some of its entries.
     bool (*read)(const CFType* value, void* field);
-    /// The text to store, or null when there is none for the field.
+    /// The text to store. Null when the field has none.
     CFRef<const CFString> (*write)(const void* field);
 };
 
@@ -25,6 +25,6 @@ extern const PrefsNotation kHotKeyListNotation; ///< HotKey[5]: "[ {0x7,0x1200} 
 extern const PrefsNotation kSizeNotation;       ///< ButtonSize: "(%ld,%ld)", width first
 extern const PrefsNotation kActionListNotation; ///< UInt8[9]: "[ 20 21 … 0]"
 
-/// Copies a string value into `buffer`, in Mac OS Roman. False, with the buffer untouched, when it
-/// is null or no string; false, with an empty text, when it doesn't fit or can't be converted.
+/// Copies a string value into `buffer`, in Mac OS Roman. False with the buffer unchanged when it is
+/// null or no string. False with an empty text when it doesn't fit or can't be converted.
 bool copyStoredText(const CFType* value, char* buffer, CFIndex bufferSize);

@@ -7,20 +7,20 @@
 
 #include <functional>
 
-/// The property list in the file; null when it can't be read or its root isn't of the type.
+/// The property list in the file. Null when it can't be read or its root has another type.
 CFRef<const CFType> propUtilReadFile(const CFURL* url, CFTypeID expectedType);
 
-/// The same for the bundle's resource `name`.plist; null as well without a bundle or resource.
+/// The same for the bundle's resource `name`.plist. Null also without a bundle or resource.
 CFRef<const CFType> propUtilReadResourceFile(const CFBundle* bundle, const CFString* name,
                                              CFTypeID expectedType);
 
 /// The key's value if it is a string, else null. Borrowed from the dictionary.
 const CFString* propUtilGetDictString(const CFDictionary* dictionary, const CFString* key);
 
-/// The same, with a reference of the caller's own.
+/// The same with a reference for the caller.
 CFRef<const CFString> propUtilGetRetainedDictString(const CFDictionary* dictionary,
                                                     const CFString* key);
 
-/// Calls the function for every item in order, with its index from 0.
+/// Calls the function for each item in order, with its index from 0.
 void propUtilForEachArrayItemDo(
     const CFArray* array, const std::function<void(const CFType* item, CFIndex index)>& function);

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Reads a decimal number that an int can hold, and moves the text behind it.
+/// Reads a decimal number of int's range and moves the text behind it.
 std::optional<int> takeNumber(const char** text) {
     char* end;
     const long number = std::strtol(*text, &end, 10);
@@ -22,7 +22,7 @@ std::optional<int> takeNumber(const char** text) {
     return static_cast<int>(number);
 }
 
-/// The hot spot in a text that begins with "+XxY".
+/// The hot spot at the beginning of a text, as "+XxY".
 std::optional<CGPoint> hotSpotIn(const char* suffix) {
     const char* text = suffix + 1;
     const auto x = takeNumber(&text);
@@ -34,13 +34,13 @@ std::optional<CGPoint> hotSpotIn(const char* suffix) {
     return CGPoint{static_cast<CGFloat>(*x), static_cast<CGFloat>(*y)};
 }
 
-/// What the name's last '+' begins, if that gives a hot spot.
+/// The hot spot after the name's last '+', if it has one.
 std::optional<CGPoint> hotSpotOf(const char* name) {
     const char* suffix = std::strrchr(name, '+');
     return suffix ? hotSpotIn(suffix) : std::nullopt;
 }
 
-/// Whether there is a regular file of that name in the folder itself: a link could lead out of it.
+/// Whether the folder itself has a regular file of that name. A link could lead outside.
 bool isPointer(const CFBundle* bundle, const CFString* name) {
     if (name->text().find(u'/') != std::u16string::npos)
         return false;

@@ -28,13 +28,13 @@ std::string choiceWords(const Setting& setting) {
 }
 
 bool isWithin(const SettingLimits& limits, double value) {
-    return value >= limits.minimum && value <= limits.maximum; // false for what is no number
+    return value >= limits.minimum && value <= limits.maximum; // false if it is no number
 }
 
-/// A choice or a word of bits, as the record has it.
+/// A choice or a word of bits in the record.
 UInt32 wordIn(const Setting& setting, const PrefsRecord& record) {
     UInt32 word = 0;
-    std::memcpy(&word, setting.in(record), setting.size); // little-endian, as the record is
+    std::memcpy(&word, setting.in(record), setting.size); // little-endian, like the record
     return word;
 }
 
@@ -54,7 +54,7 @@ std::string bare(const CFString* text) {
     return result;
 }
 
-/// "12.5" and what may stand behind it: the unit, its beginning, or %.
+/// "12.5", perhaps followed by the unit, its beginning, or %.
 std::optional<double> numberFrom(std::string words, const std::string& unit) {
     double value;
     std::ranges::replace(words, ',', '.');

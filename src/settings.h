@@ -9,33 +9,32 @@
 #include <span>
 #include <string_view>
 
-/// What a number may be and how it is stepped and shown.
+/// A number's limits, step and format.
 struct SettingLimits {
     double minimum = 0;
     double maximum = 0;
-    double step = 0;              ///< of the minus and plus buttons; 0: the value isn't stepped
+    double step = 0;              ///< of the minus and plus buttons; 0: no steps
     const char* format = nullptr; ///< printf, exactly one double conversion; null: not a number
     const char* unit = "";        ///< in words; empty: none
-    int pageSteps = 10;           ///< steps that the buttons for many of them go
+    int pageSteps = 10;           ///< steps of the buttons for many steps
 };
 
-/// The kind of object that the wrangler's outlet for the setting takes.
+/// The type of the wrangler's outlet for the setting.
 enum class SettingControl { other, slider, bumper, check };
 
-/// All that is said of one setting: how it is stored, where it lies in the record, what a change of
-/// it reports, what it is called and what it may be. Everything else that concerns all settings is
-/// derived from the rows of kSettings. Texts live for ever; none is null where not said. Names,
-/// formats, units and choices are English: `localized` has them in the tables that they are marked
-/// with.
+/// Everything about one setting: its storage, its place in the record, what a change reports, its
+/// name and its valid values. Everything else about settings is derived from the rows of kSettings.
+/// Texts live as long as the process; an omitted one is null or empty. Names, formats, units and
+/// choices are English; `localized` has translations in the marked tables.
 struct Setting {
     const char* key;               ///< in the domain kAgentBundleID
-    const PrefsNotation* notation; ///< of the stored text, and with it the field's type
+    const PrefsNotation* notation; ///< of the stored text; implies the field's type
     std::size_t offset;            ///< of the field in PrefsRecord
     std::size_t size;              ///< of the field, in bytes
-    ChangeMask changes;            ///< the groups that a change of it reports; 0 for none
+    ChangeMask changes;            ///< the groups that a change reports; 0 for none
     const char* name;              ///< in words, as in "Line scan time: 12.5 sec"
     SettingLimits limits = {};
-    std::span<const char* const> choices = {}; ///< a choice's values in words, from 0 on
+    std::span<const char* const> choices = {}; ///< the values of a choice in words, from 0
     SettingControl control = SettingControl::other;
     const char* outlet = nullptr; ///< the wrangler's, of the control; null for `other`, which has
                                   ///< an outlet outside of this table or none
@@ -187,7 +186,7 @@ inline constexpr Setting kRows[] = {
 #undef CHECK
 #undef ACTION
 
-/// Whether each field lies after the one before.
+/// Whether each field comes after the one before.
 consteval bool isInRecordOrder() {
     std::size_t end = 0;
     for (const Setting& row : kRows) {
@@ -204,7 +203,7 @@ static_assert(isInRecordOrder());
 
 inline constexpr std::span<const Setting> kSettings = settingrows::kRows;
 
-/// The one with its field at that offset, which must be one's.
+/// The setting whose field is at that offset. There must be one.
 constexpr const Setting& settingAt(std::size_t offset) {
     std::size_t row = 0;
     while (kSettings[row].offset != offset)
@@ -212,7 +211,7 @@ constexpr const Setting& settingAt(std::size_t offset) {
     return kSettings[row];
 }
 
-/// Null when there is none of that key.
+/// Null when no setting has that key.
 inline const Setting* settingOfKey(std::string_view key) {
     for (const Setting& setting : kSettings)
         if (key == setting.key)

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Takes one value over; returns why it can't be, or an empty text.
+/// Takes one value. Returns the reason why not, or an empty text.
 std::string take(const std::string& key, const CFType* value, SettingsOffer& offer) {
     const Setting* setting = settingOfKey(key);
     if (!setting)

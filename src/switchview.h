@@ -4,9 +4,9 @@
 #include "platform/AppKit/NSAccessibility.h"
 #include "platform/AppKit/NSView.h"
 
-/// A view that takes what a switch can be: any key but Tab and Escape, any mouse button, and the
-/// accessibility action. A key that is held down is one press. Moments are those of the events
-/// themselves, in seconds of GetCurrentEventTime's clock.
+/// A view that takes every input a switch can send: any key but Tab and Escape, any mouse button,
+/// and the accessibility action. A key that is held down is one press. Moments are those of the
+/// events, in seconds on GetCurrentEventTime's clock.
 class SwitchView : public NSView, public NSAccessibilityButton {
 public:
     void mouseDown(NSEvent* event) override;
@@ -22,10 +22,10 @@ public:
 protected:
     virtual void pressed(double moment) = 0;
     virtual void released(double moment) = 0;
-    /// Assistive technology made a press; it has no length.
+    /// Assistive technology made a press, which has no length.
     virtual void acted(double moment) = 0;
     virtual void escaped(NSEvent& event) = 0;
 
-    /// In the current colour; wider while the view has the keyboard.
+    /// In the current colour; wider while the view has the focus.
     void drawFrame() const;
 };

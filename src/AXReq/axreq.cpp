@@ -21,7 +21,7 @@ constexpr ControlID kNeverAgain{fourCharCode("axRq"), 100};
 constexpr UInt32 kDismiss = fourCharCode("axCn");
 constexpr UInt32 kOpenSettings = fourCharCode("axOp");
 
-constexpr SInt32 kNever = 0x7FFFFFFF; ///< the day of the last notice, when it is the last for good
+constexpr SInt32 kNever = 0x7FFFFFFF; ///< the stored day that means "never again"
 constexpr EventTimerInterval kSecondsShown = 30.0;
 
 const NibRequirementRegistration nibRequirement([] {
@@ -35,8 +35,8 @@ WindowRef noticeWindow = nullptr;
 WindowRef parentWindow = nullptr; ///< null unless the notice is a sheet
 EventLoopTimerRef noticeTimer = nullptr;
 CFRef<CFBundle> noticeBundle;  ///< null: the main bundle
-bool isNoticeDoubtful = false; ///< it was shown before the system had told whether access is on
-CFRef<const CFType> dayBefore; ///< what was stored before a doubtful notice; null: nothing
+bool isNoticeDoubtful = false; ///< shown before the system's answer was known
+CFRef<const CFType> dayBefore; ///< stored before a doubtful notice; null: nothing
 
 const CFString* lastNoticeKey() {
     return CFSTR("axReqLastNoticeDate");
@@ -56,7 +56,7 @@ bool writeLastNoticeDate(SInt32 day) {
     return CFPreferencesAppSynchronize(kAgentBundleID);
 }
 
-/// As if the notice hadn't been shown.
+/// Restores the stored day, as if the notice hadn't been shown.
 void giveDayBack() {
     CFPreferencesSetAppValue(lastNoticeKey(), dayBefore.get(), kAgentBundleID);
     CFPreferencesAppSynchronize(kAgentBundleID);
@@ -68,7 +68,7 @@ bool isNeverAgainTicked() {
            GetControl32BitValue(control) != 0;
 }
 
-/// Opens the page of the help book that tells where assistive access is switched on.
+/// Opens the help page that says where to switch assistive access on.
 void openHelpPage() {
     const CFBundle* bundle = noticeBundle ? noticeBundle.get() : CFBundleGetMainBundle();
     const auto* book = bundle ? dynamicCFCast<CFString>(CFBundleGetValueForInfoDictionaryKey(
@@ -105,7 +105,7 @@ OSStatus windce(EventHandlerCallRef, EventRef event, void*) {
     }
 }
 
-/// The system has told whether access is on.
+/// The system's answer has come.
 void accessTold() {
     if (noticeWindow && AXAPIEnabled()) {
         if (isNoticeDoubtful)
@@ -151,7 +151,7 @@ void axReqCheckAXEnabled(CFBundle* bundle, WindowRef parent) {
     isNoticeDoubtful = !isAXAPIEnabledKnown();
     dayBefore = CFPreferencesCopyAppValue(lastNoticeKey(), kAgentBundleID);
     setAXAPIEnabledListener(accessTold);
-    // First, so that a notice that can't be shown isn't tried again until tomorrow.
+    // First, so that a notice that can't be shown isn't tried again before tomorrow.
     writeLastNoticeDate(day);
 
     if (!createNoticeWindow(bundle, parent ? CFSTR("sheet") : CFSTR("window")))

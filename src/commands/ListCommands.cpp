@@ -16,7 +16,7 @@ std::string storedText(const Setting& setting, const PrefsRecord& record) {
     return text ? toUTF8(text.get()) : "";
 }
 
-/// "1 to 60 seconds", the choices, or nothing.
+/// "1 to 60 seconds", the choices, or an empty text.
 std::string choiceText(const Setting& setting) {
     if (const SettingLimits& limits = setting.limits; limits.maximum > 0) {
         return rangeText(limits);

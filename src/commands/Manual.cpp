@@ -7,7 +7,7 @@
 
 namespace {
 
-/// As roff reads it: a minus is no hyphen, and a line doesn't begin with a point.
+/// Escapes for roff: a minus isn't a hyphen, and no line begins with a point.
 std::string roff(const std::string& text) {
     std::string result = text.starts_with('.') ? "\\&" : "";
     for (const char c : text)

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// As the host takes it: in small letters, with dashes for blanks.
+/// The host's spelling: small letters, with dashes for blanks.
 std::string nameOf(std::string section) {
     std::ranges::transform(section, section.begin(), [](unsigned char c) {
         return c == ' ' ? '-' : static_cast<char>(std::tolower(c));

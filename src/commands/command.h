@@ -6,26 +6,26 @@
 #include <string>
 #include <vector>
 
-/// What follows a command's name on the command line.
+/// The arguments after a command's name.
 struct CommandLine {
     std::vector<std::string> operands;
-    bool json = false; ///< --json: for programs
+    bool json = false; ///< --json: output for programs
     bool yes = false;  ///< --yes: don't ask
     bool help = false; ///< --help: not this, but how
 };
 
 struct Command {
     const char* name;
-    const char* operands; ///< as the help shows them
-    const char* does;     ///< in a sentence
+    const char* operands; ///< as in the help text
+    const char* does;     ///< a sentence
     int (*run)(const CommandLine& line);
-    std::size_t fewest = 0, most = 0; ///< operands; most 0: any number from `fewest` on
+    std::size_t fewest = 0, most = 0; ///< operands; most 0: no upper limit
 };
 
-/// In the order of the help.
+/// In the order of the help text.
 std::span<const Command> commands();
 
-/// In the user's language; empty when the command takes none.
+/// In the user's language. Empty when the command takes none.
 std::string operandsOf(const Command& command);
 
 /// Prints "korvex-preferences: message" to standard error, and returns kCommandFailed.

@@ -61,7 +61,7 @@ int misused(const std::string& message) {
     return kCommandMisused;
 }
 
-/// Splits options from operands; false when an option isn't known. Nothing behind "--" is one.
+/// Separates options from operands. False for an unknown option. Options end at "--".
 bool parse(std::span<const char* const> arguments, CommandLine& line) {
     bool options = true;
     for (const std::string argument : arguments) {

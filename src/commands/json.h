@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-/// An object of texts and numbers, as a text in JSON (RFC 8259).
+/// An object of texts and numbers as JSON text (RFC 8259).
 class JsonObject {
 public:
     JsonObject& add(std::string_view name, std::string_view text);

@@ -19,13 +19,13 @@ std::string savingFault() {
     return outcome.error ? fault + ": " + std::strerror(outcome.error) : fault;
 }
 
-/// The agent's bundle; null when there is none.
+/// The agent's bundle. Null when there is none.
 CFRef<CFURL> agentURL() {
     const CFBundle* pane = paneBundle();
     return pane ? CFBundleCopyAuxiliaryExecutableURL(pane, CFSTR(kAgentApplicationName)) : nullptr;
 }
 
-/// The window does this when it is open.
+/// An open window does this itself.
 void updateLoginItem() {
     if (const auto agent = agentURL())
         launchSetAppIsAutoLaunched(agent.get(), prefs.launchAtLogin != 0, false);

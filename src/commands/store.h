@@ -7,18 +7,18 @@
 
 class CFBundle;
 
-// Where a command finds the settings and brings its changes: the open window, else the stored
-// settings and the running agent.
+// Where a command reads and changes settings: in the open window, else in the stored settings and
+// the running agent.
 
-/// The pane's bundle, borrowed; null without one.
+/// The pane's bundle, borrowed. Null without one.
 const CFBundle* paneBundle();
 
-/// Has the palette's actions known by their titles, which the agent has.
+/// Loads the titles of the palette's actions from the agent.
 void nameActions();
 
-/// The settings as they are now. In an open window a change may be newer than what is stored.
+/// The current settings. An open window may have changes that aren't stored.
 PrefsRecord currentSettings();
 
-/// Makes the settings those of the record and reports what differs. Returns why that failed, in
-/// words; empty when it is done.
+/// Gives those settings the record's values and reports what changed. Returns the reason for a
+/// failure in words, else an empty text.
 std::string changeSettings(const SettingSet& settings, const PrefsRecord& record);

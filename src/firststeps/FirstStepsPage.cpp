@@ -17,10 +17,10 @@
 
 namespace {
 
-/// The one page; null while it isn't open.
+/// The page; null while it isn't open.
 std::unique_ptr<FirstStepsPage> page;
 
-/// In the agent's domain, as the notice's day: true once the page has been left.
+/// A key in the agent's domain, as for the notice's day. True once the page has been left.
 const CFString* seenKey() {
     return CFSTR("firstStepsSeen");
 }
@@ -124,7 +124,7 @@ void FirstStepsPage::findMySpeed(NSButton* sender) {
     leave(sender);
 }
 
-// The page goes a moment later: its button is still at work.
+// The page is deleted a moment later: its button is still at work.
 void FirstStepsPage::leave(NSButton*) {
     if (closing_)
         return;

@@ -13,14 +13,14 @@ class NSMatrix;
 class NSTextField;
 class SliderController;
 
-/// What the page asks of the pane.
+/// What the page needs from the pane.
 class FirstStepsTarget {
 public:
-    /// The page wrote those fields: an edit as any other.
+    /// The page has changed those fields.
     virtual void changed(ChangeMask changes) = 0;
-    /// Opens a page of the help book; the first one for null.
+    /// Opens a page of the help book. Null means the first one.
     virtual void showHelpPage(const CFString* page) = 0;
-    /// The page has gone; the pane's own controls may show what was before.
+    /// The page has closed; the pane's own controls can show the values.
     virtual void loadValues() = 0;
     virtual void openTryPage(NSWindow window) = 0;
 
@@ -28,19 +28,20 @@ protected:
     ~FirstStepsTarget() = default;
 };
 
-/// The page that a user meets first: it shows the switch answer, and asks how it is pressed and how
-/// fast the line shall be, in the fields of `prefs`; it says where help is, and what the agent is.
+/// The page at the first start. It answers presses of the switch. It asks how the switch is pressed
+/// and how fast the line should be, and writes the fields of `prefs`. It says where help is and
+/// what the agent is.
 class FirstStepsPage final : public NSObject, public PressViewTarget {
 public:
     /// The target isn't owned.
     FirstStepsPage(NSWindow window, FirstStepsTarget& target);
     ~FirstStepsPage() override;
 
-    /// Shows the page in the place of the window's content, from the form at `path`. False, with
-    /// the reasons in `errors`, when that can't be loaded.
+    /// Shows the page in place of the window's content, from the form at `path`. False when that
+    /// can't be loaded; `errors` then has the reasons.
     bool show(const std::string& path, std::vector<std::string>& errors);
 
-    /// Brings the page up to date with `prefs` and the agent.
+    /// Shows the present values of `prefs` and the agent's state.
     void update();
 
     std::span<const Outlet> outlets() const override;
@@ -70,15 +71,15 @@ private:
     NSTextField* agentState_ = nullptr;
 };
 
-/// Opens the page in the window; brings nothing about while it is open, or without its form.
+/// Opens the page in the window. Does nothing while it is open, or without its form.
 void firstStepsOpen(const CFBundle* bundle, NSWindow window, FirstStepsTarget& target);
 
-/// The same at a user's first start alone: nothing is stored of any setting, and neither the user
-/// has left the page before nor an administrator has switched it off for all.
+/// The same, but only at the user's first start: no setting is stored, the user hasn't left the
+/// page before, and no administrator has switched it off.
 void firstStepsOffer(const CFBundle* bundle, NSWindow window, FirstStepsTarget& target);
 
-/// Brings the page up to date, if it is open.
+/// Updates the page, if it is open.
 void firstStepsUpdate();
 
-/// Closes the page, if it is open; it counts as not seen.
+/// Closes the page, if it is open. It doesn't count as seen.
 void firstStepsClose();

@@ -85,7 +85,7 @@ void PressView::escaped(NSEvent& event) {
     event.passOn();
 }
 
-// Its end will go elsewhere.
+// The release will go elsewhere.
 bool PressView::resignFirstResponder() {
     isDown_ = false;
     setNeedsDisplay(true);

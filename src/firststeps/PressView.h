@@ -5,7 +5,7 @@
 
 #include <string>
 
-/// Hears of each answer of the view.
+/// Is told when the view's answer changes.
 class PressViewTarget {
 public:
     virtual void answered() = 0;
@@ -17,7 +17,7 @@ protected:
 /// A field that answers presses: it is filled while one lasts, and counts them.
 class PressView final : public SwitchView {
 public:
-    /// Not owned; not null once the view is shown.
+    /// Not owned. Must be set before the view is shown.
     void setTarget(PressViewTarget* target) { target_ = target; }
 
     /// What it has seen so far, in the user's language.
@@ -41,6 +41,6 @@ private:
     PressViewTarget* target_ = nullptr;
     int presses_ = 0;
     bool isDown_ = false;
-    double began_ = 0;  ///< of GetCurrentEventTime's clock
-    double length_ = 0; ///< of the last press, in seconds; 0 for one that has none
+    double began_ = 0;  ///< on GetCurrentEventTime's clock
+    double length_ = 0; ///< of the last press, in seconds; 0 if it has none
 };

@@ -23,14 +23,14 @@ const CFString* listKey() {
     return CFSTR("AutoLaunchedApplicationDictionary");
 }
 
-/// The host that goes with the user; null for a user that is refused.
+/// The host for the user. Null for a user that is refused.
 const CFString* hostOf(const CFString* user) {
     if (user == kCFPreferencesCurrentUser)
         return kCFPreferencesAnyHost;
     return user == kCFPreferencesAnyUser ? kCFPreferencesCurrentHost : nullptr;
 }
 
-/// Whatever is stored as the list; null when nothing is, or the user is refused.
+/// The stored value of the list. Null when there is none, or the user is refused.
 CFRef<const CFType> copyValue(const CFString* user) {
     const CFString* host = hostOf(user);
     return host ? CFPreferencesCopyValue(listKey(), domain(), user, host) : nullptr;
@@ -50,7 +50,7 @@ const char* copyPath(const CFDictionary* item) {
                : nullptr;
 }
 
-/// The last piece of the path that isn't empty, or null.
+/// The last non-empty piece of the path, or null.
 const char* lastPiece(char* path) {
     const char* last = nullptr;
     for (char* piece = std::strtok(path, "/"); piece; piece = std::strtok(nullptr, "/"))

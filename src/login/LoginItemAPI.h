@@ -3,37 +3,37 @@
 
 #include "platform/CoreFoundation/CFString.h"
 
-// The login window's own list of applications that are opened at login: the array of items
-// ("Path", "Hide") that the preference domain "loginwindow" holds under
-// "AutoLaunchedApplicationDictionary". A value of any other type counts as no list, and is kept.
+// The login window's list of applications that are opened at login: an array of items ("Path",
+// "Hide") in the preference domain "loginwindow", under "AutoLaunchedApplicationDictionary". A
+// value of another type counts as no list and isn't changed.
 //
-// `user` is kCFPreferencesCurrentUser, for this user's list, or kCFPreferencesAnyUser, for the list
-// of all users; any other value is refused: 0, false or null. Paths pass in ASCII. Main thread
-// only.
+// `user` is kCFPreferencesCurrentUser for this user's list or kCFPreferencesAnyUser for all users'.
+// Any other value is refused with 0, false or null. Paths are ASCII. Main thread only.
 
-/// What ReturnLoginItemPropertyAtIndex tells of an item.
+/// The properties for ReturnLoginItemPropertyAtIndex.
 enum LoginItemProperty : int {
     kLoginItemFullPath = 1,
     kLoginItemExecutableName = 2, ///< the last part of the path
-    kLoginItemHide = 3,           ///< "true" or "false": hidden once it is open
+    kLoginItemHide = 3,           ///< "true" or "false": hidden once open
 };
 
 /// 0 also when there is no list.
 CFIndex GetCountOfLoginItems(const CFString* user);
 
-/// The text lies in one static buffer, until the next call. Null for an index outside the list, an
-/// item without the property or with one of another type, and a path that has more than 1024
-/// characters or isn't ASCII.
+/// The text is in a static buffer until the next call. Null for an index outside the list, a
+/// missing property or one of another type, and a path that isn't ASCII or is longer than 1024
+/// characters.
 const char* ReturnLoginItemPropertyAtIndex(const CFString* user, int property, CFIndex index);
 
-/// Whether the item was removed and the list stored.
+/// True when the item was removed and the list stored.
 bool RemoveLoginItemAtIndex(const CFString* user, CFIndex index);
 
-/// Appends an item, whether or not the list has one of that path. `hide` is true when it is
-/// exactly 1. A path that isn't ASCII is refused. Returns whether the list was stored.
+/// Appends an item, even if the list has that path already. Only a `hide` of 1 means true. Refuses
+/// a path that isn't ASCII. True when the list was stored.
 bool AddLoginItemWithPropertiesToUser(const CFString* user, const char* path, UInt8 hide);
 
-// Diagnostics, to the standard output. False when the user is refused or an item can't be printed.
+// Diagnostics, printed to standard output. False when the user is refused or an item can't be
+// printed.
 
 bool PrintNumberOfLoginItems(const CFString* user);
 bool PrintOutAllLoginItems(const CFString* user);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr SInt32 kSharedListMinSystemVersion = 0x1070;
 
-/// Whether the system has shared lists; asked once it has told its version.
+/// Whether the system has shared lists. It is asked for its version until it has answered.
 bool hasSharedLists() {
     static SInt32 version = 0;
     if (version == 0 && Gestalt(gestaltSystemVersion, &version) != noErr)

@@ -4,15 +4,14 @@
 #include "platform/CoreFoundation/CFURL.h"
 #include "platform/HIToolbox/Controls.h"
 
-// Opening an application at login: it is put into, and taken out of, the list of this user or the
-// list of all users. A system from 10.7 on has shared lists for that, which are changed only under
-// the right "system.global-login-items." (sharedlists.h); an older one the login window's own
-// (loginwindowlists.h).
+// Opening an application at login: adds it to this user's or all users' list and removes it.
+// Systems from 10.7 on have shared lists, whose changes need the right "system.global-login-items."
+// (sharedlists.h). Older ones have the login window's list (loginwindowlists.h).
 //
-// `appURL` names the application's bundle; null stands for the running program's own. Main thread
-// only. Lists are read anew at every question.
+// `appURL` names the application's bundle; null stands for the running program's. Main thread only.
+// Each question reads the lists again.
 
-/// How two check boxes, for this user and for all users, are to look.
+/// The state of two check boxes, for this user and for all users.
 using LaunchUIState = UInt32;
 
 enum : LaunchUIState {
@@ -23,32 +22,31 @@ enum : LaunchUIState {
     kLaunchAllUsersShown = 0x10,
 };
 
-/// The application that `appURL` stands for; null when the running program lies in no bundle.
+/// The application that `appURL` stands for. Null when the running program is in no bundle.
 CFRef<const CFURL> getRetainedAppURL(const CFURL* appURL);
 
-/// Makes the list hold the application once, at its end, or not at all. A shared list that is like
-/// that already isn't written. False when the right is refused or the list can't be changed; on a
-/// system before 10.7 an item that can't be added counts as success. False without an application.
+/// Makes the list contain the application once, at its end, or not at all. A shared list that is
+/// already so isn't written. False without an application, when the right is refused, or when the
+/// list can't be changed. Before 10.7 an item that can't be added counts as success.
 bool launchSetAppIsAutoLaunched(const CFURL* appURL, bool autoLaunch, bool allUsers);
 
-/// To be called when the user switches launching on in the pane. Without it
-/// launchSetAppIsAutoLaunched leaves an entry alone that was switched off elsewhere, in the
-/// desktop's own tool.
+/// Call it when the user switches launching on in the pane. Otherwise launchSetAppIsAutoLaunched
+/// leaves an entry alone that was switched off with the desktop's own tool.
 void launchForgetSwitchedOff(const CFURL* appURL);
 
-/// How the check boxes are to look. An application that is opened for all users is checked for this
-/// one, too. `showAllUsers` says whether there is the second box: without it that check can't be
-/// taken off, and the other bits are 0. 0 without an application.
+/// The state of the check boxes. If the application is opened for all users, this user's box is
+/// checked too. `showAllUsers` says whether there is a second box. Without it that check can't be
+/// removed, and the other bits are 0. 0 without an application.
 LaunchUIState launchGetCurrentUIStateForApp(const CFURL* appURL, bool showAllUsers);
 
 /// Whether the application is in either list.
 bool launchAppIsAutoLaunched(const CFURL* appURL);
 
-/// Binds the check boxes of a dialog: they show the lists' state, and a hit on one changes its
-/// list. `allUsersCheckbox` may be null. Ends an earlier binding first, and does no more without
-/// the first check box or an application. Neither box is owned: end the binding before they go.
+/// Connects the check boxes of a dialog: they show the lists, and a click changes its list.
+/// `allUsersCheckbox` may be null. An earlier connection is ended first. Does nothing more without
+/// the first check box or an application. Owns neither box: call launchEndUI before they go.
 void launchBeginUI(const CFURL* appURL, ControlRef thisUserCheckbox, ControlRef allUsersCheckbox);
 
-/// Shows the lists' state anew.
+/// Shows the present state of the lists.
 void launchUpdateUI();
 void launchEndUI();

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The right to change a shared list, held for one change.
+/// The right to change a shared list, for one change.
 class ListAuthorization {
 public:
     ListAuthorization() {
@@ -47,7 +47,7 @@ const LSSharedFileListItem* itemAt(const CFArray* snapshot, CFIndex index) {
     return dynamicCFCast<LSSharedFileListItem>(CFArrayGetValueAtIndex(snapshot, index));
 }
 
-/// The path of the item's application; null when it doesn't resolve.
+/// The path of the item's application. Null when it doesn't resolve.
 CFRef<CFString> copyItemPath(const LSSharedFileListItem* item) {
     constexpr UInt32 kFlags =
         kLSSharedFileListNoUserInteraction | kLSSharedFileListDoNotMountVolumes;
@@ -63,7 +63,7 @@ bool matches(const LSSharedFileListItem* item, const CFString* path) {
            CFStringCompare(itemPath.get(), path, kCFCompareCaseInsensitive) == kCFCompareEqualTo;
 }
 
-/// Whether the item is the application's or a copy's that lies in another folder.
+/// Whether the item is the application's, or that of a copy in another folder.
 bool matchesAnyCopy(const LSSharedFileListItem* item, const CFString* path) {
     const auto itemPath = copyItemPath(item);
     return itemPath && isSameLoginApplication(toUTF8(itemPath.get()), toUTF8(path));
@@ -78,14 +78,14 @@ CFIndex countItems(const CFArray* snapshot, const CFString* path, Matching fits)
     return count;
 }
 
-/// Whether removing the application and adding it would lead to the same list.
+/// Whether removing and adding the application would give the same list.
 bool isOnceAtEnd(const CFArray* snapshot, const CFString* path, Matching fits) {
     const CFIndex count = CFArrayGetCount(snapshot);
     return countItems(snapshot, path, fits) == 1 &&
            CFEqual(copyItemPath(itemAt(snapshot, count - 1)).get(), path);
 }
 
-/// Tries to remove every item that fits; false when any of them stays.
+/// Tries to remove every fitting item. False when one stays.
 bool removeFromSharedList(LSSharedFileList* list, const CFArray* snapshot, const CFString* path,
                           Matching fits) {
     bool removed = true;
@@ -128,7 +128,8 @@ bool setInSharedList(const CFURL* url, bool autoLaunch, bool allUsers) {
         const auto path = CFURLCopyFileSystemPath(url);
         if (!snapshot || !path)
             return false;
-        // All users' copies are the administrator's; for this user nothing else may start it.
+        // All users' copies belong to the administrator. For this user nothing else may start the
+        // application.
         const Matching fits = allUsers ? matches : matchesAnyCopy;
         if (!allUsers)
             hideGlobalLoginItems(url);
@@ -136,7 +137,7 @@ bool setInSharedList(const CFURL* url, bool autoLaunch, bool allUsers) {
             return true;
         if (autoLaunch && !allUsers && countItems(snapshot.get(), path.get(), fits) == 0 &&
             isLoginItemSwitchedOff(url))
-            return false; // by the user, which stands until it is switched on here
+            return false; // by the user; that holds until it is switched on here
         if (!removeFromSharedList(list.get(), snapshot.get(), path.get(), fits))
             return false;
     }

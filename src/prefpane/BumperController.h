@@ -9,17 +9,15 @@
 class NSButton;
 class NSTextField;
 
-/// What a bumper does with its number besides what it is bound to, or in its place; each function
-/// may be empty.
+/// Replaces or adds to what a bumper does with its bound number. Each function may be empty.
 struct BumperDisplay {
     std::function<std::string()> text;      ///< the value in words
-    std::function<bool(double typed)> take; ///< sets it; false when it can't be that number
-    double least = 0, most = 0;             ///< what can be typed
-    std::function<void()> apply = {};       ///< of a change, before anybody hears of it
+    std::function<bool(double typed)> take; ///< sets it; false when that isn't possible
+    double least = 0, most = 0;             ///< limits of what can be typed
+    std::function<void()> apply = {};       ///< called first after a change
 };
 
-/// A number shown as buttons for a step and for many, and a label with its value, in which another
-/// one can be typed.
+/// A number shown as step buttons and a label. Another value can be typed into the label.
 class BumperController final : public NumberController {
 public:
     std::span<const Outlet> outlets() const override;
@@ -31,7 +29,7 @@ public:
     void update() override;
     void changed() override;
 
-    /// How the label writes the number; see SettingLimits.
+    /// The label's number format; see SettingLimits.
     void setFormat(const char* format) { format_ = format; }
 
     void setDisplay(BumperDisplay display) { display_ = std::move(display); }
@@ -51,5 +49,5 @@ private:
     NSButton* pageIncBtn_ = nullptr;
     NSTextField* label_ = nullptr;
     const char* format_ = "%.0f";
-    BumperDisplay display_; ///< without functions: the bound number
+    BumperDisplay display_; ///< empty functions: the bound number
 };

@@ -40,7 +40,7 @@ int ChoiceGrid::columns() const {
     return source_->isList() ? 1 : kColumns;
 }
 
-/// A row of text is as high as the text asks for.
+/// A row of text is as high as its text needs.
 NSSize ChoiceGrid::choiceSize() const {
     if (!source_->isList())
         return {kSide, kSide};
@@ -63,7 +63,7 @@ void ChoiceGrid::reload() {
         if (source_->isChosen(i))
             chosen_ = i;
     if (chosen_ >= 0 && !isFirstResponder())
-        cursor_ = chosen_; // where the keyboard will begin
+        cursor_ = chosen_; // the keyboard begins there
     if (source_) {
         const int rows = (count_ + columns() - 1) / columns();
         const float width = source_->isList() ? kLeastListWidth : kColumns * (kSide + kGap) - kGap;

@@ -5,31 +5,31 @@
 #include "platform/AppKit/NSQuickDrawView.h"
 #include "platform/QuickDraw/QuickDraw.h"
 
-/// What a grid offers to choose from. Indexes count from 0.
+/// The choices of a grid. Indexes start at 0.
 class ChoiceGridSource {
 public:
     virtual int choiceCount() const = 0;
     virtual std::string choiceName(int index) const = 0; ///< for screen readers; UTF-8
     virtual bool isChosen(int index) const = 0;
-    /// Draws the choice's picture inside the rectangle.
+    /// Draws the choice's picture in the rectangle.
     virtual void drawChoice(int index, const Rect& bounds) const = 0;
     virtual void choose(int index) = 0;
 
-    /// Whether each choice takes a row as wide as the view, instead of a square.
+    /// Whether each choice is a row as wide as the view, instead of a square.
     virtual bool isList() const { return false; }
 
 protected:
     ~ChoiceGridSource() = default;
 };
 
-/// A grid of pictures, or a list of texts, each a button that chooses what it shows. By keyboard,
-/// arrows move a cursor, and Space or Return presses the button there.
+/// A grid of pictures, or a list of texts. Each is a button that makes its choice. Arrow keys move
+/// a cursor; Space or Return presses the button there.
 class ChoiceGrid final : public NSQuickDrawView, public NSAccessibilityList {
 public:
     /// Not owned; null for none.
     void setSource(ChoiceGridSource* source) { source_ = source; }
 
-    /// Takes in the source's choices and which of them is chosen.
+    /// Reads the source's choices and which are chosen.
     void reload();
 
     void drawRect(const NSRect& dirtyRect) override;
@@ -55,5 +55,5 @@ private:
     ChoiceGridSource* source_ = nullptr;
     int count_ = 0;
     int cursor_ = 0;
-    int chosen_ = -1; ///< the first that is chosen, or -1; as last told to screen readers
+    int chosen_ = -1; ///< the first chosen one, or -1; as last reported to screen readers
 };

@@ -24,25 +24,25 @@ constexpr DescType typePrefsRecord = fourCharCode("KrPf");
 
 constexpr AESendMode kSimpleSendMode = kAENoReply | kAEDontRecord;
 
-ProcessSerialNumber daemonPSN;   ///< the agent as last found; kNoProcess when unknown
-ProcessSerialNumber informedPSN; ///< the agent that has been told all that it can't have read
+ProcessSerialNumber daemonPSN;   ///< the agent as last found; else kNoProcess
+ProcessSerialNumber informedPSN; ///< the agent that has been told everything it couldn't read
 ProcessSerialNumber quitPSN;     ///< the agent that was last asked to quit
-bool openingLaunched = false;    ///< the pane's opening launched an agent that isn't up yet
-std::optional<ChangeMask> changesOfVisit; ///< all that were made; a mask may be 0
+bool openingLaunched = false;    ///< opening the pane launched an agent that isn't up yet
+std::optional<ChangeMask> changesOfVisit; ///< all of this visit; a mask may be 0
 CFRef<const CFString> daemonExecutablePath;
 CFRef<CFBundle> daemonBundle; ///< made on first request
 AEEventHandler aehandler = nullptr;
 std::optional<ChangeWatch> processWatch;
 std::optional<ChangeWatch> launchWatch;
 
-/// Whether daemonPSN names a process that still runs.
+/// Whether the process of daemonPSN still runs.
 bool daemonPSNIsValid() {
     pid_t pid;
     return daemonPSN != kNoProcess && GetProcessPID(&daemonPSN, &pid) == noErr;
 }
 
-/// Looks for the agent, unless daemonPSN still names it. When it isn't running the result is false,
-/// and daemonPSN keeps its old value.
+/// Looks for the agent, unless daemonPSN is still valid. If it doesn't run the result is false, and
+/// daemonPSN keeps its old value.
 bool findDaemon() {
     if (daemonPSNIsValid())
         return true;
@@ -65,7 +65,7 @@ void daemonStart() {
         LSOpenCFURLRef(url.get(), nullptr);
 }
 
-// What follows sends to the agent that findDaemon has just found.
+// The following send to the agent that findDaemon has found.
 
 bool newDaemonAppleEvent(AppleEvent* event, AEEventClass eventClass, AEEventID eventID) {
     AEAddressDesc address;
@@ -99,7 +99,7 @@ void sendRecord(ChangeMask changes, AESendMode mode) {
 }
 
 /// An agent that came up after the pane opened has missed the changes so far, which aren't stored
-/// before the pane is put away, and perhaps the pane's opening. Tells it of them.
+/// yet. It may have missed the opening too. Tells it both.
 void informDaemon() {
     if (daemonPSN == informedPSN)
         return;
@@ -116,7 +116,7 @@ void processesChanged() {
     wranglerShowAgentState();
 }
 
-/// Handles the events of the agent's class: its reports of its on/off state.
+/// Handles events of the agent's class: reports of its on/off state.
 OSErr ae(const AppleEvent* event, AppleEvent*, void*) {
     AEEventID eventID;
     std::size_t size;

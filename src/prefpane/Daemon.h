@@ -5,36 +5,36 @@
 #include "platform/CoreServices/AppleEvents.h"
 #include "src/prefs.h"
 
-// The link to the agent, a program of its own: finding it, launching it, quitting it, and the Apple
-// Events exchanged with it. It lives from daemonSetup to daemonCleanup, one visit of the pane.
+// The link to the agent, which is a separate program: finding, launching and quitting it, and Apple
+// Events to and from it. It exists from daemonSetup to daemonCleanup, during one visit.
 
-/// Installs the handler for the agent's reports. Launches the agent when it isn't running, whatever
-/// its on/off state, or else tells it that the pane has opened. `path` is the agent application's;
-/// null when there is none: it can't be launched then.
+/// Installs the handler for the agent's reports. If the agent runs, tells it that the pane has
+/// opened. Else launches it, whatever its on/off state. `path` is the agent application's path;
+/// with null it can't be launched.
 ///
-/// From now on an agent that comes up later is sent the record, with all changes made so far, as
-/// soon as it takes part; first it is told that the pane has opened, if that has launched it.
+/// From now on an agent that comes up later gets the record with all changes so far. One launched
+/// by this call is first told that the pane has opened.
 void daemonSetup(const CFString* path);
 
-/// Tells a running agent that the pane has closed, and lets everything go.
+/// Tells a running agent that the pane has closed, and ends the link.
 void daemonCleanup();
 
-/// Sends the agent the record and what changed in it. With kChangeForceOnOff and `on` 0 it asks the
-/// agent to quit instead; otherwise, with `on` 1, it launches an agent that isn't running or was
-/// asked to quit before. While none can be found nothing is sent.
+/// Sends the agent the record and the mask of changes. With kChangeForceOnOff and `on` 0 it asks
+/// the agent to quit instead. Otherwise, with `on` 1, it launches an agent that doesn't run or was
+/// asked to quit. Sends nothing if no agent can be found.
 void daemonSendChanges(ChangeMask changes, bool doNotWait);
 
 enum class AgentState {
     Running,
     Starting,   ///< started less than ten seconds ago
-    NotRunning, ///< and not known to come up
+    NotRunning, ///< and isn't starting
 };
 
-/// As far as is known now. Whenever it changes, wranglerShowAgentState is called.
+/// As far as is known. wranglerShowAgentState is called whenever it changes.
 AgentState daemonState();
 
-/// The agent application's bundle, where its resources are; null without a path or bundle. Borrowed
-/// until daemonCleanup.
+/// The agent application's bundle with its resources. Null without a path or bundle. Borrowed until
+/// daemonCleanup.
 CFBundle* daemonMainBundle();
-/// For commands, which don't set the link up: where the agent's resources are; null for nowhere.
+/// For commands, which have no link: the bundle with the agent's resources, or null.
 void daemonUseBundle(CFRef<CFBundle> bundle);

@@ -23,7 +23,7 @@ struct NamedKey {
     UInt16 code;
 };
 
-/// Letters first, then the keys that have words.
+/// Letters first, then keys that are called by words.
 bool comesBefore(const NamedKey& a, const NamedKey& b) {
     return std::pair(a.name.size() > 1, a.name) < std::pair(b.name.size() > 1, b.name);
 }

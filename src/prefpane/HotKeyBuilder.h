@@ -8,8 +8,8 @@ class NSObject;
 class NSPopUpButton;
 class NSTextField;
 
-/// Builds a hot key without a key press: from four boxes for the keys to hold, and a menu of keys.
-/// For those who have no keyboard. The interface file fills the public fields; none is owned.
+/// Builds a hot key without a key press, for users without a keyboard: from check boxes for four
+/// modifiers and a menu of keys. The interface file fills the public fields; none is owned.
 class HotKeyBuilder {
 public:
     NSTextField* builderTitle = nullptr;
@@ -19,11 +19,11 @@ public:
     NSButton* builderOption = nullptr;
     NSPopUpButton* builderKey = nullptr;
 
-    /// Fills the menu, whose items send buildHotKey: to `menuTarget`, with the key's code as tag.
+    /// Fills the menu. Its items send buildHotKey: to `menuTarget`, with the key code as tag.
     void setup(NSObject& menuTarget);
-    /// No hot key is being built.
+    /// Ends the building of a hot key.
     void load();
-    /// From now on what is chosen becomes the hot key of the view, which isn't owned.
+    /// From now on choices set the hot key of the view, which isn't owned.
     void begin(HotKeyView& view);
     void take(const NSMenuItem& key);
 

@@ -13,13 +13,13 @@
 
 namespace {
 
-/// How long a capture can keep keys from everyone else.
+/// Seconds that a capture can keep keys from other programs.
 constexpr int kCaptureSeconds = 30;
 
 constexpr const char* kClaim = LOCALIZABLE("HotKeys", "Use it here and remove it there");
 constexpr const char* kRestore = LOCALIZABLE("HotKeys", "Put back what was here");
 
-/// Whether both are assigned and the agent would take one for the other.
+/// Whether both are assigned and the agent can't tell them apart.
 bool isSameHotKey(const HotKey& a, const HotKey& b) {
     constexpr UInt32 kModifiers = cmdKey | shiftKey | optionKey | controlKey;
     return a.keyCode >= 0 && a.keyCode == b.keyCode &&
@@ -160,7 +160,7 @@ void HotKeyEditor::countDown() {
     InstallEventLoopTimer(GetMainEventLoop(), 1.0, 0, NewEventLoopTimerUPP(tick), this, &timer_);
 }
 
-// The idle prompt and the editing group take each other's place in one container.
+// The idle prompt and the editing group alternate in one container.
 void HotKeyEditor::updateHotKeyUI() {
     NSView* const editing[] = {editingKeyPrompt1, cancelEditBtn, defaultKeyBtn, noKeyBtn};
     if (targetHotKey_) {

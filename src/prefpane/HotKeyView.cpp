@@ -40,7 +40,7 @@ UInt32 carbonModifiers(UInt32 flags) {
 } // namespace
 
 HotKeyView::~HotKeyView() {
-    PopSymbolicHotKeyMode(hotKeyMode_); // of a capture that the window's end cut short
+    PopSymbolicHotKeyMode(hotKeyMode_); // of a capture cut short by the window's end
 }
 
 void HotKeyView::setIndex(int index) {
@@ -88,8 +88,8 @@ bool HotKeyView::performKeyEquivalent(NSEvent* event) {
     return true;
 }
 
-// No hot key can name a key without a code. Keys that were down before, such as the one that
-// started the capture, don't come here (HotKeyMode.h).
+// A hot key needs a key code. Keys that were already down, such as the one that started the
+// capture, don't arrive here (HotKeyMode.h).
 void HotKeyView::keyDown(NSEvent* event) {
     if (index_ < 0 || event->keyCode() == kNoKeyCode)
         return;

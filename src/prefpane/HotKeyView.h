@@ -8,10 +8,10 @@
 
 class HotKeyView;
 
-/// Told of captures, and of every change of a hot key.
+/// Is told of captures and of every change of a hot key.
 class HotKeyViewTarget {
 public:
-    /// A capture into the view began; null: it is over.
+    /// A capture into the view has begun; null: it is over.
     virtual void setTargetHotKey(HotKeyView* view) = 0;
     virtual void changed(ChangeMask changes) = 0;
 
@@ -19,36 +19,36 @@ protected:
     ~HotKeyViewTarget() = default;
 };
 
-/// Shows one of the record's hot keys and captures a new one: while the keyboard acts on it, the
-/// next key becomes the hot key, with the modifiers that are held then. It takes every key.
+/// Shows one of the record's hot keys and captures a new one. While it has the focus it takes every
+/// key. The next key, with the modifiers held, becomes the hot key.
 class HotKeyView final : public NSView, public NSAccessibilityStaticText {
 public:
     HotKeyView() = default;
     ~HotKeyView() override;
 
-    /// Not owned; given before the view is in sight.
+    /// Not owned. Must be set before the view is shown.
     void setTarget(HotKeyViewTarget* target) { target_ = target; }
 
-    /// The place in the record's hotKeys; -1 until one is given, when nothing is shown or stored.
+    /// The index in the record's hotKeys. It is -1 at first; then nothing is shown or stored.
     void setIndex(int index);
 
     int index() const { return index_; }
 
-    /// Begins a capture for `starter`, which gets the keyboard back when it is over.
+    /// Begins a capture for `starter`, which gets the focus back afterwards.
     void startEditing(NSView* starter);
-    /// Ends a capture without storing anything; outside of one nothing happens.
+    /// Ends a capture without storing anything. Does nothing without a capture.
     void cancelEditing();
-    /// Stores the key, with the modifiers of Carbon's that are to be held with it.
+    /// Stores the key with these Carbon modifiers.
     void setHotKey(UInt32 modifiers, UInt16 keyCode);
-    /// Of the hot key as stored; 0 before an index is given.
+    /// The stored hot key's modifiers. 0 before an index is set.
     UInt32 modifiers() const;
-    /// Takes the hot key away. What it was stays in the record, marked.
+    /// Unassigns the hot key. The key code stays in the record, with a bit that marks it.
     void setToNone();
     void setToDefault();
-    /// Makes the hot key this one, whatever it is.
+    /// Sets the hot key to this value.
     void restore(const HotKey& hotKey);
 
-    /// The hot key in words; null when there is nothing to show.
+    /// The hot key in words. Null when there is nothing to show.
     CFRef<CFString> combination() const;
 
     bool acceptsFirstResponder() const override { return true; }
@@ -65,13 +65,13 @@ public:
     std::string accessibilityStatus() const override;
 
 private:
-    /// What it shows now; null for nothing.
+    /// What it shows now. Null for nothing.
     CFRef<CFString> text() const;
     void redraw();
     void reportChange();
 
     HotKeyViewTarget* target_ = nullptr;
     int index_ = -1;
-    NSView* starter_ = nullptr;  ///< of the capture, if it wasn't a click
+    NSView* starter_ = nullptr;  ///< of the capture, unless it was a click
     void* hotKeyMode_ = nullptr; ///< during a capture
 };

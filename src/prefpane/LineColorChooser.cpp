@@ -18,8 +18,8 @@ NSColor toNSColor(const LineColor& color) {
                                        1.0);
 }
 
-/// A colour component from 0 to 1 as a whole number from 0 to 255: truncated, with just enough
-/// added to keep whole numbers whole.
+/// A colour component from 0 to 1 as a whole number from 0 to 255. It is truncated; a little is
+/// added first, so that whole numbers stay whole.
 UInt16 byteComponent(double component) {
     return static_cast<UInt16>(component * 255.0 + 0.1);
 }

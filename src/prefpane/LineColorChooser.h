@@ -6,7 +6,7 @@
 class NSColorWell;
 class NumberChangeTarget;
 
-/// The wrangler's part for the lines' colour: the well for any colour, and a grid of twelve.
+/// The wrangler's part for the lines' colour: a well for any colour, and a grid of twelve.
 class LineColorChooser final : public ChoiceGridSource {
 public:
     NSColorWell* lineColor = nullptr; ///< filled by the interface file, as is the next; not owned
@@ -19,7 +19,7 @@ public:
 
     /// Shows the record's colour.
     void load();
-    /// Takes over the well's colour.
+    /// Takes the well's colour.
     void changedLineColor();
 
     int choiceCount() const override;

@@ -10,7 +10,7 @@
 
 namespace {
 
-// The record's doubles lie at 4-byte alignment, so values are copied, never dereferenced in place.
+// Doubles in the record have 4-byte alignment. So values are copied, never used in place.
 template <class T>
 double readAs(const void* address) {
     T value;
@@ -24,7 +24,7 @@ void writeAs(void* address, double value) {
     std::memcpy(address, &stored, sizeof stored);
 }
 
-/// The least nudge that keeps a computed whole number whole; it isn't rounding to the nearest.
+/// Added before truncation, so that a computed whole number stays whole. Not enough to round.
 constexpr double kTruncationNudge = 0.1;
 
 } // namespace

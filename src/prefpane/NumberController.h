@@ -6,7 +6,7 @@
 
 #include <string_view>
 
-/// Hears of every change that a number controller made, named by its group.
+/// Is told of every change that a number controller made, by its group.
 class NumberChangeTarget {
 public:
     virtual void changed(ChangeMask changes) = 0;
@@ -22,11 +22,11 @@ enum NumberKind : SInt32 {
     kNumberKindUInt32 = 2,
 };
 
-/// Binds one number, at an address that its owner gives, to a group of controls: clamps and rounds
-/// what is written, and reports every change that altered the stored value. It owns no controls.
+/// Binds a number in memory to a group of controls. It clamps and rounds what is written, and
+/// reports every change of the stored value. It owns no controls.
 class NumberController : public NSObject {
 public:
-    /// The one target of all controllers; not owned, null for none.
+    /// The target of all controllers. Not owned; null for none.
     static void setChangeTarget(NumberChangeTarget* target) { changeTarget_ = target; }
 
     /// `at` isn't owned and may be null: the value then reads as 0 and writes are ignored. Neither
@@ -46,36 +46,36 @@ public:
 
     double value() const;
 
-    /// Clamps, converts to the kind and stores; reports nothing.
+    /// Clamps, converts to the kind and stores. Reports nothing.
     void set(double value);
 
-    /// The control that shows the number; null when there is none.
+    /// The control that shows the number. Null when there is none.
     virtual NSView* view() const { return nullptr; }
 
-    /// Brings the controls up to date with the stored value.
+    /// Shows the stored value in the controls.
     virtual void update() {}
 
-    /// The value snapped toward zero to a multiple of the step; integers are as they are.
+    /// The value snapped toward zero to a multiple of the step. Integers stay as they are.
     double truncValue() const;
 
     void inc();
     void dec();
 
-    /// How many steps incPage and decPage go.
+    /// Steps per page, for incPage and decPage.
     void setPageSteps(int steps) { pageSteps_ = steps; }
 
     void incPage();
     void decPage();
 
-    /// Stores a number that was typed, as change does. False, with nothing stored, when the text is
-    /// no number, has a fraction that the kind can't hold, or lies outside the limits. A comma is a
-    /// point, and a unit behind the number isn't looked at.
+    /// Stores a typed number as change does. False and nothing stored when the text is no number,
+    /// has a fraction that the kind can't hold, or is outside the limits. A comma counts as a
+    /// point. A unit after the number is ignored.
     bool type(std::string_view text);
 
-    /// Stores a new value and, when that altered what is stored, calls changed.
+    /// Stores a value. If that changed what is stored, calls changed.
     void change(double value);
 
-    /// Refreshes the controls and tells the change target.
+    /// Updates the controls and tells the change target.
     virtual void changed();
 
 private:

@@ -35,7 +35,7 @@ void NumberControls::update(const NumberController& controller, const std::strin
                                       : filled(localized("Numbers", "%1 more"), {text(worth)});
         button->setEnabled(enabled);
         button->setToolTip(words);
-        // The value first: a screen reader that is at the button hears it when it changes.
+        // The value comes first: a screen reader at the button says it when it changes.
         button->setAccessibilityHelp(filled(
             localized("Numbers", "%1. %2.", "a value, and what a press changes"), {shown, words}));
     }

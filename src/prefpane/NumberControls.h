@@ -7,23 +7,23 @@ class NSButton;
 class NSTextField;
 class NumberController;
 
-/// The controls that sliders and bumpers have in common; none is null or owned.
+/// The common controls of sliders and bumpers. None is null or owned.
 struct NumberControls {
     NSButton* dec;
     NSButton* inc;
-    NSButton* pageDec; ///< many steps at once, as the next
+    NSButton* pageDec; ///< many steps at once, like the next
     NSButton* pageInc;
-    NSTextField* label; ///< the value, which can be typed
-    const char* format; ///< of the label, see SettingLimits; empty: as a plain number
+    NSTextField* label; ///< the value; it can be typed
+    const char* format; ///< the label's, see SettingLimits; empty: plain number
 
     /// Makes the buttons repeat while they are held down.
     void setAutoRepeat() const;
 
-    /// Enables each button exactly when the controller's value can go that way, and lets each tell
-    /// `shown`, the value in words, and what a press of it is worth.
+    /// Enables each button if the value can go that way. Each button's description gets `shown`,
+    /// the value in words, and the step of a press.
     void update(const NumberController& controller, const std::string& shown) const;
 
-    /// Says that what was typed isn't taken, and what would be: from the one value to the other.
+    /// Says that the typed value isn't accepted, and which limits hold.
     void refuse(double least, double most) const;
 
 private:

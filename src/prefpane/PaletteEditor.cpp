@@ -49,7 +49,7 @@ void PaletteEditor::setupButtonSizes() {
         SInt32* pending;
         ChangeMask changes;
         std::function<std::string()> text;
-        bool width, height; ///< the sides that it is for
+        bool width, height; ///< the sides that it changes
     } rows[] = {
         {buttonHeight, &buttonHeightChange_, kChangeButtonHeightBump,
          [points] { return points(prefs.buttonSize.height); }, false, true},
@@ -163,8 +163,8 @@ void PaletteEditor::addPaletteBtn(const NSMenuItem& sender) {
     const SInt32 selected = selectedSlot();
     const SInt32 empty = selected == kNoButton ? kNoButton : emptyPaletteBtnAfter(selected);
     if (empty != kNoButton) {
-        // With room at the row's end all of it moves, and so keeps its gaps; else the next gap
-        // goes.
+        // If the row's end has room, all later buttons move and gaps stay. Else the next gap is
+        // used up.
         const SInt32 end = isEmptySlot(kLastSlot) ? kLastSlot : empty;
         std::copy_backward(slots + selected, slots + end, slots + end + 1);
         slots[selected] = action;
@@ -199,7 +199,7 @@ void PaletteEditor::removePaletteButton() {
 void PaletteEditor::swapPaletteButtonWith() {
     firstBtnToSwap_ = selectedSlot();
     updatePaletteCtls();
-    // Where the other button is chosen: by keyboard it would be four Tab stops back.
+    // The other button is chosen there. By keyboard it would be four Tab stops back.
     paletteView->window().makeFirstResponder(paletteView);
 }
 

@@ -12,8 +12,8 @@ class NSMenuItem;
 class NSTextField;
 class NumberChangeTarget;
 
-/// The wrangler's part for the palette's buttons: which they are, and how the agent draws them. An
-/// edit of a slot leaves nothing selected. The interface file fills the public fields; none is
+/// The wrangler's part for the palette's buttons: which there are and how the agent draws them.
+/// After an edit of a slot nothing is selected. The interface file fills the public fields; none is
 /// owned.
 class PaletteEditor final : public NSMenuDelegate {
 public:
@@ -31,23 +31,23 @@ public:
     BumperController* buttonSize = nullptr;
     BumperController* buttonWidth = nullptr;
 
-    /// `changes` hears of every edit; not owned.
+    /// `changes` is told of every edit; not owned.
     explicit PaletteEditor(NumberChangeTarget& changes) : changes_(changes) {}
 
     /// Binds the controls. The menus' items send addPaletteBtn: and setPaletteBtnAction: to
-    /// `menuTarget`. None is owned.
+    /// `menuTarget`. Owns none of them.
     void setup(PaletteViewTarget& clicks, NSObject& menuTarget);
 
-    // Each shows a part of the record; `load` has the rest, and leaves nothing selected. The sizes
-    // are shown by updateButtonSizes.
+    // Each shows a part of the record. `load` shows the rest and clears the selection;
+    // updateButtonSizes shows the sizes.
     void loadShape();
     void loadContent();
     void load();
 
-    /// Adds an item for every action that has a title; choosing it sends the selector, with the
-    /// action's number as the item's tag.
+    /// Adds an item for every action that has a title. It sends the selector, with the action's
+    /// number as tag.
     void addActionMenuToCtl(NSPopUpButton* ctl, SEL selector, NSObject& target);
-    /// Gives the items of an action menu their icons, which are read only when it opens.
+    /// Gives the items of an action menu their icons. They are read only when the menu opens.
     void menuNeedsUpdate(NSPopUpButton* menu) override;
 
     /// The first empty slot after the given one, or kNoButton.
@@ -56,12 +56,13 @@ public:
     SInt32 newPaletteBtnLocation() const;
     bool canAddPaletteBtn() const;
 
-    /// Inserts the action before the selected button or, without room after it, takes the place for
-    /// a new button. Beeps when there is none.
+    /// Inserts the action before the selected button. Without room after it, uses the place for a
+    /// new button. Beeps when there is none.
     void addPaletteBtn(const NSMenuItem& sender);
     void setPaletteBtnAction(const NSMenuItem& sender);
     void removePaletteButton();
-    /// The next click in the palette view swaps the selected button with the one hit, or cancels.
+    /// The next click in the palette view swaps the selected button with the clicked one, or
+    /// cancels.
     void swapPaletteButtonWith();
     void paletteBtnHit(PaletteView* view, SInt32 index);
     void resetPaletteButtons();
@@ -74,26 +75,26 @@ public:
     void changedButtonShape(const NSMatrix& sender);
     void changedButtonContentName(const NSButton& sender);
     void changedButtonContentIcon(const NSButton& sender);
-    /// Folds the bumpers' pending steps into the button size.
+    /// Applies the bumpers' pending steps to the button size.
     void changedButtonSizes();
-    /// Has the bumpers of the size, which hold pending steps, show the size.
+    /// Shows the size in its bumpers, which hold pending steps.
     void updateButtonSizes();
 
 private:
     void setupButtonSizes();
-    /// Makes the chosen sides as long as was typed, in points. False when they can't be that long.
+    /// Sets the chosen sides to the typed length in points. False when that isn't possible.
     bool takeButtonSize(double typed, bool width, bool height);
     /// The slot that is selected in the palette view, or kNoButton.
     SInt32 selectedSlot() const;
     void commitPaletteEdit();
-    /// Says what is selected and what a swap waits for.
+    /// Describes the selection, or what a swap waits for.
     void updatePalettePrompt();
     void setButtonContent(UInt32 bit, const NSButton& sender);
 
     NumberChangeTarget& changes_;
     SInt32 firstBtnToSwap_ = kNoButton; ///< the slot that a swap began with
 
-    // Steps of the button size that changedButtonSizes has yet to apply; 0 but while it is called.
+    // Steps of the button size for changedButtonSizes. Not 0 only during its call.
     SInt32 buttonSizeChange_ = 0;
     SInt32 buttonWidthChange_ = 0;
     SInt32 buttonHeightChange_ = 0;

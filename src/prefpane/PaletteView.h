@@ -8,13 +8,13 @@
 
 class PaletteView;
 
-/// No button: the index of a click beside the buttons, and of no selection.
+/// The index of no button: for a click beside the buttons, and for no selection.
 constexpr SInt32 kNoButton = -1;
 
-/// Told of every click in a palette view.
+/// Is told of every click in a palette view.
 class PaletteViewTarget {
 public:
-    /// `index` is 0 to 8, or kNoButton for a click that hit no button.
+    /// `index` is 0 to 8, or kNoButton for a click beside the buttons.
     virtual void paletteBtnHit(PaletteView* view, SInt32 index) = 0;
 
 protected:
@@ -22,9 +22,9 @@ protected:
 };
 
 /// The palette editor's picture of the palette: the nine slots of `prefs` as a row of square
-/// buttons that fills the view. At most one is selected. The view reports clicks; it changes
-/// neither the record nor its selection. By keyboard, arrows move a cursor, Space or Return clicks
-/// on it, and Escape clicks beside the buttons.
+/// buttons. At most one is selected. The view reports clicks; it changes neither the record nor its
+/// selection. Arrow keys move a cursor, Space or Return clicks there, and Escape clicks beside the
+/// buttons.
 class PaletteView final : public NSQuickDrawView, public NSAccessibilityList {
 public:
     /// Not owned; null for none.
@@ -33,10 +33,10 @@ public:
     /// Index 0 to 8, or kNoButton.
     SInt32 selectedBtn() const { return selectedBtn_; }
 
-    /// The index isn't checked; kNoButton clears the selection.
+    /// The index isn't checked. kNoButton clears the selection.
     void selectBtn(SInt32 index);
 
-    /// The button's place in the view when it was last drawn, empty before; zero for an index
+    /// The button's place in the view when it was last drawn; empty before that, and for an index
     /// outside 0 to 8.
     NSRect boundsOfBtn(SInt32 index) const;
 
@@ -71,6 +71,6 @@ private:
     SInt32 cursor_ = 0;
 };
 
-/// What a slot is called: its place and its action's title, "2, Double"; UTF-8. Empty for an
-/// index outside 0 to 8.
+/// A slot's name: its place and its action's title, such as "2, Double"; UTF-8. Empty for an index
+/// outside 0 to 8.
 std::string paletteSlotName(SInt32 index);

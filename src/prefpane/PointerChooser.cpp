@@ -23,7 +23,7 @@ void PointerChooser::load() {
 }
 
 void PointerChooser::take(const std::string& name) {
-    // So that nothing of a longer name stays behind.
+    // So that no rest of a longer name stays.
     std::fill(std::begin(prefs.pointerImageName), std::end(prefs.pointerImageName), '\0');
     std::copy(name.begin(), name.end(), prefs.pointerImageName);
     changes_.changed(kChangePointer);
@@ -52,7 +52,7 @@ bool PointerChooser::isChosen(int index) const {
     return ptrmanPointerAt(index) == prefs.pointerImageName;
 }
 
-/// In the middle, and smaller where it has less room.
+/// Centred, and smaller where there is less room.
 void PointerChooser::drawChoice(int index, const Rect& bounds) const {
     const CGImage* picture = pictures_[static_cast<std::size_t>(index)].get();
     if (!picture)
@@ -65,7 +65,7 @@ void PointerChooser::drawChoice(int index, const Rect& bounds) const {
     const CGFloat scale = std::min(CGFloat{1}, room / std::max(width, height));
     const CGFloat x = static_cast<CGFloat>(bounds.left + bounds.right) / 2;
     const CGFloat y = static_cast<CGFloat>(bounds.top + bounds.bottom) / 2;
-    // Pictures stand upright where y grows upward.
+    // Images are upright where y grows upward.
     CGContextTranslateCTM(context.get(), 0, 2 * y);
     CGContextScaleCTM(context.get(), 1, -1);
     CGContextDrawImage(

@@ -9,10 +9,10 @@
 class NSTextField;
 class NumberChangeTarget;
 
-/// The wrangler's part for the choice of a pointer: by stepping, or from a grid of all of them.
+/// The wrangler's part for choosing a pointer: by stepping, or from a grid of all.
 class PointerChooser final : public ChoiceGridSource {
 public:
-    NSTextField* pointerName = nullptr; ///< filled by the interface file, as is the next; not owned
+    NSTextField* pointerName = nullptr; ///< filled by the interface file, like the next; not owned
     ChoiceGrid* pointerGrid = nullptr;
 
     /// `changes` hears of every choice; not owned.
@@ -20,13 +20,13 @@ public:
 
     void setup() { pointerGrid->setSource(this); }
 
-    /// Reads the agent's pointers, and shows which is chosen.
+    /// Reads the agent's pointers and shows the chosen one.
     void load();
 
-    /// Chooses the next pointer, or the previous one, and reports the change, also when it is the
-    /// same one. Does nothing when the agent has no pointers.
+    /// Chooses the next or previous pointer and reports the change, even if it is the same pointer.
+    /// Does nothing when the agent has no pointers.
     void bumpPointer(bool forward);
-    /// Shows which pointer the preview draws.
+    /// Shows the name of the pointer in the preview.
     void updatePointerName();
 
     int choiceCount() const override { return static_cast<int>(pictures_.size()); }
@@ -40,5 +40,5 @@ private:
     void take(const std::string& name);
 
     NumberChangeTarget& changes_;
-    std::vector<CFRef<CGImage>> pictures_; ///< in the order of the names; null for none that loads
+    std::vector<CFRef<CGImage>> pictures_; ///< by name's index; null if it can't be loaded
 };

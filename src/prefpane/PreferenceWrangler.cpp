@@ -33,7 +33,7 @@ void wranglerShowAgentState() {
         theWrangler->updateMasterState();
 }
 
-/// What the interface file can fill and send besides what the table of settings says.
+/// Outlets and actions of the interface file that aren't in the table of settings.
 struct PreferenceWrangler::Tables {
     using W = PreferenceWrangler;
     using Keys = HotKeyEditor;

@@ -26,12 +26,12 @@ class NSTabView;
 class NSTextField;
 class SampleScanView;
 
-/// Of what the strip says of changes; the next change takes it away.
+/// The strip's topic for changes. The next change removes its message.
 inline constexpr char kChangeTopic[] = "undo";
 
-/// The pane's one controller: it binds every control to its field of `prefs`, shows the fields in
-/// the controls, and carries every edit to the store and to the agent. The interface file makes it
-/// and fills its outlets; each is named after the setting that it shows.
+/// The pane's controller. It binds every control to its field of `prefs`, shows the fields in the
+/// controls, and passes every edit to the store and the agent. The interface file makes it and
+/// fills its outlets; each has the name of its setting.
 class PreferenceWrangler final : public NSObject,
                                  public NumberChangeTarget,
                                  public PaletteViewTarget,
@@ -45,19 +45,19 @@ public:
 
     std::span<const Outlet> outlets() const override;
     std::span<const Action> actions() const override;
-    /// Sliders whose limits differ from those of their settings.
+    /// Sliders whose limits differ from their settings'.
     std::vector<std::string> layoutFaults() const override;
     void awakeFromNib() override;
 
     // PreferenceWrangler.cpp: set-up and loading
 
-    /// Binds the controls. Run when the interface is loaded and again before every visit; running
-    /// it again changes nothing.
+    /// Binds the controls. Called when the interface is loaded and before every visit; a second
+    /// call changes nothing.
     void setup();
-    /// Shows every field of `prefs` in its control. Reports nothing, but for a custom scan area
-    /// that is in use while it is empty: that is switched off, and the change reported.
+    /// Shows every field of `prefs` in its control and reports nothing. One exception: a custom
+    /// scan area that is in use but empty is switched off, and that is reported.
     void loadValues() override;
-    /// Keeps the name, borrowed, if it is a string; anything else leaves the previous one.
+    /// Sets the name, borrowed, if it is a string. Anything else is ignored.
     void setHelpBookName(const CFType* name);
     void showHelp(NSButton* sender);
     void showHelpPage(const CFString* page) override;
@@ -65,15 +65,15 @@ public:
 
     // PreferenceWranglerChanges.cpp: edits
 
-    /// Brings dependent controls up to date, marks the record for saving and sends it to the agent.
-    /// An empty mask is a change like any other.
+    /// Updates dependent controls, marks the record for saving and sends it to the agent. An empty
+    /// mask is a change like any other.
     void changed(ChangeMask changes) override;
     void updateUIForChanges(ChangeMask changes);
 
     void updateMasterOnOff();
-    /// Says what the switch does now, which is no more than is known.
+    /// Shows what the switch does now, as far as that is known.
     void updateMasterState();
-    /// The agent reported its state: it is kept, and not sent back.
+    /// The agent has reported its state. It is stored and not sent back.
     void setMasterOnOff(bool on);
     void updateTriggerUI();
     /// Makes the preview show that line. Doesn't redraw it.
@@ -88,17 +88,17 @@ public:
 
     // PreferenceWranglerHistory.cpp: steps that can be undone, and changes of many settings at once
 
-    /// The visit's history begins with the record as it is.
+    /// Begins the visit's history with the present record.
     void beginHistory();
-    /// Makes those settings the record's, as one change of what differs.
+    /// Sets those settings to the record's values, as one change.
     void adopt(const SettingSet& settings, const PrefsRecord& record) override;
-    /// Makes what a file offers the settings, and tells so with a button that undoes it.
+    /// Sets the settings to what a file offers, and says so with a button that undoes it.
     void takeImport(const SettingsOffer& offer);
-    /// Another profile is in use, which is no step by itself.
+    /// Another profile is in use. That is no step by itself.
     void noteProfile() override;
     void changedElsewhere(const SettingSet& settings, const PrefsRecord& record);
-    /// Takes the last step back, or does it again: brings its control into sight and says in words
-    /// what became of it.
+    /// Undoes the last step, or does it again. Shows its control and says in words what has
+    /// changed.
     void undo(NSButton* sender);
 
     void undoChange() override { undo(nullptr); }
@@ -107,20 +107,20 @@ public:
 
     // PreferenceWranglerDefaults.cpp: what isn't at its default
 
-    /// Puts back what the button stands for, a section's settings or all: whichever aren't at their
-    /// defaults. Whether Korvex is on and how it starts stays.
+    /// Resets the settings that the button stands for, a section's or all, to their defaults.
+    /// Whether Korvex is on and how it starts isn't reset.
     void resetSettings(NSButton* sender);
 
     // HotKeyEditor: hot keys
 
-    // During a capture; they do nothing outside of one.
+    // Only during a capture; else they do nothing.
     void setHotKeyToNone(NSButton*) { hotKeys_.setHotKeyToNone(); }
 
     void setHotKeyToDefault(NSButton*) { hotKeys_.setHotKeyToDefault(); }
 
     void cancelHotKeyEdit(NSButton*) { hotKeys_.cancelHotKeyEdit(); }
 
-    // Of the menu beside a hot key, at any time.
+    // Sent by the menu beside a hot key, at any time.
     void captureHotKey(NSMenuItem* sender) { hotKeys_.captureHotKey(*sender); }
 
     void removeHotKey(NSMenuItem* sender) { hotKeys_.removeHotKey(*sender); }
@@ -139,9 +139,9 @@ public:
 
     // PreferenceWranglerLaunch.cpp: launching at login
 
-    /// Makes the system's login items agree with the setting, and shows both settings of the start.
-    /// Without the agent's bundle the login items stay as they are, and so does an item that was
-    /// switched off elsewhere unless the user has just switched the setting on.
+    /// Makes the system's login items fit the setting, and shows both settings of the start.
+    /// Without the agent's bundle the login items stay. An item that was switched off elsewhere
+    /// stays too, unless the user has just switched the setting on.
     void updateLaunchUI();
 
     // PaletteEditor: the palette's buttons
@@ -158,7 +158,7 @@ public:
         palette_.paletteBtnHit(view, index);
     }
 
-    /// Offers to put back what was there.
+    /// Offers to undo it.
     void resetPaletteButtons(NSButton* sender);
 
     void resetPaletteControls() { palette_.resetPaletteControls(); }
@@ -195,7 +195,7 @@ public:
 
     // PreferenceWranglerFiles.cpp: settings from a file, and in one
 
-    /// Says what a file has, and changes nothing before the user agrees.
+    /// Shows what a file has. Nothing changes before the user agrees.
     void importSettings(NSButton* sender);
     void exportSettings(NSButton* sender);
 
@@ -219,15 +219,15 @@ public:
 
     /// Shows the area in words.
     void updateScanAreaText();
-    /// Brings all that shows the area or its use up to date.
+    /// Updates everything that shows the area or whether it is used.
     void showScanArea();
-    /// Lets the user draw an area, and scans only that from then on, or all when it is empty.
+    /// Lets the user draw an area and then scans only that. An empty area means the whole screen.
     void setCustomScanArea(NSButton* sender);
 
 private:
     struct Tables;
 
-    /// The pane's own; null while none is loaded.
+    /// The pane's bundle; null while none is loaded.
     static const CFBundle* ownBundle();
     void showChanges(ChangeMask changes);
     void noteStep();
@@ -235,20 +235,21 @@ private:
                   const char* pattern);
     void moveTo(NSView* view);
     void updateHistoryUI();
-    /// The view that shows a setting; null for one without a control.
+    /// The view that shows a setting. Null if it has no control.
     NSView* viewOf(std::size_t row) const;
-    /// The one that shows the first difference: of a hot key for example its own.
+    /// The view of the first difference; of several hot keys the one that differs.
     NSView* viewOf(const SettingSet& settings, const PrefsRecord& before,
                    const PrefsRecord& after) const;
-    /// After fields were set from elsewhere. A record that is as stored needs no saving any more.
+    /// Call it after fields were set from elsewhere. A record that is as stored needs no saving any
+    /// more.
     void showAndReport(ChangeMask changes);
 
-    /// Makes those settings the record's and says what became of them.
+    /// Sets those settings to the record's values and says what has changed.
     void putBack(const SettingSet& settings, const PrefsRecord& record);
 
     // PreferenceWranglerDefaults.cpp
 
-    /// A setting, or a part of one that has a row of its own: bytes of the record, or bits of one.
+    /// A setting, or a part of one with its own row: bytes of the record, or bits of one.
     struct DefaultPlace {
         std::size_t offset, size;
         NSView* view;
@@ -262,14 +263,14 @@ private:
                  *general = nullptr, *all = nullptr;
     };
 
-    /// A button and the settings that it puts back.
+    /// A button and the settings that it resets.
     struct Reset {
         NSButton* button;
         SettingSet settings;
     };
 
     void setupDefaults();
-    /// Marks the rows that aren't at their defaults: of those that changed since, or of all.
+    /// Marks rows that aren't at their defaults: those that changed since the last call, or all.
     void updateDefaults(bool all = false);
     void markPlace(std::size_t place);
     void updateResets();
@@ -282,7 +283,7 @@ private:
 
     template <std::size_t Row>
     struct SettingWiring;
-    /// `own` and the entries of the settings' outlets, or of their check boxes' actions.
+    /// `own`, and an entry for each setting's outlet or check box action.
     template <class Entry>
     static std::vector<Entry> withSettings(std::span<const Entry> own);
     void setupNumbers();
@@ -290,7 +291,7 @@ private:
     void loadFlags();
     void setFlag(const Setting& setting, const NSButton& sender);
 
-    /// Each setting's control, by its row; null for one without an outlet in its row.
+    /// Each setting's control, by its row. Null for a row without an outlet.
     std::array<NSObject*, kSettings.size()> settingControls_ = {};
 
     NSButton* activateAtLaunch_ = nullptr;
@@ -308,9 +309,9 @@ private:
 
     ResetButtons resetBtns_;
     std::vector<Reset> resets_;
-    std::vector<DefaultPlace> places_; ///< that show
-    PrefsRecord defaults_;             ///< as the visit found them
-    PrefsRecord marked_;               ///< the record as its marks were last shown
+    std::vector<DefaultPlace> places_; ///< that are shown
+    PrefsRecord defaults_;             ///< as they were when the visit began
+    PrefsRecord marked_;               ///< the record when marks were last updated
 
     History history_{prefs};
     HotKeyEditor hotKeys_;
@@ -320,15 +321,15 @@ private:
     LineColorChooser lineColors_{*this};
     ScanAreaChooser scanAreas_{*this};
 
-    const CFString* helpBookName_ = nullptr; ///< the bundle's own; null: no book
-    bool shownLaunchAtLogin_ = false;        ///< the setting as the login items last followed it
+    const CFString* helpBookName_ = nullptr; ///< the bundle's; null: no book
+    bool shownLaunchAtLogin_ = false;        ///< the setting when the login items were last updated
 };
 
-/// The one wrangler; null until its set-up has run once.
+/// The only wrangler. Null until its first set-up.
 extern PreferenceWrangler* theWrangler;
 
-/// The running agent was switched on or off. Does nothing while there is no wrangler.
+/// The running agent was switched on or off. Does nothing without a wrangler.
 void wranglerSetMasterOnOff(bool on);
 
-/// Says beside the on/off control whether the agent runs.
+/// Shows beside the on/off control whether the agent runs.
 void wranglerShowAgentState();

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// What the preview shows.
+/// Changes that the preview shows.
 constexpr ChangeMask kPreviewChanges =
     kChangeScanLineLook | kChangeGuideLineLook | kChangePointer | kChangePalette;
 
@@ -33,7 +33,7 @@ std::string stateText(bool isOn) {
     return localized("Switch", "Korvex isn’t running");
 }
 
-/// Whoever has switched scanning off by mistake may have no other way to act than by scanning.
+/// A user who switched scanning off by mistake may have no other way to act.
 void tellHowToSwitchOn() {
     const auto keys = createKeyComboString(prefs.hotKeys[0].modifiers, prefs.hotKeys[0].keyCode);
     const bool hasKeys = keys && prefs.hotKeys[0].keyCode >= 0;
@@ -72,7 +72,7 @@ void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {
     if (changes & kChangeTriggers)
         updateTriggerUI();
 
-    // The line whose own look changed is shown; one that changed with the other isn't.
+    // Shows the line whose own look has changed. A change of both lines shows neither.
     const ChangeMask look = changes & (kChangeScanLineLook | kChangeGuideLineLook);
     if (look == kChangeScanLineLook)
         showSampleLineType(kSampleScanLine);
@@ -86,7 +86,7 @@ void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {
         updateScanAreaRadios();
 }
 
-/// What else shows those groups. The agent doesn't wait for it.
+/// Updates what else shows those groups. The agent doesn't wait for it.
 void PreferenceWrangler::showChanges(ChangeMask changes) {
     if (changes & kChangePalette)
         palette_.updateButtonSizes();

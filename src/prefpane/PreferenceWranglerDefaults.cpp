@@ -15,7 +15,7 @@
 
 namespace {
 
-/// The row of kSettings whose field holds that byte of the record.
+/// The row of kSettings with that byte of the record.
 std::size_t rowAt(std::size_t offset) {
     const auto after = std::ranges::upper_bound(kSettings, offset, {}, &Setting::offset);
     return static_cast<std::size_t>(after - kSettings.begin()) - 1;
@@ -25,7 +25,7 @@ bool isSame(const PrefsRecord& a, const PrefsRecord& b) {
     return differences(a, b).none();
 }
 
-/// What the button of a section says, or the one of them all.
+/// The title of a section's button, or of the button for all.
 std::string resetTitle(int count, bool all) {
     if (count == 0)
         return all ? localized("Changes", "Put everything back")
@@ -84,7 +84,7 @@ bool PreferenceWrangler::DefaultPlace::isSameIn(const PrefsRecord& a, const Pref
 NSView* PreferenceWrangler::viewOf(const SettingSet& settings, const PrefsRecord& before,
                                    const PrefsRecord& after) const {
     NSView* view = nullptr;
-    std::size_t first = sizeof(PrefsRecord); // the bytes of the record are in the settings' order
+    std::size_t first = sizeof(PrefsRecord); // the record's bytes are in the settings' order
     for (const DefaultPlace& place : places_)
         if (settings[rowAt(place.offset)] && place.offset < first &&
             !place.isSameIn(before, after)) {
@@ -107,7 +107,7 @@ PrefsRecord PreferenceWrangler::withDefault(const DefaultPlace& place) const {
     for (std::size_t i = 0; i < place.size; ++i)
         to[i] = static_cast<UInt8>((to[i] & ~place.bits) | (from[i] & place.bits));
     if (!isUsable(record.scanArea))
-        record.useScanArea = 0; // as the window would see to, in a change of its own
+        record.useScanArea = 0; // as the window would do, in a second change
     return record;
 }
 
@@ -127,7 +127,7 @@ void PreferenceWrangler::markPlace(std::size_t place) {
     const auto doesTheSame = [&](const DefaultPlace& each) {
         return isSame(withDefault(each), after);
     };
-    // A whole has no button of its own while one of its parts does all that there is to do.
+    // A whole shows no button while one of its parts offers the same.
     const DefaultPlace* here = places_.data() + place;
     const bool isNeeded = !isSame(after, prefs) && std::none_of(here - place, here, doesTheSame);
     const Setting& setting = kSettings[rowAt(here->offset)];

@@ -13,8 +13,8 @@
 
 namespace {
 
-constexpr std::size_t kMostNamed = 6; ///< keys that a message has room for
-constexpr std::size_t kMostKey = 60;  ///< bytes of a key that is no setting's
+constexpr std::size_t kMostNamed = 6; ///< keys that a message lists
+constexpr std::size_t kMostKey = 60;  ///< bytes of an unknown key
 
 std::string fileName(const std::string& path) {
     return path.substr(path.rfind('/') + 1);

@@ -144,7 +144,7 @@ void PreferenceWrangler::takeImport(const SettingsOffer& offer) {
                             .buttons = {undoButton(localized("Changes", "Put it back"))}});
 }
 
-/// The agent hears it first: showing every value takes longer.
+/// The agent is told first: showing every value takes longer.
 void PreferenceWrangler::showAndReport(ChangeMask changes) {
     changed(changes);
     loadValues();

@@ -5,13 +5,13 @@
 #include "src/login/launch.h"
 #include "src/prefpane/Daemon.h"
 
-// The login items follow the setting and are never read back into it, so that what they are now,
-// and whether they could be changed, isn't looked at.
+// The login items follow the setting. They are never read back into it, so their state, and whether
+// they could be changed, isn't checked.
 void PreferenceWrangler::updateLaunchUI() {
     if (const CFBundle* agent = daemonMainBundle()) {
         const auto url = CFBundleCopyBundleURL(agent);
         if (prefs.launchAtLogin && !shownLaunchAtLogin_)
-            launchForgetSwitchedOff(url.get()); // here the user switched it on
+            launchForgetSwitchedOff(url.get()); // the user has switched it on here
         launchSetAppIsAutoLaunched(url.get(), false, true);
         launchSetAppIsAutoLaunched(url.get(), prefs.launchAtLogin != 0, false);
     }

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// What keeps the user from drawing an area, and what helps.
+/// Says why no area can be drawn, and what helps.
 std::string explain(OSStatus error) {
     return error == errCouldntSetUserFocus
                ? localized("ScanArea",

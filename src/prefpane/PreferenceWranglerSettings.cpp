@@ -34,9 +34,9 @@ bool isCheckBox(const NSObject& object) {
     return typeid(object) == typeid(NSButton);
 }
 
-// The fixed orders in which controls are bound and show their settings, by their outlets. Screen
-// readers hear the values in the order in which they are shown. Controls that aren't named follow
-// in the order of the settings.
+// The fixed orders, by outlet, in which controls are bound and show their settings. Screen readers
+// say values in the order in which they are shown. Controls that aren't named follow in the order
+// of the settings.
 
 // clang-format off
 constexpr std::string_view kBound[] = {
@@ -163,7 +163,7 @@ void PreferenceWrangler::loadFlags() {
                                                                            : NSOffState);
 }
 
-/// Writes a check box's state to its field and reports the change, also when the value is the same.
+/// Stores a check box's state in its field and reports the change, even if the value is the same.
 void PreferenceWrangler::setFlag(const Setting& setting, const NSButton& sender) {
     *static_cast<UInt8*>(setting.in(prefs)) = sender.state() == NSOnState;
     changed(setting.changes);

@@ -23,16 +23,16 @@ REGISTER_CLASS(SampleScanView);
 
 namespace {
 
-/// The actions of the sample's two buttons, whatever the palette's own are.
+/// The actions of the sample's two buttons. They are the same for any palette.
 constexpr UInt8 kFirstAction = 20;
 constexpr UInt8 kSecondAction = 21;
 
 constexpr SInt16 kColorDepth = 32; ///< bits
 constexpr float kLabelMargin = 2;  ///< points
 constexpr float kFrameWidth = 1;
-constexpr float kFocusedFrameWidth = 3; ///< stays clear of the label
+constexpr float kFocusedFrameWidth = 3; ///< doesn't reach the label
 
-/// What tells the two lines apart.
+/// How one line looks.
 struct LineLook {
     const char* label;
     double transparency; ///< percent
@@ -50,7 +50,7 @@ NSColor lineColor(double transparency) {
                                        (100.0 - transparency) / 100.0);
 }
 
-/// Coordinates that 16 bits may be too small for: settings that a file gives aren't limited.
+/// Coordinates may exceed 16 bits: settings from a file aren't limited.
 using Wide = std::int64_t;
 
 SInt16 toCoordinate(Wide value) {
@@ -63,7 +63,7 @@ Rect rectOf(Wide top, Wide left, Wide height, Wide width) {
             toCoordinate(left + width)};
 }
 
-/// The sample palette in a view of these bounds: at its left edge, centred vertically.
+/// The sample palette's place in a view with these bounds: at the left edge, centred vertically.
 Rect paletteFrame(const NSRect& bounds) {
     const Wide border = prefs.borderGap, gap = prefs.buttonGap;
     const Wide height = prefs.buttonSize.height + 2 * border + 2;

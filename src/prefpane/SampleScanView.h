@@ -5,21 +5,20 @@
 #include "platform/AppKit/NSQuickDrawView.h"
 #include "platform/CoreFoundation/CFBase.h"
 
-/// The lines that the preview can show; any other number shows the guide line, too.
+/// The lines that the preview can show. Any other number also means the guide line.
 enum : SInt32 {
     kSampleScanLine = 0,
     kSampleGuideLine = 1,
 };
 
-/// A sample of how scanning looks with the settings of `prefs`: one of the two lines, a palette of
-/// two buttons, and the pointer with its hot spot in the middle. It reads all of it afresh whenever
-/// it is drawn, the pointer's file too, and changes none. A click, Space or Return shows the other
-/// line.
+/// Shows how scanning looks with the settings of `prefs`: one of the two lines, a palette of two
+/// buttons, and the pointer with its hot spot at the centre. Each drawing reads everything again,
+/// even the pointer's file. A click, Space or Return shows the other line.
 class SampleScanView final : public NSQuickDrawView, public NSAccessibilityButton {
 public:
     SInt32 sampleLineType() const { return lineSampleType_; }
 
-    /// Doesn't redraw by itself.
+    /// Doesn't redraw.
     void setSampleLineType(SInt32 type);
 
     void drawRect(const NSRect& dirtyRect) override;

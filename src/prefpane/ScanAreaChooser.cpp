@@ -17,7 +17,7 @@ constexpr UInt32 kMaxDisplays = 20;
 constexpr float kPictureWidth = 30; ///< of a display, in points
 constexpr float kPictureHeight = 22;
 
-/// A part of a display, in sixths of its width and height: whole numbers, so that neighbours touch.
+/// A part of a display, in sixths of its width and height. Whole numbers, so that neighbours touch.
 struct Part {
     const char* name;
     int left, top, width, height;
@@ -42,12 +42,12 @@ constexpr int kPartCount = std::size(kParts);
 
 constexpr int kStep = 10; ///< of a number, in points
 
-/// The sides of an area as numbers, in the order in which they are kept.
+/// The sides of an area as numbers, in the stored order.
 constexpr struct {
     BumperController* ScanAreaChooser::*bumper;
     float ScanArea::*field;
-    CGFloat CGPoint::*start; ///< of the screens, where the number is a place; null for a length
-    CGFloat CGSize::*length; ///< the most
+    CGFloat CGPoint::*start; ///< where a place begins; null for a length
+    CGFloat CGSize::*length; ///< the largest value
 } kSides[] = {
     {&ScanAreaChooser::scanAreaLeft, &ScanArea::x, &CGPoint::x, &CGSize::width},
     {&ScanAreaChooser::scanAreaTop, &ScanArea::y, &CGPoint::y, &CGSize::height},
@@ -118,7 +118,7 @@ void ScanAreaChooser::reloadGrid() {
     scanAreaGrid->reload();
 }
 
-/// A side that was drawn may lie between two points: only one that was changed is taken.
+/// A drawn area may have fractions of points. Only a number that was changed is taken.
 void ScanAreaChooser::takeNumbers() {
     for (std::size_t i = 0; i < std::size(kSides); ++i)
         if (float& side = prefs.scanArea.*kSides[i].field; shown(side) != numbers_[i])
@@ -176,7 +176,7 @@ void ScanAreaChooser::drawChoice(int index, const Rect& bounds) const {
     NSFrameRectWithWidth(screen, 1);
 }
 
-/// With a bar for its title.
+/// With a bar for the title.
 void ScanAreaChooser::drawWindow(const Rect& bounds) const {
     constexpr float kBar = 6;
     const NSRect window = NSInsetRect(pictureIn(bounds), 3, 0);
@@ -189,7 +189,7 @@ void ScanAreaChooser::drawWindow(const Rect& bounds) const {
 
 void ScanAreaChooser::choose(int index) {
     if (index >= partCount() && !(lastWindow_ = lastUsedWindow()))
-        return; // it has gone since
+        return; // the window is gone
     const auto [origin, size] = areaOf(index);
     prefs.scanArea = {origin.x, origin.y, size.width, size.height};
     prefs.useScanArea = 1;

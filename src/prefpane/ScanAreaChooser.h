@@ -11,8 +11,9 @@
 class BumperController;
 class NumberChangeTarget;
 
-/// The wrangler's part for scan areas that aren't drawn: ready ones as small pictures, each display
-/// as a whole and its halves, thirds and quarters and the window used last; and numbers.
+/// The wrangler's part for scan areas that aren't drawn. Small pictures offer ready ones: each
+/// display, its halves, thirds and quarters, and the window used last. The others are entered as
+/// numbers.
 class ScanAreaChooser final : public ChoiceGridSource {
 public:
     // Filled by the interface file; not owned.
@@ -22,23 +23,23 @@ public:
     BumperController* scanAreaWidth = nullptr;
     BumperController* scanAreaHeight = nullptr;
 
-    /// `changes` hears of every choice; not owned.
+    /// `changes` is told of every choice; not owned.
     explicit ScanAreaChooser(NumberChangeTarget& changes) : changes_(changes) {}
 
     ~ScanAreaChooser();
 
     void setup();
 
-    /// Asks for the displays, and shows the area.
+    /// Asks for the displays and shows the area.
     void load();
-    /// Shows another area.
+    /// Shows the area after a change.
     void update();
 
     int choiceCount() const override;
     std::string choiceName(int index) const override;
     bool isChosen(int index) const override;
     void drawChoice(int index, const Rect& bounds) const override;
-    /// Scans only that area from then on.
+    /// From then on scans only that area.
     void choose(int index) override;
 
 private:
@@ -49,7 +50,7 @@ private:
     void takeNumbers();
 
     NumberChangeTarget& changes_;
-    std::vector<CGRect> displays_;       ///< in global coordinates, as the next
-    std::optional<CGRect> lastWindow_;   ///< offered while it is known
-    std::array<SInt32, 4> numbers_ = {}; ///< left, top, width, height, as the bumpers show them
+    std::vector<CGRect> displays_;       ///< in global coordinates, like the next
+    std::optional<CGRect> lastWindow_;   ///< offered while known
+    std::array<SInt32, 4> numbers_ = {}; ///< left, top, width and height in the bumpers
 };

@@ -108,7 +108,7 @@ void SliderController::changedValue(NSSlider* sender) {
 
 void SliderController::typedValue(NSTextField* sender) {
     if (type(sender->stringValue()))
-        update(); // shows the same value as other values are shown
+        update(); // for the same format as other values
     else
         controls().refuse(minimum(), maximum());
 }

@@ -11,15 +11,15 @@ class NSSlider;
 class NSTextField;
 class NSView;
 
-/// A number shown as a caption, a slider, buttons for a step and for many, and a value label, in
-/// which another value can be typed. Its limits are the slider's own.
+/// A number shown as a caption, a slider, step buttons and a value label. Another value can be
+/// typed into the label. Its limits are the slider's.
 class SliderController final : public NumberController {
 public:
     std::span<const Outlet> outlets() const override;
     std::span<const Action> actions() const override;
 
-    /// `labelFormat` is a printf format with exactly one double conversion; null leaves the
-    /// number's look to the label.
+    /// `labelFormat` is a printf format with exactly one double conversion. With null the label
+    /// formats the number.
     SliderController* setKind(SInt32 kind, void* at, double inc, ChangeMask changes,
                               const char* labelFormat);
     SliderController* setDoubleKindAt(void* at, double inc, ChangeMask changes,
@@ -39,7 +39,7 @@ public:
     void changedValue(NSSlider* sender);
     void typedValue(NSTextField* sender);
 
-    /// Whether the slider is laid out with these limits.
+    /// Whether the form gives the slider these limits.
     bool hasLimits(double min, double max) const;
 
 private:
@@ -55,5 +55,5 @@ private:
     NSTextField* label_ = nullptr;
     NSSlider* slider_ = nullptr;
     std::string labelFormat_ = "%f"; ///< empty: none
-    NSView* container_ = nullptr;    ///< where the views were last seen; null until then
+    NSView* container_ = nullptr;    ///< the views' last container; null before
 };

@@ -19,7 +19,7 @@ REGISTER_CLASS(VLDKorvexPane);
 
 namespace {
 
-/// Reports what a crashed visit had left, once it shows.
+/// When it is shown, reports what a crashed visit has left.
 void showRecovered(const SettingSet& recovered, PreferenceWrangler& wrangler) {
     if (recovered.none())
         return recoveryForget();

@@ -5,21 +5,21 @@
 
 class PreferenceWrangler;
 
-/// The principal class of the pane's bundle: starts and stops the pane's modules, in fixed orders,
-/// as the host shows the pane and puts it away.
+/// The principal class of the pane's bundle. It starts and stops the pane's modules in fixed
+/// orders, as the host shows the pane and puts it away.
 class VLDKorvexPane final : public NSPreferencePane {
 public:
     std::span<const Outlet> outlets() const override;
 
-    /// Makes the help book known.
+    /// Registers the help book.
     void mainViewDidLoad() override;
-    /// Links to the agent, then loads the settings and shows them.
+    /// Links to the agent, then loads and shows the settings.
     void willSelect() override;
-    /// Tells the user when assistive access is off in the system.
+    /// Shows a notice when assistive access is off.
     void didSelect() override;
-    /// Saves the settings if any was changed.
+    /// Saves the settings if any has changed.
     bool commitEditing() override;
-    /// Takes that notice away, saves as above, then lets the agent go.
+    /// Closes that notice, saves as above, then ends the link to the agent.
     void didUnselect() override;
 
 private:

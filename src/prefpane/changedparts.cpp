@@ -6,7 +6,7 @@
 
 namespace {
 
-/// From an area's edge to where its border ends, with a point for the smoothing of its line.
+/// From an area's edge to the outside of its border, plus a point for antialiasing.
 constexpr CGFloat kBorderReach = 1.5F;
 
 } // namespace
@@ -27,8 +27,8 @@ void ChangedParts::addWhole(const CGRect& area) {
     add(CGRectStandardize(area));
 }
 
-/// Two rectangles differ only between their left edges, their right edges, their tops and their
-/// bottoms. So four bands, one for each side, cover every difference.
+/// Two rectangles differ only between their left edges, right edges, tops and bottoms. So four
+/// bands, one for each side, cover every difference.
 void ChangedParts::addBetween(const CGRect& before, const CGRect& now) {
     const CGRect a = CGRectStandardize(before);
     const CGRect b = CGRectStandardize(now);

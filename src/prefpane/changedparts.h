@@ -10,11 +10,11 @@
 struct ShownAreas {
     CGRect current;
     CGRect dragged;
-    bool dragging; ///< the dragged area shows, and the current one is pale
+    bool dragging; ///< the dragged area is shown, and the current one is pale
 };
 
-/// The parts of a frame that differ from the one before: so little of it has to be drawn that a
-/// drag over large displays stays smooth.
+/// The parts of a frame that differ from the frame before. Drawing only these keeps a drag over
+/// large displays smooth.
 class ChangedParts {
 public:
     ChangedParts(const ShownAreas& before, const ShownAreas& now);
@@ -28,6 +28,6 @@ private:
     void addBetween(const CGRect& before, const CGRect& now);
     void add(const CGRect& part);
 
-    std::array<CGRect, 8> rects_; ///< at most four bands for each of the two areas
+    std::array<CGRect, 8> rects_; ///< at most four bands per area
     std::size_t count_ = 0;
 };

@@ -122,7 +122,7 @@ ShownAreas shownAreas() {
     return {currentBounds, newBounds, dragging};
 }
 
-/// Draws a frame, or of it what lies in `parts`; null for all of it.
+/// Draws a frame: the `parts`, or all of it when that is null.
 void drawFrame(const ChangedParts* parts) {
     const OverlayPort port;
     const auto context = CreateCGContextForPort(GetWindowPort(overlay));
@@ -160,7 +160,7 @@ OSStatus handleWindowEvent(UInt32 kind) {
     }
 }
 
-/// Takes a mouse event over into the areas; false when it changes nothing.
+/// Applies a mouse event to the areas. False when it changes nothing.
 bool followMouse(UInt32 kind, CGPoint location) {
     switch (kind) {
     case kEventMouseDown:
@@ -196,7 +196,7 @@ OSStatus handleMouseEvent(EventRef event) {
     return eventNotHandledErr;
 }
 
-/// The key's character; 0 when it hasn't exactly one.
+/// The key's character. 0 unless it has exactly one.
 char characterOf(EventRef event) {
     char character = 0;
     std::size_t size = 0;
@@ -219,7 +219,7 @@ OSStatus handleKeyEvent(EventRef event, Boolean* accepted) {
     }
 }
 
-/// How far an arrow key moves; nothing for another key.
+/// How far an arrow key moves. Zero for another key.
 CGSize arrowStep(char character) {
     switch (character) {
     case kLeftArrowCharCode:
@@ -235,21 +235,21 @@ CGSize arrowStep(char character) {
     }
 }
 
-/// Half as wide and high as the main display, in its middle.
+/// Half as wide and high as the main display, and centred in it.
 CGRect centredQuarter() {
     const CGRect display = CGDisplayBounds(CGMainDisplayID());
     return CGRectInset(display, display.size.width / 4, display.size.height / 4);
 }
 
-/// The place after the step, but not beyond the displays.
+/// The place after the step, limited to the displays.
 CGPoint stepInWorld(CGPoint place, CGSize step) {
     const auto& [origin, size] = worldBounds;
     return {std::clamp(place.x + step.width, origin.x, origin.x + size.width),
             std::clamp(place.y + step.height, origin.y, origin.y + size.height)};
 }
 
-/// Lets the arrow keys do what a whole drag does: they move the current area's far corner, with
-/// shift its near one. For those who can't drag.
+/// The arrow keys replace a drag for those who can't drag. They move the current area's far corner;
+/// with shift, the near one.
 OSStatus arrowHandler(EventHandlerCallRef, EventRef event, void*) {
     const CGSize step = arrowStep(characterOf(event));
     if (dragging || step == CGSize())
@@ -265,7 +265,7 @@ OSStatus arrowHandler(EventHandlerCallRef, EventRef event, void*) {
     return noErr;
 }
 
-/// Makes the window and has its events handled.
+/// Makes the window and installs its event handler.
 OSStatus openOverlay(Boolean* accepted) {
     constexpr Rect kInitialBounds{0, 0, 100, 100};
     OSStatus error = CreateNewWindow(

@@ -5,12 +5,12 @@
 #include <string>
 #include <string_view>
 
-/// The number as the format, printf's with one double conversion, writes it in the user's language.
+/// The number in a printf format with one double conversion, in the user's language.
 std::string numberText(const char* format, double number);
 
-/// The same without blanks before it.
+/// The same without leading blanks.
 std::string numberWords(const char* format, double number);
 
-/// The number that a text begins with; a comma counts as a point. Behind it may stand a unit: no
-/// further digit. Nothing when it isn't so.
+/// The number at the beginning of a text; a comma counts as a point. A unit without digits may
+/// follow. None for any other text.
 std::optional<double> numberFromText(std::string_view text);

@@ -13,17 +13,17 @@
 
 namespace {
 
-/// The agent leaves typing to an on-screen keyboard where this one is installed: action 1 then has
-/// its icon.
+/// If this on-screen keyboard is installed, the agent uses it for typing. Action 1 then has its
+/// icon.
 constexpr UInt8 kTypeAction = 1;
 constexpr OSType kAction1AppCreator = fourCharCode("KYSL");
 constexpr char kAction1AppBundleID[] = "com.github.maliit.keyboard";
 
-CFRef<const CFArray> actionList; ///< null until it could be read
+CFRef<const CFArray> actionList; ///< null until read
 CFRef<const CFString> actionTitles[kNumActions];
-IconRef actionIcons[kNumActions]; ///< owned by the icon module
+IconRef actionIcons[kNumActions]; ///< the icon module owns them
 
-/// The action's entry in the list; null when it has none.
+/// The action's entry in the list. Null when it has none.
 const CFDictionary* getDictForAction(UInt8 action) {
     if (action >= kNumActions)
         return nullptr;
@@ -37,8 +37,8 @@ const CFDictionary* getDictForAction(UInt8 action) {
     return dynamicCFCast<CFDictionary>(CFArrayGetValueAtIndex(actionList.get(), action));
 }
 
-/// The icon of the outside application that an action stands for, looked up at every draw, so that
-/// it follows the application being installed or removed; null when there is none.
+/// The icon of the outside application behind an action. It is looked up at every draw, so it
+/// follows installation and removal. Null when there is none.
 CFRef<Icon> outsideIcon(UInt8 action) {
     CFRef<Icon> icon;
     if (action == kTypeAction &&
@@ -48,7 +48,7 @@ CFRef<Icon> outsideIcon(UInt8 action) {
     return icon;
 }
 
-/// The action's icon in the agent's bundle; null when it has none.
+/// The action's icon in the agent's bundle. Null when it has none.
 IconRef agentIcon(UInt8 action) {
     if (action < kNumActions && actionIcons[action])
         return actionIcons[action];
@@ -59,8 +59,8 @@ IconRef agentIcon(UInt8 action) {
     return actionIcons[action] = iconUtilGetBundlesResourceIcon(daemonMainBundle(), name);
 }
 
-/// Draws the title at the bottom of the bounds, or else in their middle. Gives the top edge of its
-/// box, or the bottom of the bounds when the title can't be measured.
+/// Draws the title at the bottom or in the middle of the bounds. Returns the top edge of its box,
+/// or the bottom of the bounds when the title can't be measured.
 SInt16 drawText(const Rect& bounds, const CFString* title, bool atBottom) {
     Point extent;
     if (GetThemeTextDimensions(title, kThemeLabelFont, kThemeStateActive, false, &extent,
@@ -74,8 +74,8 @@ SInt16 drawText(const Rect& bounds, const CFString* title, bool atBottom) {
     return box.top;
 }
 
-/// The square in the middle of the area that an icon is plotted in: 32 or 16 points, or all of the
-/// smaller side where there is less.
+/// The square in the middle of the area for the icon: 32 or 16 points, or the shorter side if that
+/// is less.
 Rect iconSquare(const Rect& area) {
     const int room = std::min(area.right - area.left, area.bottom - area.top);
     const int size = room > 32 ? 32 : room > 16 ? 16 : room;

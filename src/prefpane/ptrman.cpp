@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 constexpr std::string_view kExtension = ".png";
 constexpr CFIndex kMaxFolderPath = 1024; ///< bytes
 
-/// Nothing until the folder has been read.
+/// None until the folder has been read.
 std::optional<std::vector<std::string>> pointers;
 
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
@@ -28,7 +28,7 @@ bool equalIgnoringCase(std::string_view a, std::string_view b) {
     });
 }
 
-/// The pointer's name; empty when the entry is no pointer.
+/// The pointer's name. Empty when the entry is no pointer.
 std::string pointerNameOf(const fs::directory_entry& entry) {
     const std::string file = entry.path().filename().string();
     std::error_code error;

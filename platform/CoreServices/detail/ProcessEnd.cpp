@@ -39,8 +39,7 @@ bool ProcessEnd::hasEnded() const {
     if (file_ >= 0 && poll(&state, 1, 0) == 0)
         return false;
     siginfo_t info;
-    waitid(P_PIDFD, static_cast<id_t>(file_), &info,
-           WEXITED | WNOHANG); // fails for other processes' children
+    waitid(P_PIDFD, static_cast<id_t>(file_), &info, WEXITED | WNOHANG); // fails for no child
     return true;
 }
 
