@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The least program that loads and shows a form whose rows and list of sections are made of Qt's
-// own widgets.
+// The smallest program that loads and shows a form. Rows and list of sections are made of Qt's own
+// widgets.
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -43,7 +43,7 @@ void buildNumber(QWidget* row) {
     line->addWidget(new QLineEdit(row));
 }
 
-/// Puts a caption and an explanation before the controls that the form has in the row.
+/// Puts a caption and an explanation before the row's controls from the form.
 void buildSetting(QWidget* row) {
     auto* controls = new QWidget(row);
     controls->setLayout(row->layout());
@@ -88,7 +88,7 @@ int main(int argc, char** argv) {
             page->setWidgetResizable(true);
     }
     for (auto* widget : form->findChildren<QWidget*>())
-        widget->updateGeometry(); // or the layouts around it would remember its size before
+        widget->updateGeometry(); // else the surrounding layouts would use its earlier size
     form->show();
     return QApplication::exec();
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The least program that is linked as the pane's is, parses the settings' file and prints a value
-// of it.
+// The smallest program that is linked like the pane, parses the settings' file and prints one of
+// its values.
 
 #include <QFile>
 #include <QXmlStreamReader>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Undo and the switch to a profile in the open pane, until the agent has them, against a plain
-// change of one number.
+// Undo and a switch of profiles in the open pane, until the agent has them. Floor: a plain change
+// of one number.
 
 #include "bench/Figures.h"
 #include "bench/OpenPane.h"
@@ -18,7 +18,7 @@ namespace {
 
 constexpr const char* kProfiles[] = {"Morning", "Tired"};
 
-/// Draws what the change before did.
+/// Finishes the drawing after the change before.
 void comeToRest() {
     for (int i = 0; i < 3; ++i)
         QCoreApplication::processEvents();
@@ -54,7 +54,7 @@ void addOne(void* field) {
     std::memcpy(field, &value, sizeof value);
 }
 
-/// The defaults with every setting another one.
+/// The defaults with every setting changed.
 PrefsRecord everyOther() {
     PrefsRecord record;
     for (const Setting& setting : kSettings) {
@@ -76,7 +76,7 @@ PrefsRecord everyOther() {
     return record;
 }
 
-/// Both profiles, each of which differs from the other in all that a profile has.
+/// Saves two profiles that differ in all settings of a profile.
 bool saveProfiles() {
     const PrefsRecord records[] = {{}, everyOther()};
     for (int i = 0; i < 2; ++i)

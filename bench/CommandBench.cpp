@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A command that only reads, from its process's start to its end, against a bare program that is
-// linked alike and parses the same file.
+// A command that only reads, from the start of its process to the end. Floor: a bare program that
+// is linked alike and parses the same file.
 
 #include "bench/Figures.h"
 #include "src/prefs.h"
@@ -14,7 +14,7 @@ extern char** environ;
 
 namespace {
 
-/// Runs a program to its end, its output left out; negative when it fails.
+/// Runs a program to its end and drops its output. Negative when it fails.
 template <std::size_t N>
 double runToEnd(const char* const (&command)[N]) {
     char* arguments[N + 1] = {};

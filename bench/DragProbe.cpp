@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Opens the pane beside its real agent, drags the scan line's transparency for ten seconds at 120
-// changes a second, and prints the most main-thread time in seconds that a change took together
-// with what was drawn for it. Fails when the agent didn't receive every change, in order.
-// With "bare" it drags a slider of a window that draws the same preview, shows the value and sends
-// a record's bytes, straight through Qt.
+// Opens the pane with its real agent and drags the scan line's transparency for ten seconds with
+// 120 changes a second. Prints the longest main-thread time of a change and its drawing, in
+// seconds. Fails when the agent didn't receive every change in order.
+// With "bare" it drags a slider in a window that draws the same preview, shows the value and sends
+// a record's bytes, directly with Qt.
 
 #include "bench/BarePreview.h"
 #include "platform/AppKit/NSView.h"
@@ -49,7 +49,7 @@ double mainThreadSeconds() {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-/// Runs the event loop until `condition` holds; false when it doesn't within ten seconds.
+/// Runs the event loop until `condition` holds. False when that takes more than ten seconds.
 template <class Condition>
 bool waitFor(Condition&& condition) {
     const auto end = Clock::now() + 10s;
@@ -73,7 +73,7 @@ ProcessSerialNumber findAgent() {
     return kNoProcess;
 }
 
-/// The transparencies in the changes that the agent has logged, in its order.
+/// The transparencies that the agent has logged, in its order.
 std::vector<double> received(const QString& log) {
     std::vector<double> values;
     QFile file(log);
@@ -92,7 +92,7 @@ std::vector<double> received(const QString& log) {
     return values;
 }
 
-/// Drags to and fro. Gives the longest frame, and what was sent.
+/// Drags back and forth. Returns the longest frame; `sent` receives what was sent.
 double drag(QSlider& slider, std::vector<double>& sent) {
     double longest = 0;
     int step = 1;

@@ -49,7 +49,7 @@ std::string shown(double value, Limit::Kind kind) {
     return text;
 }
 
-/// Prints one figure against its limit; false when it is over or wasn't measured.
+/// Prints a figure and its limit. False when it is above it or wasn't measured.
 bool judge(const Figure& figure, const std::map<std::string, double>& medians) {
     const auto [kind, amount] = figure.limit;
     const auto measured = medians.find(figure.name);
@@ -106,7 +106,7 @@ void addFigure(const std::string& name, Limit limit, Measure measured, Measure f
 
 int main(int argc, char** argv) {
     const QByteArray platform = chooseDisplays();
-    new QApplication(argc, argv);         // never destroyed: static widgets live as long
+    new QApplication(argc, argv);         // never destroyed: static widgets use it
     qputenv("QT_QPA_PLATFORM", platform); // for the programs that are started
     addPrefsFigures();
     addLinkFigures();

@@ -6,10 +6,10 @@
 #include <chrono>
 #include <string>
 
-/// What a figure may be at most.
+/// The limit of a figure.
 struct Limit {
     enum Kind {
-        Times, ///< of its floor
+        Times, ///< a multiple of its floor
         Plus,  ///< more than its floor, in seconds
         Bytes, ///< more than its floor, in bytes
     };
@@ -18,15 +18,14 @@ struct Limit {
     double amount;
 };
 
-/// Does one piece of work and gives the seconds, or the bytes, that it took. Negative: it failed,
-/// which ends the figure.
+/// Does one piece of work and returns the seconds or bytes it took. A negative result means
+/// failure, which ends the figure.
 using Measure = double (*)();
 
-/// Registers a figure, and the floor that it is held against in the same run, with the benchmark
-/// library.
+/// Registers a figure, and the floor that it is compared with in the same run.
 void addFigure(const std::string& name, Limit limit, Measure measured, Measure floor);
 
-// One function a subject, each in a file of its own; the order is the order of the runs.
+// One function for each subject and file, in the order of the runs.
 void addPrefsFigures();
 void addLinkFigures();
 void addOverlayFigures();
@@ -39,11 +38,11 @@ void addStartFigures();
 void addCommandFigures();
 void addLaunchFigures();
 
-/// Has the QApplication that is made next find the displays that the overlay is measured on. Gives
-/// the platform of Qt's that was chosen before.
+/// Sets the displays for the next QApplication to those of the overlay's figures. Returns Qt's
+/// platform from before.
 QByteArray chooseDisplays();
 
-/// Calls `work` and gives the seconds that it took.
+/// Calls `work` and returns the seconds it took.
 template <class Work>
 double secondsOf(Work&& work) {
     const auto start = std::chrono::steady_clock::now();

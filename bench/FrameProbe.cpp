@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A plug-in that any Qt program loads when it is told to: it reports when the program's first frame
-// is out, and how much memory is resident then, to the file descriptor KORVEX_FRAME_PROBE.
+// A plug-in that any Qt program can load. After the program's first frame it reports the time and
+// the resident memory to the file descriptor KORVEX_FRAME_PROBE.
 
 #include <QCoreApplication>
 #include <QGenericPlugin>

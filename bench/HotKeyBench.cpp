@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A capture of a hot key in the real form, against the sending of the change alone.
+// A capture of a hot key in the real form. Floor: sending the change alone.
 
 #include "bench/Figures.h"
 #include "bench/OpenPane.h"
@@ -22,8 +22,7 @@ void send(QEvent::Type type) {
     QCoreApplication::sendEvent(focus, &event);
 }
 
-/// Seconds from a key's press, of which the hot key's capture makes use, until the change is sent.
-/// Negative when it didn't.
+/// Seconds from the key press of a capture until the change is sent. Negative when it isn't.
 double captureUntilSent() {
     auto& hotKey = OpenPane::instance().part<QWidget>("scanKey");
     OpenPane::instance().showSectionOf(hotKey);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Keeping the login items in line with the setting, in folders that are full of other programs'
-// entries.
+// Updating the login items, in folders full of other programs' entries.
 
 #include "bench/Figures.h"
 #include "src/login/launch.h"
@@ -25,7 +24,7 @@ const fs::path& ownFolder() {
     return folder;
 }
 
-/// An entry as applications install it, with its name in a score of languages.
+/// An entry as applications install it, with its name in twenty languages.
 std::string otherEntry(int number) {
     const std::string name = "Program " + std::to_string(number);
     std::string text = "[Desktop Entry]\nType=Application\nName=" + name + '\n';
@@ -43,13 +42,13 @@ void fill(const fs::path& folder) {
         std::ofstream(folder / ("program-" + std::to_string(i) + ".desktop")) << otherEntry(i);
 }
 
-/// What `updateLaunchUI` asks of the lists.
+/// The same calls as in `updateLaunchUI`.
 void update(const CFURL* agent) {
     launchSetAppIsAutoLaunched(agent, false, true);
     launchSetAppIsAutoLaunched(agent, true, false);
 }
 
-/// When the folder last got or lost a file, or had one replaced.
+/// When a file in the folder was last added, removed or replaced.
 timespec lastChange() {
     struct stat status {};
 
@@ -73,7 +72,7 @@ double updateLoginItems() {
     return filled && !written && launchAppIsAutoLaunched(agent.get()) ? seconds : -1;
 }
 
-/// Both folders listed and every entry read to its end, once; the list is asked twice and parses.
+/// Lists both folders and reads every entry once. The list is asked twice, and parses.
 double readEntries() {
     std::size_t bytes = 0;
     const double seconds = secondsOf([&bytes] {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A change on its way to the agent, against bare D-Bus calls.
+// A change on its way to the agent. Floor: bare D-Bus calls.
 
 #include "bench/Figures.h"
 #include "bench/Peer.h"

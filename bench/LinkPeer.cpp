@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Receives changes as an agent does, and bare calls as any D-Bus program does.
+// Receives changes like an agent, and bare calls like any D-Bus program.
 
 #include "bench/LinkPeer.h"
 

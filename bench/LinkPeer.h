@@ -5,7 +5,7 @@
 #include <chrono>
 #include <cstdint>
 
-/// Where the receiving process notes what it got, shared with the sending one.
+/// Shared memory in which the receiving process notes what it got.
 struct LinkNote {
     std::atomic<std::uint64_t> count;
     std::int64_t received; ///< linkClock() of the last

@@ -5,19 +5,19 @@
 
 class QWidget;
 
-/// The pane, shown as the host shows it, for as long as the program runs. The receiving process
-/// (Peer.h) is its agent.
+/// The pane, shown as by the host, for as long as the program runs. The receiving process (Peer.h)
+/// is its agent.
 class OpenPane {
 public:
     static OpenPane& instance();
 
     QWidget& window() const { return *window_; }
 
-    /// The window's part of that name; ends the program when there is none.
+    /// The window's part with that name. Ends the program when there is none.
     template <class Part>
     Part& part(const char* name) const;
 
-    /// Shows the section that the part is in.
+    /// Shows the section with that part.
     void showSectionOf(const QWidget& part) const;
 
 private:

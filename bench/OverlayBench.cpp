@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Frames of the scan-area chooser over two displays of 3840 x 2160, with an area as large as one of
-// them, against clearing and filling the same areas through a bare painter on the same picture.
+// them. Floor: clearing and filling the same areas with a bare painter on the same picture.
 
 #include "bench/Figures.h"
 #include "platform/HIToolbox/detail/EventRecord.h"
@@ -39,7 +39,7 @@ bool isPaintedOverlay(const QWidget* window) {
     return window->isVisible() && store && store->size() == kWorld.size();
 }
 
-/// Calls `work` in the middle of a drag, and gives the seconds that it says it took.
+/// Calls `work` during a drag and returns the seconds that it reports.
 double inDrag(const std::function<double(QWidget&)>& work) {
     double seconds = -1;
     QTimer waiting;
@@ -92,7 +92,7 @@ double paintBareFrame() {
     return paintBare(kWorld);
 }
 
-/// What the drag has uncovered, and the edge of the area before.
+/// What the drag has uncovered, and the earlier edge of the area.
 double paintBareStep() {
     const QRect now = kDragged.adjusted(0, 0, kDragStep.x(), kDragStep.y());
     return paintBare(QRegion(now) - QRegion(kDragged.adjusted(0, 0, -1, -1)));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One redraw of the palette's editor, against the same nine buttons, icons and texts drawn straight
-// through Qt; and what the icons and titles cost on the first visit of its tab.
+// One redraw of the palette's editor. Floor: the same nine buttons, icons and texts drawn directly
+// with Qt. Also the cost of icons and titles at the first visit of its section.
 
 #include "bench/Figures.h"
 #include "platform/AppKit/detail/ViewWidget.h"
@@ -26,7 +26,7 @@ void fillSlots() {
     std::copy(std::begin(kActions), std::end(kActions), prefs.buttonActions);
 }
 
-/// The view in no window: grabbing it draws it once.
+/// The view without a window. Grabbing it draws it once.
 struct Editor {
     ViewWidget widget{nullptr};
     PaletteView view;
@@ -44,7 +44,7 @@ QImage blankImage() {
     return {kViewSize, QImage::Format_ARGB32_Premultiplied};
 }
 
-/// A visit of the pane, for its resources.
+/// A visit of the pane, which loads its resources.
 void beginVisit() {
     prefs.on = 0;
     daemonSetup(createFromUTF8(KORVEX_BUNDLE "/Contents/Linux/Korvex Agent.app").get());

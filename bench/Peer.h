@@ -5,15 +5,15 @@
 
 #include <QProcess>
 
-/// The process that receives what is measured, as the agent does, and the memory in which it notes
-/// when.
+/// The process that receives what is measured, as the agent does. It notes the times in shared
+/// memory.
 class Peer {
 public:
     Peer();
     ~Peer();
 
-    /// Seconds from the call of `send` until the peer has what it sends; negative when it doesn't
-    /// get anything within a second.
+    /// Seconds from the call of `send` until the peer has what it sends. Negative when nothing
+    /// arrives within a second.
     template <class Send>
     double oneWay(Send&& send) {
         const auto before = note_->count.load();

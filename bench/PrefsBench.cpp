@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Loading and storing the settings, against the bare work on a file of the same bytes.
+// Loading and storing the settings. Floor: the bare work on a file of the same bytes.
 
 #include "bench/Figures.h"
 #include "src/prefs.h"
@@ -24,7 +24,7 @@ std::string readWhole(const std::string& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// What `measure` gives in a process of its own.
+/// The result of `measure` in a new process.
 template <class Function>
 double inChild(Function&& measure) {
     int ends[2];
@@ -44,8 +44,8 @@ double inChild(Function&& measure) {
     return result;
 }
 
-// A process reads a domain once, so that each load needs a process that hasn't; this one must not
-// have touched the domain before.
+// A process reads a domain once, so each load needs a new process. This one must not have used the
+// domain before.
 void storeDomain() {
     static const double stored = inChild([] { return savePrefs() ? 0.0 : -1.0; });
     (void)stored;
@@ -67,8 +67,8 @@ double parseFile() {
     });
 }
 
-/// Saves come apart from each other, when a pane is put away: what the one before left to do in the
-/// background is done by then.
+/// In use, saves are far apart: one when the pane is put away. So the background work of the one
+/// before must be done.
 void waitABit() {
     usleep(1000);
 }

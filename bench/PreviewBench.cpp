@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One redraw of the preview, against decoding its pointer and drawing the same shapes straight
-// through Qt; and the longest frame while a transparency is dragged.
+// One redraw of the preview. Floor: decoding its pointer and drawing the same shapes directly with
+// Qt. Also the longest frame while a transparency is dragged.
 
 #include "bench/BarePreview.h"
 #include "bench/Figures.h"
@@ -59,7 +59,7 @@ double redrawBare() {
            kRedraws;
 }
 
-/// In a session of its own, where no other agent is found; one drag of ten seconds is enough.
+/// In a bus session of its own without other agents. One drag of ten seconds is enough.
 double probe(const char* command) {
     double result = -1;
     FILE* output = popen(command, "r");

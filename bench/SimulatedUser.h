@@ -6,7 +6,7 @@
 #include <optional>
 #include <random>
 
-/// A user of whom everything is known, to hold what the sums find against.
+/// A user with known properties, to compare results with.
 struct SimulatedUser {
     const char* who;
     tryout::Timing timing;    ///< normal, in seconds
@@ -14,11 +14,11 @@ struct SimulatedUser {
     double doublePresses = 0; ///< share of presses that a second one follows
     double strays = 0;        ///< share of sweeps with a press at any moment
     double tiring = 0;        ///< the spread grows by this share of it from sweep to sweep
-    /// What a try tells one who can't be advised.
+    /// The verdict for a user who can't be advised.
     std::optional<tryout::Verdict> verdict = {};
 };
 
-/// The twelve sweeps of a try, with marks all across the range in a random order.
+/// The twelve sweeps of a try, with marks across the whole range in random order.
 tryout::Measured simulateTry(const SimulatedUser& user, const tryout::Conditions& conditions,
                              std::mt19937& random);
 

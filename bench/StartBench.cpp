@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The start of the program until its first frame, against a bare Qt program that loads and shows
-// the same form, with rows of Qt's own widgets. Both run offscreen, and a plug-in in each
-// (FrameProbe) tells when the frame is out.
+// The program's start until its first frame. Floor: a bare Qt program that loads and shows the same
+// form with rows of Qt's own widgets. Both run offscreen; a plug-in (FrameProbe) reports the frame.
 
 #include "bench/Figures.h"
 #include "tests/support/NoticeMuting.h"
@@ -27,7 +26,7 @@ struct Start {
     double bytes = -1;
 };
 
-/// Starts the program and stops it again after its first frame.
+/// Starts the program and stops it after its first frame.
 Start start(const char* program, const char* argument) {
     int ends[2];
     if (pipe(ends) != 0)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A frame of the line that sweeps on the page “Find my speed”, against the same strip straight
-// through Qt. Whether frames come in time is watched from outside: tests/e2e/tryout.py.
+// A frame of the sweeping line on the page “Find my speed”. Floor: the same strip directly with Qt.
+// tests/e2e/tryout.py watches from outside whether frames come in time.
 
 #include "bench/Figures.h"
 #include "platform/AppKit/detail/ViewWidget.h"

@@ -8,8 +8,8 @@
 
 namespace {
 
-/// What controls show an icon at, in pixels: at the usual text size, and on a display or with a
-/// text of double density.
+/// The sizes in which controls show an icon, in pixels: for the usual text size, and for double
+/// density or double text size.
 constexpr int kSides[] = {16, 32};
 
 } // namespace

@@ -7,7 +7,7 @@
 
 class QIcon;
 
-/// A picture, in as many sizes as it was made with. Copies share it.
+/// A picture in one or more sizes. Copies share it.
 class NSImage {
 public:
     /// No picture.

@@ -4,8 +4,8 @@
 #include "platform/AppKit/NSImage.h"
 #include "platform/AppKit/NSObject.h"
 
-/// One entry of a menu, which owns it. When it is chosen it sends its action to its target, with
-/// itself as the sender.
+/// An entry of a menu, which owns it. When chosen it sends its action to its target, with itself as
+/// the sender.
 class NSMenuItem final : public NSObject {
 public:
     explicit NSMenuItem(std::string_view utf8Title) : title_(utf8Title) {}

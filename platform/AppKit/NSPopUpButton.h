@@ -9,32 +9,29 @@
 
 class NSPopUpButton;
 
-/// Told of what a menu is about to do.
+/// Is told what a menu is about to do.
 class NSMenuDelegate {
 public:
     virtual ~NSMenuDelegate() = default;
 
-    /// Each time just before the menu opens: the place to give its items their pictures, or to
-    /// change them.
+    /// Called just before the menu opens, to set or change its items and their pictures.
     virtual void menuNeedsUpdate(NSPopUpButton* menu) = 0;
 };
 
-/// A button that opens a menu of actions. It is a pull-down menu: the button shows a caption of its
-/// own, never an item, and sends no action of its own; the chosen item sends its own. In the form
-/// it is a QPushButton promoted to NSPopUpButton.
+/// A button with a pull-down menu of actions. The button shows a caption, never an item, and sends
+/// no action; the chosen item sends its own. In the form it is a QPushButton promoted to
+/// NSPopUpButton.
 ///
-/// The menu closes by itself when the button is disabled or hidden. It doesn't open while it has no
-/// items.
+/// The menu closes when the button is disabled or hidden. It doesn't open without items.
 class NSPopUpButton final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;
 
-    /// Another caption than the form's, and the one to wear where there is little room, as the
-    /// form's property shortText; in UTF-8.
+    /// Replaces the form's caption. `brief` is used where there is little room, like the property
+    /// shortText. UTF-8.
     void setTitle(std::string_view utf8, std::string_view brief);
 
-    /// Adds an item at the end. It replaces the item of the same title, if there is one, which
-    /// dies.
+    /// Adds an item at the end. An item with the same title is deleted.
     void addItemWithTitle(std::string_view utf8);
 
     void removeAllItems() { items_.clear(); }
@@ -45,7 +42,7 @@ public:
     /// In the menu's order.
     const std::vector<std::unique_ptr<NSMenuItem>>& itemArray() const { return items_; }
 
-    /// While on, as it is at first, an item that has no target or no action can't be chosen.
+    /// While it is on, as at first, an item without target or action can't be chosen.
     void setAutoenablesItems(bool autoenables) { autoenablesItems_ = autoenables; }
 
     /// Not owned; null for none.

@@ -70,8 +70,8 @@ bool readStoredText(std::string_view bytes) {
     return any;
 }
 
-/// Each reads any bytes as a file of its kind and says whether there is anything in it. When what
-/// it gives contradicts itself, it ends the process with a message.
+/// Each reads bytes as a file of its kind. True when it contains anything. If the result
+/// contradicts itself, the process ends with a message.
 const std::map<std::string, bool (*)(std::string_view bytes)> kReaders = {
     {"propertylist", readPropertyList},
     {"iconfamily", readIconFamily},
@@ -88,8 +88,8 @@ extern "C" int LLVMFuzzerTestOneInput(const UInt8* bytes, std::size_t size) {
     return 0;
 }
 #else
-/// Reads every file of each folder, and again with its end cut off at some hundred lengths. Nothing
-/// is taken from those named "bad-…".
+/// Reads every file of each folder, also cut off at about a hundred lengths. Files named "bad-…"
+/// must give nothing.
 TEST(CorpusTest, IsReadWithoutAFault) {
     for (const auto& [folder, read] : kReaders) {
         int files = 0;

@@ -35,7 +35,7 @@ const auto kGnome = QStringLiteral("org.gnome.desktop.interface");
 
 using Groups = QMap<QString, QVariantMap>;
 
-/// Stands for the desktop's portal, on a connection of its own.
+/// A stand-in for the desktop's portal, with its own connection.
 class Portal final : public QDBusVirtualObject {
 public:
     Portal() {

@@ -27,7 +27,7 @@ constexpr const char* kNotice = "Contents/Resources/axreq.ui";
 constexpr const char* kWhole = nullptr;
 constexpr const char* kGone = nullptr;
 
-/// Faults: a text of one of the bundle's files, or the whole file, has become another.
+/// Faults: a text in one of the bundle's files, or the whole file, is replaced.
 const struct {
     const char *file, *old, *now;
     const char *named, *said; ///< the file and the thing that the message names

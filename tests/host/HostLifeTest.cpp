@@ -20,7 +20,7 @@ namespace {
 
 constexpr OSType kHost = fourCharCode("sprf");
 
-/// The host as a program with its own pane, and the agent beside it.
+/// The host as a program with the real pane, and the agent.
 class HostLifeTest : public AgentTest<QCoreApplication> {
 protected:
     HostLifeTest() { registerCurrentProcess(fourCharCode("APPL"), fourCharCode("test")); }
@@ -42,7 +42,7 @@ protected:
 
     void start() { host_.start(QStringLiteral(KORVEX_HOST), QStringList()); }
 
-    /// The exit status; -1 when it crashed or goes on.
+    /// The exit status. -1 when it crashed or still runs.
     int waitForEnd() {
         const bool ended =
             QTest::qWaitFor([&] { return host_.state() == QProcess::NotRunning; }, 20'000);
@@ -75,7 +75,7 @@ TEST_P(HostSignalTest, PutsThePaneAwayAndStoresWhatWasChanged) {
 
 INSTANTIATE_TEST_SUITE_P(Signals, HostSignalTest, testing::Values(SIGTERM, SIGINT, SIGHUP));
 
-/// Stands for a first instance.
+/// A stand-in for a first instance.
 class FirstInstance final : public QDBusVirtualObject {
 public:
     QString introspect(const QString&) const override { return {}; }
@@ -121,7 +121,7 @@ TEST_F(HostLifeTest, OpensWithoutABusTooAndWithOneThatHangs) {
                            QStringLiteral("unix:path=") + path);
         host_.setProcessEnvironment(environment);
         start();
-        // The agent, which is launched when the pane opens, says so and ends.
+        // The agent is launched when the pane opens. It says so and ends.
         QByteArray said;
         const auto listen = [&] {
             said += host_.readAllStandardError();

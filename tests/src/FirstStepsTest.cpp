@@ -4,7 +4,7 @@
 
 namespace {
 
-/// The page of the first start, and the settings that lie behind it.
+/// The page at the first start, and its settings.
 class FirstStepsTest : public PaneTest {
 protected:
     FirstStepsTest() {

@@ -16,15 +16,15 @@ std::string name(UInt32 modifiers, SInt32 keyCode) {
     return text ? toUTF8(text.get()) : "null";
 }
 
-/// Another program writes this user's global preferences.
+/// Writes this user's global preferences, as another program would.
 void setFunctionKeys(const std::string& value) {
     const std::string folder = std::getenv("XDG_CONFIG_HOME");
     writeFile(folder + "/Preferences/.GlobalPreferences.plist",
               dictionaryFile("<key>com.apple.keyboard.fnState</key>" + value));
 }
 
-/// Keys that follow one another in the kernel's count, and what each is called: "_" for a blank, a
-/// code for a key without a name, "-" twice for a key without a code.
+/// Names of consecutive keys in the kernel's order. "_" is a blank, a code a key without a name,
+/// "--" a key without a code.
 const std::map<int, std::string> kKeys = {
     {KEY_RESERVED,
      "-- esc 1 2 3 4 5 6 7 8 9 0 - = delete tab Q W E R T Y U I O P [ ] return ⌃ A S D F G H J k L "

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kTolerance = 1; // points
 
-/// The pane in a language that nobody speaks.
+/// The pane in a made-up language.
 class LanguagesTest : public PaneTest {
 protected:
     void speak(const char* language) {
@@ -21,7 +21,7 @@ protected:
 
     ~LanguagesTest() override { scroller_.takeWidget(); }
 
-    /// As the host does: what doesn't fit is scrolled.
+    /// As in the host: what doesn't fit is scrolled.
     void openInScroller() {
         open();
         scroller_.setFrameShape(QFrame::NoFrame);
@@ -46,7 +46,7 @@ protected:
         return widget.sizeHint().width() > widget.width() + kTolerance;
     }
 
-    /// What of `root` is clipped or reaches beyond the window's sides.
+    /// Parts of `root` that are clipped or reach beyond the window's sides.
     std::vector<std::string> clipped(QWidget* root) {
         QTest::qWait(50); // for the layouts
         std::vector<std::string> found;

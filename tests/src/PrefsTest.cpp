@@ -22,7 +22,7 @@ const fs::path kDomainFile =
 
 using Texts = std::map<std::string, std::string>;
 
-/// The stored texts by their keys.
+/// The stored texts, by key.
 Texts storedTexts() {
     const std::string file = readFile(kDomainFile);
     const std::regex item("<key>([^<]*)</key>\\s*<string>([^<]*)</string>");
@@ -117,7 +117,7 @@ TEST(PrefsTest, AFreshRecordAndTheKeysNotationsAndMasksAreThoseOfTheContract) {
     }
 }
 
-/// Numbers of this process have a comma from now on.
+/// From now on this process formats numbers with a comma.
 void useCommas() {
     const fs::path folder = makeSandboxFolder("locales");
     const std::string make = "localedef -f UTF-8 -i de_DE " + (folder / "comma").string();

@@ -29,7 +29,7 @@ protected:
         ASSERT_EQ(countFiles(), count);
     }
 
-    /// As a program that changes a setting and is killed.
+    /// A program that changes a setting and is killed.
     void crash(double lineScanTime) const {
         const long before = countFiles();
         const pid_t child = fork();

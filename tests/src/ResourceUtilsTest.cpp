@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A bundle in the sandbox, to put resources in.
+/// A bundle in the sandbox for resources.
 class ResourceUtilsTest : public testing::Test {
 protected:
     ResourceUtilsTest() {
@@ -31,7 +31,7 @@ protected:
         return iconUtilGetBundlesResourceIcon(bundle_.get(), CFSTR(name));
     }
 
-    /// The icon that is registered under that type, else null.
+    /// The icon registered with that type, else null.
     static IconRef registeredAs(UInt32 type) {
         CFRef<Icon> icon;
         GetIconRef(kOnSystemDisk, fourCharCode("Krvx"), type, &icon);

@@ -5,8 +5,8 @@
 
 #include <QProcess>
 
-/// A stand-in for the desktop's accessibility service, a process on the test's own bus. It ends
-/// with this object.
+/// A stand-in for the desktop's accessibility service: a process on the test's bus. It ends with
+/// this object.
 class AccessibilityService {
 public:
     AccessibilityService() {

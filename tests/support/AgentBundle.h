@@ -5,8 +5,8 @@
 #include "src/prefs.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
-/// An agent's bundle of the test's own, with a folder of pointers and nothing to launch. The pane's
-/// link to the agent is set up with it as long as it lives.
+/// An agent's bundle for the test, with a folder of pointers and nothing to launch. The pane's link
+/// to the agent uses it while this object exists.
 class AgentBundle {
 public:
     AgentBundle() {

@@ -11,8 +11,7 @@
 #include <cstring>
 #include <string>
 
-/// Reads what the stand-in agent appends to its log, one event after the other. While it waits, the
-/// test's own event loop runs.
+/// Reads the stand-in agent's log, event by event. The test's event loop runs while it waits.
 class AgentLog {
 public:
     /// Every agent started from now on logs here.
@@ -24,7 +23,7 @@ public:
         return std::string(std::getenv("KORVEX_TEST_SANDBOX")) + "/agent.log";
     }
 
-    /// The next event; an empty object, and a failed test, when none comes within ten seconds.
+    /// The next event. An empty object and a failed test when none comes within ten seconds.
     QJsonObject next() {
         if (!QTest::qWaitFor([this] { return readLine(); }, 10'000)) {
             ADD_FAILURE() << "the agent logged nothing more";
@@ -33,14 +32,14 @@ public:
         return QJsonDocument::fromJson(std::exchange(line_, {})).object();
     }
 
-    /// What the next event says has changed.
+    /// The change mask of the next event.
     long nextMask() { return static_cast<long>(next()["mask"].toInteger()); }
 
     /// The name of the next event.
     std::string nextName() { return next()["event"].toString().toStdString(); }
 
 private:
-    /// Completes line_; false when its end isn't in the file yet.
+    /// Completes line_. False when its end isn't in the file yet.
     bool readLine() {
         if (!file_.isOpen() && !file_.open(QIODevice::ReadOnly))
             return false;

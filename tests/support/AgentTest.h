@@ -9,8 +9,7 @@
 #include <csignal>
 #include <sys/wait.h>
 
-/// A test with the bundle's agent beside it as a process of its own, once the test starts it. It
-/// goes with the test.
+/// A test that can start the bundle's agent as another process. The agent ends with the test.
 template <class Application>
 class AgentTest : public ApplicationTest<Application> {
 protected:
@@ -34,7 +33,7 @@ protected:
             << "the agent didn't start";
     }
 
-    /// Returns when nothing is left of it: while its process ends, it isn't launched again.
+    /// Returns when the agent's process is gone. While it ends, no other is launched.
     static void waitForNoAgent() {
         const auto hasChild = [] {
             siginfo_t info;

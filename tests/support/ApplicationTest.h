@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-/// A test in a Qt application of that class.
+/// A test with a Qt application of that class.
 template <class Application>
 class ApplicationTest : public testing::Test {
     int argc_ = 1;

@@ -3,13 +3,13 @@
 
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
-/// All users' preferences as an administrator may set them: they keep the notice about assistive
-/// access away from everybody who hasn't seen it yet.
+/// All users' preferences, as an administrator may set them. They switch off the notice about
+/// assistive access.
 inline fs::path noticeMutingFile() {
     return fs::path(std::getenv("XDG_CONFIG_DIRS")) / "Preferences/org.korvex.Agent.plist";
 }
 
-/// `more`: elements of theirs besides.
+/// `more`: further elements.
 inline void muteNotice(const std::string& more = {}) {
     writeFile(noticeMutingFile(), dictionaryFile("<key>axReqLastNoticeDate</key>"
                                                  "<integer>2147483647</integer>"

@@ -23,9 +23,9 @@
 #include <memory>
 #include <vector>
 
-/// Opens the built pane, from its real bundle, in this process, and the stand-in agent beside it.
-/// Nothing is open until the test says so. What the agent hears and the test doesn't expect is a
-/// fault.
+/// Opens the built pane from its real bundle in this process, with the stand-in agent. A test opens
+/// it when it wants. A test that calls openWithAgent fails when the agent has received anything
+/// that it didn't expect.
 class PaneTest : public AgentTest<QApplication> {
 protected:
     PaneTest() {
@@ -55,7 +55,7 @@ protected:
         pane_->didSelect();
     }
 
-    /// Opens the pane with the agent running; the log then begins after the agent heard of it.
+    /// Opens the pane with the agent running. The log then begins after the opening.
     void openWithAgent() {
         startAgent();
         open();
@@ -70,7 +70,7 @@ protected:
 
     QWidget* window() const { return pane_->mainView()->widget(); }
 
-    /// The form's widget of that name, in sight.
+    /// The form's widget with that name, made visible.
     template <class Widget = QWidget>
     Widget* find(const char* name) {
         auto* widget = window()->findChild<Widget*>(QString::fromLatin1(name));
@@ -88,14 +88,14 @@ protected:
         return widget;
     }
 
-    /// A click where the widget's style expects it: at its left, where a check box has its mark.
+    /// Clicks where most styles expect it: at the left, where a check box has its mark.
     void click(const char* name, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         auto* widget = find(name);
         const QPoint place(std::min(8, widget->width() / 2), widget->height() / 2);
         QTest::mouseClick(widget, Qt::LeftButton, modifiers, place);
     }
 
-    /// What assistive technology does.
+    /// Acts like assistive technology.
     static void act(QAccessibleInterface* control) {
         auto* actions = control->actionInterface();
         actions->doAction(actions->actionNames().front());
@@ -103,7 +103,7 @@ protected:
 
     static void act(QWidget* widget) { act(QAccessible::queryAccessibleInterface(widget)); }
 
-    /// What the strip at the window's top says; empty without one.
+    /// The text of the strip at the window's top. Empty without one.
     static std::string told() { return currentMessage() ? currentMessage()->message.text : ""; }
 
     static void pressInStrip() {
@@ -113,8 +113,8 @@ protected:
             press();
     }
 
-    /// The masks that the agent received from the last read event on; puts the pane away, so that
-    /// nothing can come after them.
+    /// The masks that the agent has received since the last event read. Puts the pane away, so that
+    /// nothing can follow.
     std::vector<ChangeMask> remainingMasks() {
         putAway();
         std::vector<ChangeMask> masks;

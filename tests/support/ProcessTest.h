@@ -7,7 +7,7 @@
 
 #include <QCoreApplication>
 
-/// A test that takes part once it says so.
+/// A test that can take part.
 class ProcessTest : public ApplicationTest<QCoreApplication> {
 protected:
     static bool takePart() {
@@ -15,7 +15,7 @@ protected:
     }
 };
 
-/// The process of that signature, or kNoProcess.
+/// The process with that signature, or kNoProcess.
 inline ProcessSerialNumber findProcess(OSType signature) {
     ProcessSerialNumber psn = kNoProcess;
     while (GetNextProcess(&psn) == noErr) {

@@ -46,7 +46,7 @@ const struct {
     {"SectionFrame", make<SectionFrame>},
 };
 
-/// Makes the Tab key follow the order of the widgets, which is also a screen reader's.
+/// Makes Tab follow the order of the widgets, which screen readers use too.
 QWidget* orderTabs(QWidget* widget, QWidget* previous) {
     for (QObject* child : widget->children()) {
         auto* next = qobject_cast<QWidget*>(child);

@@ -6,18 +6,18 @@
 
 #include <vector>
 
-/// Makes the widgets of a form, the layer's own and the pane's views among them.
+/// Makes the widgets of a form, including the layer's own and the pane's views.
 class FormLoader final : public FormReader {
 public:
     FormLoader();
 
-    /// As loadFile, with the parts of rows, frames and lists built and the Tab key going through
-    /// all in the reading order.
+    /// Like loadFile. It also builds the parts of rows, frames and lists, and makes Tab follow the
+    /// reading order.
     QWidget* loadForm(const QString& path);
 
     QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override;
 
 private:
     QStringList knownWidgets_;
-    std::vector<FormPart*> parts_; ///< those around others first
+    std::vector<FormPart*> parts_; ///< outer ones first
 };

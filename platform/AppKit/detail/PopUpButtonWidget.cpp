@@ -16,7 +16,7 @@ constexpr int kTextFlags = Qt::TextShowMnemonic;
 
 } // namespace
 
-/// Tells assistive technology of the menu, of which Qt's own interface for buttons knows nothing.
+/// Describes the menu to assistive technology. Qt's interface for buttons doesn't know it.
 class PopUpButtonInterface final : public QAccessibleWidget {
 public:
     explicit PopUpButtonInterface(PopUpButtonWidget* button)
@@ -44,7 +44,7 @@ public:
         return state;
     }
 
-    // The menu is a part of its button, as a combo box's list is.
+    // The menu belongs to its button, like a combo box's list.
     int childCount() const override { return 1; }
 
     QAccessibleInterface* child(int index) const override {
@@ -83,7 +83,7 @@ PopUpButtonWidget::PopUpButtonWidget(QWidget* parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     menu_.onChosen = [this](const QString& title) { onChosen(title); };
     menu_.onClosed = [this] { showIsOpen(false); };
-    // By the key that the caption underlines.
+    // By the caption's mnemonic.
     connect(this, &QPushButton::clicked, this, [this] { openMenu(); });
 }
 
@@ -144,7 +144,7 @@ void PopUpButtonWidget::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Down:
-        // The key that closed the menu may still be held down.
+        // The key that closed the menu may still be down.
         if (!event->isAutoRepeat())
             openMenu();
         return;

@@ -5,8 +5,8 @@
 
 #include <QPushButton>
 
-/// The widget behind an NSPopUpButton: a button that opens a menu when it is pressed. A caption
-/// that has no room is shortened.
+/// The widget behind an NSPopUpButton: a button that opens a menu. A caption without room is
+/// shortened.
 class PopUpButtonWidget final : public QPushButton {
 public:
     explicit PopUpButtonWidget(QWidget* parent);

@@ -22,7 +22,7 @@ int dividedUp(int amount, int by) {
     return (amount + by - 1) / by;
 }
 
-/// As large as an entry's picture, so that the titles of entries without one stand in line.
+/// As large as an entry's picture, so that titles without pictures are aligned.
 QIcon blankIcon(QSize size) {
     QPixmap blank(size);
     blank.fill(Qt::transparent);
@@ -66,7 +66,7 @@ void PopUpMenu::open(const std::vector<PopUpEntry>& entries, std::optional<QPoin
     setCurrentIndex({});
     setFocus(Qt::PopupFocusReason);
     show();
-    // Now that the menu has the focus, a screen reader hears where it is.
+    // Now that the menu has the focus, a screen reader says where it is.
     if (!pressedAt)
         go({0, 1});
 }
@@ -111,8 +111,8 @@ PopUpMenu::Grid PopUpMenu::gridIn(int height) const {
     return grid;
 }
 
-// Below the button, or above it if that takes fewer columns; over the button only when neither has
-// room enough.
+// Below the button, or above it if that takes fewer columns. Over the button only if both are too
+// small.
 void PopUpMenu::placeAtButton() {
     const QWidget* button = parentWidget();
     const QRect room = button->screen()->availableGeometry();
@@ -144,7 +144,7 @@ void PopUpMenu::placeAtButton() {
 }
 
 bool PopUpMenu::event(QEvent* event) {
-    // What happens inside goes to the viewport.
+    // The viewport handles what happens inside.
     if (event->type() == QEvent::MouseButtonPress &&
         !rect().contains(static_cast<QMouseEvent*>(event)->position().toPoint())) {
         close();
@@ -161,7 +161,7 @@ void PopUpMenu::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // The key that opened the menu may still be held down.
+        // The key that opened the menu may still be down.
         if (!event->isAutoRepeat())
             choose(currentRow());
         return;
@@ -219,8 +219,8 @@ void PopUpMenu::mouseMoveEvent(QMouseEvent* event) {
     setCurrentIndex(indexAt(event->position().toPoint()));
 }
 
-// The release that belongs to the click on the button leaves the menu open, even if a trembling
-// hand moved the pointer a little; only a real drag chooses.
+// The release of the click on the button leaves the menu open, even if the hand trembled. Only a
+// real drag chooses.
 void PopUpMenu::mouseReleaseEvent(QMouseEvent* event) {
     const QPoint place = event->globalPosition().toPoint();
     const bool isDragged = pressedAt_ && (place - *pressedAt_).manhattanLength() >= entryHeight_;

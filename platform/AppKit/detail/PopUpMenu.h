@@ -10,7 +10,7 @@
 #include <optional>
 #include <vector>
 
-/// What a menu shows of one item.
+/// What a menu shows of an item.
 struct PopUpEntry {
     QString title;
     QIcon icon;
@@ -25,8 +25,8 @@ class PopUpMenu final : public QListWidget, public NSAccessibilityList {
 public:
     explicit PopUpMenu(QWidget* button);
 
-    /// `pressedAt`: where on the screen the mouse button went down that opens the menu. Without it
-    /// the menu begins at its first entry, ready for the keyboard.
+    /// `pressedAt` is where on the screen the mouse button went down. Without it the menu starts at
+    /// its first entry, for the keyboard.
     void open(const std::vector<PopUpEntry>& entries, std::optional<QPoint> pressedAt);
 
     std::function<void(const QString& title)> onChosen; ///< the menu is closed by then
@@ -49,13 +49,13 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    /// The entries' arrangement in columns of equal length, the last one perhaps shorter.
+    /// The entries in columns of equal length; the last may be shorter.
     struct Grid {
         int rows;
         int width; ///< of all columns
     };
 
-    /// Where a key leads: to `row` or, if that can't be chosen, onward in this direction.
+    /// The target of a key: `row`, or the next row in this direction that can be chosen.
     struct Move {
         int row;
         int onward; ///< 1 or -1

@@ -44,7 +44,7 @@ public:
         return least;
     }
 
-    // Not downwards as well, which is the default: the card around it would grow with the page.
+    // The default would include downwards. Then the card would grow with the page.
     Qt::Orientations expandingDirections() const override { return Qt::Horizontal; }
 
     bool hasHeightForWidth() const override { return true; }
@@ -61,7 +61,7 @@ public:
     }
 
 private:
-    /// Gives each item its place, and the height of all.
+    /// Calls `put` with each item and its place. Returns the total height.
     template <class Put>
     int arrange(const QRect& rect, Put put) const {
         int x = rect.x(), y = rect.y(), lineHeight = 0;

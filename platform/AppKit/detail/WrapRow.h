@@ -5,8 +5,8 @@
 
 #include <QWidget>
 
-/// Controls side by side, its children in the form, that go on in a new line where there is no room
-/// for one more.
+/// Controls side by side: its children in the form. A new line begins where there is no room for
+/// the next.
 class WrapRow final : public QWidget, public FormPart {
 public:
     using QWidget::QWidget;

@@ -11,7 +11,7 @@ namespace {
 constexpr QRgb kBlack = qRgb(0, 0, 0), kWhite = qRgb(255, 255, 255);
 using DrawingTest = FormTest;
 
-/// Draws into a picture as into a view of 20 by 20 points on a white ground.
+/// Draws into a picture like a view of 20 by 20 points with a white background.
 template <class Draw>
 QImage draw(Draw&& commands, double scale = 1) {
     QWidget widget;

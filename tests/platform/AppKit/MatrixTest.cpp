@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Three cells above one another with the tags 2, 0 and 1.
+/// Three cells, one above the other, with the tags 2, 0 and 1.
 class MatrixTest : public FormTest {
 protected:
     void SetUp() override {
@@ -24,7 +24,7 @@ protected:
 
     static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
 
-    /// What is selected now, and how often the action was sent for it.
+    /// The selected tag, and how often the action was sent.
     std::pair<int, int> outcome() {
         return {owner_.control->selectedTag(), std::exchange(owner_.sent, 0)};
     }

@@ -8,7 +8,7 @@ namespace {
 
 std::vector<std::string> awoken;
 
-/// A controller that is no view, with a control of its own.
+/// A controller that is no view and has one control.
 class GroupController final : public ControlOwner<NSSlider> {
     void awakeFromNib() override { awoken.emplace_back("group"); }
 };

@@ -21,13 +21,14 @@
 
 using Properties = std::vector<std::pair<std::string, std::string>>;
 
-/// Those of a control that is its owner's outlet and sends it its action, and others.
+/// Properties of a control that is its owner's outlet and sends it its action; and other
+/// properties.
 inline Properties wired(Properties others = {}) {
     others.insert(others.end(), {{"outlet", "control"}, {"action", "acted:"}});
     return others;
 }
 
-/// A widget of a form with the given properties and contents, as Designer writes it.
+/// A widget as Designer writes it, with these properties and contents.
 inline std::string widgetXml(const std::string& type, const std::string& name,
                              const Properties& properties = {}, const std::string& contents = "") {
     std::string xml = "<widget class='" + type + "' name='" + name + "'>";
@@ -36,7 +37,7 @@ inline std::string widgetXml(const std::string& type, const std::string& name,
     return xml + contents + "</widget>";
 }
 
-/// The widgets below one another, or beside one another in a "QHBoxLayout".
+/// The widgets one above the other, or side by side in a "QHBoxLayout".
 inline std::string layoutXml(const std::vector<std::string>& widgets,
                              const std::string& type = "QVBoxLayout") {
     std::string xml = "<layout class='" + type + "'>";
@@ -50,8 +51,8 @@ inline std::string formXml(const std::vector<std::string>& widgets) {
            widgetXml("QWidget", "form", {}, layoutXml(widgets)) + "</ui>";
 }
 
-/// The owner of a form with one control, which is its outlet. The control, or the items of its
-/// menu, send it "acted:".
+/// The owner of a form with one control, its outlet. The control, or the items of its menu, send it
+/// "acted:".
 template <class Control, class Sender = Control>
 class ControlOwner : public NSObject {
 public:
@@ -75,7 +76,7 @@ public:
     std::function<void(Sender*)> onAction = [](Sender*) {};
 };
 
-/// Runs Qt offscreen and loads forms written by the test.
+/// Runs Qt offscreen and loads forms made by the test.
 class FormTest : public ApplicationTest<QApplication> {
 protected:
     bool load(const std::string& xml, NSObject& owner) {
@@ -83,7 +84,7 @@ protected:
         return nib_.instantiate(path_, owner, errors_);
     }
 
-    /// Loads a form with this one control, wired to `owner`, between two line edits, and shows it.
+    /// Loads and shows a form with this control between two line edits, wired to `owner`.
     void show(const std::string& controlXml, NSObject& owner) {
         ASSERT_TRUE(load(
             formXml({widgetXml("QLineEdit", "first"), controlXml, widgetXml("QLineEdit", "last")}),

@@ -17,11 +17,11 @@ namespace {
 
 constexpr int kKeys = 100, kWriters = 4, kSaves = 25;
 
-bool hasLocks = true; ///< the file system has them, as those of networks may not
+bool hasLocks = true; ///< false: a file system without locks, like some network ones
 
 } // namespace
 
-// In the place of the C library's.
+// Replaces the C library's.
 extern "C" int flock(int file, int operation) noexcept {
     if (hasLocks)
         return static_cast<int>(syscall(SYS_flock, file, operation));
@@ -41,7 +41,7 @@ CFRef<CFString> text(int number) {
     return createFromUTF8(std::to_string(number));
 }
 
-/// The whole file of the generation whose number is in every key.
+/// The whole file of one generation. Every key has the generation's number.
 std::string document(int generation) {
     const auto all = CFDictionaryCreateMutable();
     for (int key = 0; key < kKeys; ++key)
@@ -49,7 +49,7 @@ std::string document(int generation) {
     return propertyListToXML(all.get());
 }
 
-/// Stores one generation after another until it is killed.
+/// Stores one generation after the other until it is killed.
 [[noreturn]] void saveForEver(int generation, std::atomic<int>& saved) {
     for (;; ++generation) {
         for (int key = 0; key < kKeys; ++key)
@@ -97,7 +97,7 @@ TEST(CFPreferencesCrash, KilledWriterLeavesTheOldOrTheNewFile) {
     EXPECT_EQ(countPending(path), 0);
 }
 
-/// Saves from several processes at the same time, each with keys of its own.
+/// Saves from several processes at the same time. Each has its own keys.
 void saveAtTheSameTime() {
     std::vector<pid_t> writers;
     for (int writer = 0; writer < kWriters; ++writer) {

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// Each test has domains of its own, since the process keeps domains.
+/// Each test has its own domains, since the process keeps domains in memory.
 class CFPreferencesTest : public testing::Test {
 protected:
     CFPreferencesTest() {
@@ -42,7 +42,7 @@ protected:
 
     bool synchronize() { return CFPreferencesAppSynchronize(domain_.get()); }
 
-    /// The file that holds key=value pairs.
+    /// A file with these key=value pairs.
     static std::string file(const std::string& pairs) {
         return R"(<plist version="1.0"><dict>)" +
                std::regex_replace(pairs, std::regex("(\\w+)=(\\w+) ?"),
@@ -50,7 +50,7 @@ protected:
                "</dict></plist>";
     }
 
-    /// The file's XML from its root on, on one line.
+    /// The file's XML from its root on, as one line.
     static std::string stored(const fs::path& path) {
         const std::string text = std::regex_replace(readFile(path), std::regex("[\n\t]"), "");
         return text.substr(std::min(text.find("<plist"), text.size()));
@@ -89,7 +89,7 @@ TEST_F(CFPreferencesTest, ReadersTakeWhatReadsAsTheirType) {
 }
 
 TEST_F(CFPreferencesTest, AllUsersValuesAreDefaults) {
-    // What isn't absolute in the environment doesn't count.
+    // Paths that aren't absolute are ignored.
     const std::string relative = "relative::", vendors = makeSandboxFolder("vendor");
     setenv("XDG_CONFIG_HOME", "relative", 1);
     setenv("XDG_CONFIG_DIRS", (relative + std::getenv("XDG_CONFIG_DIRS") + ':' + vendors).c_str(),

@@ -22,7 +22,7 @@ std::string repeat(const std::string& text, std::size_t times) {
     return result;
 }
 
-/// The list's content as it is written, without the document around it.
+/// The list as it is written, without the surrounding document.
 std::string written(const CFType* value) {
     const std::string body = std::regex_replace(propertyListToXML(value), std::regex("[\n\t]"), "");
     const std::size_t start = body.find("<plist version=\"1.0\">") + 21;
@@ -37,7 +37,7 @@ TEST(CFPropertyList, XMLComesBackAsItWas) {
         {"<real>-infinity</real>", ""},
         {"<data> AAEC\n/w== </data>", "<data>AAEC/w==</data>"},
         {"<date>1933-01-01T00:00:00Z</date>", ""},
-        // Out of range, or of another program's making: kept.
+        // Out of range, or written by another program: kept.
         {"<array><date>4001-01-01T00:00:00Z</date><date>0001-12-31T23:59:59Z</date>"
          "<integer>9223372036854775808</integer><real>1e999</real></array>",
          ""},
@@ -81,7 +81,7 @@ TEST(CFPropertyList, LimitsHold) {
     EXPECT_FALSE(parse(sound + std::string(room + 1, '\n')));
 }
 
-/// A binary list of those objects, with one byte for an offset and for a reference.
+/// A binary list of those objects, with one byte per offset and per reference.
 std::string binary(const std::vector<std::string>& objects, std::size_t root = 0) {
     std::string bytes = "bplist00", table;
     for (const auto& object : objects) {
@@ -110,7 +110,7 @@ TEST(CFPropertyList, BinaryIsRead) {
               "<key>\xE4\xB8\xAD</key><date>2018-01-05T18:48:32Z</date></dict>");
 }
 
-// Other unsound lists are those of tests/fuzz/corpus/propertylist.
+// Other unsound lists are in tests/fuzz/corpus/propertylist.
 TEST(CFPropertyList, WhatIsCutOffOrHasAnotherTrailerIsRefused) {
     const std::string xml = plist("<dict><key>a</key><string>b</string></dict>");
     const std::string sound = binary({"\xA1\x01", kTrue});

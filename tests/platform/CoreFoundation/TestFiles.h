@@ -24,7 +24,7 @@ inline std::string readFile(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// How many files beside that one were to replace it and haven't.
+/// How many files beside that one are pending replacements of it.
 inline long countPending(const fs::path& path) {
     const std::string start = path.filename().string() + ".new";
     return std::count_if(fs::directory_iterator(path.parent_path()), {}, [&](const auto& file) {

@@ -12,7 +12,7 @@ CFRef<CGDataProvider> provider(const fs::path& path) {
         CFURLCreateFromFileSystemRepresentation(path.c_str(), false).get());
 }
 
-/// The image in a file of that content; null when there is none.
+/// The image from a file with that content. Null when there is none.
 CFRef<CGImage> load(const std::string& content) {
     const auto file = makeSandboxFolder("images") / "file.png";
     writeFile(file, content);

@@ -9,7 +9,7 @@ QRectF pixelsOf(const DisplayPlace& display) {
     return {display.geometry.topLeft(), QSizeF(display.geometry.size()) * display.scale};
 }
 
-/// As Qt does for a window that it counts to the display.
+/// Qt's conversion for a window on that display.
 QRectF pixelsOf(const QRectF& units, const DisplayPlace& counted) {
     const QPointF start = counted.geometry.topLeft();
     return {(units.topLeft() - start) * counted.scale + start, units.size() * counted.scale};

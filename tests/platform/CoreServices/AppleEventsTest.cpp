@@ -68,7 +68,7 @@ TEST_F(AppleEventsTest, TheHandlersResultGoesBackAndWhatIsTooLargeIsRefused) {
     EXPECT_EQ(peer_.ask(), 8);
 }
 
-// What any program on the bus can send.
+// Any program on the bus can send these.
 TEST_F(AppleEventsTest, OtherCallsAreAnsweredWithAnError) {
     const QVariant event = messageOfEvent(makeEvent({}, kTestClass, 0)).arguments().at(2);
 

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// That no process is known, and sending fails at once.
+/// Expects that no process is known and that sending fails at once.
 void expectNobody() {
     ProcessSerialNumber psn = kNoProcess;
     EXPECT_EQ(GetNextProcess(&psn), procNotFound);
@@ -16,7 +16,7 @@ void expectNobody() {
         EXPECT_EQ(AESend(&event, nullptr, mode, kAEDefaultTimeout), connectionInvalid);
 }
 
-/// A bus of its own, to be ended by the test.
+/// The test's own bus, which it ends.
 class BusFaultsTest : public ProcessTest {
 protected:
     BusFaultsTest() {

@@ -8,7 +8,7 @@ constexpr OSType kCode = fourCharCode("TEST");
 
 class InstalledApplicationsTest : public ApplicationsTest {
 protected:
-    /// The path of the application, relative to the data folders; empty when none is found.
+    /// The application's path, relative to the data folders. Empty when none is found.
     std::string find(OSType creator = kCode, const char* identifier = "org.keys",
                      const char* name = nullptr) {
         FSRef ref;
@@ -48,8 +48,8 @@ TEST_F(InstalledApplicationsTest, EntriesSayWhetherTheyAreInstalledAndHideLaterF
     }
 }
 
-/// Each change is seen at once: right after one before it, in the same step of the file system's
-/// clock, and after a while, when what was read is kept.
+/// Each change shows at once: right after another one, in the same step of the file system's clock,
+/// and later, when the cache is in use.
 TEST_F(InstalledApplicationsTest, FollowsInstallationAndRemoval) {
     const fs::path folder = near_ / "applications", bundle = folder / "Keys.app";
     for (const bool waits : {false, true}) {

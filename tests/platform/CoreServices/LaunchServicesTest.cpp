@@ -26,13 +26,13 @@ protected:
 
     OSStatus open() { return LSOpenCFURLRef(url_.get(), nullptr); }
 
-    /// The process IDs of all that were started, in order.
+    /// The process IDs of all started programs, in order.
     std::vector<pid_t> started() {
         std::istringstream file(readFile(pids_));
         return {std::istream_iterator<pid_t>(file), {}};
     }
 
-    /// Waits until the `count`th has come as far as its program.
+    /// Waits until the `count`th process runs its program.
     pid_t waitForStart(std::size_t count) {
         const auto hasStarted = [&] {
             return started().size() == count &&
@@ -95,7 +95,7 @@ TEST_F(LaunchServicesTest, OneProgramRunsAtATimeDetachedAndIsReapedAtItsEnd) {
         << "once the loader has closed its own";
     for (const char* mask : {"SigBlk:\t", "SigIgn:\t"}) {
         const std::string status = readFile(proc(first) / "status");
-        // Beyond these bits come the C library's own.
+        // Higher bits are the C library's own.
         const auto bits = std::stoull(status.substr(status.find(mask) + 8, 16), nullptr, 16);
         EXPECT_EQ(bits & 0x7FFFFFFF, 0u) << mask;
     }

@@ -47,7 +47,7 @@ protected:
 
 TEST_F(ProcessesTest, TheWalkFollowsOthersThatComeAndGoWithoutTheEventLoop) {
     TestPeer agent;
-    ASSERT_TRUE(ownName(QStringLiteral("org.korvex.Process1.tAPPL.sKrvx.p1"))); // of another form
+    ASSERT_TRUE(ownName(QStringLiteral("org.korvex.Process1.tAPPL.sKrvx.p1"))); // no valid name
     EXPECT_THAT(walk(), ElementsAre(agent.psn())) << "there before the first look";
     ASSERT_TRUE(ownName(QStringLiteral("org.korvex.Process1.tAPPL.sKrvx.p2")));
     TestPeer tool(kTool);

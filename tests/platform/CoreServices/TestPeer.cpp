@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A process that takes part as of the type given, and handles the tests' events.
+// A process that takes part with the given type, and handles the tests' events.
 
 #include "tests/platform/CoreServices/TestPeer.h"
 

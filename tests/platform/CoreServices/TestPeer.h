@@ -7,14 +7,14 @@
 #include <QProcess>
 #include <QTest>
 
-// The events of the peer's class.
+// Events of the peer's class.
 constexpr AEEventClass kTestClass = fourCharCode("Test");
 constexpr AEEventID kAnswerCode = fourCharCode("code"); ///< answers its direct object, two bytes
 constexpr AEEventID kOther = fourCharCode("none");      ///< isn't handled
 constexpr DescType typeCode = fourCharCode("shor");
 constexpr OSType kApplication = fourCharCode("APPL");
 
-/// Another process that takes part; it is there when the constructor returns.
+/// Another process that takes part. It is up when the constructor returns.
 class TestPeer {
 public:
     explicit TestPeer(OSType type = kApplication) {
@@ -37,7 +37,7 @@ public:
 
     void signal(int number) const { signalProcess(process_.processId(), number); }
 
-    /// The result of an event that makes the peer answer 8.
+    /// The result of an event that the peer answers with 8.
     OSErr ask(SInt32 timeOutInTicks = kAEDefaultTimeout) const {
         return sendAndWait(
             makeEvent(psn_, kTestClass, kAnswerCode, {{keyDirectObject, {typeCode, {8, 0}}}}),

@@ -9,7 +9,7 @@ namespace {
 
 using ApplicationIconTest = ApplicationsTest;
 
-/// Looks the application up and takes its icon, as the palette does; null when there is none.
+/// Looks up the application and takes its icon, like the palette. Null when there is none.
 CFRef<Icon> iconNow() {
     constexpr OSType code = fourCharCode("TEST");
     LSFindApplicationForInfo(code, CFSTR("org.example.keys"), nullptr, nullptr, nullptr);
@@ -19,7 +19,7 @@ CFRef<Icon> iconNow() {
     return icon;
 }
 
-/// The colour of the image for that many pixels; no colour without an icon.
+/// The colour of the image for that many pixels. Invalid without an icon.
 QColor colourAt(int side) {
     const auto icon = iconNow();
     const QImage image = icon ? icon->images().atLeast(side) : QImage();

@@ -16,7 +16,8 @@ std::string repeated(std::size_t count, const std::string& bytes) {
     return text;
 }
 
-/// Colour data of pixels that are all alike, a multiple of 128: each channel in runs of 128.
+/// Colour data of equal pixels; their number is a multiple of 128. Each channel consists of runs of
+/// 128.
 std::string packedColour(std::size_t pixels, QRgb colour) {
     std::string packed;
     for (const int value : {qRed(colour), qGreen(colour), qBlue(colour)})
@@ -30,11 +31,11 @@ const std::string kPalette = iconElement("ics8", repeated(256, "\5"));
 
 TEST(IconFamilyTest, DecodesEveryDepthWithEveryMaskAndTheMostColoursThatAreWhole) {
     const std::string mask8 = iconElement("s8mk", repeated(256, "\x80"));
-    // All but the first pixel is set, in black and in the mask.
+    // All pixels but the first are set, in the image and in the mask.
     const std::string bitmap = iconElement("ics#", repeated(32, "\x7F\xFF"));
     const std::string png = pngBytes(16, 16, Qt::red), large = packedColour(16384, kTeal);
     const auto faint = [](QRgb colour) { return qPremultiply(colour & 0x80FFFFFF); };
-    // The standard palette's entries of the numbers 5 and 10.
+    // Entries 5 and 10 of the standard palette, and others.
     constexpr QRgb purple = 0xFF4600A5, brown = 0xFF562C05, red = 0xFFFF0000;
     constexpr QRgb clear = 0, black = 0xFF000000, white = 0xFFFFFFFF;
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// One colour a size, so that a plotted icon tells which image it was made of.
+/// A colour for each size, which shows what image was plotted.
 const std::map<int, QColor> kColours = {{16, Qt::red}, {32, Qt::green}, {64, Qt::blue}};
 
 CFRef<Icon> makeIcon(const std::vector<QSize>& sizes) {

@@ -20,7 +20,7 @@ std::time_t fakeTime = 20'000 * kDay;
 
 } // namespace
 
-// In the C library's place.
+// Replaces the C library's.
 extern "C" std::time_t time(std::time_t* result) noexcept {
     if (result)
         *result = fakeTime;
@@ -37,7 +37,7 @@ protected:
 
     ~AXReqTest() override { axReqCancel(); }
 
-    /// The day of the last notice as the file has it, or 0.
+    /// The stored day of the last notice, or 0.
     static SInt32 storedDay() {
         const std::string text = readFile(storedFile());
         const auto key = text.find("axReqLastNoticeDate"), value = text.find("<integer>", key);
@@ -55,7 +55,7 @@ protected:
         return notice()->findChild<Widget*>(QLatin1String(name));
     }
 
-    /// As the host does with one visit after the other.
+    /// Begins another visit, as the host does.
     void selectAgain() {
         pane_->didUnselect();
         pane_->willSelect();

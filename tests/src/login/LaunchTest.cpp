@@ -15,7 +15,7 @@
 
 namespace {
 
-// What a test wants the system to be like.
+// The system that a test wants.
 bool makesAuthorizations = true, grantsRight = true;
 std::vector<unsigned> userGroups;
 
@@ -24,7 +24,7 @@ int authorizations = 0; // made and not freed yet
 
 } // namespace
 
-// In the place of the platform's file Authorization.cpp and of a function of the C library.
+// Replace the platform's Authorization.cpp and a function of the C library.
 
 struct AuthorizationOpaqueRef {};
 
@@ -69,7 +69,7 @@ constexpr const char* kEntry = "org.korvex.Test.desktop";
 
 using Files = std::map<std::string, std::string>;
 
-/// The folder's files: names with inode and content.
+/// The folder's files: names, with inode and content.
 Files stateOf(const fs::path& folder) {
     Files files;
     for (const auto& file : fs::directory_iterator(folder)) {
@@ -81,7 +81,7 @@ Files stateOf(const fs::path& folder) {
     return files;
 }
 
-/// An Exec value that starts the application, or one whose path is another.
+/// An Exec value that starts the application, or one with another path.
 std::string startOf(const std::string& path = kApplication) {
     return '"' + path + "/Contents/Linux/run\"";
 }

@@ -20,8 +20,8 @@ void PrintTo(const CGRect& rect, std::ostream* out) {
 
 namespace {
 
-// Two displays, the main one of 1000 x 800 points and one to its upper left, and Qt's platform that
-// makes them up.
+// Two displays: the main one of 1000 x 800 points, and one to its upper left. Qt's offscreen
+// platform simulates them.
 constexpr char kDisplays[] =
     R"({"screens": [{"name": "main", "x": 0, "y": 0, "width": 1000, "height": 800},
                     {"name": "other", "x": -600, "y": -100, "width": 600, "height": 500}]})";
@@ -38,7 +38,7 @@ struct TwoDisplays {
 
 class ChooseAreaTest : private TwoDisplays, public ApplicationTest<QApplication> {
 protected:
-    /// Runs the chooser, and `user` once it is shown.
+    /// Runs the chooser, and calls `user` when it is shown.
     bool choose(CGRect& area, const std::function<void()>& user) {
         QTimer::singleShot(0, [&] {
             overlay_ = nullptr;
@@ -125,7 +125,7 @@ TEST_F(ChooseAreaTest, TheOverlayLiesOverAllDisplaysAndRepaintsWhatChanged) {
     CGRect area{{-500, 0}, {200, 100}};
     choose(area, [&] {
         EXPECT_EQ(overlay_->geometry(), QRect(-600, -100, 1600, 900));
-        // This platform's windows are black beneath.
+        // On this platform windows are black beneath.
         const auto* picture = dynamic_cast<QImage*>(overlay_->backingStore()->paintDevice());
         const auto expect = [&](std::initializer_list<std::pair<QPoint, QColor>> pixels = {}) {
             const QImage seen = picture->copy();

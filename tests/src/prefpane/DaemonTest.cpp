@@ -20,12 +20,12 @@ Parameters state(DescType type, std::vector<UInt8> bytes) {
     return {{keyDirectObject, {type, std::move(bytes)}}};
 }
 
-/// The link and the real agent, with no pane between them but where the test opens it.
+/// The link and the real agent. The pane takes part only where the test opens it.
 class DaemonTest : public PaneTest {
 protected:
     ~DaemonTest() override { daemonCleanup(); }
 
-    /// The answer to an event that another program sends to this one.
+    /// The answer to an event from another program to this one.
     int answerTo(AEEventClass eventClass, AEEventID eventID, const Parameters& parameters) {
         AppleEvent event{eventClass, eventID, {}, parameters};
         EXPECT_EQ(GetCurrentProcess(&event.target), noErr);

@@ -5,7 +5,8 @@
 
 namespace {
 
-/// What isn't at its default, marked and put back in the real window, with the real agent.
+/// Settings that aren't at their defaults, marked and put back in the real window, with the real
+/// agent.
 class DefaultsTest : public PaneTest, public testing::WithParamInterface<std::string> {
 protected:
     void press(const char* name) {

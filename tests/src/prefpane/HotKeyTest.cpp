@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A key as the display's server tells of it.
+/// A key as the display server reports it.
 struct Key {
     int code; ///< the kernel's
     int key = Qt::Key_unknown;
@@ -19,7 +19,7 @@ struct Key {
 
 constexpr quint32 kCapsLockOn = 2;
 
-/// The hot keys' tab, operated as its user does.
+/// The section with the hot keys, used like a user.
 class HotKeyTest : public PaneTest {
 protected:
     HotKeyView& view(const char* name) {
@@ -42,7 +42,7 @@ protected:
         return interface->text(QAccessible::Value).toStdString();
     }
 
-    /// The next change, which must be of hot keys, and leave the slot of “Scan” like this.
+    /// Expects a change of hot keys with this value for “Scan”.
     void expectChange(UInt32 modifiers, UInt32 keyCode) {
         const QJsonObject event = agentLog_.next();
         EXPECT_EQ(event["mask"].toInteger(), kChangeHotKeys);
@@ -55,7 +55,7 @@ protected:
         return static_cast<PopUpButtonWidget&>(*find<QPushButton>(name));
     }
 
-    /// Which of the two groups is attached; both or none is a fault.
+    /// Which of the two groups is attached. Exactly one must be.
     bool showsEditingGroup() {
         EXPECT_NE(find("cancelEditBtn")->isVisible(), find("notEditingKeyPrompt")->isVisible());
         return find("cancelEditBtn")->isVisible();

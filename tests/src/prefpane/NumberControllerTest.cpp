@@ -26,7 +26,7 @@ TEST(NumberControllerTest, WritesAreClampedAndTruncatedByKind) {
 }
 
 TEST(NumberControllerTest, StepsSnapToTheGridAndStopAtTheLimits) {
-    // The grid is found toward zero.
+    // Snapping is toward zero.
     for (const auto& [before, afterInc, afterDec] :
          {std::tuple(3.14, 3.5, 3.0), {-3.14, -2.5, -3.5}, {10, 10, 9.5}, {-10, -9.5, -10}}) {
         double up = before, down = before;

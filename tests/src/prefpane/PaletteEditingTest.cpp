@@ -12,7 +12,7 @@ using Slots = std::string;
 const Slots kDefaults = "20 21 22 1 2 0 0 0 0";
 const Slots kFull = "20 21 22 1 2 3 4 5 6";
 
-/// The slots of the record, or of the one that the agent received with an event.
+/// The slots of the record, or of the one in the agent's event.
 Slots slotsOf(const PrefsRecord& record) {
     Slots slots;
     for (int i = 0; i < kNumPaletteSlots; ++i)
@@ -24,12 +24,12 @@ Slots slotsOf(const QJsonObject& event) {
     return slotsOf(recordField<PrefsRecord>(event, 0));
 }
 
-/// The palette's editor in the open pane, and the real agent that hears of its edits.
+/// The palette's editor in the open pane, with the real agent.
 class PaletteEditingTest : public PaneTest {
 protected:
     PaletteView* view() { return dynamic_cast<PaletteView*>(viewWidget()->view()); }
 
-    /// In sight and drawn: before that its buttons have no place.
+    /// Shown and drawn: before that its buttons have no place.
     ViewWidget* viewWidget() {
         auto* widget = static_cast<ViewWidget*>(find("paletteView"));
         widget->repaint();

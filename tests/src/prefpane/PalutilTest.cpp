@@ -15,8 +15,8 @@ constexpr UInt32 kBoth = kButtonContentIcon | kButtonContentName;
 constexpr UInt8 kClick = 20;
 const fs::path kBuilt = KORVEX_BUNDLE "/Contents/Linux/Korvex Agent.app";
 
-/// Draws buttons into pictures, with the resources of an agent's bundle: the built one, or one that
-/// the test writes.
+/// Draws buttons into pictures, with the resources of the built agent's bundle or of one that the
+/// test writes.
 class PalutilTest : public ApplicationTest<QApplication> {
 protected:
     PalutilTest() {
@@ -27,7 +27,7 @@ protected:
 
     ~PalutilTest() override { end(); }
 
-    /// Begins another visit, with that list of actions in the test's own bundle.
+    /// Begins another visit with that list of actions in the test's bundle.
     void beginAgain(const std::string& root) {
         end();
         writeFile(resources_ / "btn_icons_std.plist",
@@ -45,7 +45,7 @@ protected:
         return image;
     }
 
-    /// Where the button differs from a blank one; null where it doesn't.
+    /// Where the button differs from a blank one. Null when it doesn't.
     QRect contentOf(UInt8 action, const Rect& bounds, UInt32 content) {
         const QImage a = draw(action, bounds, 0, content);
         const QImage b = draw(kEmptyAction, bounds, 0, content);
@@ -78,7 +78,7 @@ TEST_F(PalutilTest, IconAndTitleStandWhereTheirRoomAllows) {
         Rect bounds; ///< top, left, bottom, right
         QRect square;
     } cases[] = {
-        // Two points of frame on each side; the middle is rounded down.
+        // The frame is two points on each side. The centre is rounded down.
         {{10, 20, 50, 61}, {24, 14, 32, 32}},
         {{0, 0, 36, 100}, {42, 10, 16, 16}},
         {{0, 0, 40, 15}, {2, 14, 11, 11}},
@@ -91,7 +91,7 @@ TEST_F(PalutilTest, IconAndTitleStandWhereTheirRoomAllows) {
         EXPECT_GE(drawn.width(), square.width() / 2);
     }
 
-    // A long title is cut short, not drawn over the neighbour.
+    // A long title is shortened and doesn't reach the neighbour.
     EXPECT_TRUE(QRect(0, 0, 24, 80).contains(contentOf(30, {0, 0, 80, 24}, kButtonContentName)));
 }
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The pane as the host opens it and puts it away, and the agent beside it.
+/// The pane as the host opens it and puts it away, with the agent.
 class PaneLifeTest : public PaneTest {
 protected:
     static bool isStored(const std::string& key, const std::string& text) {

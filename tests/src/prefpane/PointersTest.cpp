@@ -13,7 +13,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-/// The catalogue and the loader, on the pointers of a bundle that the test writes.
+/// The catalogue and the loader, with pointers in a bundle that the test writes.
 class PointersTest : public testing::Test {
 protected:
     ~PointersTest() override { ptrmanCleanup(); }
@@ -38,7 +38,7 @@ protected:
         return std::nullopt;
     }
 
-    /// All names, found by stepping until the first comes again.
+    /// All names, by stepping until the first comes again.
     static Names catalogue(bool forward = true) {
         Names names;
         for (auto name = step(nullptr, forward); name && (names.empty() || *name != names.front());

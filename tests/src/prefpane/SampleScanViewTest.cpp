@@ -23,7 +23,7 @@ constexpr QSize kSize(400, 140); // the centre is 200, 70
 constexpr int kFrame = 3;        // pixels of the outer frame, at most
 constexpr int kBandX = 250;      // where nothing but the band is, between the pointer and the label
 
-/// The view on its own, with an agent's bundle that has nothing but the pointers of the test.
+/// The view alone, with an agent's bundle that only has the test's pointers.
 class SampleScanViewTest : public ApplicationTest<QApplication> {
 protected:
     SampleScanViewTest() { view_.attachWidget(&widget_), palutilSetup(); }
@@ -38,7 +38,7 @@ protected:
         return image;
     }
 
-    /// The first and last row of the band, at that column; 0 and -1 when there is none.
+    /// The first and last row of the band in that column. 0 and -1 when there is none.
     static std::pair<int, int> bandOf(const QImage& image, int x) {
         QRect band;
         for (int y = kFrame; y < image.height() - kFrame; ++y)
@@ -47,8 +47,8 @@ protected:
         return {band.top(), band.bottom()};
     }
 
-    /// A pointer, red at its origin and green at the end of its first row, under that name; chosen
-    /// in the settings.
+    /// Makes and chooses a pointer with that name. It is red at its origin and green at the end of
+    /// its first row.
     static void choosePointer(const std::string& name) {
         QImage image(4, 3, QImage::Format_ARGB32);
         image.fill(Qt::transparent);

@@ -3,7 +3,7 @@
 
 namespace {
 
-/// A platform of Qt's whose windows can't cover the screen, as far as the layer knows.
+/// A Qt platform on which, for the layer, windows can't cover the screen.
 struct OtherPlatform {
     OtherPlatform() { setenv("QT_QPA_PLATFORM", "minimal", 1); }
 };

@@ -8,14 +8,15 @@
 
 namespace {
 
-/// Every control, its field and its group: clicked in the real form, seen by the real agent.
+/// Every control with its field and its group: clicked in the real form, received by the real
+/// agent.
 class SettingsTest : public PaneTest {
 protected:
     bool isEnabled(const char* name) { return find(name)->isEnabled(); }
 
     bool isChecked(const char* name) { return find<QAbstractButton>(name)->isChecked(); }
 
-    /// Every control that takes the Tab key, on its page in sight.
+    /// Every control that Tab reaches, shown on its page.
     std::vector<QWidget*> controls() {
         std::vector<QWidget*> found;
         for (auto* widget : window()->findChildren<QWidget*>()) {
@@ -158,7 +159,8 @@ TEST_F(SettingsTest, AScreenReaderMayAskForAScrollBarThatHasGone) {
 }
 
 TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityAction) {
-    // They open a menu, a window or the help book, end in a choice elsewhere, or put others back.
+    // Controls that open a menu, a window or the help book, need another choice, or put settings
+    // back.
     const QRegularExpression others(
         "^(helpBtn|findMySpeed|firstStepsBtn|undoBtn|redoBtn|sections.*|.*Grid|.*Label|scanAreaBtn|"
         "lineColor|profile.*|.*ProfileBtn|importBtn|exportBtn|paletteView|sampleScanImage|"
