@@ -31,7 +31,8 @@ class AgentLog:
     def expect(self, name: str) -> dict:
         """The next event, which must be of that name."""
         event = json.loads(until(self._next_line, f"the agent hears {name}"))
-        check(event["event"] == name, f"the agent heard {shorten(event)}, not {name}")
+        heard = {key: value for key, value in event.items() if key != "record"}
+        check(event["event"] == name, f"the agent heard {heard}, not {name}")
         return event
 
     def expect_change(self, mask: int, field: str, value: float | tuple | bytes) -> str:
@@ -64,7 +65,3 @@ class AgentLog:
             return b""
         self._read += len(line)
         return line
-
-
-def shorten(event: dict) -> dict:
-    return {key: value for key, value in event.items() if key != "record"}

@@ -77,15 +77,13 @@ TEST_F(LanguagesTest, LongerTextsFitWhereverTheyStand) {
             pages->setCurrentIndex(page);
             EXPECT_THAT(clipped(window()), testing::IsEmpty()) << page << ", " << size.width();
         }
-        for (const char* button : {"firstStepsBtn", "findMySpeed"}) {
+        for (const auto& [button, leave] :
+             {std::pair("firstStepsBtn", "skipBtn"), {"findMySpeed", "leaveBtn"}}) {
             click(button);
             auto* cover = scroller_.findChild<QWidget*>(QStringLiteral("contentCover"));
             ASSERT_TRUE(cover);
             EXPECT_THAT(clipped(cover), testing::IsEmpty()) << button << ", " << size.width();
-            auto* leave = cover->findChild<QPushButton*>(button == std::string("findMySpeed")
-                                                             ? QStringLiteral("leaveBtn")
-                                                             : QStringLiteral("skipBtn"));
-            QTest::mouseClick(leave, Qt::LeftButton);
+            QTest::mouseClick(cover->findChild<QPushButton*>(leave), Qt::LeftButton);
             ASSERT_TRUE(QTest::qWaitFor(
                 [&] { return !scroller_.findChild<QWidget*>(QStringLiteral("contentCover")); }));
         }

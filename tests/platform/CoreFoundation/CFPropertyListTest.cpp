@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/CoreFoundation/CFPropertyList.h"
+#include "tests/platform/CoreFoundation/TestFiles.h"
 
-#include <gtest/gtest.h>
 #include <regex>
 
 namespace {
@@ -13,13 +13,6 @@ CFRef<const CFType> parse(const std::string& bytes) {
 
 std::string plist(const std::string& body) {
     return "<plist version=\"1.0\">" + body + "</plist>";
-}
-
-std::string repeat(const std::string& text, std::size_t times) {
-    std::string result;
-    for (std::size_t i = 0; i < times; ++i)
-        result += text;
-    return result;
 }
 
 /// The list as it is written, without the surrounding document.
@@ -70,11 +63,11 @@ TEST(CFPropertyList, EncodingsAndDocumentTypesAreRead) {
 
 TEST(CFPropertyList, LimitsHold) {
     const auto nested = [](std::size_t levels) {
-        return parse(plist(repeat("<array>", levels) + repeat("</array>", levels)));
+        return parse(plist(repeated(levels, "<array>") + repeated(levels, "</array>")));
     };
     EXPECT_TRUE(nested(kPropertyListMaxDepth));
     EXPECT_FALSE(nested(kPropertyListMaxDepth + 1));
-    EXPECT_FALSE(parse("<plist>" + repeat("<array>", 100'000)));
+    EXPECT_FALSE(parse("<plist>" + repeated(100'000, "<array>")));
     const std::string sound = plist("<true/>");
     const std::size_t room = kPropertyListMaxSize - sound.size();
     EXPECT_TRUE(parse(sound + std::string(room, '\n')));

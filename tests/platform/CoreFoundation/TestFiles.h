@@ -32,6 +32,13 @@ inline long countPending(const fs::path& path) {
     });
 }
 
+inline std::string repeated(std::size_t count, const std::string& bytes) {
+    std::string text;
+    while (count-- > 0)
+        text += bytes;
+    return text;
+}
+
 inline long countOpenFiles() {
     return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
 }

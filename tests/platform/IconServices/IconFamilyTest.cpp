@@ -9,13 +9,6 @@ IconImages readFamily(const std::string& bytes) {
     return imagesOfIconFamily(makeData(bytes));
 }
 
-std::string repeated(std::size_t count, const std::string& bytes) {
-    std::string text;
-    while (count-- > 0)
-        text += bytes;
-    return text;
-}
-
 /// Colour data of equal pixels; their number is a multiple of 128. Each channel consists of runs of
 /// 128.
 std::string packedColour(std::size_t pixels, QRgb colour) {

@@ -3,8 +3,7 @@
 #include "src/ptrutil.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/AgentBundle.h"
-
-#include <QImage>
+#include "tests/support/TestIcons.h"
 
 #include <optional>
 #include <sys/stat.h>
@@ -20,14 +19,6 @@ protected:
 
     static void touch(const std::string& file, const std::string& content = "") {
         AgentBundle::write(AgentBundle::pointers() / file, content);
-    }
-
-    static std::string png(int width, int height) {
-        const fs::path file = AgentBundle::path() / "made.png";
-        QImage image(width, height, QImage::Format_ARGB32);
-        image.fill(Qt::red);
-        EXPECT_TRUE(image.save(QString::fromStdString(file.string())));
-        return readFile(file);
     }
 
     static std::optional<std::string> step(const char* current, bool forward) {
@@ -119,7 +110,7 @@ TEST_F(PointersTest, TheLastPlusGivesTheHotSpot) {
         {"absurd+5x99999999999999999999999", 0, 0},
     };
 
-    const std::string content = png(3, 2);
+    const std::string content = pngBytes(3, 2, Qt::red);
     for (const auto& test : cases) {
         SCOPED_TRACE(test.name);
         touch(test.name + std::string(".png"), content);
@@ -133,7 +124,7 @@ TEST_F(PointersTest, TheLastPlusGivesTheHotSpot) {
 }
 
 TEST_F(PointersTest, WhatIsNoPictureInTheFolderIsNotLoaded) {
-    const std::string good = png(64, 64);
+    const std::string good = pngBytes(64, 64, Qt::red);
     const fs::path folder = AgentBundle::pointers(), outside = AgentBundle::resources() / "outside";
     fs::create_directories(folder / "inner");
     for (const char* file : {"Good.PNG", "\xFF.png", "../outside.png", "inner/deep.png"})
