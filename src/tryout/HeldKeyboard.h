@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// Keeps the keys from the agent and the desktop while presses are meant for a try, so that none
-/// starts a real scan; they are free again when the object goes. After two minutes without a press
-/// the user rests: the keys are given back, since the screen can't be locked before, and a switch
-/// may be all that the user has to leave with.
+/// Keeps the keys from the agent and the desktop while presses belong to a try. So no press starts
+/// a real scan. The keys are free again when the object goes, and after two minutes without a
+/// press: the screen can't be locked before, and the switch may be the user's only way to leave.
 class HeldKeyboard {
 public:
     HeldKeyboard() = default;
@@ -12,17 +11,17 @@ public:
     HeldKeyboard(const HeldKeyboard&) = delete;
     HeldKeyboard& operator=(const HeldKeyboard&) = delete;
 
-    /// The user was active at that moment, of GetCurrentEventTime's clock, as all moments here.
+    /// Notes that the user was active at that moment. Moments are on GetCurrentEventTime's clock.
     void stir(double moment) { stirred_ = moment; }
 
     bool isResting(double now) const;
 
-    /// To be called often. `isWanted`: presses are meant for the try. While a key is down nothing
-    /// changes, so that its release gets where its press went.
+    /// Call it often. `isWanted`: presses belong to the try. While a key is down nothing changes,
+    /// so that its release goes where its press went.
     void update(double now, bool isWanted, bool isKeyDown);
 
 private:
-    void* mode_ = nullptr; ///< the token, while they are held
-    double since_ = 0;     ///< when the mode began, or was renewed
+    void* mode_ = nullptr; ///< the token while keys are held
+    double since_ = 0;     ///< when the mode began or was renewed
     double stirred_ = 0;
 };

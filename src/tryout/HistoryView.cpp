@@ -87,7 +87,7 @@ void HistoryView::drawTable() const {
     }
 }
 
-/// The last ones are in sight, or those around the one where the keyboard is.
+/// The last ones are shown, or those around the one with the keyboard's cursor.
 int HistoryView::firstRow() const {
     const int room = std::max(static_cast<int>((bounds().height - kMargin) / kRowHeight), 1);
     return std::clamp(accessibilityCount() - room, 0, current_);

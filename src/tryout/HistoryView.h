@@ -5,12 +5,12 @@
 #include "platform/AppKit/NSView.h"
 #include "src/tryout/pasttry.h"
 
-/// The tries so far: at the left the spread of the presses from try to try as a line, at the right
-/// the last ones as a table. A screen reader finds every try in it; the arrow keys go through
-/// them.
+/// The tries so far. At the left a line shows the spread of the presses from try to try; at the
+/// right is a table of the last tries. A screen reader finds every try in it; arrow keys move
+/// through them.
 class HistoryView final : public NSView, public NSAccessibilityList {
 public:
-    /// Copied; from the oldest on.
+    /// Copies them; the oldest comes first.
     void setTries(std::vector<tryout::PastTry> tries);
 
     void drawRect(const NSRect& dirtyRect) override;

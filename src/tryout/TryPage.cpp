@@ -18,7 +18,7 @@ namespace {
 
 using Phase = tryout::Session::Phase;
 
-/// The one page; null while it isn't open.
+/// The page; null while it isn't open.
 std::unique_ptr<TryPage> page;
 
 tryout::Conditions conditionsOn(const NSScreen& screen, tryout::TargetChoice target) {
@@ -92,7 +92,7 @@ bool TryPage::show(const std::string& path, std::vector<std::string>& errors) {
     startTry(); // before it is drawn
     window_.setContentView(nib_.topLevelView());
     window_.makeFirstResponder(tryView_);
-    // Timers have whole milliseconds: rather a frame too many than one too few.
+    // Timers have whole milliseconds. One frame too many is better than one too few.
     const EventTimerInterval interval =
         std::floor(1000 / window_.screen().maximumFramesPerSecond) / 1000;
     InstallEventLoopTimer(GetMainEventLoop(), 0, interval,
@@ -112,7 +112,7 @@ void TryPage::startTry() {
     makeSession();
 }
 
-/// The part of the screen that the page has is swept as fast as the whole screen will be.
+/// The page sweeps its part of the screen at the speed that the whole screen will have.
 void TryPage::makeSession() {
     const NSScreen screen = window_.screen();
     conditions_ = conditionsOn(screen, targetChoice_);
@@ -208,7 +208,7 @@ void TryPage::acted(double moment) {
     showPhase();
 }
 
-// The page goes at the next frame: its views are still at work.
+// The page is deleted at the next frame: its views are still at work.
 void TryPage::left() {
     isLeft_ = true;
 }
@@ -250,7 +250,7 @@ void TryPage::takePaletteTarget(NSButton*) {
     window_.makeFirstResponder(hasBegun() ? againBtn_ : static_cast<NSView*>(tryView_));
 }
 
-/// A try that is over stays as it was.
+/// A finished try isn't changed.
 void TryPage::setTarget(tryout::TargetChoice choice) {
     targetChoice_ = choice;
     prefsSetUnsignedValue(targetKey(), choice);

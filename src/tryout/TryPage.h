@@ -17,26 +17,26 @@ class HistoryView;
 class NSButton;
 class NSTextField;
 
-/// Who takes advice.
+/// Takes the advice.
 class TryPageTarget {
 public:
-    /// The user wants that value for the setting, a time in seconds. An edit as any other.
+    /// Sets the setting to that value, a time in seconds, like any other edit.
     virtual void takeTime(const Setting& setting, double seconds) = 0;
 
 protected:
     ~TryPageTarget() = default;
 };
 
-/// The page "Find my speed": it lets a line sweep with the settings of `prefs`, leads through the
-/// sweeps, says what they tell, and keeps them in the history. It changes no setting by itself.
+/// The page "Find my speed". It sweeps a line with the settings of `prefs`, leads through the
+/// sweeps, says what they show, and adds the try to the history. It changes no setting by itself.
 class TryPage final : public NSObject, public TryViewTarget {
 public:
     /// The target isn't owned.
     TryPage(NSWindow window, TryPageTarget& target);
     ~TryPage() override;
 
-    /// Shows the page in the place of the window's content, from the form at `path`. False, with
-    /// the reasons in `errors`, when that can't be loaded.
+    /// Shows the page in place of the window's content, from the form at `path`. False when that
+    /// can't be loaded; `errors` then has the reasons.
     bool show(const std::string& path, std::vector<std::string>& errors);
 
     std::span<const Outlet> outlets() const override;
@@ -63,15 +63,15 @@ private:
     void startTry();
     void makeSession();
     bool hasBegun() const;
-    /// Brings the page up to date with the session's phase.
+    /// Updates the page for the session's phase.
     void showPhase();
     void showCourse();
-    /// Shows the text and has a screen reader say it.
+    /// Shows the text and makes a screen reader say it.
     void say(const std::string& text);
-    /// Takes the press for going on after a rest, if it was one.
+    /// After a rest a press only continues the try. True if this one did.
     bool wakesUp(double moment);
 
-    // TryPageResult.cpp: what a try tells, what comes of it, and the tries before
+    // TryPageResult.cpp: the result of a try, what follows from it, and earlier tries
     void showResult();
     void showSuggestion();
     void keep(const tryout::Advice& advice, const tryout::Measured& measured);
@@ -118,7 +118,7 @@ private:
     NSButton* deleteBtn_ = nullptr;
 };
 
-/// Opens the page in the window; brings nothing about while it is open, or without its form.
+/// Opens the page in the window. Does nothing while it is open, or without its form.
 void tryPageOpen(const CFBundle* bundle, NSWindow window, TryPageTarget& target);
 
 /// Closes the page, if it is open.

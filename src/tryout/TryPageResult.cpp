@@ -22,7 +22,7 @@ std::string withSeconds(const char* sentence, double seconds) {
 
 } // namespace
 
-// The keyboard stays at the picture, where presses do nothing now: one press too many takes no
+// The focus stays at the picture, where presses do nothing now. So one press too many takes no
 // advice.
 void TryPage::showResult() {
     tryout::Measured measured = session_->measured();
@@ -55,7 +55,7 @@ void TryPage::showSuggestion() {
                {localized("Settings", setting->name), settingText(*setting, record)}));
 }
 
-/// Only one change at a time: what it brings about shows the next try.
+/// One change at a time: the next try shows its effect.
 void TryPage::takeSuggestion(NSButton*) {
     if (!suggestion_)
         return;
@@ -104,7 +104,7 @@ void TryPage::deleteHistory(NSButton*) {
                           : localized("Try", "The tries couldn’t be deleted."));
 }
 
-/// It can be chosen before a try and after one.
+/// It can be chosen before and after a try.
 void TryPage::showTarget() {
     targetText_->setStringValue(
         tryout::targetText(conditions_.target, targetChoice_ == tryout::kPaletteTarget));

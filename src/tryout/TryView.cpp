@@ -20,11 +20,11 @@ namespace {
 
 using Phase = tryout::Session::Phase;
 
-constexpr double kDrawingTime = 0.04; ///< s, the most from a frame that is due to its drawing
+constexpr double kDrawingTime = 0.04; ///< s, at most, from a due frame to its drawing
 constexpr float kMarkWidth = 2;       ///< of the lines around the mark
 constexpr double kMarkTint = 0.2;     ///< opacity inside
 constexpr float kPlaceSize = 10;      ///< of the squares that show where the line was stopped
-constexpr double kShownTargets = 3;   ///< the picture of the places is at least as high as these
+constexpr double kShownTargets = 3;   ///< the least height of the picture of places, in targets
 constexpr float kLabelHeight = 24, kLabelMargin = 10;
 
 NSColor scanLineColor() {
@@ -56,7 +56,7 @@ bool isWithModifier(const NSEvent& event) {
            0;
 }
 
-/// The farthest place from its mark, in millimetres.
+/// The greatest distance of a place from its mark, in millimetres.
 double farthest(const tryout::Measured& measured) {
     double most = 0;
     for (const tryout::Trial& trial : measured.trials)
@@ -95,7 +95,7 @@ NSRect TryView::lineAt(double moment) const {
     return {0, middle - thickness / 2, bounds().width, thickness};
 }
 
-// Where the line will be when this is drawn isn't known yet, but how far it can get at most.
+// Where the line will be when this is drawn isn't known yet. But the farthest place is.
 void TryView::showFrame() {
     if (!showsLine())
         return;
@@ -128,7 +128,7 @@ void TryView::drawMark() const {
     NSRectFill({band.width - band.height, middle - kMarkWidth / 2, band.height, kMarkWidth});
 }
 
-/// Each press, from the first to the last, early above and late below the target.
+/// Each press, first to last: early ones above, late ones below the target.
 void TryView::drawPlaces() const {
     const auto& trials = session_->measured().trials;
     const NSRect whole = bounds();
@@ -152,7 +152,7 @@ void TryView::drawPlaces() const {
               whole.height - kLabelMargin - kLabelHeight);
 }
 
-// A scan key may be one that is held with others.
+// A scan key may have modifiers.
 bool TryView::performKeyEquivalent(NSEvent* event) {
     const bool isOurs = session_->phase() != Phase::Done && isWithModifier(*event) &&
                         event->charactersIgnoringModifiers() != NSEscapeCharacter;

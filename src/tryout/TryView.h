@@ -6,12 +6,12 @@
 
 #include <string>
 
-/// What the view's presses go to, as SwitchView has them.
+/// Receives the view's presses, as in SwitchView.
 class TryViewTarget {
 public:
     virtual void pressed(double moment) = 0;
     virtual void released(double moment) = 0;
-    /// A press that assistive technology made; it has no length.
+    /// Assistive technology made a press, which has no length.
     virtual void acted(double moment) = 0;
     virtual void left() = 0;
 
@@ -19,23 +19,23 @@ protected:
     ~TryViewTarget() = default;
 };
 
-/// The range that the line of a try sweeps, from top to bottom, with the mark; in the end the
-/// places where it was stopped. The line looks as the settings say, and is drawn where it is when
-/// it is drawn. Escape leaves.
+/// The range that the line of a try sweeps, from top to bottom, with the mark. At the end it shows
+/// where the line was stopped. The line has the look of the settings and is drawn where it is at
+/// that moment. Escape leaves.
 class TryView final : public SwitchView {
 public:
-    /// Not owned; neither may be null once the view is shown.
+    /// Not owned. Both must be set before the view is shown.
     void setTarget(TryViewTarget* target) { target_ = target; }
 
-    /// Lengths are shown as large as they are, whatever becomes of the view's height: `scale` is in
-    /// points a millimetre.
+    /// Lengths are shown in their true size, whatever the view's height. `scale` is in points per
+    /// millimetre.
     void setSession(const tryout::Session* session, double scale);
 
-    /// What a screen reader says of it, in UTF-8; when it changes, a running one speaks it at once.
-    /// The title stays, or it would be heard twice.
+    /// The view's description for screen readers, in UTF-8. When it changes, a running one says it
+    /// at once. The name stays the same, or it would be said twice.
     void setSaying(const std::string& saying);
 
-    /// A frame is due: what has moved since the last one is drawn again.
+    /// A frame is due: redraws what has moved since the last one.
     void showFrame();
 
     void drawRect(const NSRect& dirtyRect) override;
@@ -43,7 +43,7 @@ public:
 
     std::string accessibilityTitle() const override;
 
-    /// What was said last, and where the mark stands.
+    /// What was said last, and where the mark is.
     std::string accessibilityValue() const override;
 
 private:
@@ -65,5 +65,5 @@ private:
     const tryout::Session* session_ = nullptr;
     float scale_ = 1; ///< points a millimetre
     std::string saying_;
-    NSRect shown_ = {}; ///< the line, as it was drawn last
+    NSRect shown_ = {}; ///< the line as last drawn
 };

@@ -13,8 +13,8 @@ namespace {
 constexpr double kOneInTwenty = 1.645; ///< normal quantiles of a risk
 constexpr double kOneInHundred = 2.326;
 
-/// The median absolute deviation scatters more than the standard deviation that the chi-square
-/// bound is made for, of twelve values by about this factor at the bound. Found by simulation;
+/// The median absolute deviation varies more than the standard deviation, for which the chi-square
+/// bound is made. For twelve values the bound needs about this factor. It was found by simulation;
 /// bench/TryoutSimulation.cpp shows what it achieves.
 constexpr double kMedianDeviationAllowance = 1.3;
 /// The standard error of a normal sample's median is this many spreads, divided by the square root
@@ -46,7 +46,7 @@ bool getsWorse(const Sample& sample, double lateness) {
     return risesWith(sample.places, distances, kOneInHundred);
 }
 
-/// What is wrong with the presses themselves, before any speed is thought of.
+/// What is wrong with the presses themselves, whatever the speed.
 std::optional<Verdict> objection(const Measured& measured, const Sample& sample, double lateness) {
     const std::size_t presses = sample.offsets.size(), extras = measured.extras.size();
     if (presses + extras == 0)
@@ -66,25 +66,25 @@ bool isMiss(const Trial& trial, const Conditions& tried) {
     return trial.pressed && std::abs(trial.miss) > tried.target / 2;
 }
 
-/// A time that a sweep is set to, and its share of hits.
+/// A sweep's time and its share of hits.
 RatedTime rated(Sweep sweep, double time, double width, const Timing& timing) {
     sweep.time = time;
     return {time, hitRate(sweep, width, timing)};
 }
 
-/// Whether presses are known from about the pointer's speed: they were tried at the line's.
+/// Whether the speed of the pointer is close enough to the line speeds that were tried.
 bool isForetold(const Earlier& known, const Sweep& pointer, double time) {
     const auto [slowest, fastest] = std::minmax_element(known.speeds.begin(), known.speeds.end());
     const double speed = pointer.travel / time;
     return speed >= kSlowestForetold * *slowest && speed <= kFastestForetold * *fastest;
 }
 
-/// The least rate of hits that goes with nothing but hits in 95 of 100 tries; 0 after a miss.
+/// The lowest rate of hits with which 95 of 100 tries may have hits only. 0 after a miss.
 double countedRate(const Advice& advice) {
     return advice.hits < advice.presses ? 0 : std::pow(0.05, 1.0 / advice.presses);
 }
 
-/// What is to be chosen from, rated by the cautious timing.
+/// The possible choices, rated with the cautious timing.
 struct Choices {
     std::vector<RatedTime> line, pointer;
     RatedTime tried; ///< the line's time
@@ -95,8 +95,7 @@ struct Choices {
                timePerHit(better, waits) < timePerHit(now, waits) * (1 - kWorthwhileSaving);
     }
 
-    /// Whether no other time for the line would do better by enough, with the pointer's that suits
-    /// it.
+    /// Whether no other time for the line, with the pointer's time for it, is better by enough.
     bool isTriedRight(const std::optional<Click>& best) const {
         const auto kept = quickestTimes({&tried, 1}, pointer, waits);
         return kept && !(best && isWorthwhile(*best, *kept));
@@ -147,7 +146,7 @@ void adviseTime(Advice& advice, const Conditions& tried, const Choices& choices,
         advice.surest = surest;
 }
 
-/// The set time stays, unless another that can be foretold is better by enough.
+/// The set time stays unless another one that can be predicted is better by enough.
 void advisePointer(Advice& advice, const Conditions& tried, Choices& choices,
                    const Earlier& known) {
     const RatedTime line = {advice.time, advice.promised};
@@ -165,7 +164,7 @@ void advisePointer(Advice& advice, const Conditions& tried, Choices& choices,
         advice.expected * rated(*tried.pointer, suits.time, tried.across, advice.timing).rate;
 }
 
-/// Of presses that are all as they should be.
+/// For tries without objections.
 void adviseTimes(Advice& advice, const Conditions& tried, const Earlier& known) {
     Choices choices = choicesOf(advice, tried);
     adviseTime(advice, tried, choices, known);

@@ -7,27 +7,27 @@
 
 namespace tryout {
 
-constexpr std::size_t kMostTries = 1000; ///< older ones give way
+constexpr std::size_t kMostTries = 1000; ///< the oldest are dropped
 
-/// The tries of this user on this computer: korvex/tries.csv under $XDG_DATA_HOME, read when the
-/// object is made. They are sent nowhere.
+/// This user's tries on this computer: korvex/tries.csv under $XDG_DATA_HOME, read by the
+/// constructor. They are sent nowhere.
 class History {
 public:
     History();
 
-    /// From the oldest on.
+    /// The oldest comes first.
     const std::vector<PastTry>& tries() const { return tries_; }
 
-    /// Adds one and stores all. A damaged file is kept aside first, a file that can't be read is
-    /// left alone. False when they couldn't be stored; then the try is there until the end of the
-    /// visit, and the next one tries again.
+    /// Adds one and stores all. A damaged file is kept aside first; an unreadable file isn't
+    /// changed. False when they couldn't be stored. Then the try is kept in memory, and the next
+    /// one tries again.
     bool add(PastTry past);
 
-    /// Deletes all of them; false when the file couldn't be deleted, and nothing changes then.
+    /// Deletes all. False when the file couldn't be deleted; nothing changes then.
     bool clear();
 
-    /// Writes a copy to the user's documents, named after the day. Its path, or empty when it
-    /// couldn't be written.
+    /// Writes a copy to the user's documents, named after the day. Returns its path; empty on
+    /// failure.
     std::string exportCopy() const;
 
 private:

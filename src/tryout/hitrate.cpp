@@ -9,20 +9,20 @@
 
 namespace tryout {
 
-// Theirs: the rule that a step's time is the reaction time divided by 0.65 (Simpson, Koester and
-// LoPresti 2007), and the adjusting of scanning settings (Koester and Simpson 2014). Both are about
-// scans that step from item to item, and neither is used: a sweeping line isn't reacted to, its
-// coming is foreseen. Lee and Oulasvirta's subject is moving targets, MacKenzie's scanning by two
-// bars: akin to a line, and to a pointer after it. No number and no formula below is from any of
-// them.
-// Derived here: a normal scatter about a constant lateness, for a line of constant speed; that two
-// axes multiply, as if their presses had nothing to do with each other; the bounds and both times.
+// From the literature: a step's time is the reaction time divided by 0.65 (Simpson, Koester and
+// LoPresti 2007); adjusting scanning settings (Koester and Simpson 2014). Both are about scans that
+// step from item to item and aren't used here: users don't react to a sweeping line, they see it
+// coming. Lee and Oulasvirta study moving targets, MacKenzie scanning by two bars; these are
+// similar to a line and a pointer after it. No number or formula below is from these papers.
+// Derived here: normally distributed errors around a constant lateness, for a line of constant
+// speed; that the rates of two axes multiply, as if their presses were independent; the bounds and
+// both times.
 
 namespace {
 
 /// A line that speeds up starts at this share of its mean speed and ends as much above it.
 constexpr double kStartingSpeed = 0.5;
-/// Places at which the hit rate of such a line is taken.
+/// The number of places at which such a line's hit rate is taken.
 constexpr int kPlaces = 16;
 
 double rateAtSpeed(double speed, double width, const Timing& timing) {
@@ -31,7 +31,7 @@ double rateAtSpeed(double speed, double width, const Timing& timing) {
     return normalShare((width / 2 - middle) / spread) - normalShare((-width / 2 - middle) / spread);
 }
 
-/// The pair with the least of what `costOf` gives, among those that reach the rate.
+/// The pair with the lowest `costOf` among those that reach the rate.
 template <class Cost>
 std::optional<Click> best(RatedTimes lines, RatedTimes pointers, double rate, Cost costOf) {
     std::optional<Click> found;
@@ -81,7 +81,7 @@ double hitRate(const Sweep& sweep, double width, const Timing& timing) {
 }
 
 double SettingRange::roundUp(double value) const {
-    // A value that is a step already stays one in spite of its last digits.
+    // A value that is a step stays one, whatever its last digits.
     return std::clamp(std::ceil(value / step - 1e-6) * step, min, max);
 }
 

@@ -5,8 +5,8 @@
 #include <span>
 #include <vector>
 
-/// How often a line that sweeps at a constant pace, or speeds up, is stopped on a target. Lengths
-/// are in one unit, whichever, and times in seconds.
+/// How often a line that sweeps steadily, or speeds up, is stopped on a target. Lengths are in any
+/// one unit, times in seconds.
 namespace tryout {
 
 /// A line's way across the screen.
@@ -15,33 +15,33 @@ struct Sweep {
     double time = 0;   ///< for the whole way
     bool accelerates = false;
 
-    /// Where the line's centre is: 0 to `travel`, `elapsed` after it started.
+    /// The place of the line's centre, 0 to `travel`, `elapsed` seconds after its start.
     double positionAt(double elapsed) const;
-    /// When it gets to a position of 0 to `travel`.
+    /// When it reaches a position from 0 to `travel`.
     double timeAt(double position) const;
-    /// How fast it is there.
+    /// Its speed there.
     double speedAt(double position) const;
 };
 
-/// A user's presses, against the moment they are meant for.
+/// A user's presses, relative to the intended moment.
 struct Timing {
     double lateness = 0; ///< the mean; negative: early
     double spread = 0;   ///< the standard deviation
 };
 
-/// The least spread that is told from none: timestamps have whole milliseconds, and the line moves
-/// from frame to frame.
+/// The smallest spread that differs from none: time stamps are in whole milliseconds, and the line
+/// moves by frames.
 constexpr double kFinestSpread = 0.005;
 
-/// The share of presses, 0 to 1, that stop the line on a target of this width in the line's
-/// direction; the mean over all places when the line speeds up.
+/// The share of presses, 0 to 1, that stop the line on a target of this width. When the line speeds
+/// up, the mean over all places.
 double hitRate(const Sweep& sweep, double width, const Timing& timing);
 
-/// The values that a setting can have.
+/// The possible values of a setting.
 struct SettingRange {
     double min, max, step;
 
-    /// The next value that isn't smaller, kept inside.
+    /// The next value that isn't smaller, within the limits.
     double roundUp(double value) const;
 };
 
@@ -51,8 +51,8 @@ struct RatedTime {
     double rate = 1;
 };
 
-/// What one click takes: a press for the line, then one for the pointer along it. Without a pointer
-/// its time is 0, and it never misses.
+/// One click: a press for the line, then one for the pointer along it. Without a pointer its time
+/// is 0 and it never misses.
 struct Click {
     RatedTime line, pointer;
 
@@ -62,20 +62,20 @@ struct Click {
     double time() const { return line.time + pointer.time; }
 };
 
-/// What a miss costs unless it was measured: the time until the next scan can start.
+/// The cost of a miss that wasn't measured: the time until the next scan can start.
 constexpr double kCostOfMiss = 5;
 
-/// What there is to wait for besides the sweeps, in seconds.
+/// Waiting times besides the sweeps, in seconds.
 struct Waits {
     double delay = 0; ///< before the line sets off
     double miss = kCostOfMiss;
 };
 
-/// The time that a hit takes on average, with the wait before each scan and the misses on the way:
-/// (D + T/2 + (1 - P) c) / P, where T is the time of both sweeps; infinite when nothing is hit.
+/// The average time of a hit, including the wait before each scan and the misses: (D + T/2 + (1 -
+/// P) c) / P, where T is the time of both sweeps. Infinite when nothing is hit.
 double timePerHit(const Click& click, const Waits& waits);
 
-/// Every time of the range for the sweep, from the shortest on.
+/// Every time of the range for the sweep, the shortest first.
 std::vector<RatedTime> ratedTimes(Sweep sweep, double width, const Timing& timing,
                                   const SettingRange& range);
 
@@ -87,20 +87,20 @@ using RatedTimes = std::span<const RatedTime>;
 /// For a line without a pointer.
 inline constexpr RatedTime kNoPointer[] = {{}};
 
-/// Of these the two times with the shortest sweeps that reach kSurestRate together; none when none
-/// do.
+/// The two times with the shortest sweeps that reach kSurestRate together. None when there are
+/// none.
 std::optional<Click> surestTimes(RatedTimes line, RatedTimes pointer);
 
-/// The two with the least time for a hit, among those that reach kQuickestRate together.
+/// The two with the shortest time for a hit, among those that reach kQuickestRate together.
 std::optional<Click> quickestTimes(RatedTimes line, RatedTimes pointer, const Waits& waits);
 
-/// What has to be hit, by what.
+/// A target and the sweep that must hit it.
 struct Axis {
     Sweep sweep;
     double width; ///< of the target in the sweep's direction
 };
 
-/// How many times as wide all targets must be to be hit at `rate` by presses for each axis.
+/// The factor by which all targets must be wider to be hit at `rate` by presses for each axis.
 double neededEnlargement(std::span<const Axis> axes, const Timing& timing, double rate);
 
 } // namespace tryout

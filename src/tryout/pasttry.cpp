@@ -38,13 +38,13 @@ std::string headings() {
     return line;
 }
 
-/// The shortest text that reads as the same number, whatever the user's language.
+/// The shortest text that reads as the same number, in any language.
 std::string textOf(double value) {
     std::array<char, 32> text;
     return {text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr};
 }
 
-/// Takes the text up to the separator off the front, and the separator with it.
+/// Removes the text up to the separator, and the separator, from the front. Returns the text.
 std::string_view cutOff(std::string_view& text, char separator) {
     const std::size_t end = text.find(separator);
     const std::string_view part = text.substr(0, end);

@@ -11,8 +11,8 @@
 
 namespace tryout {
 
-/// A try as the history keeps it: what was tried and what was measured, nothing about the person.
-/// Times in seconds, lengths in millimetres, counts as whole numbers.
+/// A try in the history: what was tried and measured, nothing about the person. Times are in
+/// seconds, lengths in millimetres, counts whole numbers.
 struct PastTry {
     std::string date; ///< 2026-11-25 14:30, by this computer's clock and zone
     double sweepTime = 0;
@@ -27,16 +27,16 @@ struct PastTry {
     double misses = 0; ///< sweeps without a hit, those without a press included
 };
 
-/// The time that a try took place, by the clock of this computer.
+/// The present time, by this computer's clock.
 std::string dateNow();
 
 PastTry pastTry(const Advice& advice, const Conditions& tried, const Measured& measured,
                 bool onRelease);
 
-/// One line a try after a line of headings; decimal points, commas between columns.
+/// A line of headings, then a line for each try. Decimal points; commas between columns.
 std::string csvOf(std::span<const PastTry> tries);
 
-/// What csvOf wrote; none when the text is anything else.
+/// Reads what csvOf wrote. None for any other text.
 std::optional<std::vector<PastTry>> triesOf(std::string_view csv);
 
 } // namespace tryout

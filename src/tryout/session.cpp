@@ -8,14 +8,14 @@ namespace tryout {
 
 namespace {
 
-/// Events are handled after the moment they tell of: the far edge waits this long for one.
+/// Events are handled after their moment. So the far edge waits this long for one.
 constexpr double kPatience = 0.1;
 
-/// Of the way, what lies behind the last mark: there a late press shows how late it is.
+/// The share of the way behind the last mark. There a late press shows how late it is.
 constexpr double kRoomForLate = 0.1;
 
-/// Places all across the way, the near edge included, in an order that can't be foreseen; before
-/// them those of the free sweeps.
+/// Places across the whole way, including the near edge, in random order. Before them come those of
+/// the free sweeps.
 std::vector<double> marksFor(const Sweep& sweep, double target, unsigned seed) {
     std::vector<double> marks;
     marks.reserve(kMeasuredSweeps + kFreeSweeps);
@@ -107,7 +107,7 @@ void Session::advance(double now) {
         phase_ = index_ < kFreeSweeps + kMeasuredSweeps ? Phase::Ready : Phase::Done;
 }
 
-/// A press that is long enough does what the phase asks for.
+/// A press that is long enough does what the phase needs.
 void Session::count(double moment) {
     if (hasCounted_ || isExtra_)
         return;
@@ -146,7 +146,7 @@ void Session::stop(double moment) {
     finish(trial, moment);
 }
 
-/// The line got to the far edge.
+/// The line has reached the far edge.
 void Session::pass() {
     isAwaitingHold_ = isAwaitingReady_ = false;
     finish({.markTime = sweep_.timeAt(mark())}, started_ + sweep_.time);
@@ -161,7 +161,7 @@ void Session::finish(const Trial& trial, double moment) {
     ++index_;
 }
 
-/// Of those that the settings filter out nothing is to be learned.
+/// Presses that the settings filter out show nothing.
 void Session::noteExtra(double pressed, double released) {
     const double gap = pressed - released_, hold = released - pressed;
     const bool isFiltered = hold < trigger_.shortest || pressed < stopped_ + trigger_.ignoreAfter;

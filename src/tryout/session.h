@@ -7,13 +7,13 @@
 
 namespace tryout {
 
-/// How a press stops the line, as the settings of triggers say.
+/// How a press stops the line, according to the trigger settings.
 struct Trigger {
     enum class Way {
         Press,   ///< starts the scan and stops it
         Release, ///< the same, when the key is let go
         Hold,    ///< the line moves while the key is down
-        Step     ///< in use each press moves the line; in a try it sweeps, and this is Press
+        Step     ///< in a try the same as Press; in use each press moves the line
     };
     Way way = Way::Press;
     double shortest = 0;    ///< seconds; presses that are shorter don't count
@@ -24,33 +24,32 @@ struct Trigger {
 
 constexpr int kFreeSweeps = 2;
 constexpr int kMeasuredSweeps = 12;
-/// Presses this soon after one that stopped the line are none that anybody asked for, in seconds.
+/// Seconds after a press that stopped the line. Presses in this time are extra ones.
 constexpr double kSettlingTime = 0.7;
-/// The mark changes its place after it: nothing may flash more often than three times a second.
+/// After it the mark moves. Nothing may flash more often than three times a second.
 static_assert(kSettlingTime > 1.0 / 3);
 
-/// The course of one try, without a window or a clock: it is told of every press with the moment
-/// of the event itself, and of the time. Moments are seconds of one steady clock. Nothing is
-/// timed but the presses.
+/// The course of one try, without a window or a clock. It is given every press with its event's
+/// time stamp, and the time. Moments are seconds on one steady clock. Only presses are timed.
 class Session {
 public:
     enum class Phase {
         Ready,    ///< waits for the press that starts the next sweep
         Delay,    ///< it came; the line waits
         Sweeping, ///< the line is on its way
-        Stopped,  ///< for a moment, until the key is up: what nobody asked for shows itself
-        Done      ///< all sweeps are over
+        Stopped,  ///< for a moment, until the key is up: extra presses come then
+        Done      ///< all sweeps are done
     };
 
-    /// `sweep` and `target` in millimetres; the marks' order differs by `seed`.
+    /// `sweep` and `target` are in millimetres. `seed` determines the order of the marks.
     Session(const Sweep& sweep, double target, double delay, const Trigger& trigger, unsigned seed);
 
     void press(double moment);
     void release(double moment);
-    /// A press without a length, as assistive technology makes it; when the key is to be held, it
-    /// presses and lets go in turn.
+    /// A press without a length, by assistive technology. If the key must be held, it presses and
+    /// lets go in turn.
     void act(double moment);
-    /// Time passes: to be told at every frame, and whenever the moment above counts on it.
+    /// Time passes. Call it for every frame, and before using the moment above.
     void advance(double now);
 
     Phase phase() const { return phase_; }
@@ -58,7 +57,7 @@ public:
     /// Whether the key is down.
     bool isPressed() const { return isDown_; }
 
-    /// The sweep under way or next, from 0; the first kFreeSweeps are free.
+    /// The present or next sweep, from 0. The first kFreeSweeps are free.
     int sweepIndex() const { return index_; }
 
     bool isFree() const { return index_ < kFreeSweeps; }
@@ -67,13 +66,12 @@ public:
 
     double target() const { return target_; }
 
-    /// Where the mark stands, or stood when Stopped, in millimetres from the near edge; 0 when
-    /// Done.
+    /// Where the mark is, or was when Stopped, in millimetres from the near edge. 0 when Done.
     double mark() const;
-    /// Where the line's centre is at that moment: on its way, or where it stopped.
+    /// The line's centre at that moment: moving, or where it stopped.
     double linePosition(double moment) const;
 
-    /// What became of the last sweep; Stopped, Ready and Done after the first one.
+    /// The result of the last sweep. Valid in Stopped, Ready and Done after the first one.
     const Trial& last() const { return last_; }
 
     const Measured& measured() const { return measured_; }
@@ -96,14 +94,14 @@ private:
     Phase phase_ = Phase::Ready;
     int index_ = 0;
     bool isDown_ = false;
-    bool hasCounted_ = false; ///< this press did what it was for
-    bool isExtra_ = false;    ///< this press came when nothing asked for it
+    bool hasCounted_ = false; ///< this press has done what it was for
+    bool isExtra_ = false;    ///< this press is an extra one
     double pressed_ = 0;      ///< when the key went down
     double released_ = 0;     ///< when it last came up
     double started_ = 0;      ///< when the line sets off, in Delay, or did
     double stopped_ = 0;
-    bool isAwaitingReady_ = false; ///< the next press that is asked for tells how long it took
-    bool isAwaitingHold_ = false;  ///< the press that stopped the line still lasts
+    bool isAwaitingReady_ = false; ///< the next requested press shows how long it took
+    bool isAwaitingHold_ = false;  ///< the press that stopped the line isn't over
 };
 
 } // namespace tryout

@@ -10,7 +10,7 @@ namespace tryout {
 
 namespace {
 
-/// Of a normal distribution: its standard deviation per median absolute deviation.
+/// For a normal distribution: the standard deviation divided by the median absolute deviation.
 constexpr double kDeviationPerMedianDeviation = 1.4826;
 
 std::vector<double> sorted(std::span<const double> sample) {
@@ -31,7 +31,7 @@ double chiSquareShare(double value, int degrees) {
     return sum * std::exp(a * std::log(x) - x - std::lgamma(a));
 }
 
-/// Places in the order of size, from 0; equal values share the middle of theirs.
+/// Ranks from 0. Equal values share their mean rank.
 std::vector<double> ranks(std::span<const double> sample) {
     const std::vector<double> order = sorted(sample);
     std::vector<double> places;
@@ -43,7 +43,7 @@ std::vector<double> ranks(std::span<const double> sample) {
     return places;
 }
 
-/// Spearman's coefficient, -1 to 1; 0 when one side doesn't vary.
+/// Spearman's coefficient, -1 to 1. 0 when one side doesn't vary.
 double rankCorrelation(std::span<const double> left, std::span<const double> right) {
     const std::vector<double> x = ranks(left), y = ranks(right);
     const double mean = (static_cast<double>(x.size()) - 1) / 2;
@@ -99,7 +99,7 @@ double chiSquareQuantile(double share, int degrees) {
 }
 
 // Fisher's transformation: the inverse hyperbolic tangent of a correlation is nearly normal. It is
-// for values; that it serves for ranks too is taken for near enough.
+// made for values; for ranks it is assumed to be close enough.
 bool risesWith(std::span<const double> along, std::span<const double> values, double risk) {
     if (values.size() < 4)
         return false;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kMost = 0.95;
 constexpr double kFew = 0.05;
-/// Who is ready only after that many times the usual time has had a rest.
+/// A user who is ready only after this many times the usual time has had a rest.
 constexpr double kRest = 2;
 
 double roundedUp(double seconds) {

@@ -7,7 +7,7 @@ namespace tryout {
 
 std::optional<Suggestion> suggestionOf(const Advice& advice, const Steadiness& steadiness,
                                        const PrefsRecord& record) {
-    constexpr double kDifference = 1e-6; ///< of values that are the same
+    constexpr double kDifference = 1e-6; ///< between values that count as equal
 
     if (advice.verdict == Verdict::Change || advice.verdict == Verdict::TryAgain)
         return {};

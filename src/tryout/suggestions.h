@@ -15,9 +15,9 @@ struct Suggestion {
     double value;
 };
 
-/// What a try suggests besides the line's time, the most valuable: one change at a time, and none
-/// beside one of the line. Waits and filters are only made longer, and none is suggested that can't
-/// be set: such a long one was a rest.
+/// The most valuable suggestion besides the line's time. One change at a time: none when the line's
+/// time is to change. Waits and filters are only made longer. A value that can't be set was a rest
+/// and isn't suggested.
 std::optional<Suggestion> suggestionOf(const Advice& advice, const Steadiness& steadiness,
                                        const PrefsRecord& record);
 

@@ -22,7 +22,7 @@ constexpr SettingRange kPointerTimes = rangeOf(offsetof(PrefsRecord, pointerScan
 static_assert(kTimes.min == kPointerTimes.min && kTimes.max == kPointerTimes.max &&
               kTimes.step == kPointerTimes.step);
 
-/// Of a screen that is `points` wide or high, the part that is scanned.
+/// The scanned part of a screen that is `points` wide or high.
 double scanned(bool hasArea, float area, double points) {
     return hasArea ? std::min(double{area}, points) : points;
 }

@@ -10,28 +10,28 @@ namespace tryout {
 /// How presses stop the line with these settings.
 Trigger triggerOf(const PrefsRecord& record);
 
-/// How large the marks are: one of these two, or whole millimetres from kLeastTarget to
-/// kLargestTarget. Kept as such, so that the values stay what they are.
+/// The size of the marks: one of these two, or whole millimetres from kLeastTarget to
+/// kLargestTarget. The values are stored, so they must not change.
 using TargetChoice = UInt32;
 constexpr TargetChoice kUsualTarget = 0;   ///< ten millimetres
-constexpr TargetChoice kPaletteTarget = 1; ///< as a button of the palette
+constexpr TargetChoice kPaletteTarget = 1; ///< the size of a palette button
 constexpr TargetChoice kLeastTarget = 3;
 constexpr TargetChoice kLargestTarget = 60;
 
-/// Width and height, in whichever unit.
+/// Width and height in any unit.
 struct Extent {
     double width, height;
 };
 
-/// The target's size in millimetres, on a screen with points of that size. A choice that is none
-/// is the usual one.
+/// The target's size in millimetres. `millimetresAPoint` is the size of the screen's points. An
+/// invalid choice means the usual one.
 Extent targetOf(TargetChoice choice, const PrefsRecord& record, Extent millimetresAPoint);
 
-/// The choice of the next whole millimetre above a height, or below it; kept inside.
+/// The choice of the next whole millimetre above or below a height, within the limits.
 TargetChoice nextTarget(double height, bool isLarger);
 
-/// What is tried on a screen of that size, in points and in millimetres: the line crosses it, or
-/// the scan area when there is one.
+/// The conditions on a screen of that size, in points and in millimetres. The line crosses the
+/// screen, or the scan area if there is one.
 Conditions conditionsOf(const PrefsRecord& record, Extent points, Extent millimetres,
                         TargetChoice target);
 

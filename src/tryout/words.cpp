@@ -22,12 +22,13 @@ namespace {
     return localizedNumbers(text);
 }
 
-/// In millimetres, a digit behind the point if it isn't 0: for %g.
+/// In millimetres, with one decimal place unless it is 0: for %g.
 double shownLength(double length) {
     return std::round(length * 10) / 10;
 }
 
-/// Of ten, rounded down: what is promised is kept. The last digits of a share aren't trusted.
+/// Tenths of a share, rounded down so that promises are kept. Ignores rounding errors in its last
+/// digits.
 int tenths(double share) {
     return static_cast<int>(share * 10 + 1e-9);
 }
@@ -86,7 +87,7 @@ std::string lineText(const Advice& advice) {
                   advice.time, tenths(std::max(advice.expected, advice.promised)));
 }
 
-/// What becomes of it with the pointer after the line.
+/// The result with the pointer after the line.
 std::string clicksText(const Advice& advice, const Conditions& tried) {
     if (!advice.pointerTime)
         return {};
@@ -113,7 +114,7 @@ std::string tryAgainText(const Advice& advice, const Conditions& tried) {
 
 std::string outOfReachText(const Advice& advice, const Conditions& tried) {
     const double target = std::ceil(tried.target * advice.enlargement);
-    // Rates depend on the target's size and the way by their quotient alone.
+    // Rates depend on target size and way only by their quotient.
     const double height = std::floor(tried.sweep.travel / advice.enlargement);
     if (!tried.pointer)
         return format(
@@ -145,7 +146,7 @@ std::string unsteadyText(const Advice& advice, const Measured& measured) {
         measured.extras.size(), all);
 }
 
-/// The settings that would steady the presses; empty when there was nothing to measure.
+/// Settings that would steady the presses. Empty when nothing was measured.
 std::string steadinessText(const Steadiness& steadiness) {
     std::vector<std::string> texts;
     if (steadiness.preScanDelay)
@@ -176,7 +177,7 @@ std::string surestText(const Click& click) {
                   tenths(kSurestRate), click.line.time, click.pointer.time);
 }
 
-/// Of as many presses as any advice takes.
+/// For tries with enough presses for advice.
 std::string numbersText(const Advice& advice) {
     if (advice.presses < kFewestTrials)
         return {};

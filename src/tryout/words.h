@@ -15,28 +15,28 @@ namespace tryout {
 std::string resultText(const Advice& advice, const Conditions& tried, const Measured& measured,
                        Trigger::Way way);
 
-/// The measured numbers, for a therapist, and what they say of the other settings.
+/// The measured numbers for a therapist, and what they mean for other settings.
 std::string detailsText(const Advice& advice, const Steadiness& steadiness);
 
-/// What became of the last sweep.
+/// The result of the last sweep.
 std::string lastText(const Session& session);
 
 /// What to do now, or what just happened.
 std::string courseText(const Session& session, const Trigger& trigger);
 
-/// Where the keys can't be kept from the agent and the desktop.
+/// When keys can't be kept from the agent and the desktop.
 std::string sharedKeysText();
 
 /// After a long time without a press, or without any.
 std::string restText(bool hasBegun);
 
-/// How large the marks are, in millimetres in the direction of the line's way.
+/// The size of the marks, in millimetres along the line's way.
 std::string targetText(double height, bool isPaletteButton);
 
-/// What the chart shows; its top, in seconds.
+/// What the chart shows, and its top in seconds.
 std::string chartText(double spread);
 
-/// A try of the history: as it is spoken, and as short as a table has it.
+/// A try in the history: as speech, or in the short words of a table.
 std::string pastTryText(const PastTry& past);
 std::string pastTryRow(const PastTry& past);
 
