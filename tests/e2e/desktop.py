@@ -66,15 +66,22 @@ class Desktop:
         file.write_bytes(plistlib.dumps(preferences))
 
     def output_of(self, program: str) -> str:
-        """What a program that was started wrote to its standard output and error."""
-        return (self.folder / program).read_text(errors="replace")
+        """What a program wrote to its standard output and error. Empty when it wasn't started."""
+        file = self.folder / program
+        return file.read_text(errors="replace") if file.exists() else ""
 
-    def start(self, *command: str | Path, files: tuple[int, ...] = ()) -> subprocess.Popen:
-        """Starts a program, which keeps the open `files`. Even if this process is killed, its
-        programs end, and with the bus and the display the rest. What may not be read or written
-        isn't, even by root's programs."""
+    def forget_output_of(self, program: str) -> None:
+        (self.folder / program).unlink(missing_ok=True)
+
+    def start(
+        self, *command: str | Path, files: tuple[int, ...] = (), name: str = ""
+    ) -> subprocess.Popen:
+        """Starts a program, which keeps the open `files`. `name` is that of its output, if the
+        command begins with another program. Even if this process is killed, its programs end, and
+        with the bus and the display the rest. What may not be read or written isn't, even by root's
+        programs."""
         obedient = ("--bounding-set=-dac_override,-dac_read_search",) if os.geteuid() == 0 else ()
-        with (self.folder / Path(command[0]).name).open("ab") as output:
+        with (self.folder / (name or Path(command[0]).name)).open("ab") as output:
             return subprocess.Popen(
                 ("setpriv", "--pdeathsig", "TERM", *obedient, *command),
                 stdin=subprocess.DEVNULL,

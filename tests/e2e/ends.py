@@ -117,7 +117,8 @@ def crash_and_return(tour: Tour) -> None:
     tour.start()
     tour.screen.find("Korvex", "frame")
     change(tour)
-    until(lambda: list(unsaved.glob("unsaved.*")), "the change is on disk")
+    until(lambda: [file for file in unsaved.glob("unsaved.*") if ".new" not in file.name],
+          "the change is on disk and in its place")
     tour.program.kill()
     tour.program.wait()
     store_only(tour, NEVER)
@@ -148,14 +149,16 @@ def cancel_a_logout(tour: Tour) -> None:
 
 
 def clear_away(tour: Tour) -> None:
-    """Ends what the visit leaves: the display, the agent, its log."""
+    """Ends what the visit leaves: the program, the display, the agent, their outputs."""
     tour.program.kill()
+    tour.program.wait()
     tour.desktop.display.kill()
     if agent := process_of("org.korvex.Agent"):
         os.kill(agent, signal.SIGTERM)
     until(lambda: not process_of("org.korvex.Agent"), "the agent ends")
     tour.log.path.unlink(missing_ok=True)
     tour.log = AgentLog(tour.log.path)
+    tour.desktop.forget_output_of(PROGRAM)
 
 
 def succeeds(tour: Tour, what: str, step: Callable, *arguments) -> bool:

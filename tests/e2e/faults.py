@@ -106,6 +106,7 @@ def open_with_own_mounts(tour: Tour, mounts: str) -> None:
     tour.program = tour.desktop.start(
         *("unshare", "-rm", "sh", "-ec", script, tour.stored.parent),
         *(*own, tour.build / "host" / PROGRAM),
+        name=PROGRAM,
     )
     tour.screen.find("Korvex", "frame")
 

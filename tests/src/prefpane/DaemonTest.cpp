@@ -30,7 +30,7 @@ protected:
         AppleEvent event{eventClass, eventID, {}, parameters};
         EXPECT_EQ(GetCurrentProcess(&event.target), noErr);
         const QDBusPendingCall call = otherProgram_.asyncCall(messageOfEvent(event));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return call.isFinished(); }, 10'000));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return call.isFinished(); }, 30'000));
         return call.reply().arguments().value(0, -1).toInt();
     }
 

@@ -54,7 +54,7 @@ TEST_F(PaneLifeTest, TheAgentsReportIsShownKeptAndNotSentBack) {
     for (const bool on : {false, true, false}) {
         signalAgent(SIGUSR1);
         const auto* shown = find<QRadioButton>("masterOnOffRadios1");
-        ASSERT_TRUE(QTest::qWaitFor([&] { return shown->isChecked() == on; }, 5000));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return shown->isChecked() == on; }, 20'000));
     }
     EXPECT_THAT(remainingMasks(), testing::IsEmpty());
     EXPECT_TRUE(isStored("on", "no"));
