@@ -103,7 +103,7 @@ protected:
 
     static void act(QWidget* widget) { act(QAccessible::queryAccessibleInterface(widget)); }
 
-    /// The text of the strip at the window's top. Empty without one.
+    /// The text of the strip at the window's bottom. Empty without one.
     static std::string told() { return currentMessage() ? currentMessage()->message.text : ""; }
 
     static void pressInStrip() {
