@@ -6,6 +6,7 @@
 // a record's bytes, directly with Qt.
 
 #include "bench/BarePreview.h"
+#include "bench/Figures.h"
 #include "platform/AppKit/NSView.h"
 #include "platform/CoreServices/Processes.h"
 #include "src/prefpane/VLDKorvexPane.h"
@@ -31,7 +32,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
 #include <thread>
 #include <vector>
 
@@ -42,12 +42,6 @@ using namespace std::chrono_literals;
 
 constexpr int kChanges = 1200;
 constexpr auto kInterval = 1'000'000'000ns / 120;
-
-double mainThreadSeconds() {
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
 
 /// Runs the event loop until `condition` holds. False when that takes more than ten seconds.
 template <class Condition>
@@ -102,10 +96,10 @@ double drag(QSlider& slider, std::vector<double>& sent) {
         std::this_thread::sleep_until(next += kInterval);
         if (slider.value() == slider.maximum() || slider.value() == slider.minimum())
             step = slider.value() == slider.minimum() ? 1 : -1;
-        const double before = mainThreadSeconds();
+        const double before = threadSeconds();
         slider.setSliderPosition(slider.value() + step);
         QCoreApplication::processEvents();
-        longest = std::max(longest, mainThreadSeconds() - before);
+        longest = std::max(longest, threadSeconds() - before);
         sent.push_back(prefs.lineTransparency);
     }
     slider.setSliderDown(false);

@@ -4,6 +4,7 @@
 #include <QByteArray>
 
 #include <chrono>
+#include <ctime>
 #include <string>
 
 /// The limit of a figure.
@@ -41,6 +42,22 @@ void addLaunchFigures();
 /// Sets the displays for the next QApplication to those of the overlay's figures. Returns Qt's
 /// platform from before.
 QByteArray chooseDisplays();
+
+/// The work of this thread since it began.
+inline double threadSeconds() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+/// Calls `work`, which waits for nobody, and returns the seconds this thread worked. Other
+/// programs don't count.
+template <class Work>
+double workSecondsOf(Work&& work) {
+    const double start = threadSeconds();
+    work();
+    return threadSeconds() - start;
+}
 
 /// Calls `work` and returns the seconds it took.
 template <class Work>

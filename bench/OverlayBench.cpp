@@ -63,19 +63,20 @@ double inDrag(const std::function<double(QWidget&)>& work) {
 }
 
 double drawWholeFrame() {
-    return inDrag([](QWidget&) { return secondsOf(drawOverlay); });
+    return inDrag([](QWidget&) { return workSecondsOf(drawOverlay); });
 }
 
 double drawDragFrame() {
     return inDrag([](QWidget&) {
-        return secondsOf([] { sendMouse(kEventMouseDragged, kDragged.bottomRight() + kDragStep); });
+        return workSecondsOf(
+            [] { sendMouse(kEventMouseDragged, kDragged.bottomRight() + kDragStep); });
     });
 }
 
 /// Clears and fills that part of the picture.
 double paintBare(const QRegion& part) {
     return inDrag([&](QWidget& overlay) {
-        return secondsOf([&] {
+        return workSecondsOf([&] {
             QPainter painter(overlay.backingStore()->paintDevice());
             painter.setClipRegion(part);
             painter.setCompositionMode(QPainter::CompositionMode_Source);

@@ -59,7 +59,7 @@ double redraw() {
         beginVisit();
         editor.draw(image);
     }
-    return secondsOf([&] {
+    return workSecondsOf([&] {
                for (int i = 0; i < kRedraws; ++i)
                    editor.draw(image);
            }) /
@@ -98,7 +98,7 @@ double redrawBare() {
     view.attachWidget(&widget);
     widget.resize(kViewSize);
     QImage image = blankImage();
-    return secondsOf([&] {
+    return workSecondsOf([&] {
                for (int i = 0; i < kRedraws; ++i) {
                    widget.render(&image);
                    QPainter painter(&image);

@@ -34,7 +34,7 @@ double redraw() {
     palutilSetup();
     QImage image = blankImage();
     widget.render(&image); // reads the buttons' icons
-    const double seconds = secondsOf([&] {
+    const double seconds = workSecondsOf([&] {
         for (int i = 0; i < kRedraws; ++i)
             widget.render(&image);
     });
@@ -49,7 +49,7 @@ double redrawBare() {
     view.attachWidget(&widget);
     widget.resize(kPreviewSize);
     QImage image = blankImage();
-    return secondsOf([&] {
+    return workSecondsOf([&] {
                for (int i = 0; i < kRedraws; ++i) {
                    widget.render(&image);
                    QPainter painter(&image);

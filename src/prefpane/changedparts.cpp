@@ -23,6 +23,16 @@ ChangedParts::ChangedParts(const ShownAreas& before, const ShownAreas& now) {
     addWhole(before.dragging ? before.dragged : now.dragged);
 }
 
+bool ChangedParts::touch(const CGRect& area) const {
+    const auto overlap = [](CGFloat a, CGFloat aSize, CGFloat b, CGFloat bSize) {
+        return a < b + bSize && b < a + aSize;
+    };
+    return std::any_of(rects(), rects() + count(), [&](const CGRect& part) {
+        return overlap(part.origin.x, part.size.width, area.origin.x, area.size.width) &&
+               overlap(part.origin.y, part.size.height, area.origin.y, area.size.height);
+    });
+}
+
 void ChangedParts::addWhole(const CGRect& area) {
     add(CGRectStandardize(area));
 }

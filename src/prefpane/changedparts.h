@@ -23,6 +23,9 @@ public:
 
     std::size_t count() const { return count_; }
 
+    /// Whether any of the area, whose sides are zero or more, lies in one of them.
+    bool touch(const CGRect& area) const;
+
 private:
     void addWhole(const CGRect& area);
     void addBetween(const CGRect& before, const CGRect& now);

@@ -53,6 +53,7 @@ CGRect worldBounds;
 CGRect currentBounds;
 CGRect newBounds; ///< from where the drag began
 bool dragging = false;
+Rect promptPlace;     ///< of its text in the last whole frame; empty when it couldn't be measured
 ShownAreas lastDrawn; ///< by the last frame
 OSStatus lastError = noErr;
 
@@ -85,27 +86,46 @@ void drawArea(CGContext* context, const CGRect& area, const Look& look) {
     CGContextStrokeRectWithWidth(context, area, look.borderWidth);
 }
 
-/// In the upper part of the main display. Not drawn when it can't be measured.
-void drawPrompt(CGContext* context) {
+const CFString* promptText() {
     static const auto prompt = createFromUTF8(localized("ScanArea", kPrompt));
-    const CFString* const text = prompt.get();
+    return prompt.get();
+}
+
+/// In the upper part of the main display.
+void placePrompt() {
+    promptPlace = {};
     const auto [origin, size] = CGDisplayBounds(CGMainDisplayID());
     Point extent{0, static_cast<SInt16>(static_cast<int>(size.width) / 2)};
-    if (GetThemeTextDimensions(text, kThemeSystemFont, kThemeStateActive, true, &extent, nullptr) !=
-        noErr)
+    if (GetThemeTextDimensions(promptText(), kThemeSystemFont, kThemeStateActive, true, &extent,
+                               nullptr) != noErr)
         return;
     const int top = static_cast<SInt16>(origin.y + size.height / 3.0);
     const int left = static_cast<int>(origin.x) + (static_cast<int>(size.width) - extent.h) / 2;
-    const Rect place{static_cast<SInt16>(top), static_cast<SInt16>(left),
-                     static_cast<SInt16>(top + extent.v), static_cast<SInt16>(left + extent.h)};
-    const CGRect box =
-        CGRectMake(static_cast<CGFloat>(left - 10), static_cast<CGFloat>(top - 20),
-                   static_cast<CGFloat>(extent.h + 20), static_cast<CGFloat>(extent.v + 40));
+    promptPlace = {static_cast<SInt16>(top), static_cast<SInt16>(left),
+                   static_cast<SInt16>(top + extent.v), static_cast<SInt16>(left + extent.h)};
+}
+
+/// Around the prompt's text.
+CGRect promptBox() {
+    const auto& [top, left, bottom, right] = promptPlace;
+    return CGRectMake(static_cast<CGFloat>(left - 10), static_cast<CGFloat>(top - 20),
+                      static_cast<CGFloat>(right - left + 20),
+                      static_cast<CGFloat>(bottom - top + 40));
+}
+
+/// Not drawn when it couldn't be measured, or where nothing of it lies in `parts`.
+void drawPrompt(CGContext* context, const ChangedParts* parts) {
+    const CGRect box = promptBox();
+    const bool isOutside =
+        parts && !parts->touch(CGRectInset(box, -kPromptBox.borderWidth, -kPromptBox.borderWidth));
+    if (promptPlace == Rect{} || isOutside)
+        return;
     CGContextSaveGState(context);
     CGContextSetLineJoin(context, kCGLineJoinRound);
     drawArea(context, box, kPromptBox);
     setFillColor(context, kPromptText);
-    DrawThemeTextBox(text, kThemeSystemFont, kThemeStateActive, true, &place, teCenter, context);
+    DrawThemeTextBox(promptText(), kThemeSystemFont, kThemeStateActive, true, &promptPlace,
+                     teCenter, context);
     CGContextRestoreGState(context);
 }
 
@@ -133,8 +153,10 @@ void drawFrame(const ChangedParts* parts) {
     CGContextScaleCTM(context.get(), 1, -1);
     if (parts)
         CGContextClipToRects(context.get(), parts->rects(), parts->count());
+    else
+        placePrompt();
     CGContextClearRect(context.get(), worldBounds);
-    drawPrompt(context.get());
+    drawPrompt(context.get(), parts);
     drawAreas(context.get());
     CGContextFlush(context.get());
     lastDrawn = shownAreas();

@@ -69,10 +69,10 @@ void PutBackButton::offer(const QString& label, std::function<void()> press) {
     press_ = offered ? std::move(press) : nullptr;
     const QString name =
         offered ? label : QCoreApplication::translate("PutBackButton", "Back at its default");
-    if (accessibleName() != name) { // or else assistive technology hears of no news
-        setAccessibleName(name);
-        setToolTip(label);
-    }
+    if (accessibleName() == name)
+        return; // assistive technology hears of no news, and nothing is drawn anew
+    setAccessibleName(name);
+    setToolTip(label);
     bar_->setVisible(offered);
     offered ? show() : hideWhenLeft();
     update();
