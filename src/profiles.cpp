@@ -33,7 +33,8 @@ std::string reasonOf(int error) {
 }
 
 bool isThere(const std::string& name) {
-    return profileNameFault(name).empty() && fs::exists(pathOf(name));
+    std::error_code error;
+    return profileNameFault(name).empty() && fs::exists(pathOf(name), error);
 }
 
 } // namespace
@@ -48,12 +49,34 @@ SettingSet profileSettings() {
 std::vector<std::string> profileNames() {
     std::vector<std::string> names;
     std::error_code error;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder(), error))
-        if (entry.path().extension() == kSuffix && isThere(entry.path().stem()))
-            names.push_back(entry.path().stem());
+    for (fs::directory_iterator entry(folder(), error), end; !error && entry != end;
+         entry.increment(error))
+        if (const fs::path& file = entry->path();
+            file.extension() == kSuffix && isThere(file.stem()))
+            names.push_back(file.stem());
     std::ranges::sort(names);
     return names;
 }
+
+std::string profilesFault() {
+    std::error_code error;
+    for (fs::directory_iterator entry(folder(), error), end; !error && entry != end;
+         entry.increment(error))
+        if (entry->path().extension() == kSuffix && (fs::exists(entry->path(), error) || error))
+            break; // the first tells for all
+    return !error || error == std::errc::no_such_file_or_directory
+               ? ""
+               : folder() + ": " + reasonOf(error.value());
+}
+
+namespace {
+
+std::string whyMissing() {
+    const std::string fault = profilesFault();
+    return fault.empty() ? localized("Faults", "there is no profile of that name") : fault;
+}
+
+} // namespace
 
 std::string profileNameFault(const std::string& name) {
     const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == 0x7F; };
@@ -86,7 +109,7 @@ std::string saveProfile(const std::string& name, const PrefsRecord& record,
 SettingsOffer readProfile(const std::string& name, const PrefsRecord& base) {
     SettingsOffer offer{.record = base, .settings = {}, .refused = {}, .error = {}};
     if (!isThere(name)) {
-        offer.error = localized("Faults", "there is no profile of that name");
+        offer.error = whyMissing();
         return offer;
     }
     offer = readSettingsFile(pathOf(name), base);
@@ -107,7 +130,7 @@ std::string renameProfile(const std::string& name, const std::string& newName) {
     if (const std::string fault = profileNameFault(newName); !fault.empty())
         return fault;
     if (!isThere(name))
-        return localized("Faults", "there is no profile of that name");
+        return whyMissing();
     if (isThere(newName))
         return localized("Faults", "there is a profile of that name");
     const bool isCurrent = currentProfile() == name;
@@ -123,7 +146,7 @@ std::string renameProfile(const std::string& name, const std::string& newName) {
 
 std::string deleteProfile(const std::string& name) {
     if (!isThere(name))
-        return localized("Faults", "there is no profile of that name");
+        return whyMissing();
     std::error_code error;
     fs::remove(pathOf(name), error);
     return reasonOf(error.value());

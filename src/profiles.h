@@ -17,6 +17,9 @@ SettingSet profileSettings();
 /// In the order of the alphabet.
 std::vector<std::string> profileNames();
 
+/// Why those that there may be can't be read; empty when they can.
+std::string profilesFault();
+
 /// Why there can be no profile of that name; empty when there can. A name has 1 to 60 bytes,
 /// doesn't begin with a point, and holds neither a slash nor a control character.
 std::string profileNameFault(const std::string& name);

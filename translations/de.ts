@@ -2307,6 +2307,10 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>“%1” in place of “%2” would change:</source>
         <translation>„%1“ anstelle von „%2“ würde ändern:</translation>
     </message>
+    <message>
+        <source>Your profiles can’t be read: %1.</source>
+        <translation>Ihre Profile können nicht gelesen werden: %1.</translation>
+    </message>
 </context>
 <context>
     <name>PutBackButton</name>

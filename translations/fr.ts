@@ -2307,6 +2307,10 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <source>“%1” in place of “%2” would change:</source>
         <translation>«&#xa0;%1&#xa0;» à la place de «&#xa0;%2&#xa0;» changerait&#xa0;:</translation>
     </message>
+    <message>
+        <source>Your profiles can’t be read: %1.</source>
+        <translation>Vos profils ne peuvent pas être lus&#xa0;: %1.</translation>
+    </message>
 </context>
 <context>
     <name>PutBackButton</name>

@@ -101,7 +101,7 @@ int listProfiles(const CommandLine& line) {
     }
     if (line.json)
         std::printf("[%s]\n", items.c_str());
-    return kCommandDone;
+    return done(profilesFault());
 }
 
 /// The open window has another look at the profiles when the change comes, so that it needs to
@@ -182,8 +182,10 @@ int runExport(const CommandLine& line) {
         std::fputs(settingsDocument(SettingSet().set(), now).c_str(), stdout);
         return kCommandDone;
     }
-    const int error = writeSettingsFile(std::filesystem::absolute(path), SettingSet().set(), now);
-    return error ? commandFailed(path + ": " + std::strerror(error)) : int{kCommandDone};
+    std::error_code error;
+    const std::string whole = std::filesystem::absolute(path, error);
+    const int fault = error ? error.value() : writeSettingsFile(whole, SettingSet().set(), now);
+    return fault ? commandFailed(path + ": " + std::strerror(fault)) : int{kCommandDone};
 }
 
 int runImport(const CommandLine& line) {

@@ -251,10 +251,13 @@ void ProfileEditor::showChosen() {
     for (NSButton* button : {renameBtn, deleteBtn})
         button->setEnabled(profile != nullptr);
     compareMenu->setEnabled(profiles_.size() > 1);
+    const std::string fault = profiles_.empty() ? profilesFault() : "";
     explanation->setStringValue(
         profile ? explanationOf(*profile)
-                : localized("Profiles", "There is no profile yet. Save the settings as they are "
-                                        "now, and come back to them with two presses."));
+        : !fault.empty()
+            ? filled(localized("Profiles", "Your profiles can’t be read: %1."), {fault})
+            : localized("Profiles", "There is no profile yet. Save the settings as they are "
+                                    "now, and come back to them with two presses."));
 }
 
 /// What would change if it were used now, or after the one that it is compared with.

@@ -69,6 +69,17 @@ QSize ValueField::minimumSizeHint() const {
     return sizeHint();
 }
 
+// While nothing is typed, Ctrl+Z is the window's: there is nothing of the field's own to undo.
+bool ValueField::event(QEvent* event) {
+    if (event->type() != QEvent::ShortcutOverride || text() != shown_)
+        return QLineEdit::event(event);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (!key->matches(QKeySequence::Undo) && !key->matches(QKeySequence::Redo))
+        return QLineEdit::event(event);
+    event->ignore();
+    return true;
+}
+
 void ValueField::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Return:

@@ -27,6 +27,7 @@ public:
     std::function<void()> onTyped; ///< called with a new text in the field
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;

@@ -135,6 +135,7 @@ TEST_F(ProfileEditorTest, WhatCannotBeDoneIsToldAndChangesNothing) {
     open();
     save("profileNameMorning");
     EXPECT_EQ(told(), "“Morning” couldn’t be saved: Not a directory.");
+    EXPECT_TRUE(find<QLabel>("profileExplanation")->text().startsWith("Your profiles can’t be"));
     EXPECT_EQ(find<QLineEdit>("profileName")->text(), "Morning");
     EXPECT_EQ(shown(), "Profiles");
     find<QLineEdit>("profileName")->clear();

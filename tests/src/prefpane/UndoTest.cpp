@@ -41,7 +41,13 @@ protected:
         field->setFocus();
         field->selectAll();
         QTest::keyClicks(field, QLatin1String(value));
+        QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier); // of what is typed
+        QTest::keyClicks(field, QLatin1String(value));
         QTest::keyClick(field, Qt::Key_Return);
+        for (const auto shift : {Qt::NoModifier, Qt::ShiftModifier}) { // of the window's
+            field->setFocus();
+            QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier | shift);
+        }
     }
 
     void dragColours() {
