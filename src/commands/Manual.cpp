@@ -7,6 +7,34 @@
 
 namespace {
 
+/// For bash, with the names of the commands, the settings, what is done with profiles, and the
+/// sections. What profiles are called isn't given to compgen, which expands it as the shell does.
+constexpr char kCompletion[] = R"bash(_korvex_preferences() {
+    local word=${COMP_WORDS[COMP_CWORD]} name
+    if [ "$COMP_CWORD" -eq 1 ]; then
+        COMPREPLY=($(compgen -W '%s' -- "$word"))
+        return
+    fi
+    case ${COMP_WORDS[1]} in
+    get | set | reset) COMPREPLY=($(compgen -W '%s' -- "$word")) ;;
+    profile)
+        if [ "$COMP_CWORD" -eq 2 ]; then
+            COMPREPLY=($(compgen -W '%s' -- "$word"))
+            return
+        fi
+        compopt -o filenames 2>/dev/null || :
+        while read -r name; do
+            [[ $name != "$word"* ]] || COMPREPLY+=("$name")
+        done < <("${COMP_WORDS[0]}" profile list --json |
+            sed -n 's/.*"name": "\([^"\\]*\)".*/\1/p') ;;
+    show) COMPREPLY=($(compgen -W '%s' -- "$word")) ;;
+    export | import) COMPREPLY=($(compgen -f -- "$word")) ;;
+    esac
+    case $word in -*) COMPREPLY=($(compgen -W '--help --json --yes' -- "$word")) ;; esac
+}
+complete -F _korvex_preferences korvex-preferences
+)bash";
+
 /// Escapes for roff: a minus isn't a hyphen, and no line begins with a point.
 std::string roff(const std::string& text) {
     std::string result = text.starts_with('.') ? "\\&" : "";
@@ -67,17 +95,6 @@ int runCompletion(const CommandLine&) {
         verbs = spaced(verbs, verb.name);
     for (const std::string& section : sectionNames())
         sections = spaced(sections, section);
-    std::printf("_korvex_preferences() {\n"
-                "    local word=${COMP_WORDS[COMP_CWORD]}\n"
-                "    case ${COMP_WORDS[1]} in\n"
-                "    get | set | reset) COMPREPLY=($(compgen -W '%s' -- \"$word\")) ;;\n"
-                "    profile) COMPREPLY=($(compgen -W '%s' -- \"$word\")) ;;\n"
-                "    show) COMPREPLY=($(compgen -W '%s' -- \"$word\")) ;;\n"
-                "    export | import) COMPREPLY=($(compgen -f -- \"$word\")) ;;\n"
-                "    esac\n"
-                "    [ \"$COMP_CWORD\" -ne 1 ] || COMPREPLY=($(compgen -W '%s' -- \"$word\"))\n"
-                "}\n"
-                "complete -F _korvex_preferences korvex-preferences\n",
-                keys.c_str(), verbs.c_str(), sections.c_str(), names.c_str());
+    std::printf(kCompletion, names.c_str(), keys.c_str(), verbs.c_str(), sections.c_str());
     return kCommandDone;
 }

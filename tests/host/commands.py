@@ -78,7 +78,10 @@ def without_a_window():
     manual, completion = run("manual"), run("completion")
     assert all(f".B {key}\n" in manual for key in keys) and f"'{' '.join(keys)}'" in completion
     assert "'scanning presses look palette general'" in completion
-    subprocess.run(["bash", "-n"], input=completion, text=True, check=True)
+    ask = f"COMP_CWORD=3 COMP_WORDS=({HOST} profile compare Ti); _korvex_preferences; echo $COMPREPLY"
+    answer = subprocess.run(["bash", "-e"], input=completion + ask, text=True, check=True,
+                            env=ENVIRONMENT, stdout=subprocess.PIPE)
+    assert answer.stdout == "Tired\n", answer
     expect("there is no section \"pallete\", but scanning", "show", "pallete", status=1)
 
 
