@@ -2414,7 +2414,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     <message>
         <source>%g × %g at %g, %g</source>
         <comment>width, height, x, y</comment>
-        <translation>%g × %g à %g, %g</translation>
+        <translation>%g × %g à %g&#xa0;; %g</translation>
     </message>
     <message>
         <source>Scanning</source>
