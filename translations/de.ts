@@ -3012,6 +3012,10 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>%s   %.1f s   %.0f of %.0f   lateness %.0f ms   spread %.0f ms</source>
         <translation>%s   %.1f s   %.0f von %.0f   Verspätung %.0f ms   Streuung %.0f ms</translation>
     </message>
+    <message>
+        <source>The pointer’s speed is too far from the line’s to say how many clicks will hit.</source>
+        <translation>Die Geschwindigkeit des Zeigers ist zu weit von der der Linie entfernt, um zu sagen, wie viele Klicks treffen.</translation>
+    </message>
 </context>
 <context>
     <name>Units</name>

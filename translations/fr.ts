@@ -3012,6 +3012,10 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
         <source>%s   %.1f s   %.0f of %.0f   lateness %.0f ms   spread %.0f ms</source>
         <translation>%s   %.1f s   %.0f sur %.0f   retard %.0f ms   dispersion %.0f ms</translation>
     </message>
+    <message>
+        <source>The pointer’s speed is too far from the line’s to say how many clicks will hit.</source>
+        <translation>La vitesse du pointeur est trop éloignée de celle de la ligne pour dire combien de clics seront justes.</translation>
+    </message>
 </context>
 <context>
     <name>Units</name>

@@ -89,8 +89,11 @@ std::string lineText(const Advice& advice) {
 
 /// The result with the pointer after the line.
 std::string clicksText(const Advice& advice, const Conditions& tried) {
-    if (!advice.pointerTime)
+    if (!tried.pointer)
         return {};
+    if (!advice.pointerTime)
+        return localized("Try", "The pointer’s speed is too far from the line’s to say how many "
+                                "clicks will hit.");
     const int promised = tenths(advice.clicksPromised);
     const int expected = std::max(tenths(advice.clicks), promised);
     if (*advice.pointerTime == tried.pointer->time)
