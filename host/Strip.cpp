@@ -14,9 +14,10 @@ namespace {
 
 constexpr int kButtonSide = 44;
 constexpr int kMargin = 12;
-constexpr int kEdge = 3; ///< a line between strip and pane, in points
+constexpr int kEdge = 3;      // points, as all here
+constexpr int kReadable = 30; // heights of a line, the least width of a text beside buttons
 
-// Dark on light with a contrast of 14 : 1, whatever the desktop's colours are.
+// An alert's: dark on light with a contrast of 14 : 1, whatever the desktop's colours are.
 constexpr QColor kBackground(0xFF, 0xF1, 0xC2);
 constexpr QColor kForeground(0x2B, 0x1D, 0x00);
 constexpr QColor kEdgeColor(0x8A, 0x4B, 0x00);
@@ -29,34 +30,28 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
 } // namespace
 
 Strip::Strip(QWidget* parent)
-    : QFrame(parent), text_(new QLabel(this)), buttonRow_(new QWidget(this)),
-      buttons_(new QBoxLayout(QBoxLayout::LeftToRight, buttonRow_)) {
+    : QFrame(parent), text_(new QLabel(this)), edge_(new QWidget(this)),
+      buttonRow_(new QWidget(this)), buttons_(new QBoxLayout(QBoxLayout::LeftToRight, buttonRow_)),
+      content_(new QBoxLayout(QBoxLayout::LeftToRight)) {
     [[maybe_unused]] static const bool isKnown = [] {
         QAccessible::installFactory(makeInterface);
         return true;
     }();
-    QPalette colors = palette();
-    colors.setColor(QPalette::Window, kBackground);
-    colors.setColor(QPalette::WindowText, kForeground);
-    setPalette(colors);
     setAutoFillBackground(true);
     text_->setWordWrap(true);
     text_->setTextFormat(Qt::PlainText);
     buttons_->setContentsMargins(0, 0, 0, 0);
-    auto* edge = new QWidget(this);
-    edge->setFixedHeight(kEdge);
-    edge->setAutoFillBackground(true);
-    edge->setPalette(kEdgeColor);
-    auto* content = new QVBoxLayout;
-    content->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    content->setSpacing(kMargin);
-    content->addWidget(text_);
-    content->addWidget(buttonRow_);
+    edge_->setFixedHeight(kEdge);
+    edge_->setAutoFillBackground(true);
+    content_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    content_->setSpacing(kMargin);
+    content_->addWidget(text_, 1);
+    content_->addWidget(buttonRow_);
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
-    all->addWidget(edge);
-    all->addLayout(content);
+    all->addWidget(edge_);
+    all->addLayout(content_);
     setMessageListener([this] { showCurrent(); });
     showCurrent();
 }
@@ -76,6 +71,7 @@ void Strip::showCurrent() {
     setVisible(current != nullptr);
     if (!current)
         return;
+    setColors(current->message.kind == UserMessage::Kind::Alert);
     const QString text = QString::fromStdString(current->message.text);
     text_->setText(text);
     setAccessibleName(text);
@@ -95,6 +91,18 @@ void Strip::showCurrent() {
     announce(text);
 }
 
+void Strip::setColors(bool isAlert) {
+    QPalette colors;
+    if (isAlert) {
+        colors.setColor(QPalette::Window, kBackground);
+        colors.setColor(QPalette::WindowText, kForeground);
+    }
+    setPalette(colors);
+    setBackgroundRole(isAlert ? QPalette::Window : QPalette::Base);
+    edge_->setPalette(isAlert ? QPalette(kEdgeColor) : QPalette());
+    edge_->setBackgroundRole(isAlert ? QPalette::Window : QPalette::Highlight);
+}
+
 void Strip::addButton(const QString& label, std::function<void()> press) {
     auto* button = new QPushButton(label, buttonRow_);
     button->setMinimumSize(std::max(kButtonSide, button->sizeHint().width() + kMargin),
@@ -109,13 +117,16 @@ void Strip::resizeEvent(QResizeEvent* event) {
     arrangeButtons();
 }
 
-/// Side by side, or one above the other where there is too little room.
+/// Beside the text, beneath it, or there one above the other, as the room allows.
 void Strip::arrangeButtons() {
     int needed = 0;
     for (const auto* button : buttonRow_->findChildren<QPushButton*>())
         if (buttons_->indexOf(button) >= 0)
             needed += button->minimumWidth() + buttons_->spacing();
-    const bool isNarrow = needed > width() - 2 * kMargin;
+    const int room = width() - 2 * kMargin;
+    const bool isNarrow = needed > room;
     buttons_->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     buttons_->setAlignment(isNarrow ? Qt::Alignment() : Qt::AlignLeft);
+    const bool isBeside = needed + kReadable * fontMetrics().height() <= room;
+    content_->setDirection(isBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }

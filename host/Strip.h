@@ -7,8 +7,9 @@ class QBoxLayout;
 class QLabel;
 class QPushButton;
 
-/// Shows the current message of UserMessages.h with its buttons. Hidden without a message. To a
-/// screen reader it is an alert named by the message's text. It never takes the focus by itself.
+/// Shows the current message of UserMessages.h with its buttons: an alert on yellow, a note in the
+/// desktop's colours. Hidden without a message. To a screen reader it is an alert named by the
+/// message's text. It never takes the focus by itself.
 class Strip final : public QFrame {
 public:
     explicit Strip(QWidget* parent);
@@ -19,10 +20,13 @@ protected:
 
 private:
     void showCurrent();
+    void setColors(bool isAlert);
     void addButton(const QString& label, std::function<void()> press);
     void arrangeButtons();
 
     QLabel* text_;
+    QWidget* edge_; ///< a line between strip and pane
     QWidget* buttonRow_;
     QBoxLayout* buttons_;
+    QBoxLayout* content_;
 };
