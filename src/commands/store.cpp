@@ -39,8 +39,10 @@ const CFBundle* paneBundle() {
 }
 
 void nameActions() {
-    if (const auto agent = agentURL())
-        daemonUseBundle(CFBundleCreate(agent.get()));
+    daemonMakeBundleBy([] {
+        const auto agent = agentURL();
+        return agent ? CFBundleCreate(agent.get()) : nullptr;
+    });
 }
 
 PrefsRecord currentSettings() {

@@ -30,7 +30,8 @@ ProcessSerialNumber quitPSN;     ///< the agent that was last asked to quit
 bool openingLaunched = false;    ///< opening the pane launched an agent that isn't up yet
 std::optional<ChangeMask> changesOfVisit; ///< all of this visit; a mask may be 0
 CFRef<const CFString> daemonExecutablePath;
-CFRef<CFBundle> daemonBundle; ///< made on first request
+CFRef<CFBundle> daemonBundle;              ///< made on first request
+CFRef<CFBundle> (*makeBundle)() = nullptr; ///< null: from daemonExecutablePath
 AEEventHandler aehandler = nullptr;
 std::optional<ChangeWatch> processWatch;
 std::optional<ChangeWatch> launchWatch;
@@ -195,12 +196,14 @@ AgentState daemonState() {
 }
 
 CFBundle* daemonMainBundle() {
-    if (!daemonBundle && daemonExecutablePath)
+    if (!daemonBundle && makeBundle)
+        daemonBundle = makeBundle();
+    else if (!daemonBundle && daemonExecutablePath)
         if (const auto url = CFURLCreateWithFileSystemPath(daemonExecutablePath.get(), true))
             daemonBundle = CFBundleCreate(url.get());
     return daemonBundle.get();
 }
 
-void daemonUseBundle(CFRef<CFBundle> bundle) {
-    daemonBundle = std::move(bundle);
+void daemonMakeBundleBy(CFRef<CFBundle> (*make)()) {
+    makeBundle = make;
 }

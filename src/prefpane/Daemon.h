@@ -36,5 +36,5 @@ AgentState daemonState();
 /// The agent application's bundle with its resources. Null without a path or bundle. Borrowed until
 /// daemonCleanup.
 CFBundle* daemonMainBundle();
-/// For commands, which have no link: the bundle with the agent's resources, or null.
-void daemonUseBundle(CFRef<CFBundle> bundle);
+/// For commands, which don't set up the link: `make` makes that bundle when it is first asked for.
+void daemonMakeBundleBy(CFRef<CFBundle> (*make)());
