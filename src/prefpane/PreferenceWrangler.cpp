@@ -198,6 +198,10 @@ void PreferenceWrangler::setup() {
 }
 
 void PreferenceWrangler::loadValues() {
+    showValues(true);
+}
+
+void PreferenceWrangler::showValues(bool anew) {
     loadNumbers();
     updateMasterOnOff();
     scanModeRadios_->selectCellWithTag(prefs.scanMode);
@@ -212,12 +216,12 @@ void PreferenceWrangler::loadValues() {
     palette_.loadContent();
     hotKeys_.load();
     lineColors_.load();
-    scanAreas_.load();
+    anew ? scanAreas_.load() : scanAreas_.update();
     showSampleLineType(kSampleScanLine);
-    pointers_.load();
+    anew ? pointers_.load() : pointers_.updatePointerName();
     palette_.load();
     updateTriggerUI();
-    updateDefaults(true);
+    updateDefaults(true); // a group of radio buttons is marked at the one that is shown
 }
 
 void PreferenceWrangler::setHelpBookName(const CFType* name) {

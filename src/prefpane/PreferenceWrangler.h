@@ -229,6 +229,8 @@ private:
 
     /// The pane's bundle; null while none is loaded.
     static const CFBundle* ownBundle();
+    /// `anew`: also what lies outside of the record, such as displays and pointers' pictures.
+    void showValues(bool anew);
     void showChanges(ChangeMask changes);
     void noteStep();
     void showStep(const HistoryStep& step, const PrefsRecord& before, const PrefsRecord& after,

@@ -147,7 +147,7 @@ void PreferenceWrangler::takeImport(const SettingsOffer& offer) {
 /// The agent is told first: showing every value takes longer.
 void PreferenceWrangler::showAndReport(ChangeMask changes) {
     changed(changes);
-    loadValues();
+    showValues(false);
     if (changes & kChangeLaunch)
         updateLaunchUI();
     if (prefsAreAsStored()) {
