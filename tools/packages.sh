@@ -18,7 +18,7 @@ tour_packages=(
 check_packages=(git clang-format-14 clang-tidy-14 libbenchmark-dev)
 deb_packages=(git debhelper dpkg-dev)
 # A clean system to install it into, and what looks it over.
-deb_check_packages=(lintian mmdebstrap)
+deb_check_packages=(lintian mmdebstrap desktop-file-utils appstream)
 
 # install_packages NAME... as root, or through sudo
 install_packages() {

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>%1, and 1 setting more</source>
-        <translation>%1, und 1 Einstellung mehr</translation>
+        <translation>%1, und 1 weitere Einstellung</translation>
     </message>
     <message>
         <source>%1.</source>
@@ -31,8 +31,8 @@
     <message numerus="yes">
         <source>%1, and %n settings more</source>
         <translation>
-            <numerusform>%1, und %n Einstellung mehr</numerusform>
-            <numerusform>%1, und %n Einstellungen mehr</numerusform>
+            <numerusform>%1, und %n weitere Einstellung</numerusform>
+            <numerusform>%1, und %n weitere Einstellungen</numerusform>
         </translation>
     </message>
     <message>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>Left out: %1: %2</source>
-        <translation>Weggelassen: %1: %2</translation>
+        <translation>Ausgelassen: %1: %2</translation>
     </message>
     <message>
         <source>%1 (in use)</source>
@@ -290,15 +290,15 @@
     </message>
     <message>
         <source>Opens the window at that section, or brings it to the front there.</source>
-        <translation>Öffnet das Fenster in diesem Bereich oder holt es dort nach vorn.</translation>
+        <translation>Öffnet das Fenster bei diesem Abschnitt oder holt es dort nach vorn.</translation>
     </message>
     <message>
         <source>there is no section &quot;%1&quot;, but %2</source>
-        <translation>es gibt keinen Bereich „%1“, aber %2</translation>
+        <translation>es gibt keinen Abschnitt „%1“, nur %2</translation>
     </message>
     <message>
         <source>SECTION</source>
-        <translation>BEREICH</translation>
+        <translation>ABSCHNITT</translation>
     </message>
     <message>
         <source>None but show needs a display. A change goes through the open window if there is one; else it is stored, and sent to the running agent.</source>
@@ -646,7 +646,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <name>Keys</name>
     <message>
         <source>return</source>
-        <translation>Zeilenschalter</translation>
+        <translation>Eingabetaste</translation>
     </message>
     <message>
         <source>tab</source>
@@ -662,7 +662,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>enter</source>
-        <translation>Eingabe</translation>
+        <translation>Enter</translation>
     </message>
     <message>
         <source>esc</source>
@@ -1140,11 +1140,11 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Choose “let go” if you can time that better.</source>
-        <translation>Wählen Sie „loslasse“, wenn Sie das besser treffen.</translation>
+        <translation>Wählen Sie „Wenn ich loslasse“, wenn Sie das besser treffen.</translation>
     </message>
     <message>
         <source>Used by this way of scanning only. Choose “let go” if you can time that better.</source>
-        <translation>Nur bei dieser Art zu scannen. Wählen Sie „loslasse“, wenn Sie das besser treffen.</translation>
+        <translation>Nur bei dieser Art zu scannen. Wählen Sie „Wenn ich loslasse“, wenn Sie das besser treffen.</translation>
     </message>
     <message>
         <source>When I press</source>
@@ -1412,7 +1412,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Choose a colour that stands out from your windows and desktop.</source>
-        <translation>Wählen Sie eine Farbe, die sich von Ihren Fenstern und dem Schreibtisch abhebt.</translation>
+        <translation>Wählen Sie eine Farbe, die sich von Ihren Fenstern und dem Hintergrund abhebt.</translation>
     </message>
     <message>
         <source>Line colour</source>
@@ -2237,7 +2237,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>There is no profile yet. Save the settings as they are now, and come back to them with two presses.</source>
-        <translation>Es gibt noch kein Profil. Speichern Sie die Einstellungen, wie sie jetzt sind, und kehren Sie mit zwei Tastendrücken zu ihnen zurück.</translation>
+        <translation>Es gibt noch kein Profil. Speichern Sie die Einstellungen, wie sie jetzt sind, und kehren Sie mit zweimal Drücken zu ihnen zurück.</translation>
     </message>
     <message>
         <source>The settings are those of “%1”.</source>
@@ -2338,7 +2338,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>This desktop lets no window cover the screens. Choose a part above or type numbers; to draw an area, log in to a session with X11 (Xorg).</source>
-        <translation>Auf dieser Oberfläche darf kein Fenster die Bildschirme bedecken. Wählen Sie oben einen Teil oder geben Sie Zahlen ein; zum Zeichnen melden Sie sich in einer Sitzung mit X11 (Xorg) an.</translation>
+        <translation>Auf diesem Desktop darf kein Fenster die Bildschirme bedecken. Wählen Sie oben einen Teil oder geben Sie Zahlen ein; zum Zeichnen melden Sie sich in einer Sitzung mit X11 (Xorg) an.</translation>
     </message>
     <message>
         <source>Whole screen</source>
@@ -2656,7 +2656,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Korvex is starting…</source>
-        <translation>Korvex startet …</translation>
+        <translation>Korvex startet…</translation>
     </message>
     <message>
         <source>Korvex isn’t running</source>
@@ -2874,7 +2874,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f mm wide would make it so, or a scan area only %.0f mm across.</source>
-        <translation>Auch bei %.0f Sekunden, dem Langsamsten, können wir nicht 3 von 4 erwarten. Ziele von %.0f mm Breite würden es möglich machen, oder ein Scanbereich von nur %.0f mm.</translation>
+        <translation>Auch bei %.0f Sekunden, der langsamsten Linie, können wir nicht 3 von 4 erwarten. Ziele von %.0f mm Breite würden es möglich machen, oder ein Scanbereich von nur %.0f mm.</translation>
     </message>
     <message>
         <source>You pressed in %d of %zu sweeps. From %d on we can suggest a speed. Try once more when you like; a slower line gives you more time.</source>
@@ -2890,11 +2890,11 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Ignoring presses for %.1f seconds after a click would catch most of those that nothing asked for.</source>
-        <translation>%.1f Sekunden nach einem Klick keine Drücke zu beachten würde die meisten ungefragten abfangen.</translation>
+        <translation>Würden Drücke %.1f Sekunden nach einem Klick nicht beachtet, fielen die meisten ungewollten weg.</translation>
     </message>
     <message>
         <source>A shortest press of %.1f seconds would, too.</source>
-        <translation>Ein kürzester Druck von %.1f Sekunden würde das auch.</translation>
+        <translation>Ein kürzester Druck von %.1f Sekunden hätte dieselbe Wirkung.</translation>
     </message>
     <message>
         <source>They last as long as your other presses, so no shortest press tells them apart.</source>
@@ -2982,7 +2982,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm.</source>
-        <translation>Auch bei %.0f Sekunden, dem Langsamsten, können wir nicht erwarten, dass 3 von 4 Klicks treffen. Ziele von %.0f mm würden es möglich machen, oder ein Scanbereich von nur %.0f × %.0f mm.</translation>
+        <translation>Auch bei %.0f Sekunden, der langsamsten Linie, können wir nicht erwarten, dass 3 von 4 Klicks treffen. Ziele von %.0f mm würden es möglich machen, oder ein Scanbereich von nur %.0f × %.0f mm.</translation>
     </message>
     <message>
         <source>%d clicks in 10 to hit takes %.1f seconds for the line and %.1f for the pointer.</source>
@@ -3189,7 +3189,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Press your switch a few times and see which speed suits you. That leaves this page.</source>
-        <translation>Drücken Sie einige Male Ihren Schalter und sehen Sie, welches Tempo zu Ihnen passt. Das verlässt diese Seite.</translation>
+        <translation>Drücken Sie einige Male Ihren Schalter und sehen Sie, welches Tempo zu Ihnen passt. Dabei verlassen Sie diese Seite.</translation>
     </message>
     <message>
         <source>Find my speed</source>

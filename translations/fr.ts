@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Put it back</source>
-        <translation>Les remettre</translation>
+        <translation>Revenir en arrière</translation>
     </message>
     <message>
         <source>%1, and 1 setting more</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>Prints the completion for bash.</source>
-        <translation>Affiche le complètement pour bash.</translation>
+        <translation>Affiche l’autocomplétion pour bash.</translation>
     </message>
     <message>
         <source>Prints the manual page&apos;s part on commands and settings.</source>
@@ -513,18 +513,18 @@ Shows the settings pane of the bundle, of Korvex&apos;s own without one.
   --help          print this text
   --version       print the version
 </source>
-        <translation>Utilisation&#xa0;: korvex-preferences [LOT.prefPane]
+        <translation>Utilisation&#xa0;: korvex-preferences [PAQUET.prefPane]
        korvex-preferences COMMANDE OPÉRANDES
        korvex-preferences --section NOM
        korvex-preferences --service
-       korvex-preferences --check LOT.prefPane
+       korvex-preferences --check PAQUET.prefPane
 
-Montre le panneau de réglages du lot, celui de Korvex par défaut.
+Montre le panneau de réglages du paquet, celui de Korvex par défaut.
 
   COMMANDE        change ou lit des réglages sans fenêtre&#xa0;; voir la commande «&#xa0;help&#xa0;»
   --section NOM   montre cette section du panneau, par exemple «&#xa0;palette&#xa0;»
   --service       attend que le bus de session demande la fenêtre
-  --check LOT     charge le lot, vérifie ses fichiers d’interface, ne montre rien
+  --check PAQUET  charge le paquet, vérifie ses fichiers d’interface, ne montre rien
   --help          affiche ce texte
   --version       affiche la version
 </translation>
@@ -1140,11 +1140,11 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Choose “let go” if you can time that better.</source>
-        <translation>Choisissez «&#xa0;relâche&#xa0;» si vous visez mieux ainsi.</translation>
+        <translation>Choisissez «&#xa0;Quand je relâche&#xa0;» si vous visez mieux ainsi.</translation>
     </message>
     <message>
         <source>Used by this way of scanning only. Choose “let go” if you can time that better.</source>
-        <translation>Ne sert qu’à cette façon de balayer. Choisissez «&#xa0;relâche&#xa0;» si vous visez mieux ainsi.</translation>
+        <translation>Ne sert qu’à cette façon de balayer. Choisissez «&#xa0;Quand je relâche&#xa0;» si vous visez mieux ainsi.</translation>
     </message>
     <message>
         <source>When I press</source>
@@ -1472,7 +1472,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>&lt;p&gt;At 100 the guide line is invisible, for those whom a second line distracts.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;À 100, la ligne guide est invisible, pour qui une seconde ligne distrait.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;À 100, la ligne guide est invisible, pour les personnes qu’une seconde ligne distrait.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Pointer</source>
@@ -2874,7 +2874,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f mm wide would make it so, or a scan area only %.0f mm across.</source>
-        <translation>Même à %.0f secondes, le plus lent, nous n’attendons pas 3 sur 4. Des cibles larges de %.0f mm le permettraient, ou une zone de balayage de %.0f mm seulement.</translation>
+        <translation>Même à %.0f secondes, la ligne la plus lente, nous n’attendons pas 3 sur 4. Des cibles larges de %.0f mm le permettraient, ou une zone de balayage de %.0f mm seulement.</translation>
     </message>
     <message>
         <source>You pressed in %d of %zu sweeps. From %d on we can suggest a speed. Try once more when you like; a slower line gives you more time.</source>
@@ -2982,7 +2982,7 @@ Montre le panneau de réglages du lot, celui de Korvex par défaut.
     </message>
     <message>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm.</source>
-        <translation>Même à %.0f secondes, le plus lent, nous n’attendons pas 3 clics justes sur 4. Des cibles de %.0f mm le permettraient, ou une zone de balayage de %.0f × %.0f mm seulement.</translation>
+        <translation>Même à %.0f secondes, la ligne la plus lente, nous n’attendons pas 3 clics justes sur 4. Des cibles de %.0f mm le permettraient, ou une zone de balayage de %.0f × %.0f mm seulement.</translation>
     </message>
     <message>
         <source>%d clicks in 10 to hit takes %.1f seconds for the line and %.1f for the pointer.</source>
