@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kSameStepSeconds = 2;
 
-/// The numbers of a setting that differ, a bit each: its sides, where it has some.
+/// The parts of a setting that differ, such as the sides of an area: one bit for each.
 UInt32 differingParts(const Setting& setting, const PrefsRecord& a, const PrefsRecord& b) {
     const std::size_t size = setting.notation == &kRectangleNotation ? sizeof(float)
                              : setting.notation == &kSizeNotation    ? sizeof(SInt16)
@@ -23,7 +23,7 @@ UInt32 differingParts(const Setting& setting, const PrefsRecord& a, const PrefsR
     return parts;
 }
 
-/// Whether a setting is changed in small steps or by dragging: of an area, one side is.
+/// Whether a setting is changed in small steps or by dragging. Of an area that is one side.
 bool isGradual(const Setting& setting, UInt32 parts) {
     return setting.isNumber() || setting.notation == &kSizeNotation ||
            setting.notation == &kColourNotation ||
@@ -51,7 +51,7 @@ void History::note(const PrefsRecord& record, double time, const std::string& pr
     now_ = record;
 }
 
-// The first change of an area's side may have put the area to use, too.
+// The first change of an area's side may also have switched the area on.
 bool History::joinsLast(const SettingSet& changed, const PrefsRecord& record, double time) const {
     if (steps_.empty() || changed.count() != 1)
         return false;
@@ -72,7 +72,7 @@ const HistoryStep* History::undo(PrefsRecord& record) {
     if (!canUndo())
         return nullptr;
     HistoryStep& step = steps_[--position_];
-    step.time = -kSameStepSeconds; // a change that comes next joins none
+    step.time = -kSameStepSeconds; // the next change doesn't join it
     copySettings(step.settings, step.before, record);
     now_ = record;
     profile_ = step.profileBefore;

@@ -46,7 +46,7 @@ void setNumber(const Setting& setting, double value, PrefsRecord& record) {
         std::memcpy(setting.in(record), &whole, sizeof whole);
 }
 
-/// A list's text as it is compared: without blanks, in small letters.
+/// A list's text for a comparison: without blanks, in small letters.
 std::string bare(const CFString* text) {
     std::string result = text ? toUTF8(text) : "";
     std::erase(result, ' ');
@@ -109,8 +109,8 @@ std::string settingFault(const Setting& setting, const PrefsRecord& record) {
     return {};
 }
 
-// What is stored is read as far as it goes; from outside, a list of other length or with numbers
-// that don't fit would lose some of them.
+// Stored lists are read as far as possible. A list from outside must not lose anything that way:
+// its length and its numbers must fit.
 std::string setFromValue(const Setting& setting, const CFType* value, PrefsRecord& record) {
     PrefsRecord changed = record;
     const bool isList =

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Takes one value. Returns the reason why not, or an empty text.
+/// Takes one value. Returns the reason if it can't, else an empty text.
 std::string take(const std::string& key, const CFType* value, SettingsOffer& offer) {
     const Setting* setting = settingOfKey(key);
     if (!setting)
@@ -25,7 +25,7 @@ std::string take(const std::string& key, const CFType* value, SettingsOffer& off
     return fault;
 }
 
-/// Why a file that isn't taken as one of settings isn't.
+/// Why a file can't be read as a file of settings.
 std::string fileFault(const std::string& path) {
     std::error_code error;
     const auto size = std::filesystem::file_size(path, error);

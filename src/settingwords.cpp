@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr std::size_t kMostButtonsNamed = 2; ///< of the palette: as many as are swapped
+constexpr std::size_t kMostButtonsNamed = 2; ///< of the palette; a swap changes two
 
 constexpr const char* kHotKeyRoles[kNumHotKeys] = {
     LOCALIZABLE("HotKeys", "Turn scanning on or off"), LOCALIZABLE("HotKeys", "Scan"),
@@ -43,7 +43,7 @@ std::string numberText(const Setting& setting, const PrefsRecord& record) {
 
 std::string choiceText(const Setting& setting, const PrefsRecord& record) {
     UInt32 choice = 0;
-    std::memcpy(&choice, setting.in(record), setting.size); // little-endian, as the record is
+    std::memcpy(&choice, setting.in(record), setting.size); // little-endian, like the record
     return choice < setting.choices.size() ? localized("Choices", setting.choices[choice])
                                            : std::to_string(choice);
 }
@@ -69,7 +69,7 @@ std::string hotKeyText(const HotKey& hotKey) {
                               : "";
 }
 
-/// As the window has it, which takes the name for UTF-8, or else in the letters it is stored in.
+/// As in the window: the name is read as UTF-8. If it is none, it is read in its stored encoding.
 std::string pointerText(const Setting& setting, const PrefsRecord& record) {
     const std::string title = ptrutilPointerTitle(record.pointerImageName);
     if (CFStringCreateWithCString(title.c_str(), kCFStringEncodingUTF8))
@@ -128,8 +128,8 @@ std::vector<PartChange> actionChanges(const PrefsRecord& before, const PrefsReco
     return changes;
 }
 
-/// Of a setting with parts that have names, each that differs; else none. A change that moves many
-/// buttons of the palette is told of them as a whole.
+/// The parts of a setting that differ, if its parts have names. There are none if many buttons of
+/// the palette differ: their list is told as a whole then.
 std::vector<PartChange> partChanges(const Setting& setting, const PrefsRecord& before,
                                     const PrefsRecord& after) {
     if (setting.notation == &kHotKeyListNotation)
@@ -140,13 +140,13 @@ std::vector<PartChange> partChanges(const Setting& setting, const PrefsRecord& b
     return changes.size() > kMostButtonsNamed ? std::vector<PartChange>() : changes;
 }
 
-/// Whether what is chosen may be of several words, which a sentence sets off.
+/// Whether the value may have several words. A sentence puts it in quotation marks then.
 bool isTitle(const Setting& setting) {
     return !setting.choices.empty() || setting.notation == &kTextNotation ||
            setting.notation == &kActionListNotation;
 }
 
-/// "12.5" of "12.5 sec": a unit that the number after it has, too, is said once.
+/// "12.5" of "12.5 sec" if the value after it has the same unit, so that it is said once.
 std::string withoutUnit(std::string before, const std::string& after) {
     const auto unit = after.rfind(' ');
     if (!after.empty() && std::isdigit(static_cast<unsigned char>(after[0])) &&

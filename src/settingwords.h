@@ -18,18 +18,18 @@ double settingNumber(const Setting& setting, const PrefsRecord& record);
 inline constexpr char kSettingBecomes[] = LOCALIZABLE("Changes", "%1: %2 to %3");
 inline constexpr char kSettingBecomesAgain[] = LOCALIZABLE("Changes", "%1: %2 back to %3");
 
-/// What a change did, as in "Line scan time: 12.5 back to 10.0 sec", by one of the patterns above.
-/// Of hot keys it names each that differs, of the palette's buttons one or two. Values that read
-/// the same aren't said.
+/// A change in words, as in "Line scan time: 12.5 back to 10.0 sec", with one of the patterns
+/// above. It names each hot key that differs, and up to two buttons of the palette. Two values with
+/// the same words are left out.
 std::string changeText(const Setting& setting, const PrefsRecord& before, const PrefsRecord& after,
                        const char* pattern);
 
-/// The first of those changes and how many there are besides. At least one is.
+/// The first of those changes, and how many others there are. There must be at least one.
 std::string changesText(const SettingSet& settings, const PrefsRecord& before,
                         const PrefsRecord& after, const char* pattern);
 
-/// What putting it back does, as in "Put “Line scan time” back to 10.0 sec".
+/// The effect of putting it back, as in "Put “Line scan time” back to 10.0 sec".
 std::string putBackText(const Setting& setting, const PrefsRecord& now, const PrefsRecord& after);
 
-/// "1 to 60 seconds", of limits that are.
+/// Limits in words, as in "1 to 60 seconds".
 std::string rangeText(const SettingLimits& limits);

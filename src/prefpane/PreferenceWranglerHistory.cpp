@@ -23,7 +23,7 @@ double secondsNow() {
     return std::chrono::duration<double>(now).count();
 }
 
-/// Of a step: "Line scan time: 12.5 back to 10.0 sec, and 2 settings more."
+/// A step in words: "Line scan time: 12.5 back to 10.0 sec, and 2 settings more."
 std::string stepText(const SettingSet& settings, const PrefsRecord& before,
                      const PrefsRecord& after, const char* pattern) {
     return filled(localized("Changes", "%1.", "a sentence"),
@@ -70,7 +70,7 @@ void PreferenceWrangler::adopt(const SettingSet& settings, const PrefsRecord& re
     history_.finishStep();
 }
 
-// A command names the profile in use before it sends the change.
+// A command stores the name of the profile in use before it sends the change.
 void PreferenceWrangler::changedElsewhere(const SettingSet& settings, const PrefsRecord& record) {
     profiles_.load();
     adopt(settings, record);
@@ -112,14 +112,14 @@ void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& be
     updateHistoryUI();
 }
 
-/// The keyboard goes along, unless it is at a button that undoes still more.
+/// The focus goes along, unless it is on a button that can undo more.
 void PreferenceWrangler::moveTo(NSView* view) {
     const bool goesOn = (undoBtn_->isFirstResponder() && history_.canUndo()) ||
                         (redoBtn_->isFirstResponder() && history_.canRedo());
     if (!view)
         return;
     if (!goesOn)
-        view->window().makeFirstResponder(nullptr); // what is hidden hands it to nobody else
+        view->window().makeFirstResponder(nullptr); // hiding a view would pass it on
     view->scrollToVisible();
     if (!goesOn)
         focusRow(*view);
@@ -144,7 +144,7 @@ void PreferenceWrangler::takeImport(const SettingsOffer& offer) {
                             .buttons = {undoButton(localized("Changes", "Put it back"))}});
 }
 
-/// The agent is told first: showing every value takes longer.
+/// Tells the agent first, since showing every value takes longer.
 void PreferenceWrangler::showAndReport(ChangeMask changes) {
     changed(changes);
     showValues(false);

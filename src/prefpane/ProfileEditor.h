@@ -11,28 +11,28 @@
 class NSButton;
 class NSTextField;
 
-/// Who makes the settings those of a profile.
+/// Changes the settings for the ProfileEditor.
 class ProfileTarget {
 public:
-    /// As one change of what differs.
+    /// Sets those that differ, as one change.
     virtual void adopt(const SettingSet& settings, const PrefsRecord& record) = 0;
     virtual void undoChange() = 0;
-    /// Another profile is in use, or none, while the settings stay as they are.
+    /// Another profile is in use now, or none. The settings are the same.
     virtual void noteProfile() = 0;
 
 protected:
     ~ProfileTarget() = default;
 };
 
-/// The wrangler's part for profiles: the menu in the header, which uses one at once and says which
-/// is in use, and the section, which has the rest. What becomes of files is told in the strip. The
-/// interface file fills the public fields; none is owned.
+/// The wrangler's part for profiles. The menu in the header shows which profile is in use, and uses
+/// another at once. The section has everything else. The strip tells whether files could be read
+/// and written. The interface file sets the public fields. None is owned.
 class ProfileEditor final : public NSMenuDelegate, public ChoiceGridSource {
 public:
     NSPopUpButton* menu = nullptr;
     ChoiceGrid* grid = nullptr;
     NSPopUpButton* compareMenu = nullptr;
-    NSTextField* explanation = nullptr; ///< what using the chosen one would change
+    NSTextField* explanation = nullptr; ///< what the chosen one would change
     NSTextField* name = nullptr;        ///< for a new one, or for the chosen one
     NSButton* useBtn = nullptr;
     NSButton* updateBtn = nullptr;
@@ -54,14 +54,14 @@ public:
     /// The profile in use; empty for none.
     const std::string& inUse() const { return inUse_; }
 
-    /// Until it is kept, only for this visit.
+    /// For this visit only, until keepInUse().
     void setInUse(const std::string& profile);
-    /// For the next visit, too. Gives a sentence for the user when that fails.
+    /// Stores it for the next visit. Returns a sentence for the user if that fails.
     std::string keepInUse();
 
     void menuNeedsUpdate(NSPopUpButton* menu) override;
     void chooseFromMenu(const NSMenuItem& item);
-    /// Has the explanation say how the chosen one differs from another, or from the settings.
+    /// Explains how the chosen one differs from another one, or from the settings.
     void compareWith(const NSMenuItem& item);
     void updateInUse();
     void showSection();
@@ -71,7 +71,7 @@ public:
     void updateChosen();
     void renameChosen();
     void deleteChosen();
-    /// Puts a ready name into the field, or one like it that is free.
+    /// Puts a ready name into the field. If it is taken, a number is added.
     void suggestName(const NSButton& sender);
     /// Saves the settings under the name in the field.
     void saveNew();
@@ -92,11 +92,11 @@ private:
         SettingsOffer offer;
     };
 
-    /// What its file holds: once more only when that has changed.
+    /// Reads its file, if that has changed since it was read.
     static void read(Profile& profile);
     /// Null when there is none of that name.
     const Profile* find(const std::string& profile) const;
-    /// What using it would change.
+    /// What it would change.
     SettingSet changesBy(const Profile& profile) const;
 
     bool isChanged(const Profile& profile) const { return changesBy(profile).any(); }
@@ -107,9 +107,10 @@ private:
     std::string explanationOf(const Profile& profile) const;
     void use(Profile profile);
     void save(const std::string& profile);
-    /// Whether there is one in the field; else it is asked for.
+    /// Whether there is a name in the field. Asks the user for one if not.
     bool hasName();
-    /// Away from a button that is about to be disabled, which would hand the keyboard to the next.
+    /// Moves the focus away from a button that is about to be disabled. It would go to the next
+    /// button.
     void leaveButtons();
     void putBack(const Profile& profile, bool wasInUse);
     void showMenuTitle();
@@ -121,5 +122,5 @@ private:
     std::string inUse_;
     bool isInUseKept_ = true;
     std::string chosen_;       ///< in the list
-    std::string comparedWith_; ///< another one; empty for the settings as they are
+    std::string comparedWith_; ///< another profile; empty for the current settings
 };

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int kLeastWidth = 700; // points, of a column where there are two
+constexpr int kLeastWidth = 700; // points; of each of two columns
 
 int heightOf(const QLayoutItem& item, int width) {
     return item.hasHeightForWidth() ? item.heightForWidth(width) : item.sizeHint().height();
@@ -72,7 +72,7 @@ public:
 private:
     struct Columns {
         int width; ///< of each
-        int end;   ///< of the first one, in cards
+        int end;   ///< how many cards the first one has
     };
 
     Columns columnsIn(int width) const {
@@ -107,7 +107,7 @@ private:
 void CardColumns::build() {
     const int spacing = layout()->spacing();
     const QMargins margins = layout()->contentsMargins();
-    delete layout(); // which leaves the widgets
+    delete layout(); // not the widgets
     auto* cards = new CardLayout(this, spacing);
     cards->setContentsMargins(margins);
     for (auto* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
@@ -116,5 +116,5 @@ void CardColumns::build() {
 
 QSize CardColumns::sizeIn(int columns) const {
     const auto* cards = dynamic_cast<const CardLayout*>(layout());
-    return cards ? cards->sizeIn(columns) : sizeHint(); // until it is built
+    return cards ? cards->sizeIn(columns) : sizeHint(); // before it is built
 }

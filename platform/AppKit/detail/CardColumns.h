@@ -7,14 +7,15 @@
 
 constexpr int kColumnWidth = 780; ///< points, at most
 
-/// The cards of a page, as the form's vertical layout has them: one below the other, in the middle
-/// of the page, or where there is room in two columns, the second going on where the first ends.
+/// The cards of a page, in the order of the form's vertical layout. They stand one below the other
+/// in the middle of the page. Where there is room they stand in two columns: the first cards at the
+/// left, the rest at the right.
 class CardColumns final : public QWidget, public FormPart {
 public:
     using QWidget::QWidget;
 
     void build() override;
 
-    /// Wide enough for that many columns, and as high as the cards then are.
+    /// The width of that many columns, and the height of the cards in them.
     QSize sizeIn(int columns) const;
 };

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int kAround = 30;     // points that stay in sight above and below
+constexpr int kAround = 30;     // points that stay visible above and below
 constexpr QSize kUsual(36, 24); // in heights of a line
 
 } // namespace
@@ -18,7 +18,7 @@ PageArea::PageArea(QWidget* parent) : QScrollArea(parent) {
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        // A control that moves away under a press would not be clicked.
+        // A control that moved during a press would not be clicked.
         if (now && isAncestorOf(now) && QGuiApplication::mouseButtons() == Qt::NoButton)
             ensureWidgetVisible(now, 0, kAround);
     });

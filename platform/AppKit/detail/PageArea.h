@@ -3,15 +3,15 @@
 
 #include <QScrollArea>
 
-/// A page that scrolls up and down when its contents don't fit. What gets the keyboard, by whatever
-/// way, comes into sight.
+/// A page that scrolls up and down when its contents don't fit. The control that gets the focus is
+/// scrolled into view.
 class PageArea final : public QScrollArea {
 public:
     explicit PageArea(QWidget* parent);
 
-    /// Says nothing of the contents, which scroll.
+    /// Independent of the contents, since they scroll.
     QSize sizeHint() const override;
-    /// As wide as the contents are at least, while the page is the one that is shown.
+    /// As wide as the contents' minimum while the page is shown.
     QSize minimumSizeHint() const override;
 
 protected:

@@ -11,15 +11,15 @@
 
 namespace {
 
-constexpr int kSide = 16;      // points, as all here: the margins of a row
-constexpr int kNarrowSide = 8; // in a row narrower than
+constexpr int kSide = 16;      // points, like all lengths here; the margins of a row
+constexpr int kNarrowSide = 8; // and those of a row narrower than kNarrow
 constexpr int kNarrow = 500;
 constexpr int kAbove = 9;
 constexpr int kGap = 16;         // between text and controls side by side
 constexpr int kGapBeneath = 6;   // and one above the other
 constexpr int kLineGap = 2;      // between caption and explanation
-constexpr int kTextColumn = 13;  // in heights of a line, the least width of a text beside controls
-constexpr int kLeastHeight = 44; // of what a row shows
+constexpr int kTextColumn = 13;  // heights of a line; the least width of a text beside controls
+constexpr int kLeastHeight = 44; // of a row's contents
 constexpr int kCardLine = 1;     // at either side
 
 enum { kPutBack, kControls, kCaption }; // and the explanation, if there is one
@@ -43,7 +43,7 @@ RowLayout::RowLayout(QWidget* row, const RowText& text, QLayout* controls, QWidg
 }
 
 RowLayout::~RowLayout() {
-    while (const QLayoutItem* item = takeAt(0)) // a layout takes itself away
+    while (const QLayoutItem* item = takeAt(0)) // a nested layout removes itself
         delete item;
 }
 
@@ -68,7 +68,7 @@ QMargins RowLayout::margins(int width) const {
                            : QMargins(kSide + indent_, kAbove, kSide, kAbove);
 }
 
-/// Takes the button's place off the right of a part of the row.
+/// Takes the button's place from the right end of a part of the row.
 QRect RowLayout::takePlace(QRect& part) {
     part.setWidth(part.width() - PutBackButton::kRoom);
     QRect button(0, 0, PutBackButton::kSide, PutBackButton::kSide);
@@ -82,7 +82,7 @@ int RowLayout::textColumn() const {
     return kTextColumn * parentWidget()->fontMetrics().height();
 }
 
-/// Of the labels one above the other.
+/// The height of the labels, one above the other.
 int RowLayout::textHeight(int width) const {
     int height = -kLineGap;
     for (int label = kCaption; label < count(); ++label)
@@ -124,7 +124,7 @@ RowLayout::Places RowLayout::placesBeneath(const QRect& room) const {
     return where;
 }
 
-// The width that it has in a wide window: its labels needn't be measured for another one.
+// The width of a row in a wide window, so that its labels needn't be measured for another one.
 QSize RowLayout::sizeHint() const {
     return {kColumnWidth - 2 * kCardLine, kLeastHeight};
 }
@@ -157,7 +157,7 @@ void RowLayout::setGeometry(const QRect& rect) {
     for (int label = kCaption; label < count(); ++label) {
         const int height = heightFor(*items_[label], width);
         const QRect place(where.text.x(), y, width, height);
-        // Through its item it would be measured for other widths as well.
+        // Its item would also measure it for other widths.
         items_[label]->widget()->setGeometry(
             QStyle::visualRect(parentWidget()->layoutDirection(), rect, place));
         y += height + kLineGap;

@@ -5,13 +5,13 @@
 
 #include <QLayout>
 
-/// The layout of a row: its text at the left and its controls at the right or, where that would
-/// leave the text too little room, the controls beneath it. The button that puts the row back has
-/// its place at the right of the text or, beneath it, of the controls.
+/// The layout of a row: its text at the left and its controls at the right. Where the text would
+/// get too little room, the controls stand below it. The button that puts the row back stands at
+/// the right of the text, or of the controls when they are below.
 class RowLayout final : public QLayout {
 public:
-    /// Owns `controls`; the text's labels and the button are the row's. `indent`: from the row's
-    /// left edge to its text, in points, besides the margin.
+    /// Owns `controls`. The row owns the labels and the button. `indent`: points between the row's
+    /// left margin and its text.
     RowLayout(QWidget* row, const RowText& text, QLayout* controls, QWidget* putBack, int indent);
     ~RowLayout() override;
 

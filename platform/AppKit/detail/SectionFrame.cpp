@@ -21,21 +21,21 @@
 
 namespace {
 
-constexpr int kListMargin = 10; // points, as the margins of a page
+constexpr int kListMargin = 10; // points, like the margins of a page
 constexpr int kPageSide = 28;
 constexpr int kPageAbove = 18;
 constexpr int kNarrowPageSide = 10;
 constexpr QMargins kWideHeader(20, 12, 20, 12);
 constexpr QMargins kNarrowHeader(8, 6, 8, 6);
-constexpr int kNarrow = 68; // in heights of a line: in a window below that width,
-constexpr int kLow = 28;    // or height, there is a button instead of the list
+constexpr int kNarrow = 68; // heights of a line; a window below this width,
+constexpr int kLow = 28;    // or this height, has a button instead of the list
 constexpr int kMostNumbered = 9;
-constexpr int kFrame = 48;  // points, at most, of the window
+constexpr int kFrame = 48;  // points of the window, at most
 constexpr int kHeader = 70; // above this frame
 
-/// To Qt a stack is a layered pane and a line around something a frame, and screen readers say so
-/// on the way into each. Qt's own interface of a scroll area crashes the program when it is asked
-/// for a scroll bar that was there when its children were counted and has gone since.
+/// Qt calls a stack a layered pane and a line around something a frame. Screen readers would say
+/// that for each. Qt's own interface of a scroll area has a fault: if a scroll bar vanishes after
+/// the children were counted, asking for it crashes the program.
 QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
     const bool meansNothing = className == QLatin1String("QStackedWidget") ||
                               className == QLatin1String("QFrame") ||
@@ -44,8 +44,8 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
                         : nullptr;
 }
 
-/// What isn't shown doesn't tell the layouts around it that it needs another size. Makes all inside
-/// the widget be asked anew.
+/// Hidden widgets don't tell the layouts around them that they need another size. This makes all
+/// layouts inside the widget ask again.
 void forgetSizes(const QWidget& widget) {
     for (auto* part : widget.findChildren<QWidget*>())
         part->updateGeometry();
@@ -55,7 +55,7 @@ void forgetSizes(const QWidget& widget) {
 
 } // namespace
 
-// Before its pages are made, which may be asked for their interfaces at once.
+// The factory comes first: once there are pages, Qt may ask for their interfaces.
 SectionFrame::SectionFrame(QWidget* parent) : QWidget(parent) {
     [[maybe_unused]] static const bool isKnown = [] {
         QAccessible::installFactory(makeInterface);
@@ -91,7 +91,7 @@ void SectionFrame::build() {
     showCurrent();
 }
 
-/// Of the largest page in so many columns, with what stands above it.
+/// The size of the largest page in that many columns, with the widget above it.
 QSize SectionFrame::sizeIn(int columns) const {
     QSize size;
     for (int index = 0; index < pages_->count(); ++index) {
@@ -161,7 +161,7 @@ void SectionFrame::addShortcuts() {
             [this, index] { choose(index); });
 }
 
-/// Goes to a section, and takes the keyboard along when it was in the one that is left.
+/// Goes to a section. The focus goes along if it was in the previous one.
 void SectionFrame::choose(int section) {
     const QWidget* focus = window()->focusWidget();
     const bool wasInside = !focus || (focus != bar_ && isAncestorOf(focus));
@@ -233,7 +233,7 @@ void SectionFrame::setNarrow(bool narrow) {
     update();
 }
 
-/// Makes what stands beside the sections' button as small as the window asks for.
+/// Makes the widgets beside the sections' button as small as the window needs.
 void SectionFrame::fitHeader() {
     QWidget* header = button_->parentWidget();
     const QMargins margins = isNarrow_ ? kNarrowHeader : kWideHeader;
@@ -268,7 +268,7 @@ void SectionFrame::resizeEvent(QResizeEvent* event) {
     fitWindow();
 }
 
-// The keyboard starts here, not at what stands above.
+// The focus starts here, not in the widgets above.
 void SectionFrame::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     fitWindow();

@@ -11,28 +11,29 @@ class QScrollArea;
 class QStackedWidget;
 class SectionBar;
 
-/// The window's sections: a list beside the stack of PageAreas that the form lays out in it. A
-/// page's window title, with a letter marked by “&”, is its section's name, its accessible
-/// description says what the section holds, and its property `icon` names the section's icon. A
-/// widget that the form has beside the stack stands above a page that names it in its property
-/// `above`. The pages' contents and what stands above them get their margins here.
+/// The window's sections: a list beside the form's stack of PageAreas. For each page:
+/// - its window title is the section's name, with a letter marked by “&”;
+/// - its accessible description says what the section holds;
+/// - its property `icon` names the section's icon;
+/// - its property `above` may name a widget beside the stack, which is shown above the page.
+/// This class sets the margins of the pages' contents and of the widgets above them.
 ///
-/// In a narrow or low window a button with a menu takes the list's place: the one that the property
-/// `menuButton` names. Then widgets whose property `wideOnly` is true vanish, and buttons beside it
-/// wear their property `shortText` instead of their text. In a low window the rows go without their
+/// In a narrow or low window a button with a menu replaces the list. The property `menuButton`
+/// names it. Widgets whose property `wideOnly` is true are then hidden, and the buttons beside it
+/// show their property `shortText` instead of their text. In a low window the rows show no
 /// explanations.
 ///
-/// From anywhere in the window Ctrl+Tab, Ctrl+Shift+Tab, Ctrl+Page Up and Page Down go to the
-/// neighbouring section, Alt+1 to Alt+9 to the one in that place, and Alt with its letter to the
-/// first control in it.
+/// These keys work in the whole window. Ctrl+Tab, Ctrl+Shift+Tab, Ctrl+Page Up and Ctrl+Page Down
+/// go to the neighbouring section. Alt+1 to Alt+9 go to the section with that number. Alt and a
+/// section's letter go to its first control.
 class SectionFrame final : public QWidget, public FormPart {
 public:
     explicit SectionFrame(QWidget* parent);
 
     void build() override;
 
-    /// From now on, `sizeHint` is room for the whole of every section as it is; in two columns if
-    /// that spares scrolling on this screen.
+    /// Makes `sizeHint` large enough for each section as it is now. It counts on two columns if
+    /// nothing has to scroll on this screen then.
     void measure();
 
     QSize sizeHint() const override;
@@ -58,7 +59,7 @@ private:
     void setLow(bool low);
 
     QStackedWidget* pages_ = nullptr;
-    QList<QWidget*> aboves_; ///< what stands above some of the pages
+    QList<QWidget*> aboves_; ///< the widgets above pages
     SectionBar* bar_ = nullptr;
     QPushButton* button_ = nullptr; ///< the form's; null when it has none
     QMenu* menu_ = nullptr;
