@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Sourced by run, test and .ci/run: installs the Debian 12 packages that are missing. Nothing is
-# asked of the package lists when all is there.
+# Sourced by run, test and .ci/run: installs the Debian 12 packages that are missing. If
+# none is missing, it doesn't use the network.
 
 build_packages=(
     g++ cmake ninja-build pkg-config
@@ -10,14 +10,14 @@ build_packages=(
     libgtest-dev libgmock-dev
     dbus libglib2.0-bin desktop-file-utils appstream locales
 )
-# A virtual display with a window manager, and what reads the screen and types on the keyboard.
+# A virtual display with a window manager, and programs that read the screen and type.
 tour_packages=(
     xvfb x11-utils x11-xkb-utils x11-xserver-utils picom openbox xdotool maim dex
     at-spi2-core python3-gi python3-pil gir1.2-atspi-2.0
 )
 check_packages=(git clang-format-14 clang-tidy-14 libbenchmark-dev)
 deb_packages=(git debhelper dpkg-dev)
-# A clean system to install it into, and what looks it over.
+# A clean system to install the package into, and its checkers.
 deb_check_packages=(lintian mmdebstrap desktop-file-utils appstream)
 
 # install_packages NAME... as root, or through sudo

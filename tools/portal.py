@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Stands for the desktop's settings portal: tells programs how the user wishes them to look.
+"""Replaces the desktop's settings portal: tells programs which look the user wants.
 
     python3 -m tools.portal LOOK
 """
@@ -14,7 +14,7 @@ INTERFACE = """<node><interface name="org.freedesktop.portal.Settings">
 <method name="ReadAll"><arg name="groups" type="as" direction="in"/>
 <arg name="told" type="a{sa{sv}}" direction="out"/></method></interface></node>"""
 
-# The colour scheme (1 dark, 2 light) and whether contrast is to be high.
+# The colour scheme (1 dark, 2 light) and whether high contrast is on.
 LOOKS = {"light": (2, 0), "dark": (1, 0), "contrast": (2, 1), "contrast-dark": (1, 1)}
 
 
