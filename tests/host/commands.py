@@ -11,6 +11,7 @@ import sys
 import time
 
 HOST, LOG = sys.argv[1], os.path.expanduser("~/agent.log")
+STORED = os.path.expandvars("$XDG_CONFIG_HOME/Preferences/org.korvex.Agent.plist")
 ENVIRONMENT = dict(os.environ, KORVEX_AGENT_LOG=LOG)
 ENVIRONMENT.pop("DISPLAY", None)
 
@@ -28,7 +29,7 @@ def expect(text, *arguments, status=0):
 
 
 def changes():
-    """What the agent was sent: the mask and the line scan time of each record."""
+    """The masks of the changes that the agent was sent."""
     lines = [json.loads(line) for line in open(LOG)] if os.path.exists(LOG) else []
     return [line["mask"] for line in lines if line["event"] == "SAPr"]
 
@@ -92,9 +93,8 @@ def what_goes_wrong_loses_nothing():
     together = [start("set", key, value.split()[0]) for key, value in values.items()]
     assert not any(each.wait(20) for each in together)
     assert run("get", *values).splitlines() == list(values.values())
-    config, data, state = (os.environ[f"XDG_{name}_HOME"] for name in ("CONFIG", "DATA", "STATE"))
-    files = ("all.plist", f"{data}/korvex/profiles/Tired.plist",
-             f"{config}/Preferences/org.korvex.Agent.plist")
+    data, state = (os.environ[f"XDG_{name}_HOME"] for name in ("DATA", "STATE"))
+    files = ("all.plist", f"{data}/korvex/profiles/Tired.plist", STORED)
     before = [open(file).read() for file in files]
     for command in (("export", "all.plist"), ("profile", "save", "Tired"), ("reset", "all")):
         cut = lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (400, 400))  # in bytes
@@ -117,7 +117,8 @@ def with_an_open_window():
         run("profile", "use", "Tired")
         run("set", "soundLevel", "78", "palette.borderGap", "9")
         wait_for(lambda: 0x18 in changes())
-        wait_for(lambda: run("get", "soundLevel") == "78\n")  # though it isn't stored yet
+        wait_for(lambda: run("get", "soundLevel") == "78\n")
+        assert "0x0000004e" not in open(STORED).read(), "it is stored by another than the window"
         window.terminate()
         assert window.wait(10) == 0
         assert before != run("get", "soundLevel") == "78\n"

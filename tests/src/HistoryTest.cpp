@@ -42,26 +42,29 @@ TEST(HistoryTest, ChangesOfOneNumberWithinTwoSecondsAreOneStep) {
     const PrefsRecord factory;
     EXPECT_EQ(std::memcmp(&record, &factory, sizeof record), 0);
     EXPECT_EQ(double{history.redo(record)->after.lineScanTime}, 11.5);
+    change(12, 104); // nor one that was redone
+    history.undo(record);
     EXPECT_EQ(double{record.lineScanTime}, 11.5);
 }
 
 TEST(HistoryTest, WhatTheAgentReportsIsNoStepAndStays) {
     PrefsRecord record;
     History history(record);
-    record.scanMode = 2;
-    history.note(record, 1);
+    for (const UInt32 mode : {1U, 2U}) { // each choice is a step
+        record.scanMode = mode;
+        history.note(record, mode);
+    }
     record.on = 0;
     history.follow(record);
-    history.note(record, 1.5);
+    history.note(record, 2.5);
     history.undo(record);
     EXPECT_EQ(record.on, 0);
-    EXPECT_EQ(record.scanMode, 0);
-    EXPECT_FALSE(history.canUndo());
+    EXPECT_EQ(record.scanMode, 1);
     history.redo(record);
     EXPECT_EQ(record.scanMode, 2);
     history.undo(record);
     record.useScanArea = 1;
-    history.note(record, 2); // a change after an undo: no way forward any more
+    history.note(record, 3); // a change after an undo: no way forward any more
     EXPECT_FALSE(history.canRedo());
 }
 
@@ -77,6 +80,9 @@ TEST(HistoryTest, TheUseOfAProfileIsAStepOfItsOwn) {
     EXPECT_EQ(history.undo(record)->profileBefore, "Morning");
     EXPECT_EQ(double{record.lineScanTime}, 11);
     EXPECT_EQ(history.redo(record)->profileAfter, "Tired");
+    record.lineScanTime = 22;
+    history.note(record, 9, "Tired");
+    EXPECT_EQ(history.undo(record)->profileBefore, "Tired");
 }
 
 TEST(SettingWordsTest, EverySettingReadsInPeoplesWords) {

@@ -5,21 +5,9 @@
 #include "src/settingwords.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
-#include <algorithm>
-#include <cstring>
-#include <filesystem>
-#include <gtest/gtest.h>
-
-namespace fs = std::filesystem;
-
 namespace {
 
 const std::string kFolder = std::string(std::getenv("XDG_DATA_HOME")) + "/korvex/profiles";
-
-const Setting& named(const char* key) {
-    return *std::ranges::find_if(
-        kSettings, [&](const Setting& row) { return std::strcmp(row.key, key) == 0; });
-}
 
 TEST(ProfilesTest, AProfileBringsBackAllButTheSwitchAndTheLogin) {
     PrefsRecord tired;
@@ -115,6 +103,7 @@ const struct {
     {"scanner.lineScanTime", "12.5", "12.5 sec"},
     {"scanner.lineScanTime", "12.5 sec", "12.5 sec"},
     {"scanner.lineScanTime", "12,5", "12.5 sec"},
+    {"scanner.lineScanTime", "60", "60.0 sec"},
     {"scanner.lineScanTime", "nan", "outside 1 to 60 seconds"},
     {"scanner.menuScanSpeedScaleFactor", "65%", "65%"},
     {"scanner.menuScanSpeedScaleFactor", "65 points", "not a number in percent"},
@@ -129,8 +118,8 @@ const struct {
 TEST(ProfilesTest, ValuesAreTakenInPeoplesWords) {
     for (const auto& [key, words, result] : kWords) {
         PrefsRecord record;
-        const std::string fault = setFromWords(named(key), words, record);
-        EXPECT_EQ(fault.empty() ? settingText(named(key), record) : fault, result) << words;
+        const std::string fault = setFromWords(*settingOfKey(key), words, record);
+        EXPECT_EQ(fault.empty() ? settingText(*settingOfKey(key), record) : fault, result) << words;
         EXPECT_TRUE(fault.empty() || differences(record, PrefsRecord()).none()) << words;
     }
 }

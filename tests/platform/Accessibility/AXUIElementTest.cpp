@@ -35,6 +35,7 @@ TEST_F(AXUIElementTest, FollowsTheServiceAsItChangesGoesAndComes) {
 TEST_F(AXUIElementTest, AServiceThatHangsIsOffUntilItWakesUp) {
     AccessibilityService service;
     service.set(true);
+    QTest::qWait(500); // it has heard that
     service.hang();
     for (const int limit : {1000, 50}) { // milliseconds; it doesn't ask again
         QElapsedTimer clock;

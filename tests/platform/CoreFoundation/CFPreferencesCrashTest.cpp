@@ -107,7 +107,10 @@ void saveAtTheSameTime() {
         bool saved = true;
         for (int i = 0; i < kSaves; ++i) {
             CFPreferencesSetAppValue(text(writer * kSaves + i).get(), CFSTR("x"), kDomain);
-            saved = CFPreferencesAppSynchronize(kDomain) && saved;
+            bool isSaved = false; // each try waits up to two seconds for the lock
+            for (int tries = hasLocks ? 30 : 1; tries > 0 && !isSaved; --tries)
+                isSaved = CFPreferencesAppSynchronize(kDomain);
+            saved = isSaved && saved;
         }
         std::_Exit(saved ? 0 : 1);
     }

@@ -250,15 +250,21 @@ TEST_F(SettingsTest, SectionsAreReachedByKeyFromAnywhere) {
     }
 }
 
-TEST_F(SettingsTest, ANarrowWindowHasAButtonInsteadOfTheList) {
+TEST_F(SettingsTest, ANarrowWindowHasAButtonInsteadOfTheListAndAWideOneTwoColumns) {
     open();
     EXPECT_FALSE(window()->hasHeightForWidth()); // or it would scroll as a whole
     auto* bar = window()->findChild<QWidget*>(QStringLiteral("sectionsBar"));
     auto* button = window()->findChild<QWidget*>(QStringLiteral("sectionsBtn"));
-    for (const int width : {400, 1200}) {
-        window()->resize(width, 900);
-        EXPECT_EQ(bar->isVisible(), width == 1200);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+    auto* last = find("canScanMenuBarCheck");
+    for (const int width : {400, 1200, 2000}) {
+        window()->resize(width, 400);
+        EXPECT_EQ(bar->isVisible(), width > 400);
         EXPECT_EQ(button->isVisible(), width == 400);
+        EXPECT_EQ(last->mapTo(window(), QPoint()).x() > 1000, width == 2000) << "a second column";
+        find("lineScanTimeSlider")->setFocus();
+        last->setFocus();
+        EXPECT_FALSE(last->visibleRegion().isEmpty()) << width;
     }
 }
 
