@@ -135,11 +135,11 @@ TEST_F(LaunchServicesTest, WhatDoesntComeUpOrKeepsEndingIsTold) {
 
     for (int endings = 0; endings < 3; ++endings) {
         waitForPeer(true);
-        EXPECT_EQ(trouble(), -1) << endings;
         signalProcess(peer(), SIGKILL);
         waitForPeer(false);
         ASSERT_TRUE(QTest::qWaitFor([] { return waitpid(-1, nullptr, WNOHANG) == -1; }, 10'000));
         EXPECT_FALSE(isLaunching(bundle_.string()));
+        EXPECT_TRUE(endings == 2 || trouble() == -1) << "the one on request doesn't count";
         EXPECT_TRUE(endings == 2 || (open() == noErr && isLaunching(bundle_.string())));
     }
     told = 0;
