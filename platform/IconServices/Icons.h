@@ -44,8 +44,8 @@ OSErr UnregisterIconRef(OSType creator, OSType iconType);
 /// reference. noSuchIconErr when there is none.
 ///
 /// An application's icon is its bundle's CFBundleIconFile, or its desktop entry's Icon: an absolute
-/// path, or the name of an icon in the hicolor theme or in `pixmaps`. It is read again only after
-/// its files changed.
+/// path, or the name of an icon of the user's icon theme, of the hicolor theme or in `pixmaps`. It
+/// is read again only after its files changed.
 OSErr GetIconRef(SInt16 volume, OSType creator, OSType iconType, CFRef<Icon>* icon);
 
 using IconAlignmentType = SInt16;

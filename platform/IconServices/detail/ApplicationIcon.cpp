@@ -7,6 +7,8 @@
 #include "platform/CoreServices/detail/FileCache.h"
 #include "platform/IconServices/detail/IconFamily.h"
 
+#include <QIcon>
+
 #include <algorithm>
 #include <filesystem>
 #include <map>
@@ -17,15 +19,13 @@ namespace {
 /// The size that a drawing without pixels gets, in pixels. Enough for 32 points at any density.
 constexpr int kDrawingSide = 256;
 
-/// Folders of the hicolor theme with applications' icons, and the suffix there.
-constexpr struct {
-    const char *folder, *suffix;
-} kThemeFolders[] = {
-    {"16x16", ".png"},   {"22x22", ".png"},    {"24x24", ".png"},   {"32x32", ".png"},
-    {"36x36", ".png"},   {"48x48", ".png"},    {"64x64", ".png"},   {"72x72", ".png"},
-    {"96x96", ".png"},   {"128x128", ".png"},  {"192x192", ".png"}, {"256x256", ".png"},
-    {"512x512", ".png"}, {"scalable", ".svg"},
-};
+/// The folders of a theme that have applications' icons: of most themes, and of those that put the
+/// size last.
+constexpr const char* kThemeFolders[] = {
+    "16x16/apps",   "22x22/apps",   "24x24/apps",   "32x32/apps",    "36x36/apps",
+    "48x48/apps",   "64x64/apps",   "72x72/apps",   "96x96/apps",    "128x128/apps",
+    "192x192/apps", "256x256/apps", "512x512/apps", "scalable/apps", "apps/16",
+    "apps/22",      "apps/32",      "apps/48",      "apps/64",       "apps/scalable"};
 
 /// A file of an icon, and its state when it was read.
 struct IconFile {
@@ -53,21 +53,24 @@ private:
     std::vector<IconFile> files_;
 };
 
-/// All sizes come from the first data folder that has the icon in its hicolor theme. If none has,
-/// from the first with it in `pixmaps`.
+/// The user's icon theme, else the one that all programs install their icons in, else the pixmaps:
+/// the first data folder that has the icon there gives all sizes of it. Qt's own lookup of themes
+/// would wait for a pipe of that name, and doesn't notice that a file changed.
 IconFiles filesOfNamedIcon(const std::string& name) {
     IconFiles files;
     if (name.empty() || name.find('/') != name.npos)
         return files;
-    for (const std::string& data : xdgDataFolders()) {
-        const std::string theme = data + "/icons/hicolor";
-        if (!stateOfFile(theme).exists)
-            continue;
-        for (const auto& [folder, suffix] : kThemeFolders)
-            files.add(theme + '/' + folder + "/apps/" + name + suffix);
-        if (!files.files().empty())
-            return files;
-    }
+    for (const std::string& theme : {QIcon::themeName().toStdString(), std::string("hicolor")})
+        for (const std::string& data : xdgDataFolders()) {
+            const std::string path = data + "/icons/" + theme + '/';
+            if (theme.empty() || !stateOfFile(path).exists)
+                continue;
+            for (const char* folder : kThemeFolders)
+                for (const char* suffix : {".png", ".svg"})
+                    files.add(path + folder + '/' + name + suffix);
+            if (!files.files().empty())
+                return files;
+        }
     for (const std::string& data : xdgDataFolders())
         for (const char* suffix : {".png", ".svg", ".xpm"})
             if (files.files().empty())

@@ -5,6 +5,8 @@
 #include "tests/support/TestApplications.h"
 #include "tests/support/TestIcons.h"
 
+#include <QIcon>
+
 namespace {
 
 using ApplicationIconTest = ApplicationsTest;
@@ -28,7 +30,9 @@ QColor colourAt(int side) {
 
 TEST_F(ApplicationIconTest, EntriesNameTheirIcons) {
     writeFile(folder_ / "my icon.png", pngBytes(48, 48, Qt::red));
-    writeFile(home_ / "icons/hicolor/scalable/apps/drawn.svg",
+    QIcon::setThemeName("Own");
+    writeFile(home_ / "icons/hicolor/32x32/apps/drawn.png", pngBytes(32, 32, Qt::yellow));
+    writeFile(far_ / "icons/Own/apps/scalable/drawn.svg",
               "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'>"
               "<path d='M0 0h8v8H0' fill='#f0f'/></svg>");
     writeFile(far_ / "pixmaps/damaged.png", "\x89PNG");
