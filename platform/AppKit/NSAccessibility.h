@@ -53,28 +53,27 @@ protected:
     ~NSAccessibilityStaticText() = default;
 };
 
-enum NSAccessibilityNotification {
+enum ElementNotification {
     NSAccessibilityFocusedUIElementChangedNotification,
     NSAccessibilitySelectedChildrenChangedNotification,
 };
 
 /// Tells a running screen reader that the element at `index` was focused, selected or deselected.
 /// Does nothing for an index outside the list.
-void NSAccessibilityPostNotification(NSView* view, int index,
-                                     NSAccessibilityNotification notification);
+void NSAccessibilityPostNotification(NSView* view, int index, ElementNotification notification);
 
-enum NSAccessibilityViewNotification {
+enum ViewNotification {
     NSAccessibilityTitleChangedNotification,
     NSAccessibilityValueChangedNotification,
 };
 
 /// Tells a running screen reader that the view's name or value has changed.
-void NSAccessibilityPostNotification(NSView* view, NSAccessibilityViewNotification notification);
+void NSAccessibilityPostNotification(NSView* view, ViewNotification notification);
 
-enum NSAccessibilityAnnouncement { NSAccessibilityAnnouncementRequestedNotification };
+enum AnnouncementNotification { NSAccessibilityAnnouncementRequestedNotification };
 
 /// Makes a running screen reader say the text (UTF-8) on behalf of the view.
-void NSAccessibilityPostNotification(NSView* view, NSAccessibilityAnnouncement notification,
+void NSAccessibilityPostNotification(NSView* view, AnnouncementNotification notification,
                                      const std::string& text);
 
 /// Tells a running screen reader that the view's value or status has changed.

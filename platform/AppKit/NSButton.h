@@ -5,7 +5,7 @@
 
 class QTimer;
 
-enum NSCellState { NSOffState = 0, NSOnState = 1 };
+enum { NSOffState = 0, NSOnState = 1 };
 
 /// A push button or check box. The dynamic property keyEquivalent names keys, such as "F1", that
 /// click it from anywhere in its window.

@@ -52,7 +52,6 @@ void announceDescription(const QWidget&) {}
 
 #endif
 
-void NSAccessibilityPostNotification(NSView*, NSAccessibilityAnnouncement,
-                                     const std::string& text) {
+void NSAccessibilityPostNotification(NSView*, AnnouncementNotification, const std::string& text) {
     announce(QString::fromStdString(text));
 }

@@ -84,15 +84,14 @@ void notifyFocusInside(ViewWidget& widget) {
         post(&widget, list->accessibilityFocusedIndex(), QAccessible::Focus);
 }
 
-void NSAccessibilityPostNotification(NSView* view, int index,
-                                     NSAccessibilityNotification notification) {
+void NSAccessibilityPostNotification(NSView* view, int index, ElementNotification notification) {
     if (notification == NSAccessibilitySelectedChildrenChangedNotification)
         post(view->widget(), index, QAccessible::Selection);
     else if (view->isFirstResponder())
         post(view->widget(), index, QAccessible::Focus);
 }
 
-void NSAccessibilityPostNotification(NSView* view, NSAccessibilityViewNotification notification) {
+void NSAccessibilityPostNotification(NSView* view, ViewNotification notification) {
     if (!QAccessible::isActive())
         return;
     const bool isTitle = notification == NSAccessibilityTitleChangedNotification;
