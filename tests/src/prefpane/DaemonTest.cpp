@@ -61,7 +61,7 @@ TEST_F(DaemonTest, AnAgentThatHangsDelaysNothingAndMissesNothing) {
     daemonSendChanges(0x1FFFFFFF, false); // waits until the agent has taken it, as it is
     const QJsonObject last = agentLog_.next();
     EXPECT_EQ(last["mask"].toInteger(), 0x1FFFFFFF);
-    const auto image = QByteArray::fromRawData(reinterpret_cast<const char*>(&prefs), 340);
+    const auto image = QByteArray::fromRawData(reinterpret_cast<const char*>(&prefs), sizeof prefs);
     EXPECT_EQ(last["record"].toString().toLatin1(), image.toHex());
 }
 

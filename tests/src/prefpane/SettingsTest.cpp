@@ -167,10 +167,10 @@ TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityActi
         ".*PutBack|.*ResetBtn|"
         "(add|swapWith|setAction|remove)(Button)?Btn|.*KeyBtn|.*Key2Btn|builder.*)$");
     prefs.scanArea = {0, 0, 640, 480};
-    prefs.minTriggerDuration = prefs.afterClickDelay = 4; // none comes to a limit
-    prefs.preScanDelay = prefs.inverseReleaseTime = 6;
-    prefs.autoRepeatTime = 10;
-    prefs.lineTransparency = prefs.lineGhostTransparency = 50;
+    for (const Setting& each : kSettings) // none comes to a limit
+        if (each.isNumber() && each.size == sizeof(double))
+            *static_cast<double*>(each.in(prefs)) =
+                each.limits.minimum / 4 + each.limits.maximum * 3 / 4;
     prefs.borderGap = prefs.buttonGap = 30;
     openWithAgent();
     int tried = 0;
