@@ -53,12 +53,12 @@ OSStatus StartedApplications::start(const CFURL* url) {
 }
 
 OSStatus StartedApplications::startUnlessRunning(Application& application) {
-    application.startsNext = isQuitting(application) || isGoing(application);
-    if (application.startsNext) {
+    const bool isAlive = application.process && !application.process->hasEnded();
+    // One that isn't up starts or ends: which, the bus may not have told yet.
+    application.startsNext = isQuitting(application) || (isAlive && !isUp(application));
+    if (application.startsNext && !isAwaited(application))
         await(application);
-        return noErr;
-    }
-    if (application.process && !application.process->hasEnded())
+    if (application.startsNext || isAlive)
         return noErr;
     if (application.process)
         noteEnd(application);
@@ -128,8 +128,10 @@ void StartedApplications::startIfNext(Application& application) {
 
 void StartedApplications::noteProcesses() {
     for (auto& [bundle, application] : applications_)
-        if (isUp(application))
+        if (isUp(application)) {
             application.awaitedSince.reset();
+            application.startsNext = false;
+        }
     tell();
 }
 
@@ -152,11 +154,6 @@ bool StartedApplications::isQuitting(const Application& application) const {
         const auto& [pid, quitting] = item;
         return isOf(application, pid, quitting.signature) && !quitting.process->hasEnded();
     });
-}
-
-bool StartedApplications::isGoing(const Application& application) const {
-    return application.process && !application.process->hasEnded() && !isUp(application) &&
-           (application.startsNext || !application.awaitedSince);
 }
 
 void StartedApplications::forgive(const std::string& bundle) {

@@ -18,8 +18,8 @@ public:
     /// Lives as long as the program.
     static StartedApplications& shared();
 
-    /// Starts the application unless it runs or is starting. If it was asked to quit, or has left
-    /// the bus, it is started when its process has ended. `url` names its bundle.
+    /// Starts the application unless it runs or is starting. If it was asked to quit, or isn't up
+    /// and ends, it is started when its process has ended. `url` names its bundle.
     OSStatus start(const CFURL* url);
 
     /// Tells that an event asks this process to quit. An application that waited for its end isn't
@@ -69,9 +69,6 @@ private:
     /// `ended` doesn't count: the bus may not know yet that this process is gone.
     bool isUp(const Application& application, pid_t ended = 0) const;
     bool isQuitting(const Application& application) const;
-    /// Whether `process` was up, has left the bus, and hasn't ended yet. Leaving the bus comes a
-    /// moment before the end.
-    bool isGoing(const Application& application) const;
     bool isAwaited(const Application& application) const;
     void tell();
 
