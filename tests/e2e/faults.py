@@ -27,8 +27,10 @@ def expect_alert(tour: Tour, *words: str) -> None:
     def told() -> bool:
         return any(all(word in text for word in words) for text in tour.screen.names("alert"))
 
-    until(told, f"an alert says {words}")
-    tour.picture("alert")
+    try:
+        until(told, f"an alert says {words}")
+    finally:
+        tour.picture("alert")
 
 
 def open_window(tour: Tour, *arguments: str | Path) -> None:
@@ -37,7 +39,10 @@ def open_window(tour: Tour, *arguments: str | Path) -> None:
 
 
 def click_scan_menu_bar(tour: Tour) -> None:
-    tour.screen.click("Scan the menu bar too", "check box")
+    box = tour.screen.find("Scan the menu bar too", "check box")
+    before = box.checked
+    tour.screen.click(box.name, box.role)
+    until(lambda: box.checked != before, "the click changes the setting")
 
 
 def damaged_file(tour: Tour) -> None:
