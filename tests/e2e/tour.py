@@ -16,7 +16,7 @@ from contextlib import contextmanager, suppress
 from pathlib import Path
 from typing import Iterator
 
-from tests.e2e import hotkeys, startup
+from tests.e2e import hotkeys, profiles, startup
 from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import Desktop, exit_on_signals, given, process_of
 from tests.e2e.screen import Screen, press
@@ -131,6 +131,33 @@ def change_three_settings(tour: Tour) -> str:
     return f'{time}; {menu_bar}; {tour.log.expect_change(TRIGGERS, "scanMode", 1)}'
 
 
+def put_a_section_back(tour: Tour) -> str:
+    """Put a setting back in its row, then its whole section; undo, redo and undo it"""
+    tour.choose_tab("Scanning")
+    tour.picture("not-at-their-defaults")
+    tour.screen.click("Put “Line scan time” back to 10.0 sec", "push button")
+    row = tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10)
+    press("key", "ctrl+z")
+    tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10.5)
+    menu_bar = tour.screen.find("Scan the menu bar too", "check box")
+    tour.screen.click("Put 2 settings back", "push button")
+    mask = tour.log.expect("SAPr")["mask"]
+    check(mask == SCAN_SPEED | NO_GROUP, f"mask {mask} of the section")
+    until(lambda: menu_bar.checked, "the menu bar is scanned again")
+    check(tour.screen.find("Line scan time", "slider").value == 10, "the line scan time is changed")
+    tour.picture("section-put-back")
+    press("key", "ctrl+z")
+    undone = tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10.5)
+    until(lambda: not menu_bar.checked, "the menu bar is left out again")
+    press("key", "ctrl+shift+z")
+    check(tour.log.expect("SAPr")["mask"] == mask, "redo sends other groups")
+    until(lambda: menu_bar.checked, "the menu bar is scanned once more")
+    press("key", "ctrl+z")
+    until(lambda: not menu_bar.checked, "the menu bar is left out once more")
+    tour.log.expect("SAPr")
+    return f"{row}; the section, mask {mask}; {undone}"
+
+
 def close_the_pane(tour: Tour) -> str:
     """Close the pane"""
     tour.close()
@@ -184,12 +211,16 @@ STEPS = (
     startup.take_the_first_steps,
     look_at_the_tabs,
     change_three_settings,
+    put_a_section_back,
+    profiles.use_two_in_turn,
     *hotkeys.STEPS,
     startup.launch_at_login,
+    profiles.export_them,
     close_the_pane,
     open_it_again,
     start_it_twice,
     close_it_unchanged,
+    profiles.import_them,
     startup.log_in,
 )
 
