@@ -14,32 +14,32 @@
 /// What a profile holds: every setting but the on/off switch and those of the login.
 SettingSet profileSettings();
 
-/// In the order of the alphabet.
+/// In alphabetical order.
 std::vector<std::string> profileNames();
 
-/// Why those that there may be can't be read; empty when they can.
+/// Why profiles can't be read. Empty when they can.
 std::string profilesFault();
 
-/// Why there can be no profile of that name; empty when there can. A name has 1 to 60 bytes,
-/// doesn't begin with a point, and holds neither a slash nor a control character.
+/// Why a profile can't have that name. Empty when it can. A name has 1 to 60 bytes. It doesn't
+/// begin with a point, and has no slash and no control character.
 std::string profileNameFault(const std::string& name);
 
 /// Saves those settings of the record, over a profile of the same name as well.
 std::string saveProfile(const std::string& name, const PrefsRecord& record,
                         const SettingSet& settings = profileSettings());
 
-/// The name, or with a number after it, that no profile has yet.
+/// The name if it is free. Otherwise the name with a number after it.
 std::string freeProfileName(const std::string& name);
 
-/// What it offers over `base`; its error is set when there is none of that name.
+/// What the profile would change in `base`. Its error is set when there is none of that name.
 SettingsOffer readProfile(const std::string& name, const PrefsRecord& base);
 
-/// Tells whether a profile's file is still the one that was read: when it was written, and its
-/// size.
+/// When a profile's file was written, and its size: they differ when it has changed.
 using ProfileStamp = std::pair<std::filesystem::file_time_type, std::uintmax_t>;
 ProfileStamp profileStamp(const std::string& name);
 
-/// Fails when the new name is taken, and when the one in use would lose its place as that.
+/// Fails when the new name is taken. Also fails when the profile is in use and that can't be
+/// stored.
 std::string renameProfile(const std::string& name, const std::string& newName);
 std::string deleteProfile(const std::string& name);
 
