@@ -19,16 +19,14 @@ namespace {
 /// What is different, for programs.
 void printChangesJson(const PrefsRecord& before, const PrefsRecord& after) {
     const SettingSet changed = differences(before, after);
-    std::string items;
+    JsonList list;
     for (std::size_t i = 0; i < kSettings.size(); ++i)
         if (changed[i])
-            items +=
-                (items.empty() ? "" : ",\n ") + JsonObject()
-                                                    .add("key", kSettings[i].key)
-                                                    .add("from", settingText(kSettings[i], before))
-                                                    .add("to", settingText(kSettings[i], after))
-                                                    .text();
-    std::printf("[%s]\n", items.c_str());
+            list.add(JsonObject()
+                         .add("key", kSettings[i].key)
+                         .add("from", settingText(kSettings[i], before))
+                         .add("to", settingText(kSettings[i], after)));
+    std::puts(list.text().c_str());
 }
 
 /// Says what is different, or with `none` that nothing is.
@@ -57,21 +55,20 @@ void printOffer(const CommandLine& line, const SettingsOffer& offer, const Prefs
     printRefused(offer);
 }
 
-int take(const SettingsOffer& offer) {
-    const std::string fault = changeSettings(offer.settings, offer.record);
-    return fault.empty() ? int{kCommandDone} : commandFailed(fault);
-}
-
 int done(const std::string& fault) {
     return fault.empty() ? int{kCommandDone} : commandFailed(fault);
 }
 
-/// When all is done but, with a fault, that which profile is in use could be kept.
+int take(const SettingsOffer& offer) {
+    return done(changeSettings(offer.settings, offer.record));
+}
+
+/// Everything is done. With a fault, the name of the profile in use couldn't be stored.
 int inUse(const std::string& fault) {
-    return fault.empty()
-               ? int{kCommandDone}
-               : commandFailed(filled(
-                     localized("Commands", "which profile is in use can't be kept: %1"), {fault}));
+    return done(
+        fault.empty()
+            ? ""
+            : filled(localized("Commands", "which profile is in use can't be kept: %1"), {fault}));
 }
 
 /// "Tired (in use, changed)"
@@ -86,26 +83,24 @@ std::string listedProfile(const std::string& name, bool isInUse, bool isChanged)
 int listProfiles(const CommandLine& line) {
     const std::string current = currentProfile();
     const PrefsRecord now = currentSettings();
-    std::string items;
+    JsonList list;
     for (const std::string& name : profileNames()) {
         const bool isInUse = name == current;
         const bool isChanged = isInUse && differences(now, readProfile(name, now).record).any();
         if (line.json)
-            items += (items.empty() ? "" : ",\n ") + JsonObject()
-                                                         .add("name", name)
-                                                         .add("inUse", isInUse ? "yes" : "no")
-                                                         .add("changed", isChanged ? "yes" : "no")
-                                                         .text();
+            list.add(JsonObject()
+                         .add("name", name)
+                         .add("inUse", isInUse ? "yes" : "no")
+                         .add("changed", isChanged ? "yes" : "no"));
         else
             std::puts(listedProfile(name, isInUse, isChanged).c_str());
     }
     if (line.json)
-        std::printf("[%s]\n", items.c_str());
+        std::puts(list.text().c_str());
     return done(profilesFault());
 }
 
-/// The open window has another look at the profiles when the change comes, so that it needs to
-/// know by then.
+/// The open window reads the profiles again when the change comes. The name must be stored by then.
 int useProfile(const CommandLine& line) {
     const std::string& name = line.operands[1];
     const PrefsRecord now = currentSettings();
@@ -121,8 +116,8 @@ int useProfile(const CommandLine& line) {
     return result == kCommandDone ? inUse(fault) : result;
 }
 
-/// The settings as they would be with that profile; none, and it is said why, when it can't be
-/// read.
+/// The settings as they would be with that profile. None if it can't be read; the reason is
+/// printed.
 std::optional<PrefsRecord> settingsWith(const std::string& profile, const PrefsRecord& now) {
     const SettingsOffer offer = readProfile(profile, now);
     printRefused(offer);

@@ -18,9 +18,8 @@ std::string storedText(const Setting& setting, const PrefsRecord& record) {
 
 /// "1 to 60 seconds", the choices, or an empty text.
 std::string choiceText(const Setting& setting) {
-    if (const SettingLimits& limits = setting.limits; limits.maximum > 0) {
-        return rangeText(limits);
-    }
+    if (setting.limits.maximum > 0)
+        return rangeText(setting.limits);
     std::vector<std::string> choices;
     for (const char* choice : setting.choices)
         choices.push_back(localized("Choices", choice));
@@ -37,14 +36,14 @@ JsonObject describe(const Setting& setting, const PrefsRecord& record) {
 }
 
 void printListJson(const PrefsRecord& now, const PrefsRecord& defaults) {
-    std::string items;
+    JsonList list;
     for (const Setting& setting : kSettings) {
         JsonObject object = describe(setting, now);
         object.add("name", setting.name).add("default", settingText(setting, defaults));
         object.add("range", choiceText(setting)).add("unit", setting.limits.unit);
-        items += (items.empty() ? "" : ",\n ") + object.text();
+        list.add(object);
     }
-    std::printf("[%s]\n", items.c_str());
+    std::puts(list.text().c_str());
 }
 
 } // namespace
@@ -69,17 +68,18 @@ int runList(const CommandLine& line) {
 
 int runGet(const CommandLine& line) {
     const PrefsRecord now = currentSettings();
-    std::string items;
+    JsonList list;
+    std::string texts;
     for (const std::string& key : line.operands) {
         const Setting* setting = settingOfKey(key);
         if (!setting)
             return commandFailed(
                 filled(localized("Commands", "there is no setting \"%1\""), {key}));
         if (line.json)
-            items += (items.empty() ? "" : ",\n ") + describe(*setting, now).text();
+            list.add(describe(*setting, now));
         else
-            items += settingText(*setting, now) + "\n";
+            texts += settingText(*setting, now) + "\n";
     }
-    std::fputs(line.json ? ("[" + items + "]\n").c_str() : items.c_str(), stdout);
+    std::fputs(line.json ? (list.text() + "\n").c_str() : texts.c_str(), stdout);
     return kCommandDone;
 }

@@ -17,3 +17,14 @@ private:
 
     std::string members_;
 };
+
+/// A list of objects as JSON text, one in each line.
+class JsonList {
+public:
+    void add(const JsonObject& object) { items_ += (items_.empty() ? "" : ",\n ") + object.text(); }
+
+    std::string text() const { return "[" + items_ + "]"; }
+
+private:
+    std::string items_;
+};
