@@ -40,11 +40,11 @@ private:
 
 } // namespace
 
-WithoutPlugins::WithoutPlugins() : paths_(QCoreApplication::libraryPaths()) {
+FormReader::WithoutPlugins::WithoutPlugins() : paths_(QCoreApplication::libraryPaths()) {
     QCoreApplication::setLibraryPaths({});
 }
 
-WithoutPlugins::~WithoutPlugins() {
+FormReader::WithoutPlugins::~WithoutPlugins() {
     QCoreApplication::setLibraryPaths(paths_);
 }
 

@@ -4,24 +4,11 @@
 #include <QStringList>
 #include <QUiLoader>
 
-/// While it lives, no plug-ins are found.
-class WithoutPlugins {
-public:
-    WithoutPlugins();
-    ~WithoutPlugins();
-
-    WithoutPlugins(const WithoutPlugins&) = delete;
-    WithoutPlugins& operator=(const WithoutPlugins&) = delete;
-
-private:
-    QStringList paths_;
-};
-
-/// Reads a Designer form.
+/// Reads a Designer form. Designer's plug-ins aren't looked for: Qt would load all of them, and
+/// with them whole libraries.
 class FormReader : public QUiLoader {
 public:
-    /// Qt would load all of Designer's plug-ins, and with them whole libraries.
-    explicit FormReader(const WithoutPlugins& = WithoutPlugins()) {}
+    FormReader() : FormReader(WithoutPlugins()) {}
 
     /// The form's outermost widget, owned by the caller. Null when the file can't be read or isn't
     /// a form. Faults are added to errors().
@@ -30,5 +17,21 @@ public:
     const QStringList& errors() const { return errors_; }
 
 private:
+    /// While it exists, Qt finds no plug-ins.
+    class WithoutPlugins {
+    public:
+        WithoutPlugins();
+        ~WithoutPlugins();
+
+        WithoutPlugins(const WithoutPlugins&) = delete;
+        WithoutPlugins& operator=(const WithoutPlugins&) = delete;
+
+    private:
+        QStringList paths_;
+    };
+
+    /// QUiLoader looks for plug-ins as it is constructed, which is while the argument exists.
+    explicit FormReader(const WithoutPlugins&) {}
+
     QStringList errors_;
 };
