@@ -22,7 +22,7 @@ constexpr char kSaving[] = "saving";
 constexpr char kLaunching[] = "launching";
 constexpr char kCrash[] = "crash";
 
-std::string reasonOf(const PreferencesOutcome& outcome) {
+std::string reasonOf(const FileOutcome& outcome) {
     switch (outcome.trouble) {
     case FileTrouble::None:
         return {};
@@ -48,7 +48,7 @@ std::string reasonOf(const PreferencesOutcome& outcome) {
 
 /// Empty when the domain's file can be read and written.
 std::string textOfUnusableFile(const CFString* domain) {
-    const PreferencesOutcome load = preferencesLoadOutcome(domain);
+    const FileOutcome load = preferencesLoadOutcome(domain);
     if (load.trouble == FileTrouble::Damaged)
         return filled(
             load.isKeptAside
@@ -62,7 +62,7 @@ std::string textOfUnusableFile(const CFString* domain) {
             localized("Troubles",
                       "Your settings can’t be read: %1. The usual settings are shown instead."),
             {reasonOf(load)});
-    const PreferencesOutcome outlook = preferencesSaveOutlook(domain);
+    const FileOutcome outlook = preferencesSaveOutlook(domain);
     if (outlook.trouble != FileTrouble::None)
         return filled(localized("Troubles", "What you change here can’t be saved: %1."),
                       {reasonOf(outlook)});
@@ -92,7 +92,7 @@ void saveCopy(const Buttons& buttons) {
     if (path.isEmpty()) {
         text = filled(localized("Troubles", "Your settings aren’t saved: %1."), {whyNotSaved()});
     } else {
-        const PreferencesOutcome outcome = preferencesSaveCopy(domain, path.toStdString());
+        const FileOutcome outcome = preferencesSaveCopy(domain, path.toStdString());
         text = outcome.trouble == FileTrouble::None
                    ? filled(localized("Troubles", "A copy of your settings is now in %1."),
                             {outcome.path})
@@ -120,7 +120,7 @@ void tellOfLaunch() {
 }
 
 void tellOfStateFile() {
-    const PreferencesOutcome outcome = stateFileOutcome();
+    const FileOutcome outcome = stateFileOutcome();
     if (outcome.trouble == FileTrouble::None)
         return withdrawMessage(kCrash);
     tellUser(

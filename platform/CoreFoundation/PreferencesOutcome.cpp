@@ -3,56 +3,28 @@
 
 #include "platform/CoreFoundation/detail/PreferencesFiles.h"
 
-#include <cerrno>
 #include <functional>
 
 namespace {
 
-FileTrouble troubleOf(int error) {
-    switch (error) {
-    case EACCES:
-    case EPERM:
-        return FileTrouble::NotAllowed;
-    case EROFS:
-        return FileTrouble::ReadOnly;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-        return FileTrouble::Full;
-    case EWOULDBLOCK:
-        return FileTrouble::InUse;
-    case EISDIR:
-    case ENOTDIR:
-    case EEXIST:
-    case ELOOP:
-        return FileTrouble::InTheWay;
-    default:
-        return FileTrouble::Failed;
-    }
-}
-
 /// The operation's result for this user's file. InTheWay when the name is no file name.
 template <class Operation>
-PreferencesOutcome askOwnFile(const CFString* domain, Operation operation) {
+FileOutcome askOwnFile(const CFString* domain, Operation operation) {
     const PreferencesFiles* files = preferencesFiles(domain);
-    return files ? operation(files->own) : PreferencesOutcome{FileTrouble::InTheWay, {}};
+    return files ? operation(files->own) : FileOutcome{FileTrouble::InTheWay, {}};
 }
 
 } // namespace
 
-PreferencesOutcome outcomeOf(int error, const std::string& path) {
-    return {error ? troubleOf(error) : FileTrouble::None, path, false, error};
-}
-
-PreferencesOutcome preferencesLoadOutcome(const CFString* domain) {
+FileOutcome preferencesLoadOutcome(const CFString* domain) {
     return askOwnFile(domain, std::mem_fn(&PreferencesDomain::loadOutcome));
 }
 
-PreferencesOutcome preferencesSaveOutcome(const CFString* domain) {
+FileOutcome preferencesSaveOutcome(const CFString* domain) {
     return askOwnFile(domain, std::mem_fn(&PreferencesDomain::saveOutcome));
 }
 
-PreferencesOutcome preferencesSaveOutlook(const CFString* domain) {
+FileOutcome preferencesSaveOutlook(const CFString* domain) {
     return askOwnFile(domain, std::mem_fn(&PreferencesDomain::saveOutlook));
 }
 
@@ -61,7 +33,7 @@ bool preferencesAreUnsaved(const CFString* domain) {
     return files && files->own.isUnsaved();
 }
 
-PreferencesOutcome preferencesSaveCopy(const CFString* domain, const std::string& path) {
+FileOutcome preferencesSaveCopy(const CFString* domain, const std::string& path) {
     return askOwnFile(domain, [&](const auto& own) { return own.saveCopy(path); });
 }
 

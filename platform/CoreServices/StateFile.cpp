@@ -63,19 +63,19 @@ public:
     void write(std::string path, std::string content);
     void release(std::string path);
     void removeAll();
-    PreferencesOutcome outcome();
+    FileOutcome outcome();
 
     const QTimer& changed() const { return changed_; }
 
 private:
     void run();
-    void note(const PreferencesOutcome& outcome);
+    void note(const FileOutcome& outcome);
 
     std::mutex busy_; ///< held while the disk is written
     std::mutex guard_;
     std::condition_variable waiting_;
     std::optional<std::string> content_; ///< waits to be written
-    PreferencesOutcome outcome_;         ///< of what was written last
+    FileOutcome outcome_;                ///< of what was written last
     QTimer changed_;                     ///< times out on the main thread
     std::string path_;
     std::vector<std::string> released_;
@@ -111,13 +111,13 @@ void Writer::removeAll() {
     note({});
 }
 
-PreferencesOutcome Writer::outcome() {
+FileOutcome Writer::outcome() {
     const std::lock_guard lock(guard_);
     return outcome_;
 }
 
 /// Under the guard.
-void Writer::note(const PreferencesOutcome& outcome) {
+void Writer::note(const FileOutcome& outcome) {
     if (std::exchange(outcome_, outcome).error != outcome.error)
         QMetaObject::invokeMethod(
             &changed_, [this] { changed_.start(0); }, Qt::QueuedConnection);
@@ -174,7 +174,7 @@ void removeStateFile() {
     writer().removeAll();
 }
 
-PreferencesOutcome stateFileOutcome() {
+FileOutcome stateFileOutcome() {
     return writer().outcome();
 }
 

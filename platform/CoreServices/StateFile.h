@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/CoreFoundation/PreferencesOutcome.h"
+#include "platform/CoreFoundation/FileOutcome.h"
 
 #include <string>
 #include <vector>
@@ -21,7 +21,7 @@ void keepStateFile(const std::string& name, std::string content);
 void removeStateFile();
 
 /// How the last writing ended; no trouble when there was none, or the file is removed.
-PreferencesOutcome stateFileOutcome();
+FileOutcome stateFileOutcome();
 
 /// What became of the process that a state file belongs to.
 enum class StateFileOwner { Gone, Running };

@@ -13,7 +13,7 @@
 namespace {
 
 std::string savingFault() {
-    const PreferencesOutcome outcome = preferencesSaveOutcome(kAgentBundleID);
+    const FileOutcome outcome = preferencesSaveOutcome(kAgentBundleID);
     const std::string fault =
         filled(localized("Commands", "can't store the settings in %1"), {outcome.path});
     return outcome.error ? fault + ": " + std::strerror(outcome.error) : fault;

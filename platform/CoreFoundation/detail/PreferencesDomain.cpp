@@ -23,8 +23,8 @@ unsigned folderMode(PreferencesDomain::Readers readers) {
 
 /// Writes the document to a file beside the target and puts it in place. With `aside`, the old file
 /// is kept; `*aside` receives its new name.
-PreferencesOutcome replaceFile(const std::string& target, const std::string& document,
-                               unsigned mode, std::string* aside = nullptr) {
+FileOutcome replaceFile(const std::string& target, const std::string& document, unsigned mode,
+                        std::string* aside = nullptr) {
     if (document.empty())
         return {FileTrouble::TooLarge, target};
     PendingFile file(target, document, mode);
@@ -33,7 +33,7 @@ PreferencesOutcome replaceFile(const std::string& target, const std::string& doc
     if (aside && (*aside = keepAside(target)).empty())
         return outcomeOf(errno, target);
     const int error = file.putInPlace();
-    return error != 0 ? outcomeOf(error, target) : PreferencesOutcome{FileTrouble::None, target};
+    return error != 0 ? outcomeOf(error, target) : FileOutcome{FileTrouble::None, target};
 }
 
 /// A deep copy, which later changes of the value don't affect. Null when a property list can't hold
@@ -86,7 +86,7 @@ bool PreferencesDomain::synchronize() {
     return saved_.trouble == FileTrouble::None;
 }
 
-PreferencesOutcome PreferencesDomain::save() {
+FileOutcome PreferencesDomain::save() {
     if (const int error = makeFolders(folder(), folderMode(readers_)))
         return outcomeOf(error, folder());
     const FileLock lock(path_ + ".lock", fileMode(readers_));
@@ -124,8 +124,7 @@ PreferencesDomain::FileState PreferencesDomain::refresh() {
 /// Notes what the file's state means for the user. `error` is the errno of an unreadable file.
 PreferencesDomain::FileState PreferencesDomain::note(FileState state, int error) {
     if (state == FileState::Unreadable)
-        loaded_ =
-            error != 0 ? outcomeOf(error, path_) : PreferencesOutcome{FileTrouble::InTheWay, path_};
+        loaded_ = error != 0 ? outcomeOf(error, path_) : FileOutcome{FileTrouble::InTheWay, path_};
     else if (state == FileState::Damaged)
         loaded_ = {FileTrouble::Damaged, path_};
     else if (!loaded_.isKeptAside)
@@ -150,7 +149,7 @@ CFRef<const CFDictionary> PreferencesDomain::merged() const {
 }
 
 /// Called under the lock, with the result of `refresh`.
-PreferencesOutcome PreferencesDomain::write(FileState state) {
+FileOutcome PreferencesDomain::write(FileState state) {
     if (state == FileState::Unreadable)
         return loaded_;
     CFRef<const CFDictionary> values = merged();
@@ -162,7 +161,7 @@ PreferencesOutcome PreferencesDomain::write(FileState state) {
     const std::string target = resolveLinks(path_);
     const bool isDamaged = state == FileState::Damaged;
     std::string aside;
-    PreferencesOutcome outcome =
+    FileOutcome outcome =
         replaceFile(target, document, fileMode(readers_), isDamaged ? &aside : nullptr);
     if (!aside.empty())
         loaded_ = {FileTrouble::Damaged, aside, true};
@@ -175,16 +174,16 @@ PreferencesOutcome PreferencesDomain::write(FileState state) {
     return outcome;
 }
 
-PreferencesOutcome PreferencesDomain::saveOutlook() const {
+FileOutcome PreferencesDomain::saveOutlook() const {
     std::string above = folder();
     while (above.rfind('/') != 0 && access(above.c_str(), F_OK) != 0 && errno == ENOENT)
         above.erase(above.rfind('/'));
     if (!std::filesystem::is_directory(above))
         return outcomeOf(ENOTDIR, above);
-    return access(above.c_str(), W_OK | X_OK) == 0 ? PreferencesOutcome{FileTrouble::None, path_}
+    return access(above.c_str(), W_OK | X_OK) == 0 ? FileOutcome{FileTrouble::None, path_}
                                                    : outcomeOf(errno, above);
 }
 
-PreferencesOutcome PreferencesDomain::saveCopy(const std::string& path) const {
+FileOutcome PreferencesDomain::saveCopy(const std::string& path) const {
     return replaceFile(resolveLinks(path), propertyListToXML(merged().get()), fileMode(readers_));
 }

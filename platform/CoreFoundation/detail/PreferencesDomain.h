@@ -21,15 +21,15 @@ public:
 
     // See PreferencesOutcome.h.
 
-    const PreferencesOutcome& loadOutcome() const { return loaded_; }
+    const FileOutcome& loadOutcome() const { return loaded_; }
 
-    const PreferencesOutcome& saveOutcome() const { return saved_; }
+    const FileOutcome& saveOutcome() const { return saved_; }
 
-    PreferencesOutcome saveOutlook() const;
+    FileOutcome saveOutlook() const;
 
     bool isUnsaved() const { return !changes_.empty(); }
 
-    PreferencesOutcome saveCopy(const std::string& path) const;
+    FileOutcome saveCopy(const std::string& path) const;
 
 private:
     enum class FileState { Sound, Missing, Damaged, Unreadable };
@@ -46,14 +46,14 @@ private:
 
     std::string folder() const { return path_.substr(0, path_.rfind('/')); }
 
-    PreferencesOutcome save();
-    PreferencesOutcome write(FileState state);
+    FileOutcome save();
+    FileOutcome write(FileState state);
 
     std::string path_;
     Readers readers_;
     CFRef<const CFDictionary> stored_;         ///< the file's values when last read or written
     CFRef<const CFData> content_;              ///< the bytes of that file, or null
     std::map<std::u16string, Change> changes_; ///< what was set since
-    PreferencesOutcome loaded_;
-    PreferencesOutcome saved_;
+    FileOutcome loaded_;
+    FileOutcome saved_;
 };

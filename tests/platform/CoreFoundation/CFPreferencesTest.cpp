@@ -178,7 +178,7 @@ TEST_F(CFPreferencesTest, DamagedFileIsKeptAside) {
         EXPECT_TRUE(synchronize());
         EXPECT_EQ(stored(own_), file("b=2 c=3")) << "damaged later, replaced by what is known";
         EXPECT_EQ(readFile(own_.string() + ".damaged-3"), "garbage");
-        const PreferencesOutcome outcome = preferencesLoadOutcome(domain_.get());
+        const FileOutcome outcome = preferencesLoadOutcome(domain_.get());
         EXPECT_TRUE(outcome.trouble == FileTrouble::Damaged && outcome.isKeptAside);
         EXPECT_EQ(outcome.path, own_.string() + ".damaged-3");
     }
@@ -205,7 +205,7 @@ TEST_F(CFPreferencesTest, WhatIsInTheWayIsLeftAloneAndTheMarksStay) {
                                    const std::function<void()>& clear) {
         set("b", std::string(2000, 'x'));
         EXPECT_FALSE(synchronize()) << what;
-        const PreferencesOutcome outcome = preferencesSaveOutcome(domain_.get());
+        const FileOutcome outcome = preferencesSaveOutcome(domain_.get());
         EXPECT_TRUE(outcome.trouble == trouble && preferencesAreUnsaved(domain_.get())) << what;
         EXPECT_EQ(outcome.path, path) << what;
         clear();
