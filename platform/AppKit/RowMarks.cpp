@@ -10,8 +10,7 @@
 
 namespace {
 
-/// One more press of a key does something.
-bool isPressed(const QWidget* widget) {
+bool isButton(const QWidget* widget) {
     return qobject_cast<const QPushButton*>(widget) || qobject_cast<const QToolButton*>(widget);
 }
 
@@ -20,13 +19,13 @@ bool canBeOperated(const QWidget* widget) {
            !qobject_cast<const QLineEdit*>(widget) && !dynamic_cast<const PutBackButton*>(widget);
 }
 
-/// The first by Tab in the widget, or itself; null for none.
+/// The first in the tab order that is the widget or in it. Null for none.
 QWidget* firstIn(const QWidget* around, bool orButton) {
     QWidget* const window = around->window();
     for (QWidget* each = window->nextInFocusChain(); each != window;
          each = each->nextInFocusChain())
         if ((each == around || around->isAncestorOf(each)) && canBeOperated(each) &&
-            (orButton || !isPressed(each)))
+            (orButton || !isButton(each)))
             return each;
     return nullptr;
 }
@@ -49,6 +48,7 @@ void setRowMark(const NSView& view, const std::string& label, std::function<void
             return button->offer(text, std::move(press));
 }
 
+// A button comes last: another press of the key that undid something would press it.
 void focusRow(const NSView& view) {
     for (auto* radio : view.widget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
         if (radio->isChecked())

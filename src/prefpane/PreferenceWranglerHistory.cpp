@@ -148,8 +148,6 @@ void PreferenceWrangler::takeImport(const SettingsOffer& offer) {
 void PreferenceWrangler::showAndReport(ChangeMask changes) {
     changed(changes);
     showValues(false);
-    if (changes & kChangeLaunch)
-        updateLaunchUI();
     if (prefsAreAsStored()) {
         prefsWerentChanged();
         recoveryForget();
