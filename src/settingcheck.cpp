@@ -38,14 +38,6 @@ UInt32 wordIn(const Setting& setting, const PrefsRecord& record) {
     return word;
 }
 
-void setNumber(const Setting& setting, double value, PrefsRecord& record) {
-    const auto whole = static_cast<SInt32>(std::lround(value));
-    if (setting.notation == &kRealNotation)
-        std::memcpy(setting.in(record), &value, sizeof value);
-    else
-        std::memcpy(setting.in(record), &whole, sizeof whole);
-}
-
 /// A list's text for a comparison: without blanks, in small letters.
 std::string bare(const CFString* text) {
     std::string result = text ? toUTF8(text) : "";
@@ -135,7 +127,7 @@ std::string setFromWords(const Setting& setting, const std::string& words, Prefs
                                         : localized("Faults", "not a number");
         if (!isWithin(setting.limits, *value))
             return rangeWords(setting.limits);
-        setNumber(setting, *value, changed);
+        setSettingNumber(setting, *value, changed);
     } else if (!setting.choices.empty()) {
         const auto choice = choiceFrom(setting, words);
         if (!choice)

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 
@@ -163,6 +164,14 @@ double settingNumber(const Setting& setting, const PrefsRecord& record) {
     if (setting.notation == &kDecimalNotation)
         return get<SInt32>(setting, record);
     return setting.notation == &kHexWordNotation ? get<UInt32>(setting, record) : 0;
+}
+
+void setSettingNumber(const Setting& setting, double value, PrefsRecord& record) {
+    const auto whole = static_cast<SInt32>(std::lround(value));
+    if (setting.notation == &kRealNotation)
+        std::memcpy(setting.in(record), &value, sizeof value);
+    else
+        std::memcpy(setting.in(record), &whole, sizeof whole);
 }
 
 std::string settingText(const Setting& setting, const PrefsRecord& record) {

@@ -15,6 +15,10 @@ std::string settingText(const Setting& setting, const PrefsRecord& record);
 /// The number that a setting holds, in its unit; 0 for a setting that isn't a number.
 double settingNumber(const Setting& setting, const PrefsRecord& record);
 
+/// Sets a setting that holds a number, in its unit. Whole numbers are rounded. The limits aren't
+/// checked.
+void setSettingNumber(const Setting& setting, double value, PrefsRecord& record);
+
 inline constexpr char kSettingBecomes[] = LOCALIZABLE("Changes", "%1: %2 to %3");
 inline constexpr char kSettingBecomesAgain[] = LOCALIZABLE("Changes", "%1: %2 back to %3");
 

@@ -2,6 +2,7 @@
 #include "src/prefpane/PreferenceWrangler.h"
 
 #include "platform/AppKit/NSButton.h"
+#include "src/settingwords.h"
 
 void PreferenceWrangler::findMySpeed(NSButton* sender) {
     openTryPage(sender->window());
@@ -12,7 +13,7 @@ void PreferenceWrangler::openTryPage(NSWindow window) {
 }
 
 void PreferenceWrangler::takeTime(const Setting& setting, double seconds) {
-    *static_cast<double*>(setting.in(prefs)) = seconds;
+    setSettingNumber(setting, seconds, prefs);
     loadNumbers();
     changed(setting.changes);
 }

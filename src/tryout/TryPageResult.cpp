@@ -49,7 +49,7 @@ void TryPage::showSuggestion() {
         return;
     const auto& [setting, seconds] = *suggestion_;
     PrefsRecord record = prefs;
-    *static_cast<double*>(setting->in(record)) = seconds;
+    setSettingNumber(*setting, seconds, record);
     suggestionBtn_->setTitle(
         filled(localized("Try", "Set “%1” to %2"),
                {localized("Settings", setting->name), settingText(*setting, record)}));

@@ -169,8 +169,7 @@ TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityActi
     prefs.scanArea = {0, 0, 640, 480};
     for (const Setting& each : kSettings) // none comes to a limit
         if (each.isNumber() && each.size == sizeof(double))
-            *static_cast<double*>(each.in(prefs)) =
-                each.limits.minimum / 4 + each.limits.maximum * 3 / 4;
+            setSettingNumber(each, each.limits.minimum / 4 + each.limits.maximum * 3 / 4, prefs);
     prefs.borderGap = prefs.buttonGap = 30;
     openWithAgent();
     int tried = 0;
