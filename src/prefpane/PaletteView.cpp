@@ -39,10 +39,11 @@ void PaletteView::selectBtn(SInt32 index) {
     redrawBtn(old);
     selectedBtn_ = index;
     redrawBtn(index);
+    if (index == old)
+        return;
     for (const SInt32 changed : {old, index})
-        if (old != index)
-            NSAccessibilityPostNotification(this, changed,
-                                            NSAccessibilitySelectedChildrenChangedNotification);
+        NSAccessibilityPostNotification(this, changed,
+                                        NSAccessibilitySelectedChildrenChangedNotification);
 }
 
 NSRect PaletteView::boundsOfBtn(SInt32 index) const {

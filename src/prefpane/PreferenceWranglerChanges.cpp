@@ -82,8 +82,6 @@ void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {
         sampleScanImage_->setNeedsDisplay(true);
     if (changes & kChangeLaunch)
         updateLaunchUI();
-    if (changes & kChangeScanArea)
-        updateScanAreaRadios();
 }
 
 /// Updates what else shows those groups. The agent doesn't wait for it.

@@ -26,6 +26,7 @@ void PreferenceWrangler::updateScanAreaText() {
 }
 
 void PreferenceWrangler::showScanArea() {
+    updateScanAreaRadios();
     updateScanAreaText();
     scanAreas_.update();
 }
