@@ -13,10 +13,10 @@ namespace {
 constexpr double kOneInTwenty = 1.645; ///< normal quantiles of a risk
 constexpr double kOneInHundred = 2.326;
 
-/// The median absolute deviation varies more than the standard deviation, for which the chi-square
-/// bound is made. For twelve values the bound needs about this factor. It was found by simulation;
-/// bench/TryoutSimulation.cpp shows what it achieves.
-constexpr double kMedianDeviationAllowance = 1.3;
+/// The chi-square bound is made for the standard deviation. An estimate from pairs varies a little
+/// more and needs about this factor. It was found by simulation; bench/TryoutSimulation.cpp shows
+/// what it achieves.
+constexpr double kPairsAllowance = 1.1;
 /// The standard error of a normal sample's median is this many spreads, divided by the square root
 /// of the count.
 constexpr double kMedianError = 1.2533;
@@ -178,11 +178,16 @@ void adviseTimes(Advice& advice, const Conditions& tried, const Earlier& known) 
 
 } // namespace
 
-Timing cautiousTiming(const Timing& measured, int presses) {
-    const double spread =
-        kMedianDeviationAllowance * spreadBound(std::max(measured.spread, kFinestSpread), presses);
-    const double error = kMedianError * spread / std::sqrt(presses);
-    return {measured.lateness + std::copysign(error, measured.lateness), spread};
+// Only users whose presses look even enough get advice, among them those whose median absolute
+// deviation came out too small by chance: for few values it varies a lot. It is rarely too small
+// together with the estimate from pairs, so the larger bound counts.
+Timing cautiousTiming(std::span<const double> offsets) {
+    const int presses = static_cast<int>(offsets.size());
+    const double least =
+        std::max({spread(offsets), kPairsAllowance * spreadOfPairs(offsets), kFinestSpread});
+    const double bound = spreadBound(least, presses);
+    const double lateness = median(offsets), error = kMedianError * bound / std::sqrt(presses);
+    return {lateness + std::copysign(error, lateness), bound};
 }
 
 void remember(Earlier& earlier, const Measured& measured, const Conditions& tried) {
@@ -208,7 +213,7 @@ Advice advise(const Measured& measured, const Conditions& tried) {
     remember(known, measured, tried);
     advice.timing = {median(known.offsets), spread(known.offsets)};
     if (advice.presses >= kFewestTrials)
-        advice.cautious = cautiousTiming(advice.timing, static_cast<int>(known.offsets.size()));
+        advice.cautious = cautiousTiming(known.offsets);
     if (std::ssize(known.costs) >= kFewestMisses)
         advice.costOfMiss = median(known.costs); // a rest among them spoils nothing
     if (const auto wrong = objection(measured, sample, advice.timing.lateness))

@@ -68,7 +68,7 @@ Advice advise(const Measured& measured, const Conditions& conditions);
 /// Adds a try's data to those of earlier ones. Presses at random add nothing.
 void remember(Earlier& earlier, const Measured& measured, const Conditions& tried);
 
-/// A cautious timing: 95 of 100 users with `presses` such presses are no worse.
-Timing cautiousTiming(const Timing& measured, int presses);
+/// A cautious timing: more than 95 of 100 users with these presses are no worse.
+Timing cautiousTiming(std::span<const double> offsets);
 
 } // namespace tryout

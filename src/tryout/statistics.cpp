@@ -12,6 +12,9 @@ namespace {
 
 /// For a normal distribution: the standard deviation divided by the median absolute deviation.
 constexpr double kDeviationPerMedianDeviation = 1.4826;
+/// And divided by the lower quartile of the distances between pairs: without the corrections for
+/// small samples it is Q_n of Rousseeuw and Croux (1993).
+constexpr double kDeviationPerPairQuartile = 2.2191;
 
 std::vector<double> sorted(std::span<const double> sample) {
     std::vector<double> values(sample.begin(), sample.end());
@@ -72,6 +75,14 @@ double spread(std::span<const double> sample) {
     for (const double value : sample)
         distances.push_back(std::abs(value - middle));
     return kDeviationPerMedianDeviation * median(distances);
+}
+
+double spreadOfPairs(std::span<const double> sample) {
+    std::vector<double> distances;
+    for (std::size_t i = 0; i < sample.size(); ++i)
+        for (std::size_t j = 0; j < i; ++j)
+            distances.push_back(std::abs(sample[i] - sample[j]));
+    return kDeviationPerPairQuartile * percentile(distances, 0.25);
 }
 
 double spreadBound(double spread, int count) {

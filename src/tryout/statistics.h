@@ -14,6 +14,10 @@ double median(std::span<const double> sample);
 /// be strays. 0 for an empty sample.
 double spread(std::span<const double> sample);
 
+/// The same from the lower quartile of the distances between all pairs. A quarter of the values may
+/// be strays. It varies less from sample to sample. 0 for fewer than two values.
+double spreadOfPairs(std::span<const double> sample);
+
 /// The 95 % upper bound of the true spread, if `spread` is the standard deviation of `count`
 /// values, at least two. For 12 values it is 1.55 times as much.
 double spreadBound(double spread, int count);
