@@ -68,12 +68,13 @@ void Strip::showCurrent() {
         button->deleteLater();
     }
     const CurrentMessage* current = currentMessage();
+    const QString text = current ? QString::fromStdString(current->message.text) : QString();
+    const bool isNew = text_->text() != text;
+    text_->setText(text);
     setVisible(current != nullptr);
     if (!current)
         return;
     setColors(current->message.kind == UserMessage::Kind::Alert);
-    const QString text = QString::fromStdString(current->message.text);
-    text_->setText(text);
     setAccessibleName(text);
     const auto withdrawn = [topic = current->topic](std::function<void()> press) {
         return [topic, press = std::move(press)] {
@@ -86,6 +87,8 @@ void Strip::showCurrent() {
         addButton(QString::fromStdString(button.label), withdrawn(button.press));
     addButton(QCoreApplication::translate("Strip", "Hide this"), withdrawn({}));
     arrangeButtons();
+    if (!isNew)
+        return;
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
     announce(text);

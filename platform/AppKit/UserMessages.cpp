@@ -22,11 +22,8 @@ void notify() {
 } // namespace
 
 void tellUser(const std::string& topic, UserMessage message) {
-    const auto known = find(topic);
-    if (known == messages.end())
-        messages.push_back({topic, std::move(message)});
-    else
-        known->message = std::move(message);
+    std::erase_if(messages, [&](const CurrentMessage& each) { return each.topic == topic; });
+    messages.push_back({topic, std::move(message)});
     notify();
 }
 
@@ -41,9 +38,10 @@ void withdrawMessage(const std::string& topic) {
 const CurrentMessage* currentMessage() {
     if (messages.empty())
         return nullptr;
-    const auto alert = std::ranges::find(messages, UserMessage::Kind::Alert,
-                                         [](const auto& each) { return each.message.kind; });
-    return alert == messages.end() ? &messages.front() : &*alert;
+    const auto alert = std::find_if(messages.rbegin(), messages.rend(), [](const auto& each) {
+        return each.message.kind == UserMessage::Kind::Alert;
+    });
+    return alert == messages.rend() ? &messages.back() : &*alert;
 }
 
 void setMessageListener(std::function<void()> listener) {

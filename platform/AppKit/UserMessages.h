@@ -6,8 +6,8 @@
 #include <vector>
 
 // Messages to the user that don't interrupt. The host shows them in a strip at the bottom of its
-// window, one at a time, alerts first. macOS has no such operation. Main thread only; texts are
-// UTF-8.
+// window, one at a time: the last alert, or without one the last note. macOS has no such operation.
+// Main thread only; texts are UTF-8.
 
 struct UserMessage {
     struct Button {

@@ -97,7 +97,7 @@ def store_only(tour: Tour, date: int) -> None:
 def visit(tour: Tour, state: str, end: Callable, read: bool, status: int) -> None:
     store_only(tour, 1 if state == "the notice" else NEVER)
     tour.program = tour.start_program() if read else start_unread(tour)
-    tour.screen.find("Korvex", "frame")
+    tour.wait_for_window()
     change(tour)
     STATES[state](tour)
     end(tour)
@@ -115,7 +115,7 @@ def crash_and_return(tour: Tour) -> None:
     unsaved = tour.desktop.home / ".local/state/korvex"
     store_only(tour, NEVER)
     tour.start()
-    tour.screen.find("Korvex", "frame")
+    tour.wait_for_window()
     change(tour)
     until(lambda: [file for file in unsaved.glob("unsaved.*") if ".new" not in file.name],
           "the change is on disk and in its place")
@@ -138,7 +138,7 @@ def cancel_a_logout(tour: Tour) -> None:
     store_only(tour, NEVER)
     with SessionManager() as session:
         tour.start()
-        tour.screen.find("Korvex", "frame")
+        tour.wait_for_window()
         session.wait_for_client()
         change(tour)
         session.cancel_a_logout()

@@ -35,7 +35,7 @@ def expect_alert(tour: Tour, *words: str) -> None:
 
 def open_window(tour: Tour, *arguments: str | Path) -> None:
     tour.program = tour.start_program(*map(str, arguments))
-    tour.screen.find("Korvex", "frame")
+    tour.wait_for_window()
 
 
 def click_scan_menu_bar(tour: Tour) -> None:
@@ -113,7 +113,7 @@ def open_with_own_mounts(tour: Tour, mounts: str) -> None:
         *(*own, tour.build / "host" / PROGRAM),
         name=PROGRAM,
     )
-    tour.screen.find("Korvex", "frame")
+    tour.wait_for_window()
 
 
 def read_only_file_system(tour: Tour) -> None:
@@ -148,8 +148,14 @@ def agent_that_does_not_start(tour: Tour) -> None:
     agent.write_text("#!/bin/sh\nexit 1\n")
     agent.chmod(0o700)
     open_window(tour, bundle)
+    click_scan_menu_bar(tour)
     expect_alert(tour, "Korvex Agent didn’t start")
     tour.screen.find("Korvex isn’t running", "label")
+    tour.stored.parent.chmod(0o500)
+    tour.ask_to_close()
+    expect_alert(tour, "couldn’t be saved")  # what was done last is told first
+    tour.stored.parent.chmod(0o700)
+    tour.screen.click("Hide this", "push button")
     agent.unlink()
     real.rename(agent)
     tour.screen.click("Start Korvex Agent", "push button")

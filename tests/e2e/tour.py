@@ -19,7 +19,7 @@ from typing import Iterator
 from tests.e2e import hotkeys, profiles, startup
 from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import Desktop, exit_on_signals, given, process_of
-from tests.e2e.screen import Screen, press
+from tests.e2e.screen import Atspi, Screen, press
 from tests.e2e.waiting import PATIENCE, Failure, check, until
 
 PROGRAM = "korvex-preferences"
@@ -59,6 +59,12 @@ class Tour:
 
     def start_program(self, *arguments: str) -> subprocess.Popen:
         return self.desktop.start(self.build / "host" / PROGRAM, *arguments)
+
+    def wait_for_window(self) -> None:
+        """Until the program knows where the window manager has put its window. Before that, clicks
+        miss."""
+        frame = self.screen.find("Korvex", "frame")
+        until(lambda: frame.has(Atspi.StateType.ACTIVE), "the window is in front")
 
     def close(self) -> None:
         """Has the window manager close the window. The agent must hear of that, and of nothing
