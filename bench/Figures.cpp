@@ -2,41 +2,28 @@
 #include "bench/Figures.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstdio>
-#include <map>
+#include <deque>
 #include <vector>
 
 namespace {
 
-constexpr char kFloor[] = " (floor)";
-constexpr char kBytes[] = "bytes";
-
 struct Figure {
     std::string name;
     Limit limit;
+    Measure measured, floor;
+    std::vector<double> results, floors; ///< seconds or bytes
 };
 
-std::vector<Figure> figures;
+std::deque<Figure> figures;
 
-/// Keeps the median of each benchmark's repetitions.
-class MedianReporter final : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run>& runs) override {
-        ConsoleReporter::ReportRuns(runs);
-        for (const Run& run : runs) {
-            if (run.aggregate_name != "median")
-                continue;
-            const auto bytes = run.counters.find(kBytes);
-            medians[run.run_name.function_name] =
-                bytes == run.counters.end()
-                    ? run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit)
-                    : double{bytes->second};
-        }
-    }
-
-    std::map<std::string, double> medians; ///< seconds or bytes
-};
+double median(std::vector<double> values) {
+    const auto middle = values.begin() + std::ssize(values) / 2;
+    std::ranges::nth_element(values, middle);
+    return *middle;
+}
 
 std::string shown(double value, Limit::Kind kind) {
     char text[32];
@@ -50,58 +37,57 @@ std::string shown(double value, Limit::Kind kind) {
 }
 
 /// Prints a figure and its limit. False when it is above it or wasn't measured.
-bool judge(const Figure& figure, const std::map<std::string, double>& medians) {
+bool judge(const Figure& figure) {
     const auto [kind, amount] = figure.limit;
-    const auto measured = medians.find(figure.name);
-    const auto floor = medians.find(figure.name + kFloor);
-    if (measured == medians.end() || floor == medians.end()) {
+    if (figure.results.empty()) {
         std::printf("%-58s not measured\n", figure.name.c_str());
         return false;
     }
-    double value = measured->second;
+    const double measured = median(figure.results), floor = median(figure.floors);
+    double value = measured;
     std::string result, limit;
     if (kind == Limit::Times) {
-        value /= floor->second;
+        value /= floor;
         char text[32];
         std::snprintf(text, sizeof text, "%.2f x", value);
         result = text;
         std::snprintf(text, sizeof text, "%.2f x", amount);
         limit = text;
     } else {
-        value -= floor->second;
+        value -= floor;
         result = shown(value, kind);
         limit = shown(amount, kind);
     }
     const bool within = value <= amount;
-    std::printf("%-58s %11s %11s %11s %11s%s\n", figure.name.c_str(),
-                shown(measured->second, kind).c_str(), shown(floor->second, kind).c_str(),
-                result.c_str(), limit.c_str(), within ? "" : "  OVER");
+    std::printf("%-58s %11s %11s %11s %11s%s\n", figure.name.c_str(), shown(measured, kind).c_str(),
+                shown(floor, kind).c_str(), result.c_str(), limit.c_str(), within ? "" : "  OVER");
     return within;
 }
 
-void run(benchmark::State& state, Measure measure, Limit::Kind kind) {
-    double last = 0;
+/// Measures both in turn, so that what else the machine does meanwhile slows both.
+void run(benchmark::State& state, Figure& figure) {
     for (auto _ : state) {
-        last = measure();
-        if (last < 0)
+        const double result = figure.measured(), floor = figure.floor();
+        if (result < 0 || floor < 0) {
+            figure.results.clear();
             return state.SkipWithError("failed");
-        state.SetIterationTime(kind == Limit::Bytes ? 1.0 : last);
+        }
+        state.SetIterationTime(figure.limit.kind == Limit::Bytes ? 1.0 : result);
+        figure.results.push_back(result);
+        figure.floors.push_back(floor);
     }
-    if (kind == Limit::Bytes)
-        state.counters[kBytes] = last;
 }
 
 } // namespace
 
 void addFigure(const std::string& name, Limit limit, Measure measured, Measure floor) {
-    figures.push_back({name, limit});
-    for (const auto& [measure, suffix] : {std::pair(measured, ""), std::pair(floor, kFloor)}) {
-        auto* registered = benchmark::RegisterBenchmark(
-            (name + suffix).c_str(), [measure = measure, limit](benchmark::State& state) {
-                run(state, measure, limit.kind);
-            });
-        registered->UseManualTime()->MinTime(0.02)->Repetitions(9)->ReportAggregatesOnly();
-    }
+    figures.push_back({name, limit, measured, floor, {}, {}});
+    benchmark::RegisterBenchmark(
+        name.c_str(), [&figure = figures.back()](benchmark::State& state) { run(state, figure); })
+        ->UseManualTime()
+        ->MinTime(0.02)
+        ->Repetitions(9)
+        ->ReportAggregatesOnly();
 }
 
 int main(int argc, char** argv) {
@@ -122,13 +108,12 @@ int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;
-    MedianReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
+    benchmark::RunSpecifiedBenchmarks();
 
     std::printf("\n%-58s %11s %11s %11s %11s\n", "figure", "measured", "floor", "result",
                 "at most");
     bool within = true;
     for (const Figure& figure : figures)
-        within &= judge(figure, reporter.medians);
+        within &= judge(figure);
     return within ? 0 : 1;
 }

@@ -70,7 +70,7 @@ double parseFile() {
 /// In use, saves are far apart: one when the pane is put away. So the background work of the one
 /// before must be done.
 void waitABit() {
-    usleep(1000);
+    usleep(3000);
 }
 
 double saveOneChange() {
