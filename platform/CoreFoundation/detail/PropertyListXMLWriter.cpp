@@ -18,6 +18,31 @@ constexpr std::string_view kStart = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\
                                     "<plist version=\"1.0\">\n";
 constexpr std::string_view kEnd = "</plist>\n";
 
+std::string escaped(const std::string& text) {
+    if (text.find_first_of("&<>\r") == std::string::npos)
+        return text;
+    std::string result;
+    for (const char c : text) {
+        switch (c) {
+        case '&':
+            result += "&amp;";
+            break;
+        case '<':
+            result += "&lt;";
+            break;
+        case '>':
+            result += "&gt;";
+            break;
+        case '\r': // a parser reads a plain one as a line feed
+            result += "&#13;";
+            break;
+        default:
+            result += c;
+        }
+    }
+    return result;
+}
+
 class Writer {
 public:
     explicit Writer(const CFType* root) : document_(kStart) {
@@ -33,32 +58,14 @@ private:
         document_.append(depth, '\t').append(text) += '\n';
     }
 
-    void element(std::size_t depth, const std::string& name, std::string_view content) {
-        line(depth, '<' + name + '>' + std::string(content) + "</" + name + '>');
+    void element(std::size_t depth, std::string_view name, std::string_view content) {
+        document_.append(depth, '\t').append("<").append(name).append(">");
+        document_.append(content).append("</").append(name).append(">\n");
     }
 
-    void text(std::size_t depth, const std::string& name, std::u16string_view text) {
+    void text(std::size_t depth, std::string_view name, std::u16string_view text) {
         isSound_ = isSound_ && isXMLText(text);
-        std::string content;
-        for (const char c : encodeText(text, kCFStringEncodingUTF8).value_or("")) {
-            switch (c) {
-            case '&':
-                content += "&amp;";
-                break;
-            case '<':
-                content += "&lt;";
-                break;
-            case '>':
-                content += "&gt;";
-                break;
-            case '\r': // a parser reads a plain one as a line feed
-                content += "&#13;";
-                break;
-            default:
-                content += c;
-            }
-        }
-        element(depth, name, content);
+        element(depth, name, escaped(encodeText(text, kCFStringEncodingUTF8).value_or("")));
     }
 
     void number(std::size_t depth, const CFNumber& number) {

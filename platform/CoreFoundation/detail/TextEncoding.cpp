@@ -41,6 +41,9 @@ std::optional<std::u16string> decodeUTF8(std::string_view bytes) {
 
 /// An unpaired surrogate becomes U+FFFD and sets `isValid` to false.
 std::string encodeUTF8(std::u16string_view text, bool& isValid) {
+    isValid = std::ranges::all_of(text, [](char16_t c) { return c < 0x80; });
+    if (isValid) // nearly all texts, which Qt's encoder would copy twice
+        return {text.begin(), text.end()};
     QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
     const QByteArray bytes = encoder(QStringView(text));
     isValid = !encoder.hasError();
@@ -75,6 +78,8 @@ std::optional<std::string> encodeBytes(std::u16string_view text, std::u16string_
 } // namespace
 
 bool isXMLText(std::u16string_view text) {
+    if (std::ranges::all_of(text, [](char16_t c) { return c >= 0x20 && c < 0xD800; }))
+        return true; // nearly always
     return QStringView(text).isValidUtf16() && std::ranges::all_of(text, [](char16_t c) {
                return (c >= 0x20 && c < 0xFFFE) || c == '\t' || c == '\n' || c == '\r';
            });
