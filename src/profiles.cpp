@@ -5,9 +5,12 @@
 #include "platform/CoreFoundation/UserFiles.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -59,14 +62,10 @@ std::vector<std::string> profileNames() {
 }
 
 std::string profilesFault() {
-    std::error_code error;
-    for (fs::directory_iterator entry(folder(), error), end; !error && entry != end;
-         entry.increment(error))
-        if (entry->path().extension() == kSuffix && (fs::exists(entry->path(), error) || error))
-            break; // the first tells for all
-    return !error || error == std::errc::no_such_file_or_directory
-               ? ""
-               : folder() + ": " + reasonOf(error.value());
+    // Whether the folder can be listed, and its files be reached.
+    if (access((folder() + "/.").c_str(), R_OK | X_OK) == 0 || errno == ENOENT)
+        return "";
+    return folder() + ": " + std::strerror(errno);
 }
 
 namespace {
@@ -121,9 +120,11 @@ SettingsOffer readProfile(const std::string& name, const PrefsRecord& base) {
 }
 
 ProfileStamp profileStamp(const std::string& name) {
-    std::error_code error;
-    const auto time = fs::last_write_time(pathOf(name), error);
-    return {time, fs::file_size(pathOf(name), error)};
+    struct stat file;
+    if (stat(pathOf(name).c_str(), &file) != 0)
+        return {};
+    return {static_cast<std::int64_t>(file.st_ino), file.st_size, file.st_mtim.tv_sec,
+            file.st_mtim.tv_nsec};
 }
 
 std::string renameProfile(const std::string& name, const std::string& newName) {

@@ -3,9 +3,8 @@
 
 #include "src/settingsfile.h"
 
+#include <array>
 #include <cstdint>
-#include <filesystem>
-#include <utility>
 
 // Named states of the settings, such as "Morning" or "Tired": a file of settings each, in
 // korvex/profiles under the user's data folder. Names and messages are in UTF-8. An operation that
@@ -34,8 +33,8 @@ std::string freeProfileName(const std::string& name);
 /// What the profile would change in `base`. Its error is set when there is none of that name.
 SettingsOffer readProfile(const std::string& name, const PrefsRecord& base);
 
-/// When a profile's file was written, and its size: they differ when it has changed.
-using ProfileStamp = std::pair<std::filesystem::file_time_type, std::uintmax_t>;
+/// Differs when a profile's file has changed: the file's number, its size, and when it was written.
+using ProfileStamp = std::array<std::int64_t, 4>;
 ProfileStamp profileStamp(const std::string& name);
 
 /// Fails when the new name is taken. Also fails when the profile is in use and that can't be

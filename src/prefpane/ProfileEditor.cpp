@@ -339,7 +339,6 @@ void ProfileEditor::save(const std::string& profile) {
     if (!succeeded(::saveProfile(profile, prefs), kCannotSave, profile))
         return;
     name->setStringValue("");
-    profiles_.clear(); // the time of a file may be too coarse to tell
     load();
     setInUse(profile);
     show();
@@ -358,7 +357,6 @@ void ProfileEditor::putBack(const Profile& profile, bool wasInUse) {
     const auto& [record, settings, refused, error] = profile.offer;
     if (!succeeded(::saveProfile(profile.name, record, settings), kCannotSave, profile.name))
         return;
-    profiles_.clear();
     load();
     if (wasInUse)
         setInUse(profile.name);
