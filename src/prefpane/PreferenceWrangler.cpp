@@ -198,30 +198,36 @@ void PreferenceWrangler::setup() {
 }
 
 void PreferenceWrangler::loadValues() {
-    showValues(true);
+    showValues(SettingSet().set(), true);
+    updateDefaults(true); // a group of radio buttons is marked at the one that is shown
 }
 
-void PreferenceWrangler::showValues(bool anew) {
-    loadNumbers();
+void PreferenceWrangler::showValues(const SettingSet& settings, bool anew) {
+    const ChangeMask changes = changesOf(settings); // some are slow to show
+    loadNumbers(settings);
     updateMasterOnOff();
     scanModeRadios_->selectCellWithTag(prefs.scanMode);
     triggerOnReleaseRadios_->selectCellWithTag(prefs.triggerOnRelease != 0);
     palette_.loadShape();
     updateScanAreaRadios();
     updateScanAreaText();
-    shownLaunchAtLogin_ = prefs.launchAtLogin != 0;
-    updateLaunchUI();
+    if (anew) {
+        shownLaunchAtLogin_ = prefs.launchAtLogin != 0;
+        updateLaunchUI();
+    }
 
     loadFlags();
     palette_.loadContent();
-    hotKeys_.load();
+    if (changes & kChangeHotKeys)
+        hotKeys_.load();
     lineColors_.load();
-    anew ? scanAreas_.load() : scanAreas_.update();
+    if (changes & kChangeScanArea)
+        anew ? scanAreas_.load() : scanAreas_.update();
     showSampleLineType(kSampleScanLine);
-    anew ? pointers_.load() : pointers_.updatePointerName();
+    if (changes & kChangePointer)
+        anew ? pointers_.load() : pointers_.updatePointerName();
     palette_.load();
     updateTriggerUI();
-    updateDefaults(true); // a group of radio buttons is marked at the one that is shown
 }
 
 void PreferenceWrangler::setHelpBookName(const CFType* name) {

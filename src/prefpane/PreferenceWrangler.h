@@ -229,8 +229,12 @@ private:
 
     /// The pane's bundle; null while none is loaded.
     static const CFBundle* ownBundle();
-    /// `anew`: also what lies outside of the record, such as displays and pointers' pictures.
-    void showValues(bool anew);
+    /// Shows those settings in their controls. `anew`: also what lies outside of the record, such
+    /// as displays and pointers' pictures.
+    void showValues(const SettingSet& settings, bool anew);
+    /// The part of changed() that the agent waits for: updates what must be right first, then the
+    /// store's mark, then sends.
+    void report(ChangeMask changes);
     void showChanges(ChangeMask changes);
     void noteStep();
     void showStep(const HistoryStep& step, const PrefsRecord& before, const PrefsRecord& after,
@@ -242,9 +246,9 @@ private:
     /// The view of the first difference; of several hot keys the one that differs.
     NSView* viewOf(const SettingSet& settings, const PrefsRecord& before,
                    const PrefsRecord& after) const;
-    /// Call it after fields were set from elsewhere. A record that is as stored needs no saving any
-    /// more.
-    void showAndReport(ChangeMask changes);
+    /// Call it after those fields were set from elsewhere. A record that is as stored needs no
+    /// saving any more.
+    void showAndReport(const SettingSet& settings);
 
     /// Sets those settings to the record's values and says what has changed.
     void putBack(const SettingSet& settings, const PrefsRecord& record);
@@ -289,7 +293,7 @@ private:
     template <class Entry>
     static std::vector<Entry> withSettings(std::span<const Entry> own);
     void setupNumbers();
-    void loadNumbers();
+    void loadNumbers(const SettingSet& settings);
     void loadFlags();
     void setFlag(const Setting& setting, const NSButton& sender);
 

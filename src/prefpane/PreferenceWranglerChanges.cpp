@@ -59,13 +59,17 @@ void PreferenceWrangler::changed(ChangeMask changes) {
         if (!changes)
             return;
     }
+    report(changes);
+    showChanges(changes);
+    noteStep();
+    updateDefaults();
+}
+
+void PreferenceWrangler::report(ChangeMask changes) {
     updateUIForChanges(changes);
     prefsWereChanged(changes & kChangeOnOff ? &prefs.on : nullptr);
     daemonSendChanges(changes, true);
     prefsKeepChanges();
-    showChanges(changes);
-    noteStep();
-    updateDefaults();
 }
 
 void PreferenceWrangler::updateUIForChanges(ChangeMask changes) {

@@ -66,7 +66,7 @@ void PreferenceWrangler::adopt(const SettingSet& settings, const PrefsRecord& re
         return;
     copySettings(different, record, prefs);
     history_.finishStep();
-    showAndReport(changesOf(different));
+    showAndReport(different);
     history_.finishStep();
 }
 
@@ -102,7 +102,7 @@ void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& be
                                   const PrefsRecord& after, const char* pattern) {
     if (step.profileBefore != step.profileAfter)
         profiles_.setInUse(&before == &step.before ? step.profileAfter : step.profileBefore);
-    showAndReport(changesOf(step.settings));
+    showAndReport(step.settings);
     moveTo(viewOf(step.settings, before, after));
     palette_.pointAtChange(before, after);
     tellUser(kChangeTopic,
@@ -145,9 +145,11 @@ void PreferenceWrangler::takeImport(const SettingsOffer& offer) {
 }
 
 /// Tells the agent first, since showing every value takes longer.
-void PreferenceWrangler::showAndReport(ChangeMask changes) {
-    changed(changes);
-    showValues(false);
+void PreferenceWrangler::showAndReport(const SettingSet& settings) {
+    report(changesOf(settings));
+    showValues(settings, false);
+    noteStep();
+    updateDefaults();
     if (prefsAreAsStored()) {
         prefsWerentChanged();
         recoveryForget();

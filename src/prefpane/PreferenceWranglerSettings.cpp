@@ -146,11 +146,13 @@ std::vector<std::string> PreferenceWrangler::layoutFaults() const {
     return faults;
 }
 
-void PreferenceWrangler::loadNumbers() {
+void PreferenceWrangler::loadNumbers(const SettingSet& settings) {
     constexpr auto kRows = rowsFrom(kShownBeforeButtonSizes);
     for (std::size_t i = 0; i < kRows.size(); ++i) {
         if (i == std::size(kShownBeforeButtonSizes))
             palette_.updateButtonSizes();
+        if (!settings[kRows[i]])
+            continue;
         if (auto* number = dynamic_cast<NumberController*>(settingControls_[kRows[i]]))
             number->update();
     }

@@ -14,6 +14,6 @@ void PreferenceWrangler::openTryPage(NSWindow window) {
 
 void PreferenceWrangler::takeTime(const Setting& setting, double seconds) {
     setSettingNumber(setting, seconds, prefs);
-    loadNumbers();
+    loadNumbers(SettingSet().set());
     changed(setting.changes);
 }
