@@ -67,7 +67,7 @@ constexpr SettingLimits percent(double minimum, double maximum, double step) {
 }
 
 constexpr SettingLimits points(double minimum, double maximum) {
-    return {minimum, maximum, 1, LOCALIZABLE("Formats", "%3.0f points"),
+    return {minimum, maximum, 1, LOCALIZABLE_COUNT("Formats", "%3.0f points"),
             LOCALIZABLE("Units", "points")};
 }
 

@@ -4,7 +4,8 @@
 #include "platform/CoreFoundation/Localization.h"
 #include "src/keycombo.h"
 #include "src/linecolors.h"
-#include "src/prefpane/palutil.h"
+#include "src/numbertext.h"
+#include "src/palutil.h"
 #include "src/ptrutil.h"
 
 #include <algorithm>
@@ -34,12 +35,6 @@ std::string print(const char* format, Parts... parts) {
     char text[400]; // the longest double has 309 digits before the point
     std::snprintf(text, sizeof text, format, parts...);
     return localizedNumbers(text);
-}
-
-std::string numberText(const Setting& setting, const PrefsRecord& record) {
-    const std::string text =
-        print(localized("Formats", setting.limits.format).c_str(), settingNumber(setting, record));
-    return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
 
 std::string choiceText(const Setting& setting, const PrefsRecord& record) {
@@ -176,7 +171,7 @@ void setSettingNumber(const Setting& setting, double value, PrefsRecord& record)
 
 std::string settingText(const Setting& setting, const PrefsRecord& record) {
     if (setting.isNumber())
-        return numberText(setting, record);
+        return numberWords(setting.limits.format, settingNumber(setting, record));
     if (!setting.choices.empty())
         return choiceText(setting, record);
     if (setting.notation == &kFlagNotation)

@@ -458,9 +458,12 @@
 </context>
 <context>
     <name>Formats</name>
-    <message>
+    <message numerus="yes">
         <source>%.0f points</source>
-        <translation>%.0f Punkte</translation>
+        <translation>
+            <numerusform>%.0f Punkt</numerusform>
+            <numerusform>%.0f Punkte</numerusform>
+        </translation>
     </message>
     <message>
         <source>%5.1f sec</source>
@@ -470,13 +473,24 @@
         <source>%3.0f%%</source>
         <translation>%3.0f %%</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%3.0f points</source>
-        <translation>%3.0f Punkte</translation>
+        <translation>
+            <numerusform>%3.0f Punkt</numerusform>
+            <numerusform>%3.0f Punkte</numerusform>
+        </translation>
     </message>
     <message>
         <source>%3.0f ms</source>
         <translation>%3.0f ms</translation>
+    </message>
+    <message>
+        <source>%.0f point</source>
+        <translation>%.0f Punkt</translation>
+    </message>
+    <message>
+        <source>%3.0f point</source>
+        <translation>%3.0f Punkt</translation>
     </message>
 </context>
 <context>
@@ -766,10 +780,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
 </context>
 <context>
     <name>Palette</name>
-    <message>
-        <source>%1 points</source>
-        <translation>%1 Punkte</translation>
-    </message>
     <message>
         <source>Choose the button to swap with button %1. The same button again, or Escape, cancels.</source>
         <translation>Wählen Sie den Knopf, mit dem Knopf %1 tauschen soll. Derselbe Knopf noch einmal oder Escape bricht ab.</translation>
@@ -2141,8 +2151,9 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Vorschau der Führungslinie</translation>
     </message>
     <message>
-        <source>%d points thick, %.0f%% transparent, red %u, green %u, blue %u, each of 255.</source>
-        <translation>%d Punkte dick, %.0f %% transparent, Rot %u, Grün %u, Blau %u, jeweils von 255.</translation>
+        <source>%1 thick, %2 transparent, red %3, green %4, blue %5, each of 255.</source>
+        <comment>as in 2 points thick, 50% transparent</comment>
+        <translation>%1 dick, %2 transparent, Rot %3, Grün %4, Blau %5, jeweils von 255.</translation>
     </message>
 </context>
 <context>

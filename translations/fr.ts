@@ -449,7 +449,7 @@
     <message>
         <source>%1 The last one took %2 seconds.</source>
         <comment>%1 is a sentence: It answers: 3 presses.</comment>
-        <translation>%1 Le dernier a duré %2 secondes.</translation>
+        <translation>%1 Le dernier a duré %2 s.</translation>
     </message>
     <message>
         <source>Press here</source>
@@ -458,9 +458,12 @@
 </context>
 <context>
     <name>Formats</name>
-    <message>
+    <message numerus="yes">
         <source>%.0f points</source>
-        <translation>%.0f points</translation>
+        <translation>
+            <numerusform>%.0f point</numerusform>
+            <numerusform>%.0f points</numerusform>
+        </translation>
     </message>
     <message>
         <source>%5.1f sec</source>
@@ -470,13 +473,24 @@
         <source>%3.0f%%</source>
         <translation>%3.0f %%</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%3.0f points</source>
-        <translation>%3.0f points</translation>
+        <translation>
+            <numerusform>%3.0f point</numerusform>
+            <numerusform>%3.0f points</numerusform>
+        </translation>
     </message>
     <message>
         <source>%3.0f ms</source>
         <translation>%3.0f ms</translation>
+    </message>
+    <message>
+        <source>%.0f point</source>
+        <translation>%.0f point</translation>
+    </message>
+    <message>
+        <source>%3.0f point</source>
+        <translation>%3.0f point</translation>
     </message>
 </context>
 <context>
@@ -766,10 +780,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
 </context>
 <context>
     <name>Palette</name>
-    <message>
-        <source>%1 points</source>
-        <translation>%1 points</translation>
-    </message>
     <message>
         <source>Choose the button to swap with button %1. The same button again, or Escape, cancels.</source>
         <translation>Choisissez le bouton à échanger avec le bouton %1. Le même bouton, ou Échap, annule.</translation>
@@ -2141,8 +2151,9 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Aperçu de la ligne guide</translation>
     </message>
     <message>
-        <source>%d points thick, %.0f%% transparent, red %u, green %u, blue %u, each of 255.</source>
-        <translation>%d points d’épaisseur, %.0f %% transparente, rouge %u, vert %u, bleu %u, chacun sur 255.</translation>
+        <source>%1 thick, %2 transparent, red %3, green %4, blue %5, each of 255.</source>
+        <comment>as in 2 points thick, 50% transparent</comment>
+        <translation>%1 d’épaisseur, %2 de transparence, rouge %3, vert %4, bleu %5, chacun sur 255.</translation>
     </message>
 </context>
 <context>
@@ -2866,11 +2877,11 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>A slower line is likely to suit you better. Try it at %.1f seconds, and we can tell.</source>
-        <translation>Une ligne plus lente vous conviendra sans doute mieux. Essayez à %.1f secondes, et nous le saurons.</translation>
+        <translation>Une ligne plus lente vous conviendra sans doute mieux. Essayez à %.1f s, et nous le saurons.</translation>
     </message>
     <message>
         <source>A quicker line is likely to suit you better. Try it at %.1f seconds, and we can tell.</source>
-        <translation>Une ligne plus rapide vous conviendra sans doute mieux. Essayez à %.1f secondes, et nous le saurons.</translation>
+        <translation>Une ligne plus rapide vous conviendra sans doute mieux. Essayez à %.1f s, et nous le saurons.</translation>
     </message>
     <message>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f mm wide would make it so, or a scan area only %.0f mm across.</source>
@@ -2886,15 +2897,15 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>Ready for the next press after %.1f seconds.</source>
-        <translation>Prêt pour l’appui suivant après %.1f secondes.</translation>
+        <translation>Prêt pour l’appui suivant après %.1f s.</translation>
     </message>
     <message>
         <source>Ignoring presses for %.1f seconds after a click would catch most of those that nothing asked for.</source>
-        <translation>Ignorer les appuis pendant %.1f secondes après un clic arrêterait la plupart de ceux que rien ne demandait.</translation>
+        <translation>Ignorer les appuis pendant %.1f s après un clic arrêterait la plupart de ceux que rien ne demandait.</translation>
     </message>
     <message>
         <source>A shortest press of %.1f seconds would, too.</source>
-        <translation>Un appui minimal de %.1f secondes aussi.</translation>
+        <translation>Un appui minimal de %.1f s aussi.</translation>
     </message>
     <message>
         <source>They last as long as your other presses, so no shortest press tells them apart.</source>
@@ -2906,7 +2917,7 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>%d in 10 takes %.1f seconds.</source>
-        <translation>%d sur 10 demande %.1f secondes.</translation>
+        <translation>%d sur 10 demande %.1f s.</translation>
     </message>
     <message>
         <source>The presses came at other moments than the marks, so we can’t suggest a speed. Wait for the line to reach the mark, then press.</source>
@@ -2926,7 +2937,7 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>%s: %.1f seconds, hits: %.0f, misses: %.0f, lateness %.0f ms, spread %.0f ms</source>
-        <translation>%s&#xa0;: %.1f secondes, réussis&#xa0;: %.0f, manqués&#xa0;: %.0f, retard %.0f ms, dispersion %.0f ms</translation>
+        <translation>%s&#xa0;: %.1f s, réussis&#xa0;: %.0f, manqués&#xa0;: %.0f, retard %.0f ms, dispersion %.0f ms</translation>
     </message>
     <message>
         <source>Set “%1” to %2</source>
@@ -2966,19 +2977,19 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>%.1f seconds suits you: we expect %d in 10.</source>
-        <translation>%.1f secondes vous conviennent&#xa0;: nous attendons %d sur 10.</translation>
+        <translation>Un temps de %.1f s vous convient&#xa0;: nous attendons %d sur 10.</translation>
     </message>
     <message>
         <source>At %.1f seconds we expect %d in 10.</source>
-        <translation>À %.1f secondes, nous attendons %d sur 10.</translation>
+        <translation>À %.1f s, nous attendons %d sur 10.</translation>
     </message>
     <message>
         <source>With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit, and at least %d.</source>
-        <translation>Avec le pointeur ensuite, à %.1f secondes, nous attendons %d clics justes sur 10, et au moins %d.</translation>
+        <translation>Avec le pointeur ensuite, à %.1f s, nous attendons %d clics justes sur 10, et au moins %d.</translation>
     </message>
     <message>
         <source>With the pointer after it, at %.1f seconds instead of %.1f, we expect %d clicks in 10 to hit, and at least %d.</source>
-        <translation>Avec le pointeur ensuite, à %.1f secondes au lieu de %.1f, nous attendons %d clics justes sur 10, et au moins %d.</translation>
+        <translation>Avec le pointeur ensuite, à %.1f s au lieu de %.1f, nous attendons %d clics justes sur 10, et au moins %d.</translation>
     </message>
     <message>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm.</source>
@@ -2986,11 +2997,11 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>%d clicks in 10 to hit takes %.1f seconds for the line and %.1f for the pointer.</source>
-        <translation>Pour %d clics justes sur 10, il faut %.1f secondes pour la ligne et %.1f pour le pointeur.</translation>
+        <translation>Pour %d clics justes sur 10, il faut %.1f s pour la ligne et %.1f pour le pointeur.</translation>
     </message>
     <message>
         <source>After a miss it took %.1f seconds to go on.</source>
-        <translation>Après un raté, il a fallu %.1f secondes pour continuer.</translation>
+        <translation>Après un raté, il a fallu %.1f s pour continuer.</translation>
     </message>
     <message>
         <source>On this desktop no window can keep keys for itself, so your switch may scan as well meanwhile.</source>

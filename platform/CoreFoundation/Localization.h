@@ -11,6 +11,9 @@
 /// Marks a text in a constant table. `localized` translates it later.
 #define LOCALIZABLE(table, text) text
 
+/// Marks one with a form for each plural.
+#define LOCALIZABLE_COUNT(table, text) text
+
 /// The text in the user's language, or unchanged. `comment` is for translators and distinguishes
 /// equal texts. A `count` of 0 or more replaces %n and selects the plural.
 std::string localized(const char* table, const char* text, const char* comment = nullptr,

@@ -4,7 +4,7 @@
 #include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSTextField.h"
-#include "src/prefpane/numbertext.h"
+#include "src/numbertext.h"
 
 REGISTER_CLASS(BumperController);
 

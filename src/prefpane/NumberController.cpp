@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/prefpane/NumberController.h"
 
-#include "src/prefpane/numbertext.h"
+#include "src/numbertext.h"
 
 #include <algorithm>
 #include <cmath>

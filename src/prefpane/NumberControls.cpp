@@ -4,8 +4,8 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "src/numbertext.h"
 #include "src/prefpane/NumberController.h"
-#include "src/prefpane/numbertext.h"
 
 void NumberControls::setAutoRepeat() const {
     constexpr float kDelaySeconds = 1.0f;

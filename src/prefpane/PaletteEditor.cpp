@@ -8,8 +8,9 @@
 #include "platform/AppKit/NSWindow.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/CarbonEvents.h"
+#include "src/numbertext.h"
+#include "src/palutil.h"
 #include "src/prefpane/BumperController.h"
-#include "src/prefpane/palutil.h"
 
 #include <algorithm>
 #include <cmath>
@@ -34,9 +35,8 @@ void PaletteEditor::setup(PaletteViewTarget& clicks, NSObject& menuTarget) {
 }
 
 void PaletteEditor::setupButtonSizes() {
-    const auto points = [](int size) {
-        return filled(localized("Palette", "%1 points"), {std::to_string(size)});
-    };
+    const char* const format = LOCALIZABLE_COUNT("Formats", "%.0f points");
+    const auto points = [format](int size) { return numberText(format, size); };
     const auto both = [points] {
         const ButtonSize size = prefs.buttonSize;
         return size.width == size.height
@@ -60,7 +60,7 @@ void PaletteEditor::setupButtonSizes() {
 
     for (const auto& row : rows) {
         row.bumper->setKind(kNumberKindSInt32, row.pending, -10, 10, 1, row.changes);
-        row.bumper->setFormat(LOCALIZABLE("Formats", "%.0f points"));
+        row.bumper->setFormat(format);
         row.bumper->setDisplay({row.text,
                                 [this, width = row.width, height = row.height](double typed) {
                                     return takeButtonSize(typed, width, height);

@@ -2,9 +2,9 @@
 #include "src/prefpane/PreferenceWrangler.h"
 
 #include "platform/AppKit/NSButton.h"
+#include "src/numbertext.h"
 #include "src/prefpane/BumperController.h"
 #include "src/prefpane/SliderController.h"
-#include "src/prefpane/numbertext.h"
 
 #include <algorithm>
 #include <numeric>

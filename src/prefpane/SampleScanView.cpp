@@ -8,8 +8,9 @@
 #include "platform/AppKit/NSStringDrawing.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/Appearance.h"
-#include "src/prefpane/Daemon.h"
-#include "src/prefpane/palutil.h"
+#include "src/daemonbundle.h"
+#include "src/numbertext.h"
+#include "src/palutil.h"
 #include "src/prefs.h"
 #include "src/ptrutil.h"
 
@@ -181,15 +182,15 @@ std::string SampleScanView::accessibilityTitle() const {
 }
 
 std::string SampleScanView::accessibilityValue() const {
-    char text[400];
-    std::snprintf(text, sizeof text,
-                  localized("Preview",
-                            "%d points thick, %.0f%% transparent, red %u, green %u, blue "
-                            "%u, each of 255.")
-                      .c_str(),
-                  prefs.lineThickness, lookOf(lineSampleType_).transparency, prefs.lineColor.red,
-                  prefs.lineColor.green, prefs.lineColor.blue);
-    return text;
+    const auto& [red, green, blue] = prefs.lineColor;
+    return filled(
+        localized("Preview",
+                  "%1 thick, %2 transparent, red %3, green %4, blue %5, each "
+                  "of 255.",
+                  "as in 2 points thick, 50% transparent"),
+        {numberText(LOCALIZABLE_COUNT("Formats", "%.0f points"), prefs.lineThickness),
+         numberWords(LOCALIZABLE("Formats", "%3.0f%%"), lookOf(lineSampleType_).transparency),
+         std::to_string(red), std::to_string(green), std::to_string(blue)});
 }
 
 void SampleScanView::accessibilityPerformPress() {

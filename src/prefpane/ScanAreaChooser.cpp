@@ -100,7 +100,7 @@ void ScanAreaChooser::load() {
         (this->*bumper)
             ->setKind(kNumberKindSInt32, &numbers_[i], least, least + double{screens.size.*length},
                       kStep, kChangeScanArea)
-            ->setFormat(LOCALIZABLE("Formats", "%.0f points"));
+            ->setFormat(LOCALIZABLE_COUNT("Formats", "%.0f points"));
     }
     update();
 }

@@ -5,7 +5,7 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSSlider.h"
 #include "platform/AppKit/NSTextField.h"
-#include "src/prefpane/numbertext.h"
+#include "src/numbertext.h"
 
 #include <initializer_list>
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "src/daemonbundle.h"
 #include "src/prefpane/ptrman.h"
 #include "src/ptrutil.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
