@@ -83,7 +83,7 @@ bool PaneHost::checkWindows(std::vector<std::string>& errors) {
 
 void PaneHost::open() {
     pane_->mainViewDidLoad();
-    window_ = std::make_unique<PaneWindow>(pane_->mainView()->widget());
+    window_ = std::make_unique<PaneWindow>(pane_->mainView());
     const std::string label = infoText("NSPrefPaneIconLabel");
     window_->setWindowTitle(
         QString::fromStdString(label.empty() ? infoText("CFBundleName") : label));

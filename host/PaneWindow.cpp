@@ -2,7 +2,7 @@
 #include "host/PaneWindow.h"
 
 #include "host/Strip.h"
-#include "platform/AppKit/detail/SectionFrame.h"
+#include "platform/AppKit/NSView.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
@@ -11,12 +11,12 @@
 #include <QShortcut>
 #include <QWindow>
 
-PaneWindow::PaneWindow(QWidget* pane) : pane_(pane), formSize_(pane->size()) {
+PaneWindow::PaneWindow(NSView* pane) : pane_(pane), formSize_(pane->widget()->size()) {
     auto* scroller = new QScrollArea;
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setFocusPolicy(Qt::NoFocus);
     scroller->setWidgetResizable(true);
-    scroller->setWidget(pane);
+    scroller->setWidget(pane->widget());
     auto* content = new QWidget;
     auto* rows = new QVBoxLayout(content);
     rows->setContentsMargins(0, 0, 0, 0);
@@ -32,11 +32,9 @@ void PaneWindow::open() {
     create();
     // Room for the window's frame, which isn't known before the window is shown.
     constexpr QSize kFrame(16, 48);
-    for (auto* part : pane_->findChildren<QWidget*>())
-        if (auto* sections = dynamic_cast<SectionFrame*>(part))
-            sections->measure(); // now that all that it shows is there
-    const QSize needed = pane_->sizeHint();
-    resize(formSize_.expandedTo(needed).boundedTo(screen()->availableSize() - kFrame));
+    const NSSize needed = pane_->fittingSize(); // now that all that it shows is there
+    const QSize fitting(static_cast<int>(needed.width), static_cast<int>(needed.height));
+    resize(formSize_.expandedTo(fitting).boundedTo(screen()->availableSize() - kFrame));
     windowHandle()->installEventFilter(this);
     show();
 }

@@ -5,12 +5,14 @@
 
 #include <functional>
 
+class NSView;
+
 /// The window around a pane. Assistive technology recognises it by its class. It can be resized;
 /// what doesn't fit is scrolled.
 class PaneWindow final : public QMainWindow {
 public:
-    /// Takes `pane` as a child.
-    explicit PaneWindow(QWidget* pane);
+    /// Takes the widget of `pane` as a child.
+    explicit PaneWindow(NSView* pane);
 
     std::function<void()> onShown;  ///< called once, after the first frame is on the screen
     std::function<void()> onClosed; ///< called when the user closes it; it still exists
@@ -26,6 +28,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    QWidget* pane_;
+    const NSView* pane_;
     QSize formSize_;
 };

@@ -4,6 +4,7 @@
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/detail/Announcement.h"
 #include "platform/AppKit/detail/KeyboardFocus.h"
+#include "platform/AppKit/detail/SectionFrame.h"
 #include "platform/AppKit/detail/ViewWidget.h"
 
 #include <QScrollArea>
@@ -52,6 +53,14 @@ void NSView::setHidden(bool hidden) {
     if (hidden)
         moveFocusOutOf(widget_);
     widget_->setHidden(hidden);
+}
+
+NSSize NSView::fittingSize() const {
+    for (auto* part : widget_->findChildren<QWidget*>())
+        if (auto* sections = dynamic_cast<SectionFrame*>(part))
+            sections->measure();
+    const QSize size = widget_->sizeHint();
+    return {static_cast<float>(size.width()), static_cast<float>(size.height())};
 }
 
 void NSView::setFrameSize(const NSSize& size) {

@@ -33,6 +33,10 @@ public:
     /// A hidden view takes no room. Keyboard and screen reader don't find it.
     void setHidden(bool hidden);
 
+    /// The size in which all that it shows now is in sight, in points. Where a section of it would
+    /// not fit on the screen, it counts on two columns or on scrolling.
+    NSSize fittingSize() const;
+
     /// Asks its superview for at least this much room, in points.
     void setFrameSize(const NSSize& size);
 
