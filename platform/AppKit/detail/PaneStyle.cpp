@@ -223,6 +223,11 @@ int PaneStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_ExclusiveIndicatorHeight:
     case PM_SliderLength:
         return kIndicator;
+    // A mouse needs a menu's. Pages also follow the wheel, and need the room.
+    case PM_ScrollBarExtent:
+        return widget && widget->window()->windowType() == Qt::Popup
+                   ? kTarget
+                   : QProxyStyle::pixelMetric(metric, option, widget);
     case PM_SliderThickness:
     case PM_SliderControlThickness:
         return kTarget;

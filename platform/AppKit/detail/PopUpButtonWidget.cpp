@@ -117,8 +117,8 @@ void PopUpButtonWidget::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);
     QStyleOptionButton option;
     initStyleOption(&option);
-    const int around = sizeHint().width() - fontMetrics().size(kTextFlags, text()).width();
-    option.text = fontMetrics().elidedText(text(), Qt::ElideMiddle, width() - around, kTextFlags);
+    const int room = width() - widthOf(QString());
+    option.text = fontMetrics().elidedText(text(), Qt::ElideMiddle, room, kTextFlags);
     painter.drawControl(QStyle::CE_PushButton, option);
 }
 
@@ -129,8 +129,15 @@ QSize PopUpButtonWidget::sizeHint() const {
     return QPushButton::sizeHint() + QSize(arrow, 0);
 }
 
+int PopUpButtonWidget::widthOf(const QString& caption) const {
+    const QFontMetrics metrics = fontMetrics();
+    return sizeHint().width() - metrics.size(kTextFlags, text()).width() +
+           metrics.size(kTextFlags, caption).width();
+}
+
 QSize PopUpButtonWidget::minimumSizeHint() const {
-    return sizeHint().boundedTo({kLeastCaption, QWIDGETSIZE_MAX});
+    const int least = std::max(kLeastCaption, widthOf(property("leastText").toString()));
+    return sizeHint().boundedTo({least, QWIDGETSIZE_MAX});
 }
 
 void PopUpButtonWidget::mousePressEvent(QMouseEvent* event) {

@@ -6,7 +6,7 @@
 #include <QPushButton>
 
 /// The widget behind an NSPopUpButton: a button that opens a menu. A caption without room is
-/// shortened.
+/// shortened, but the property `leastText` always has room.
 class PopUpButtonWidget final : public QPushButton {
 public:
     explicit PopUpButtonWidget(QWidget* parent);
@@ -34,6 +34,7 @@ private:
     friend class PopUpButtonInterface;
 
     void showIsOpen(bool isOpen);
+    int widthOf(const QString& caption) const;
 
     PopUpMenu& menu_; ///< a child
 };

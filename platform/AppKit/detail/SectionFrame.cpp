@@ -200,6 +200,26 @@ void SectionFrame::fitWindow() {
     const QSize size = window()->size();
     setLow(size.height() < kLow * line);
     setNarrow(button_ && (isLow_ || size.width() < kNarrow * line));
+    if (button_)
+        foldHeader();
+}
+
+/// Puts the parts of the header one above the other if they don't fit side by side in any section.
+void SectionFrame::foldHeader() {
+    const QString shown = button_->text();
+    int widest = 0;
+    for (int index = 0; isNarrow_ && index < bar_->count(); ++index) {
+        button_->setText(withoutMnemonic(bar_->tabText(index)));
+        widest = std::max(widest, button_->sizeHint().width());
+    }
+    button_->setText(shown);
+    button_->setMinimumWidth(widest); // the others stay where they are
+    QWidget* header = button_->parentWidget();
+    auto* parts = qobject_cast<QBoxLayout*>(header->layout());
+    parts->setDirection(QBoxLayout::LeftToRight);
+    forgetSizes(*header);
+    if (isNarrow_ && parts->minimumSize().width() > window()->width())
+        parts->setDirection(QBoxLayout::TopToBottom);
 }
 
 void SectionFrame::setPageMargins(bool narrow) {

@@ -19,9 +19,10 @@ class SectionBar;
 /// This class sets the margins of the pages' contents and of the widgets above them.
 ///
 /// In a narrow or low window a button with a menu replaces the list. The property `menuButton`
-/// names it. Widgets whose property `wideOnly` is true are then hidden, and the buttons beside it
-/// show their property `shortText` instead of their text. In a low window the rows show no
-/// explanations.
+/// names it. The parts of the layout around it are put one above the other if the window is too
+/// narrow for all. Widgets whose property `wideOnly` is true are then hidden, and the buttons
+/// beside it show their property `shortText` instead of their text. In a low window the rows show
+/// no explanations.
 ///
 /// These keys work in the whole window. Ctrl+Tab, Ctrl+Shift+Tab, Ctrl+Page Up and Ctrl+Page Down
 /// go to the neighbouring section. Alt+1 to Alt+9 go to the section with that number. Alt and a
@@ -56,6 +57,7 @@ private:
     void setPageMargins(bool narrow);
     void setNarrow(bool narrow);
     void fitHeader();
+    void foldHeader();
     void setLow(bool low);
 
     QStackedWidget* pages_ = nullptr;
