@@ -4,9 +4,9 @@
 
 #include "bench/Figures.h"
 #include "platform/AppKit/detail/ViewWidget.h"
-#include "src/palutil.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/PaletteView.h"
+#include "src/prefpane/palutil.h"
 #include "src/prefs.h"
 
 #include <QApplication>

@@ -5,9 +5,9 @@
 #include "bench/BarePreview.h"
 #include "bench/Figures.h"
 #include "platform/AppKit/detail/ViewWidget.h"
-#include "src/palutil.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/SampleScanView.h"
+#include "src/prefpane/palutil.h"
 #include "src/prefs.h"
 
 #include <QImage>

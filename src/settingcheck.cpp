@@ -2,7 +2,7 @@
 #include "src/settingcheck.h"
 
 #include "platform/CoreFoundation/Localization.h"
-#include "src/palutil.h"
+#include "src/prefpane/palutil.h"
 #include "src/settingwords.h"
 
 #include <algorithm>

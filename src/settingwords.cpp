@@ -5,7 +5,7 @@
 #include "src/keycombo.h"
 #include "src/linecolors.h"
 #include "src/numbertext.h"
-#include "src/palutil.h"
+#include "src/prefpane/palutil.h"
 #include "src/ptrutil.h"
 
 #include <algorithm>

@@ -3,7 +3,6 @@
 
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreFoundation/PreferencesOutcome.h"
-#include "src/daemonbundle.h"
 #include "src/login/launch.h"
 #include "src/openwindow.h"
 #include "src/prefpane/Daemon.h"

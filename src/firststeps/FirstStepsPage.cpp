@@ -7,7 +7,6 @@
 #include "platform/CoreFoundation/CFNumber.h"
 #include "platform/CoreFoundation/CFPreferences.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "src/daemonbundle.h"
 #include "src/page.h"
 #include "src/prefpane/Daemon.h"
 #include "src/prefpane/SliderController.h"

@@ -4,7 +4,6 @@
 #include "platform/CoreServices/ChangeWatch.h"
 #include "platform/CoreServices/LaunchServices.h"
 #include "platform/CoreServices/LaunchTrouble.h"
-#include "src/daemonbundle.h"
 #include "src/prefpane/PreferenceWrangler.h"
 
 #include <optional>
@@ -31,6 +30,8 @@ ProcessSerialNumber quitPSN;     ///< the agent that was last asked to quit
 bool openingLaunched = false;    ///< opening the pane launched an agent that isn't up yet
 std::optional<ChangeMask> changesOfVisit; ///< all of this visit; a mask may be 0
 CFRef<const CFString> daemonExecutablePath;
+CFRef<CFBundle> daemonBundle;              ///< made on first request
+CFRef<CFBundle> (*makeBundle)() = nullptr; ///< null: from daemonExecutablePath
 AEEventHandler aehandler = nullptr;
 std::optional<ChangeWatch> processWatch;
 std::optional<ChangeWatch> launchWatch;
@@ -141,7 +142,6 @@ OSErr ae(const AppleEvent* event, AppleEvent*, void*) {
 void daemonSetup(const CFString* path) {
     if (path)
         daemonExecutablePath = CFRef<const CFString>::retain(path);
-    daemonSetBundlePath(daemonExecutablePath.get());
     if (AEInstallEventHandler(kAgentEventClass, typeWildCard, ae, nullptr) == noErr)
         aehandler = ae;
     processWatch = watchProcesses(processesChanged);
@@ -167,7 +167,7 @@ void daemonCleanup() {
     if (aehandler)
         AERemoveEventHandler(kAgentEventClass, typeWildCard, aehandler);
     aehandler = nullptr;
-    daemonSetBundlePath(nullptr);
+    daemonBundle = nullptr;
     daemonExecutablePath = nullptr;
 }
 
@@ -193,4 +193,17 @@ AgentState daemonState() {
         return AgentState::Running;
     const bool isAwaited = daemonExecutablePath && isLaunching(toUTF8(daemonExecutablePath.get()));
     return isAwaited ? AgentState::Starting : AgentState::NotRunning;
+}
+
+CFBundle* daemonMainBundle() {
+    if (!daemonBundle && makeBundle)
+        daemonBundle = makeBundle();
+    else if (!daemonBundle && daemonExecutablePath)
+        if (const auto url = CFURLCreateWithFileSystemPath(daemonExecutablePath.get(), true))
+            daemonBundle = CFBundleCreate(url.get());
+    return daemonBundle.get();
+}
+
+void daemonMakeBundleBy(CFRef<CFBundle> (*make)()) {
+    makeBundle = make;
 }

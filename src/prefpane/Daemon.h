@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/CoreFoundation/CFString.h"
+#include "platform/CoreFoundation/CFBundle.h"
 #include "platform/CoreServices/AppleEvents.h"
 #include "src/prefs.h"
 
@@ -32,3 +32,9 @@ enum class AgentState {
 
 /// As far as is known. wranglerShowAgentState is called whenever it changes.
 AgentState daemonState();
+
+/// The agent application's bundle with its resources. Null without a path or bundle. Borrowed until
+/// daemonCleanup.
+CFBundle* daemonMainBundle();
+/// For commands, which don't set up the link: `make` makes that bundle when it is first asked for.
+void daemonMakeBundleBy(CFRef<CFBundle> (*make)());

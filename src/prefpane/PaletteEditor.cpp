@@ -9,8 +9,8 @@
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "src/numbertext.h"
-#include "src/palutil.h"
 #include "src/prefpane/BumperController.h"
+#include "src/prefpane/palutil.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,7 +5,7 @@
 #include "platform/AppKit/NSEvent.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/Appearance.h"
-#include "src/palutil.h"
+#include "src/prefpane/palutil.h"
 #include "src/prefs.h"
 
 #include <algorithm>

@@ -4,7 +4,7 @@
 #include "platform/AppKit/NSGraphics.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "src/daemonbundle.h"
+#include "src/prefpane/Daemon.h"
 #include "src/prefpane/NumberController.h"
 #include "src/prefpane/ptrman.h"
 

@@ -5,8 +5,8 @@
 #include "platform/AppKit/NSTabView.h"
 #include "platform/AppKit/RowMarks.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "src/palutil.h"
 #include "src/prefpane/BumperController.h"
+#include "src/prefpane/palutil.h"
 #include "src/profiles.h"
 #include "src/settingwords.h"
 

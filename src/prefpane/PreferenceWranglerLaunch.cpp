@@ -2,8 +2,8 @@
 #include "src/prefpane/PreferenceWrangler.h"
 
 #include "platform/AppKit/NSButton.h"
-#include "src/daemonbundle.h"
 #include "src/login/launch.h"
+#include "src/prefpane/Daemon.h"
 
 // The login items follow the setting. They are never read back into it, so their state, and whether
 // they could be changed, isn't checked.

@@ -8,9 +8,9 @@
 #include "platform/AppKit/NSStringDrawing.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/Appearance.h"
-#include "src/daemonbundle.h"
 #include "src/numbertext.h"
-#include "src/palutil.h"
+#include "src/prefpane/Daemon.h"
+#include "src/prefpane/palutil.h"
 #include "src/prefs.h"
 #include "src/ptrutil.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/prefpane/ptrman.h"
 
-#include "src/daemonbundle.h"
+#include "src/prefpane/Daemon.h"
 #include "src/ptrutil.h"
 
 #include <algorithm>

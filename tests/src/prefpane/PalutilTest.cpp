@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "src/palutil.h"
+#include "src/prefpane/palutil.h"
 
 #include "platform/QuickDraw/detail/GrafPort.h"
 #include "src/prefpane/Daemon.h"

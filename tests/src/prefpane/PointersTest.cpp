@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "src/daemonbundle.h"
 #include "src/prefpane/ptrman.h"
 #include "src/ptrutil.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"

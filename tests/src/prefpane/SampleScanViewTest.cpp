@@ -2,7 +2,7 @@
 #include "src/prefpane/SampleScanView.h"
 
 #include "platform/AppKit/detail/ViewWidget.h"
-#include "src/palutil.h"
+#include "src/prefpane/palutil.h"
 #include "tests/support/AgentBundle.h"
 #include "tests/support/ApplicationTest.h"
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "src/palutil.h"
+#include "src/prefpane/palutil.h"
 
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreServices/LaunchServices.h"
 #include "platform/HIToolbox/Appearance.h"
-#include "src/daemonbundle.h"
 #include "src/iconutil.h"
+#include "src/prefpane/Daemon.h"
 #include "src/prefs.h"
 #include "src/proputil.h"
 
