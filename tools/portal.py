@@ -1,7 +1,9 @@
 # SPDX-License-Identifier: MIT
 """Replaces the desktop's settings portal: tells programs which look the user wants.
 
-    python3 -m tools.portal LOOK
+    python3 -m tools.portal LOOK [still]
+
+Still: things should move less.
 """
 
 import sys
@@ -18,9 +20,11 @@ INTERFACE = """<node><interface name="org.freedesktop.portal.Settings">
 LOOKS = {"light": (2, 0), "dark": (1, 0), "contrast": (2, 1), "contrast-dark": (1, 1)}
 
 
-def main(look: str) -> None:
+def main(look: str, motion: str = "") -> None:
     scheme, contrast = (GLib.Variant("u", wish) for wish in LOOKS[look])
-    told = {"org.freedesktop.appearance": {"color-scheme": scheme, "contrast": contrast}}
+    still = GLib.Variant("u", motion == "still")
+    told = {"org.freedesktop.appearance":
+            {"color-scheme": scheme, "contrast": contrast, "reduced-motion": still}}
 
     def answer(_bus, _sender, _path, _interface, _method, _groups, call) -> None:
         call.return_value(GLib.Variant("(a{sa{sv}})", (told,)))
@@ -33,4 +37,4 @@ def main(look: str) -> None:
 
 
 if __name__ == "__main__":
-    main(sys.argv[1])
+    main(*sys.argv[1:])

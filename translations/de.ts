@@ -3012,10 +3012,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Die Linie lief los, aber nichts hielt sie an. %s Versuchen Sie es noch einmal, wenn Sie möchten.</translation>
     </message>
     <message>
-        <source>No press has arrived yet. Look whether your switch is connected and counts as a trigger.</source>
-        <translation>Noch kein Druck kam an. Sehen Sie nach, ob Ihr Schalter angeschlossen ist und als Auslöser zählt.</translation>
-    </message>
-    <message>
         <source>Spread of your presses, up to %.0f ms</source>
         <translation>Streuung Ihrer Drücke, bis %.0f ms</translation>
     </message>
@@ -3026,6 +3022,46 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>The pointer’s speed is too far from the line’s to say how many clicks will hit.</source>
         <translation>Die Geschwindigkeit des Zeigers ist zu weit von der der Linie entfernt, um zu sagen, wie viele Klicks treffen.</translation>
+    </message>
+    <message>
+        <source>It must last for %.1f seconds.</source>
+        <translation>Er muss %.1f Sekunden dauern.</translation>
+    </message>
+    <message>
+        <source>Any key but Tab and Escape is a press, and any mouse button on the picture.</source>
+        <translation>Als Druck zählt jede Taste außer Tab und Escape, und jede Maustaste auf dem Bild.</translation>
+    </message>
+    <message>
+        <source>Whether your switch arrives is shown by “First steps”, in the section “General”. Escape leaves.</source>
+        <translation>Ob Ihr Schalter ankommt, zeigt „Erste Schritte“ im Abschnitt „Allgemein“. Escape verlässt die Seite.</translation>
+    </message>
+    <message>
+        <source>Two sweeps went by without a press. To leave, press now. To go on, wait %.0f seconds.</source>
+        <translation>Zwei Durchläufe vergingen ohne Druck. Zum Verlassen drücken Sie jetzt. Zum Weitermachen warten Sie %.0f Sekunden.</translation>
+    </message>
+    <message>
+        <source>To leave, hold your switch down for %.0f seconds between two sweeps.</source>
+        <translation>Zum Verlassen halten Sie den Schalter zwischen zwei Durchläufen %.0f Sekunden gedrückt.</translation>
+    </message>
+    <message>
+        <source>To leave, hold your switch down until the line has passed, and %.0f seconds more.</source>
+        <translation>Zum Verlassen halten Sie den Schalter gedrückt, bis die Linie vorbei ist, und noch %.0f Sekunden.</translation>
+    </message>
+    <message>
+        <source>To leave at any time, hold your switch down for %.0f seconds.</source>
+        <translation>Zum Verlassen halten Sie jederzeit den Schalter %.0f Sekunden gedrückt.</translation>
+    </message>
+    <message>
+        <source>Let go, and you leave.</source>
+        <translation>Lassen Sie los, dann verlassen Sie die Seite.</translation>
+    </message>
+    <message>
+        <source>Hold on to leave, or let go to stay.</source>
+        <translation>Halten Sie weiter, um die Seite zu verlassen, oder lassen Sie los, um zu bleiben.</translation>
+    </message>
+    <message>
+        <source>No press has counted yet.</source>
+        <translation>Noch kein Druck hat gezählt.</translation>
     </message>
 </context>
 <context>

@@ -3012,10 +3012,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>La ligne est partie, mais rien ne l’a arrêtée. %s Réessayez quand vous voulez.</translation>
     </message>
     <message>
-        <source>No press has arrived yet. Look whether your switch is connected and counts as a trigger.</source>
-        <translation>Aucun appui n’est encore arrivé. Vérifiez que votre contacteur est branché et qu’il compte.</translation>
-    </message>
-    <message>
         <source>Spread of your presses, up to %.0f ms</source>
         <translation>Dispersion de vos appuis, jusqu’à %.0f ms</translation>
     </message>
@@ -3026,6 +3022,46 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>The pointer’s speed is too far from the line’s to say how many clicks will hit.</source>
         <translation>La vitesse du pointeur est trop éloignée de celle de la ligne pour dire combien de clics seront justes.</translation>
+    </message>
+    <message>
+        <source>It must last for %.1f seconds.</source>
+        <translation>Il doit durer %.1f secondes.</translation>
+    </message>
+    <message>
+        <source>Any key but Tab and Escape is a press, and any mouse button on the picture.</source>
+        <translation>Toute touche sauf Tab et Échap compte comme appui, et tout bouton de souris sur l’image.</translation>
+    </message>
+    <message>
+        <source>Whether your switch arrives is shown by “First steps”, in the section “General”. Escape leaves.</source>
+        <translation>«&#xa0;Premiers pas&#xa0;», dans la section «&#xa0;Général&#xa0;», montre si votre contacteur répond. Échap quitte.</translation>
+    </message>
+    <message>
+        <source>Two sweeps went by without a press. To leave, press now. To go on, wait %.0f seconds.</source>
+        <translation>Deux passages se sont écoulés sans appui. Pour quitter, appuyez maintenant. Pour continuer, attendez %.0f secondes.</translation>
+    </message>
+    <message>
+        <source>To leave, hold your switch down for %.0f seconds between two sweeps.</source>
+        <translation>Pour quitter, maintenez votre contacteur %.0f secondes entre deux passages.</translation>
+    </message>
+    <message>
+        <source>To leave, hold your switch down until the line has passed, and %.0f seconds more.</source>
+        <translation>Pour quitter, maintenez votre contacteur jusqu’à ce que la ligne soit passée, et %.0f secondes de plus.</translation>
+    </message>
+    <message>
+        <source>To leave at any time, hold your switch down for %.0f seconds.</source>
+        <translation>Pour quitter à tout moment, maintenez votre contacteur %.0f secondes.</translation>
+    </message>
+    <message>
+        <source>Let go, and you leave.</source>
+        <translation>Relâchez, et vous quittez.</translation>
+    </message>
+    <message>
+        <source>Hold on to leave, or let go to stay.</source>
+        <translation>Maintenez pour quitter, ou relâchez pour rester.</translation>
+    </message>
+    <message>
+        <source>No press has counted yet.</source>
+        <translation>Aucun appui n’a encore compté.</translation>
     </message>
 </context>
 <context>

@@ -17,7 +17,7 @@ HeldKeyboard::~HeldKeyboard() {
 }
 
 bool HeldKeyboard::isResting(double now) const {
-    return now > stirred_ + kLongestRest;
+    return quietFor(now) > kLongestRest;
 }
 
 void HeldKeyboard::update(double now, bool isWanted, bool isKeyDown) {

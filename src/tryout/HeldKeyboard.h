@@ -3,7 +3,7 @@
 
 /// Keeps the keys from the agent and the desktop while presses belong to a try. So no press starts
 /// a real scan. The keys are free again when the object goes, and after two minutes without a
-/// press: the screen can't be locked before, and the switch may be the user's only way to leave.
+/// press: the screen can't be locked before.
 class HeldKeyboard {
 public:
     HeldKeyboard() = default;
@@ -13,6 +13,9 @@ public:
 
     /// Notes that the user was active at that moment. Moments are on GetCurrentEventTime's clock.
     void stir(double moment) { stirred_ = moment; }
+
+    /// Seconds since then.
+    double quietFor(double now) const { return now - stirred_; }
 
     bool isResting(double now) const;
 

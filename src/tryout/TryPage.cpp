@@ -18,6 +18,9 @@ namespace {
 
 using Phase = tryout::Session::Phase;
 
+/// Seconds without any press, after which the page says what counts as one.
+constexpr double kFirstPressExpected = 30;
+
 /// The page; null while it isn't open.
 std::unique_ptr<TryPage> page;
 
@@ -141,9 +144,17 @@ void TryPage::frame() {
     session_->advance(now);
     showPhase();
     keyboard_.update(now, session_->phase() != Phase::Done, session_->isPressed());
-    if (session_->phase() == Phase::Ready && keyboard_.isResting(now))
-        say(tryout::restText(hasBegun()));
+    showQuiet(now);
     tryView_->showFrame();
+}
+
+void TryPage::showQuiet(double now) {
+    if (session_->phase() != Phase::Ready)
+        return;
+    if (hasBegun() && keyboard_.isResting(now))
+        say(tryout::restText());
+    if (!hasBegun() && keyboard_.quietFor(now) > kFirstPressExpected)
+        say(tryout::noPressText(trigger_));
 }
 
 void TryPage::showPhase() {
@@ -152,6 +163,8 @@ void TryPage::showPhase() {
         return;
     shownPhase_ = phase;
     tryView_->setNeedsDisplay(true);
+    if (phase == Phase::Left)
+        return left();
     const bool isDone = phase == Phase::Done;
     for (NSView* view :
          std::initializer_list<NSView*>{takeBtn_, suggestionBtn_, keepBtn_, againBtn_, numbers_,
@@ -166,10 +179,12 @@ void TryPage::showPhase() {
 /// What became of the last sweep stays in sight, but is heard once.
 void TryPage::showCourse() {
     const std::string course = tryout::courseText(*session_, trigger_);
-    const std::string keys = desktopKeepsItsShortcuts() ? tryout::sharedKeysText() : "";
-    numbers_->setHidden(keys.empty());
-    numbers_->setStringValue(keys);
-    tryView_->setSaying(hasBegun() ? course : joined(Joint::Sentences, {course, keys}));
+    const std::string hint =
+        joined(Joint::Sentences, {tryout::leaveText(trigger_),
+                                  desktopKeepsItsShortcuts() ? tryout::sharedKeysText() : ""});
+    numbers_->setHidden(false);
+    numbers_->setStringValue(hint);
+    tryView_->setSaying(hasBegun() ? course : joined(Joint::Sentences, {course, hint}));
     const bool isAfterSweep = session_->phase() == Phase::Ready && hasBegun();
     course_->setStringValue(isAfterSweep ? tryout::lastText(*session_) + '\n' + course : course);
 }
@@ -210,6 +225,7 @@ void TryPage::acted(double moment) {
 
 // The page is deleted at the next frame: its views are still at work.
 void TryPage::left() {
+    keepUnfinished();
     isLeft_ = true;
 }
 

@@ -66,6 +66,8 @@ private:
     /// Updates the page for the session's phase.
     void showPhase();
     void showCourse();
+    /// What is said when no press comes.
+    void showQuiet(double now);
     /// Shows the text and makes a screen reader say it.
     void say(const std::string& text);
     /// After a rest a press only continues the try. True if this one did.
@@ -74,7 +76,9 @@ private:
     // TryPageResult.cpp: the result of a try, what follows from it, and earlier tries
     void showResult();
     void showSuggestion();
-    void keep(const tryout::Advice& advice, const tryout::Measured& measured);
+    /// False when the try couldn't be stored.
+    bool keep(const tryout::Advice& advice, const tryout::Measured& measured);
+    void keepUnfinished();
     void showTarget();
     void setTarget(tryout::TargetChoice choice);
     void showHistory(const std::string& note);

@@ -40,7 +40,7 @@ void TryPage::showResult() {
     keepBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Keep %.1f"), conditions_.sweep.time));
     suggestion_ = tryout::suggestionOf(advice, steadiness, prefs);
     showSuggestion();
-    keep(advice, measured);
+    showHistory(keep(advice, measured) ? "" : localized("Try", "This try couldn’t be stored."));
 }
 
 void TryPage::showSuggestion() {
@@ -70,14 +70,19 @@ void TryPage::takeSuggestion(NSButton*) {
                {changeText(*setting, before, prefs, kSettingBecomes)}));
 }
 
-void TryPage::keep(const tryout::Advice& advice, const tryout::Measured& measured) {
+bool TryPage::keep(const tryout::Advice& advice, const tryout::Measured& measured) {
     if (advice.verdict != tryout::Verdict::Random)
         remember(earlier_, measured, conditions_);
     using enum tryout::Trigger::Way;
     const bool isOnRelease = trigger_.way == Release || trigger_.way == Hold;
-    const bool isStored =
-        advice.presses == 0 || history_.add(pastTry(advice, conditions_, measured, isOnRelease));
-    showHistory(isStored ? "" : localized("Try", "This try couldn’t be stored."));
+    return advice.presses == 0 || history_.add(pastTry(advice, conditions_, measured, isOnRelease));
+}
+
+/// A try that is left after enough presses for advice isn't lost.
+void TryPage::keepUnfinished() {
+    const tryout::Advice advice = tryout::advise(session_->measured(), conditions_);
+    if (!isLeft_ && session_->phase() != Phase::Done && advice.presses >= tryout::kFewestTrials)
+        keep(advice, session_->measured());
 }
 
 void TryPage::showHistory(const std::string& note) {

@@ -9,6 +9,7 @@
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/EventTimers.h"
 #include "src/prefs.h"
+#include "src/tryout/words.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,6 +27,8 @@ constexpr double kMarkTint = 0.2;     ///< opacity inside
 constexpr float kPlaceSize = 10;      ///< of the squares that show where the line was stopped
 constexpr double kShownTargets = 3;   ///< the least height of the picture of places, in targets
 constexpr float kLabelHeight = 24, kLabelMargin = 10;
+constexpr float kHoldPartHeight = 20; ///< of the parts that are filled while a press is held
+constexpr float kHoldHeight = kHoldPartHeight + kLabelHeight;
 
 NSColor scanLineColor() {
     return NSColor::colorWithDeviceRed(prefs.lineColor.red / 255.0, prefs.lineColor.green / 255.0,
@@ -46,9 +49,8 @@ void drawBand(const NSRect& band) {
     NSFrameRectWithWidth(band, kMarkWidth);
 }
 
-void drawLabel(const char* text, float x, float y) {
-    NSDrawString(createFromUTF8(text).get(), {x, y, 400, kLabelHeight},
-                 {NSFont::systemFontOfSize(0)});
+void drawLabel(const std::string& text, const NSRect& rect) {
+    NSDrawString(createFromUTF8(text).get(), rect, {NSFont::systemFontOfSize(0)});
 }
 
 bool isWithModifier(const NSEvent& event) {
@@ -97,12 +99,30 @@ NSRect TryView::lineAt(double moment) const {
 
 // Where the line will be when this is drawn isn't known yet. But the farthest place is.
 void TryView::showFrame() {
+    const double now = GetCurrentEventTime();
+    showHold(session_->heldToLeave(now));
     if (!showsLine())
         return;
-    const double now = GetCurrentEventTime();
     const NSRect next = lineAt(now), last = lineAt(now + kDrawingTime);
     setNeedsDisplayInRect(NSInsetRect(shown_, 0, -1));
     setNeedsDisplayInRect({0, next.y - 1, next.width, last.y - next.y + next.height + 2});
+}
+
+NSRect TryView::holdBar() const {
+    const NSRect whole = bounds();
+    return {kLabelMargin, whole.height - kHoldHeight - kLabelMargin, whole.width - 2 * kLabelMargin,
+            kHoldHeight};
+}
+
+/// It changes once a second: nothing flashes, and nothing moves but the line.
+void TryView::showHold(int seconds) {
+    if (seconds == shownHold_)
+        return;
+    shownHold_ = seconds;
+    setNeedsDisplayInRect(holdBar());
+    if (seconds == 1 || seconds == tryout::kHoldToLeave)
+        NSAccessibilityPostNotification(this, NSAccessibilityAnnouncementRequestedNotification,
+                                        tryout::holdText(seconds > 1));
 }
 
 void TryView::drawRect(const NSRect&) {
@@ -113,11 +133,29 @@ void TryView::drawRect(const NSRect&) {
         drawMark();
     markColor(1).set();
     drawFrame();
+    if (shownHold_ > 0)
+        drawHold();
     if (showsLine()) {
         shown_ = lineAt(GetCurrentEventTime());
         scanLineColor().set();
         NSRectFillUsingOperation(shown_, NSCompositeSourceOver);
     }
+}
+
+/// A part for each second, filled when that is over, and under them what to do.
+void TryView::drawHold() const {
+    NSRect bar = holdBar();
+    NSEraseRect(bar);
+    const float step = bar.width / tryout::kHoldToLeave;
+    for (int i = 0; i < tryout::kHoldToLeave; ++i) {
+        const NSRect part = {bar.x + step * static_cast<float>(i), bar.y, step, kHoldPartHeight};
+        if (i < shownHold_)
+            NSRectFill(NSInsetRect(part, kMarkWidth, 0));
+        else
+            NSFrameRectWithWidth(NSInsetRect(part, kMarkWidth, 0), kMarkWidth);
+    }
+    drawLabel(tryout::holdText(shownHold_ == tryout::kHoldToLeave),
+              {bar.x + kMarkWidth, bar.y + kHoldPartHeight, bar.width, kLabelHeight});
 }
 
 void TryView::drawMark() const {
@@ -147,9 +185,10 @@ void TryView::drawPlaces() const {
                         middle + static_cast<float>(trial.miss) * points - kPlaceSize / 2,
                         kPlaceSize, kPlaceSize});
     }
-    drawLabel(localized("Try", "Early").c_str(), kLabelMargin, kLabelMargin);
-    drawLabel(localized("Try", "Late").c_str(), kLabelMargin,
-              whole.height - kLabelMargin - kLabelHeight);
+    NSRect label = {kLabelMargin, kLabelMargin, whole.width - 2 * kLabelMargin, kLabelHeight};
+    drawLabel(localized("Try", "Early"), label);
+    label.y = whole.height - kLabelMargin - kLabelHeight;
+    drawLabel(localized("Try", "Late"), label);
 }
 
 // A scan key may have modifiers.

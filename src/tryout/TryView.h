@@ -57,7 +57,10 @@ private:
 
     NSRect lineAt(double moment) const;
     NSRect bandAround(double position) const;
+    NSRect holdBar() const;
+    void showHold(int seconds);
     void drawMark() const;
+    void drawHold() const;
     void drawPlaces() const;
     bool showsLine() const;
 
@@ -66,4 +69,5 @@ private:
     float scale_ = 1; ///< points a millimetre
     std::string saying_;
     NSRect shown_ = {}; ///< the line as last drawn
+    int shownHold_ = 0; ///< seconds of a held press, as last drawn
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "src/tryout/session.h"
 
+#include "src/tryout/advice.h"
+
 #include <algorithm>
 #include <random>
 
@@ -56,7 +58,8 @@ void Session::press(double moment) {
     if (isDown_)
         return;
     advance(moment);
-    isDown_ = true;
+    isDown_ = hasLength_ = true;
+    before_ = measured_.trials.size();
     hasCounted_ = isExtra_ = false;
     pressed_ = moment;
     isExtra_ = phase_ == Phase::Stopped;
@@ -68,7 +71,11 @@ void Session::release(double moment) {
     if (!isDown_)
         return;
     advance(moment);
+    const bool isOfferTaken = phase_ == Phase::Offer && moment - pressed_ >= trigger_.shortest;
+    const bool leaves = isOfferTaken || heldToLeave(moment) == kHoldToLeave;
     isDown_ = false;
+    if (leaves)
+        return leave(before_);
     if (trigger_.way == Trigger::Way::Release && moment - pressed_ >= trigger_.shortest)
         count(moment);
     else if (trigger_.way == Trigger::Way::Hold && hasCounted_)
@@ -82,9 +89,13 @@ void Session::release(double moment) {
 }
 
 void Session::act(double moment) {
+    advance(moment);
+    if (phase_ == Phase::Offer)
+        return leave(measured_.trials.size());
     if (trigger_.way == Trigger::Way::Hold && isDown_)
         return release(moment);
     press(moment);
+    hasLength_ = false;
     if (trigger_.way == Trigger::Way::Hold)
         return;
     if (!hasCounted_)
@@ -104,7 +115,39 @@ void Session::advance(double now) {
         pass();
     if (phase_ == Phase::Stopped && !isDown_ &&
         now >= std::max(stopped_, released_) + kSettlingTime)
-        phase_ = index_ < kFreeSweeps + kMeasuredSweeps ? Phase::Ready : Phase::Done;
+        phase_ = phaseAfterSweep();
+    if (phase_ == Phase::Offer && !isDown_ && now >= offered_ + kOfferTime)
+        phase_ = Phase::Ready;
+}
+
+Session::Phase Session::phaseAfterSweep() {
+    if (index_ == kFreeSweeps + kMeasuredSweeps)
+        return Phase::Done;
+    if (unanswered_ < kUnansweredSweeps)
+        return Phase::Ready;
+    unanswered_ = 0;
+    offered_ = std::max(stopped_, released_) + kSettlingTime;
+    return Phase::Offer;
+}
+
+// Where letting go stops the line, a press may last until the line has passed.
+int Session::heldToLeave(double now) const {
+    const bool stopsByRelease =
+        trigger_.way == Trigger::Way::Release || trigger_.way == Trigger::Way::Hold;
+    const bool isOnItsWay = phase_ == Phase::Delay || phase_ == Phase::Sweeping;
+    if (!isDown_ || !hasLength_ || (stopsByRelease && isOnItsWay))
+        return 0;
+    const double since = pressed_ + trigger_.shortest;
+    const double idle = now - (stopsByRelease ? std::max(since, stopped_) : since);
+    return std::clamp(static_cast<int>(idle), 0, kHoldToLeave);
+}
+
+/// Enough trials have a result, which is left by leaving once more.
+void Session::leave(std::size_t kept) {
+    measured_.trials.resize(kept);
+    const auto presses = std::count_if(measured_.trials.begin(), measured_.trials.end(),
+                                       [](const Trial& trial) { return trial.pressed; });
+    phase_ = phase_ != Phase::Done && presses >= kFewestTrials ? Phase::Done : Phase::Left;
 }
 
 /// A press that is long enough does what the phase needs.
@@ -143,12 +186,14 @@ void Session::stop(double moment) {
     trial.offset = elapsed - trial.markTime;
     trial.miss = sweep_.positionAt(elapsed) - mark();
     isAwaitingHold_ = isAwaitingReady_ = !isFree();
+    unanswered_ = 0;
     finish(trial, moment);
 }
 
 /// The line has reached the far edge.
 void Session::pass() {
     isAwaitingHold_ = isAwaitingReady_ = false;
+    ++unanswered_;
     finish({.markTime = sweep_.timeAt(mark())}, started_ + sweep_.time);
 }
 

@@ -68,6 +68,30 @@ std::string readyText(const Session& session, const Trigger& trigger) {
                   session.sweepIndex() - kFreeSweeps + 1, kMeasuredSweeps);
 }
 
+std::string countingText(const Trigger& trigger) {
+    const std::string shortest =
+        trigger.shortest > 0
+            ? format(LOCALIZABLE("Try", "It must last for %.1f seconds."), trigger.shortest)
+            : "";
+    return joined(Joint::Sentences,
+                  {localized("Try", "Any key but Tab and Escape is a press, and any mouse button "
+                                    "on the picture."),
+                   shortest,
+                   localized("Try", "Whether your switch arrives is shown by “First steps”, in the "
+                                    "section “General”. Escape leaves.")});
+}
+
+static_assert(kUnansweredSweeps == 2);
+
+std::string offerText(const Trigger& trigger) {
+    return joined(
+        Joint::Sentences,
+        {format(LOCALIZABLE("Try", "Two sweeps went by without a press. To leave, press now. To go "
+                                   "on, wait %.0f seconds."),
+                kOfferTime),
+         countingText(trigger)});
+}
+
 std::string hitsText(const Advice& advice, const Conditions& tried, const Measured& measured) {
     return format(LOCALIZABLE("Try", "You stopped within %g mm of the mark in %d of %zu sweeps."),
                   shownLength(tried.target / 2), advice.hits, measured.trials.size());
@@ -249,11 +273,35 @@ std::string sharedKeysText() {
                             "may scan as well meanwhile.");
 }
 
-std::string restText(bool hasBegun) {
-    if (!hasBegun)
-        return localized("Try",
-                         "No press has arrived yet. Look whether your switch is connected and "
-                         "counts as a trigger.");
+std::string leaveText(const Trigger& trigger) {
+    const double seconds = std::ceil(kHoldToLeave + trigger.shortest);
+    switch (trigger.way) {
+    case Trigger::Way::Release:
+        return format(LOCALIZABLE("Try", "To leave, hold your switch down for %.0f seconds between "
+                                         "two sweeps."),
+                      seconds);
+    case Trigger::Way::Hold:
+        return format(LOCALIZABLE("Try", "To leave, hold your switch down until the line has "
+                                         "passed, and %.0f seconds more."),
+                      seconds);
+    default:
+        return format(
+            LOCALIZABLE("Try", "To leave at any time, hold your switch down for %.0f seconds."),
+            seconds);
+    }
+}
+
+std::string holdText(bool isEnough) {
+    return isEnough ? localized("Try", "Let go, and you leave.")
+                    : localized("Try", "Hold on to leave, or let go to stay.");
+}
+
+std::string noPressText(const Trigger& trigger) {
+    return joined(Joint::Sentences,
+                  {localized("Try", "No press has counted yet."), countingText(trigger)});
+}
+
+std::string restText() {
     return localized("Try", "You are having a rest, and your switch scans as ever. Press here to "
                             "go on.");
 }
@@ -289,7 +337,10 @@ std::string courseText(const Session& session, const Trigger& trigger) {
         return localized("Try", "Go.");
     case Session::Phase::Stopped:
         return lastText(session);
+    case Session::Phase::Offer:
+        return offerText(trigger);
     case Session::Phase::Done:
+    case Session::Phase::Left:
         break;
     }
     return {};

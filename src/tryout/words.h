@@ -27,8 +27,17 @@ std::string courseText(const Session& session, const Trigger& trigger);
 /// When keys can't be kept from the agent and the desktop.
 std::string sharedKeysText();
 
-/// After a long time without a press, or without any.
-std::string restText(bool hasBegun);
+/// How to leave with the switch alone.
+std::string leaveText(const Trigger& trigger);
+
+/// While a press is held that may become one that leaves, and once it has.
+std::string holdText(bool isEnough);
+
+/// When no press has come yet: what counts as one, and where to look whether it arrives.
+std::string noPressText(const Trigger& trigger);
+
+/// After a long time without a press.
+std::string restText();
 
 /// The size of the marks, in millimetres along the line's way.
 std::string targetText(double height, bool isPaletteButton);

@@ -8,7 +8,7 @@ from typing import NamedTuple
 
 SPACE = 0x20
 SUCCESS, ASYNCHRONOUS, CURRENT_TIME = 0, 1, 0  # X's
-BYTES_A_PIXEL = 4  # blue, green, red and nothing
+BYTES_A_PIXEL = 4
 HELD = 0.08  # seconds
 STANDS = 0.1  # seconds, some frames
 
@@ -50,6 +50,16 @@ class Server:
         self.display = ctypes.c_void_p(self.x11.XOpenDisplay(None))
         self.root = ctypes.c_ulong(self.x11.XDefaultRootWindow(self.display))
 
+    def pixels(self, left: int, top: int, width: int, height: int) -> bytes:
+        """Blue, green, red and nothing of each."""
+        all_planes, z_pixmap = ctypes.c_ulong(-1), 2
+        image = ctypes.c_void_p(self.x11.XGetImage(
+            self.display, self.root, left, top, width, height, all_planes, z_pixmap))
+        data = ctypes.cast(image.value + 16, ctypes.POINTER(ctypes.c_void_p))[0]  # of XImage
+        copy = ctypes.string_at(data, width * height * BYTES_A_PIXEL)
+        self.x11.XDestroyImage(image)
+        return copy
+
     def keys_are_free(self) -> bool:
         """Whether a program, such as the agent or the desktop, gets keys that it asks for."""
         answer = self.x11.XGrabKeyboard(self.display, self.root, False, ASYNCHRONOUS, ASYNCHRONOUS,
@@ -66,19 +76,14 @@ class Column(Server):
         super().__init__()
         self._place = left, top, 1, bottom - top
 
-    def pixels(self) -> list[tuple[int, int]]:
+    def rows(self) -> list[tuple[int, int]]:
         """Red and green, from the top."""
-        all_planes, z_pixmap = ctypes.c_ulong(-1), 2
-        image = ctypes.c_void_p(self.x11.XGetImage(
-            self.display, self.root, *self._place, all_planes, z_pixmap))
-        data = ctypes.cast(image.value + 16, ctypes.POINTER(ctypes.c_void_p))[0]  # of XImage
-        pixels = ctypes.string_at(data, self._place[3] * BYTES_A_PIXEL)
-        self.x11.XDestroyImage(image)
+        pixels = self.pixels(*self._place)
         return list(zip(pixels[2::BYTES_A_PIXEL], pixels[1::BYTES_A_PIXEL]))
 
     def line(self) -> float | None:
         """Where the middle of the dark red line is, in pixels from the top; nothing without one."""
-        rows = [row for row, (red, green) in enumerate(self.pixels()) if red > 80 > green]
+        rows = [row for row, (red, green) in enumerate(self.rows()) if red > 80 > green]
         return sum(rows) / len(rows) + 0.5 if rows else None
 
     def stopped_line(self) -> float | None:
@@ -90,7 +95,7 @@ class Column(Server):
     def mark(self) -> int:
         """How many rows are the mark's: neither white nor the frame's, at the edges."""
         frame = 4
-        return sum(pixel != (255, 255) for pixel in self.pixels()[frame:-frame])
+        return sum(pixel != (255, 255) for pixel in self.rows()[frame:-frame])
 
 
 class Switch(Server):
@@ -101,12 +106,12 @@ class Switch(Server):
         self._test = ctypes.CDLL("libXtst.so.6")
         self._key = self.x11.XKeysymToKeycode(self.display, ctypes.c_ulong(SPACE))
 
-    def press(self) -> Span:
+    def press(self, length: float = HELD) -> Span:
         """Gives the moment when it went down."""
         before = time.monotonic()
         self._send(True)
         moment = Span(before, time.monotonic())
-        time.sleep(HELD)
+        time.sleep(length)
         self._send(False)
         return moment
 

@@ -10,16 +10,20 @@ import csv
 import plistlib
 import re
 import shutil
+import sys
 import time
 from pathlib import Path
 from statistics import median
+from threading import Thread
 
-from tests.e2e.desktop import Desktop, given
+from tests.e2e.desktop import Desktop, given, process_of
 from tests.e2e.line import Column, Span, Switch, watch
+from tests.e2e.motion import look_for, most_flashes
 from tests.e2e.screen import Atspi, Control, GLib, press
 from tests.e2e.startup import DATE, NEVER
 from tests.e2e.tour import SCAN_SPEED, Tour, touring
 from tests.e2e.waiting import check, until
+from tools.portal import NAME as PORTAL
 
 SIZE = 1024, 768
 MILLIMETRES_A_PIXEL = 25.4 / 96  # as Xvfb says
@@ -32,6 +36,11 @@ SPEED = SIZE[1] / SCAN_TIME  # pixels a second
 TARGET = 12  # millimetres
 FRAME = 1 / 60  # seconds
 PRESS = 0.008 + FRAME
+THICKNESS = 7  # pixels
+HOLD = 4.3  # seconds, that leave
+SETTLED = 0.8  # seconds; another sweep can start then
+NO_PRESS = 30  # seconds, until the page says what a press is
+MOST_FLASHES = 3  # a second
 
 HELP = "Press any key or button, or"  # of the view
 
@@ -195,6 +204,110 @@ def take_the_advice(tour: Tour) -> str:
     return f"{account}; undone: {undone}"
 
 
+def open_the_page(tour: Tour) -> Try:
+    tour.screen.click("Find my speed", "push button")
+    this = Try(tour)
+    this.get_ready()
+    return this
+
+
+def wait_quietly(tour: Tour) -> str:
+    """Without a press the page says what one is. Meanwhile nothing moves."""
+    this = open_the_page(tour)
+    time.sleep(1)
+    first, *others = look_for(NO_PRESS - 5, SIZE)
+    changed = [each.changed_since(first) for each in others if each.changed_since(first)]
+    check(not changed, f"the page changes by itself: {changed[:3]}")
+    until(lambda: this.saying().startswith("No press has counted yet. Any key"), "it says what counts")
+    tour.picture("no-press")
+    return f"{len(others)} looks the same"
+
+
+def watch_what_moves(tour: Tour) -> str:
+    """While the line sweeps nothing moves but the line."""
+    this = Try(tour)
+    this.switch.press()
+    until(lambda: this.saying().startswith("Go."), "the line goes")
+    time.sleep(0.3)
+    looks, box, moves = look_for(SCAN_TIME / 4, SIZE), this.view.box, 0
+    for earlier, later in zip(looks, looks[1:]):
+        if found := later.changed_since(earlier):
+            way = SPEED * later.taken.since(earlier.taken).most
+            high = found[3] - found[1]
+            check(box.top <= found[1] and found[3] <= box.bottom and high <= way + 4 * THICKNESS,
+                  f"{found} changed while the line went on by {way:.0f} pixels")
+            moves += 1
+    check(moves > 5, "the line stands")
+    this.switch.press()
+    return f"{moves} frames"
+
+
+def press_quickly(tour: Tour) -> str:
+    """The quickest changes that presses can bring about: start and stop, as soon as that can be,
+    then presses without end, and held ones."""
+    this = Try(tour)
+    time.sleep(SETTLED)
+
+    def press_all() -> None:
+        for _ in range(4):
+            this.switch.press(0.03)
+            time.sleep(0.05)
+            this.switch.press(0.03)
+            time.sleep(SETTLED - 0.06)
+        for length in (0.03,) * 15 + (1.1,) * 3:
+            this.switch.press(length)
+            time.sleep(0.03)
+
+    presses = Thread(target=press_all)
+    presses.start()
+    looks = look_for(9, SIZE)
+    presses.join()
+    most = most_flashes(looks)
+    check(0 < most <= MOST_FLASHES, f"a place flashes {most} times in a second")
+    return f"{most} in a second, of {len(looks)} looks"
+
+
+def leave_by_switch(tour: Tour) -> str:
+    """By one switch alone: held, by key or by mouse button, or, where it can't be, as the page
+    offers it after two sweeps without a press."""
+    switch, announcements = Switch(), Announcements()
+
+    def is_left() -> None:
+        until(lambda: "The line" not in tour.screen.names("push button"), "the page is left")
+        tour.screen.find("Line scan time", "slider")
+
+    this = open_the_page(tour)
+    switch.press(HOLD - 1)
+    until(lambda: this.saying().startswith("Ready"), "a shorter press starts a sweep as ever")
+    holding = Thread(target=switch.press, args=(HOLD,))
+    holding.start()
+    time.sleep(HOLD - 1.5)
+    tour.picture("hold")
+    holding.join()
+    is_left()
+    heard = announcements.heard()
+    check(any("Hold on to leave" in text for text in heard) and any("Let go" in text for text in heard),
+          f"holding isn’t answered: {heard}")
+
+    this = open_the_page(tour)
+    press("mousemove", *this.view.box.centre, "click", "1")
+    until(lambda: this.saying().startswith("Go."), "the line goes")
+    press("mousedown", "3", "sleep", str(HOLD), "mouseup", "3")
+    is_left()
+
+    this = open_the_page(tour)
+    for _ in range(2):
+        this.get_ready()
+        press("mousemove", *this.view.box.centre, "click", "1")
+        until(lambda: this.saying().startswith("Go."), "the line goes")
+        time.sleep(SCAN_TIME)
+    until(lambda: "Two sweeps went by" in this.saying(), "leaving is offered")
+    tour.picture("offer")
+    press("click", "1")
+    is_left()
+    return "by a key, by a mouse button, and by clicks alone"
+
+
 def end_in_a_try(tour: Tour) -> str:
     """However the program ends, the keys are free again."""
     column = Column(0, 0, 1)
@@ -208,8 +321,15 @@ def end_in_a_try(tour: Tour) -> str:
 if __name__ == "__main__":
     with touring(*given("BUILD_DIR OUT_DIR"), SIZE) as a_tour:
         store_settings(a_tour.desktop)
+        a_tour.desktop.start(sys.executable, "-m", "tools.portal", "light", "still", name="portal")
+        until(lambda: process_of(PORTAL), "the desktop’s wishes can be asked for")
         a_tour.start()
         the_offsets = do_the_sweeps(a_tour)
         print(f"Measured: {check_history(a_tour, the_offsets)}.", flush=True)
         print(f"Taken: {take_the_advice(a_tour)}.", flush=True)
+        print(f"At rest: {wait_quietly(a_tour)}.", flush=True)
+        print(f"Moving: {watch_what_moves(a_tour)}.", flush=True)
+        print(f"Flashing: {press_quickly(a_tour)}.", flush=True)
+        a_tour.screen.click("Leave", "push button")
+        print(f"Left: {leave_by_switch(a_tour)}.", flush=True)
         print(f"Given back: the keys, {end_in_a_try(a_tour)}.", flush=True)

@@ -18,16 +18,15 @@ protected:
     }
 
     /// Stops each line 100 ms after it set off, and presses once more than was asked for.
-    void doTheSweeps() {
-        double now = GetCurrentEventTime() + 1;
-        for (int i = 0; i < tryout::kFreeSweeps + tryout::kMeasuredSweeps; ++i) {
+    void doTheSweeps(int measured = tryout::kMeasuredSweeps) {
+        for (int i = 0; i < tryout::kFreeSweeps + measured; ++i) {
             for (const auto& [wait, hold] :
                  {std::pair(1.5, 0.3), {prefs.preScanDelay - 0.2, 0.3}, {0.2, 0.05}}) {
-                page_->pressed(now += wait);
-                page_->released(now += hold);
+                page_->pressed(now_ += wait);
+                page_->released(now_ += hold);
             }
         }
-        page_->pressed(now + 1); // none is asked for any more, but time passes
+        now_ += 1;
     }
 
     QString courseText() const {
@@ -39,12 +38,14 @@ protected:
     }
 
     std::unique_ptr<TryPage> page_;
+    double now_ = GetCurrentEventTime() + 1;
 };
 
 TEST_F(TryPageTest, ASuggestionIsOneChangeAndUndoTakesItBack) {
     openWithAgent();
     openPage();
     doTheSweeps();
+    page_->pressed(now_); // none is asked for any more, but time passes
     EXPECT_THAT(courseText().toStdString(), testing::HasSubstr("nothing asked for"));
     EXPECT_FALSE(button("takeBtn")->isVisible());
     const QString title = button("suggestionBtn")->text();
@@ -58,6 +59,23 @@ TEST_F(TryPageTest, ASuggestionIsOneChangeAndUndoTakesItBack) {
     button("undoBtn")->click();
     EXPECT_EQ(std::memcmp(&prefs, &before, sizeof before), 0);
     EXPECT_THAT(remainingMasks(), testing::ElementsAre(kChangeTriggers, kChangeTriggers));
+}
+
+TEST_F(TryPageTest, ATryLeftAfterEnoughPressesIsKept) {
+    openWithAgent();
+    for (const bool isBySwitch : {true, false}) {
+        openPage();
+        doTheSweeps(tryout::kFewestTrials);
+        if (isBySwitch) {
+            page_->pressed(now_);
+            page_->released(now_ += 5);
+            EXPECT_TRUE(button("againBtn")->isVisible()) << "its result is shown";
+        } else {
+            page_->left();
+        }
+        page_.reset();
+        EXPECT_EQ(tryout::History().tries().size(), isBySwitch ? 1U : 2U);
+    }
 }
 
 TEST_F(TryPageTest, TheTargetIsChosenBeforeATryAndKept) {

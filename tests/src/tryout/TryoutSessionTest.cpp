@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "src/tryout/advice.h"
 #include "src/tryout/session.h"
 
 #include <gtest/gtest.h>
@@ -22,6 +23,11 @@ struct Presses {
     void press(double length) {
         session.press(now);
         session.release(now += length);
+    }
+
+    /// When the line set off that the last press has started.
+    double started() const {
+        return now + kDelay - (trigger.way == Trigger::Way::Release ? 0 : 0.3);
     }
 
     double moment() const { return kSweep.timeAt(session.mark()) + kOffset; }
@@ -100,18 +106,69 @@ TEST(TryoutSession, PressesThatNothingAskedForAreKeptApart) {
     }
 }
 
-TEST(TryoutSession, WithoutAPressTheLinePasses) {
-    Presses user({});
-    for (int i = 0; i < kFreeSweeps; ++i)
-        user.sweep();
-    user.session.advance(user.now += 1);
-    user.press(0.1);
-    user.session.advance(user.now += kDelay);
-    EXPECT_EQ(user.session.phase(), Phase::Sweeping);
-    user.session.advance(user.now += kSweep.time + 0.2);
-    EXPECT_EQ(user.session.phase(), Phase::Stopped);
-    ASSERT_EQ(user.session.measured().trials.size(), 1U);
-    EXPECT_FALSE(user.session.measured().trials[0].pressed);
+// Held on: with less, all goes on as ever.
+TEST(TryoutSession, APressHeldForLongLeaves) {
+    using enum Trigger::Way;
+
+    const struct {
+        const char* what;
+        Trigger trigger;
+        bool isOnItsWay; ///< the line, when the key goes down
+        double needed;   ///< seconds
+        Phase otherwise;
+    } rows[] = {
+        {"in a pause", {Press}, false, 4, Phase::Sweeping},
+        {"during a sweep", {Press}, true, 4, Phase::Stopped},
+        {"after the time that makes it count", {Press, 0.2}, false, 4.2, Phase::Sweeping},
+        {"where the release counts", {Release, 0.2}, false, 4.2, Phase::Delay},
+        {"beyond the sweep that a release would stop", {Release}, true, 7, Phase::Stopped},
+        {"beyond the sweep that it moves", {Hold}, false, kDelay + 4 + 4, Phase::Stopped},
+    };
+
+    for (const auto& row : rows)
+        for (const bool isLongEnough : {false, true})
+            for (const std::size_t measured : {1, kFewestTrials}) {
+                Presses user(row.trigger);
+                for (std::size_t i = 0; i < kFreeSweeps + measured; ++i)
+                    user.sweep();
+                user.session.advance(user.now += 5);
+                if (row.isOnItsWay) {
+                    user.press(0.3);
+                    user.session.advance(user.now = user.started() + 1);
+                }
+                user.press(row.needed + (isLongEnough ? 0.01 : -0.01));
+                const Phase left = measured < kFewestTrials ? Phase::Left : Phase::Done;
+                EXPECT_EQ(user.session.phase(), isLongEnough ? left : row.otherwise) << row.what;
+                EXPECT_TRUE(!isLongEnough || user.session.measured().trials.size() == measured)
+                    << row.what << ": what it measured counts";
+                user.now += 1;
+                user.press(5);
+                EXPECT_TRUE(!isLongEnough || user.session.phase() == Phase::Left) << row.what;
+            }
+}
+
+TEST(TryoutSession, AfterSweepsWithoutAPressOneLeaves) {
+    for (const Trigger::Way way : {Trigger::Way::Press, Trigger::Way::Release})
+        for (const int answer : {0, 1, 2}) { // none, a press, an accessibility action
+            Presses user({way});
+            for (int i = 0; i < kUnansweredSweeps; ++i) {
+                EXPECT_EQ(user.session.phase(), Phase::Ready);
+                user.press(0.1);
+                user.session.advance(user.now += kDelay);
+                EXPECT_EQ(user.session.phase(), Phase::Sweeping);
+                user.session.advance(user.now += kSweep.time + 0.2);
+                EXPECT_EQ(user.session.phase(), Phase::Stopped);
+                EXPECT_FALSE(user.session.last().pressed);
+                user.session.advance(user.now += kSettlingTime);
+            }
+            EXPECT_EQ(user.session.phase(), Phase::Offer);
+            if (answer == 1)
+                user.press(0.1);
+            if (answer == 2)
+                user.session.act(user.now);
+            user.session.advance(user.now += kOfferTime);
+            EXPECT_EQ(user.session.phase(), answer == 0 ? Phase::Ready : Phase::Left);
+        }
 }
 
 TEST(TryoutSession, AnAccessibilityActionPressesAndLetsGoInTurn) {
