@@ -67,14 +67,18 @@ double parseFile() {
     });
 }
 
-/// In use, saves are far apart: one when the pane is put away. So the background work of the one
-/// before must be done.
-void waitABit() {
-    usleep(3000);
+/// In use, saves are far apart: one when the pane is put away. So the disk must have finished with
+/// the one before.
+void waitForDisk() {
+    usleep(3000); // the save's own work in the background
+    static const std::string folder = domainFile().substr(0, domainFile().rfind('/'));
+    const int file = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    fsync(file);
+    close(file);
 }
 
 double saveOneChange() {
-    waitABit();
+    waitForDisk();
     prefs.lineScanTime = prefs.lineScanTime == 10.0 ? 10.5 : 10.0;
     bool saved = false;
     const double seconds = secondsOf([&] { saved = savePrefs(); });
@@ -84,7 +88,7 @@ double saveOneChange() {
 double replaceFile() {
     static const std::string bytes = readWhole(domainFile());
     static const std::string target = domainFile() + ".floor", fresh = target + ".new";
-    waitABit();
+    waitForDisk();
     bool written = false;
     const double seconds = secondsOf([&] {
         const int file = open(fresh.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, 0600);

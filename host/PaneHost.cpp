@@ -8,7 +8,7 @@
 #include "host/Troubles.h"
 #include "platform/AppKit/ClassRegistry.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "platform/CoreServices/detail/SessionBus.h"
+#include "platform/CoreServices/AppleEvents.h"
 #include "platform/HIToolbox/NibRequirement.h"
 #include "platform/HIToolbox/detail/CarbonWindow.h"
 
@@ -26,11 +26,6 @@ constexpr unsigned kMostSecondsToLeave = 3;
 
 PaneHost* openHost = nullptr; // for the exit handler
 int exitStatus = EXIT_SUCCESS;
-
-/// Waits for an answer. By then all earlier messages have reached the bus.
-void sendQueuedMessages() {
-    sessionBus().call(busMethod(QStringLiteral("GetId"), {}), QDBus::Block, kBusTimeout);
-}
 
 /// Ends the program even if the display server hangs.
 void leaveInTime() {
@@ -149,7 +144,7 @@ void PaneHost::deselect() {
     isSelected_ = false;
     areWindowsLeft = true;
     pane_->didUnselect();
-    sendQueuedMessages();
+    flushSentEvents();
 }
 
 // Qt calls exit() when the display server is gone. Windows can't be used then, but the settings can

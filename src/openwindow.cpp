@@ -67,6 +67,8 @@ std::optional<std::string> sendToWindow(const SettingSet& settings, const PrefsR
     case procNotFound:
         return std::nullopt;
     case errAETimeout:
+        if (findWindow() != window)
+            return std::nullopt; // it closed meanwhile
         return localized("Faults", "the open window doesn't answer");
     default:
         return localized("Faults", "the open window doesn't take the change");

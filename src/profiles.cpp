@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/profiles.h"
 
+#include "platform/CoreFoundation/CFString.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreFoundation/UserFiles.h"
 
@@ -78,16 +79,15 @@ std::string whyMissing() {
 } // namespace
 
 std::string profileNameFault(const std::string& name) {
-    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == 0x7F; };
     if (name.empty())
         return localized("Faults", "a profile needs a name");
     if (name.size() > kMaxNameLength)
         return localized("Faults", "the name is too long");
-    if (name[0] == '.' || name.find('/') != std::string::npos ||
-        std::ranges::any_of(name, isControl))
-        return localized(
-            "Faults",
-            "a name has no slash and no control character, and doesn't begin with a point");
+    const auto text = createFromUTF8(name);
+    if (!text || name[0] == '.' || name[0] == ' ' || name.back() == ' ' ||
+        name.find('/') != std::string::npos || std::ranges::any_of(text->text(), disturbsText))
+        return localized("Faults", "a name has no slash, no control character and no blank at its "
+                                   "ends, and doesn't begin with a point");
     return {};
 }
 

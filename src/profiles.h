@@ -19,8 +19,8 @@ std::vector<std::string> profileNames();
 /// Why profiles can't be read. Empty when they can.
 std::string profilesFault();
 
-/// Why a profile can't have that name. Empty when it can. A name has 1 to 60 bytes. It doesn't
-/// begin with a point, and has no slash and no control character.
+/// Why a profile can't have that name. Empty when it can. A name has 1 to 60 bytes of UTF-8. It
+/// doesn't begin with a point, has no blank at its ends, no slash, and nothing that disturbsText.
 std::string profileNameFault(const std::string& name);
 
 /// Saves those settings of the record, over a profile of the same name as well.

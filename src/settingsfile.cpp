@@ -7,16 +7,27 @@
 #include "src/proputil.h"
 #include "src/settingcheck.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 namespace {
 
+constexpr std::size_t kMostKey = 60; ///< characters of an unknown key
+
+/// A key of somebody else's, as it can be shown.
+std::string shownKey(std::u16string key) {
+    const bool isCut = key.size() > kMostKey;
+    key.resize(std::min(key.size(), kMostKey));
+    std::ranges::replace_if(key, disturbsText, u'\uFFFD');
+    return toUTF8(CFRef<CFString>::adopt(new CFString(isCut ? key + u'…' : key)).get());
+}
+
 /// Takes one value. Returns the reason if it can't, else an empty text.
-std::string take(const std::string& key, const CFType* value, SettingsOffer& offer) {
-    const Setting* setting = settingOfKey(key);
+std::string take(const Setting* setting, const CFType* value, SettingsOffer& offer) {
     if (!setting)
         return localized("Faults", "no setting of this version");
     std::string fault = setFromValue(*setting, value, offer.record);
@@ -28,16 +39,24 @@ std::string take(const std::string& key, const CFType* value, SettingsOffer& off
 /// Why a file can't be read as a file of settings.
 std::string fileFault(const std::string& path) {
     std::error_code error;
-    const auto size = std::filesystem::file_size(path, error);
+    const bool isFile = std::filesystem::is_regular_file(path, error);
     if (error)
         return error.message();
-    if (size > kPropertyListMaxSize)
+    if (isFile && std::filesystem::file_size(path, error) > kPropertyListMaxSize)
         return localized("Faults", "larger than a file of settings can be");
-    return std::ifstream(path) ? localized("Faults", "damaged, or no file of settings")
-                               : std::strerror(errno);
+    return !isFile || std::ifstream(path) ? localized("Faults", "damaged, or no file of settings")
+                                          : std::strerror(errno);
 }
 
 } // namespace
+
+bool disturbsText(char16_t character) {
+    constexpr std::pair<char16_t, char16_t> kDisturbing[] = {
+        {0, 0x1F}, {0x7F, 0x9F}, {0x200B, 0x200B}, {0x2028, 0x202E}, {0x2066, 0x2069}};
+    return std::ranges::any_of(kDisturbing, [character](const auto& range) {
+        return character >= range.first && character <= range.second;
+    });
+}
 
 std::string settingsDocument(const SettingSet& settings, const PrefsRecord& record) {
     const auto dictionary = CFDictionaryCreateMutable();
@@ -59,8 +78,9 @@ SettingsOffer readSettingsFile(const std::string& path, const PrefsRecord& base)
     }
     for (const auto& [key, value] : dictionary->items()) {
         const std::string name = toUTF8(CFRef<CFString>::adopt(new CFString(key)).get());
-        if (const std::string reason = take(name, value.get(), offer); !reason.empty())
-            offer.refused.push_back({name, reason});
+        const Setting* setting = settingOfKey(name);
+        if (const std::string reason = take(setting, value.get(), offer); !reason.empty())
+            offer.refused.push_back({setting ? name : shownKey(key), reason});
     }
     return offer;
 }

@@ -11,7 +11,7 @@
 
 /// A key of a file that isn't taken, and the reason in words.
 struct RefusedKey {
-    std::string key;
+    std::string key; ///< as it can be shown: of a stranger's key the first 60 characters
     std::string reason;
 };
 
@@ -22,6 +22,10 @@ struct SettingsOffer {
     std::vector<RefusedKey> refused;
     std::string error; ///< why nothing could be read, in words; else empty
 };
+
+/// Whether the character changes how the text around it is shown: ends its line or turns its
+/// direction. Nobody should be shown such a name.
+bool disturbsText(char16_t character);
 
 /// The content of such a file.
 std::string settingsDocument(const SettingSet& settings, const PrefsRecord& record);

@@ -357,8 +357,8 @@
         <translation>der Name ist zu lang</translation>
     </message>
     <message>
-        <source>a name has no slash and no control character, and doesn&apos;t begin with a point</source>
-        <translation>ein Name hat keinen Schrägstrich und kein Steuerzeichen und beginnt nicht mit einem Punkt</translation>
+        <source>a name has no slash, no control character and no blank at its ends, and doesn&apos;t begin with a point</source>
+        <translation>ein Name hat keinen Schrägstrich, kein Steuerzeichen und am Rand kein Leerzeichen, und er beginnt nicht mit einem Punkt</translation>
     </message>
     <message>
         <source>there is no profile of that name</source>

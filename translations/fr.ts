@@ -357,8 +357,8 @@
         <translation>le nom est trop long</translation>
     </message>
     <message>
-        <source>a name has no slash and no control character, and doesn&apos;t begin with a point</source>
-        <translation>un nom ne contient ni barre oblique ni caractère de contrôle, et ne commence pas par un point</translation>
+        <source>a name has no slash, no control character and no blank at its ends, and doesn&apos;t begin with a point</source>
+        <translation>un nom ne contient ni barre oblique ni caractère de contrôle, n’a pas d’espace à ses extrémités et ne commence pas par un point</translation>
     </message>
     <message>
         <source>there is no profile of that name</source>

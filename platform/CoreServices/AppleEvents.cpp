@@ -116,3 +116,8 @@ OSErr AESend(const AppleEvent* event, AppleEvent* reply, AESendMode mode, SInt32
         return resultOfReply(bus.call(message, QDBus::Block, millisecondsOfTicks(timeOutInTicks)));
     return bus.send(message) ? noErr : connectionInvalid;
 }
+
+void flushSentEvents() {
+    // When the bus answers, it has what was sent before.
+    sessionBus().call(busMethod(QStringLiteral("GetId"), {}), QDBus::Block, kBusTimeout);
+}

@@ -95,6 +95,10 @@ OSErr AEGetAttributePtr(const AppleEvent* event, AEKeyword keyword, DescType des
 /// back.
 OSErr AESend(const AppleEvent* event, AppleEvent* reply, AESendMode mode, SInt32 timeOutInTicks);
 
+/// Waits until the bus has every event that was sent, a second at most. macOS has no such
+/// operation.
+void flushSentEvents();
+
 /// Handles one event on the main thread. The result goes to a sender that waits.
 using AEEventHandler = OSErr (*)(const AppleEvent* event, AppleEvent* reply, void* refCon);
 

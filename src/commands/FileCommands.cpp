@@ -59,6 +59,11 @@ int done(const std::string& fault) {
     return fault.empty() ? int{kCommandDone} : commandFailed(fault);
 }
 
+/// What was to be done with that profile didn't work.
+int failed(const std::string& profile, const std::string& fault) {
+    return commandFailed(profile + ": " + fault);
+}
+
 int take(const SettingsOffer& offer) {
     return done(changeSettings(offer.settings, offer.record));
 }
@@ -106,7 +111,7 @@ int useProfile(const CommandLine& line) {
     const PrefsRecord now = currentSettings();
     const SettingsOffer offer = readProfile(name, now);
     if (!offer.error.empty())
-        return commandFailed(offer.error);
+        return failed(name, offer.error);
     printOffer(line, offer, now);
     const std::string former = currentProfile();
     const std::string fault = setCurrentProfile(name);
@@ -123,7 +128,7 @@ std::optional<PrefsRecord> settingsWith(const std::string& profile, const PrefsR
     printRefused(offer);
     if (offer.error.empty())
         return offer.record;
-    commandFailed(profile + ": " + offer.error);
+    failed(profile, offer.error);
     return std::nullopt;
 }
 
@@ -139,33 +144,36 @@ int compareProfiles(const CommandLine& line) {
     return kCommandDone;
 }
 
-/// For a change of profiles that changes no setting.
-int doneWithProfiles(const std::string& fault) {
-    if (fault.empty())
-        sendToWindow({}, currentSettings());
-    return done(fault);
+/// After a change of profiles that changed no setting: an open window shows it.
+int changedProfile(const std::string& profile, const std::string& fault) {
+    if (!fault.empty())
+        return failed(profile, fault);
+    sendToWindow({}, currentSettings());
+    return kCommandDone;
 }
 
 int saveCurrent(const CommandLine& line) {
-    std::string fault = saveProfile(line.operands[1], currentSettings());
-    if (!fault.empty())
-        return commandFailed(fault);
-    fault = setCurrentProfile(line.operands[1]);
-    doneWithProfiles({});
-    return inUse(fault);
+    const std::string& name = line.operands[1];
+    if (const std::string fault = saveProfile(name, currentSettings()); !fault.empty())
+        return failed(name, fault);
+    const std::string notKept = setCurrentProfile(name);
+    changedProfile(name, {});
+    return inUse(notKept);
+}
+
+int renameOne(const CommandLine& line) {
+    const std::string &name = line.operands[1], &newName = line.operands[2];
+    return changedProfile(name, renameProfile(name, newName));
+}
+
+int deleteOne(const CommandLine& line) {
+    const std::string& name = line.operands[1];
+    return changedProfile(name, deleteProfile(name));
 }
 
 constexpr ProfileVerb kVerbs[] = {
-    {"list", 0, 0, listProfiles},
-    {"use", 1, 1, useProfile},
-    {"compare", 1, 2, compareProfiles},
-    {"save", 1, 1, saveCurrent},
-    {"rename", 2, 2,
-     [](const CommandLine& line) {
-         return doneWithProfiles(renameProfile(line.operands[1], line.operands[2]));
-     }},
-    {"delete", 1, 1,
-     [](const CommandLine& line) { return doneWithProfiles(deleteProfile(line.operands[1])); }},
+    {"list", 0, 0, listProfiles}, {"use", 1, 1, useProfile},   {"compare", 1, 2, compareProfiles},
+    {"save", 1, 1, saveCurrent},  {"rename", 2, 2, renameOne}, {"delete", 1, 1, deleteOne},
 };
 
 } // namespace
@@ -191,7 +199,7 @@ int runImport(const CommandLine& line) {
     printOffer(line, offer, now);
     if (line.yes)
         return take(offer);
-    if (!line.json)
+    if (!line.json && differences(now, offer.record).any())
         std::puts(localized("Commands", "Nothing was changed. With --yes it is.").c_str());
     return kCommandDone;
 }

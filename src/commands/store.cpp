@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "src/commands/store.h"
 
+#include "platform/CoreFoundation/CFPreferences.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreFoundation/PreferencesOutcome.h"
+#include "platform/CoreServices/AppleEvents.h"
 #include "src/login/launch.h"
 #include "src/openwindow.h"
 #include "src/prefpane/Daemon.h"
@@ -52,6 +54,21 @@ PrefsRecord currentSettings() {
     return record;
 }
 
+/// Another command may store something at the same time, and send it first. So what is sent is what
+/// is stored, and what has been stored meanwhile is sent too: the agent's last record has it all.
+void sendStored(ChangeMask changes) {
+    PrefsRecord sent;
+    do {
+        prefsSetup();
+        sent = prefs;
+        daemonSendChanges(changes, true);
+        flushSentEvents();
+        CFPreferencesAppSynchronize(kAgentBundleID);
+        prefsSetup();
+        changes = changesOf(differences(sent, prefs));
+    } while (differences(sent, prefs).any());
+}
+
 std::string changeSettings(const SettingSet& settings, const PrefsRecord& record) {
     if (const auto fault = sendToWindow(settings, record))
         return *fault;
@@ -64,6 +81,6 @@ std::string changeSettings(const SettingSet& settings, const PrefsRecord& record
         return savingFault();
     if (changesOf(changed) & kChangeLaunch)
         updateLoginItem();
-    daemonSendChanges(changesOf(changed), true);
+    sendStored(changesOf(changed));
     return {};
 }

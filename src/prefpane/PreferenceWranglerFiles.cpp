@@ -14,7 +14,6 @@
 namespace {
 
 constexpr std::size_t kMostNamed = 6; ///< keys that a message lists
-constexpr std::size_t kMostKey = 60;  ///< bytes of an unknown key
 
 std::string fileName(const std::string& path) {
     return path.substr(path.rfind('/') + 1);
@@ -23,11 +22,9 @@ std::string fileName(const std::string& path) {
 /// "Left out: scanner.mode: no setting of this version; …"
 std::string refusedText(const std::vector<RefusedKey>& refused) {
     std::string text;
-    for (std::size_t i = 0; i < std::min(refused.size(), kMostNamed); ++i) {
-        const std::string key =
-            settingOfKey(refused[i].key) ? refused[i].key : refused[i].key.substr(0, kMostKey);
-        text += "\n" + filled(localized("Profiles", "Left out: %1: %2."), {key, refused[i].reason});
-    }
+    for (std::size_t i = 0; i < std::min(refused.size(), kMostNamed); ++i)
+        text += "\n" + filled(localized("Profiles", "Left out: %1: %2."),
+                              {refused[i].key, refused[i].reason});
     if (refused.size() > kMostNamed)
         text =
             joined(Joint::Sentences, {text, filled(localized("Profiles", "And %1 more."),

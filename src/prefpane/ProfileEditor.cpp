@@ -320,11 +320,18 @@ void ProfileEditor::updateChosen() {
 
 void ProfileEditor::saveNew() {
     if (hasName())
-        save(name->stringValue());
+        save(typedName());
+}
+
+std::string ProfileEditor::typedName() const {
+    const std::string text = name->stringValue();
+    const std::size_t start = text.find_first_not_of(' ');
+    return start == std::string::npos ? ""
+                                      : text.substr(start, text.find_last_not_of(' ') - start + 1);
 }
 
 bool ProfileEditor::hasName() {
-    if (!name->stringValue().empty())
+    if (!typedName().empty())
         return true;
     tell(localized("Profiles", "First type a name, or press one of the ready ones."));
     name->window().makeFirstResponder(name);
@@ -368,7 +375,7 @@ void ProfileEditor::putBack(const Profile& profile, bool wasInUse) {
 }
 
 void ProfileEditor::renameChosen() {
-    const std::string old = chosen_, now = name->stringValue();
+    const std::string old = chosen_, now = typedName();
     if (!hasName() || !succeeded(::renameProfile(old, now),
                                  LOCALIZABLE("Profiles", "“%1” couldn’t be renamed: %2."), old))
         return;

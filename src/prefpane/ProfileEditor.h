@@ -107,6 +107,8 @@ private:
     std::string explanationOf(const Profile& profile) const;
     void use(Profile profile);
     void save(const std::string& profile);
+    /// The field's text, without blanks at its ends.
+    std::string typedName() const;
     /// Whether there is a name in the field. Asks the user for one if not.
     bool hasName();
     /// Moves the focus away from a button that is about to be disabled. It would go to the next

@@ -28,10 +28,14 @@ def expect(text, *arguments, status=0):
     assert text in output, (arguments, output)
 
 
-def changes():
-    """The masks of the changes that the agent was sent."""
+def sent():
+    """The changes that the agent was sent."""
     lines = [json.loads(line) for line in open(LOG)] if os.path.exists(LOG) else []
-    return [line["mask"] for line in lines if line["event"] == "SAPr"]
+    return [line for line in lines if line["event"] == "SAPr"]
+
+
+def changes():
+    return [event["mask"] for event in sent()]
 
 
 def wait_for(condition):
@@ -87,12 +91,6 @@ def without_a_window():
 
 
 def what_goes_wrong_loses_nothing():
-    values = {"soundLevel": "31", "palette.borderGap": "32 points", "palette.buttonGap": "33 points",
-              "scanner.lineThickness": "34 points"}
-    start = lambda *arguments: subprocess.Popen([HOST, *arguments], env=ENVIRONMENT)
-    together = [start("set", key, value.split()[0]) for key, value in values.items()]
-    assert not any(each.wait(20) for each in together)
-    assert run("get", *values).splitlines() == list(values.values())
     data, state = (os.environ[f"XDG_{name}_HOME"] for name in ("DATA", "STATE"))
     files = ("all.plist", f"{data}/korvex/profiles/Tired.plist", STORED)
     before = [open(file).read() for file in files]
@@ -126,7 +124,21 @@ def with_an_open_window():
         window.kill()
 
 
+def many_at_once():
+    """Without a window, but with an agent."""
+    places = {"soundLevel": 8, "palette.borderGap": 304, "palette.buttonGap": 308,
+              "scanner.lineThickness": 144}
+    for value in range(31, 37):
+        together = [subprocess.Popen([HOST, "set", key, str(value)], env=ENVIRONMENT)
+                    for key in places]
+        assert not any(each.wait(20) for each in together)
+        assert all(text.split()[0] == str(value) for text in run("get", *places).splitlines())
+        record = lambda: bytes.fromhex(sent()[-1]["record"])
+        wait_for(lambda: all(record()[place] == value for place in places.values()))
+
+
 os.chdir(os.path.expanduser("~"))
 without_a_window()
 what_goes_wrong_loses_nothing()
 with_an_open_window()
+many_at_once()

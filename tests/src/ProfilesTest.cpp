@@ -5,6 +5,8 @@
 #include "src/settingwords.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
+#include <sys/stat.h>
+
 namespace {
 
 const std::string kFolder = std::string(std::getenv("XDG_DATA_HOME")) + "/korvex/profiles";
@@ -31,7 +33,8 @@ TEST(ProfilesTest, AProfileBringsBackAllButTheSwitchAndTheLogin) {
     EXPECT_EQ(deleteProfile("Tired"), "");
     EXPECT_EQ(currentProfile(), "");
     EXPECT_NE(readProfile("Tired", factory).error, "");
-    for (const char* bad : {"", ".hidden", "a/b", "../x", "a\nb"})
+    for (const char* bad :
+         {"", ".hidden", "a/b", "../x", "a\nb", "a\u202Eb", "\u200B", " ", "a ", "\xFF"})
         EXPECT_NE(saveProfile(bad, factory), "") << bad;
 }
 
@@ -60,7 +63,7 @@ TEST(ProfilesTest, OfAFileTheSoundSettingsAreOfferedAndTheOthersNamed) {
          "press moves one step)"},
         {"scanner.useScanArea", "<true/>", "there is no area of your own yet"},
         {"soundLevel", "<real>3</real>", kNotAValue},
-        {"tomorrow", "<true/>", "no setting of this version"},
+        {"to\u2028morrow", "<true/>", "no setting of this version"},
     };
 
     std::string list = "<key>scanner.lineScanTime</key><string>12.500000</string>", refused, named;
@@ -74,7 +77,7 @@ TEST(ProfilesTest, OfAFileTheSoundSettingsAreOfferedAndTheOthersNamed) {
     EXPECT_EQ(double{offer.record.lineScanTime}, 12.5);
     for (const auto& [key, reason] : offer.refused)
         named += key + ": " + reason + "\n";
-    EXPECT_EQ(named, refused);
+    EXPECT_EQ(named, refused.replace(refused.find("\u2028"), 3, "\uFFFD"));
 
     // Of a list all entries, and no more.
     for (const char* actions :
@@ -83,6 +86,8 @@ TEST(ProfilesTest, OfAFileTheSoundSettingsAreOfferedAndTheOthersNamed) {
 
     const std::string truncated = "<plist><dict><key>soundLevel</key><string>0x3";
     const std::string damaged = "damaged, or no file of settings";
+    mkfifo((kFolder + "/Pipe.plist").c_str(), 0600);
+    EXPECT_EQ(readProfile("Pipe", PrefsRecord()).error, damaged);
     for (const auto& [content, error] :
          {std::pair(std::string("<plist><array/></plist>"), damaged),
           {truncated, damaged},
