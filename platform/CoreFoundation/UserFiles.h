@@ -14,5 +14,6 @@ std::string userDataFolder();
 std::string userStateFolder();
 
 /// Replaces the file as a whole; `content` is on disk first. Only this user can read it. Makes
-/// missing folders. Of symbolic links the target is replaced.
+/// missing folders. Of symbolic links the target is replaced. ENOTSUP for a device or a pipe, which
+/// would be lost.
 int replaceUserFile(const std::string& path, std::string_view content);

@@ -99,6 +99,9 @@ def what_goes_wrong_loses_nothing():
         dying = subprocess.Popen([HOST, *command], env=ENVIRONMENT, preexec_fn=cut)
         assert dying.wait(20) == -signal.SIGXFSZ, "it isn't killed in the middle of writing"
         assert [open(file).read() for file in files] == before, command
+    os.mkfifo("pipe")
+    os.symlink("pipe", "link")
+    expect("Operation not supported", "export", "link", status=1)  # which would be lost
     shutil.rmtree(f"{state}/korvex")
     with open(f"{state}/korvex", "w"):
         expect("which profile is in use can't be kept: ", "profile", "use", "Tired", status=1)
