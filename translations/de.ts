@@ -2940,10 +2940,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>%s: %.1f Sekunden, getroffen: %.0f, daneben: %.0f, Verspätung %.0f ms, Streuung %.0f ms</translation>
     </message>
     <message>
-        <source>Set “%1” to %2</source>
-        <translation>„%1“ auf %2 setzen</translation>
-    </message>
-    <message>
         <source>%1. Undo takes it back. Try once more before you change anything else.</source>
         <translation>%1. „Rückgängig“ nimmt es zurück. Versuchen Sie es noch einmal, bevor Sie etwas anderes ändern.</translation>
     </message>
@@ -3016,10 +3012,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Streuung Ihrer Drücke, bis %.0f ms</translation>
     </message>
     <message>
-        <source>%s   %.1f s   %.0f of %.0f   lateness %.0f ms   spread %.0f ms</source>
-        <translation>%s   %.1f s   %.0f von %.0f   Verspätung %.0f ms   Streuung %.0f ms</translation>
-    </message>
-    <message>
         <source>The pointer’s speed is too far from the line’s to say how many clicks will hit.</source>
         <translation>Die Geschwindigkeit des Zeigers ist zu weit von der der Linie entfernt, um zu sagen, wie viele Klicks treffen.</translation>
     </message>
@@ -3057,11 +3049,25 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Hold on to leave, or let go to stay.</source>
-        <translation>Halten Sie weiter, um die Seite zu verlassen, oder lassen Sie los, um zu bleiben.</translation>
+        <translation>Weiter halten verlässt die Seite, Loslassen bleibt.</translation>
     </message>
     <message>
         <source>No press has counted yet.</source>
         <translation>Noch kein Druck hat gezählt.</translation>
+    </message>
+    <message>
+        <source>%s | %.1f s | %.0f of %.0f | %.0f ms | %.0f ms</source>
+        <translation>%s | %.1f s | %.0f von %.0f | %.0f ms | %.0f ms</translation>
+    </message>
+    <message>
+        <source>Date | Line | Hits | Lateness | Spread</source>
+        <translation>Datum | Linie | Treffer | Verspätung | Streuung</translation>
+    </message>
+    <message>
+        <source>Set “%1”
+to %2</source>
+        <translation>„%1“
+auf %2 setzen</translation>
     </message>
 </context>
 <context>

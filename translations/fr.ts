@@ -2940,10 +2940,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>%s&#xa0;: %.1f s, réussis&#xa0;: %.0f, manqués&#xa0;: %.0f, retard %.0f ms, dispersion %.0f ms</translation>
     </message>
     <message>
-        <source>Set “%1” to %2</source>
-        <translation>Régler «&#xa0;%1&#xa0;» sur %2</translation>
-    </message>
-    <message>
         <source>%1. Undo takes it back. Try once more before you change anything else.</source>
         <translation>%1. «&#xa0;Annuler&#xa0;» revient en arrière. Essayez encore une fois avant de changer autre chose.</translation>
     </message>
@@ -3016,10 +3012,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Dispersion de vos appuis, jusqu’à %.0f ms</translation>
     </message>
     <message>
-        <source>%s   %.1f s   %.0f of %.0f   lateness %.0f ms   spread %.0f ms</source>
-        <translation>%s   %.1f s   %.0f sur %.0f   retard %.0f ms   dispersion %.0f ms</translation>
-    </message>
-    <message>
         <source>The pointer’s speed is too far from the line’s to say how many clicks will hit.</source>
         <translation>La vitesse du pointeur est trop éloignée de celle de la ligne pour dire combien de clics seront justes.</translation>
     </message>
@@ -3062,6 +3054,20 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>No press has counted yet.</source>
         <translation>Aucun appui n’a encore compté.</translation>
+    </message>
+    <message>
+        <source>%s | %.1f s | %.0f of %.0f | %.0f ms | %.0f ms</source>
+        <translation>%s | %.1f s | %.0f sur %.0f | %.0f ms | %.0f ms</translation>
+    </message>
+    <message>
+        <source>Date | Line | Hits | Lateness | Spread</source>
+        <translation>Date | Ligne | Réussis | Retard | Dispersion</translation>
+    </message>
+    <message>
+        <source>Set “%1”
+to %2</source>
+        <translation>Régler «&#xa0;%1&#xa0;»
+sur %2</translation>
     </message>
 </context>
 <context>

@@ -5,9 +5,11 @@
 #include "platform/AppKit/NSView.h"
 #include "src/tryout/pasttry.h"
 
-/// The tries so far. At the left a line shows the spread of the presses from try to try; at the
-/// right is a table of the last tries. A screen reader finds every try in it; arrow keys move
-/// through them.
+#include <array>
+
+/// The tries so far. A line shows the spread of the presses from try to try. Beside it, or below it
+/// where there isn't enough room, is a table of the last tries. A screen reader finds every try in
+/// it; arrow keys move through them.
 class HistoryView final : public NSView, public NSAccessibilityList {
 public:
     /// Copies them; the oldest comes first.
@@ -27,12 +29,27 @@ public:
     void accessibilityPress(int index) override;
 
 private:
+    static constexpr std::size_t kColumns = 5;
+    using Cells = std::array<std::string, kColumns>;
+
+    static Cells cellsOf(std::string_view row);
+    void measure();
+    void makeRoomFor(const Cells& cells);
     void drawChart() const;
     void drawTable() const;
+    void drawRow(const Cells& cells, const NSRect& row) const;
+    double chartTop() const;
+    bool hasTableBeside() const;
+    NSRect chartFrame() const;
+    NSRect tableFrame() const;
     NSRect rowFrame(int index) const;
     int firstRow() const;
     void choose(int index);
 
     std::vector<tryout::PastTry> tries_;
-    int current_ = 0; ///< where the keyboard is
+    std::array<float, kColumns> widths_ = {}; ///< of the table's columns
+    float captionWidth_ = 0;                  ///< the chart's
+    float rowHeight_ = 24;
+    bool isMeasured_ = false; ///< all three
+    int current_ = 0;         ///< where the keyboard is
 };

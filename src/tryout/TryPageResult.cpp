@@ -32,6 +32,7 @@ void TryPage::showResult() {
     advised_ = advice.time;
 
     say(tryout::resultText(advice, conditions_, measured, trigger_.way));
+    course_->scrollToVisible();
     numbers_->setStringValue(tryout::detailsText(advice, steadiness));
     const bool isOffered =
         advice.verdict == tryout::Verdict::Change || advice.verdict == tryout::Verdict::TryAgain;
@@ -51,7 +52,7 @@ void TryPage::showSuggestion() {
     PrefsRecord record = prefs;
     setSettingNumber(*setting, seconds, record);
     suggestionBtn_->setTitle(
-        filled(localized("Try", "Set “%1” to %2"),
+        filled(localized("Try", "Set “%1”\nto %2"),
                {localized("Settings", setting->name), settingText(*setting, record)}));
 }
 

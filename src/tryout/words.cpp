@@ -359,10 +359,21 @@ std::string pastTryText(const PastTry& past) {
 }
 
 std::string pastTryRow(const PastTry& past) {
-    return format(
-        LOCALIZABLE("Try", "%s   %.1f s   %.0f of %.0f   lateness %.0f ms   spread %.0f ms"),
-        past.date.c_str(), past.sweepTime, past.hits, past.hits + past.misses, past.lateness * 1000,
-        past.spread * 1000);
+    return format(LOCALIZABLE("Try", "%s | %.1f s | %.0f of %.0f | %.0f ms | %.0f ms"),
+                  past.date.c_str(), past.sweepTime, past.hits, past.hits + past.misses,
+                  past.lateness * 1000, past.spread * 1000);
+}
+
+std::string pastTryHeadings() {
+    return localized("Try", "Date | Line | Hits | Lateness | Spread");
+}
+
+std::string_view cutCell(std::string_view& row) {
+    constexpr std::string_view kBetween = " | ";
+    const std::size_t end = std::min(row.find(kBetween), row.size());
+    const std::string_view cell = row.substr(0, end);
+    row.remove_prefix(std::min(end + kBetween.size(), row.size()));
+    return cell;
 }
 
 } // namespace tryout

@@ -45,8 +45,14 @@ std::string targetText(double height, bool isPaletteButton);
 /// What the chart shows, and its top in seconds.
 std::string chartText(double spread);
 
-/// A try in the history: as speech, or in the short words of a table.
+/// A try in the history, as speech.
 std::string pastTryText(const PastTry& past);
+
+/// The same as a row of a table, and the headings, with a separator between cells.
 std::string pastTryRow(const PastTry& past);
+std::string pastTryHeadings();
+
+/// Removes the first cell from the front of a row, and returns it.
+std::string_view cutCell(std::string_view& row);
 
 } // namespace tryout

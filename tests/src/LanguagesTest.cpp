@@ -2,6 +2,7 @@
 #include "src/numbertext.h"
 #include "src/settings.h"
 #include "tests/support/PaneFixture.h"
+#include "tests/support/TrySweeps.h"
 
 #include <QGroupBox>
 #include <QTabBar>
@@ -65,6 +66,19 @@ protected:
         return found;
     }
 
+    /// Of a try.
+    void expectTheResultFits() {
+        TryPage page(pane_->mainView()->window(), *theWrangler);
+        std::vector<std::string> errors;
+        ASSERT_TRUE(page.show(KORVEX_BUNDLE "/Contents/Resources/tryout.ui", errors));
+        QTest::qWait(50); // it has its size then
+        double now = GetCurrentEventTime() + 1;
+        doTheSweeps(page, now);
+        page.acted(now); // time passes
+        auto* cover = scroller_.findChild<QWidget*>(QStringLiteral("contentCover"));
+        EXPECT_THAT(clipped(cover), testing::IsEmpty()) << scroller_.width();
+    }
+
     QTranslator translator_;
     QScrollArea scroller_;
 };
@@ -90,6 +104,7 @@ TEST_F(LanguagesTest, LongerTextsFitWhereverTheyStand) {
             ASSERT_TRUE(QTest::qWaitFor(
                 [&] { return !scroller_.findChild<QWidget*>(QStringLiteral("contentCover")); }));
         }
+        expectTheResultFits();
     }
 }
 

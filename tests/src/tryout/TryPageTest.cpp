@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/PaneFixture.h"
+#include "tests/support/TrySweeps.h"
 
 namespace {
 
-/// A page in the pane's window, and a user whose every press comes as quickly as it can: moments
-/// are told, not waited for.
+/// A page in the pane's window.
 class TryPageTest : public PaneTest {
 protected:
     void openPage() {
@@ -15,18 +15,6 @@ protected:
         ASSERT_TRUE(page_->show(form->path(), errors)) << testing::PrintToString(errors);
         QApplication::processEvents(); // it has its size then
         QTest::qWait(50);
-    }
-
-    /// Stops each line 100 ms after it set off, and presses once more than was asked for.
-    void doTheSweeps(int measured = tryout::kMeasuredSweeps) {
-        for (int i = 0; i < tryout::kFreeSweeps + measured; ++i) {
-            for (const auto& [wait, hold] :
-                 {std::pair(1.5, 0.3), {prefs.preScanDelay - 0.2, 0.3}, {0.2, 0.05}}) {
-                page_->pressed(now_ += wait);
-                page_->released(now_ += hold);
-            }
-        }
-        now_ += 1;
     }
 
     QString courseText() const {
@@ -44,12 +32,12 @@ protected:
 TEST_F(TryPageTest, ASuggestionIsOneChangeAndUndoTakesItBack) {
     openWithAgent();
     openPage();
-    doTheSweeps();
+    doTheSweeps(*page_, now_);
     page_->pressed(now_); // none is asked for any more, but time passes
     EXPECT_THAT(courseText().toStdString(), testing::HasSubstr("nothing asked for"));
     EXPECT_FALSE(button("takeBtn")->isVisible());
     const QString title = button("suggestionBtn")->text();
-    EXPECT_EQ(title, QStringLiteral("Set “Ignore presses after a click for” to 0.2 sec"));
+    EXPECT_EQ(title, QStringLiteral("Set “Ignore presses after a click for”\nto 0.2 sec"));
     const PrefsRecord before = prefs;
     button("suggestionBtn")->click();
     EXPECT_DOUBLE_EQ(prefs.afterClickDelay, 0.2);
@@ -65,7 +53,7 @@ TEST_F(TryPageTest, ATryLeftAfterEnoughPressesIsKept) {
     openWithAgent();
     for (const bool isBySwitch : {true, false}) {
         openPage();
-        doTheSweeps(tryout::kFewestTrials);
+        doTheSweeps(*page_, now_, tryout::kFewestTrials);
         if (isBySwitch) {
             page_->pressed(now_);
             page_->released(now_ += 5);
