@@ -243,24 +243,20 @@ def watch_what_moves(tour: Tour) -> str:
 
 
 def press_quickly(tour: Tour) -> str:
-    """The quickest changes that presses can bring about: start and stop, as soon as that can be,
-    then presses without end, and held ones."""
-    this = Try(tour)
-    time.sleep(SETTLED)
+    """The quickest changes that presses can bring about: start and stop, again after pauses of any
+    length, presses without end, and held ones."""
+    switch = Switch()
+    presses_and_pauses = [(0.03, length) for pause in (0.1, 0.2, 0.3, SETTLED) for length in (0.05, pause) * 5]
+    presses_and_pauses += [(0.03, 0.03)] * 15 + [(1.1, 0.03)] * 3
 
     def press_all() -> None:
-        for _ in range(4):
-            this.switch.press(0.03)
-            time.sleep(0.05)
-            this.switch.press(0.03)
-            time.sleep(SETTLED - 0.06)
-        for length in (0.03,) * 15 + (1.1,) * 3:
-            this.switch.press(length)
-            time.sleep(0.03)
+        for length, pause in presses_and_pauses:
+            switch.press(length)
+            time.sleep(pause)
 
     presses = Thread(target=press_all)
     presses.start()
-    looks = look_for(9, SIZE)
+    looks = look_for(sum(map(sum, presses_and_pauses)) + 0.5, SIZE)
     presses.join()
     most = most_flashes(looks)
     check(0 < most <= MOST_FLASHES, f"a place flashes {most} times in a second")
