@@ -62,6 +62,16 @@ std::optional<double> numberFrom(std::string words, const std::string& unit) {
     return isUnit ? std::optional(value) : std::nullopt;
 }
 
+/// The fault with an example of a right value, the present one.
+std::string withExample(const Setting& setting, const PrefsRecord& record,
+                        const std::string& fault) {
+    if (setting.notation == &kFlagNotation)
+        return localized("Faults", "neither on nor off");
+    const auto stored = setting.notation->write(setting.in(record));
+    return stored ? filled(localized("Faults", "%1; for example %2"), {fault, toUTF8(stored.get())})
+                  : fault;
+}
+
 std::optional<UInt32> choiceFrom(const Setting& setting, const std::string& words) {
     for (std::size_t i = 0; i < setting.choices.size(); ++i)
         if (words == std::to_string(i) || strcasecmp(words.c_str(), setting.choices[i]) == 0 ||
@@ -140,7 +150,8 @@ std::string setFromWords(const Setting& setting, const std::string& words, Prefs
                                  : isOn                             ? "yes"
                                  : isOff                            ? "no"
                                                                     : words;
-        return setFromValue(setting, createFromUTF8(text).get(), record);
+        const std::string fault = setFromValue(setting, createFromUTF8(text).get(), record);
+        return fault.empty() ? "" : withExample(setting, record, fault);
     }
     if (std::string fault = settingFault(setting, changed); !fault.empty())
         return fault;

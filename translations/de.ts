@@ -248,10 +248,6 @@
         <translation>es gibt keinen Befehl „%1“</translation>
     </message>
     <message>
-        <source>there is no such option</source>
-        <translation>diese Option gibt es nicht</translation>
-    </message>
-    <message>
         <source>%1 takes %2</source>
         <translation>%1 braucht %2</translation>
     </message>
@@ -333,6 +329,14 @@
         <source>profile list, use NAME, compare NAME [OTHER], save NAME, rename NAME NEW or delete NAME</source>
         <translation>profile list, use NAME, compare NAME [ANDERER], save NAME, rename NAME NEU oder delete NAME</translation>
     </message>
+    <message>
+        <source>See korvex-preferences list.</source>
+        <translation>Siehe korvex-preferences list.</translation>
+    </message>
+    <message>
+        <source>there is no option &quot;%1&quot;</source>
+        <translation>eine Option „%1“ gibt es nicht</translation>
+    </message>
 </context>
 <context>
     <name>Faults</name>
@@ -407,6 +411,14 @@
     <message>
         <source>damaged, or no file of settings</source>
         <translation>beschädigt oder keine Datei mit Einstellungen</translation>
+    </message>
+    <message>
+        <source>neither on nor off</source>
+        <translation>weder on noch off</translation>
+    </message>
+    <message>
+        <source>%1; for example %2</source>
+        <translation>%1; zum Beispiel %2</translation>
     </message>
 </context>
 <context>

@@ -248,10 +248,6 @@
         <translation>il n’y a pas de commande «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>there is no such option</source>
-        <translation>cette option n’existe pas</translation>
-    </message>
-    <message>
         <source>%1 takes %2</source>
         <translation>%1 attend %2</translation>
     </message>
@@ -333,6 +329,14 @@
         <source>profile list, use NAME, compare NAME [OTHER], save NAME, rename NAME NEW or delete NAME</source>
         <translation>profile list, use NOM, compare NOM [AUTRE], save NOM, rename NOM NOUVEAU ou delete NOM</translation>
     </message>
+    <message>
+        <source>See korvex-preferences list.</source>
+        <translation>Voir korvex-preferences list.</translation>
+    </message>
+    <message>
+        <source>there is no option &quot;%1&quot;</source>
+        <translation>il n’y a pas d’option «&#xa0;%1&#xa0;»</translation>
+    </message>
 </context>
 <context>
     <name>Faults</name>
@@ -407,6 +411,14 @@
     <message>
         <source>damaged, or no file of settings</source>
         <translation>endommagé, ou pas un fichier de réglages</translation>
+    </message>
+    <message>
+        <source>neither on nor off</source>
+        <translation>ni on ni off</translation>
+    </message>
+    <message>
+        <source>%1; for example %2</source>
+        <translation>%1&#xa0;; par exemple %2</translation>
     </message>
 </context>
 <context>

@@ -27,8 +27,7 @@ int runSet(const CommandLine& line) {
     for (std::size_t i = 0; i < line.operands.size(); i += 2) {
         const Setting* setting = settingOfKey(line.operands[i]);
         if (!setting)
-            return commandFailed(
-                filled(localized("Commands", "there is no setting \"%1\""), {line.operands[i]}));
+            return noSuchSetting(line.operands[i]);
         const std::string fault = setFromWords(*setting, line.operands[i + 1], record);
         if (!fault.empty())
             return commandFailed(line.operands[i] + ": " + fault);
@@ -44,8 +43,7 @@ int runReset(const CommandLine& line) {
         if (key == "all")
             settings.set();
         else if (!setting)
-            return commandFailed(
-                filled(localized("Commands", "there is no setting \"%1\""), {key}));
+            return noSuchSetting(key);
         else
             settings[indexOf(setting)] = true;
     }

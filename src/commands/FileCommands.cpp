@@ -186,8 +186,10 @@ int runExport(const CommandLine& line) {
         return kCommandDone;
     }
     std::error_code error;
-    const std::string whole = std::filesystem::absolute(path, error);
-    const int fault = error ? error.value() : writeSettingsFile(whole, SettingSet().set(), now);
+    const std::filesystem::path file(path);
+    const auto folder = std::filesystem::canonical("." / file.parent_path(), error);
+    const int fault = error ? error.value() // a mistyped folder isn't made
+                            : writeSettingsFile(folder / file.filename(), SettingSet().set(), now);
     return fault ? commandFailed(path + ": " + std::strerror(fault)) : int{kCommandDone};
 }
 

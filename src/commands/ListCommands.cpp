@@ -73,8 +73,7 @@ int runGet(const CommandLine& line) {
     for (const std::string& key : line.operands) {
         const Setting* setting = settingOfKey(key);
         if (!setting)
-            return commandFailed(
-                filled(localized("Commands", "there is no setting \"%1\""), {key}));
+            return noSuchSetting(key);
         if (line.json)
             list.add(describe(*setting, now));
         else

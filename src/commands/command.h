@@ -30,6 +30,8 @@ std::string operandsOf(const Command& command);
 
 /// Prints "korvex-preferences: message" to standard error, and returns kCommandFailed.
 int commandFailed(const std::string& message);
+/// The same for a setting's key that doesn't exist.
+int noSuchSetting(const std::string& key);
 
 // ListCommands.cpp
 int runList(const CommandLine& line);

@@ -61,8 +61,9 @@ int misused(const std::string& message) {
     return kCommandMisused;
 }
 
-/// Separates options from operands. False for an unknown option. Options end at "--".
-bool parse(std::span<const char* const> arguments, CommandLine& line) {
+/// Separates options from operands. Options end at "--". Returns an unknown option, else an empty
+/// text.
+std::string parse(std::span<const char* const> arguments, CommandLine& line) {
     bool options = true;
     for (const std::string argument : arguments) {
         if (!options || argument == "-" || !argument.starts_with('-'))
@@ -76,9 +77,9 @@ bool parse(std::span<const char* const> arguments, CommandLine& line) {
         else if (argument == "--help")
             line.help = true;
         else
-            return false;
+            return argument;
     }
-    return true;
+    return {};
 }
 
 } // namespace
@@ -96,6 +97,12 @@ int commandFailed(const std::string& message) {
     return kCommandFailed;
 }
 
+int noSuchSetting(const std::string& key) {
+    commandFailed(filled(localized("Commands", "there is no setting \"%1\""), {key}));
+    std::fprintf(stderr, "%s\n", localized("Commands", "See korvex-preferences list.").c_str());
+    return kCommandFailed;
+}
+
 int korvexRunCommand(int count, const char* const* arguments) {
     const std::string name = count > 0 ? arguments[0] : "help";
     if (name == "help")
@@ -105,8 +112,8 @@ int korvexRunCommand(int count, const char* const* arguments) {
     if (command == std::end(kCommands))
         return misused(filled(localized("Commands", "there is no command \"%1\""), {name}));
     CommandLine line;
-    if (!parse({arguments + 1, arguments + count}, line))
-        return misused(localized("Commands", "there is no such option"));
+    if (const auto unknown = parse({arguments + 1, arguments + count}, line); !unknown.empty())
+        return misused(filled(localized("Commands", "there is no option \"%1\""), {unknown}));
     if (line.help)
         return printHelp();
     const std::size_t most = command->most ? command->most : command->fewest ? SIZE_MAX : 0;

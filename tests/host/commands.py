@@ -52,6 +52,7 @@ def without_a_window():
            status=1)
     expect("50", "get", "soundLevel")  # of several changes none was made
     expect("no setting", "get", "nonsense", status=1)
+    expect("no/all.plist: No such file", "export", "no/all.plist", status=1)
     expect("no command", "nonsense", status=2)
     keys = [each["key"] for each in json.loads(run("list", "--json"))]
     assert len(keys) == 40

@@ -82,7 +82,8 @@ TEST(ProfilesTest, OfAFileTheSoundSettingsAreOfferedAndTheOthersNamed) {
     // Of a list all entries, and no more.
     for (const char* actions :
          {"[ 20 21]", "[ 20 21 22 1 2 0 0 0 0 5]", "[ 276 21 22 1 2 0 0 0 0]"})
-        EXPECT_EQ(setFromWords(*settingOfKey("palette.buttonActions"), actions, prefs), kNotAValue);
+        EXPECT_TRUE(setFromWords(*settingOfKey("palette.buttonActions"), actions, prefs)
+                        .starts_with(kNotAValue));
 
     const std::string truncated = "<plist><dict><key>soundLevel</key><string>0x3";
     const std::string damaged = "damaged, or no file of settings";
@@ -116,8 +117,9 @@ const struct {
     {"scanner.scanMode", "2", "Each press moves one step"},
     {"scanner.triggerOnRelease", "when i let go", "When I let go"},
     {"playClickSounds", "Off", "off"},
-    {"playClickSounds", "maybe", "not a value of this setting"},
+    {"playClickSounds", "maybe", "neither on nor off"},
     {"palette.buttonSize", "(60,50)", "60 × 50 points"},
+    {"palette.buttonSize", "60", "not a value of this setting; for example (40,40)"},
 };
 
 TEST(ProfilesTest, ValuesAreTakenInPeoplesWords) {
