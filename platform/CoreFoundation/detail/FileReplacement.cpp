@@ -3,11 +3,13 @@
 
 #include <cerrno>
 #include <chrono>
+#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <mutex>
+#include <set>
 #include <sys/stat.h>
 #include <system_error>
 #include <thread>
@@ -45,44 +47,6 @@ void flushFolder(const std::string& path) {
     close(folder);
 }
 
-/// The current flush of a folder. Several threads replace files.
-struct FolderFlush {
-    std::mutex guard;
-    std::thread thread;
-    bool exitWaits = false; ///< an exit handler waits for the thread
-};
-
-/// Never destroyed: exit handlers save too.
-FolderFlush& folderFlush() {
-    static FolderFlush& flush = *new FolderFlush;
-    return flush;
-}
-
-void finishFlush() {
-    FolderFlush& flush = folderFlush();
-    const std::lock_guard lock(flush.guard);
-    flush.exitWaits = false;
-    if (flush.thread.joinable())
-        flush.thread.join();
-}
-
-/// Flushes the folder, so that the new name survives a power cut. That takes as long as flushing
-/// the file, so it has a thread of its own. Before it is done a power cut may leave the old file,
-/// which is whole. There is one flush at a time, and the process waits for it before it exits.
-void flushFolderSoon(const std::string& path) {
-    FolderFlush& flush = folderFlush();
-    const std::lock_guard lock(flush.guard);
-    if (flush.thread.joinable())
-        flush.thread.join();
-    if (!flush.exitWaits)
-        flush.exitWaits = std::atexit(finishFlush) == 0;
-    try {
-        flush.thread = std::thread([path] { flushFolder(path); });
-    } catch (const std::system_error&) {
-        flushFolder(path);
-    }
-}
-
 /// Whether the file beside the destination was never put in place and nobody writes to it any more.
 bool isLeftover(const fs::directory_entry& file, const std::string& destination) {
     const std::string name = file.path().filename();
@@ -105,6 +69,77 @@ void removeLeftovers(const std::string& destination) {
     for (; !error && file != fs::directory_iterator(); file.increment(error))
         if (isLeftover(*file, destination))
             unlink(file->path().c_str());
+}
+
+void finish(const std::string& destination) {
+    removeLeftovers(destination);
+    flushFolder(fs::path(destination).parent_path());
+}
+
+/// Finishes files that were put in place: removes what crashed writers have left beside them, and
+/// flushes the folder, so that the new name survives a power cut. That takes as long as flushing a
+/// file, so it has a thread of its own. Before it is done a power cut may leave the old file, which
+/// is whole. The process waits for it before it exits. Never destroyed: exit handlers save too.
+class Finisher {
+public:
+    void finishSoon(const std::string& destination);
+
+private:
+    bool start();
+    void run();
+    void wait();
+
+    std::mutex guard_;
+    std::condition_variable changed_;
+    std::set<std::string> waiting_; ///< destinations
+    bool isRunning_ = false;
+    bool isBusy_ = false;
+    bool exitWaits_ = false; ///< an exit handler waits for all
+};
+
+Finisher& finisher() {
+    static Finisher& finisher = *new Finisher;
+    return finisher;
+}
+
+void Finisher::finishSoon(const std::string& destination) {
+    const std::lock_guard lock(guard_);
+    if (!isRunning_ && !start())
+        return finish(destination);
+    waiting_.insert(destination);
+    if (!exitWaits_)
+        exitWaits_ = std::atexit([] { finisher().wait(); }) == 0;
+    changed_.notify_all();
+}
+
+bool Finisher::start() {
+    try {
+        std::thread([this] { run(); }).detach();
+        isRunning_ = true;
+    } catch (const std::system_error&) {
+        // there are too many threads
+    }
+    return isRunning_;
+}
+
+void Finisher::run() {
+    std::unique_lock lock(guard_);
+    for (;;) {
+        changed_.wait(lock, [this] { return !waiting_.empty(); });
+        const std::string destination = waiting_.extract(waiting_.begin()).value();
+        isBusy_ = true;
+        lock.unlock();
+        finish(destination);
+        lock.lock();
+        isBusy_ = false;
+        changed_.notify_all();
+    }
+}
+
+void Finisher::wait() {
+    std::unique_lock lock(guard_);
+    exitWaits_ = false;
+    changed_.wait(lock, [this] { return waiting_.empty() && !isBusy_; });
 }
 
 } // namespace
@@ -141,7 +176,6 @@ PendingFile::~PendingFile() {
 }
 
 int PendingFile::write(std::string_view content, unsigned mode) {
-    removeLeftovers(destination_);
     const int file = mkostemp(path_.data(), O_CLOEXEC);
     if (file < 0)
         return errno;
@@ -159,7 +193,7 @@ int PendingFile::putInPlace() {
     if (rename(path_.c_str(), destination_.c_str()) != 0)
         return errno;
     isThere_ = false;
-    flushFolderSoon(fs::path(destination_).parent_path().string());
+    finisher().finishSoon(destination_);
     return 0;
 }
 

@@ -39,9 +39,13 @@ FileOutcome replaceFile(const std::string& target, const std::string& document, 
 /// A deep copy, which later changes of the value don't affect. Null when a property list can't hold
 /// the value.
 CFRef<const CFType> deepCopy(const CFType* value) {
-    if (const auto* string = dynamicCFCast<CFString>(value)) // nearly always
-        return isXMLText(string->text()) ? CFRef<CFString>::adopt(new CFString(string->text()))
-                                         : nullptr;
+    if (const auto* string = dynamicCFCast<CFString>(value)) { // nearly always
+        if (!isXMLText(string->text()))
+            return nullptr;
+        if (typeid(*value) == typeid(CFString))
+            return CFRef<const CFType>::retain(value); // it never changes
+        return CFRef<CFString>::adopt(new CFString(string->text()));
+    }
     // Inside a list, since a domain is one level above it.
     const CFArray wrapped({CFRef<const CFType>::retain(value)});
     const std::string document = propertyListToXML(&wrapped);

@@ -4,6 +4,7 @@
 #include "platform/CoreFoundation/CFString.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -11,6 +12,7 @@
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <thread>
 
 namespace fs = std::filesystem;
 
@@ -30,6 +32,13 @@ inline long countPending(const fs::path& path) {
     return std::count_if(fs::directory_iterator(path.parent_path()), {}, [&](const auto& file) {
         return file.path().filename().string().starts_with(start);
     });
+}
+
+/// Another thread removes what crashed writers have left.
+inline bool soonNonePending(const fs::path& path) {
+    for (int tries = 0; tries < 1000 && countPending(path) > 0; ++tries)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    return countPending(path) == 0;
 }
 
 inline std::string repeated(std::size_t count, const std::string& bytes) {
