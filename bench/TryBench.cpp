@@ -10,6 +10,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QWidget>
 
 namespace {
 
@@ -17,16 +18,12 @@ constexpr QSize kViewSize(1880, 900); // on the whole of a common screen
 constexpr QRect kStrip(0, 440, 1880, 24);
 constexpr int kFrames = 4;
 
-double secondsAFrame(ViewWidget& widget, void (*drawMore)(QPainter& painter)) {
+double secondsAFrame(QWidget& widget) {
     widget.resize(kViewSize);
     QImage image(kViewSize, QImage::Format_ARGB32_Premultiplied);
     return secondsOf([&] {
-               for (int i = 0; i < kFrames; ++i) {
+               for (int i = 0; i < kFrames; ++i)
                    widget.render(&image, kStrip.topLeft(), kStrip);
-                   QPainter painter(&image);
-                   painter.setClipRect(kStrip);
-                   drawMore(painter);
-               }
            }) /
            kFrames;
 }
@@ -42,20 +39,24 @@ double frame() {
     session.advance(now);
     view.attachWidget(&widget);
     view.setSession(&session, 900 / 240.0);
-    return secondsAFrame(widget, [](QPainter&) {});
+    return secondsAFrame(widget);
 }
 
-double bareFrame() {
-    static ViewWidget& widget = *new ViewWidget(nullptr);
-    static NSView& view = *new NSView;
-    view.attachWidget(&widget);
-    return secondsAFrame(widget, [](QPainter& painter) {
-        painter.fillRect(QRect(QPoint(), kViewSize), Qt::white);
-        painter.fillRect(0, 300, kViewSize.width(), 37, QColor(50, 140, 200, 51));
-        painter.fillRect(0, 447, kViewSize.width(), 7, QColor(100, 0, 0, 242));
+/// The same strip: the ground, the mark, the frame and the line.
+class BareStrip final : public QWidget {
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), Qt::white);
+        painter.fillRect(0, 300, width(), 37, QColor(50, 140, 200, 51));
         painter.setPen(Qt::blue);
-        painter.drawRect(0, 0, kViewSize.width() - 1, kViewSize.height() - 1);
-    });
+        painter.drawRect(0, 0, width() - 1, height() - 1);
+        painter.fillRect(0, 447, width(), 7, QColor(100, 0, 0, 242));
+    }
+};
+
+double bareFrame() {
+    static BareStrip& widget = *new BareStrip;
+    return secondsAFrame(widget);
 }
 
 } // namespace

@@ -81,8 +81,11 @@ bool TryPage::keep(const tryout::Advice& advice, const tryout::Measured& measure
 
 /// A try that is left after enough presses for advice isn't lost.
 void TryPage::keepUnfinished() {
+    const Phase phase = session_->phase();
+    if (isLeft_ || phase == Phase::Done || phase == Phase::Left)
+        return;
     const tryout::Advice advice = tryout::advise(session_->measured(), conditions_);
-    if (!isLeft_ && session_->phase() != Phase::Done && advice.presses >= tryout::kFewestTrials)
+    if (advice.presses >= tryout::kFewestTrials)
         keep(advice, session_->measured());
 }
 

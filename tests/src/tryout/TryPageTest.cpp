@@ -55,9 +55,11 @@ TEST_F(TryPageTest, ATryLeftAfterEnoughPressesIsKept) {
         openPage();
         doTheSweeps(*page_, now_, tryout::kFewestTrials);
         if (isBySwitch) {
-            page_->pressed(now_);
-            page_->released(now_ += 5);
-            EXPECT_TRUE(button("againBtn")->isVisible()) << "its result is shown";
+            for (int holds = 0; holds < 2; ++holds) {
+                page_->pressed(now_);
+                page_->released(now_ += 5);
+                EXPECT_TRUE(button("againBtn")->isVisible()) << "its result is shown first";
+            }
         } else {
             page_->left();
         }
