@@ -94,7 +94,7 @@ bool TryPage::show(const std::string& path, std::vector<std::string>& errors) {
     tryView_->setTarget(this);
     startTry(); // before it is drawn
     window_.setContentView(nib_.topLevelView());
-    window_.makeFirstResponder(tryView_);
+    awaitPresses();
     // Timers have whole milliseconds. One frame too many is better than one too few.
     const EventTimerInterval interval =
         std::floor(1000 / window_.screen().maximumFramesPerSecond) / 1000;
@@ -104,6 +104,12 @@ bool TryPage::show(const std::string& path, std::vector<std::string>& errors) {
                           }),
                           this, &timer_);
     return true;
+}
+
+/// The focus would scroll to the picture. What to do is read first.
+void TryPage::awaitPresses() {
+    window_.makeFirstResponder(tryView_);
+    course_->scrollToVisible();
 }
 
 void TryPage::startTry() {
@@ -186,11 +192,19 @@ void TryPage::showCourse() {
     numbers_->setStringValue(hint);
     tryView_->setSaying(hasBegun() ? course : joined(Joint::Sentences, {course, hint}));
     const bool isAfterSweep = session_->phase() == Phase::Ready && hasBegun();
-    course_->setStringValue(isAfterSweep ? tryout::lastText(*session_) + '\n' + course : course);
+    write(isAfterSweep ? tryout::lastText(*session_) + '\n' + course : course);
+}
+
+/// Above the picture. Where not all has room it is scrolled into sight.
+void TryPage::write(const std::string& text) {
+    if (text == course_->stringValue())
+        return;
+    course_->setStringValue(text);
+    course_->scrollToVisible();
 }
 
 void TryPage::say(const std::string& text) {
-    course_->setStringValue(text);
+    write(text);
     tryView_->setSaying(text);
 }
 
@@ -238,7 +252,7 @@ void TryPage::toggleFullScreen(NSButton*) {
     window_.toggleFullScreen();
     fullScreenBtn_->setTitle(madeFullScreen_ ? localized("Try", "In the window")
                                              : localized("Try", "Full screen"));
-    window_.makeFirstResponder(tryView_);
+    awaitPresses();
     if (session_->phase() != Phase::Done)
         startTry(); // on what there is to sweep now
 }
@@ -250,7 +264,7 @@ void TryPage::takeAdvice(NSButton*) {
 
 void TryPage::startAgain(NSButton*) {
     startTry();
-    window_.makeFirstResponder(tryView_);
+    awaitPresses();
 }
 
 void TryPage::makeTargetSmaller(NSButton*) {

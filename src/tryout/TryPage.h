@@ -60,6 +60,7 @@ public:
 
 private:
     void frame();
+    void awaitPresses();
     void startTry();
     void makeSession();
     bool hasBegun() const;
@@ -68,7 +69,8 @@ private:
     void showCourse();
     /// What is said when no press comes.
     void showQuiet(double now);
-    /// Shows the text and makes a screen reader say it.
+    void write(const std::string& text);
+    /// Writes the text and makes a screen reader say it.
     void say(const std::string& text);
     /// After a rest a press only continues the try. True if this one did.
     bool wakesUp(double moment);
@@ -95,6 +97,7 @@ private:
     tryout::Trigger trigger_;
     std::optional<tryout::Session> session_;
     std::optional<tryout::Session::Phase> shownPhase_;
+    std::string written_;     ///< above the picture
     float sessionHeight_ = 0; ///< of the view, when the session was made
     tryout::Earlier earlier_;
     double advised_ = 0; ///< seconds

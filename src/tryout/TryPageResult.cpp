@@ -32,7 +32,6 @@ void TryPage::showResult() {
     advised_ = advice.time;
 
     say(tryout::resultText(advice, conditions_, measured, trigger_.way));
-    course_->scrollToVisible();
     numbers_->setStringValue(tryout::detailsText(advice, steadiness));
     const bool isOffered =
         advice.verdict == tryout::Verdict::Change || advice.verdict == tryout::Verdict::TryAgain;
