@@ -170,7 +170,7 @@ inline constexpr Setting kRows[] = {
     {SETTING("palette.buttonGap", kDecimalNotation, buttonGap, kChangePalette),
      LOCALIZABLE("Settings", "Space between palette buttons"), points(0, 100), BUMPER("buttonGap")},
     {SETTING("palette.buttonSize", kSizeNotation, buttonSize, kChangePalette),
-     LOCALIZABLE("Settings", "Size of palette buttons"), {kMinButtonSize, kMaxButtonSize}},
+     LOCALIZABLE("Settings", "Size of palette buttons"), {kMinButtonSize, kMaxButtonSize, 0, nullptr, LOCALIZABLE("Units", "points")}},
     {SETTING("palette.buttonShape", kHexWordNotation, buttonShape, kChangePalette),
      LOCALIZABLE("Settings", "Corners of palette buttons"), {}, kCorners},
     {SETTING("palette.buttonContent", kHexWordNotation, buttonContent, kChangePalette),

@@ -50,7 +50,7 @@ TEST(ProfilesTest, OfAFileTheSoundSettingsAreOfferedAndTheOthersNamed) {
         {"palette.buttonActions", "<string>[ 20 21 22 1 2 40 0 0 0]</string>",
          "an action that there isn't"},
         {"palette.buttonContent", "<string>0x4</string>", "outside 0 to 3"},
-        {"palette.buttonSize", "<string>(40,19)</string>", "outside 20 to 100"},
+        {"palette.buttonSize", "<string>(40,19)</string>", "outside 20 to 100 points"},
         {"playClickSounds", "<array/>", kNotAValue},
         {"scanner.interClickDelay", "<string>nan</string>", "not a number"},
         {"scanner.lineColor", "<string>[0x100,0x0,0x0]</string>", "outside 0 to 255"},
