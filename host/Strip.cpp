@@ -3,6 +3,7 @@
 
 #include "platform/AppKit/UserMessages.h"
 #include "platform/AppKit/detail/Announcement.h"
+#include "platform/AppKit/detail/ShownText.h"
 
 #include <QAccessibleWidget>
 #include <QBoxLayout>
@@ -68,7 +69,8 @@ void Strip::showCurrent() {
         button->deleteLater();
     }
     const CurrentMessage* current = currentMessage();
-    const QString text = current ? QString::fromStdString(current->message.text) : QString();
+    const QString text =
+        current ? keptInDirection(QString::fromStdString(current->message.text)) : QString();
     const bool isNew = text_->text() != text;
     text_->setText(text);
     setVisible(current != nullptr);

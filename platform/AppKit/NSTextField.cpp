@@ -61,7 +61,7 @@ void NSTextField::setStringValue(std::string_view utf8) {
         return line->setText(text);
     auto* label = static_cast<QLabel*>(widget());
     label->setTextFormat(Qt::PlainText);
-    label->setText(text);
+    label->setText(keptInDirection(text));
     if (label->property("hidesWhenEmpty").toBool())
         label->setVisible(!text.isEmpty());
 }
