@@ -66,7 +66,7 @@ double updateLoginItems() {
         return true;
     }();
     const timespec before = lastChange();
-    const double seconds = secondsOf([] { update(agent.get()); });
+    const double seconds = workSecondsOf([] { update(agent.get()); });
     const timespec after = lastChange();
     const bool written = before.tv_sec != after.tv_sec || before.tv_nsec != after.tv_nsec;
     return filled && !written && launchAppIsAutoLaunched(agent.get()) ? seconds : -1;
@@ -75,7 +75,7 @@ double updateLoginItems() {
 /// Lists both folders and reads every entry once. The list is asked twice, and parses.
 double readEntries() {
     std::size_t bytes = 0;
-    const double seconds = secondsOf([&bytes] {
+    const double seconds = workSecondsOf([&bytes] {
         for (const char* variable : {"XDG_CONFIG_HOME", "XDG_CONFIG_DIRS"})
             for (const auto& entry : fs::directory_iterator(folderOf(variable))) {
                 std::ifstream file(entry.path());

@@ -15,7 +15,7 @@ from pathlib import Path
 
 from tests.e2e.desktop import given, process_of
 from tests.e2e.ends import succeeds
-from tests.e2e.screen import press
+from tests.e2e.screen import Atspi, press
 from tests.e2e.startup import DATE, NEVER
 from tests.e2e.tour import AGENT, PROGRAM, Tour, touring, wait_for_agent
 from tests.e2e.waiting import PATIENCE, check, until
@@ -82,7 +82,8 @@ def copy_and_close_anyway(tour: Tour) -> None:
     expect_alert(tour, "couldn’t be saved")
     copy = tour.desktop.home / "copy.plist"
     tour.screen.click("Save a copy…", "push button")
-    tour.screen.find("Save a copy of the settings", "dialog")
+    dialog = tour.screen.find("Save a copy of the settings", "dialog")
+    until(lambda: dialog.has(Atspi.StateType.ACTIVE), "the dialogue has the keyboard")
     press("key", "ctrl+a", "type", str(copy))
     press("key", "Return")
     expect_alert(tour, "A copy of your settings is now in", str(copy))
