@@ -119,9 +119,12 @@ void TryPage::startTry() {
     trigger_ = trigger;
     keyboard_.stir(GetCurrentEventTime());
     makeSession();
+    shownPhase_.reset();
+    showPhase();
 }
 
-/// The page sweeps its part of the screen at the speed that the whole screen will have.
+/// Anew also when the picture's height changes, for example because more is said above it. The page
+/// sweeps its part of the screen at the speed that the whole screen will have.
 void TryPage::makeSession() {
     const NSScreen screen = window_.screen();
     conditions_ = conditionsOn(screen, targetChoice_);
@@ -133,8 +136,6 @@ void TryPage::makeSession() {
     session_.emplace(sweep, conditions_.target, conditions_.delay, trigger_,
                      std::random_device()());
     tryView_->setSession(&*session_, scale);
-    shownPhase_.reset();
-    showPhase();
 }
 
 bool TryPage::hasBegun() const {
@@ -284,9 +285,10 @@ void TryPage::takePaletteTarget(NSButton*) {
 void TryPage::setTarget(tryout::TargetChoice choice) {
     targetChoice_ = choice;
     prefsSetUnsignedValue(targetKey(), choice);
-    if (!hasBegun())
-        return makeSession();
-    conditions_ = conditionsOn(window_.screen(), targetChoice_);
+    if (hasBegun())
+        conditions_ = conditionsOn(window_.screen(), targetChoice_);
+    else
+        makeSession();
     showTarget();
 }
 
