@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "src/tryout/trial.h"
-
 #include "src/tryout/hitrate.h"
+#include "src/tryout/trial.h"
 
 namespace tryout {
 
@@ -75,8 +74,6 @@ public:
     int sweepIndex() const { return index_; }
 
     bool isFree() const { return index_ < kFreeSweeps; }
-
-    const Sweep& sweep() const { return sweep_; }
 
     double target() const { return target_; }
 
