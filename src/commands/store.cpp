@@ -33,6 +33,21 @@ void updateLoginItem() {
         launchSetAppIsAutoLaunched(agent.get(), prefs.launchAtLogin != 0, false);
 }
 
+/// Another command may store something at the same time, and send it first. So what is sent is what
+/// is stored, and what has been stored meanwhile is sent too: the agent's last record has it all.
+void sendStored(ChangeMask changes) {
+    PrefsRecord sent;
+    do {
+        prefsSetup();
+        sent = prefs;
+        daemonSendChanges(changes, true);
+        flushSentEvents();
+        CFPreferencesAppSynchronize(kAgentBundleID);
+        prefsSetup();
+        changes = changesOf(differences(sent, prefs));
+    } while (differences(sent, prefs).any());
+}
+
 } // namespace
 
 const CFBundle* paneBundle() {
@@ -52,21 +67,6 @@ PrefsRecord currentSettings() {
     PrefsRecord record = prefs;
     recoveryLookAt(record);
     return record;
-}
-
-/// Another command may store something at the same time, and send it first. So what is sent is what
-/// is stored, and what has been stored meanwhile is sent too: the agent's last record has it all.
-void sendStored(ChangeMask changes) {
-    PrefsRecord sent;
-    do {
-        prefsSetup();
-        sent = prefs;
-        daemonSendChanges(changes, true);
-        flushSentEvents();
-        CFPreferencesAppSynchronize(kAgentBundleID);
-        prefsSetup();
-        changes = changesOf(differences(sent, prefs));
-    } while (differences(sent, prefs).any());
 }
 
 std::string changeSettings(const SettingSet& settings, const PrefsRecord& record) {
