@@ -216,6 +216,7 @@ void SectionFrame::foldHeader() {
     button_->setMinimumWidth(widest); // the others stay where they are
     QWidget* header = button_->parentWidget();
     auto* parts = qobject_cast<QBoxLayout*>(header->layout());
+    parts->setStretch(0, isNarrow_ ? 0 : 1); // all grow
     parts->setDirection(QBoxLayout::LeftToRight);
     forgetSizes(*header);
     if (isNarrow_ && parts->minimumSize().width() > window()->width())
