@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QStyleOptionSlider>
+#include <QVariant>
 
 #include <algorithm>
 
@@ -17,6 +18,7 @@ using namespace panestyle;
 
 constexpr qreal kGroove = 4;
 constexpr int kPadding = 32; ///< of a button, both sides of its text together
+constexpr int kTightPadding = 18;
 constexpr qreal kCardRadius = 10;
 constexpr int kHeadingGap = 8; ///< between a group's heading and its card
 
@@ -163,6 +165,10 @@ void drawCard(QPainter& painter, const QStyleOptionGroupBox& option, const QWidg
 
 } // namespace
 
+bool panestyle::isTight(const QWidget& button) {
+    return button.property("isTight").toBool();
+}
+
 void panestyle::drawBox(QPainter& painter, const QRectF& bounds, const QBrush& fill,
                         const QColor& border, qreal width, qreal radius) {
     const Smooth smooth(painter);
@@ -244,7 +250,8 @@ QSize PaneStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     const QSize own = QProxyStyle::sizeFromContents(type, option, size, widget);
     switch (type) {
     case CT_PushButton:
-        return (size + QSize(kPadding, kPadding / 2)).expandedTo({kTarget, kTarget});
+        return (size + QSize(widget && isTight(*widget) ? kTightPadding : kPadding, kPadding / 2))
+            .expandedTo({kTarget, kTarget});
     case CT_ToolButton:
         return own.expandedTo({kTarget, kTarget});
     case CT_LineEdit:

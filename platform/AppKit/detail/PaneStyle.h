@@ -40,6 +40,9 @@ constexpr qreal kRing = 3;     ///< the width of the ring around what has the ke
 constexpr qreal kBorder = 1.5;
 constexpr qreal kRadius = 8; ///< of a control's corners
 
+/// Whether a button has less room beside its text: its property `isTight`.
+bool isTight(const QWidget& button);
+
 /// Draws a rounded box with the border inside `bounds`.
 void drawBox(QPainter& painter, const QRectF& bounds, const QBrush& fill, const QColor& border,
              qreal width, qreal radius = kRadius);

@@ -261,6 +261,7 @@ void SectionFrame::fitHeader() {
     header->layout()->setContentsMargins(margins);
     header->layout()->setSpacing(margins.top());
     for (auto* button : header->findChildren<QAbstractButton*>()) {
+        button->setProperty("isTight", isNarrow_);
         const QVariant brief = button->property("shortText");
         if (!brief.isValid())
             continue;

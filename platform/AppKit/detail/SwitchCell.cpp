@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int kPadding = 28; // points beside the text, both sides together
+constexpr int kTightPadding = 18;
 constexpr qreal kOutline = 2;
 
 } // namespace
@@ -21,7 +22,8 @@ QSize SwitchCell::sizeHint() const {
     QFont bold = font();
     bold.setBold(true);
     const QFontMetrics metrics(bold);
-    return {metrics.horizontalAdvance(text()) + kPadding,
+    return {metrics.horizontalAdvance(text()) +
+                (panestyle::isTight(*this) ? kTightPadding : kPadding),
             std::max(panestyle::kTarget, metrics.height() + 16)};
 }
 
