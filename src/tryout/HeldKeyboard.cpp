@@ -22,9 +22,7 @@ bool HeldKeyboard::isResting(double now) const {
 
 void HeldKeyboard::update(double now, bool isWanted, bool isKeyDown) {
     const bool isHeld = isWanted && !isResting(now);
-    if (isKeyDown)
-        return;
-    if (mode_ && !isHeld)
+    if (mode_ && !isHeld && !isKeyDown)
         PopSymbolicHotKeyMode(std::exchange(mode_, nullptr));
     if (!isHeld || (mode_ && now < since_ + kRenewal))
         return;

@@ -19,8 +19,8 @@ public:
 
     bool isResting(double now) const;
 
-    /// Call it often. `isWanted`: presses belong to the try. While a key is down nothing changes,
-    /// so that its release goes where its press went.
+    /// Call it often. `isWanted`: presses belong to the try. While one lasts the keys aren't given
+    /// back, so that its release goes where it went.
     void update(double now, bool isWanted, bool isKeyDown);
 
 private:

@@ -150,7 +150,9 @@ void TryPage::frame() {
         makeSession();
     session_->advance(now);
     showPhase();
-    keyboard_.update(now, session_->phase() != Phase::Done, session_->isPressed());
+    // A key that repeats looks like one press only while the keys are held.
+    const bool isPressed = session_->isPressed();
+    keyboard_.update(now, session_->phase() != Phase::Done || isPressed, isPressed);
     showQuiet(now);
     tryView_->showFrame();
 }
