@@ -6,6 +6,7 @@
 #include "platform/AppKit/detail/ViewAccessibility.h"
 #include "platform/HIToolbox/detail/EventMoment.h"
 #include "platform/HIToolbox/detail/KeyMoments.h"
+#include "platform/HIToolbox/detail/KeyRepeats.h"
 #include "platform/HIToolbox/detail/ScanCodes.h"
 #include "platform/QuickDraw/detail/GrafPort.h"
 
@@ -71,6 +72,7 @@ NSEvent keyEventOf(const QKeyEvent& event) {
 ViewWidget::ViewWidget(QWidget* parent) : QWidget(parent) {
     installViewAccessibility();
     noteKeyMoments();
+    correctKeyRepeats();
     setFocusPolicy(Qt::StrongFocus); // or else the form's tab order would leave it out
 }
 
