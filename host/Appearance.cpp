@@ -95,7 +95,8 @@ void Appearance::follow() {
 }
 
 Appearance::Appearance(QObject* application)
-    : QObject(application), themeFont_(QApplication::font()) {
+    : QObject(application), themeFont_(QApplication::font()),
+      themeAnimates_(QApplication::isEffectEnabled(Qt::UI_General)) {
     auto bus = QDBusConnection::sessionBus();
     // From any sender: asking who owns the portal's name would mean waiting.
     bus.connect(QString(), kPath, kInterface, QStringLiteral("SettingChanged"), this,
@@ -153,8 +154,5 @@ void Appearance::apply() {
         font.setPointSizeF(font.pointSizeF() * look_.textScale);
         QApplication::setFont(font);
     }
-    for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo,
-                              Qt::UI_AnimateTooltip, Qt::UI_FadeTooltip})
-        QApplication::setEffectEnabled(effect, !look_.reducedMotion);
-    qApp->setProperty("reducedMotion", look_.reducedMotion);
+    QApplication::setEffectEnabled(Qt::UI_General, themeAnimates_ && !look_.reducedMotion);
 }

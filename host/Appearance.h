@@ -9,7 +9,7 @@
 
 /// Makes the application look as the desktop's settings portal wishes, now and after each change.
 /// It sets the palette, the font size where the display server doesn't report it, and whether there
-/// are animations (also as the application's property "reducedMotion").
+/// are animations.
 ///
 /// Nothing waits for the portal. Without a session bus, portal or answer nothing changes.
 class Appearance final : public QObject {
@@ -31,4 +31,5 @@ private:
 
     DesktopLook look_, applied_;
     QFont themeFont_;
+    bool themeAnimates_;
 };

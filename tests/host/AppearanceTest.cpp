@@ -78,6 +78,7 @@ TEST_F(AppearanceTest, TheApplicationLooksAsThePortalWishes) {
     Portal portal;
     const double points = QApplication::font().pointSizeF();
     const QColor themeHighlight = color(QPalette::Highlight);
+    QApplication::setEffectEnabled(Qt::UI_General);
     Appearance::follow();
     EXPECT_FALSE(isDark()) << "it waited";
     ASSERT_TRUE(QTest::qWaitFor([] { return isDark(); }));
@@ -97,9 +98,9 @@ TEST_F(AppearanceTest, TheApplicationLooksAsThePortalWishes) {
         {kAppearance, "accent-color", QVariant::fromValue(Accent{-1, 0, 0}),
          [&] { return color(QPalette::Highlight) == themeHighlight; }},
         {kAppearance, "reduced-motion", 1U,
-         [] { return qApp->property("reducedMotion").toBool(); }},
+         [] { return !QApplication::isEffectEnabled(Qt::UI_General); }},
         {kGnome, "enable-animations", true,
-         [] { return !qApp->property("reducedMotion").toBool(); }},
+         [] { return QApplication::isEffectEnabled(Qt::UI_General); }},
         {kGnome, "text-scaling-factor", 1.5,
          [&] { return QApplication::font().pointSizeF() == 1.5 * points; }},
         {kGnome, "text-scaling-factor", 1000.0,
