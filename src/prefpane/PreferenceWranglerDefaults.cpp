@@ -11,7 +11,6 @@
 #include "src/settingwords.h"
 
 #include <algorithm>
-#include <cstring>
 #include <iterator>
 
 namespace {
@@ -24,7 +23,8 @@ std::size_t rowAt(std::size_t offset) {
 
 /// Of two records that are copies of `prefs` with changes: they have the same unused bytes.
 bool isSame(const PrefsRecord& a, const PrefsRecord& b) {
-    return std::memcmp(&a, &b, sizeof a) == 0;
+    const auto* bytes = reinterpret_cast<const UInt8*>(&a);
+    return std::equal(bytes, bytes + sizeof a, reinterpret_cast<const UInt8*>(&b));
 }
 
 /// The title of a section's button, or of the button for all.

@@ -97,7 +97,6 @@ private:
     tryout::Trigger trigger_;
     std::optional<tryout::Session> session_;
     std::optional<tryout::Session::Phase> shownPhase_;
-    std::string written_;     ///< above the picture
     float sessionHeight_ = 0; ///< of the view, when the session was made
     tryout::Earlier earlier_;
     double advised_ = 0; ///< seconds
