@@ -37,8 +37,8 @@ void updateLoginItem() {
 /// is stored, and what has been stored meanwhile is sent too: the agent's last record has it all.
 void sendStored(ChangeMask changes) {
     PrefsRecord sent;
+    prefsSetup();
     do {
-        prefsSetup();
         sent = prefs;
         daemonSendChanges(changes, true);
         flushSentEvents();

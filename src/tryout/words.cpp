@@ -81,7 +81,7 @@ std::string countingText(const Trigger& trigger) {
                                     "section “General”. Escape leaves.")});
 }
 
-static_assert(kUnansweredSweeps == 2);
+static_assert(kUnansweredSweeps == 2); // as the next text says
 
 std::string offerText(const Trigger& trigger) {
     return joined(
