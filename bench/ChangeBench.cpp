@@ -5,8 +5,8 @@
 #include "bench/Figures.h"
 #include "bench/OpenPane.h"
 #include "bench/Peer.h"
-#include "src/prefpane/PreferenceWrangler.h"
-#include "src/profiles.h"
+#include "src/pane/PreferenceWrangler.h"
+#include "src/store/profiles.h"
 
 #include <QAbstractButton>
 #include <QAccessible>

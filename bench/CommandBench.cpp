@@ -3,7 +3,7 @@
 // is linked alike and parses the same file.
 
 #include "bench/Figures.h"
-#include "src/prefs.h"
+#include "src/store/prefs.h"
 
 #include <cstdlib>
 #include <fcntl.h>

@@ -9,8 +9,8 @@
 #include "bench/Figures.h"
 #include "platform/AppKit/NSView.h"
 #include "platform/CoreServices/Processes.h"
-#include "src/prefpane/VLDKorvexPane.h"
-#include "src/prefs.h"
+#include "src/pane/VLDKorvexPane.h"
+#include "src/store/prefs.h"
 
 #include <QApplication>
 #include <QDBusConnection>

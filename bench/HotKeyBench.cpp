@@ -3,7 +3,7 @@
 
 #include "bench/Figures.h"
 #include "bench/OpenPane.h"
-#include "src/prefpane/Daemon.h"
+#include "src/link/Daemon.h"
 
 #include <QApplication>
 #include <QKeyEvent>

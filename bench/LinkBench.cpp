@@ -3,7 +3,7 @@
 
 #include "bench/Figures.h"
 #include "bench/Peer.h"
-#include "src/prefpane/Daemon.h"
+#include "src/link/Daemon.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

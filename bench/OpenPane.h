@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "src/prefpane/VLDKorvexPane.h"
+#include "src/pane/VLDKorvexPane.h"
 
 class QWidget;
 

@@ -4,7 +4,7 @@
 
 #include "bench/Figures.h"
 #include "platform/HIToolbox/detail/EventRecord.h"
-#include "src/prefpane/choosearea.h"
+#include "src/pane/area/choosearea.h"
 
 #include <QApplication>
 #include <QBackingStore>

@@ -4,10 +4,10 @@
 
 #include "bench/Figures.h"
 #include "platform/AppKit/detail/ViewWidget.h"
-#include "src/prefpane/Daemon.h"
-#include "src/prefpane/PaletteView.h"
-#include "src/prefpane/palutil.h"
-#include "src/prefs.h"
+#include "src/link/Daemon.h"
+#include "src/pane/palette/PaletteView.h"
+#include "src/scan/palutil.h"
+#include "src/store/prefs.h"
 
 #include <QApplication>
 #include <QPainter>

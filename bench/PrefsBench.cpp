@@ -2,7 +2,7 @@
 // Loading and storing the settings. Floor: the bare work on a file of the same bytes.
 
 #include "bench/Figures.h"
-#include "src/prefs.h"
+#include "src/store/prefs.h"
 
 #include <QXmlStreamReader>
 

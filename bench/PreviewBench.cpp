@@ -5,10 +5,10 @@
 #include "bench/BarePreview.h"
 #include "bench/Figures.h"
 #include "platform/AppKit/detail/ViewWidget.h"
-#include "src/prefpane/Daemon.h"
-#include "src/prefpane/SampleScanView.h"
-#include "src/prefpane/palutil.h"
-#include "src/prefs.h"
+#include "src/link/Daemon.h"
+#include "src/pane/look/SampleScanView.h"
+#include "src/scan/palutil.h"
+#include "src/store/prefs.h"
 
 #include <QImage>
 #include <QPainter>

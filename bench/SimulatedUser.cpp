@@ -13,8 +13,8 @@ double uniform(double low, double high, std::mt19937& random) {
     return std::uniform_real_distribution<>(low, high)(random);
 }
 
-double nextPress(const SimulatedUser& user, const tryout::Sweep& sweep, double markTime,
-                 double spread, std::mt19937& random) {
+double nextPress(const SimulatedUser& user, const Sweep& sweep, double markTime, double spread,
+                 std::mt19937& random) {
     const double kind = uniform(0, 1, random);
     if (kind < user.lapses)
         return uniform(0, 2 * sweep.time, random); // half of them are none: the sweep is over
@@ -26,7 +26,7 @@ double nextPress(const SimulatedUser& user, const tryout::Sweep& sweep, double m
 /// The true rate of hits, of presses that are no lapses.
 double trueRate(const tryout::Conditions& tried, const tryout::Timing& truth, double lineTime,
                 double pointerTime) {
-    const tryout::Sweep line = {tried.sweep.travel, lineTime, tried.sweep.accelerates};
+    const Sweep line = {tried.sweep.travel, lineTime, tried.sweep.accelerates};
     double rate = hitRate(line, tried.target, truth);
     if (tried.pointer)
         rate *= hitRate({tried.pointer->travel, pointerTime, tried.pointer->accelerates},
@@ -65,12 +65,12 @@ tryout::Conditions simulatedConditions() {
     return {.sweep = {.travel = 300, .time = 10},
             .target = 10,
             .delay = 1.5,
-            .pointer = tryout::Sweep{.travel = 530, .time = 10}};
+            .pointer = Sweep{.travel = 530, .time = 10}};
 }
 
 tryout::Measured simulateTry(const SimulatedUser& user, const tryout::Conditions& conditions,
                              std::mt19937& random) {
-    const tryout::Sweep& sweep = conditions.sweep;
+    const Sweep& sweep = conditions.sweep;
     std::vector<double> marks;
     for (int i = 0; i < kTrials; ++i)
         marks.push_back(sweep.travel * (i + 0.5) / kTrials);

@@ -5,7 +5,7 @@
 #include "bench/Figures.h"
 #include "platform/AppKit/detail/ViewWidget.h"
 #include "platform/HIToolbox/EventTimers.h"
-#include "src/prefs.h"
+#include "src/store/prefs.h"
 #include "src/tryout/TryView.h"
 
 #include <QImage>

@@ -3,8 +3,8 @@
 
 #include "platform/CoreFoundation/Localization.h"
 #include "src/commands/store.h"
-#include "src/defaults.h"
-#include "src/settingcheck.h"
+#include "src/record/settingcheck.h"
+#include "src/store/defaults.h"
 
 namespace {
 

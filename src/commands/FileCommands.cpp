@@ -4,9 +4,9 @@
 #include "platform/CoreFoundation/Localization.h"
 #include "src/commands/json.h"
 #include "src/commands/store.h"
-#include "src/openwindow.h"
-#include "src/profiles.h"
-#include "src/settingwords.h"
+#include "src/link/openwindow.h"
+#include "src/record/settingwords.h"
+#include "src/store/profiles.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -4,8 +4,8 @@
 #include "platform/CoreFoundation/Localization.h"
 #include "src/commands/json.h"
 #include "src/commands/store.h"
-#include "src/defaults.h"
-#include "src/settingwords.h"
+#include "src/record/settingwords.h"
+#include "src/store/defaults.h"
 
 #include <cstdio>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/commands/command.h"
-#include "src/settings.h"
-#include "src/settingwords.h"
+#include "src/record/settings.h"
+#include "src/record/settingwords.h"
 
 #include <cstdio>
 

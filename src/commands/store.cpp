@@ -5,10 +5,11 @@
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreFoundation/PreferencesOutcome.h"
 #include "platform/CoreServices/AppleEvents.h"
+#include "src/link/Daemon.h"
+#include "src/link/openwindow.h"
 #include "src/login/launch.h"
-#include "src/openwindow.h"
-#include "src/prefpane/Daemon.h"
-#include "src/recovery.h"
+#include "src/record/palactions.h"
+#include "src/store/recovery.h"
 
 #include <cstring>
 
@@ -56,9 +57,11 @@ const CFBundle* paneBundle() {
 }
 
 void nameActions() {
-    daemonMakeBundleBy([] {
-        const auto agent = agentURL();
-        return agent ? CFBundleCreate(agent.get()) : nullptr;
+    palutilUseBundle([] {
+        static CFRef<CFBundle> bundle;
+        if (const auto agent = agentURL(); agent && !bundle)
+            bundle = CFBundleCreate(agent.get());
+        return bundle.get();
     });
 }
 

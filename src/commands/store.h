@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "src/differences.h"
+#include "src/record/differences.h"
 
 #include <string>
 

@@ -7,10 +7,10 @@
 #include "platform/CoreFoundation/CFNumber.h"
 #include "platform/CoreFoundation/CFPreferences.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "src/page.h"
-#include "src/prefpane/Daemon.h"
-#include "src/prefpane/SliderController.h"
-#include "src/settings.h"
+#include "src/link/Daemon.h"
+#include "src/pane/SliderController.h"
+#include "src/pane/page.h"
+#include "src/record/settings.h"
 
 #include <algorithm>
 #include <memory>

@@ -6,7 +6,7 @@
 #include "platform/CoreFoundation/CFBundle.h"
 #include "platform/HIToolbox/EventTimers.h"
 #include "src/firststeps/PressView.h"
-#include "src/prefs.h"
+#include "src/store/prefs.h"
 
 class NSButton;
 class NSMatrix;

@@ -5,7 +5,7 @@
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/HotKeyMode.h"
-#include "src/page.h"
+#include "src/pane/page.h"
 #include "src/tryout/HistoryView.h"
 #include "src/tryout/words.h"
 
@@ -129,7 +129,7 @@ void TryPage::makeSession() {
     const NSScreen screen = window_.screen();
     conditions_ = conditionsOn(screen, targetChoice_);
     sessionHeight_ = tryView_->bounds().height;
-    tryout::Sweep sweep = conditions_.sweep;
+    Sweep sweep = conditions_.sweep;
     const double scale = double{screen.frame.height} / screen.millimetres.height;
     sweep.travel = sessionHeight_ / scale;
     sweep.time *= sweep.travel / conditions_.sweep.travel;

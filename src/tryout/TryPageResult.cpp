@@ -4,7 +4,7 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "src/settingwords.h"
+#include "src/record/settingwords.h"
 #include "src/tryout/HistoryView.h"
 #include "src/tryout/words.h"
 

@@ -8,7 +8,7 @@
 #include "platform/AppKit/NSStringDrawing.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/EventTimers.h"
-#include "src/prefs.h"
+#include "src/store/prefs.h"
 #include "src/tryout/words.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "src/switchview.h"
+#include "src/pane/switchview.h"
 #include "src/tryout/session.h"
 
 #include <string>

@@ -3,7 +3,7 @@
 
 #include "platform/CoreFoundation/CFURLAccess.h"
 #include "platform/CoreServices/Folders.h"
-#include "src/fsutil.h"
+#include "src/files/fsutil.h"
 
 namespace tryout {
 

@@ -20,8 +20,6 @@ namespace tryout {
 
 namespace {
 
-/// A line that speeds up starts at this share of its mean speed and ends as much above it.
-constexpr double kStartingSpeed = 0.5;
 /// The number of places at which such a line's hit rate is taken.
 constexpr int kPlaces = 16;
 
@@ -48,28 +46,6 @@ std::optional<Click> best(RatedTimes lines, RatedTimes pointers, double rate, Co
 }
 
 } // namespace
-
-double Sweep::positionAt(double elapsed) const {
-    const double u = std::clamp(elapsed / time, 0.0, 1.0);
-    if (!accelerates)
-        return travel * u;
-    return travel * u * (kStartingSpeed + (1 - kStartingSpeed) * u);
-}
-
-double Sweep::timeAt(double position) const {
-    const double s = std::clamp(position / travel, 0.0, 1.0);
-    if (!accelerates)
-        return time * s;
-    constexpr double a = 1 - kStartingSpeed, b = kStartingSpeed;
-    return time * (std::sqrt(b * b + 4 * a * s) - b) / (2 * a);
-}
-
-double Sweep::speedAt(double position) const {
-    if (!accelerates)
-        return travel / time;
-    const double u = timeAt(position) / time;
-    return travel / time * (kStartingSpeed + 2 * (1 - kStartingSpeed) * u);
-}
 
 double hitRate(const Sweep& sweep, double width, const Timing& timing) {
     if (!sweep.accelerates)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "src/scan/sweep.h"
+
 #include <optional>
 #include <span>
 #include <vector>
@@ -8,20 +10,6 @@
 /// How often a line that sweeps steadily, or speeds up, is stopped on a target. Lengths are in any
 /// one unit, times in seconds.
 namespace tryout {
-
-/// A line's way across the screen.
-struct Sweep {
-    double travel = 0; ///< the whole way
-    double time = 0;   ///< for the whole way
-    bool accelerates = false;
-
-    /// The place of the line's centre, 0 to `travel`, `elapsed` seconds after its start.
-    double positionAt(double elapsed) const;
-    /// When it reaches a position from 0 to `travel`.
-    double timeAt(double position) const;
-    /// Its speed there.
-    double speedAt(double position) const;
-};
 
 /// A user's presses, relative to the intended moment.
 struct Timing {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/tryout/suggestions.h"
 
-#include "src/settingwords.h"
+#include "src/record/settingwords.h"
 
 namespace tryout {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "src/settings.h"
+#include "src/record/settings.h"
 #include "src/tryout/advice.h"
 #include "src/tryout/steadiness.h"
 

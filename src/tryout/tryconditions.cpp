@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/tryout/tryconditions.h"
 
-#include "src/settings.h"
+#include "src/record/settings.h"
 
 #include <algorithm>
 #include <cmath>

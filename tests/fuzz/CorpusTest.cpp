@@ -2,7 +2,7 @@
 #include "platform/CoreFoundation/CFPropertyList.h"
 #include "platform/CoreServices/detail/DesktopEntry.h"
 #include "platform/IconServices/detail/IconFamily.h"
-#include "src/settings.h"
+#include "src/record/settings.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/TestIcons.h"
 

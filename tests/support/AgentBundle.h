@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "src/prefpane/Daemon.h"
-#include "src/prefs.h"
+#include "src/link/Daemon.h"
+#include "src/store/prefs.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 /// An agent's bundle for the test, with a folder of pointers and nothing to launch. The pane's link

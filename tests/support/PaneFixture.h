@@ -3,9 +3,9 @@
 
 #include "platform/AppKit/NSView.h"
 #include "platform/AppKit/UserMessages.h"
-#include "src/prefpane/PreferenceWrangler.h"
-#include "src/prefpane/VLDKorvexPane.h"
-#include "src/prefs.h"
+#include "src/pane/PreferenceWrangler.h"
+#include "src/pane/VLDKorvexPane.h"
+#include "src/store/prefs.h"
 #include "tests/support/AgentTest.h"
 
 #include <QAbstractButton>

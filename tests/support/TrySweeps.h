@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "src/prefs.h"
+#include "src/store/prefs.h"
 #include "src/tryout/TryPage.h"
 
 #include <utility>

@@ -1,8 +1,0 @@
-// SPDX-License-Identifier: MIT
-#pragma once
-
-#include "src/prefs.h"
-
-/// The settings of somebody who has stored none: the administrator's from all users' domain, else
-/// the factory defaults.
-PrefsRecord defaultRecord();

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "src/link/openwindow.h"
+
+#include "platform/CoreFoundation/Localization.h"
+#include "platform/CoreServices/AppleEvents.h"
+#include "platform/CoreServices/Processes.h"
+
+namespace {
+
+constexpr OSType kWindowType = fourCharCode("APPL");
+constexpr OSType kWindowSignature = fourCharCode("sprf");
+constexpr AEEventClass kEventClass = fourCharCode("Krvx");
+constexpr AEEventID kSetSettings = fourCharCode("PSet");
+constexpr AEKeyword keySettings = fourCharCode("Sets");
+constexpr DescType typePrefsRecord = fourCharCode("KrPf");
+constexpr DescType typeBits = fourCharCode("comp");
+constexpr SInt32 kPatience = 5 * 60; // ticks
+
+void (*takeChange)(const SettingSet& settings, const PrefsRecord& record) = nullptr;
+
+ProcessSerialNumber findWindow() {
+    ProcessSerialNumber psn = kNoProcess;
+    while (GetNextProcess(&psn) == noErr) {
+        ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
+        if (GetProcessInformation(&psn, &info) == noErr && info.processType == kWindowType &&
+            info.processSignature == kWindowSignature)
+            return psn;
+    }
+    return kNoProcess;
+}
+
+OSErr handleSetSettings(const AppleEvent* event, AppleEvent*, void*) {
+    PrefsRecord record;
+    std::uint64_t bits = 0;
+    std::size_t recordSize = 0, bitsSize = 0;
+    if (const OSErr error = AEGetParamPtr(event, keyDirectObject, typePrefsRecord, nullptr, &record,
+                                          sizeof record, &recordSize))
+        return error;
+    if (const OSErr error =
+            AEGetParamPtr(event, keySettings, typeBits, nullptr, &bits, sizeof bits, &bitsSize))
+        return error;
+    if (recordSize != sizeof record || bitsSize != sizeof bits)
+        return paramErr;
+    takeChange(SettingSet(bits), record);
+    return noErr;
+}
+
+} // namespace
+
+std::optional<std::string> sendToWindow(const SettingSet& settings, const PrefsRecord& record) {
+    const ProcessSerialNumber window = findWindow();
+    if (window == kNoProcess)
+        return std::nullopt;
+    const std::uint64_t bits = settings.to_ullong();
+    AEAddressDesc address;
+    AppleEvent event, reply;
+    if (AECreateDesc(typeProcessSerialNumber, &window, sizeof window, &address) != noErr ||
+        AECreateAppleEvent(kEventClass, kSetSettings, &address, kAutoGenerateReturnID,
+                           kAnyTransactionID, &event) != noErr ||
+        AEPutParamPtr(&event, keyDirectObject, typePrefsRecord, &record, sizeof record) != noErr ||
+        AEPutParamPtr(&event, keySettings, typeBits, &bits, sizeof bits) != noErr)
+        return localized("Faults", "the change can't be sent");
+    switch (AESend(&event, &reply, kAEWaitReply, kPatience)) {
+    case noErr:
+        return "";
+    case errAEEventNotHandled: // the program shows no window yet, or no more
+    case procNotFound:
+        return std::nullopt;
+    case errAETimeout:
+        if (findWindow() != window)
+            return std::nullopt; // it closed meanwhile
+        return localized("Faults", "the open window doesn't answer");
+    default:
+        return localized("Faults", "the open window doesn't take the change");
+    }
+}
+
+void openWindowSetup(void (*take)(const SettingSet& settings, const PrefsRecord& record)) {
+    takeChange = take;
+    AEInstallEventHandler(kEventClass, kSetSettings, handleSetSettings, nullptr);
+}
+
+void openWindowCleanup() {
+    AERemoveEventHandler(kEventClass, kSetSettings, handleSetSettings);
+    takeChange = nullptr;
+}

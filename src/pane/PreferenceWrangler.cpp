@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: MIT
+#include "src/pane/PreferenceWrangler.h"
+
+#include "platform/AppKit/ClassRegistry.h"
+#include "platform/AppKit/NSButton.h"
+#include "platform/AppKit/NSColorWell.h"
+#include "platform/AppKit/NSMatrix.h"
+#include "platform/AppKit/NSTabView.h"
+#include "platform/AppKit/NSTextField.h"
+#include "platform/HIToolbox/AppleHelp.h"
+#include "src/pane/BumperController.h"
+#include "src/pane/SliderController.h"
+#include "src/pane/look/SampleScanView.h"
+
+REGISTER_CLASS(PreferenceWrangler);
+
+PreferenceWrangler* theWrangler = nullptr;
+
+PreferenceWrangler::~PreferenceWrangler() {
+    if (theWrangler != this)
+        return;
+    theWrangler = nullptr;
+    NumberController::setChangeTarget(nullptr);
+}
+
+void wranglerSetMasterOnOff(bool on) {
+    if (theWrangler)
+        theWrangler->setMasterOnOff(on);
+}
+
+void wranglerShowAgentState() {
+    if (theWrangler)
+        theWrangler->updateMasterState();
+}
+
+/// Outlets and actions of the interface file that aren't in the table of settings.
+struct PreferenceWrangler::Tables {
+    using W = PreferenceWrangler;
+    using Keys = HotKeyEditor;
+    using Palette = PaletteEditor;
+    using Profiles = ProfileEditor;
+    using Builder = HotKeyBuilder;
+
+    static constexpr Outlet kOutlets[] = {
+        outletRow<&W::activateAtLaunch_>("activateAtLaunch"),
+        outletRow<&W::palette_, &Palette::addButtonBtn>("addButtonBtn"),
+        outletRow<&W::palette_, &Palette::buttonContentIconCheck>("buttonContentIconCheck"),
+        outletRow<&W::palette_, &Palette::buttonContentNameCheck>("buttonContentNameCheck"),
+        outletRow<&W::palette_, &Palette::buttonHeight>("buttonHeight"),
+        outletRow<&W::palette_, &Palette::buttonShapeRadios>("buttonShapeRadios"),
+        outletRow<&W::palette_, &Palette::buttonSize>("buttonSize"),
+        outletRow<&W::palette_, &Palette::buttonWidth>("buttonWidth"),
+        outletRow<&W::launchAtLogin_>("launchAtLogin"),
+        outletRow<&W::lineColors_, &LineColorChooser::lineColor>("lineColor"),
+        outletRow<&W::lineColors_, &LineColorChooser::lineColorGrid>("lineColorGrid"),
+        outletRow<&W::resetBtns_, &ResetButtons::scanning>("scanningResetBtn"),
+        outletRow<&W::resetBtns_, &ResetButtons::presses>("pressesResetBtn"),
+        outletRow<&W::resetBtns_, &ResetButtons::look>("lookResetBtn"),
+        outletRow<&W::resetBtns_, &ResetButtons::palette>("paletteResetBtn"),
+        outletRow<&W::resetBtns_, &ResetButtons::general>("generalResetBtn"),
+        outletRow<&W::resetBtns_, &ResetButtons::all>("allResetBtn"),
+        outletRow<&W::masterOnOffRadios_>("masterOnOffRadios"),
+        outletRow<&W::masterState_>("masterState"),
+        outletRow<&W::palette_, &Palette::palettePrompt>("palettePrompt"),
+        outletRow<&W::palette_, &Palette::paletteView>("paletteView"),
+        outletRow<&W::pointers_, &PointerChooser::pointerName>("pointerName"),
+        outletRow<&W::pointers_, &PointerChooser::pointerGrid>("pointerGrid"),
+        outletRow<&W::profiles_, &Profiles::menu>("profileMenu"),
+        outletRow<&W::profiles_, &Profiles::grid>("profileGrid"),
+        outletRow<&W::profiles_, &Profiles::compareMenu>("compareMenu"),
+        outletRow<&W::profiles_, &Profiles::explanation>("profileExplanation"),
+        outletRow<&W::profiles_, &Profiles::name>("profileName"),
+        outletRow<&W::profiles_, &Profiles::useBtn>("useProfileBtn"),
+        outletRow<&W::profiles_, &Profiles::updateBtn>("updateProfileBtn"),
+        outletRow<&W::profiles_, &Profiles::renameBtn>("renameProfileBtn"),
+        outletRow<&W::profiles_, &Profiles::deleteBtn>("deleteProfileBtn"),
+        outletRow<&W::palette_, &Palette::removeButtonBtn>("removeButtonBtn"),
+        outletRow<&W::palette_, &Palette::resetActionsBtn>("resetActionsBtn"),
+        outletRow<&W::sampleScanImage_>("sampleScanImage"),
+        outletRow<&W::scanAreaText_>("scanAreaText"),
+        outletRow<&W::scanAreas_, &ScanAreaChooser::scanAreaGrid>("scanAreaGrid"),
+        outletRow<&W::scanAreas_, &ScanAreaChooser::scanAreaLeft>("scanAreaLeft"),
+        outletRow<&W::scanAreas_, &ScanAreaChooser::scanAreaTop>("scanAreaTop"),
+        outletRow<&W::scanAreas_, &ScanAreaChooser::scanAreaWidth>("scanAreaWidth"),
+        outletRow<&W::scanAreas_, &ScanAreaChooser::scanAreaHeight>("scanAreaHeight"),
+        outletRow<&W::scanModeRadios_>("scanModeRadios"),
+        outletRow<&W::palette_, &Palette::setActionBtn>("setActionBtn"),
+        outletRow<&W::palette_, &Palette::swapWithBtn>("swapWithBtn"),
+        outletRow<&W::prefsTabs_>("prefsTabs"),
+        outletRow<&W::redoBtn_>("redoBtn"),
+        outletRow<&W::triggerOnReleaseRadios_>("triggerOnReleaseRadios"),
+        outletRow<&W::undoBtn_>("undoBtn"),
+        outletRow<&W::useScanAreaRadios_>("useScanAreaRadios"),
+        outletRow<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::view>("masterOnOffKey"),
+        outletRow<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::menu>("masterOnOffKeyBtn"),
+        outletRow<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::note>("masterOnOffKeyNote"),
+        outletRow<&W::hotKeys_, &Keys::scan, &HotKeyRow::view>("scanKey"),
+        outletRow<&W::hotKeys_, &Keys::scan, &HotKeyRow::menu>("scanKeyBtn"),
+        outletRow<&W::hotKeys_, &Keys::scan, &HotKeyRow::note>("scanKeyNote"),
+        outletRow<&W::hotKeys_, &Keys::cancelScan, &HotKeyRow::view>("cancelScanKey"),
+        outletRow<&W::hotKeys_, &Keys::cancelScan, &HotKeyRow::menu>("cancelScanKeyBtn"),
+        outletRow<&W::hotKeys_, &Keys::cancelScan, &HotKeyRow::note>("cancelScanKeyNote"),
+        outletRow<&W::hotKeys_, &Keys::showPreferences, &HotKeyRow::view>("showPreferencesKey"),
+        outletRow<&W::hotKeys_, &Keys::showPreferences, &HotKeyRow::menu>("showPreferencesKeyBtn"),
+        outletRow<&W::hotKeys_, &Keys::showPreferences, &HotKeyRow::note>("showPreferencesKeyNote"),
+        outletRow<&W::hotKeys_, &Keys::scan2, &HotKeyRow::view>("scanKey2"),
+        outletRow<&W::hotKeys_, &Keys::scan2, &HotKeyRow::menu>("scanKey2Btn"),
+        outletRow<&W::hotKeys_, &Keys::scan2, &HotKeyRow::note>("scanKey2Note"),
+        outletRow<&W::hotKeys_, &Keys::notEditingKeyPrompt>("notEditingKeyPrompt"),
+        outletRow<&W::hotKeys_, &Keys::editingKeyPrompt1>("editingKeyPrompt1"),
+        outletRow<&W::hotKeys_, &Keys::cancelEditBtn>("cancelEditBtn"),
+        outletRow<&W::hotKeys_, &Keys::defaultKeyBtn>("defaultKeyBtn"),
+        outletRow<&W::hotKeys_, &Keys::noKeyBtn>("noKeyBtn"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderTitle>("builderTitle"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderCommand>("builderCommand"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderControl>("builderControl"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderShift>("builderShift"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderOption>("builderOption"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderKey>("builderKey"),
+    };
+
+    static constexpr Action kActions[] = {
+        actionRow<&W::showHelp>("showHelp:"),
+        actionRow<&W::showFirstSteps>("showFirstSteps:"),
+        actionRow<&W::undo>("undo:"),
+        actionRow<&W::redo>("redo:"),
+        actionRow<&W::resetSettings>("resetSettings:"),
+        actionRow<&W::changedMasterOnOff>("changedMasterOnOff:"),
+        actionRow<&W::changedUseScanArea>("changedUseScanArea:"),
+        actionRow<&W::changedTriggerOnRelease>("changedTriggerOnRelease:"),
+        actionRow<&W::changedScanMode>("changedScanMode:"),
+        actionRow<&W::changedLineColor>("changedLineColor:"),
+        actionRow<&W::setCustomScanArea>("setCustomScanArea:"),
+        actionRow<&W::setHotKeyToNone>("setHotKeyToNone:"),
+        actionRow<&W::setHotKeyToDefault>("setHotKeyToDefault:"),
+        actionRow<&W::cancelHotKeyEdit>("cancelHotKeyEdit:"),
+        actionRow<&W::captureHotKey>("captureHotKey:"),
+        actionRow<&W::removeHotKey>("removeHotKey:"),
+        actionRow<&W::resetHotKey>("resetHotKey:"),
+        actionRow<&W::chooseHotKey>("chooseHotKey:"),
+        actionRow<&W::claimHotKey>("claimHotKey:"),
+        actionRow<&W::restoreHotKey>("restoreHotKey:"),
+        actionRow<&W::buildHotKey>("buildHotKey:"),
+        actionRow<&W::addPaletteBtn>("addPaletteBtn:"),
+        actionRow<&W::setPaletteBtnAction>("setPaletteBtnAction:"),
+        actionRow<&W::removePaletteButton>("removePaletteButton:"),
+        actionRow<&W::swapPaletteButtonWith>("swapPaletteButtonWith:"),
+        actionRow<&W::resetPaletteButtons>("resetPaletteButtons:"),
+        actionRow<&W::changedButtonShape>("changedButtonShape:"),
+        actionRow<&W::changedButtonContentName>("changedButtonContentName:"),
+        actionRow<&W::changedButtonContentIcon>("changedButtonContentIcon:"),
+        actionRow<&W::findMySpeed>("findMySpeed:"),
+        actionRow<&W::previousPointer>("previousPointer:"),
+        actionRow<&W::nextPointer>("nextPointer:"),
+        actionRow<&W::chooseProfile>("chooseProfile:"),
+        actionRow<&W::compareProfile>("compareProfile:"),
+        actionRow<&W::keepProfile>("keepProfile:"),
+        actionRow<&W::showProfiles>("showProfiles:"),
+        actionRow<&W::useProfile>("useProfile:"),
+        actionRow<&W::updateProfile>("updateProfile:"),
+        actionRow<&W::renameProfile>("renameProfile:"),
+        actionRow<&W::deleteProfile>("deleteProfile:"),
+        actionRow<&W::suggestProfileName>("suggestProfileName:"),
+        actionRow<&W::saveProfile>("saveProfile:"),
+        actionRow<&W::enterProfileName>("enterProfileName:"),
+        actionRow<&W::importSettings>("importSettings:"),
+        actionRow<&W::exportSettings>("exportSettings:"),
+    };
+};
+
+std::span<const Outlet> PreferenceWrangler::outlets() const {
+    static const auto table = withSettings<Outlet>(Tables::kOutlets);
+    return table;
+}
+
+std::span<const Action> PreferenceWrangler::actions() const {
+    static const auto table = withSettings<Action>(Tables::kActions);
+    return table;
+}
+
+void PreferenceWrangler::awakeFromNib() {
+    setup();
+}
+
+void PreferenceWrangler::setup() {
+    NumberController::setChangeTarget(this);
+
+    setupNumbers();
+
+    palette_.setup(*this, *this);
+    hotKeys_.setup(*this, *this);
+    pointers_.setup();
+    lineColors_.setup();
+    scanAreas_.setup();
+    setupDefaults();
+    profiles_.setup(*this);
+    theWrangler = this;
+}
+
+void PreferenceWrangler::loadValues() {
+    showValues(SettingSet().set(), true);
+    updateDefaults(true); // a group of radio buttons is marked at the one that is shown
+}
+
+void PreferenceWrangler::showValues(const SettingSet& settings, bool anew) {
+    const ChangeMask changes = changesOf(settings); // some are slow to show
+    loadNumbers(settings);
+    updateMasterOnOff();
+    scanModeRadios_->selectCellWithTag(prefs.scanMode);
+    triggerOnReleaseRadios_->selectCellWithTag(prefs.triggerOnRelease != 0);
+    palette_.loadShape();
+    updateScanAreaRadios();
+    updateScanAreaText();
+    if (anew) {
+        shownLaunchAtLogin_ = prefs.launchAtLogin != 0;
+        updateLaunchUI();
+    }
+
+    loadFlags();
+    palette_.loadContent();
+    if (changes & kChangeHotKeys)
+        hotKeys_.load();
+    lineColors_.load();
+    if (changes & kChangeScanArea)
+        anew ? scanAreas_.load() : scanAreas_.update();
+    showSampleLineType(kSampleScanLine);
+    if (changes & kChangePointer)
+        anew ? pointers_.load() : pointers_.updatePointerName();
+    palette_.load();
+    updateTriggerUI();
+}
+
+void PreferenceWrangler::setHelpBookName(const CFType* name) {
+    if (const auto* string = dynamicCFCast<CFString>(name))
+        helpBookName_ = string;
+}
+
+const CFBundle* PreferenceWrangler::ownBundle() {
+    return CFBundleGetBundleWithIdentifier(
+        CFSTR((std::string(kAgentBundleIDText) + ".PrefsPane").c_str()));
+}
+
+void PreferenceWrangler::showHelp(NSButton*) {
+    showHelpPage(nullptr);
+}
+
+void PreferenceWrangler::showHelpPage(const CFString* page) {
+    if (helpBookName_)
+        AHGotoPage(helpBookName_, page, nullptr);
+}
+
+void PreferenceWrangler::showFirstSteps(NSButton* sender) {
+    firstStepsOpen(ownBundle(), sender->window(), *this);
+}

@@ -1,0 +1,341 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "src/firststeps/FirstStepsPage.h"
+#include "src/pane/NumberController.h"
+#include "src/pane/area/ScanAreaChooser.h"
+#include "src/pane/hotkeys/HotKeyEditor.h"
+#include "src/pane/hotkeys/HotKeyView.h"
+#include "src/pane/look/LineColorChooser.h"
+#include "src/pane/palette/PaletteEditor.h"
+#include "src/pane/pointers/PointerChooser.h"
+#include "src/pane/profiles/ProfileEditor.h"
+#include "src/record/settings.h"
+#include "src/store/history.h"
+#include "src/tryout/TryPage.h"
+
+#include <array>
+#include <vector>
+
+class CFType;
+class NSButton;
+class NSColorWell;
+class NSMatrix;
+class NSMenuItem;
+class NSTabView;
+class NSTextField;
+class SampleScanView;
+
+/// The strip's topic for changes. The next change removes its message.
+inline constexpr char kChangeTopic[] = "undo";
+
+/// The pane's controller. It binds every control to its field of `prefs`, shows the fields in the
+/// controls, and passes every edit to the store and the agent. The interface file makes it and
+/// fills its outlets; each has the name of its setting.
+class PreferenceWrangler final : public NSObject,
+                                 public NumberChangeTarget,
+                                 public PaletteViewTarget,
+                                 public HotKeyViewTarget,
+                                 public TryPageTarget,
+                                 public FirstStepsTarget,
+                                 public ProfileTarget {
+public:
+    PreferenceWrangler() = default;
+    ~PreferenceWrangler() override;
+
+    std::span<const Outlet> outlets() const override;
+    std::span<const Action> actions() const override;
+    /// Sliders whose limits differ from their settings'.
+    std::vector<std::string> layoutFaults() const override;
+    void awakeFromNib() override;
+
+    // PreferenceWrangler.cpp: set-up and loading
+
+    /// Binds the controls. Called when the interface is loaded and before every visit; a second
+    /// call changes nothing.
+    void setup();
+    /// Shows every field of `prefs` in its control and reports nothing. One exception: a custom
+    /// scan area that is in use but empty is switched off, and that is reported.
+    void loadValues() override;
+    /// Sets the name, borrowed, if it is a string. Anything else is ignored.
+    void setHelpBookName(const CFType* name);
+    void showHelp(NSButton* sender);
+    void showHelpPage(const CFString* page) override;
+    void showFirstSteps(NSButton* sender);
+
+    // PreferenceWranglerChanges.cpp: edits
+
+    /// Updates dependent controls, marks the record for saving and sends it to the agent. An empty
+    /// mask is a change like any other.
+    void changed(ChangeMask changes) override;
+    void updateUIForChanges(ChangeMask changes);
+
+    void updateMasterOnOff();
+    /// Shows what the switch does now, as far as that is known.
+    void updateMasterState();
+    /// The agent has reported its state. It is stored and not sent back.
+    void setMasterOnOff(bool on);
+    void updateTriggerUI();
+    /// Makes the preview show that line. Doesn't redraw it.
+    void showSampleLineType(SInt32 type);
+    void updateScanAreaRadios();
+
+    void changedMasterOnOff(NSMatrix* sender);
+    void switchOn();
+    void changedUseScanArea(NSMatrix* sender);
+    void changedTriggerOnRelease(NSMatrix* sender);
+    void changedScanMode(NSMatrix* sender);
+
+    // PreferenceWranglerHistory.cpp: steps that can be undone, and changes of many settings at once
+
+    /// Begins the visit's history with the present record.
+    void beginHistory();
+    /// Sets those settings to the record's values, as one change.
+    void adopt(const SettingSet& settings, const PrefsRecord& record) override;
+    /// Sets the settings to what a file offers, and says so with a button that undoes it.
+    void takeImport(const SettingsOffer& offer);
+    /// Another profile is in use. That is no step by itself.
+    void noteProfile() override;
+    void changedElsewhere(const SettingSet& settings, const PrefsRecord& record);
+    /// Undoes the last step, or does it again. Shows its control and says in words what has
+    /// changed.
+    void undo(NSButton* sender);
+
+    void undoChange() override { undo(nullptr); }
+
+    void redo(NSButton* sender);
+
+    // PreferenceWranglerDefaults.cpp: what isn't at its default
+
+    /// Resets the settings that the button stands for, a section's or all, to their defaults.
+    /// Whether Korvex is on and how it starts isn't reset.
+    void resetSettings(NSButton* sender);
+
+    // HotKeyEditor: hot keys
+
+    // Only during a capture; else they do nothing.
+    void setHotKeyToNone(NSButton*) { hotKeys_.setHotKeyToNone(); }
+
+    void setHotKeyToDefault(NSButton*) { hotKeys_.setHotKeyToDefault(); }
+
+    void cancelHotKeyEdit(NSButton*) { hotKeys_.cancelHotKeyEdit(); }
+
+    // Sent by the menu beside a hot key, at any time.
+    void captureHotKey(NSMenuItem* sender) { hotKeys_.captureHotKey(*sender); }
+
+    void removeHotKey(NSMenuItem* sender) { hotKeys_.removeHotKey(*sender); }
+
+    void resetHotKey(NSMenuItem* sender) { hotKeys_.resetHotKey(*sender); }
+
+    void chooseHotKey(NSMenuItem* sender) { hotKeys_.chooseHotKey(*sender); }
+
+    void claimHotKey(NSMenuItem* sender) { hotKeys_.claimHotKey(*sender); }
+
+    void restoreHotKey(NSMenuItem* sender) { hotKeys_.restoreHotKey(*sender); }
+
+    void buildHotKey(NSMenuItem* sender) { hotKeys_.builder.take(*sender); }
+
+    void setTargetHotKey(HotKeyView* view) override { hotKeys_.setTargetHotKey(view); }
+
+    // PreferenceWranglerLaunch.cpp: launching at login
+
+    /// Makes the system's login items fit the setting, and shows both settings of the start.
+    /// Without the agent's bundle the login items stay. An item that was switched off elsewhere
+    /// stays too, unless the user has just switched the setting on.
+    void updateLaunchUI();
+
+    // PaletteEditor: the palette's buttons
+
+    void addPaletteBtn(NSMenuItem* sender) { palette_.addPaletteBtn(*sender); }
+
+    void setPaletteBtnAction(NSMenuItem* sender) { palette_.setPaletteBtnAction(*sender); }
+
+    void removePaletteButton(NSButton*) { palette_.removePaletteButton(); }
+
+    void swapPaletteButtonWith(NSButton*) { palette_.swapPaletteButtonWith(); }
+
+    void paletteBtnHit(PaletteView* view, SInt32 index) override {
+        palette_.paletteBtnHit(view, index);
+    }
+
+    /// Offers to undo it.
+    void resetPaletteButtons(NSButton* sender);
+
+    void resetPaletteControls() { palette_.resetPaletteControls(); }
+
+    void changedButtonShape(NSMatrix* sender) { palette_.changedButtonShape(*sender); }
+
+    void changedButtonContentName(NSButton* sender) { palette_.changedButtonContentName(*sender); }
+
+    void changedButtonContentIcon(NSButton* sender) { palette_.changedButtonContentIcon(*sender); }
+
+    // ProfileEditor: named states of the settings
+
+    void chooseProfile(NSMenuItem* sender) { profiles_.chooseFromMenu(*sender); }
+
+    void compareProfile(NSMenuItem* sender) { profiles_.compareWith(*sender); }
+
+    void keepProfile(NSMenuItem*) { profiles_.updateInUse(); }
+
+    void showProfiles(NSMenuItem*) { profiles_.showSection(); }
+
+    void useProfile(NSButton*) { profiles_.useChosen(); }
+
+    void updateProfile(NSButton*) { profiles_.updateChosen(); }
+
+    void renameProfile(NSButton*) { profiles_.renameChosen(); }
+
+    void deleteProfile(NSButton*) { profiles_.deleteChosen(); }
+
+    void suggestProfileName(NSButton* sender) { profiles_.suggestName(*sender); }
+
+    void saveProfile(NSButton*) { profiles_.saveNew(); }
+
+    void enterProfileName(NSTextField*) { profiles_.saveNew(); }
+
+    // PreferenceWranglerFiles.cpp: settings from a file, and in one
+
+    /// Shows what a file has. Nothing changes before the user agrees.
+    void importSettings(NSButton* sender);
+    void exportSettings(NSButton* sender);
+
+    // PreferenceWranglerTryout.cpp: finding the speed of the line
+
+    void findMySpeed(NSButton* sender);
+    void openTryPage(NSWindow window) override;
+    void takeTime(const Setting& setting, double seconds) override;
+
+    // PointerChooser: the choice of a pointer
+
+    void previousPointer(NSButton*) { pointers_.bumpPointer(false); }
+
+    void nextPointer(NSButton*) { pointers_.bumpPointer(true); }
+
+    // LineColorChooser: the lines' colour
+
+    void changedLineColor(NSColorWell*) { lineColors_.changedLineColor(); }
+
+    // PreferenceWranglerScanArea.cpp: the custom scan area
+
+    /// Shows the area in words.
+    void updateScanAreaText();
+    /// Updates everything that shows the area or whether it is used.
+    void showScanArea();
+    /// Lets the user draw an area and then scans only that. An empty area means the whole screen.
+    void setCustomScanArea(NSButton* sender);
+
+private:
+    struct Tables;
+
+    /// The pane's bundle; null while none is loaded.
+    static const CFBundle* ownBundle();
+    /// Shows those settings in their controls. `anew`: also what lies outside of the record, such
+    /// as displays and pointers' pictures.
+    void showValues(const SettingSet& settings, bool anew);
+    /// The part of changed() that the agent waits for: updates what must be right first, then the
+    /// store's mark, then sends.
+    void report(ChangeMask changes);
+    void showChanges(ChangeMask changes);
+    void noteStep();
+    void showStep(const HistoryStep& step, const PrefsRecord& before, const PrefsRecord& after,
+                  const char* pattern);
+    void moveTo(NSView* view);
+    void updateHistoryUI();
+    /// The view that shows a setting. Null if it has no control.
+    NSView* viewOf(std::size_t row) const;
+    /// The view of the first difference; of several hot keys the one that differs.
+    NSView* viewOf(const SettingSet& settings, const PrefsRecord& before,
+                   const PrefsRecord& after) const;
+    /// Call it after those fields were set from elsewhere. A record that is as stored needs no
+    /// saving any more.
+    void showAndReport(const SettingSet& settings);
+
+    /// Sets those settings to the record's values and says what has changed.
+    void putBack(const SettingSet& settings, const PrefsRecord& record);
+
+    // PreferenceWranglerDefaults.cpp
+
+    /// A setting, or a part of one with its own row: bytes of the record, or bits of one.
+    struct DefaultPlace {
+        std::size_t offset, size;
+        NSView* view;
+        UInt8 bits = 0xFF;
+
+        bool isSameIn(const PrefsRecord& a, const PrefsRecord& b) const;
+    };
+
+    struct ResetButtons {
+        NSButton *scanning = nullptr, *presses = nullptr, *look = nullptr, *palette = nullptr,
+                 *general = nullptr, *all = nullptr;
+    };
+
+    /// A button and the settings that it resets.
+    struct Reset {
+        NSButton* button;
+        SettingSet settings;
+    };
+
+    void setupDefaults();
+    /// Marks rows that aren't at their defaults: those that changed since the last call, or all.
+    void updateDefaults(bool all = false);
+    void markPlace(std::size_t place);
+    void updateResets();
+    /// The record with that place at its default.
+    PrefsRecord withDefault(const DefaultPlace& place) const;
+    void putPlaceBack(std::size_t place);
+    const NSView* pageOf(const NSView* view) const;
+
+    // PreferenceWranglerSettings.cpp: what the table of settings says of numbers and check boxes
+
+    template <std::size_t Row>
+    struct SettingWiring;
+    /// `own`, and an entry for each setting's outlet or check box action.
+    template <class Entry>
+    static std::vector<Entry> withSettings(std::span<const Entry> own);
+    void setupNumbers();
+    void loadNumbers(const SettingSet& settings);
+    void loadFlags();
+    void setFlag(const Setting& setting, const NSButton& sender);
+
+    /// Each setting's control, by its row. Null for a row without an outlet.
+    std::array<NSObject*, kSettings.size()> settingControls_ = {};
+
+    NSButton* activateAtLaunch_ = nullptr;
+    NSButton* launchAtLogin_ = nullptr;
+    NSMatrix* masterOnOffRadios_ = nullptr;
+    NSTextField* masterState_ = nullptr;
+    SampleScanView* sampleScanImage_ = nullptr;
+    NSTextField* scanAreaText_ = nullptr;
+    NSMatrix* scanModeRadios_ = nullptr;
+    NSTabView* prefsTabs_ = nullptr;
+    NSButton* redoBtn_ = nullptr;
+    NSMatrix* triggerOnReleaseRadios_ = nullptr;
+    NSButton* undoBtn_ = nullptr;
+    NSMatrix* useScanAreaRadios_ = nullptr;
+
+    ResetButtons resetBtns_;
+    std::vector<Reset> resets_;
+    std::vector<DefaultPlace> places_; ///< that are shown
+    PrefsRecord defaults_;             ///< as they were when the visit began
+    PrefsRecord marked_;               ///< the record when marks were last updated
+
+    History history_{prefs};
+    HotKeyEditor hotKeys_;
+    PaletteEditor palette_{*this};
+    PointerChooser pointers_{*this};
+    ProfileEditor profiles_{*this};
+    LineColorChooser lineColors_{*this};
+    ScanAreaChooser scanAreas_{*this};
+
+    const CFString* helpBookName_ = nullptr; ///< the bundle's; null: no book
+    bool shownLaunchAtLogin_ = false;        ///< the setting when the login items were last updated
+};
+
+/// The only wrangler. Null until its first set-up.
+extern PreferenceWrangler* theWrangler;
+
+/// The running agent was switched on or off. Does nothing without a wrangler.
+void wranglerSetMasterOnOff(bool on);
+
+/// Shows beside the on/off control whether the agent runs.
+void wranglerShowAgentState();

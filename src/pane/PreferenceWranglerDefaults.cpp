@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "src/pane/PreferenceWrangler.h"
+
+#include "platform/AppKit/NSButton.h"
+#include "platform/AppKit/NSTabView.h"
+#include "platform/AppKit/RowMarks.h"
+#include "platform/CoreFoundation/Localization.h"
+#include "src/pane/BumperController.h"
+#include "src/record/settingwords.h"
+#include "src/scan/palutil.h"
+#include "src/store/profiles.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+/// The row of kSettings with that byte of the record.
+std::size_t rowAt(std::size_t offset) {
+    const auto after = std::ranges::upper_bound(kSettings, offset, {}, &Setting::offset);
+    return static_cast<std::size_t>(after - kSettings.begin()) - 1;
+}
+
+/// Of two records that are copies of `prefs` with changes: they have the same unused bytes.
+bool isSame(const PrefsRecord& a, const PrefsRecord& b) {
+    const auto* bytes = reinterpret_cast<const UInt8*>(&a);
+    return std::equal(bytes, bytes + sizeof a, reinterpret_cast<const UInt8*>(&b));
+}
+
+/// The title of a section's button, or of the button for all.
+std::string resetTitle(int count, bool all) {
+    if (count == 0)
+        return all ? localized("Changes", "Put everything back")
+                   : localized("Changes", "Nothing to put back");
+    if (all)
+        return count == 1 ? localized("Changes", "Put everything back: 1 setting")
+                          : localized("Changes", "Put everything back: %n settings", "", count);
+    return count == 1 ? localized("Changes", "Put 1 setting back")
+                      : localized("Changes", "Put %n settings back", "", count);
+}
+
+} // namespace
+
+void PreferenceWrangler::setupDefaults() {
+    constexpr std::size_t kKeys = offsetof(PrefsRecord, hotKeys);
+    constexpr std::size_t kSize = offsetof(PrefsRecord, buttonSize);
+    constexpr std::size_t kContent = offsetof(PrefsRecord, buttonContent);
+    places_ = {
+        {kKeys, sizeof(HotKey), hotKeys_.masterOnOff.view},
+        {kKeys + sizeof(HotKey), sizeof(HotKey), hotKeys_.scan.view},
+        {kKeys + 2 * sizeof(HotKey), sizeof(HotKey), hotKeys_.cancelScan.view},
+        {kKeys + 3 * sizeof(HotKey), sizeof(HotKey), hotKeys_.showPreferences.view},
+        {kKeys + 4 * sizeof(HotKey), sizeof(HotKey), hotKeys_.scan2.view},
+        {kSize + offsetof(ButtonSize, width), sizeof(SInt16), palette_.buttonWidth->view()},
+        {kSize + offsetof(ButtonSize, height), sizeof(SInt16), palette_.buttonHeight->view()},
+        {kContent, 1, palette_.buttonContentIconCheck, kButtonContentIcon},
+        {kContent, 1, palette_.buttonContentNameCheck, kButtonContentName},
+    };
+
+    SettingSet inParts;
+    for (const std::size_t offset : {kKeys, kContent})
+        inParts.set(rowAt(offset));
+    for (std::size_t row = 0; row < kSettings.size(); ++row)
+        if (NSView* view = viewOf(row); view && !inParts[row])
+            places_.push_back({kSettings[row].offset, kSettings[row].size, view});
+
+    resets_.clear();
+    for (NSButton* button : {resetBtns_.scanning, resetBtns_.presses, resetBtns_.look,
+                             resetBtns_.palette, resetBtns_.general}) {
+        SettingSet settings;
+        for (const DefaultPlace& place : places_)
+            if (pageOf(place.view) == pageOf(button))
+                settings.set(rowAt(place.offset));
+        resets_.push_back({button, settings & profileSettings()});
+    }
+    resets_.push_back({resetBtns_.all, profileSettings()});
+}
+
+bool PreferenceWrangler::DefaultPlace::isSameIn(const PrefsRecord& a, const PrefsRecord& b) const {
+    const auto* one = reinterpret_cast<const UInt8*>(&a) + offset;
+    const auto* other = reinterpret_cast<const UInt8*>(&b) + offset;
+    return std::equal(one, one + size, other,
+                      [this](UInt8 x, UInt8 y) { return ((x ^ y) & bits) == 0; });
+}
+
+NSView* PreferenceWrangler::viewOf(const SettingSet& settings, const PrefsRecord& before,
+                                   const PrefsRecord& after) const {
+    NSView* view = nullptr;
+    std::size_t first = sizeof(PrefsRecord); // the record's bytes are in the settings' order
+    for (const DefaultPlace& place : places_)
+        if (settings[rowAt(place.offset)] && place.offset < first &&
+            !place.isSameIn(before, after)) {
+            view = place.view;
+            first = place.offset;
+        }
+    return view;
+}
+
+const NSView* PreferenceWrangler::pageOf(const NSView* view) const {
+    while (view && view->superview() != prefsTabs_)
+        view = view->superview();
+    return view;
+}
+
+PrefsRecord PreferenceWrangler::withDefault(const DefaultPlace& place) const {
+    PrefsRecord record = prefs;
+    auto* to = reinterpret_cast<UInt8*>(&record) + place.offset;
+    const auto* from = reinterpret_cast<const UInt8*>(&defaults_) + place.offset;
+    for (std::size_t i = 0; i < place.size; ++i)
+        to[i] = static_cast<UInt8>((to[i] & ~place.bits) | (from[i] & place.bits));
+    if (!isUsable(record.scanArea))
+        record.useScanArea = 0; // as the window would do, in a second change
+    return record;
+}
+
+void PreferenceWrangler::updateDefaults(bool all) {
+    if (!all && isSame(marked_, prefs))
+        return;
+    const SettingSet changed = all ? ~SettingSet() : differences(marked_, prefs);
+    marked_ = prefs;
+    for (std::size_t i = 0; i < places_.size(); ++i)
+        if (changed[rowAt(places_[i].offset)])
+            markPlace(i);
+    updateResets();
+}
+
+void PreferenceWrangler::markPlace(std::size_t place) {
+    const PrefsRecord after = withDefault(places_[place]);
+    const auto doesTheSame = [&](const DefaultPlace& each) {
+        return isSame(withDefault(each), after);
+    };
+    // A whole shows no button while one of its parts offers the same.
+    const DefaultPlace* here = places_.data() + place;
+    const bool isNeeded = !isSame(after, prefs) && std::none_of(here - place, here, doesTheSame);
+    const Setting& setting = kSettings[rowAt(here->offset)];
+    setRowMark(*here->view, isNeeded ? putBackText(setting, prefs, after) : "",
+               [this, place] { putPlaceBack(place); });
+}
+
+void PreferenceWrangler::updateResets() {
+    const SettingSet different = differences(prefs, defaults_);
+    for (const auto& [button, settings] : resets_) {
+        const auto count = static_cast<int>((different & settings).count());
+        button->setTitle(resetTitle(count, button == resetBtns_.all));
+        button->setEnabled(count > 0);
+    }
+}
+
+void PreferenceWrangler::putPlaceBack(std::size_t place) {
+    const PrefsRecord after = withDefault(places_[place]);
+    putBack(differences(prefs, after), after);
+}
+
+void PreferenceWrangler::resetSettings(NSButton* sender) {
+    const auto reset = std::ranges::find(resets_, sender, &Reset::button);
+    if (reset == resets_.end())
+        return;
+    const SettingSet different = differences(prefs, defaults_) & reset->settings;
+    if (different.any())
+        putBack(different, defaults_);
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "src/files/ptrutil.h"
+#include "src/pane/ChoiceGrid.h"
+
+#include <vector>
+
+class NSTextField;
+class NumberChangeTarget;
+
+/// The wrangler's part for choosing a pointer: by stepping, or from a grid of all.
+class PointerChooser final : public ChoiceGridSource {
+public:
+    NSTextField* pointerName = nullptr; ///< filled by the interface file, like the next; not owned
+    ChoiceGrid* pointerGrid = nullptr;
+
+    /// `changes` hears of every choice; not owned.
+    explicit PointerChooser(NumberChangeTarget& changes) : changes_(changes) {}
+
+    void setup() { pointerGrid->setSource(this); }
+
+    /// Reads the agent's pointers and shows the chosen one.
+    void load();
+
+    /// Chooses the next or previous pointer and reports the change, even if it is the same pointer.
+    /// Does nothing when the agent has no pointers.
+    void bumpPointer(bool forward);
+    /// Shows the name of the pointer in the preview.
+    void updatePointerName();
+
+    int choiceCount() const override { return static_cast<int>(pictures_.size()); }
+
+    std::string choiceName(int index) const override;
+    bool isChosen(int index) const override;
+    void drawChoice(int index, const Rect& bounds) const override;
+    void choose(int index) override;
+
+private:
+    void take(const std::string& name);
+
+    NumberChangeTarget& changes_;
+    std::vector<CFRef<CGImage>> pictures_; ///< by name's index; null if it can't be loaded
+};

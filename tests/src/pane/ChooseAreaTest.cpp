@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "src/pane/area/choosearea.h"
+
+#include "tests/support/ApplicationTest.h"
+
+#include <QApplication>
+#include <QBackingStore>
+#include <QFile>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+#include <functional>
+#include <random>
+
+void PrintTo(const CGRect& rect, std::ostream* out) {
+    *out << rect.size.width << 'x' << rect.size.height << " at " << rect.origin.x << ','
+         << rect.origin.y;
+}
+
+namespace {
+
+// Two displays: the main one of 1000 x 800 points, and one to its upper left. Qt's offscreen
+// platform simulates them.
+constexpr char kDisplays[] =
+    R"({"screens": [{"name": "main", "x": 0, "y": 0, "width": 1000, "height": 800},
+                    {"name": "other", "x": -600, "y": -100, "width": 600, "height": 500}]})";
+
+struct TwoDisplays {
+    TwoDisplays() {
+        const QString path = qEnvironmentVariable("KORVEX_TEST_SANDBOX") + "/displays.json";
+        QFile file(path);
+        file.open(QIODevice::WriteOnly);
+        file.write(kDisplays);
+        setenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + path.toStdString()).c_str(), 1);
+    }
+};
+
+class ChooseAreaTest : private TwoDisplays, public ApplicationTest<QApplication> {
+protected:
+    /// Runs the chooser, and calls `user` when it is shown.
+    bool choose(CGRect& area, const std::function<void()>& user) {
+        QTimer::singleShot(0, [&] {
+            overlay_ = nullptr;
+            for (QWidget* widget : QApplication::topLevelWidgets())
+                if (widget->isVisible())
+                    overlay_ = widget;
+            ASSERT_TRUE(overlay_ && QTest::qWaitForWindowExposed(overlay_));
+            user();
+        });
+        return chooseArea(&area);
+    }
+
+    void mouse(QEvent::Type type, int x, int y) {
+        const QPointF place = QPoint(x, y) - overlay_->pos();
+        QMouseEvent event(type, place, QPointF(x, y),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, {});
+        QApplication::sendEvent(overlay_, &event);
+    }
+
+    void press(int x, int y) { mouse(QEvent::MouseButtonPress, x, y); }
+
+    void moveTo(int x, int y) { mouse(QEvent::MouseMove, x, y); }
+
+    void release(int x, int y) { mouse(QEvent::MouseButtonRelease, x, y); }
+
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(overlay_, key, modifiers);
+    }
+
+    void click(int x, int y) { press(x, y), release(x, y); }
+
+    void drag(int x1, int y1, int x2, int y2) {
+        press(x1, y1), moveTo((x1 + x2) / 2, (y1 + y2) / 2), moveTo(x2, y2), release(x2, y2);
+    }
+
+    QWidget* overlay_ = nullptr;
+};
+
+constexpr CGRect kArea = {{100, 50}, {640, 480}};
+constexpr CGRect kDrawn = {{10, 20}, {50, 20}};
+
+TEST_F(ChooseAreaTest, WhatTheUserDoesDecidesTheArea) {
+    const struct {
+        const char* name;
+        std::function<void()> user;
+        CGRect area;
+        Qt::Key end = Qt::Key_Return;
+    } cases[] = {
+        {"return before any click", [] {}, kArea},
+        {"escape in mid-drag", [&] { press(10, 10), moveTo(60, 40); }, kArea, Qt::Key_Escape},
+        {"return in mid-drag", [&] { press(10, 10), moveTo(60, 40); }, kArea},
+        {"a drag down and right", [&] { drag(10, 20, 60, 40); }, kDrawn},
+        {"down and left", [&] { drag(60, 20, 10, 40); }, kDrawn},
+        {"up and right", [&] { drag(10, 40, 60, 20); }, kDrawn},
+        {"up and left", [&] { drag(60, 40, 10, 20); }, kDrawn, Qt::Key_Enter},
+        {"on both displays", [&] { drag(-599, -99, 9, 799); }, CGRectMake(-599, -99, 608, 898)},
+        {"a click after a drag", [&] { drag(1, 2, 3, 4), click(7, 8); }, CGRectMake(7, 8, 0, 0)},
+        {"a missed press", [&] { moveTo(10, 20), moveTo(60, 40), release(60, 40); }, kDrawn},
+        {"other keys", [&] { key(Qt::Key_Space), key(Qt::Key_W, Qt::ControlModifier); }, kArea},
+        {"arrows", [&] { key(Qt::Key_Right), key(Qt::Key_Up); }, CGRectMake(100, 50, 650, 470)},
+        {"shift", [&] { key(Qt::Key_Down, Qt::ShiftModifier); }, CGRectMake(100, 60, 640, 470)},
+        {"not beyond the displays",
+         [&] {
+             drag(900, 700, 985, 795), key(Qt::Key_Right), key(Qt::Key_Right), key(Qt::Key_Down);
+         },
+         CGRectMake(900, 700, 100, 100)},
+        {"arrows do nothing in a drag",
+         [&] { press(10, 20), key(Qt::Key_Right), moveTo(60, 40), release(60, 40); }, kDrawn},
+        {"arrows after a click begin in the middle of the main display",
+         [&] { click(7, 8), key(Qt::Key_Down); }, CGRectMake(250, 200, 500, 410)},
+    };
+
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.name);
+        CGRect area = kArea;
+        EXPECT_EQ(choose(area, [&] { test.user(), key(test.end); }), test.end != Qt::Key_Escape);
+        EXPECT_EQ(area, test.area);
+        EXPECT_EQ(chooseAreaError(), noErr);
+    }
+}
+
+TEST_F(ChooseAreaTest, TheOverlayLiesOverAllDisplaysAndRepaintsWhatChanged) {
+    CGRect area{{-500, 0}, {200, 100}};
+    choose(area, [&] {
+        EXPECT_EQ(overlay_->geometry(), QRect(-600, -100, 1600, 900));
+        // On this platform windows are black beneath.
+        const auto* picture = dynamic_cast<QImage*>(overlay_->backingStore()->paintDevice());
+        const auto expect = [&](std::initializer_list<std::pair<QPoint, QColor>> pixels = {}) {
+            const QImage seen = picture->copy();
+            drawOverlay();
+            EXPECT_EQ(seen, *picture) << "a frame that is drawn as a whole looks different";
+            for (const auto& [place, color] : pixels)
+                EXPECT_NEAR(seen.pixelColor(place - overlay_->pos()).red(), color.red(), 1);
+        };
+        const QColor clear(Qt::black), current(5, 5, 26), edge(102, 20, 20); // half of its strength
+        expect({{{-599, -99}, clear}, {{-302, 98}, current}, {{-298, 50}, clear}});
+        moveTo(-400, 300); // after a press that went elsewhere
+        std::mt19937 random(7);
+        for (int i = 0; i < 30; ++i) {
+            moveTo(std::uniform_int_distribution(-600, 999)(random),
+                   std::uniform_int_distribution(-100, 799)(random));
+            expect();
+        }
+        moveTo(-300, 400);
+        expect({{{-300, 350}, edge}, {{-298, 350}, clear}});
+        release(-300, 400);
+        expect({{{-400, 50}, clear}, {{-350, 350}, current}});
+        key(Qt::Key_Left, Qt::ShiftModifier);
+        expect();
+        click(900, 700);
+        expect();
+        key(Qt::Key_Escape);
+    });
+}
+
+} // namespace

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "src/pane/NumberController.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(NumberControllerTest, WritesAreClampedAndTruncatedByKind) {
+    const struct {
+        SInt32 kind;
+        double min, max, written, stored;
+    } cases[] = {
+        {kNumberKindDouble, 1, 60, 0.5, 1},
+        {kNumberKindSInt32, -100, 100, 2.85, 2},
+        {kNumberKindSInt32, -100, 100, -2.95, -3},
+        {kNumberKindUInt32, -10, 100, -5, 0},
+        {kNumberKindUInt32, 0, 1e300, 1e10, 4294967295.0},
+    };
+
+    for (const auto& test : cases) {
+        alignas(8) unsigned char storage[8] = {};
+        NumberController controller;
+        controller.setKind(test.kind, storage, test.min, test.max, 1, 0)->set(test.written);
+        EXPECT_DOUBLE_EQ(controller.value(), test.stored) << test.kind << ", " << test.written;
+    }
+}
+
+TEST(NumberControllerTest, StepsSnapToTheGridAndStopAtTheLimits) {
+    // Snapping is toward zero.
+    for (const auto& [before, afterInc, afterDec] :
+         {std::tuple(3.14, 3.5, 3.0), {-3.14, -2.5, -3.5}, {10, 10, 9.5}, {-10, -9.5, -10}}) {
+        double up = before, down = before;
+        NumberController controller;
+        controller.setKind(kNumberKindDouble, &up, -10, 10, 0.5, 0)->inc();
+        controller.setKind(kNumberKindDouble, &down, -10, 10, 0.5, 0)->dec();
+        EXPECT_DOUBLE_EQ(up, afterInc) << before;
+        EXPECT_DOUBLE_EQ(down, afterDec) << before;
+    }
+}
+
+} // namespace

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "src/pane/pointers/ptrman.h"
+#include "tests/support/PaneFixture.h"
+
+#include <QColorDialog>
+
+namespace {
+
+/// The preview and the pointer's name in the open pane.
+using PointerChoiceTest = PaneTest;
+
+TEST_F(PointerChoiceTest, ThePreviewAndTheNameTellWhatIsSet) {
+    QAccessible::setActive(true);
+    open();
+    QAccessibleInterface* button = QAccessible::queryAccessibleInterface(find("sampleScanImage"));
+    EXPECT_EQ(button->role(), QAccessible::Button);
+    EXPECT_TRUE(button->text(QAccessible::Description)
+                    .startsWith("7 points thick, 5% transparent, red 100, green 0, blue 0"));
+    act(button);
+    EXPECT_EQ(button->text(QAccessible::Name), "Preview of the guide line");
+    EXPECT_TRUE(button->text(QAccessible::Description).contains("75% transparent"));
+    QTest::keyClick(find("sampleScanImage"), Qt::Key_Space);
+    EXPECT_EQ(button->text(QAccessible::Name), "Preview of the scan line");
+    for (const auto& [control, line] : {std::pair("guideTransparencyDecBtn", "guide"),
+                                        {"lineThicknessIncBtn", "guide"}, // of both lines
+                                        {"lineTransparencyIncBtn", "scan"}}) {
+        click(control);
+        EXPECT_EQ(button->text(QAccessible::Name),
+                  QStringLiteral("Preview of the %1 line").arg(line));
+    }
+    std::strcpy(prefs.pointerImageName, "../default");
+    theWrangler->loadValues();
+    EXPECT_EQ(find<QLabel>("pointerName")->text(), "None");
+    click("nextPointerBtn");
+    EXPECT_NE(find<QLabel>("pointerName")->text(), "None");
+    putAway();
+    char name[kMaxPointerNameLength + 1];
+    EXPECT_FALSE(ptrmanGetNextPointer(nullptr, true, name)) << "names outlive the visit";
+}
+
+TEST_F(PointerChoiceTest, TheAgentHearsOfAnotherPointerAndColour) {
+    openWithAgent();
+    for (const auto& [button, isDefault] :
+         {std::pair("nextPointerBtn", false), {"previousPointerBtn", true}}) {
+        click(button);
+        EXPECT_EQ(agentLog_.nextMask(), kChangePointer);
+        const std::string name = prefs.pointerImageName;
+        EXPECT_EQ(name == PrefsRecord().pointerImageName, isDefault) << name;
+    }
+    click("lineColor");
+    find("lineColor")->findChild<QColorDialog*>()->setCurrentColor({101, 0, 254});
+    const QJsonObject event = agentLog_.next();
+    EXPECT_EQ(event["mask"].toInteger(), kChangeScanLineLook | kChangeGuideLineLook);
+    const LineColor color = recordField<PrefsRecord>(event, 0).lineColor;
+    EXPECT_EQ(std::tuple(color.red, color.green, color.blue), std::tuple(101, 0, 254));
+}
+
+} // namespace

@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: MIT
+#include "src/record/settingwords.h"
+#include "tests/support/PaneFixture.h"
+
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QSlider>
+
+namespace {
+
+/// Every control with its field and its group: clicked in the real form, received by the real
+/// agent.
+class SettingsTest : public PaneTest {
+protected:
+    bool isEnabled(const char* name) { return find(name)->isEnabled(); }
+
+    bool isChecked(const char* name) { return find<QAbstractButton>(name)->isChecked(); }
+
+    /// Every control that Tab reaches, shown on its page.
+    std::vector<QWidget*> controls() {
+        std::vector<QWidget*> found;
+        for (auto* widget : window()->findChildren<QWidget*>()) {
+            if (!(widget->focusPolicy() & Qt::TabFocus) ||
+                qobject_cast<QAbstractScrollArea*>(widget) ||
+                widget->objectName().startsWith(QLatin1String("qt_")))
+                continue;
+            find(widget->objectName().toLatin1());
+            QTest::qWait(0);         // for the page's layout
+            if (widget->isVisible()) // the tab bar's arrows show only when it is too narrow
+                found.push_back(widget);
+        }
+        return found;
+    }
+
+    std::string text(const std::string& name) {
+        return find<QLineEdit>(name.c_str())->text().toStdString();
+    }
+};
+
+TEST_F(SettingsTest, EachNumberAndCheckBoxChangesItsSettingAloneAndReportsItsGroup) {
+    openWithAgent();
+    for (const Setting& setting : kSettings) {
+        if (!setting.outlet)
+            continue;
+        SCOPED_TRACE(setting.outlet);
+        const PrefsRecord before = prefs;
+        const std::string outlet = setting.outlet;
+        click((outlet + (setting.isNumber() ? "IncBtn" : "")).c_str());
+        const QJsonObject event = agentLog_.next();
+        EXPECT_EQ(event["mask"].toInteger(), setting.changes);
+        const auto sent = recordField<PrefsRecord>(event, 0);
+        const SettingSet changed = differences(before, sent);
+        EXPECT_TRUE(changed.count() == 1 && &kSettings[firstOf(changed)] == &setting);
+        if (setting.isNumber()) {
+            EXPECT_DOUBLE_EQ(settingNumber(setting, sent),
+                             settingNumber(setting, before) + setting.limits.step);
+            EXPECT_THAT(text(outlet + "Label"), testing::EndsWith(settingText(setting, sent)));
+        }
+    }
+}
+
+TEST_F(SettingsTest, EveryOtherControlWritesItsFieldAndReportsItsGroup) {
+#define AT(field) offsetof(PrefsRecord, field)
+
+    const struct {
+        const char* control;
+        std::size_t offset;
+        UInt8 value; ///< the field's, whose other bytes are 0
+        ChangeMask mask;
+    } cases[] = {
+        {"launchAtLogin", AT(launchAtLogin), 0, kChangeLaunch},
+        {"activateAtLaunch", AT(activateAtLaunch), 0, kChangeLaunch},
+        {"triggerOnReleaseRadios1", AT(triggerOnRelease), 1, kChangeTriggers},
+        {"scanModeRadios2", AT(scanMode), 2, kChangeTriggers},
+        {"masterOnOffRadios0", AT(on), 0, kChangeOnOff},
+        {"useScanAreaRadios1", AT(useScanArea), 1, kChangeScanArea},
+        {"useScanAreaRadios0", AT(useScanArea), 0, kChangeScanArea},
+        {"buttonShapeRadios1", AT(buttonShape), 1, kChangePalette},
+        {"buttonContentNameCheck", AT(buttonContent), 1, kChangePalette},
+        {"buttonContentIconCheck", AT(buttonContent), 0, kChangePalette},
+        {"buttonContentNameCheck", AT(buttonContent), 2, kChangePalette},
+    };
+
+#undef AT
+
+    prefs.scanArea = {-100, 0, 640, 480};
+    openWithAgent();
+    for (const auto& [control, offset, value, mask] : cases) {
+        SCOPED_TRACE(control);
+        click(control);
+        const QJsonObject event = agentLog_.next();
+        EXPECT_EQ(event["mask"].toInteger(), mask);
+        EXPECT_EQ(recordField<UInt8>(event, offset), value);
+        EXPECT_EQ(isEnabled("triggerOnReleaseRadios1"), prefs.scanMode == 0);
+    }
+}
+
+TEST_F(SettingsTest, ATypedValueIsTakenOrRefusedAndKept) {
+    const struct {
+        const char* field;
+        const char* typed;
+        const char* shown;
+        ChangeMask mask = 0; ///< 0: refused, and nothing is sent
+    } cases[] = {
+        {"lineScanTimeLabel", "12,5", " 12.5 sec", kChangeScanSpeed},
+        {"lineScanTimeLabel", "60.1 sec", " 12.5 sec"},
+        {"lineScanTimeLabel", "1e1", " 12.5 sec"},
+        {"lineThicknessLabel", "3.5", "  7 points"},
+        {"volumeLabel", "loud", " 50"},
+        {"buttonSizeLabel", "52", "52 points", kChangePalette},
+        {"buttonWidthLabel", " 20 points", "20 points", kChangePalette},
+        {"buttonSizeLabel", "101", "20 × 52"},
+    };
+
+    openWithAgent();
+    for (const auto& [name, typed, shown, mask] : cases) {
+        auto* field = find<QLineEdit>(name);
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, typed);
+        QTest::keyClick(field, Qt::Key_Return);
+        EXPECT_EQ(text(name), shown) << typed;
+        if (mask) {
+            EXPECT_EQ(agentLog_.nextMask(), mask) << typed;
+        }
+    }
+    EXPECT_EQ(find<QLabel>("buttonSizeExplanation")->text(),
+              "<b>Only 20 points to 100 points can be set.</b>");
+    click("lineScanTimePageIncBtn");
+    EXPECT_EQ(text("lineScanTimeLabel"), " 15.0 sec");
+    EXPECT_THAT(remainingMasks(), testing::ElementsAre(kChangeScanSpeed));
+}
+
+TEST_F(SettingsTest, LoadingShowsTheRecordAndReportsNothingButAnEmptyScanArea) {
+    prefs.on = prefs.canScanMenuBar = 0;
+    prefs.scanMode = 2;
+    prefs.useScanArea = 1;
+    prefs.scanArea = {100, 100, 0, 50};
+    prefs.lineScanTime = 1.0;
+    prefs.pointerScanTime = 600; // beyond the slider: shown as it is
+    openWithAgent();
+    EXPECT_EQ(agentLog_.nextMask(), kChangeScanArea);
+    EXPECT_EQ(prefs.useScanArea, 0);
+    for (const char* name : {"masterOnOffRadios0", "scanModeRadios2", "useScanAreaRadios0"})
+        EXPECT_TRUE(isChecked(name)) << name;
+    EXPECT_FALSE(isChecked("canScanMenuBarCheck"));
+    for (const char* name : {"lineScanTimeDecBtn", "pointerScanTimeIncBtn", "useScanAreaRadios1"})
+        EXPECT_FALSE(isEnabled(name)) << name;
+    EXPECT_EQ(text("pointerScanTimeLabel"), "600.0 sec");
+}
+
+TEST_F(SettingsTest, AScreenReaderMayAskForAScrollBarThatHasGone) {
+    open();
+    for (auto* area : window()->findChildren<QScrollArea*>()) {
+        auto* interface = QAccessible::queryAccessibleInterface(area);
+        EXPECT_EQ(interface->child(interface->childCount()), nullptr)
+            << area->objectName().toStdString();
+    }
+}
+
+TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityAction) {
+    // Controls that open a menu, a window or the help book, need another choice, or put settings
+    // back.
+    const QRegularExpression others(
+        "^(helpBtn|findMySpeed|firstStepsBtn|undoBtn|redoBtn|sections.*|.*Grid|.*Label|scanAreaBtn|"
+        "lineColor|profile.*|.*ProfileBtn|importBtn|exportBtn|paletteView|sampleScanImage|"
+        ".*PutBack|.*ResetBtn|"
+        "(add|swapWith|setAction|remove)(Button)?Btn|.*KeyBtn|.*Key2Btn|builder.*)$");
+    prefs.scanArea = {0, 0, 640, 480};
+    for (const Setting& each : kSettings) // none comes to a limit
+        if (each.isNumber() && each.size == sizeof(double))
+            setSettingNumber(each, each.limits.minimum / 4 + each.limits.maximum * 3 / 4, prefs);
+    prefs.borderGap = prefs.buttonGap = 30;
+    openWithAgent();
+    int tried = 0;
+    for (auto* widget : controls()) {
+        const std::string name = widget->objectName().toStdString();
+        const auto* radio = qobject_cast<QRadioButton*>(widget);
+        if (widget->objectName().contains(others) || (radio && radio->isChecked()) ||
+            !widget->isEnabled())
+            continue;
+        find(name.c_str());
+        QTest::keyClick(window(), Qt::Key_F13, Qt::AltModifier); // Alt isn't held any more
+        if (auto* value = QAccessible::queryAccessibleInterface(widget)->valueInterface())
+            value->setCurrentValue(value->minimumValue());
+        else
+            act(widget);
+        EXPECT_EQ(agentLog_.nextName(), "SAPr") << name;
+        ++tried;
+    }
+    EXPECT_GT(tried, 60);
+}
+
+TEST_F(SettingsTest, WhatWasSwitchedOffOrResetIsPutBackFromTheStrip) {
+    prefs.buttonActions[0] = 5;
+    openWithAgent();
+    click("masterOnOffRadios0");
+    EXPECT_EQ(find<QLabel>("masterState")->text(), "Your switch does nothing now");
+    EXPECT_EQ(told(), "Scanning is off. control+shift+X switches it on again.");
+    pressInStrip();
+    EXPECT_EQ(prefs.on, 1);
+    click("resetActionsBtn");
+    EXPECT_EQ(prefs.buttonActions[0], 20);
+    pressInStrip();
+    EXPECT_EQ(prefs.buttonActions[0], 5);
+    EXPECT_THAT(remainingMasks(),
+                testing::ElementsAre(kChangeOnOff, kChangeOnOff, kChangePalette, kChangePalette));
+}
+
+TEST_F(SettingsTest, EveryControlIsNamedReachableAndLargeEnough) {
+    open();
+    for (const auto* slider : window()->findChildren<QSlider*>())
+        EXPECT_TRUE(slider->value() >= slider->minimum() && slider->value() < slider->maximum())
+            << slider->objectName().toStdString() << " can't show its default";
+    for (auto* widget : controls()) {
+        const std::string name = widget->objectName().toStdString();
+        EXPECT_GE(widget->height(), 44) << name;
+        EXPECT_GE(widget->width(), 44) << name;
+        auto* interface = QAccessible::queryAccessibleInterface(widget);
+        EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty()) << name;
+    }
+}
+
+TEST_F(SettingsTest, SectionsAreReachedByKeyFromAnywhere) {
+    open();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+    const auto* pages = window()->findChild<QStackedWidget*>(QStringLiteral("prefsTabs"));
+
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        int section;
+        bool goesIn; ///< the keyboard, from outside the page
+    } presses[] = {
+        {Qt::Key_4, Qt::AltModifier, 3, false},
+        {Qt::Key_Tab, Qt::ControlModifier, 4, false},
+        {Qt::Key_PageDown, Qt::ControlModifier, 0, false}, // after the last
+        {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier, 4, false},
+        {Qt::Key_PageUp, Qt::ControlModifier, 3, false},
+        {Qt::Key_R, Qt::AltModifier, 1, true},
+    };
+
+    for (const auto& [key, modifiers, section, goesIn] : presses) {
+        auto* start = window()->findChild<QWidget*>(QStringLiteral("helpBtn"));
+        start->setFocus();
+        QTest::keyClick(start, key, modifiers);
+        EXPECT_EQ(pages->currentIndex(), section) << key;
+        EXPECT_EQ(pages->currentWidget()->isAncestorOf(window()->focusWidget()), goesIn) << key;
+    }
+}
+
+TEST_F(SettingsTest, ANarrowWindowHasAButtonInsteadOfTheListAndAWideOneTwoColumns) {
+    open();
+    EXPECT_FALSE(window()->hasHeightForWidth()); // or it would scroll as a whole
+    auto* bar = window()->findChild<QWidget*>(QStringLiteral("sectionsBar"));
+    auto* button = window()->findChild<QWidget*>(QStringLiteral("sectionsBtn"));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+    auto* last = find("canScanMenuBarCheck");
+    for (const int width : {400, 1200, 2000}) {
+        window()->resize(width, 400);
+        EXPECT_EQ(bar->isVisible(), width > 400);
+        EXPECT_EQ(button->isVisible(), width == 400);
+        EXPECT_EQ(last->mapTo(window(), QPoint()).x() > 1000, width == 2000) << "a second column";
+        find("lineScanTimeSlider")->setFocus();
+        last->setFocus();
+        EXPECT_FALSE(last->visibleRegion().isEmpty()) << width;
+    }
+}
+
+TEST_F(SettingsTest, ArrowsOnTheSwitchMoveWithoutChoosing) {
+    openWithAgent();
+    auto* on = find<QAbstractButton>("masterOnOffRadios1");
+    on->setFocus();
+    QTest::keyClick(on, Qt::Key_Left);
+    EXPECT_EQ(window()->focusWidget()->objectName(), QLatin1String("masterOnOffRadios0"));
+    EXPECT_TRUE(on->isChecked());
+}
+
+} // namespace

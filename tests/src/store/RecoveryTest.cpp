@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "src/store/recovery.h"
+
+#include "platform/CoreServices/StateFile.h"
+#include "tests/platform/CoreFoundation/TestFiles.h"
+
+#include <csignal>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+class RecoveryTest : public testing::Test {
+protected:
+    RecoveryTest() { setenv("XDG_STATE_HOME", state_.c_str(), 1); }
+
+    long countFiles() const {
+        std::error_code error;
+        const fs::directory_iterator files(state_ / "korvex", error);
+        return std::count_if(begin(files), end(files), [](const auto& file) {
+            return file.path().string().find(".new") == std::string::npos; // still being written
+        });
+    }
+
+    void waitForFiles(long count) const {
+        for (int i = 0; i < 500 && countFiles() != count; ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        ASSERT_EQ(countFiles(), count);
+    }
+
+    /// A program that changes a setting and is killed.
+    void crash(double lineScanTime) const {
+        const long before = countFiles();
+        const pid_t child = fork();
+        if (child == 0) {
+            PrefsRecord record;
+            record.lineScanTime = lineScanTime;
+            const SettingSet changed = differences(record, PrefsRecord());
+            record.soundLevel = 3;
+            recoveryKeep(record, changed);
+            pause();
+        }
+        waitForFiles(before + 1);
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+    }
+
+    fs::path state_ = makeSandboxFolder("state");
+};
+
+TEST_F(RecoveryTest, TakesOverWhatCrashedProgramsChangedTheLatestLast) {
+    crash(20);
+    crash(30);
+    writeFile(state_ / "korvex/unsaved.1.2.damaged", "<plist>");
+    writeFile(state_ / "korvex/unsaved.1.2", "damaged");
+
+    PrefsRecord record;
+    record.soundLevel = 9;
+    const SettingSet recovered = recoveryTakeOver(record);
+    EXPECT_EQ(recovered.count(), 1u);
+    EXPECT_EQ(changesOf(recovered), kChangeScanSpeed);
+    EXPECT_EQ(double{record.lineScanTime}, 30);
+    EXPECT_EQ(record.soundLevel, 9u);
+
+    EXPECT_EQ(countFiles(), 4) << "kept until there is an own file";
+    recoveryKeep(record, recovered);
+    waitForFiles(3);
+    PrefsRecord again;
+    EXPECT_TRUE(recoveryTakeOver(again).none()) << "a file of a living process";
+    recoveryForget();
+    waitForFiles(2);
+}
+
+TEST_F(RecoveryTest, AFolderThatCannotBeWrittenIsTroubleUntilTheChangesAreSaved) {
+    writeFile(state_ / "korvex", "in the way");
+    recoveryKeep(PrefsRecord(), {});
+    for (int i = 0; i < 500 && stateFileOutcome().trouble == FileTrouble::None; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_EQ(stateFileOutcome().trouble, FileTrouble::InTheWay);
+    recoveryForget();
+    EXPECT_EQ(stateFileOutcome().trouble, FileTrouble::None);
+}
+
+} // namespace
