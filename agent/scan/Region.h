@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "agent/scan/Geometry.h"
+#include "src/record/PrefsRecord.h"
+
+#include <optional>
+#include <vector>
+
+/// A screen as the agent sees it.
+struct Screen {
+    Area area;
+    double scale = 1; ///< pixels a point
+    double panel = 0; ///< pixels that a panel at its top edge takes; 0 for none
+};
+
+/// What one line sweeps over, and the times of the whole way in seconds. The law of both ways is
+/// Sweep's.
+struct Region {
+    Area area;
+    double lineTime = 0;
+    double pointerTime = 0;
+    bool isMenu = false; ///< there is no pointer: the middle of the line's row is chosen
+
+    bool operator==(const Region&) const = default;
+};
+
+/// What is on the screen besides.
+struct Surroundings {
+    std::vector<Screen> screens;  ///< the main display first; not empty
+    Place pointer;                ///< of the mouse
+    std::vector<Area> menus;      ///< that are open, the innermost first
+    std::optional<Area> keyboard; ///< the on-screen keyboard's window while it is typed with
+    Area ownArea;                 ///< the record's area in pixels; empty for none
+};
+
+/// The regions of a scan, in the order in which the line sweeps them. Never empty.
+/// Open menus come before all else, then the keyboard, then the own area if it is used and on a
+/// screen, else the screens: the mouse pointer's first, then the others from left to right.
+/// A region that is smaller than its screen takes less time in proportion; a menu as much as its
+/// height needs at menuScanSpeedScaleFactor percent of the line's speed.
+std::vector<Region> regionsOf(const PrefsRecord& record, const Surroundings& surroundings);
