@@ -3,6 +3,7 @@
 
 #include "src/record/settingcheck.h"
 #include "src/record/settingwords.h"
+#include "src/store/prefs.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <sys/stat.h>
