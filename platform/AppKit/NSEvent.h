@@ -2,7 +2,8 @@
 #pragma once
 
 #include "platform/AppKit/NSGeometry.h"
-#include "platform/HIToolbox/KeyCodes.h"
+#include "platform/CoreFoundation/CFBase.h"
+#include "platform/Support/ScanCodes.h"
 
 // Characters for keys without a letter. They are in the Unicode private use area, as on macOS.
 constexpr char16_t NSUpArrowFunctionKey = 0xF700;

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/EventTimers.h"
 
+#include "platform/Support/EventMoment.h"
+
 #include <QTimer>
 
 #include <cmath>
-#include <ctime>
 
 class CarbonTimer final : public QTimer {};
 
@@ -21,9 +22,7 @@ EventLoopRef GetMainEventLoop() {
 }
 
 EventTime GetCurrentEventTime() {
-    timespec now{};
-    clock_gettime(CLOCK_MONOTONIC, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+    return monotonicNow();
 }
 
 OSStatus InstallEventLoopTimer(EventLoopRef, EventTimerInterval delay, EventTimerInterval interval,

@@ -4,11 +4,12 @@
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSView.h"
 #include "platform/AppKit/detail/ViewAccessibility.h"
-#include "platform/HIToolbox/detail/EventMoment.h"
 #include "platform/HIToolbox/detail/KeyMoments.h"
 #include "platform/HIToolbox/detail/KeyRepeats.h"
-#include "platform/HIToolbox/detail/ScanCodes.h"
+#include "platform/HIToolbox/detail/ModifierKeys.h"
 #include "platform/QuickDraw/detail/GrafPort.h"
+#include "platform/Support/EventMoment.h"
+#include "platform/Support/ScanCodes.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

@@ -2,8 +2,8 @@
 #include "platform/HIToolbox/detail/HeldKeys.h"
 
 #include "platform/HIToolbox/EventTimers.h"
-#include "platform/HIToolbox/detail/EventMoment.h"
 #include "platform/HIToolbox/detail/KeysDown.h"
+#include "platform/Support/EventMoment.h"
 
 #include <QKeyEvent>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/detail/KeyMoments.h"
 
-#include "platform/HIToolbox/detail/EventMoment.h"
+#include "platform/Support/EventMoment.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/EventTimers.h"
-#include "platform/HIToolbox/detail/EventMoment.h"
+#include "platform/Support/EventMoment.h"
 #include "tests/platform/AppKit/TestForm.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include "src/record/keycombo.h"
 
 #include "platform/HIToolbox/detail/KernelKeyboard.h"
-#include "platform/HIToolbox/detail/ScanCodes.h"
+#include "platform/Support/ScanCodes.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <linux/input-event-codes.h>
@@ -51,6 +51,8 @@ TEST(KeyComboTest, EveryKeyHasTheNameAndCodeOfItsPlaceAndNoOtherHasOne) {
     for (int key = -8; key < 500; ++key) {
         SCOPED_TRACE(key);
         const UInt16 code = virtualKeyCode(static_cast<UInt32>(key + 8)); // as X counts
+        EXPECT_EQ(std::ranges::count(scanCodes(code), static_cast<UInt32>(key + 8)),
+                  code == kNoKeyCode ? 0 : 1);
         std::string called = keys.contains(key) ? keys[key] : "--";
         if (called == "--" || called.starts_with("0x")) {
             EXPECT_EQ(code, called == "--" ? kNoKeyCode : std::stoul(called, nullptr, 16));

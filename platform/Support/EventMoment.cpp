@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/HIToolbox/detail/EventMoment.h"
+#include "platform/Support/EventMoment.h"
 
-#include "platform/HIToolbox/EventTimers.h"
+#include <ctime>
 
 namespace {
 
@@ -9,8 +9,14 @@ constexpr std::int32_t kLongestWait = 5000; ///< ms from an event to its handlin
 
 } // namespace
 
+double monotonicNow() {
+    timespec now{};
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+}
+
 double momentOf(std::uint64_t milliseconds) {
-    const double now = GetCurrentEventTime();
+    const double now = monotonicNow();
     const auto nowInMilliseconds = static_cast<std::uint64_t>(now * 1000);
     const auto age = static_cast<std::int32_t>(static_cast<std::uint32_t>(nowInMilliseconds) -
                                                static_cast<std::uint32_t>(milliseconds));

@@ -1,20 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "platform/HIToolbox/detail/ScanCodes.h"
+#include "platform/Support/ScanCodes.h"
 
-#include <QKeyEvent>
-
-#include <algorithm>
 #include <array>
 #include <linux/input-event-codes.h>
 
 namespace {
 
 /// X11's and Wayland's codes are the kernel's plus this.
-constexpr UInt32 kScanCodeOffset = 8;
+constexpr std::uint32_t kScanCodeOffset = 8;
 
 struct KeyRow {
-    UInt8 key; ///< of the kernel's input events
-    UInt8 virtualKey;
+    std::uint8_t key; ///< of the kernel's input events
+    std::uint8_t virtualKey;
 };
 
 /// The kernel's codes are those of linux/input-event-codes.h. Virtual key codes are the kVK_… of
@@ -161,31 +158,24 @@ constexpr KeyRow kRows[] = {
 
 /// Indexed by the kernel's code.
 constexpr auto kVirtualKeys = [] {
-    std::array<UInt16, 256> keys{};
+    std::array<std::uint16_t, 256> keys{};
     keys.fill(kNoKeyCode);
     for (const KeyRow& row : kRows)
         keys[row.key] = row.virtualKey;
     return keys;
 }();
 
-constexpr UInt16 kFirstModifier = 0x36;
-constexpr UInt16 kLastModifier = 0x3F; // fn
-
 } // namespace
 
-UInt16 virtualKeyCode(UInt32 scanCode) {
-    const UInt32 key = scanCode - kScanCodeOffset; // far out of the table for codes below it
+std::uint16_t virtualKeyCode(std::uint32_t scanCode) {
+    const std::uint32_t key = scanCode - kScanCodeOffset; // far out of the table for codes below it
     return key < kVirtualKeys.size() ? kVirtualKeys[key] : kNoKeyCode;
 }
 
-bool isModifierKey(const QKeyEvent& event) {
-    static constexpr int kModifiers[] = {
-        Qt::Key_Shift,   Qt::Key_Control, Qt::Key_Meta,    Qt::Key_Alt,     Qt::Key_AltGr,
-        Qt::Key_Super_L, Qt::Key_Super_R, Qt::Key_Hyper_L, Qt::Key_Hyper_R, Qt::Key_Mode_switch,
-    };
-
-    const UInt16 code = virtualKeyCode(event.nativeScanCode());
-    return (code >= kFirstModifier && code <= kLastModifier) ||
-           std::find(std::begin(kModifiers), std::end(kModifiers), event.key()) !=
-               std::end(kModifiers);
+std::vector<std::uint32_t> scanCodes(std::uint16_t virtualKey) {
+    std::vector<std::uint32_t> codes;
+    for (const KeyRow& row : kRows)
+        if (row.virtualKey == virtualKey)
+            codes.push_back(row.key + kScanCodeOffset);
+    return codes;
 }
