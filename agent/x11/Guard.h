@@ -6,23 +6,36 @@
 
 /// A second process that waits for this one's end and then lets go of the keys and buttons that it
 /// still holds. It has a connection to the server before anything is held. It also ends this one if
-/// it hangs while it must not.
+/// it hangs while it must not. It is nobody's child, in a session of its own, and keeps no file of
+/// this process open.
 class Guard {
 public:
     /// Starts it. Call it before threads are started and before Qt connects to anything. Null when
-    /// no process can be started.
+    /// no process can be started, or it doesn't reach the display server within kLongestSilence.
     static std::unique_ptr<Guard> start();
-    /// It ends without a trace when nothing is held.
+    /// The other process ends. What is still held it lets go.
     ~Guard();
+    Guard(const Guard&) = delete;
+    Guard& operator=(const Guard&) = delete;
 
-    /// Told before it happens.
+    /// Told before it happens. `code` is a key code of the server, or the number of a button.
     void willHold(bool isKey, std::uint8_t code);
     void hasLetGo(bool isKey, std::uint8_t code);
 
     /// From now on heartbeat() must be called at least every kLongestSilence seconds, until rest().
+    /// Else this process is killed.
     void watch();
+    /// May be called for every frame: only few are passed on.
     void heartbeat();
     void rest();
 
     static constexpr double kLongestSilence = 3;
+
+private:
+    explicit Guard(int socket) : socket_(socket) {}
+
+    void tell(std::uint8_t what, std::uint8_t code = 0) const;
+
+    int socket_;
+    double lastHeartbeat_ = 0; ///< seconds on the monotonic clock
 };

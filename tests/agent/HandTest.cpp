@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "agent/x11/Hand.h"
+
+#include "tests/agent/TargetWindow.h"
+#include "tests/support/XvfbServer.h"
+
+#include <QCoreApplication>
+#include <QTest>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <gmock/gmock.h>
+#include <iostream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr xcb_keycode_t kA = 38;
+
+/// What an agent is made of, in a process that may be killed.
+struct Agent {
+    int argc = 1;
+    char name[5] = "test";
+    char* argv[2] = {name, nullptr};
+    std::unique_ptr<Guard> guard = Guard::start();
+    QCoreApplication application{argc, argv};
+    std::string fault;
+    std::unique_ptr<XServer> server = XServer::connect(fault);
+    Hand hand{*server, *guard};
+};
+
+class HandTest : public testing::Test {
+protected:
+    ~HandTest() override {
+        if (agent_ > 0)
+            signalAgent(SIGKILL);
+    }
+
+    /// An agent in a process of its own that does this and then waits for ever.
+    void startAgent(const std::function<void(Agent&)>& act) {
+        agent_ = fork();
+        if (agent_ != 0)
+            return;
+        Agent agent;
+        act(agent);
+        QCoreApplication::exec();
+        _exit(0);
+    }
+
+    void signalAgent(int signal) {
+        ASSERT_GT(agent_, 0);
+        kill(agent_, signal);
+        if (signal == SIGKILL) {
+            waitpid(agent_, nullptr, 0);
+            agent_ = 0;
+        }
+    }
+
+    /// Milliseconds until that is so; fails after `limit`.
+    double timeUntil(const std::function<bool()>& isSo, int limit = 5000) {
+        const double began = XServer::now();
+        while (!isSo()) {
+            if (XServer::now() - began > limit / 1000.0) {
+                ADD_FAILURE() << "it didn't happen within " << limit << " ms";
+                break;
+            }
+            usleep(500);
+        }
+        return (XServer::now() - began) * 1000;
+    }
+
+    XvfbServer xvfb_;
+    TargetWindow target_{0, 0, 400, 300};
+    pid_t agent_ = 0;
+};
+
+TEST_F(HandTest, ClicksWithItsTimesAndKnowsWhatItHolds) {
+    Agent agent;
+    ASSERT_TRUE(agent.server) << agent.fault;
+    bool isDone = false;
+    const double began = XServer::now();
+    agent.hand.click({.place = {30, 40}, .count = 2, .duration = 0.05, .pause = 0.02},
+                     [&] { isDone = true; });
+    EXPECT_TRUE(agent.hand.holdsAnything());
+    EXPECT_THAT(target_.events(), ElementsAre("press 1 at 30,40"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isDone; }));
+    EXPECT_GE(XServer::now() - began, 0.119);
+    EXPECT_FALSE(agent.hand.holdsAnything());
+    EXPECT_THAT(target_.events(),
+                ElementsAre("release 1 at 30,40", "press 1 at 30,40", "release 1 at 30,40"));
+
+    // A second click finishes the first one at once.
+    isDone = false;
+    agent.hand.click({.place = {1, 2}, .button = 3, .duration = 9}, [&] { isDone = true; });
+    agent.hand.click({.place = {5, 6}, .duration = 9});
+    EXPECT_TRUE(isDone);
+    EXPECT_THAT(target_.events(),
+                ElementsAre("press 3 at 1,2", "release 3 at 1,2", "press 1 at 5,6"));
+    agent.hand.keyDown(kA);
+    agent.hand.letGo();
+    EXPECT_FALSE(agent.hand.holdsAnything());
+    EXPECT_THAT(target_.events(), ElementsAre("key 38 down", testing::_, testing::_));
+    EXPECT_THAT(target_.down(), IsEmpty());
+}
+
+TEST_F(HandTest, ButtonsAreThoseThatProgramsSee) {
+    Agent agent;
+    ASSERT_TRUE(agent.server) << agent.fault;
+    const std::uint8_t leftHanded[] = {3, 2, 1, 4, 5, 6, 7, 8, 9, 10};
+    xcb_set_pointer_mapping(target_.connection(), sizeof leftHanded, leftHanded);
+    target_.events();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return agent.server->deviceButton(1) == 3; }));
+    agent.hand.click({.place = {1, 2}, .duration = 0.01});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !agent.hand.holdsAnything(); }));
+    EXPECT_THAT(target_.events(), ElementsAre("press 1 at 1,2", "release 1 at 1,2"));
+}
+
+TEST_F(HandTest, AKilledAgentHoldsNothing) {
+    const std::vector<std::pair<const char*, std::function<void(Agent&)>>> kCases = {
+        {"mid-click",
+         [](Agent& agent) {
+             agent.hand.click({.place = {9, 9}, .duration = 60});
+         }},
+        {"mid-drag",
+         [](Agent& agent) {
+             agent.hand.move({9, 9});
+             agent.hand.buttonDown(1);
+             agent.hand.keyDown(kA);
+             agent.hand.move({99, 99});
+         }},
+    };
+    for (const auto& [name, act] : kCases) {
+        SCOPED_TRACE(name);
+        startAgent(act);
+        timeUntil([&] { return !target_.down().empty(); });
+        signalAgent(SIGKILL);
+        EXPECT_LT(timeUntil([&] { return target_.down().empty(); }), 50);
+    }
+}
+
+} // namespace

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "tests/agent/TargetWindow.h"
+
+#include "agent/x11/XServer.h"
+
+namespace {
+
+constexpr int kKeyCodes = 256;
+constexpr int kButtons = 5;
+
+std::string textOf(const xcb_generic_event_t& event) {
+    const auto& any = reinterpret_cast<const xcb_button_press_event_t&>(event);
+    const std::string detail = std::to_string(any.detail);
+    const std::string place = std::to_string(any.root_x) + "," + std::to_string(any.root_y);
+    switch (event.response_type & 0x7F) {
+    case XCB_BUTTON_PRESS:
+        return "press " + detail + " at " + place;
+    case XCB_BUTTON_RELEASE:
+        return "release " + detail + " at " + place;
+    case XCB_MOTION_NOTIFY:
+        return "move to " + place;
+    case XCB_KEY_PRESS:
+        return "key " + detail + " down";
+    case XCB_KEY_RELEASE:
+        return "key " + detail + " up";
+    default:
+        return "";
+    }
+}
+
+} // namespace
+
+TargetWindow::TargetWindow(int left, int top, int width, int height)
+    : connection_(xcb_connect(nullptr, nullptr)) {
+    root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
+    window_ = xcb_generate_id(connection_);
+    const std::uint32_t values[] = {
+        1, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE | XCB_EVENT_MASK_BUTTON_PRESS |
+               XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_BUTTON_MOTION};
+    xcb_create_window(connection_, XCB_COPY_FROM_PARENT, window_, root_,
+                      static_cast<std::int16_t>(left), static_cast<std::int16_t>(top),
+                      static_cast<std::uint16_t>(width), static_cast<std::uint16_t>(height), 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+                      XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
+    xcb_map_window(connection_, window_);
+    xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_POINTER_ROOT, window_, XCB_CURRENT_TIME);
+    events();
+}
+
+TargetWindow::~TargetWindow() {
+    xcb_disconnect(connection_);
+}
+
+void TargetWindow::openMenu() {
+    constexpr std::uint16_t kEvents =
+        XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_POINTER_MOTION;
+    xcb_grab_keyboard(connection_, 1, window_, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC,
+                      XCB_GRAB_MODE_ASYNC);
+    xcb_grab_pointer(connection_, 1, window_, kEvents, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
+                     XCB_NONE, XCB_NONE, XCB_CURRENT_TIME);
+    events();
+}
+
+std::vector<std::string> TargetWindow::events() {
+    // Afterwards all that was sent before is in the queue.
+    XReply<xcb_get_input_focus_reply_t>(
+        xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+    std::vector<std::string> texts;
+    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(connection_)})
+        if (std::string text = textOf(*event); !text.empty())
+            texts.push_back(std::move(text));
+    return texts;
+}
+
+std::vector<std::string> TargetWindow::down() {
+    std::vector<std::string> all;
+    const XReply<xcb_query_pointer_reply_t> pointer(
+        xcb_query_pointer_reply(connection_, xcb_query_pointer(connection_, root_), nullptr));
+    for (int button = 1; pointer && button <= kButtons; ++button)
+        if (pointer->mask & (XCB_BUTTON_MASK_1 << (button - 1)))
+            all.push_back("button " + std::to_string(button));
+    const XReply<xcb_query_keymap_reply_t> keys(
+        xcb_query_keymap_reply(connection_, xcb_query_keymap(connection_), nullptr));
+    for (int code = 0; keys && code < kKeyCodes; ++code)
+        if (keys->keys[code / 8] & (1 << code % 8))
+            all.push_back("key " + std::to_string(code));
+    return all;
+}

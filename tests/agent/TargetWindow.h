@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+#include <xcb/xcb.h>
+
+/// A window of another program, on a connection of its own: what it is told by the server.
+class TargetWindow {
+public:
+    /// It has the focus and covers this part of the screen.
+    TargetWindow(int left, int top, int width, int height);
+    ~TargetWindow();
+    TargetWindow(const TargetWindow&) = delete;
+    TargetWindow& operator=(const TargetWindow&) = delete;
+
+    /// Holds keyboard and pointer, as an open menu does.
+    void openMenu();
+
+    /// What came since the last call, after all that the server has done: "press 1 at 5,6",
+    /// "release 1 at 5,6", "move to 5,6", "key 38 down", "key 38 up". Places are the screen's.
+    std::vector<std::string> events();
+
+    /// What is down now, of buttons and of keys: "button 1", "key 38".
+    std::vector<std::string> down();
+
+    xcb_connection_t* connection() const { return connection_; }
+
+    xcb_window_t window() const { return window_; }
+
+private:
+    xcb_connection_t* connection_;
+    xcb_window_t root_ = 0, window_ = 0;
+};
