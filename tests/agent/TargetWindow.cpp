@@ -3,10 +3,13 @@
 
 #include "agent/x11/XServer.h"
 
+#include <unistd.h>
+
 namespace {
 
 constexpr int kKeyCodes = 256;
 constexpr int kButtons = 5;
+constexpr double kLongestWait = 5; ///< seconds
 
 std::string textOf(const xcb_generic_event_t& event) {
     const auto& any = reinterpret_cast<const xcb_button_press_event_t&>(event);
@@ -61,15 +64,24 @@ void TargetWindow::openMenu() {
     events();
 }
 
-std::vector<std::string> TargetWindow::events() {
+std::vector<std::string> TargetWindow::events(std::size_t expected) {
+    std::vector<std::string> texts;
+    const double began = XServer::now();
+    read(texts);
+    while (texts.size() < expected && XServer::now() - began < kLongestWait) {
+        usleep(1000);
+        read(texts);
+    }
+    return texts;
+}
+
+void TargetWindow::read(std::vector<std::string>& texts) {
     // Afterwards all that was sent before is in the queue.
     XReply<xcb_get_input_focus_reply_t>(
         xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
-    std::vector<std::string> texts;
     while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(connection_)})
         if (std::string text = textOf(*event); !text.empty())
             texts.push_back(std::move(text));
-    return texts;
 }
 
 std::vector<std::string> TargetWindow::down() {

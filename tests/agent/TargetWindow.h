@@ -17,9 +17,10 @@ public:
     /// Holds keyboard and pointer, as an open menu does.
     void openMenu();
 
-    /// What came since the last call, after all that the server has done: "press 1 at 5,6",
-    /// "release 1 at 5,6", "move to 5,6", "key 38 down", "key 38 up". Places are the screen's.
-    std::vector<std::string> events();
+    /// What came since the last call: "press 1 at 5,6", "release 1 at 5,6", "move to 5,6", "key 38
+    /// down", "key 38 up". Places are the screen's. Waits for as many as are expected, but not for
+    /// ever.
+    std::vector<std::string> events(std::size_t expected = 0);
 
     /// What is down now, of buttons and of keys: "button 1", "key 38".
     std::vector<std::string> down();
@@ -29,6 +30,8 @@ public:
     xcb_window_t window() const { return window_; }
 
 private:
+    void read(std::vector<std::string>& texts);
+
     xcb_connection_t* connection_;
     xcb_window_t root_ = 0, window_ = 0;
 };
