@@ -55,6 +55,7 @@ void Agent::installHandlers() {
     install<&Agent::paneOpened>(kAgentClass, fourCharCode("PPop"));
     install<&Agent::paneClosed>(kAgentClass, fourCharCode("PPcl"));
     install<&Agent::setAllPrefs>(kAgentClass, fourCharCode("SAPr"));
+    install<&Agent::holdKeys>(kAgentClass, fourCharCode("PPhd"));
     install<&Agent::quit>(kCoreEventClass, kAEQuitApplication);
 }
 
@@ -88,6 +89,14 @@ OSErr Agent::setAllPrefs(const AppleEvent& event) {
     log_.append(line({{"event", "SAPr"},
                       {"mask", qint64{changes}},
                       {"record", QString::fromLatin1(bytes.toHex())}}));
+    return noErr;
+}
+
+OSErr Agent::holdKeys(const AppleEvent& event) {
+    UInt8 hold = 0;
+    if (const OSErr error = read(event, keyDirectObject, typeBoolean, hold))
+        return error;
+    log_.append(line({{"event", "PPhd"}, {"hold", hold != 0}}));
     return noErr;
 }
 

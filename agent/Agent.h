@@ -30,6 +30,7 @@ private:
     OSErr paneOpened(const AppleEvent& event);
     OSErr paneClosed(const AppleEvent& event);
     OSErr setAllPrefs(const AppleEvent& event);
+    OSErr holdKeys(const AppleEvent& event);
     OSErr quit(const AppleEvent& event);
     void report();
 

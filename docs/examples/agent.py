@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """A small agent, written from agent-contract.md alone: it takes part, writes down what the pane
-sends, and on SIGUSR1 flips its on/off state, stores it and reports it.
+sends, and on SIGUSR1 flips its on/off state, stores it and reports it. On SIGUSR2 it says a
+sentence in the pane's window, and takes it back the next time.
 
 Each event is a JSON object on a line of its own, in the file that KORVEX_AGENT_LOG names or on
 standard output. Needs GLib's Python bindings (Debian: python3-gi).
@@ -93,10 +94,12 @@ class Agent:
         self.on = True
         self.pane = None  # the bus name to report to, once a pane has said so
         self.pane_is_closed = False
+        self.says = ""
         self.handlers = {
             (code("Krvx"), code("PPop")): self.pane_opened,
             (code("Krvx"), code("PPcl")): self.pane_closed,
             (code("Krvx"), code("SAPr")): self.set_all,
+            (code("Krvx"), code("PPhd")): self.hold_keys,
             (code("aevt"), code("quit")): self.quit}
 
     def take_part(self):
@@ -148,6 +151,11 @@ class Agent:
         self.on = record[0] != 0
         return self.write(event="SAPr", mask=mask, record=record.hex())
 
+    def hold_keys(self, parameters):
+        """An agent with grabs lets go of them while this is true, until the pane closes or ends."""
+        hold, = parameter(parameters, "----", "bool", "<B")
+        return self.write(event="PPhd", hold=hold != 0)
+
     def quit(self, parameters):
         self.loop.quit()
         return self.write(event="quit")
@@ -155,13 +163,22 @@ class Agent:
     def flip(self):
         self.on = not self.on
         store_setting("on", "yes" if self.on else "no")
+        self.tell("PPon", "bool", bytes([self.on]))
+        return GLib.SOURCE_CONTINUE
+
+    def say(self):
+        self.says = "" if self.says else "This agent hears no switch."
+        self.tell("PPsy", "utf8", self.says.encode())
+        return GLib.SOURCE_CONTINUE
+
+    def tell(self, event_id, kind, data):
+        """Sends the pane an event with a direct object, if one is open."""
         pane = self.pane or self.find_pane()
         if pane and not self.pane_is_closed:
-            state = [(code("----"), code("bool"), bytes([self.on]))]
-            arguments = GLib.Variant("(uua(uuay))", (code("Krvx"), code("PPon"), state))
+            direct_object = [(code("----"), code(kind), data)]
+            arguments = GLib.Variant("(uua(uuay))", (code("Krvx"), code(event_id), direct_object))
             self.bus.call(pane, OBJECT, EVENT.name, "Event", arguments, None,
                           Gio.DBusCallFlags.NO_AUTO_START, -1, None, None)
-        return GLib.SOURCE_CONTINUE
 
     def find_pane(self):
         """A pane that launched this agent told it nothing; its bus name tells what it is."""
@@ -174,6 +191,7 @@ def main():
     with open(os.environ.get("KORVEX_AGENT_LOG", "/dev/stdout"), "a", buffering=1) as log:
         agent = Agent(Gio.bus_get_sync(Gio.BusType.SESSION), loop, log)  # ends with the session
         GLib.unix_signal_add(GLib.PRIORITY_DEFAULT, signal.SIGUSR1, agent.flip)
+        GLib.unix_signal_add(GLib.PRIORITY_DEFAULT, signal.SIGUSR2, agent.say)
         if agent.take_part():
             agent.read_state()
             loop.run()

@@ -34,6 +34,10 @@ void NSWindow::makeFirstResponder(NSView* view) {
         focus->clearFocus();
 }
 
+bool NSWindow::isKeyWindow() const {
+    return window_->isActiveWindow();
+}
+
 WindowRef NSWindow::windowRef() const {
     return windowRefOf(window_);
 }

@@ -23,6 +23,9 @@ public:
     /// window gets keys.
     void makeFirstResponder(NSView* view);
 
+    /// Whether it is the active one, which gets the keys.
+    bool isKeyWindow() const;
+
     /// Covers the whole window with the view. Null shows the window's own content again, with the
     /// focus where it was. Neither is deleted.
     void setContentView(NSView* view);

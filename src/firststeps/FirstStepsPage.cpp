@@ -103,7 +103,11 @@ void FirstStepsPage::update() {
 }
 
 void FirstStepsPage::answered() {
-    pressWords_->setStringValue(pressView_->words());
+    const bool mayScan = pressView_->presses() > 0 && daemonState() == AgentState::Running;
+    const std::string wayOn = localized(
+        "FirstSteps", "To go on with your switch, wait half a minute: then it scans again.");
+    pressWords_->setStringValue(
+        joined(Joint::Sentences, {pressView_->words(), mayScan ? wayOn : ""}));
 }
 
 void FirstStepsPage::changedScanMode(NSMatrix* sender) {

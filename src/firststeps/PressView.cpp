@@ -16,6 +16,7 @@ REGISTER_CLASS(PressView);
 namespace {
 
 constexpr double kShortestTold = 0.05; ///< seconds
+constexpr double kHeldFor = 30;        ///< seconds without a press
 
 std::string countText(int presses) {
     if (presses == 0)
@@ -41,7 +42,31 @@ std::string PressView::words() const {
                   {count, localizedNumbers(text)});
 }
 
+PressView::~PressView() {
+    freeKeys();
+}
+
+void PressView::holdKeys() {
+    agent_.set(true);
+    if (quiet_)
+        RemoveEventLoopTimer(quiet_);
+    InstallEventLoopTimer(GetMainEventLoop(), kHeldFor, 0,
+                          NewEventLoopTimerUPP([](EventLoopTimerRef, void* self) {
+                              static_cast<PressView*>(self)->freeKeys();
+                          }),
+                          this, &quiet_);
+}
+
+void PressView::freeKeys() {
+    agent_.set(false);
+    if (quiet_)
+        RemoveEventLoopTimer(quiet_);
+    quiet_ = nullptr;
+}
+
 void PressView::answer() {
+    if (isFirstResponder())
+        holdKeys();
     setNeedsDisplay(true);
     target_->answered();
 }
@@ -85,8 +110,14 @@ void PressView::escaped(NSEvent& event) {
     event.passOn();
 }
 
+bool PressView::becomeFirstResponder() {
+    holdKeys();
+    return true;
+}
+
 // The release will go elsewhere.
 bool PressView::resignFirstResponder() {
+    freeKeys();
     isDown_ = false;
     setNeedsDisplay(true);
     return true;

@@ -4,6 +4,7 @@
 #include "platform/CoreServices/ChangeWatch.h"
 #include "platform/CoreServices/LaunchServices.h"
 #include "platform/CoreServices/LaunchTrouble.h"
+#include "src/link/agentsays.h"
 #include "src/pane/PreferenceWrangler.h"
 #include "src/record/palactions.h"
 
@@ -18,7 +19,9 @@ constexpr AEEventClass kAgentEventClass = fourCharCode("Krvx");
 constexpr AEEventID kPaneOpened = fourCharCode("PPop");
 constexpr AEEventID kPaneClosed = fourCharCode("PPcl");
 constexpr AEEventID kSetAllPrefs = fourCharCode("SAPr");
+constexpr AEEventID kHoldKeys = fourCharCode("PPhd");
 constexpr AEEventID kAgentOnOff = fourCharCode("PPon");
+constexpr AEEventID kAgentSays = fourCharCode("PPsy");
 constexpr AEKeyword keyChanges = fourCharCode("Chng");
 constexpr AEKeyword keyPaneProcess = fourCharCode("tPSN");
 constexpr DescType typePrefsRecord = fourCharCode("KrPf");
@@ -28,7 +31,9 @@ constexpr AESendMode kSimpleSendMode = kAENoReply | kAEDontRecord;
 ProcessSerialNumber daemonPSN;   ///< the agent as last found; else kNoProcess
 ProcessSerialNumber informedPSN; ///< the agent that has been told everything it couldn't read
 ProcessSerialNumber quitPSN;     ///< the agent that was last asked to quit
-bool openingLaunched = false;    ///< opening the pane launched an agent that isn't up yet
+ProcessSerialNumber sayingPSN;   ///< the agent whose message is shown
+bool openingIsUntold = false;    ///< no agent has been told of it
+int keyHolders = 0;              ///< parts of the pane that need the keys now
 std::optional<ChangeMask> changesOfVisit; ///< all of this visit; a mask may be 0
 CFRef<const CFString> daemonExecutablePath;
 CFRef<CFBundle> daemonBundle; ///< made on first request
@@ -36,16 +41,17 @@ AEEventHandler aehandler = nullptr;
 std::optional<ChangeWatch> processWatch;
 std::optional<ChangeWatch> launchWatch;
 
-/// Whether the process of daemonPSN still runs.
-bool daemonPSNIsValid() {
+bool takesPart(const ProcessSerialNumber& psn) {
     pid_t pid;
-    return daemonPSN != kNoProcess && GetProcessPID(&daemonPSN, &pid) == noErr;
+    return psn != kNoProcess && GetProcessPID(&psn, &pid) == noErr;
 }
 
-/// Looks for the agent, unless daemonPSN is still valid. If it doesn't run the result is false, and
-/// daemonPSN keeps its old value.
+/// Looks for the agent, unless that of daemonPSN still takes part. If there is none the result is
+/// false, and daemonPSN keeps its old value.
 bool findDaemon() {
-    if (daemonPSNIsValid())
+    if (!takesPart(informedPSN)) // it may come again on the same connection, and has missed things
+        informedPSN = kNoProcess;
+    if (takesPart(daemonPSN))
         return true;
     ProcessSerialNumber psn = kNoProcess;
     while (GetNextProcess(&psn) == noErr) {
@@ -81,6 +87,15 @@ bool sendSimpleDaemonEvent(AEEventClass eventClass, AEEventID eventID) {
            AESend(&event, &reply, kSimpleSendMode, kAEDefaultTimeout) == noErr;
 }
 
+/// Tells the agent whether the pane needs the keys.
+void sendHoldKeys() {
+    AppleEvent event, reply;
+    const UInt8 hold = keyHolders > 0;
+    if (newDaemonAppleEvent(&event, kAgentEventClass, kHoldKeys) &&
+        AEPutParamPtr(&event, keyDirectObject, typeBoolean, &hold, sizeof hold) == noErr)
+        AESend(&event, &reply, kSimpleSendMode, kAEDefaultTimeout);
+}
+
 /// Tells the agent which process it may report to.
 void sendPaneOpened() {
     AppleEvent event, reply;
@@ -100,21 +115,37 @@ void sendRecord(ChangeMask changes, AESendMode mode) {
 }
 
 /// An agent that came up after the pane opened has missed the changes so far, which aren't stored
-/// yet. It may have missed the opening too. Tells it both.
+/// yet. It may have missed the opening too, and that the keys are needed. Tells it all.
+///
+/// Clicks with Alt held were for the agent of their moment. None of them switches off a later one.
 void informDaemon() {
     if (daemonPSN == informedPSN)
         return;
     informedPSN = daemonPSN;
-    if (std::exchange(openingLaunched, false))
+    if (std::exchange(openingIsUntold, false))
         sendPaneOpened();
+    if (keyHolders > 0)
+        sendHoldKeys();
     if (changesOfVisit)
-        sendRecord(*changesOfVisit, kAENoReply);
+        sendRecord(prefs.on ? *changesOfVisit : *changesOfVisit & ~kChangeForceOnOff, kAENoReply);
 }
 
 void processesChanged() {
     if (findDaemon())
         informDaemon();
+    if (!takesPart(sayingPSN))
+        withdrawSaying(); // gone with the agent
     wranglerShowAgentState();
+}
+
+/// Handles a message of the agent.
+OSErr aeSays(const AppleEvent* event, AppleEvent*, void*) {
+    if (!findDaemon())
+        return errAEEventNotHandled;
+    const OSErr error = showSaying(*event);
+    if (error == noErr)
+        sayingPSN = daemonPSN;
+    return error;
 }
 
 /// Handles events of the agent's class: reports of its on/off state.
@@ -145,24 +176,26 @@ void daemonSetup(const CFString* path) {
     palutilUseBundle(daemonMainBundle);
     if (AEInstallEventHandler(kAgentEventClass, typeWildCard, ae, nullptr) == noErr)
         aehandler = ae;
+    AEInstallEventHandler(kAgentEventClass, kAgentSays, aeSays, nullptr);
     processWatch = watchProcesses(processesChanged);
     launchWatch = watchLaunches(wranglerShowAgentState);
     changesOfVisit.reset();
-    openingLaunched = !findDaemon();
-    if (openingLaunched) {
+    informedPSN = kNoProcess;
+    openingIsUntold = true;
+    if (findDaemon())
+        informDaemon();
+    else
         daemonStart();
-    } else {
-        informedPSN = daemonPSN;
-        sendPaneOpened();
-    }
 }
 
 void daemonCleanup() {
-    openingLaunched = false; // the pane isn't open any more
+    openingIsUntold = false; // the pane isn't open any more
     if (findDaemon()) {
         informDaemon(); // it may have read the settings just before they were stored
         sendSimpleDaemonEvent(kAgentEventClass, kPaneClosed);
     }
+    AERemoveEventHandler(kAgentEventClass, kAgentSays, aeSays);
+    withdrawSaying();
     processWatch.reset();
     launchWatch.reset();
     if (aehandler)
@@ -187,6 +220,23 @@ void daemonSendChanges(ChangeMask changes, bool doNotWait) {
         daemonStart();
     if (isRunning)
         sendRecord(changes, doNotWait ? kAENoReply : kAEWaitReply);
+}
+
+void daemonHoldKeys(bool hold) {
+    const bool wasHeld = keyHolders > 0;
+    keyHolders += hold ? 1 : -1;
+    const bool isChange = wasHeld != (keyHolders > 0);
+    if (!isChange || !processWatch || !findDaemon())
+        return;
+    if (daemonPSN == informedPSN)
+        sendHoldKeys();
+    else
+        informDaemon();
+}
+
+void AgentHold::set(bool isWanted) {
+    if (std::exchange(isHeld_, isWanted) != isWanted)
+        daemonHoldKeys(isWanted);
 }
 
 AgentState daemonState() {

@@ -12,8 +12,9 @@
 /// opened. Else launches it, whatever its on/off state. `path` is the agent application's path;
 /// with null it can't be launched.
 ///
-/// From now on an agent that comes up later gets the record with all changes so far. One launched
-/// by this call is first told that the pane has opened.
+/// From now on an agent that comes up later gets the record with all changes so far. If none ran at
+/// this call, the first one is also told that the pane has opened. Until the end of the link the
+/// strip shows what the agent says.
 void daemonSetup(const CFString* path);
 
 /// Tells a running agent that the pane has closed, and ends the link.
@@ -23,6 +24,27 @@ void daemonCleanup();
 /// the agent to quit instead. Otherwise, with `on` 1, it launches an agent that doesn't run or was
 /// asked to quit. Sends nothing if no agent can be found.
 void daemonSendChanges(ChangeMask changes, bool doNotWait);
+
+/// A part of the pane needs the keys, or no longer does: the agent lets go of its grabs while at
+/// least one part does. Call it in pairs. It may be called at any time: an agent that comes up
+/// meanwhile is told too, and none after the end of the link.
+void daemonHoldKeys(bool hold);
+
+/// One part's need, ended with this object.
+class AgentHold {
+public:
+    AgentHold() = default;
+
+    ~AgentHold() { set(false); }
+
+    AgentHold(const AgentHold&) = delete;
+    AgentHold& operator=(const AgentHold&) = delete;
+
+    void set(bool isWanted);
+
+private:
+    bool isHeld_ = false;
+};
 
 enum class AgentState {
     Running,

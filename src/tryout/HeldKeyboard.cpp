@@ -20,15 +20,16 @@ bool HeldKeyboard::isResting(double now) const {
     return quietFor(now) > kLongestRest;
 }
 
-void HeldKeyboard::update(double now, bool isWanted, bool isKeyDown) {
+void HeldKeyboard::update(double now, bool isWanted, bool isKeyDown, bool isActive) {
     const bool isHeld = isWanted && !isResting(now);
-    if (mode_ && !isHeld && !isKeyDown)
+    if (!isHeld && !isKeyDown)
         PopSymbolicHotKeyMode(std::exchange(mode_, nullptr));
-    if (!isHeld || (mode_ && now < since_ + kRenewal))
-        return;
-    since_ = now;
-    if (mode_)
-        RenewSymbolicHotKeyMode(mode_);
-    else
-        mode_ = PushSymbolicHotKeyMode(kHIHotKeyModeAllDisabled);
+    if (isHeld && (!mode_ || now >= since_ + kRenewal)) {
+        since_ = now;
+        if (mode_)
+            RenewSymbolicHotKeyMode(mode_);
+        else
+            mode_ = PushSymbolicHotKeyMode(kHIHotKeyModeAllDisabled);
+    }
+    agent_.set(mode_ && isActive);
 }

@@ -152,7 +152,8 @@ void TryPage::frame() {
     showPhase();
     // A key that repeats looks like one press only while the keys are held.
     const bool isPressed = session_->isPressed();
-    keyboard_.update(now, session_->phase() != Phase::Done || isPressed, isPressed);
+    keyboard_.update(now, session_->phase() != Phase::Done || isPressed, isPressed,
+                     window_.isKeyWindow());
     showQuiet(now);
     tryView_->showFrame();
 }

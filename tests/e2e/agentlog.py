@@ -7,6 +7,8 @@ from pathlib import Path
 
 from tests.e2e.waiting import check, until
 
+KEYS = "PPhd"  # who has the keys: the agent or the pane
+
 # The record's fields that the tour changes: struct's format and the offset in bytes.
 FIELDS = {
     "launchAtLogin": ("<B", 5),
@@ -29,8 +31,12 @@ class AgentLog:
         self._read = self.path.stat().st_size if self.path.exists() else 0
 
     def expect(self, name: str) -> dict:
-        """The next event, which must be of that name."""
-        event = json.loads(until(self._next_line, f"the agent hears {name}"))
+        """The next event, which must be of that name. One about the keys is only seen if asked for."""
+        event = {"event": KEYS}
+        while event["event"] == KEYS:
+            event = json.loads(until(self._next_line, f"the agent hears {name}"))
+            if name == KEYS:
+                break
         heard = {key: value for key, value in event.items() if key != "record"}
         check(event["event"] == name, f"the agent heard {heard}, not {name}")
         return event

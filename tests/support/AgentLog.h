@@ -23,8 +23,23 @@ public:
         return std::string(std::getenv("KORVEX_TEST_SANDBOX")) + "/agent.log";
     }
 
-    /// The next event. An empty object and a failed test when none comes within ten seconds.
+    /// The next event that isn't about the keys.
     QJsonObject next() {
+        QJsonObject event = nextOfAll();
+        while (event["event"] == "PPhd")
+            event = nextOfAll();
+        return event;
+    }
+
+    /// Whether the agent is asked next to let go of the keys, or to take them again.
+    bool nextHold() {
+        const QJsonObject event = nextOfAll();
+        EXPECT_EQ(event["event"].toString().toStdString(), "PPhd");
+        return event["hold"].toBool();
+    }
+
+    /// The next event. An empty object and a failed test when none comes within ten seconds.
+    QJsonObject nextOfAll() {
         if (!QTest::qWaitFor([this] { return readLine(); }, 10'000)) {
             ADD_FAILURE() << "the agent logged nothing more";
             return {};

@@ -72,9 +72,7 @@ HotKeyEditor::~HotKeyEditor() {
 }
 
 void HotKeyEditor::load() {
-    targetHotKey_ = nullptr;
-    stopCountingDown();
-    updateHotKeyUI();
+    cancelHotKeyEdit();
     builder.load();
     std::copy(std::begin(prefs.hotKeys), std::end(prefs.hotKeys), now_.begin());
     before_ = now_;
@@ -133,6 +131,8 @@ void HotKeyEditor::setTargetHotKey(HotKeyView* view) {
     secondsLeft_ = kCaptureSeconds;
     if (view)
         countDown();
+    else
+        agent_.set(false);
 }
 
 void HotKeyEditor::stopCountingDown() {
@@ -143,17 +143,22 @@ void HotKeyEditor::stopCountingDown() {
 
 void HotKeyEditor::countDown() {
     stopCountingDown();
-    if (secondsLeft_ == 0)
+    const bool isActive = targetHotKey_->window().isKeyWindow();
+    agent_.set(isActive);
+    if (!isActive)
+        secondsLeft_ = kCaptureSeconds;
+    else if (secondsLeft_ == 0)
         return cancelHotKeyEdit();
     std::string prompt = filled(
         localized("HotKeys", "Listening: press the new hot key, one key, alone or with Ctrl, "
                              "Alt, Shift or Super held down. Every key counts, Esc and Tab "
                              "too. Seconds left: %1."),
-        {std::to_string(secondsLeft_--)});
+        {std::to_string(secondsLeft_)});
     if (desktopKeepsItsShortcuts())
         prompt += "\n" + localized("HotKeys", "Keys that this desktop uses itself aren’t heard "
                                               "here. “Choose keys…” in the menu has them too.");
     editingKeyPrompt1->setStringValue(prompt);
+    secondsLeft_ -= isActive ? 1 : 0;
     const auto tick = [](EventLoopTimerRef, void* editor) {
         static_cast<HotKeyEditor*>(editor)->countDown();
     };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/HIToolbox/EventTimers.h"
+#include "src/link/Daemon.h"
 #include "src/pane/hotkeys/HotKeyBuilder.h"
 #include "src/store/prefs.h"
 
@@ -73,12 +74,14 @@ private:
     /// The other hot keys that the agent can't tell from this one.
     std::vector<std::size_t> sameAs(std::size_t index) const;
     void noticeChanges();
-    /// Shows how long the capture still keeps keys from other programs, and ends it then.
+    /// Shows how long the capture still keeps keys from other programs, and ends it then. The time
+    /// stands while the window is inactive: it gets no key then, and the others have theirs.
     void countDown();
     void stopCountingDown();
 
     NSObject* menuTarget_ = nullptr;              ///< not owned
     HotKeyView* targetHotKey_ = nullptr;          ///< captures, or null
+    AgentHold agent_;                             ///< during a capture in an active window
     EventLoopTimerRef timer_ = nullptr;           ///< during a capture
     int secondsLeft_ = 0;                         ///< of the capture
     std::array<HotKey, kNumHotKeys> now_ = {};    ///< as last shown

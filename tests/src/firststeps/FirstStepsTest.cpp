@@ -47,7 +47,9 @@ TEST_F(FirstStepsTest, IsShownOnceAndOnlyToWhoHasNoSettings) {
 
 TEST_F(FirstStepsTest, TakesEditsOnTheOneRoadAndIsFoundAgain) {
     openWithAgent();
+    EXPECT_TRUE(agentLog_.nextHold()) << "the keys, for the field with the focus";
     QTest::mouseClick(part("scanModeRadios1"), Qt::LeftButton, {}, {8, 8});
+    EXPECT_FALSE(agentLog_.nextHold());
     EXPECT_EQ(agentLog_.nextMask(), kChangeTriggers);
     QTest::mouseClick(part("lineScanTimeIncBtn"), Qt::LeftButton);
     EXPECT_EQ(agentLog_.nextMask(), kChangeScanSpeed);
@@ -65,7 +67,7 @@ TEST_F(FirstStepsTest, TakesEditsOnTheOneRoadAndIsFoundAgain) {
 }
 
 TEST_F(FirstStepsTest, AnswersEachPress) {
-    open();
+    openWithAgent();
     auto* field = part<QWidget>("pressView");
     const auto* words = part<QLabel>("pressWords");
     EXPECT_TRUE(field->hasFocus());
@@ -76,7 +78,7 @@ TEST_F(FirstStepsTest, AnswersEachPress) {
     QTest::mouseClick(field, Qt::RightButton);
     EXPECT_TRUE(words->text().startsWith(QLatin1String("It answers: 2 presses.")));
     act(field);
-    EXPECT_EQ(words->text(), QStringLiteral("It answers: 3 presses."));
+    EXPECT_TRUE(words->text().startsWith(QLatin1String("It answers: 3 presses. To go on")));
 }
 
 } // namespace

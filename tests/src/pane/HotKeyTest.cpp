@@ -146,8 +146,13 @@ TEST_F(HotKeyTest, MovingAwayStoresNothing) {
     EXPECT_FALSE(isCapturing("cancelScanKey") || showsEditingGroup());
     click("scanKey");
     pane_->willSelect(); // loads anew
-    EXPECT_FALSE(showsEditingGroup());
-    EXPECT_EQ(agentLog_.nextName(), "PPop");
+    EXPECT_FALSE(isCapturing("scanKey") || showsEditingGroup());
+    EXPECT_TRUE(agentLog_.nextHold());
+    EXPECT_FALSE(agentLog_.nextHold()) << "its grabs are the agent's again";
+    EXPECT_TRUE(agentLog_.nextHold());
+    EXPECT_EQ(agentLog_.nextOfAll()["event"], QStringLiteral("PPop"));
+    EXPECT_TRUE(agentLog_.nextHold()) << "said again with an opening";
+    EXPECT_FALSE(agentLog_.nextHold());
 }
 
 TEST_F(HotKeyTest, AHotKeyIsBuiltWithoutAKeyAndATwiceUsedOneIsUsedOnce) {

@@ -64,6 +64,8 @@ TEST_F(TryPageTest, ATryLeftAfterEnoughPressesIsKept) {
             page_->left();
         }
         page_.reset();
+        EXPECT_TRUE(agentLog_.nextHold());
+        EXPECT_FALSE(agentLog_.nextHold()) << "the keys are the agent's again";
         EXPECT_EQ(tryout::History().tries().size(), isBySwitch ? 1U : 2U);
     }
 }
