@@ -467,6 +467,10 @@
         <source>Press here</source>
         <translation>Hier drücken</translation>
     </message>
+    <message>
+        <source>To go on with your switch, wait half a minute: then it scans again.</source>
+        <translation>Um mit dem Schalter weiterzumachen, warten Sie eine halbe Minute: Dann scannt er wieder.</translation>
+    </message>
 </context>
 <context>
     <name>Formats</name>

@@ -467,6 +467,10 @@
         <source>Press here</source>
         <translation>Appuyez ici</translation>
     </message>
+    <message>
+        <source>To go on with your switch, wait half a minute: then it scans again.</source>
+        <translation>Pour continuer avec votre contacteur, attendez une demi-minute&#xa0;: il balaie alors de nouveau.</translation>
+    </message>
 </context>
 <context>
     <name>Formats</name>
