@@ -94,10 +94,8 @@ void XServer::watch() {
                                                   QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { drain(); });
     beforeWait_ = QObject::connect(QAbstractEventDispatcher::instance(),
-                                   &QAbstractEventDispatcher::aboutToBlock, [this] {
-                                       handle(xcb_poll_for_queued_event);
-                                       flush();
-                                   });
+                                   &QAbstractEventDispatcher::aboutToBlock,
+                                   [this] { handle(xcb_poll_for_queued_event); });
 }
 
 void XServer::readButtons() {
@@ -144,6 +142,7 @@ void XServer::handle(xcb_generic_event_t* (*next)(xcb_connection_t*)) {
         for (std::size_t i = 0; event->response_type != 0 && i < handlers_.size(); ++i)
             handlers_[i](*event);
     isHandling_ = false;
+    flush();
     if (!notifier_ || !xcb_connection_has_error(connection_))
         return;
     notifier_->setEnabled(false);

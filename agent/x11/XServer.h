@@ -12,8 +12,8 @@
 #include <xcb/xcb.h>
 
 /// A connection to the display server of the agent's own, apart from Qt's: presses come in and
-/// clicks go out while Qt paints. It reads events as they arrive, and flushes before each wait of
-/// the event loop. Needs a QCoreApplication.
+/// clicks go out while Qt paints. It reads events as they arrive, and flushes after them and before
+/// each wait of the event loop. Needs a QCoreApplication.
 class XServer {
 public:
     /// Null with `fault` in words when there is no server, or it lacks XInput 2.2, XTEST or SHAPE.
