@@ -30,7 +30,7 @@ constexpr double kHeartbeatPause = 0.5; ///< seconds
 
 /// What a killed process sent last may reach the server after its end was noticed: it is let go
 /// again after each of these waits, in milliseconds.
-constexpr int kWaits[] = {0, 5, 20, 100};
+constexpr int kWaits[] = {0, 5, 20};
 
 /// The other process.
 class Watcher {

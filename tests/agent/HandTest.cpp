@@ -6,13 +6,11 @@
 
 #include <QCoreApplication>
 #include <QTest>
+#include <QTimer>
 
 #include <csignal>
-#include <filesystem>
-#include <fstream>
 #include <functional>
 #include <gmock/gmock.h>
-#include <iostream>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -62,17 +60,9 @@ protected:
         }
     }
 
-    /// Milliseconds until that is so; fails after `limit`.
-    double timeUntil(const std::function<bool()>& isSo, int limit = 5000) {
-        const double began = XServer::now();
-        while (!isSo()) {
-            if (XServer::now() - began > limit / 1000.0) {
-                ADD_FAILURE() << "it didn't happen within " << limit << " ms";
-                break;
-            }
-            usleep(500);
-        }
-        return (XServer::now() - began) * 1000;
+    static void waitUntil(const std::function<bool()>& isSo) {
+        for (const double began = XServer::now(); !isSo(); usleep(500))
+            ASSERT_LT(XServer::now() - began, 5);
     }
 
     XvfbServer xvfb_;
@@ -121,27 +111,87 @@ TEST_F(HandTest, ButtonsAreThoseThatProgramsSee) {
     EXPECT_THAT(target_.events(2), ElementsAre("press 1 at 1,2", "release 1 at 1,2"));
 }
 
-TEST_F(HandTest, AKilledAgentHoldsNothing) {
-    const std::vector<std::pair<const char*, std::function<void(Agent&)>>> kCases = {
-        {"mid-click",
-         [](Agent& agent) {
-             agent.hand.click({.place = {9, 9}, .duration = 60});
-         }},
-        {"mid-drag",
-         [](Agent& agent) {
-             agent.hand.move({9, 9});
-             agent.hand.buttonDown(1);
-             agent.hand.keyDown(kA);
-             agent.hand.move({99, 99});
-         }},
-    };
-    for (const auto& [name, act] : kCases) {
+/// Cases are what an agent is at when it ends.
+struct End {
+    const char* name;
+    std::function<void(Agent&)> act;
+    int signal;
+    int limit; ///< ms until all is let go
+};
+
+const End kEnds[] = {
+    {"killed in mid-click",
+     [](Agent& agent) {
+         agent.hand.click({.place = {9, 9}, .duration = 60});
+     },
+     SIGKILL, 50},
+    {"killed in mid-drag",
+     [](Agent& agent) {
+         agent.hand.move({9, 9});
+         agent.hand.buttonDown(1);
+         agent.hand.keyDown(kA);
+         agent.hand.move({99, 99});
+     },
+     SIGKILL, 50},
+    {"hung in a scan",
+     [](Agent& agent) {
+         agent.guard->watch();
+         agent.hand.buttonDown(1);
+     },
+     SIGSTOP, 3300},
+};
+
+TEST_F(HandTest, AnAgentThatEndsOrHangsHoldsNothing) {
+    for (const auto& [name, act, signal, limit] : kEnds) {
         SCOPED_TRACE(name);
         startAgent(act);
-        timeUntil([&] { return !target_.down().empty(); });
-        signalAgent(SIGKILL);
-        EXPECT_LT(timeUntil([&] { return target_.down().empty(); }), 50);
+        waitUntil([&] { return !target_.down().empty(); });
+        const double began = XServer::now();
+        signalAgent(signal);
+        waitUntil([&] { return target_.down().empty(); });
+        const double time = (XServer::now() - began) * 1000;
+        EXPECT_LT(time, limit);
+        EXPECT_GT(time, signal == SIGSTOP ? 2700 : 0);
+        RecordProperty(signal == SIGKILL ? "kill_ms" : "hang_ms", std::to_string(time));
+        if (signal != SIGKILL)
+            signalAgent(SIGKILL);
+        usleep(100'000); // the guard lets go more than once
     }
+}
+
+TEST_F(HandTest, AGuardThatIsToldOfALifeLetsItBe) {
+    startAgent([](Agent& agent) {
+        agent.guard->watch();
+        agent.hand.buttonDown(1);
+        static QTimer heart;
+        QObject::connect(&heart, &QTimer::timeout, [&agent] { agent.guard->heartbeat(); });
+        heart.start(16);
+        QTimer::singleShot(3300, [&agent] {
+            heart.stop();
+            agent.guard->rest();
+        });
+    });
+    waitUntil([&] { return !target_.down().empty(); });
+    usleep(6'500'000);
+    EXPECT_THAT(target_.down(), ElementsAre("button 1"));
+}
+
+TEST_F(HandTest, TheGuardIsNobodysChildAndKeepsNothingOpen) {
+    int files[2];
+    ASSERT_EQ(pipe(files), 0);
+    startAgent([&files](Agent& agent) {
+        const bool hasChild = waitpid(-1, nullptr, WNOHANG) != -1;
+        EXPECT_EQ(write(files[1], hasChild ? "c" : "-", 1), 1);
+        close(files[1]);
+        agent.hand.buttonDown(1);
+    });
+    close(files[1]);
+    char hasChild = 0;
+    EXPECT_EQ(read(files[0], &hasChild, 1), 1);
+    EXPECT_EQ(hasChild, '-');
+    EXPECT_EQ(read(files[0], &hasChild, 1), 0); // the end, while the agent and its guard live on
+    close(files[0]);
+    waitUntil([&] { return !target_.down().empty(); });
 }
 
 } // namespace
