@@ -4,6 +4,9 @@
 #include "src/record/PrefsRecord.h"
 
 #include <array>
+#include <cstddef>
+#include <limits>
+#include <optional>
 #include <vector>
 
 /// What a person presses. The first and the second are the two scan keys. A mouse button that is
@@ -71,13 +74,33 @@ public:
     /// A click was made. Presses that begin sooner than ignoredAfterClick after it don't count.
     void clicked(double moment) { clicked_ = moment; }
 
-    /// The switches are somebody else's now: what is down is forgotten and counts for nothing.
+    /// The switches are somebody else's now: what is down is forgotten and counts for nothing, and
+    /// what wasn't taken yet.
     void forget();
 
     /// What has counted since the last call, in order of moments.
     std::vector<Signal> take();
 
 private:
+    /// A switch that is down.
+    struct Held {
+        bool isDown = false;
+        double since = 0;
+        bool mayCount = false;     ///< it hasn't counted yet, and isn't ignored
+        bool hasPressed = false;   ///< its Press has counted
+        std::size_t longHolds = 0; ///< how many of Wake and End it has signalled
+    };
+
+    Held& of(Switch which) { return held_[static_cast<std::size_t>(which)]; }
+
+    const Held& of(Switch which) const { return held_[static_cast<std::size_t>(which)]; }
+
+    bool countsWhenLetGo(Switch which) const;
+    /// What it signals next if it is held on.
+    std::optional<Signal> next(Switch which) const;
+
     PressRules rules_;
-    double clicked_;
+    std::array<Held, kSwitches> held_;
+    double clicked_ = -std::numeric_limits<double>::infinity();
+    std::vector<Signal> signals_; ///< not taken yet
 };

@@ -5,6 +5,7 @@
 #include "agent/scan/Region.h"
 #include "src/scan/sweep.h"
 
+#include <cstddef>
 #include <optional>
 #include <vector>
 
@@ -54,10 +55,15 @@ public:
     /// Hold from the next sweep on.
     void setRules(const ScanRules& rules) { rules_ = rules; }
 
-    /// A press or a choice begins a scan of these regions, which aren't empty. Only when idle.
+    /// A press or a choice begins a scan of these regions: at least one, none of them empty, with
+    /// times above 0. Only when idle.
     void start(std::vector<Region> regions, double moment);
-    /// What a switch did while a scan is under way. Others are ignored.
-    void signal(const Signal& signal);
+    /// The same regions with other times, which hold from the next sweep on. Without effect if they
+    /// are other ones.
+    void setTimes(const std::vector<Region>& regions);
+    /// What a switch did while a scan is under way. Others are ignored. False if the scan had ended
+    /// before: the press may begin the next one.
+    bool signal(const Signal& signal);
     /// Ends the scan without a choice.
     void cancel();
     /// Time passes.
@@ -67,20 +73,68 @@ public:
     /// end, whatever the settings.
     double deadline() const;
 
-    Phase phase() const { return phase_; }
+    Phase phase() const { return state_.phase; }
 
-    bool isIdle() const { return phase_ == Phase::Idle; }
+    bool isIdle() const { return phase() == Phase::Idle; }
 
     /// Whether something moves, so that each frame differs.
-    bool isMoving() const { return phase_ == Phase::Line || phase_ == Phase::Pointer; }
+    bool isMoving() const { return isMoving(state_); }
 
-    /// At or near the present moment.
+    /// At or near the present moment. Before they set off, line and pointer wait at the near edge.
     Picture pictureAt(double moment) const;
 
     /// The choice, once: the point between the presses' moments. None while there is none.
     std::optional<Place> takeChoice();
 
 private:
+    /// Where a scan stands, in a value of its own: what is ahead can be looked at in a copy.
+    struct State {
+        Phase phase = Phase::Idle;
+        ScanRules rules;        ///< of this line or pointer
+        std::size_t region = 0; ///< its index
+        int pass = 0;           ///< how often the same way was swept to its end
+        double line = 0;        ///< y of the line that has been chosen
+        double since = 0;       ///< the signal after which line or pointer stands
+
+        Sweep sweep;                ///< of what moves, or is let go
+        double setOff = 0;          ///< when it set off, or will; its rests put it off
+        std::optional<double> rest; ///< in inverse scanning: how far it was when let go, as a time
+
+        // In step scanning: the stretch that is divided, from the region's near edge, and the part
+        // of it that is shown.
+        double from = 0, length = 0;
+        int part = 0;
+        bool isInBand = false;
+
+        std::optional<Place> choice;
+    };
+
+    static bool isMoving(const State& state) {
+        return state.phase == Phase::Line || state.phase == Phase::Pointer;
+    }
+
+    static bool isOfPointer(const State& state) { return state.phase >= Phase::PointerDelay; }
+
+    const Area& area(const State& state) const { return regions_[state.region].area; }
+
+    static double due(const State& state);
+    void change(State& state) const;
+    void settle(State& state, double moment) const;
+
+    void begin(State& state, Phase delay, double moment) const;
+    void sweep(State& state, Phase delay, double setOff) const;
+    void divide(State& state, double from, double length) const;
+    bool findsWay(State& state) const;
+    void choose(State& state, double position, double moment) const;
+    void finish(State& state, Place place) const;
+
+    void automatic(State& state, const Signal& signal) const;
+    void inverse(State& state, const Signal& signal) const;
+    void letGo(State& state, double moment) const;
+    void step(State& state, const Signal& signal) const;
+    std::optional<double> position(const State& state, double moment) const;
+
     ScanRules rules_;
-    Phase phase_ = Phase::Idle;
+    std::vector<Region> regions_;
+    State state_;
 };

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "tests/agent/ScanDriver.h"
+
+#include "agent/scan/Scan.h"
+#include "agent/scan/Settings.h"
+#include "src/record/settings.h"
+#include "src/record/settingwords.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+constexpr double kLongestScan = 6000; ///< seconds; menus of two screens' height at a tenth of 60
+constexpr int kMostChanges = 50;      ///< of one scan without a press
+
+void require(bool holds, const char* rule) {
+    if (!holds) {
+        std::fprintf(stderr, "Broken: %s\n", rule);
+        std::abort();
+    }
+}
+
+bool isPress(const Signal& signal) {
+    return signal.kind == Signal::Kind::Press || signal.kind == Signal::Kind::Choose;
+}
+
+/// What goes on between the presses and the scan, at a desk of two screens.
+class Desk {
+public:
+    explicit Desk(const PrefsRecord& record) : record_(record) { setRules(); }
+
+    /// Two bytes say what happens, and how or how much later.
+    void happen(UInt8 what, UInt8 how);
+    /// Nobody presses any more.
+    void leave();
+
+    bool hasChosen() const { return hasChosen_; }
+
+private:
+    void setRules();
+    void change(UInt8 which, UInt8 value);
+    void pass(double seconds);
+    void handle(const Signal& signal);
+    void look();
+
+    PrefsRecord record_, checked_;
+    Surroundings around_{
+        {{{0, 0, 1920, 1080}, 1, 30}, {{1920, -200, 800, 600}}}, {9, 9}, {}, {}, {}};
+    Presses presses_;
+    Scan scan_;
+    std::vector<Region> regions_;
+    double now_ = 1000;
+    bool hasChosen_ = false;
+};
+
+void Desk::setRules() {
+    record_.scanMode &= 3; // else nearly all are unknown
+    checked_ = checkedRecord(record_);
+    presses_.setRules(PressRules(checked_));
+    scan_.setRules(ScanRules(checked_));
+}
+
+void Desk::change(UInt8 which, UInt8 value) {
+    const Setting& setting = kSettings[which % kSettings.size()];
+    const auto& [least, most, step, format, unit, pageSteps] = setting.limits;
+    if (setting.isNumber())
+        setSettingNumber(setting, least + (most - least) * value / 255, record_);
+    else
+        *static_cast<UInt8*>(setting.in(record_)) = value;
+    setRules();
+    scan_.setTimes(regionsOf(checked_, around_));
+}
+
+void Desk::happen(UInt8 what, UInt8 how) {
+    const auto which = static_cast<Switch>(how % kSwitches);
+    const double late = how % 50 / 1000.0;
+    switch (what % 8) {
+    case 0:
+    case 1:
+        presses_.down(which, now_ - late);
+        break;
+    case 2:
+    case 3:
+        presses_.up(which, now_ - late);
+        break;
+    case 4:
+        change(what / 8, how);
+        break;
+    case 5:
+        handle({static_cast<Signal::Kind>(how % 5), which, now_ + what - how});
+        break;
+    case 6:
+        around_.menus.assign(what / 8 % 3, {how * 12.0, what * 4.0, how * 2.0, what * 8.0});
+        around_.ownArea = {how * 12.0 - 200, what * 4.0 - 300, what * 3.0, how * 1.0};
+        break;
+    default:
+        what == 7 ? scan_.cancel() : what == 15 ? presses_.forget() : presses_.clicked(now_);
+    }
+    pass(how * how / 8000.0);
+}
+
+void Desk::pass(double seconds) {
+    now_ += seconds;
+    presses_.advance(now_);
+    require(presses_.deadline() > now_, "presses wait for what is to come");
+    for (const Signal& signal : presses_.take())
+        handle(signal);
+    scan_.advance(now_);
+    look();
+}
+
+void Desk::handle(const Signal& signal) {
+    if (signal.kind == Signal::Kind::End)
+        scan_.cancel();
+    if (scan_.signal(signal) || !isPress(signal))
+        return;
+    look();
+    regions_ = regionsOf(checked_, around_);
+    scan_.start(regions_, signal.moment);
+    require(!scan_.isIdle(), "a press starts a scan");
+}
+
+void Desk::look() {
+    require(std::isfinite(scan_.deadline()) != scan_.isIdle(), "each phase has an end");
+    const Picture picture = scan_.pictureAt(now_ + 0.01);
+    const Area& region = picture.region;
+    require(!(scan_.isIdle() && picture.line), "nothing is shown when idle");
+    for (const auto& y : {picture.line, picture.guide})
+        require(!y || (*y >= region.top && *y <= region.bottom()), "a line is within its region");
+    const auto& x = picture.pointer;
+    require(!x || (*x >= region.left && *x <= region.right()), "a pointer is within its region");
+    const auto choice = scan_.takeChoice();
+    hasChosen_ |= choice.has_value();
+    require(!choice || scan_.isIdle(), "a choice is the end");
+    require(!choice ||
+                std::ranges::any_of(
+                    regions_, [&](const Region& each) { return each.area.contains(*choice); }),
+            "a choice is within a region");
+}
+
+void Desk::leave() {
+    presses_.forget();
+    const double left = now_;
+    for (int i = 0; i < kMostChanges && !scan_.isIdle(); ++i)
+        pass(std::max(scan_.deadline() - now_, 0.0));
+    require(scan_.isIdle() && now_ - left < kLongestScan, "a scan ends by itself");
+}
+
+} // namespace
+
+bool driveScan(std::string_view bytes) {
+    PrefsRecord record;
+    const std::size_t size = std::min(bytes.size(), sizeof record);
+    std::memcpy(&record, bytes.data(), size);
+    Desk desk(record);
+    for (std::size_t i = size; i + 1 < bytes.size(); i += 2)
+        desk.happen(static_cast<UInt8>(bytes[i]), static_cast<UInt8>(bytes[i + 1]));
+    desk.leave();
+    return desk.hasChosen();
+}
