@@ -3,6 +3,7 @@
 #include "platform/CoreServices/detail/DesktopEntry.h"
 #include "platform/IconServices/detail/IconFamily.h"
 #include "src/record/settings.h"
+#include "tests/agent/ScanDriver.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/TestIcons.h"
 
@@ -76,7 +77,8 @@ const std::map<std::string, bool (*)(std::string_view bytes)> kReaders = {
     {"propertylist", readPropertyList},
     {"iconfamily", readIconFamily},
     {"desktopentry", readDesktopFile},
-    {"storedtext", readStoredText}};
+    {"storedtext", readStoredText},
+    {"scan", driveScan}};
 
 } // namespace
 
