@@ -5,7 +5,7 @@
 build_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev libgl-dev libopengl-dev
-    libicns-dev libqt6svg6 libxcb1-dev
+    libicns-dev libqt6svg6 libcanberra-dev libxcb1-dev
     libxcb-randr0-dev libxcb-shape0-dev libxcb-xfixes0-dev libxcb-xinput-dev libxcb-xtest0-dev
     librsvg2-bin icnsutils python3
     libgtest-dev libgmock-dev libxi-dev libxtst-dev
@@ -14,7 +14,7 @@ build_packages=(
 # A virtual display with a window manager, and programs that read the screen and type.
 tour_packages=(
     xvfb x11-utils x11-xkb-utils x11-xserver-utils picom openbox xdotool maim dex
-    at-spi2-core python3-gi python3-pil gir1.2-atspi-2.0
+    at-spi2-core python3-gi python3-pil gir1.2-atspi-2.0 gir1.2-gtk-3.0
 )
 check_packages=(git clang-format-14 clang-tidy-14 libbenchmark-dev)
 deb_packages=(git debhelper dpkg-dev)
