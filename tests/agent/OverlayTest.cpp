@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "agent/x11/Overlay.h"
+#include "tests/agent/DisplayTest.h"
+
+#include <QProcess>
+#include <QTest>
+
+#include <xcb/xtest.h>
+
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+
+constexpr QRgb kWhite = qRgb(255, 255, 255), kRed = qRgb(200, 0, 0), kBlue = qRgb(0, 0, 255);
+
+/// A pointer of 8 by 8 pixels: opaque blue at the left, hardly to be seen at the right. The hot
+/// spot is in the middle.
+PointerImage halfPointer() {
+    QImage image(8, 8, QImage::Format_ARGB32_Premultiplied);
+    for (int x = 0; x < 8; ++x)
+        for (int y = 0; y < 8; ++y)
+            image.setPixel(x, y, x < 4 ? kBlue : qPremultiply(qRgba(0, 0, 255, 60)));
+    return {.image = CFRef<CGImage>::adopt(new CGImage(image)), .hotSpot = {4, 4}};
+}
+
+class OverlayTest : public DisplayTest {
+protected:
+    void SetUp() override {
+        DisplayTest::SetUp();
+        record_.lineColor = {200, 0, 0};
+        record_.lineThickness = 6;
+        record_.lineTransparency = 20;
+        record_.lineGhostTransparency = 75;
+        otherWindow({0, 0, kWidth, kHeight}, kWhite);
+        overlay_.emplace(*server_);
+        overlay_->setLook(record_, 1, halfPointer());
+    }
+
+    void show(const Picture& picture) {
+        overlay_->show(picture);
+        sync();
+    }
+
+    QRgb colorAt(int x, int y) { return screenshot().pixel(x, y); }
+
+    /// The rows with that colour in a column of the screen: the first, and how many.
+    std::pair<int, int> rowsOf(QRgb color, int x) {
+        const QImage image = screenshot();
+        std::pair<int, int> rows{-1, 0};
+        for (int y = 0; y < kHeight; ++y)
+            if (image.pixel(x, y) == color && rows.second++ == 0)
+                rows.first = y;
+        return rows;
+    }
+
+    /// How much of a row of the screen has that colour.
+    double shareOf(QRgb color, int y) {
+        const QImage image = screenshot();
+        int count = 0;
+        for (int x = 0; x < kWidth; ++x)
+            count += image.pixel(x, y) == color;
+        return count / double(kWidth);
+    }
+
+    PrefsRecord record_;
+    std::optional<Overlay> overlay_;
+};
+
+const Area kRegion{100, 50, 600, 500};
+
+TEST_F(OverlayTest, TheLineIsWhereThePictureSays) {
+    show({200, {}, {}, {}, kRegion});
+    EXPECT_EQ(rowsOf(kRed, 400), std::pair(197, 6));
+    const QImage image = screenshot();
+    EXPECT_THAT((std::array{image.pixel(99, 200), image.pixel(100, 200), image.pixel(699, 200),
+                            image.pixel(700, 200)}),
+                ElementsAre(kWhite, kRed, kRed, kWhite));
+
+    show({300.4, {}, {}, {}, kRegion});
+    EXPECT_EQ(rowsOf(kRed, 400), std::pair(297, 6)) << "moved";
+
+    record_.lineThickness = 9;
+    record_.lineColor = {0, 0, 255};
+    overlay_->setLook(record_, 2, halfPointer());
+    sync();
+    EXPECT_EQ(rowsOf(kBlue, 400), std::pair(291, 18)) << "a new look is felt at once";
+
+    overlay_->hide();
+    sync();
+    EXPECT_EQ(rowsOf(kWhite, 400), std::pair(0, kHeight));
+}
+
+TEST_F(OverlayTest, WithoutACompositorTheGuidesAreDashedAndThePointerIsCutOut) {
+    show({{}, 300, 400, {}, kRegion});
+    EXPECT_NEAR(shareOf(kRed, 298), 0.25 * 600 / kWidth, 0.02) << "as much as it would be opaque";
+    const auto [first, count] = rowsOf(kRed, 398);
+    EXPECT_GE(first, 50);
+    EXPECT_NEAR(count, 0.25 * 500, 15) << "the cross, over the region's height";
+    EXPECT_EQ(colorAt(397, 300), kBlue) << "the pointer is over the lines";
+    EXPECT_NE(colorAt(401, 303), kBlue) << "its faint half isn't shown";
+    EXPECT_EQ(rowsOf(kBlue, 396), std::pair(296, 8));
+
+    record_.lineGhostTransparency = 100;
+    overlay_->setLook(record_, 1, halfPointer());
+    sync();
+    EXPECT_EQ(shareOf(kRed, 298), 0);
+    EXPECT_EQ(rowsOf(kBlue, 397).second, 8) << "the pointer stays";
+
+    show({{}, {}, {}, Area{100, 100, 600, 50}, kRegion});
+    EXPECT_EQ(rowsOf(kRed, 400), std::pair(100, 4)) << "edges of two pixels above and below";
+    EXPECT_EQ(colorAt(400, 149), kRed);
+    EXPECT_EQ(colorAt(400, 125), kWhite);
+}
+
+TEST_F(OverlayTest, WithACompositorItIsTransparentAndFollowsItsComingAndGoing) {
+    show({100, 300, 400, {}, kRegion});
+    const auto blended = [](double alpha) {
+        const int rest = static_cast<int>(std::lround(255 * (1 - alpha)));
+        return qRgb(static_cast<int>(std::lround(200 * alpha)) + rest, rest, rest);
+    };
+    const auto isNear = [](QRgb a, QRgb b) {
+        return std::abs(qRed(a) - qRed(b)) < 4 && std::abs(qGreen(a) - qGreen(b)) < 4 &&
+               std::abs(qBlue(a) - qBlue(b)) < 4;
+    };
+    QProcess picom;
+    picom.start(QStringLiteral("picom"),
+                {QStringLiteral("--backend"), QStringLiteral("xrender"), QStringLiteral("--config"),
+                 QStringLiteral("/dev/null"), QStringLiteral("--shadow")});
+    ASSERT_TRUE(picom.waitForStarted());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isNear(colorAt(200, 100), blended(0.8)); }, 20'000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isNear(colorAt(200, 300), blended(0.25)); }));
+    EXPECT_TRUE(isNear(colorAt(398, 500), blended(0.25))) << "the cross";
+    EXPECT_EQ(colorAt(200, 305), kWhite) << "no shadow";
+    EXPECT_EQ(colorAt(397, 303), kBlue);
+    EXPECT_NE(colorAt(402, 303), kBlue);
+    EXPECT_LT(qRed(colorAt(402, 304)), 250) << "the pointer's faint half";
+
+    picom.terminate();
+    ASSERT_TRUE(picom.waitForFinished());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return colorAt(200, 100) == kRed; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::abs(shareOf(kRed, 298) - 0.1875) < 0.02; }))
+        << "dashed again";
+}
+
+TEST_F(OverlayTest, IsRaisedAboveWhatComesLaterAndTakesNoClicks) {
+    const Picture picture{200, 200, 400, Area{100, 180, 600, 60}, kRegion};
+    show(picture);
+    const xcb_window_t fullScreen = otherWindow({0, 0, kWidth, kHeight}, kBlue);
+    EXPECT_EQ(shareOf(kBlue, 200), 1) << "what is mapped later is above";
+    show(picture);
+    EXPECT_GT(shareOf(kRed, 200), 0.7);
+
+    xcb_connection_t* connection = others_->connection();
+    for (const auto type : {XCB_BUTTON_PRESS, XCB_BUTTON_RELEASE}) {
+        xcb_test_fake_input(connection, XCB_MOTION_NOTIFY, 0, 0, others_->root(), 398, 200, 0);
+        xcb_test_fake_input(connection, static_cast<std::uint8_t>(type), 1, 0, XCB_NONE, 0, 0, 0);
+    }
+    xcb_window_t clicked = XCB_NONE;
+    others_->onEvent([&](const xcb_generic_event_t& event) {
+        if ((event.response_type & 0x7f) == XCB_BUTTON_PRESS)
+            clicked = reinterpret_cast<const xcb_button_press_event_t&>(event).event;
+    });
+    others_->flush();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return clicked == fullScreen; }));
+}
+
+} // namespace
