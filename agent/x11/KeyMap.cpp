@@ -5,10 +5,13 @@
 
 #include <algorithm>
 #include <span>
+#include <utility>
 
 namespace {
 
 // Of X11's keysymdef.h, which is Xlib's.
+constexpr xcb_keysym_t kLevel3Shift = 0xFE03;
+constexpr xcb_keysym_t kModeSwitch = 0xFF7E;
 constexpr xcb_keysym_t kNumLock = 0xFF7F;
 constexpr xcb_keysym_t kAltLeft = 0xFFE9;
 constexpr xcb_keysym_t kAltRight = 0xFFEA;
@@ -86,23 +89,31 @@ void KeyMap::read(XServer& server) {
         xcb_get_modifier_mapping_reply(connection, cookie, nullptr));
     super_ = bitOf(reply.get(), symbols, {kSuperLeft, kSuperRight}, XCB_MOD_MASK_4);
     alt_ = bitOf(reply.get(), symbols, {kAltLeft, kAltRight}, XCB_MOD_MASK_1);
+    altGr_ = bitOf(reply.get(), symbols, {kLevel3Shift, kModeSwitch}, alt_);
     numLock_ = bitOf(reply.get(), symbols, {kNumLock}, 0);
     unusedKey_ = findUnused(symbols);
 }
 
-std::uint32_t KeyMap::modifiers(std::uint32_t carbon) const {
-    const struct {
-        std::uint32_t carbon, bit;
-    } kBits[] = {{cmdKey, super_},
-                 {shiftKey, XCB_MOD_MASK_SHIFT},
-                 {optionKey, alt_},
-                 {controlKey, XCB_MOD_MASK_CONTROL}};
+std::vector<std::uint32_t> KeyMap::modifiers(std::uint32_t carbon) const {
+    std::vector<std::uint32_t> choices;
+    for (const std::uint32_t option : {alt_, altGr_}) {
+        const std::pair<std::uint32_t, std::uint32_t> kBits[] = {
+            {cmdKey, super_},
+            {shiftKey, XCB_MOD_MASK_SHIFT},
+            {optionKey, option},
+            {controlKey, XCB_MOD_MASK_CONTROL}};
+        std::uint32_t bits = 0;
+        for (const auto& [ours, servers] : kBits)
+            if (carbon & ours)
+                bits |= servers;
+        if (choices.empty() || choices.front() != bits)
+            choices.push_back(bits);
+    }
+    return choices;
+}
 
-    std::uint32_t bits = 0;
-    for (const auto& row : kBits)
-        if (carbon & row.carbon)
-            bits |= row.bit;
-    return bits;
+std::uint32_t KeyMap::allModifiers() const {
+    return super_ | alt_ | altGr_ | XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL;
 }
 
 std::vector<std::uint32_t> KeyMap::locks() const {

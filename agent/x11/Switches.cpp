@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "agent/x11/Switches.h"
 
-#include "platform/HIToolbox/CarbonEvents.h"
 #include "platform/Support/ScanCodes.h"
 
 #include <algorithm>
@@ -11,6 +10,9 @@ namespace {
 
 constexpr std::uint32_t kFirstButton = 1;
 constexpr std::uint32_t kSecondButton = 3; ///< the right one
+
+/// No program does anything when these alone go down and up.
+constexpr std::uint32_t kQuietModifiers = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL;
 
 constexpr std::uint32_t kKeysHeard =
     XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE;
@@ -112,7 +114,8 @@ std::vector<Switches::Wanted> Switches::wanted(State state) const {
         if (keyCode < 0 || keyCode >= kNoKeyCode || !isWanted(role, state))
             continue;
         for (const std::uint32_t code : scanCodes(static_cast<std::uint16_t>(keyCode)))
-            all.push_back({role, true, code, keys_.modifiers(modifiers)});
+            for (const std::uint32_t bits : keys_.modifiers(modifiers))
+                all.push_back({role, true, code, bits});
     }
     if (isWanted(MouseButton, state))
         all.push_back({MouseButton, false, kFirstButton, Grab::kAnyModifiers});
@@ -267,7 +270,7 @@ void Switches::press(const Press& press) {
                            press.moment - motion->second.farMoment() <= kMovedSeconds;
     if (isHelpers)
         return passOn(press);
-    if (one->isKey && (one->modifiers & keys_.modifiers(cmdKey | optionKey)))
+    if (one->isKey && (one->modifiers & ~kQuietModifiers))
         sendUnusedKey();
     switch (one->role) {
     case OnOff:

@@ -30,6 +30,7 @@ constexpr int code(int kernelKey) {
 constexpr int kScan = code(KEY_KPENTER); ///< with Super the first switch, with Alt the second
 constexpr int kSuper = code(KEY_LEFTMETA);
 constexpr int kAlt = code(KEY_LEFTALT);
+constexpr int kAltGr = 92; ///< of every layout: no key of a keyboard has it
 constexpr int kControl = code(KEY_LEFTCTRL);
 constexpr int kShift = code(KEY_LEFTSHIFT);
 
@@ -123,6 +124,7 @@ TEST_F(SwitchesTest, EachKeyIsHeardAndTakenWhateverIsOpenOrLocked) {
     } kKeys[] = {
         {{kSuper}, kScan, {"down first", "up first"}},
         {{kAlt}, kScan, {"down second", "up second"}},
+        {{kAltGr}, kScan, {"down second", "up second"}},
         {{kControl, kShift}, code(KEY_X), {"on/off"}},
         {{kControl, kAlt, kShift}, code(KEY_X), {"settings"}},
         {{}, code(KEY_ESC), {"cancel"}},
