@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Agent</name>
+    <message>
+        <source>No X11 display can be reached.</source>
+        <translation>Es ist kein X11-Bildschirm erreichbar.</translation>
+    </message>
+    <message>
+        <source>The X11 display has no %1, which scanning needs.</source>
+        <translation>Dem X11-Bildschirm fehlt %1. Das Scannen braucht es.</translation>
+    </message>
+</context>
+<context>
     <name>Changes</name>
     <message>
         <source>The palette has the buttons again that Korvex came with.</source>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>Agent</name>
+    <message>
+        <source>No X11 display can be reached.</source>
+        <translation>Aucun écran X11 n’est accessible.</translation>
+    </message>
+    <message>
+        <source>The X11 display has no %1, which scanning needs.</source>
+        <translation>L’écran X11 n’a pas %1, dont le balayage a besoin.</translation>
+    </message>
+</context>
+<context>
     <name>Changes</name>
     <message>
         <source>The palette has the buttons again that Korvex came with.</source>
