@@ -150,7 +150,7 @@ std::unique_ptr<Guard> Guard::start() {
         ;
     pollfd file = {sockets[0], POLLIN, 0};
     char ready = 0;
-    const bool isReady = poll(&file, 1, static_cast<int>(kLongestSilence * 1000)) == 1 &&
+    const bool isReady = poll(&file, 1, static_cast<int>(kLongestStart * 1000)) == 1 &&
                          recv(sockets[0], &ready, 1, 0) == 1;
     return isReady ? std::move(guard) : nullptr;
 }

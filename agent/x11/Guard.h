@@ -11,7 +11,7 @@
 class Guard {
 public:
     /// Starts it. Call it before threads are started and before Qt connects to anything. Null when
-    /// no process can be started, or it doesn't reach the display server within kLongestSilence.
+    /// no process can be started, or it doesn't reach the display server within kLongestStart.
     static std::unique_ptr<Guard> start();
     /// The other process ends. What is still held it lets go.
     ~Guard();
@@ -29,7 +29,8 @@ public:
     void heartbeat();
     void rest();
 
-    static constexpr double kLongestSilence = 3;
+    static constexpr double kLongestSilence = 3; ///< seconds, as is the next
+    static constexpr double kLongestStart = 10;
 
 private:
     explicit Guard(int socket) : socket_(socket) {}

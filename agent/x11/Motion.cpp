@@ -10,7 +10,7 @@ Motion::Motion(const InputDevice& device, const xcb_screen_t& screen, double far
 
 void Motion::add(const xcb_input_raw_motion_event_t& event, double moment) {
     if (moment - startMoment_ > kMemory)
-        restart(moment);
+        startHere(moment);
     const std::uint32_t* mask = xcb_input_raw_button_press_valuator_mask(&event);
     const xcb_input_fp3232_t* values = xcb_input_raw_button_press_axisvalues(&event);
     for (int axis = 0; axis < 2 && event.valuators_len > 0; ++axis)
@@ -19,7 +19,7 @@ void Motion::add(const xcb_input_raw_motion_event_t& event, double moment) {
     if (distance() < far_)
         return;
     farMoment_ = moment;
-    restart(moment);
+    startHere(moment);
 }
 
 void Motion::go(int axis, double value) {
@@ -35,6 +35,11 @@ void Motion::go(int axis, double value) {
 }
 
 void Motion::restart(double moment) {
+    startHere(moment);
+    isPlaced_[0] = isPlaced_[1] = false;
+}
+
+void Motion::startHere(double moment) {
     start_ = place_;
     startMoment_ = moment;
 }

@@ -14,7 +14,8 @@ public:
     /// A raw motion event of the device.
     void add(const xcb_input_raw_motion_event_t& event, double moment);
 
-    /// From now on distance() counts from here.
+    /// From now on distance() counts from here, for an absolute device from its next place: where
+    /// it was heard last may be long ago.
     void restart(double moment);
 
     double distance() const;
@@ -26,6 +27,7 @@ public:
     static constexpr double kMemory = 5;
 
 private:
+    void startHere(double moment);
     void go(int axis, double value);
 
     InputDevice device_;

@@ -62,6 +62,9 @@ bool XServer::hasExtensions(std::string& fault) {
     const auto* test = xcb_get_extension_data(connection_, &xcb_test_id);
     const auto* shape = xcb_get_extension_data(connection_, &xcb_shape_id);
 
+    if (input)
+        inputOpcode_ = input->major_opcode;
+
     const struct {
         const char* name;
         bool exists;
@@ -78,7 +81,6 @@ bool XServer::hasExtensions(std::string& fault) {
             filled(localized("Agent", "The X11 display has no %1, which scanning needs."), {name});
         return false;
     }
-    inputOpcode_ = input->major_opcode;
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include <QSocketNotifier>
 
 #include <cstdint>
+#include <cstdlib>
 #include <functional>
 #include <map>
 #include <memory>

@@ -60,9 +60,14 @@ protected:
         }
     }
 
-    static void waitUntil(const std::function<bool()>& isSo) {
-        for (const double began = XServer::now(); !isSo(); usleep(500))
-            ASSERT_LT(XServer::now() - began, 5);
+    void waitUntilHolding() {
+        for (const double began = XServer::now(); target_.down().empty(); usleep(500))
+            ASSERT_LT(XServer::now() - began, 20) << "nothing is held";
+    }
+
+    void waitUntilLetGo() {
+        for (const double began = XServer::now(); !target_.down().empty(); usleep(500))
+            ASSERT_LT(XServer::now() - began, 5) << "it is still held";
     }
 
     XvfbServer xvfb_;
@@ -145,10 +150,10 @@ TEST_F(HandTest, AnAgentThatEndsOrHangsHoldsNothing) {
     for (const auto& [name, act, signal, limit] : kEnds) {
         SCOPED_TRACE(name);
         startAgent(act);
-        waitUntil([&] { return !target_.down().empty(); });
+        waitUntilHolding();
         const double began = XServer::now();
         signalAgent(signal);
-        waitUntil([&] { return target_.down().empty(); });
+        waitUntilLetGo();
         const double time = (XServer::now() - began) * 1000;
         EXPECT_LT(time, limit);
         EXPECT_GT(time, signal == SIGSTOP ? 2700 : 0);
@@ -171,7 +176,7 @@ TEST_F(HandTest, AGuardThatIsToldOfALifeLetsItBe) {
             agent.guard->rest();
         });
     });
-    waitUntil([&] { return !target_.down().empty(); });
+    waitUntilHolding();
     usleep(6'500'000);
     EXPECT_THAT(target_.down(), ElementsAre("button 1"));
 }
@@ -191,7 +196,7 @@ TEST_F(HandTest, TheGuardIsNobodysChildAndKeepsNothingOpen) {
     EXPECT_EQ(hasChild, '-');
     EXPECT_EQ(read(files[0], &hasChild, 1), 0); // the end, while the agent and its guard live on
     close(files[0]);
-    waitUntil([&] { return !target_.down().empty(); });
+    waitUntilHolding();
 }
 
 } // namespace

@@ -336,6 +336,8 @@ struct RawMotion {
     xcb_input_fp3232_t values[2];
 };
 
+constexpr double kRestart = 9; ///< this moment's step is a restart
+
 TEST(MotionTest, CountsFromPlaceToPlaceWithinFiveSeconds) {
     struct Step {
         double moment;
@@ -353,6 +355,7 @@ TEST(MotionTest, CountsFromPlaceToPlaceWithinFiveSeconds) {
         {"too slowly", false, {{10, 20, 0}, {15.1, 20, 0}}, -INFINITY},
         {"to and fro", false, {{10, 30, 0}, {11, -30, 0}, {12, 30, 0}}, -INFINITY},
         {"a tablet's first place", true, {{10, 900, 900}, {11, 910, 900}}, -INFINITY},
+        {"a tablet heard again", true, {{8, 0, 0}, {kRestart, 0, 0}, {11, 900, 0}}, -INFINITY},
         {"a tablet", true, {{10, 0, 0}, {11, 0, 50}}, 11},
     };
 
@@ -365,6 +368,10 @@ TEST(MotionTest, CountsFromPlaceToPlaceWithinFiveSeconds) {
             axis = {row.isAbsolute, 0, 1000};
         Motion motion(device, screen, 40);
         for (const auto& [moment, x, y] : row.steps) {
+            if (moment == kRestart) {
+                motion.restart(moment);
+                continue;
+            }
             RawMotion event{};
             event.head.valuators_len = 1;
             event.mask = 3;
