@@ -21,10 +21,16 @@ std::size_t rowAt(std::size_t offset) {
     return static_cast<std::size_t>(after - kSettings.begin()) - 1;
 }
 
-/// Of two records that are copies of `prefs` with changes: they have the same unused bytes.
+/// Of two records that are copies of `prefs` with changes: they have the same unused bytes. Quicker
+/// than `differences`.
 bool isSame(const PrefsRecord& a, const PrefsRecord& b) {
-    const auto* bytes = reinterpret_cast<const UInt8*>(&a);
-    return std::equal(bytes, bytes + sizeof a, reinterpret_cast<const UInt8*>(&b));
+    constexpr std::size_t kName = offsetof(PrefsRecord, pointerImageName),
+                          kAfter = kName + sizeof a.pointerImageName;
+    const auto *one = reinterpret_cast<const UInt8*>(&a),
+               *other = reinterpret_cast<const UInt8*>(&b);
+    return std::equal(one, one + kName, other) &&
+           std::equal(one + kAfter, one + sizeof a, other + kAfter) &&
+           isSame(settingAt(kName), a, b);
 }
 
 /// The title of a section's button, or of the button for all.

@@ -19,11 +19,13 @@ REGISTER_CLASS(VLDKorvexPane);
 
 namespace {
 
-/// When it is shown, reports what a crashed visit has left.
-void showRecovered(const SettingSet& recovered, PreferenceWrangler& wrangler) {
+/// When the stored settings are shown, takes over what a crashed visit has left.
+void takeRecovered(PreferenceWrangler& wrangler) {
+    PrefsRecord record = prefs;
+    const SettingSet recovered = recoveryTakeOver(record);
     if (recovered.none())
         return recoveryForget();
-    wrangler.changed(changesOf(recovered));
+    wrangler.adopt(recovered, record);
     tellUser("recovery",
              {.kind = UserMessage::Kind::Note,
               .text = localized("Recovery", "Your last visit here ended before it could save. Its "
@@ -55,11 +57,10 @@ void VLDKorvexPane::willSelect() {
     daemonSetup(path.get());
     palutilSetup();
     prefsSetup();
-    const SettingSet recovered = recoveryTakeOver(prefs);
     preferenceWrangler_->setup();
     preferenceWrangler_->loadValues();
-    showRecovered(recovered, *preferenceWrangler_);
     preferenceWrangler_->beginHistory();
+    takeRecovered(*preferenceWrangler_);
     openWindowSetup([](const SettingSet& settings, const PrefsRecord& record) {
         theWrangler->changedElsewhere(settings, record);
     });

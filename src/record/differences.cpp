@@ -3,10 +3,18 @@
 
 #include <cstring>
 
+bool isSame(const Setting& setting, const PrefsRecord& a, const PrefsRecord& b) {
+    const void *one = setting.in(a), *other = setting.in(b);
+    return setting.notation == &kTextNotation
+               ? std::strncmp(static_cast<const char*>(one), static_cast<const char*>(other),
+                              setting.size) == 0
+               : std::memcmp(one, other, setting.size) == 0;
+}
+
 SettingSet differences(const PrefsRecord& a, const PrefsRecord& b) {
     SettingSet different;
     for (std::size_t i = 0; i < kSettings.size(); ++i)
-        different[i] = std::memcmp(kSettings[i].in(a), kSettings[i].in(b), kSettings[i].size) != 0;
+        different[i] = !isSame(kSettings[i], a, b);
     return different;
 }
 

@@ -9,7 +9,14 @@
 /// difference between two states is such a set.
 using SettingSet = std::bitset<kSettings.size()>;
 
+/// Whether both have the same value there. What lies behind the end of a text doesn't count.
+bool isSame(const Setting& setting, const PrefsRecord& a, const PrefsRecord& b);
+
 SettingSet differences(const PrefsRecord& a, const PrefsRecord& b);
+
+constexpr std::size_t rowOf(const Setting& setting) {
+    return static_cast<std::size_t>(&setting - kSettings.data());
+}
 
 /// The groups that a change of those settings reports.
 ChangeMask changesOf(const SettingSet& settings);

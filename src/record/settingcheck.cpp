@@ -115,11 +115,9 @@ std::string settingFault(const Setting& setting, const PrefsRecord& record) {
 // its length and its numbers must fit.
 std::string setFromValue(const Setting& setting, const CFType* value, PrefsRecord& record) {
     PrefsRecord changed = record;
-    const bool isList =
-        setting.notation == &kHotKeyListNotation || setting.notation == &kActionListNotation;
     if (!setting.notation->read(value, setting.in(changed)) ||
-        (isList && bare(dynamicCFCast<CFString>(value)) !=
-                       bare(setting.notation->write(setting.in(changed)).get())))
+        (setting.isList() && bare(dynamicCFCast<CFString>(value)) !=
+                                 bare(setting.notation->write(setting.in(changed)).get())))
         return localized("Faults", "not a value of this setting");
     std::string fault = settingFault(setting, changed);
     if (fault.empty())

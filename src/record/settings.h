@@ -42,6 +42,11 @@ struct Setting {
 
     bool isNumber() const { return limits.format != nullptr; }
 
+    /// Hot keys or actions: its entries are set one by one.
+    bool isList() const {
+        return notation == &kHotKeyListNotation || notation == &kActionListNotation;
+    }
+
     const void* in(const PrefsRecord& record) const {
         return reinterpret_cast<const UInt8*>(&record) + offset;
     }

@@ -8,7 +8,6 @@
 #include "src/store/recovery.h"
 
 #include <array>
-#include <cstring>
 
 const CFString* const kAgentBundleID = CFSTR(kAgentBundleIDText);
 
@@ -33,9 +32,8 @@ PrefsRecord lastLook; ///< the record when it was last looked through for change
 
 void noteChanges() {
     for (std::size_t i = 0; i < kSettings.size(); ++i) {
-        const Setting& setting = kSettings[i];
-        if (std::memcmp(setting.in(prefs), setting.in(lastLook), setting.size) != 0)
-            settingStates[i].isChosen = true;
+        if (!isSame(kSettings[i], prefs, lastLook)) // what is as stored again isn't chosen
+            settingStates[i].isChosen = !isSame(kSettings[i], prefs, stored);
     }
     lastLook = prefs;
 }
@@ -93,7 +91,7 @@ void prefsWereChanged(const void* chosen) {
 }
 
 void prefsKeepChanges() {
-    recoveryKeep(prefs, chosenSettings());
+    recoveryKeep(prefs, chosenSettings(), stored);
 }
 
 void prefsWerentChanged() {

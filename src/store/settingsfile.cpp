@@ -58,13 +58,18 @@ bool disturbsText(char16_t character) {
     });
 }
 
-std::string settingsDocument(const SettingSet& settings, const PrefsRecord& record) {
+CFRef<CFMutableDictionary> settingsDictionary(const SettingSet& settings,
+                                              const PrefsRecord& record) {
     const auto dictionary = CFDictionaryCreateMutable();
     for (std::size_t i = 0; i < kSettings.size(); ++i)
         if (settings[i])
             if (const auto text = kSettings[i].notation->write(kSettings[i].in(record)))
                 CFDictionarySetValue(dictionary.get(), CFSTR(kSettings[i].key), text.get());
-    return propertyListToXML(dictionary.get());
+    return dictionary;
+}
+
+std::string settingsDocument(const SettingSet& settings, const PrefsRecord& record) {
+    return propertyListToXML(settingsDictionary(settings, record).get());
 }
 
 SettingsOffer readSettingsFile(const std::string& path, const PrefsRecord& base) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/CoreFoundation/CFDictionary.h"
 #include "src/record/differences.h"
 
 #include <string>
@@ -26,6 +27,10 @@ struct SettingsOffer {
 /// Whether the character changes how the text around it is shown: ends its line or turns its
 /// direction. Nobody should be shown such a name.
 bool disturbsText(char16_t character);
+
+/// The dictionary of such a file.
+CFRef<CFMutableDictionary> settingsDictionary(const SettingSet& settings,
+                                              const PrefsRecord& record);
 
 /// The content of such a file.
 std::string settingsDocument(const SettingSet& settings, const PrefsRecord& record);

@@ -141,4 +141,18 @@ TEST_P(DefaultsTest, ASectionOrAllGoBackInOneChangeThatCanBeUndone) {
     EXPECT_THAT(remainingMasks(), testing::ElementsAre(kChangeScanSpeed, kChangeScanSpeed));
 }
 
+using NamesTest = PaneTest;
+
+TEST_F(NamesTest, WhatLiesBehindANameDoesntCount) {
+    std::strcpy(prefs.pointerImageName, "Ring+20x20");
+    openWithAgent();
+    std::strcpy(prefs.pointerImageName, PrefsRecord().pointerImageName); // "default", then "20"
+    theWrangler->changed(kChangePointer);
+    EXPECT_EQ(agentLog_.nextMask(), kChangePointer);
+    EXPECT_EQ(find<QAbstractButton>("lookResetBtn")->text(), "Nothing to put back");
+    EXPECT_FALSE(find("pointerRowPutBackBar")->isVisible());
+    theWrangler->adopt(SettingSet().set(), PrefsRecord());
+    EXPECT_THAT(remainingMasks(), testing::IsEmpty()) << "an equal name isn't sent";
+}
+
 } // namespace

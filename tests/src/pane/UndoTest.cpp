@@ -164,4 +164,23 @@ TEST_F(UndoTest, EachKindOfChangeIsOneStepThatIsSaidAndShown) {
     EXPECT_EQ(readFile(file), stored);
 }
 
+TEST_F(UndoTest, WhatACrashedVisitLeftIsOneStep) {
+    const fs::path state = fs::path(std::getenv("XDG_STATE_HOME")) / "korvex";
+    fs::create_directories(state);
+    writeFile(state / "unsaved.1.2",
+              dictionaryFile("<key>soundLevel</key><string>0x46</string>"
+                             "<key>scanner.minTriggerDuration</key><string>1.5</string>"));
+    const PrefsRecord before = prefs;
+    openWithAgent();
+    EXPECT_EQ(agentLog_.nextMask(), kChangeSounds | kChangeTriggers);
+    EXPECT_EQ(prefs.soundLevel, 70U);
+    EXPECT_EQ(find<QLineEdit>("minTriggerDurationLabel")->text(), "  1.5 sec");
+    EXPECT_THAT(told(), testing::HasSubstr("are here again"));
+    find<QPushButton>("undoBtn")->click();
+    EXPECT_TRUE(differences(before, prefs).none());
+    EXPECT_FALSE(find("undoBtn")->isEnabled());
+    EXPECT_EQ(agentLog_.nextMask(), kChangeSounds | kChangeTriggers);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fs::is_empty(state); })) << "nothing is unsaved";
+}
+
 } // namespace

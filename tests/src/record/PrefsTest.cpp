@@ -211,7 +211,8 @@ TEST(PrefsTest, WhatTheUserChoseIsStoredAndTheRestYieldsToOthers) {
     store("no", spelling + agents);
     for (const bool on : {false, true}) {
         prefs.on = on;
-        prefsWereChanged();
+        prefs.soundLevel = on ? 50 : 60; // changed, and as it was loaded again
+        prefsWereChanged(&prefs.on);
     }
     ASSERT_TRUE(savePrefs());
     expectStored({{"on", "yes"}, {"soundLevel", "0x1"}, {"scanner.lineScanTime", "10.000000"}});

@@ -2,9 +2,11 @@
 #include "src/store/recovery.h"
 
 #include "platform/CoreServices/StateFile.h"
+#include "src/store/prefs.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <csignal>
+#include <functional>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -29,16 +31,16 @@ protected:
         ASSERT_EQ(countFiles(), count);
     }
 
-    /// A program that changes a setting and is killed.
-    void crash(double lineScanTime) const {
+    /// A program that changes settings and is killed.
+    void crash(const std::function<void(PrefsRecord& record)>& change) const {
         const long before = countFiles();
         const pid_t child = fork();
         if (child == 0) {
             PrefsRecord record;
-            record.lineScanTime = lineScanTime;
+            change(record);
             const SettingSet changed = differences(record, PrefsRecord());
             record.soundLevel = 3;
-            recoveryKeep(record, changed);
+            recoveryKeep(record, changed, PrefsRecord());
             pause();
         }
         waitForFiles(before + 1);
@@ -50,8 +52,8 @@ protected:
 };
 
 TEST_F(RecoveryTest, TakesOverWhatCrashedProgramsChangedTheLatestLast) {
-    crash(20);
-    crash(30);
+    crash([](auto& record) { record.lineScanTime = 20; });
+    crash([](auto& record) { record.lineScanTime = 30; });
     writeFile(state_ / "korvex/unsaved.1.2.damaged", "<plist>");
     writeFile(state_ / "korvex/unsaved.1.2", "damaged");
 
@@ -64,7 +66,7 @@ TEST_F(RecoveryTest, TakesOverWhatCrashedProgramsChangedTheLatestLast) {
     EXPECT_EQ(record.soundLevel, 9u);
 
     EXPECT_EQ(countFiles(), 4) << "kept until there is an own file";
-    recoveryKeep(record, recovered);
+    recoveryKeep(record, recovered, PrefsRecord());
     waitForFiles(3);
     PrefsRecord again;
     EXPECT_TRUE(recoveryTakeOver(again).none()) << "a file of a living process";
@@ -72,9 +74,33 @@ TEST_F(RecoveryTest, TakesOverWhatCrashedProgramsChangedTheLatestLast) {
     waitForFiles(2);
 }
 
+TEST_F(RecoveryTest, WhatWasStoredAfterwardsStaysAndAnOddListIsTaken) {
+    setenv("XDG_CONFIG_HOME", makeSandboxFolder("config").c_str(), 1);
+    const fs::path store = fs::path(std::getenv("XDG_CONFIG_HOME")) / "Preferences" /
+                           (std::string(kAgentBundleIDText) + ".plist");
+    writeFile(store, "");
+    crash([](auto& record) {
+        record.lineScanTime = 20;
+        record.lineThickness = 9;
+        record.buttonActions[0] = 5;
+        record.buttonActions[1] = 200; // as somebody else stored it
+    });
+    for (const bool isLater : {false, true}) {
+        fs::last_write_time(store, fs::file_time_type::clock::now() +
+                                       std::chrono::hours(isLater ? 1 : -1));
+        PrefsRecord record;
+        record.lineScanTime = 15; // stored by a command, when it was 10
+        recoveryTakeOver(record);
+        EXPECT_EQ(double{record.lineScanTime}, isLater ? 15 : 20);
+        EXPECT_EQ(record.lineThickness, 9) << "nobody else changed it";
+        EXPECT_EQ(record.buttonActions[0], 5);
+        EXPECT_EQ(record.buttonActions[1], 200);
+    }
+}
+
 TEST_F(RecoveryTest, AFolderThatCannotBeWrittenIsTroubleUntilTheChangesAreSaved) {
     writeFile(state_ / "korvex", "in the way");
-    recoveryKeep(PrefsRecord(), {});
+    recoveryKeep(PrefsRecord(), {}, PrefsRecord());
     for (int i = 0; i < 500 && stateFileOutcome().trouble == FileTrouble::None; ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     EXPECT_EQ(stateFileOutcome().trouble, FileTrouble::InTheWay);
