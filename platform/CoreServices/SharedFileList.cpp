@@ -78,12 +78,12 @@ bool listEntryFiles(const std::vector<std::string>& folders, std::vector<EntryFi
 
 /// Whether an entry for the application may be written there. It may when nothing is there, when
 /// the entry starts this application, or when it started one of the same name and now starts
-/// nothing. An entry that the user switched off, or that is for other desktops, stays.
+/// nothing. An entry that the user switched off, or that isn't for this desktop, stays.
 bool isFree(const std::string& path, const std::string& application) {
     if (!isAnythingAt(path))
         return true;
     const auto entry = readAutostartEntry(path);
-    return entry && !entry->isSwitchedOff && entry->onlyElsewhere.empty() &&
+    return entry && !entry->isSwitchedOff && entry->onlyElsewhere.empty() && !entry->isNotHere &&
            (entry->application == application ||
             (!entry->isLive && isSameLoginApplication(entry->application, application)));
 }
@@ -100,20 +100,22 @@ std::vector<std::string> switchedOffPaths(const std::vector<EntryFile>& files,
     return paths;
 }
 
-/// The other desktops on which entries among the files start the application. A semicolon follows
-/// each.
-std::string otherDesktops(const std::vector<EntryFile>& files, const std::string& application) {
+/// On which desktops a new entry starts the application: only where none among the files does. A
+/// line of the entry, empty for all desktops.
+std::string desktopsLine(const std::vector<EntryFile>& files, const std::string& application) {
     std::string desktops;
     for (const EntryFile& file : files) {
         const auto entry = readAutostartEntry(file.path);
-        if (!entry || entry->isSwitchedOff || entry->onlyElsewhere.empty() ||
+        if (!entry || entry->isSwitchedOff ||
             !isSameLoginApplication(entry->application, application))
             continue;
+        if (entry->isNotHere)
+            return onlyHereLine();
         desktops += entry->onlyElsewhere;
-        if (!desktops.ends_with(';'))
+        if (!desktops.empty() && !desktops.ends_with(';'))
             desktops += ';';
     }
-    return desktops;
+    return desktops.empty() ? "" : "NotShowIn=" + desktops;
 }
 
 /// A path for the application's entry in the folder. Empty when all are taken.
@@ -233,9 +235,8 @@ CFRef<LSSharedFileListItem> LSSharedFileListInsertItemURL(LSSharedFileList* list
         return nullptr;
     const std::string name = bundleText(bundle.get(), "CFBundleName");
     const std::string path = freePath(folder, identifier, bundle->path());
-    const std::string text =
-        autostartEntryText(name.empty() ? identifier : name, executable->path(),
-                           otherDesktops(others, bundle->path()));
+    const std::string text = autostartEntryText(
+        name.empty() ? identifier : name, executable->path(), desktopsLine(others, bundle->path()));
     if (path.empty() || !replaceFile(*list, path, text))
         return nullptr;
     makeLast(path, others);

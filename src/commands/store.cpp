@@ -28,10 +28,12 @@ CFRef<CFURL> agentURL() {
     return pane ? CFBundleCopyAuxiliaryExecutableURL(pane, CFSTR(kAgentApplicationName)) : nullptr;
 }
 
-/// An open window does this itself.
-void updateLoginItem() {
-    if (const auto agent = agentURL())
-        launchSetAppIsAutoLaunched(agent.get(), prefs.launchAtLogin != 0, false);
+/// Does what a click in the window does, even if the setting is the same: the desktop's own tool
+/// may have switched the entry off. An open window does this itself.
+void updateLoginItem(const SettingSet& chosen) {
+    if (const auto agent = agentURL(); agent && (changesOf(chosen) & kChangeLaunch))
+        launchFollowSetting(agent.get(), prefs.launchAtLogin != 0,
+                            chosen[rowOf(settingAt(offsetof(PrefsRecord, launchAtLogin)))]);
 }
 
 /// Another command may store something at the same time, and send it first. So what is sent is what
@@ -78,12 +80,11 @@ std::string changeSettings(const SettingSet& settings, const PrefsRecord& record
     prefsSetup();
     const SettingSet changed = settings & differences(prefs, record);
     copySettings(changed, record, prefs);
+    if (changed.any() && !savePrefs())
+        return savingFault();
+    updateLoginItem(settings);
     if (changed.none())
         return {};
-    if (!savePrefs())
-        return savingFault();
-    if (changesOf(changed) & kChangeLaunch)
-        updateLoginItem();
     sendStored(changesOf(changed));
     return {};
 }

@@ -90,3 +90,10 @@ void launchForgetSwitchedOff(const CFURL* appURL) {
     if (const auto url = getRetainedAppURL(appURL); url && hasSharedLists())
         forgetSwitchedOffLoginItem(url.get());
 }
+
+void launchFollowSetting(const CFURL* appURL, bool autoLaunch, bool isChosen) {
+    if (autoLaunch && isChosen)
+        launchForgetSwitchedOff(appURL);
+    launchSetAppIsAutoLaunched(appURL, false, true);
+    launchSetAppIsAutoLaunched(appURL, autoLaunch, false);
+}

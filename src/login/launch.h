@@ -34,6 +34,10 @@ bool launchSetAppIsAutoLaunched(const CFURL* appURL, bool autoLaunch, bool allUs
 /// leaves an entry alone that was switched off with the desktop's own tool.
 void launchForgetSwitchedOff(const CFURL* appURL);
 
+/// Makes the lists fit the setting: this user's has the application or not, all users' hasn't.
+/// `isChosen`: the user has just set it, so an entry that was switched off is switched on again.
+void launchFollowSetting(const CFURL* appURL, bool autoLaunch, bool isChosen);
+
 /// The state of the check boxes. If the application is opened for all users, this user's box is
 /// checked too. `showAllUsers` says whether there is a second box. Without it that check can't be
 /// removed, and the other bits are 0. 0 without an application.

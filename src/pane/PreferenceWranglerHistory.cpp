@@ -74,6 +74,10 @@ void PreferenceWrangler::adopt(const SettingSet& settings, const PrefsRecord& re
 void PreferenceWrangler::changedElsewhere(const SettingSet& settings, const PrefsRecord& record) {
     profiles_.load();
     adopt(settings, record);
+    if (settings[rowOf(settingAt(offsetof(PrefsRecord, launchAtLogin)))]) {
+        shownLaunchAtLogin_ = false; // chosen, even if the setting is the same
+        updateLaunchUI();
+    }
     noteProfile();
 }
 

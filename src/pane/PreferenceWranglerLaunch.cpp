@@ -10,10 +10,7 @@
 void PreferenceWrangler::updateLaunchUI() {
     if (const CFBundle* agent = daemonMainBundle()) {
         const auto url = CFBundleCopyBundleURL(agent);
-        if (prefs.launchAtLogin && !shownLaunchAtLogin_)
-            launchForgetSwitchedOff(url.get()); // the user has switched it on here
-        launchSetAppIsAutoLaunched(url.get(), false, true);
-        launchSetAppIsAutoLaunched(url.get(), prefs.launchAtLogin != 0, false);
+        launchFollowSetting(url.get(), prefs.launchAtLogin != 0, !shownLaunchAtLogin_);
     }
     shownLaunchAtLogin_ = prefs.launchAtLogin != 0;
     launchAtLogin_->setEnabled(true);

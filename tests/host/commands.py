@@ -91,6 +91,21 @@ def without_a_window():
     expect("there is no section \"pallete\", but scanning", "show", "pallete", status=1)
 
 
+def the_login_entry_follows_as_by_a_click():
+    """Also where the desktop's own tool has switched it off, and the setting is the same."""
+    entry = os.path.expandvars("$XDG_CONFIG_HOME/autostart/org.korvex.Agent.desktop")
+    run("set", "launchAtLogin", "on")
+    for command in (("set", "launchAtLogin", "on"), ("reset", "launchAtLogin"),
+                    ("import", "--yes", "all.plist")):
+        with open(entry, "a") as file:
+            file.write("Hidden=true\n")
+        run("set", "soundLevel", "50")
+        assert "Hidden" in open(entry).read(), "another setting doesn't switch it on"
+        run(*command)
+        assert "Hidden" not in open(entry).read(), command
+    run("set", "launchAtLogin", "off")
+
+
 def what_goes_wrong_loses_nothing():
     data, state = (os.environ[f"XDG_{name}_HOME"] for name in ("DATA", "STATE"))
     files = ("all.plist", f"{data}/korvex/profiles/Tired.plist", STORED)
@@ -143,6 +158,7 @@ def many_at_once():
 
 os.chdir(os.path.expanduser("~"))
 without_a_window()
+the_login_entry_follows_as_by_a_click()
 what_goes_wrong_loses_nothing()
 with_an_open_window()
 many_at_once()

@@ -143,13 +143,21 @@ std::optional<AutostartEntry> readAutostartEntry(const std::string& path) {
                           isInstalledApplication(entry) && !isSwitchedOff(entry) &&
                               isForThisDesktop(entry),
                           isSwitchedOff(entry) && !entry.contains(kHiddenHere),
-                          isForThisDesktop(entry) ? "" : desktopEntryValue(entry, "OnlyShowIn")};
+                          isForThisDesktop(entry) ? "" : desktopEntryValue(entry, "OnlyShowIn"),
+                          listsThisDesktop(desktopEntryValue(entry, "NotShowIn"))};
+}
+
+std::string onlyHereLine() {
+    const char* value = std::getenv("XDG_CURRENT_DESKTOP");
+    std::string running = value ? value : "";
+    std::ranges::replace(running, ':', ';');
+    return "OnlyShowIn=" + running + ';';
 }
 
 std::string autostartEntryText(const std::string& name, const std::string& executable,
-                               const std::string& notShowIn) {
-    const std::string elsewhere = notShowIn.empty() ? "" : "\nNotShowIn=" + notShowIn;
-    return entryText(name, executable, "TryExec=" + escaped(executable) + elsewhere);
+                               const std::string& desktops) {
+    return entryText(name, executable,
+                     "TryExec=" + escaped(executable) + (desktops.empty() ? "" : '\n' + desktops));
 }
 
 std::string switchedOnEntryText(const std::string& path) {

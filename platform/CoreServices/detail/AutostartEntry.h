@@ -19,15 +19,20 @@ struct AutostartEntry {
     bool isSwitchedOff = false;
     /// OnlyShowIn's value when the running desktop isn't in it; else empty.
     std::string onlyElsewhere;
+    /// Whether NotShowIn names the running desktop.
+    bool isNotHere = false;
 };
 
 /// None when the file can't be read or is no application's desktop entry.
 std::optional<AutostartEntry> readAutostartEntry(const std::string& path);
 
-/// An entry that starts the executable, an absolute path, under that name. It isn't started on the
-/// desktops in `notShowIn`; a semicolon follows each.
+/// The line that restricts an entry to the running desktop.
+std::string onlyHereLine();
+
+/// An entry that starts the executable, an absolute path, under that name. `desktops` is empty or
+/// the line that says on which ones.
 std::string autostartEntryText(const std::string& name, const std::string& executable,
-                               const std::string& notShowIn);
+                               const std::string& desktops);
 
 /// The entry's text without the lines that switch it off.
 std::string switchedOnEntryText(const std::string& path);

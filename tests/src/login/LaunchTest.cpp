@@ -250,6 +250,17 @@ TEST_F(LaunchTest, WhatTheUserSwitchedOffElsewhereStaysUntilSwitchedOnHere) {
         writeFile(kMine / kEntry, desktopEntry(startOf(), where + std::string("\n")));
         EXPECT_EQ(launchAppIsAutoLaunched(url.get()), listed) << where;
     }
+    const std::string elsewhere = desktopEntry(startOf(), "NotShowIn=GNOME;\nComment=Mine\n");
+    writeFile(kMine / kEntry, elsewhere);
+    for (int opening = 0; opening < 2; ++opening)
+        EXPECT_TRUE(set(true, false));
+    EXPECT_EQ(readFile(kMine / kEntry), elsewhere) << "the user's, for other desktops";
+    for (const char* desktop : {"KDE", "ubuntu:GNOME"}) {
+        setenv("XDG_CURRENT_DESKTOP", desktop, 1);
+        const auto list = LSSharedFileListCreate(kLSSharedFileListSessionLoginItems);
+        EXPECT_EQ(CFArrayGetCount(LSSharedFileListCopySnapshot(list.get(), nullptr).get()), 1)
+            << desktop;
+    }
 }
 
 TEST_F(LaunchTest, TheBoxesOfADialogShowTheListsAndChangeThem) {
