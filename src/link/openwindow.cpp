@@ -4,6 +4,10 @@
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreServices/AppleEvents.h"
 #include "platform/CoreServices/Processes.h"
+#include "src/record/settingcheck.h"
+#include "src/store/defaults.h"
+
+#include <cstring>
 
 namespace {
 
@@ -29,6 +33,26 @@ ProcessSerialNumber findWindow() {
     return kNoProcess;
 }
 
+/// Takes the settings out of an event's bytes, each like a value from a file: as its text, if that
+/// is valid. An administrator's default is taken as it is. False, and `taken` is of no use, when
+/// one can't be taken.
+bool takeSettings(const SettingSet& settings, const PrefsRecord& sent, PrefsRecord& taken) {
+    const PrefsRecord defaults = defaultRecord();
+    for (std::size_t i = 0; i < kSettings.size(); ++i) {
+        const Setting& setting = kSettings[i];
+        if (!settings[i])
+            continue;
+        const void* field = setting.in(sent);
+        if (setting.notation == &kTextNotation && !std::memchr(field, '\0', setting.size))
+            return false;
+        if (isSame(setting, sent, defaults))
+            std::memcpy(setting.in(taken), setting.in(defaults), setting.size);
+        else if (!setFromValue(setting, setting.notation->write(field).get(), taken).empty())
+            return false;
+    }
+    return true;
+}
+
 OSErr handleSetSettings(const AppleEvent* event, AppleEvent*, void*) {
     PrefsRecord record;
     std::uint64_t bits = 0;
@@ -39,9 +63,12 @@ OSErr handleSetSettings(const AppleEvent* event, AppleEvent*, void*) {
     if (const OSErr error =
             AEGetParamPtr(event, keySettings, typeBits, nullptr, &bits, sizeof bits, &bitsSize))
         return error;
-    if (recordSize != sizeof record || bitsSize != sizeof bits)
+    PrefsRecord taken = prefs;
+    const SettingSet settings(bits);
+    if (recordSize != sizeof record || bitsSize != sizeof bits || settings.to_ullong() != bits ||
+        !takeSettings(settings, record, taken))
         return paramErr;
-    takeChange(SettingSet(bits), record);
+    takeChange(settings, taken);
     return noErr;
 }
 

@@ -9,7 +9,8 @@
 // A change made by a command goes to the open window, if there is one. The window shows it, sends
 // it to the agent and stores it. The change is an Apple Event of the agent's class, 'PSet', with
 // the record ('----', type 'KrPf') and the set of settings that change ('Sets', type 'comp': 64
-// bits, one for each row of kSettings).
+// bits, one for each row of kSettings). Any program on the bus can send it, so its values are
+// checked like those of a file; docs/agent-contract.md has it too.
 
 /// Sends a change to the open window and waits for its answer, five seconds at most. The window
 /// also reads the profiles again. None when no window is open. Else the reason for a refusal in

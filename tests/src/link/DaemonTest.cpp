@@ -10,6 +10,9 @@
 #include <QDBusVirtualObject>
 #include <QElapsedTimer>
 
+#include <cmath>
+#include <cstring>
+
 namespace {
 
 constexpr AEEventClass kAgentClass = fourCharCode("Krvx");
@@ -226,6 +229,36 @@ TEST_F(DaemonTest, WhatTheAgentSaysStandsInTheStripUntilItIsGone) {
     say("Gone soon.");
     agent.setTakingPart(false);
     EXPECT_TRUE(QTest::qWaitFor([] { return told().empty(); })) << told();
+}
+
+TEST_F(DaemonTest, ACommandsSettingsAreCheckedLikeThoseOfAFile) {
+    openWithAgent();
+    const auto set = [this](const SettingSet& settings, auto change, std::uint64_t more = 0) {
+        PrefsRecord record = prefs;
+        change(record);
+        const auto* bytes = reinterpret_cast<const UInt8*>(&record);
+        const std::uint64_t bits = settings.to_ullong() | more;
+        const auto* bitBytes = reinterpret_cast<const UInt8*>(&bits);
+        return answerTo(kAgentClass, fourCharCode("PSet"),
+                        {{keyDirectObject, {fourCharCode("KrPf"), {bytes, bytes + sizeof record}}},
+                         {fourCharCode("Sets"), {fourCharCode("comp"), {bitBytes, bitBytes + 8}}}});
+    };
+    const PrefsRecord before = prefs;
+    const SettingSet all = SettingSet().set();
+    const auto fill = [](auto& field) { std::memset(&field, 'x', sizeof field); };
+    EXPECT_EQ(set(all, [](auto& r) { r.lineScanTime = 0.5; }), paramErr);
+    EXPECT_EQ(set(all, [](auto& r) { r.lineScanTime = std::nan(""); }), paramErr);
+    EXPECT_EQ(set(all, [](auto& r) { r.useScanArea = 1; }), paramErr) << "without an area";
+    EXPECT_EQ(set(all, [](auto& r) { r.buttonActions[8] = 40; }), paramErr);
+    EXPECT_EQ(set(all, [&](auto& r) { fill(r.pointerImageName); }), paramErr) << "without a zero";
+    EXPECT_EQ(set(
+                  {}, [](auto&) {}, std::uint64_t{1} << kSettings.size()),
+              paramErr);
+    EXPECT_EQ(std::memcmp(&prefs, &before, sizeof before), 0);
+    EXPECT_EQ(set(all, [](auto& r) { r.launchAtLogin = r.on = 255; }), noErr);
+    EXPECT_EQ(set(all, [](auto& r) { r.canScanMenuBar = 0; }), noErr);
+    EXPECT_EQ(prefs.on, 1) << "a flag has two values";
+    EXPECT_THAT(remainingMasks(), testing::ElementsAre(0u));
 }
 
 } // namespace
