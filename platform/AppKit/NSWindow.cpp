@@ -3,8 +3,10 @@
 
 #include "platform/AppKit/NSView.h"
 #include "platform/AppKit/detail/ContentCover.h"
+#include "platform/AppKit/detail/ViewWidget.h"
 #include "platform/HIToolbox/detail/HostedWindow.h"
 
+#include <QPointer>
 #include <QScreen>
 #include <QWidget>
 
@@ -28,10 +30,14 @@ NSSize millimetresOf(const QScreen& screen) {
 } // namespace
 
 void NSWindow::makeFirstResponder(NSView* view) {
+    const QPointer<QWidget> before = window_->focusWidget();
     if (view)
         view->widget()->setFocus(Qt::OtherFocusReason);
-    else if (QWidget* focus = window_->focusWidget())
-        focus->clearFocus();
+    else if (before)
+        before->clearFocus();
+    // In an inactive window no focus leaves it.
+    if (auto* former = dynamic_cast<ViewWidget*>(before.data()))
+        former->updateFirstResponder();
 }
 
 bool NSWindow::isKeyWindow() const {

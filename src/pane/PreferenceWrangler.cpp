@@ -223,7 +223,10 @@ void PreferenceWrangler::showValues(const SettingSet& settings, bool anew) {
     lineColors_.load();
     if (changes & kChangeScanArea)
         anew ? scanAreas_.load() : scanAreas_.update();
-    showSampleLineType(kSampleScanLine);
+    if (anew) {
+        showSampleLineType(kSampleScanLine);
+        sampleScanImage_->setNeedsDisplay(true);
+    }
     if (changes & kChangePointer)
         anew ? pointers_.load() : pointers_.updatePointerName();
     palette_.load();

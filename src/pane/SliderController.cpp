@@ -79,7 +79,9 @@ void SliderController::setPresent(bool present) {
             for (NSView* view :
                  std::initializer_list<NSView*>{incBtn_, decBtn_, label_, title_, slider_})
                 view->removeFromSuperview();
+        container_->setHidden(!present); // what else the row has
     } else if (present && container_) {
+        container_->setHidden(false);
         for (NSView* view :
              std::initializer_list<NSView*>{slider_, title_, label_, decBtn_, incBtn_})
             container_->addSubview(view);

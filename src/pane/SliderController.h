@@ -28,7 +28,7 @@ public:
     NSView* view() const override;
     void update() override;
 
-    /// Takes the five views out of their container, or puts them back.
+    /// Takes the five views out of their container, their row, and hides it; or puts them back.
     void setPresent(bool present);
     bool isPresent() const;
 

@@ -58,7 +58,8 @@ std::optional<double> numberFromText(std::string_view text) {
     const char* end = plain.data() + plain.size();
     const auto [rest, error] = std::from_chars(plain.data(), end, number, std::chars_format::fixed);
     const std::string_view unit(rest, static_cast<std::size_t>(end - rest));
-    if (error != std::errc() || unit.find_first_of(kDigits) != std::string_view::npos)
+    if (error != std::errc() || !std::isfinite(number) ||
+        unit.find_first_of(kDigits) != std::string_view::npos)
         return std::nullopt;
     return number;
 }

@@ -21,6 +21,9 @@ public:
     /// Not owned. Must outlive the widget.
     void setView(NSView* view);
 
+    /// Tells the view whether it is the first responder, if that has changed.
+    void updateFirstResponder();
+
     bool hasHeightForWidth() const override;
     int heightForWidth(int width) const override;
 
@@ -38,7 +41,6 @@ protected:
 private:
     NSEvent mouseEventOf(const QMouseEvent& event) const;
     bool isKeyTaken(QEvent& event);
-    void updateFirstResponder();
 
     NSView* view_ = nullptr;
     GrafPort* port_ = nullptr;

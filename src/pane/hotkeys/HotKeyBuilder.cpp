@@ -16,6 +16,7 @@
 namespace {
 
 constexpr UInt16 kKeyCount = 128;
+constexpr UInt16 kOtherEnter = 0x34; // named like the keypad's; no key here sends it
 constexpr UInt16 kFirstModifierKey = 0x36, kLastModifierKey = 0x3E; // which mean nothing alone
 
 struct NamedKey {
@@ -34,7 +35,8 @@ std::vector<NamedKey> namedKeys() {
         const auto text = createKeyComboString(0, code);
         std::string name = text ? toUTF8(text.get()) : std::string();
         name.erase(0, name.find_first_not_of(' '));
-        if (!name.empty() && (code < kFirstModifierKey || code > kLastModifierKey))
+        if (!name.empty() && code != kOtherEnter &&
+            (code < kFirstModifierKey || code > kLastModifierKey))
             keys.push_back({name, code});
     }
     std::sort(keys.begin(), keys.end(), comesBefore);

@@ -49,6 +49,7 @@ void HotKeyEditor::setup(HotKeyViewTarget& viewTarget, NSObject& menuTarget) {
         {kRestore, "restoreHotKey:"},
     };
 
+    viewTarget_ = &viewTarget;
     menuTarget_ = &menuTarget;
     builder.setup(menuTarget);
     int index = 0;
@@ -73,6 +74,7 @@ HotKeyEditor::~HotKeyEditor() {
 
 void HotKeyEditor::load() {
     cancelHotKeyEdit();
+    updateHotKeyUI(); // at first both groups are there
     builder.load();
     std::copy(std::begin(prefs.hotKeys), std::end(prefs.hotKeys), now_.begin());
     before_ = now_;
@@ -115,7 +117,8 @@ void HotKeyEditor::chooseHotKey(const NSMenuItem& sender) {
 
 void HotKeyEditor::claimHotKey(const NSMenuItem& sender) {
     for (const std::size_t other : sameAs(static_cast<std::size_t>(sender.tag())))
-        rows()[other]->view->setToNone();
+        rows()[other]->view->unassign();
+    viewTarget_->changed(kChangeHotKeys);
 }
 
 void HotKeyEditor::restoreHotKey(const NSMenuItem& sender) {

@@ -55,7 +55,7 @@ public:
     void removeHotKey(const NSMenuItem& sender);
     void resetHotKey(const NSMenuItem& sender);
     void chooseHotKey(const NSMenuItem& sender);
-    /// Removes the keys from every other hot key that has them.
+    /// Removes the keys from every other hot key that has them, as one change.
     void claimHotKey(const NSMenuItem& sender);
     /// Restores the hot key to its value before the last change.
     void restoreHotKey(const NSMenuItem& sender);
@@ -79,6 +79,7 @@ private:
     void countDown();
     void stopCountingDown();
 
+    HotKeyViewTarget* viewTarget_ = nullptr;      ///< not owned
     NSObject* menuTarget_ = nullptr;              ///< not owned
     HotKeyView* targetHotKey_ = nullptr;          ///< captures, or null
     AgentHold agent_;                             ///< during a capture in an active window

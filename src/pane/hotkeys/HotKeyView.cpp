@@ -73,7 +73,7 @@ void HotKeyView::startEditing(NSView* starter) {
 }
 
 void HotKeyView::cancelEditing() {
-    if (isFirstResponder())
+    if (hotKeyMode_) // the focus may be elsewhere, where the window is inactive
         window().makeFirstResponder(starter_);
 }
 
@@ -109,10 +109,15 @@ UInt32 HotKeyView::modifiers() const {
     return index_ < 0 ? 0 : prefs.hotKeys[index_].modifiers;
 }
 
+void HotKeyView::unassign() {
+    SInt32& keyCode = prefs.hotKeys[index_].keyCode;
+    keyCode = static_cast<SInt32>(static_cast<UInt32>(keyCode) | kNoHotKeyBit);
+    redraw();
+}
+
 void HotKeyView::setToNone() {
     if (index_ >= 0) {
-        SInt32& keyCode = prefs.hotKeys[index_].keyCode;
-        keyCode = static_cast<SInt32>(static_cast<UInt32>(keyCode) | kNoHotKeyBit);
+        unassign();
         reportChange();
     }
     cancelEditing();

@@ -44,6 +44,8 @@ public:
     UInt32 modifiers() const;
     /// Unassigns the hot key. The key code stays in the record, with a bit that marks it.
     void setToNone();
+    /// The same, but the caller reports the change.
+    void unassign();
     void setToDefault();
     /// Sets the hot key to this value.
     void restore(const HotKey& hotKey);

@@ -13,11 +13,12 @@
 static_assert(sizeof prefs.pointerImageName == kMaxPointerNameLength + 1);
 
 void PointerChooser::load() {
-    pictures_.clear();
+    pointers_.clear();
     for (int i = 0; i < ptrmanCountPointers(); ++i) {
+        const std::string& name = ptrmanPointerAt(i);
         PointerImage pointer;
-        ptrutilLoadPointerFromBundle(daemonMainBundle(), ptrmanPointerAt(i).c_str(), &pointer);
-        pictures_.push_back(pointer.image);
+        ptrutilLoadPointerFromBundle(daemonMainBundle(), name.c_str(), &pointer);
+        pointers_.push_back({name, pointer.image});
     }
     updatePointerName();
 }
@@ -45,16 +46,16 @@ void PointerChooser::updatePointerName() {
 }
 
 std::string PointerChooser::choiceName(int index) const {
-    return ptrutilPointerTitle(ptrmanPointerAt(index).c_str());
+    return ptrutilPointerTitle(at(index).name.c_str());
 }
 
 bool PointerChooser::isChosen(int index) const {
-    return ptrmanPointerAt(index) == prefs.pointerImageName;
+    return at(index).name == prefs.pointerImageName;
 }
 
 /// Centred, and smaller where there is less room.
 void PointerChooser::drawChoice(int index, const Rect& bounds) const {
-    const CGImage* picture = pictures_[static_cast<std::size_t>(index)].get();
+    const CGImage* picture = at(index).picture.get();
     if (!picture)
         return;
     const auto context = NSGraphicsContext::currentContext()->graphicsPort();
@@ -75,5 +76,5 @@ void PointerChooser::drawChoice(int index, const Rect& bounds) const {
 }
 
 void PointerChooser::choose(int index) {
-    take(ptrmanPointerAt(index));
+    take(at(index).name);
 }

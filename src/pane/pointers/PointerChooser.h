@@ -29,7 +29,7 @@ public:
     /// Shows the name of the pointer in the preview.
     void updatePointerName();
 
-    int choiceCount() const override { return static_cast<int>(pictures_.size()); }
+    int choiceCount() const override { return static_cast<int>(pointers_.size()); }
 
     std::string choiceName(int index) const override;
     bool isChosen(int index) const override;
@@ -37,8 +37,15 @@ public:
     void choose(int index) override;
 
 private:
+    struct Pointer {
+        std::string name;
+        CFRef<CGImage> picture; ///< null if it can't be loaded
+    };
+
+    const Pointer& at(int index) const { return pointers_[static_cast<std::size_t>(index)]; }
+
     void take(const std::string& name);
 
     NumberChangeTarget& changes_;
-    std::vector<CFRef<CGImage>> pictures_; ///< by name's index; null if it can't be loaded
+    std::vector<Pointer> pointers_; ///< as they were loaded; the grid also shows between visits
 };

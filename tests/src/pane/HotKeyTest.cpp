@@ -173,11 +173,67 @@ TEST_F(HotKeyTest, AHotKeyIsBuiltWithoutAKeyAndATwiceUsedOneIsUsedOnce) {
     expectChange(0x1100, 0x35);
     choose("builderKey", "esc");
     expectChange(0, 0x35);
+    choose("masterOnOffKeyBtn", "Choose keys…");
+    click("builderControl"), click("builderShift");
+    choose("builderKey", "esc");
+    expectChange(0, 0x35);
     choose("scanKeyBtn", "Use it here and remove it there");
-    EXPECT_EQ(shown("cancelScanKey"), "-none-");
+    EXPECT_EQ(shown("cancelScanKey") + shown("masterOnOffKey"), "-none--none-");
     EXPECT_EQ(shown("scanKey"), "esc");
     EXPECT_FALSE(popUp("scanKeyBtn").entries().back().enabled) << "there is nothing to settle";
     expectChange(0, 0x35);
+}
+
+TEST_F(HotKeyTest, WhateverLoadsAHotKeyEndsTheCaptureAndNothingElseTouchesIt) {
+    openWithAgent();
+    const auto adopt = [](auto change) {
+        PrefsRecord record = prefs;
+        change(record);
+        theWrangler->adopt(differences(prefs, record), record);
+    };
+    for (const bool isActive : {true, false}) {
+        click("scanKey");
+        QWidget other;
+        if (!isActive) {
+            other.show();
+            other.activateWindow();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+        }
+        adopt([](auto& record) { record.soundLevel ^= 1; });
+        EXPECT_EQ(agentLog_.nextMask(), kChangeSounds);
+        EXPECT_TRUE(showsEditingGroup());
+        adopt([](auto& record) { record.hotKeys[2].keyCode ^= 1; });
+        EXPECT_EQ(agentLog_.nextMask(), kChangeHotKeys);
+        EXPECT_FALSE(isCapturing("scanKey") || showsEditingGroup());
+        EXPECT_NE(window()->focusWidget(), find("scanKey"));
+        press({KEY_Q, Qt::Key_Q}); // is nobody's
+        other.close();
+        window()->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+    }
+}
+
+TEST_F(HotKeyTest, ACapturesTimeBeginsAgainWithItsWindow) {
+    openWithAgent();
+    const auto* prompt = find<QLabel>("editingKeyPrompt1");
+    const auto says = [&](int seconds) {
+        return prompt->text().endsWith(QStringLiteral("Seconds left: %1.").arg(seconds));
+    };
+    click("scanKey");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return says(29); }));
+    EXPECT_TRUE(agentLog_.nextHold());
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return says(30); }));
+    EXPECT_FALSE(agentLog_.nextHold()) << "others have their keys meanwhile";
+    QTest::qWait(1500);
+    EXPECT_TRUE(says(30));
+    other.close();
+    window()->activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return says(28); }));
+    EXPECT_TRUE(agentLog_.nextHold());
+    click("cancelEditBtn");
 }
 
 TEST_F(HotKeyTest, ACaptureEndsWithItsWindow) {

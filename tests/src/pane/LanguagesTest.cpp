@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "platform/AppKit/detail/PopUpButtonWidget.h"
+#include "src/record/keycombo.h"
 #include "src/record/numbertext.h"
 #include "src/record/settings.h"
 #include "tests/support/PaneFixture.h"
@@ -125,6 +127,28 @@ TEST_F(LanguagesTest, OneIsSingularAndAFrenchNothingToo) {
         EXPECT_EQ(numberWords(format, 0), none);
         EXPECT_EQ(numberWords(format, 1), one);
         EXPECT_EQ(numberWords(format, 2), two);
+    }
+}
+
+TEST_F(LanguagesTest, EnterIsTheKeypadsInEachLanguage) {
+    constexpr int kKeypadEnter = 0x4C;
+    for (const char* language : {"en", "de", "fr"}) {
+        const QString folder =
+            QString::fromLatin1(KORVEX_BUNDLE "/Contents/Resources/%1.lproj").arg(language);
+        const bool isEnglish = !translator_.load(QStringLiteral("Localizable.qm"), folder);
+        EXPECT_EQ(isEnglish, language == std::string("en"));
+        QCoreApplication::installTranslator(&translator_);
+        const std::string enter = toUTF8(createKeyComboString(0, kKeypadEnter).get());
+        open();
+        const auto choose = [this](const char* menu, const std::string& title) {
+            static_cast<PopUpButtonWidget&>(*find<QPushButton>(menu))
+                .onChosen(QString::fromStdString(title));
+        };
+        choose("scanKey2Btn", localized("HotKeys", "Choose keys…"));
+        choose("builderKey", enter);
+        EXPECT_EQ(prefs.hotKeys[4].keyCode, kKeypadEnter) << language;
+        prefs.hotKeys[4].keyCode = 0;
+        putAway();
     }
 }
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "src/pane/NumberController.h"
 
-#include <gtest/gtest.h>
+#include "src/pane/SliderController.h"
+#include "tests/platform/AppKit/TestForm.h"
+
+#include <gmock/gmock.h>
 
 namespace {
 
@@ -36,6 +39,47 @@ TEST(NumberControllerTest, StepsSnapToTheGridAndStopAtTheLimits) {
         EXPECT_DOUBLE_EQ(up, afterInc) << before;
         EXPECT_DOUBLE_EQ(down, afterDec) << before;
     }
+}
+
+TEST(NumberControllerTest, OnlyNumbersCanBeTyped) {
+    double value = 2;
+    NumberController controller;
+    controller.setKind(kNumberKindDouble, &value, 0, 10, 0.5, 0);
+    for (const char* text : {"nan", "NAN sec", "inf", "-inf", "nan(5)"}) {
+        EXPECT_FALSE(controller.type(text)) << text;
+        EXPECT_EQ(value, 2) << text;
+    }
+}
+
+using SliderRowTest = FormTest;
+
+TEST_F(SliderRowTest, ItGoesAndComesAsAWhole) {
+    ControlOwner<SliderController> owner;
+    show(widgetXml("NumberRow", "row",
+                   {{"customClass", "SliderController"},
+                    {"outlet", "control"},
+                    {"caption", "Speed"},
+                    {"minValue", "0"},
+                    {"maxValue", "10"},
+                    {"decimals", "1"}}),
+         owner);
+    double value = 2;
+    owner.control->setDoubleKindAt(&value, 0.5, 0, "%.1f")->update();
+    const auto visible = [this] {
+        std::vector<std::string> names;
+        for (const auto* part : find("row")->findChildren<QWidget*>())
+            if (part->isVisible())
+                names.push_back(part->objectName().toStdString());
+        return names;
+    };
+    const auto whole = visible();
+    EXPECT_THAT(whole, testing::IsSupersetOf({"rowPageDecBtn", "rowPageIncBtn", "rowSlider"}));
+    owner.control->setPresent(false);
+    EXPECT_FALSE(owner.control->isPresent());
+    EXPECT_THAT(visible(), testing::IsEmpty());
+    owner.control->setPresent(true);
+    EXPECT_TRUE(owner.control->isPresent());
+    EXPECT_THAT(visible(), testing::UnorderedElementsAreArray(whole));
 }
 
 } // namespace

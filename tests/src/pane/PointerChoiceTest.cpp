@@ -33,7 +33,22 @@ TEST_F(PointerChoiceTest, ThePreviewAndTheNameTellWhatIsSet) {
     EXPECT_EQ(find<QLabel>("pointerName")->text(), "None");
     click("nextPointerBtn");
     EXPECT_NE(find<QLabel>("pointerName")->text(), "None");
-    putAway();
+    for (const auto& [slot, line] : {std::pair(&PrefsRecord::lineGhostTransparency, "guide"),
+                                     {&PrefsRecord::pointerScanTime, "guide"}, // of neither
+                                     {&PrefsRecord::lineTransparency, "scan"}}) {
+        PrefsRecord record = prefs;
+        record.*slot = record.*slot - 1;
+        theWrangler->adopt(differences(prefs, record), record);
+        EXPECT_EQ(button->text(QAccessible::Name),
+                  QStringLiteral("Preview of the %1 line").arg(line));
+    }
+    pane_->didUnselect();
+    auto* grid = QAccessible::queryAccessibleInterface(find("pointerGrid"));
+    EXPECT_FALSE(find("pointerGrid")->grab().isNull());
+    EXPECT_GT(grid->childCount(), 1);
+    for (int i = 0; i < grid->childCount(); ++i)
+        EXPECT_FALSE(grid->child(i)->text(QAccessible::Name).isEmpty());
+    pane_.reset();
     char name[kMaxPointerNameLength + 1];
     EXPECT_FALSE(ptrmanGetNextPointer(nullptr, true, name)) << "names outlive the visit";
 }
