@@ -3,7 +3,8 @@
 """Draws the agent's resources: the action list, an icon family an action, and the pointers.
 
     build.py --list        prints the files that a build writes, one a line, relative to FOLDER
-    build.py FOLDER        writes them
+    build.py --table       prints the rows of the agent's table of actions, in C++
+    build.py FOLDER        writes the files
 
 Needs rsvg-convert (librsvg2-bin) and png2icns (icnsutils). The same sources give the same bytes.
 """
@@ -41,7 +42,7 @@ def render_family(drawing, sizes, icns):
 
 def jobs(folder):
     """What to write: path, function, arguments before the path."""
-    for name, _, drawing in ACTIONS:
+    for name, _, _, drawing in ACTIONS:
         yield folder / f"btn_{name}.icns", render_family, (drawing, FAMILY_SIZES)
     for name, svg in POINTERS:
         yield folder / "Pointers" / f"{name}.png", render, (svg,)
@@ -54,12 +55,19 @@ def build(folder):
     with ThreadPoolExecutor(os.cpu_count()) as pool:
         for done in [pool.submit(draw, *arguments, path) for path, draw, arguments in jobs(folder)]:
             done.result()
-    entries = [{"title": title, "icon": f"btn_{name}"} for name, title, _ in ACTIONS]
+    entries = [{"title": title, "icon": f"btn_{name}"} for name, title, _, _ in ACTIONS]
     (folder / ACTION_LIST).write_bytes(plistlib.dumps(entries))
 
 
+def table_row(kind, repeats, names):
+    text = f'"{names}"' if names else "nullptr"
+    return f"{{ActionKind::{kind}, {str(repeats).lower()}, {text}}},"
+
+
 def main(argument):
-    if argument == "--list":
+    if argument == "--table":
+        print(*(table_row(*what) for _, _, what, _ in ACTIONS), sep="\n")
+    elif argument == "--list":
         print(*(path for path, _, _ in jobs(pathlib.Path())), ACTION_LIST, sep="\n")
     else:
         build(pathlib.Path(argument))
