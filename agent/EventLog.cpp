@@ -6,7 +6,7 @@
 #include <unistd.h>
 
 EventLog::~EventLog() {
-    if (file_ != STDOUT_FILENO)
+    if (file_ >= 0)
         close(file_);
 }
 
@@ -19,6 +19,8 @@ bool EventLog::open(const char* path) {
 }
 
 void EventLog::append(const std::string& json) const {
+    if (file_ < 0)
+        return;
     const std::string line = json + '\n';
     ssize_t written;
     do

@@ -7,7 +7,7 @@
 /// sees half a line.
 class EventLog {
 public:
-    /// Writes to standard output.
+    /// Writes nothing before it is opened.
     EventLog() = default;
     ~EventLog();
     EventLog(const EventLog&) = delete;
@@ -21,5 +21,5 @@ public:
     void append(const std::string& json) const;
 
 private:
-    int file_ = 1;
+    int file_ = -1;
 };

@@ -1,18 +1,24 @@
 // SPDX-License-Identifier: MIT
-// The stand-in agent: a program that receives the pane's events and logs them.
+// The agent: it scans the screen for people who press one or two switches. The pane tells it the
+// settings; docs/agent-contract.md has what passes between them.
 //
-// KORVEX_AGENT_LOG names the log file, which gets a JSON object per event. Without it they go to
-// standard output. SIGUSR1 flips the on/off state; SIGTERM, SIGINT and SIGHUP end the program.
+// KORVEX_AGENT_LOG names a file that gets a JSON object per event; without it nothing is logged.
+// SIGUSR1 flips the on/off state; SIGTERM, SIGINT and SIGHUP end the program.
 
-#include "agent/Agent.h"
+#include "agent/Link.h"
+#include "agent/Notification.h"
+#include "agent/Scanner.h"
 #include "agent/UnixSignals.h"
+#include "platform/CoreFoundation/Localization.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
+#include <QFileInfo>
+#include <QGuiApplication>
 
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <unistd.h>
 
 namespace {
@@ -21,11 +27,53 @@ namespace {
 /// moment.
 constexpr unsigned kStartSeconds = 10;
 
+constexpr OSType kAgentSignature = fourCharCode("Krvx");
+
+/// From the agent's own folder to the pane's resources, which have the languages.
+constexpr const char* kPaneResources = "/../../../../Resources";
+
+enum class Session { None, X11, Wayland };
+
+/// What this session draws with. XWayland counts as Wayland: it doesn't hear every press.
+Session session() {
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return Session::Wayland;
+    if (qEnvironmentVariableIsEmpty("DISPLAY"))
+        return Session::None;
+    xcb_connection_t* const probe = xcb_connect(nullptr, nullptr);
+    const bool answers = !xcb_connection_has_error(probe);
+    xcb_disconnect(probe);
+    return answers ? Session::X11 : Session::None;
+}
+
+/// With a display it knows the screens. Neither variable is for the programs that it starts.
+std::unique_ptr<QCoreApplication> makeApplication(Session session, int& argc, char** argv) {
+    if (session != Session::X11)
+        return std::make_unique<QCoreApplication>(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("QT_QPA_PLATFORMTHEME", "generic"); // no toolkit is loaded for its colours
+    auto application = std::make_unique<QGuiApplication>(argc, argv);
+    qunsetenv("QT_QPA_PLATFORM");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
+    return application;
+}
+
+QString programOf(const ProcessSerialNumber& psn) {
+    pid_t pid = 0;
+    return GetProcessPID(&psn, &pid) == noErr
+               ? QFileInfo(QStringLiteral("/proc/%1/exe").arg(pid)).symLinkTarget()
+               : QString();
+}
+
 /// Whether this is the session's only agent. The bus gives a name to one owner, so of two that
 /// start together one remains.
 bool becomeTheAgent() {
-    return findOtherApplication(fourCharCode("Krvx")) == kNoProcess &&
-           QDBusConnection::sessionBus().registerService(QStringLiteral("org.korvex.Agent"));
+    const ProcessSerialNumber other = findOtherApplication(kAgentSignature);
+    if (other == kNoProcess)
+        return QDBusConnection::sessionBus().registerService(QStringLiteral("org.korvex.Agent"));
+    if (programOf(other) != QCoreApplication::applicationFilePath())
+        notify(localized("Agent", "Another program scans already."));
+    return false;
 }
 
 /// The program ends with the session.
@@ -36,11 +84,43 @@ void quitWithTheBus() {
                                           QCoreApplication::instance(), SLOT(quit()));
 }
 
+/// Why nothing scans is told where a user looks for it: in the pane and on the desktop.
+void tell(Link& link, const std::string& trouble) {
+    link.setTrouble(trouble);
+    notify(trouble);
+}
+
+/// What scans, if this session lets it.
+struct Scanning {
+    std::unique_ptr<XServer> server;
+    std::optional<Scanner> scanner;
+
+    void begin(Session session, Link& link, Guard* guard) {
+        std::string fault;
+        if (session == Session::Wayland)
+            fault =
+                localized("Agent", "Korvex can't scan in a Wayland session. Log out, and choose a "
+                                   "session with X11 where you log in.");
+        else if (session == Session::X11 && !guard)
+            fault = localized("Agent", "Korvex can't scan: no process can be started.");
+        else if (session == Session::X11)
+            server = XServer::connect(fault);
+        if (server) {
+            server->onEnd([] { QCoreApplication::exit(1); });
+            scanner.emplace(link, *server, *guard);
+        } else if (!fault.empty()) {
+            tell(link, fault);
+        }
+    }
+};
+
 } // namespace
 
 int main(int argc, char** argv) {
     UnixSignals signals{SIGUSR1, SIGTERM, SIGINT, SIGHUP};
-    QCoreApplication application(argc, argv);
+    const Session where = session();
+    const auto guard = where == Session::X11 ? Guard::start() : nullptr;
+    const auto application = makeApplication(where, argc, argv);
 
     alarm(kStartSeconds);
 
@@ -54,18 +134,21 @@ int main(int argc, char** argv) {
         std::fputs("korvex-agent: there is no session bus\n", stderr);
         return 1;
     }
+    loadLocalizations(QCoreApplication::applicationDirPath().toStdString() + kPaneResources);
     if (!becomeTheAgent())
         return 0;
     quitWithTheBus();
 
-    Agent agent(log);
-    agent.installHandlers();
-    if (!registerCurrentProcess(fourCharCode("APPL"), fourCharCode("Krvx")))
+    Link link(log);
+    link.installHandlers();
+    if (!registerCurrentProcess(fourCharCode("APPL"), kAgentSignature))
         return 1;
-    agent.readStoredState();
+    link.readSettings();
+    Scanning scanning;
+    scanning.begin(where, link, guard.get());
     signals.deliverTo([&](int signal) {
         if (signal == SIGUSR1)
-            agent.flip();
+            link.switchTo(!link.settings().on);
         else
             QCoreApplication::quit();
     });

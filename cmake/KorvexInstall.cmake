@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Where things are installed, under any prefix. Two components make the program, `host` and `pane`;
-# the stand-in agent is one apart, which only `cmake --install … --component agent-example` installs,
-# in a place where the pane doesn't look for an agent.
+# Where things are installed, under any prefix. Two components make the program: `host`, and `pane`
+# with the agent in its bundle.
 include(GNUInstallDirs)
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME host)
 

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "agent/Link.h"
+
+#include "agent/scan/Settings.h"
+#include "platform/CoreFoundation/CFPreferences.h"
+#include "src/record/settings.h"
+#include "src/store/prefs.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <array>
+
+namespace {
+
+constexpr AEEventClass kAgentClass = fourCharCode("Krvx");
+constexpr AEEventID kOnOff = fourCharCode("PPon");
+constexpr AEEventID kSays = fourCharCode("PPsy");
+constexpr DescType typePrefsRecord = fourCharCode("KrPf");
+constexpr DescType typeUTF8Text = fourCharCode("utf8");
+constexpr OSType kPaneSignature = fourCharCode("sprf");
+
+std::string line(const QJsonObject& event) {
+    return QJsonDocument(event).toJson(QJsonDocument::Compact).toStdString();
+}
+
+/// Reads a parameter that has exactly the type and size of `value`.
+template <class T>
+OSErr read(const AppleEvent& event, AEKeyword keyword, DescType type, T& value) {
+    std::size_t size = 0;
+    const OSErr error = AEGetParamPtr(&event, keyword, type, nullptr, &value, sizeof value, &size);
+    return error == noErr && size != sizeof value ? paramErr : error;
+}
+
+bool takesPart(const ProcessSerialNumber& psn) {
+    pid_t pid;
+    return GetProcessPID(&psn, &pid) == noErr;
+}
+
+} // namespace
+
+Link::Link(const EventLog& log) : log_(log) {}
+
+void Link::readSettings() {
+    prefsSetup();
+    settings_ = checkedRecord(prefs);
+    if (settings_.on != settings_.activateAtLaunch)
+        switchTo(settings_.activateAtLaunch != 0);
+}
+
+template <Link::Handler handler>
+void Link::install(AEEventClass eventClass, AEEventID eventID) {
+    const AEEventHandler call = [](const AppleEvent* event, AppleEvent*, void* link) {
+        return (static_cast<Link*>(link)->*handler)(*event);
+    };
+    AEInstallEventHandler(eventClass, eventID, call, this);
+}
+
+void Link::installHandlers() {
+    install<&Link::paneOpened>(kAgentClass, fourCharCode("PPop"));
+    install<&Link::paneClosed>(kAgentClass, fourCharCode("PPcl"));
+    install<&Link::setAllPrefs>(kAgentClass, fourCharCode("SAPr"));
+    install<&Link::holdKeys>(kAgentClass, fourCharCode("PPhd"));
+    install<&Link::quit>(kCoreEventClass, kAEQuitApplication);
+    processes_ = watchProcesses([this] { processesChanged(); });
+}
+
+OSErr Link::paneOpened(const AppleEvent& event) {
+    ProcessSerialNumber pane;
+    if (const OSErr error = read(event, fourCharCode("tPSN"), typeProcessSerialNumber, pane))
+        return error;
+    pane_ = pane;
+    paneIsClosed_ = false;
+    log_.append(line({{"event", "PPop"},
+                      {"psn", QJsonArray{qint64{pane.highLongOfPSN}, qint64{pane.lowLongOfPSN}}}}));
+    if (!trouble_.empty())
+        send(kSays, typeUTF8Text, trouble_.data(), trouble_.size());
+    return noErr;
+}
+
+OSErr Link::paneClosed(const AppleEvent&) {
+    paneIsClosed_ = true;
+    log_.append(line({{"event", "PPcl"}}));
+    setPaneHolds(false);
+    return noErr;
+}
+
+OSErr Link::setAllPrefs(const AppleEvent& event) {
+    PrefsRecord record;
+    UInt32 changes = 0;
+    if (const OSErr error = read(event, keyDirectObject, typePrefsRecord, record))
+        return error;
+    if (const OSErr error = read(event, fourCharCode("Chng"), typeUInt32, changes))
+        return error;
+    const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(&record),
+                                               static_cast<qsizetype>(sizeof record));
+    log_.append(line({{"event", "SAPr"},
+                      {"mask", qint64{changes}},
+                      {"record", QString::fromLatin1(bytes.toHex())}}));
+    prefs = record;
+    settingsChanged();
+    return noErr;
+}
+
+OSErr Link::holdKeys(const AppleEvent& event) {
+    UInt8 holds = 0;
+    if (const OSErr error = read(event, keyDirectObject, typeBoolean, holds))
+        return error;
+    log_.append(line({{"event", "PPhd"}, {"hold", holds != 0}}));
+    setPaneHolds(holds != 0);
+    return noErr;
+}
+
+OSErr Link::quit(const AppleEvent&) {
+    log_.append(line({{"event", "quit"}}));
+    QCoreApplication::quit();
+    return noErr;
+}
+
+/// A pane that crashed gives nothing back.
+void Link::processesChanged() {
+    const bool isThere =
+        pane_ == kNoProcess ? findOtherApplication(kPaneSignature) != kNoProcess : takesPart(pane_);
+    if (paneHolds_ && !isThere)
+        setPaneHolds(false);
+}
+
+void Link::setPaneHolds(bool holds) {
+    if (paneHolds_ == holds)
+        return;
+    paneHolds_ = holds;
+    if (listener_)
+        listener_->paneHoldsKeys(holds);
+}
+
+void Link::settingsChanged() {
+    settings_ = checkedRecord(prefs);
+    if (listener_)
+        listener_->settingsChanged();
+}
+
+void Link::switchTo(bool on) {
+    prefs.on = on;
+    CFPreferencesSetAppValue(CFSTR(settingAt(offsetof(PrefsRecord, on)).key),
+                             on ? CFSTR("yes") : CFSTR("no"), kAgentBundleID);
+    CFPreferencesAppSynchronize(kAgentBundleID);
+    const UInt8 state = on;
+    send(kOnOff, typeBoolean, &state, sizeof state);
+    settingsChanged();
+}
+
+void Link::setTrouble(const std::string& text) {
+    if (trouble_ == text)
+        return;
+    trouble_ = text;
+    send(kSays, typeUTF8Text, trouble_.data(), trouble_.size());
+}
+
+void Link::send(AEEventID eventID, DescType type, const void* data, std::size_t size) {
+    if (paneIsClosed_)
+        return;
+    // An agent that the pane launched wasn't told which process shows the pane.
+    if (pane_ == kNoProcess)
+        pane_ = findOtherApplication(kPaneSignature);
+    AEAddressDesc address;
+    AppleEvent event;
+    AECreateDesc(typeProcessSerialNumber, &pane_, sizeof pane_, &address);
+    AECreateAppleEvent(kAgentClass, eventID, &address, kAutoGenerateReturnID, kAnyTransactionID,
+                       &event);
+    AEPutParamPtr(&event, keyDirectObject, type, data, size);
+    AESend(&event, nullptr, kAENoReply, kAEDefaultTimeout);
+}
+
+ProcessSerialNumber findOtherApplication(OSType signature) {
+    ProcessSerialNumber self, psn = kNoProcess;
+    const bool isOneOfThem = GetCurrentProcess(&self) == noErr;
+    while (GetNextProcess(&psn) == noErr) {
+        ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
+        if (GetProcessInformation(&psn, &info) == noErr &&
+            info.processType == fourCharCode("APPL") && info.processSignature == signature &&
+            !(isOneOfThem && psn == self))
+            return psn;
+    }
+    return kNoProcess;
+}
