@@ -138,6 +138,9 @@ void Switches::refresh() {
         for (const InputDevice& device : devices_) {
             if (!(one.isKey ? device.hasKeys : device.hasButtons))
                 continue;
+            // Its release is the programs', as its press was: else it would repeat there for ever.
+            if (heardOnly_.contains({device.id, one.isKey, one.code}))
+                continue;
             const auto locks = one.isKey ? keys_.locks() : std::vector{0U};
             for (const std::uint32_t lock : locks)
                 grabs.insert({device.id, one.isKey, one.code, one.modifiers | lock});

@@ -247,7 +247,9 @@ TEST_F(ScannerTest, EndsAsItIsTold) {
     // Held for four seconds it switches on again, and isn't taken meanwhile.
     press(kScanKey, 4.3);
     EXPECT_TRUE(isOn);
-    EXPECT_THAT(target_.events(2), ElementsAre("key 38 down", "key 38 up"));
+    wait(0.5);
+    EXPECT_EQ(target_.events(2).back(), "key 38 up");
+    EXPECT_THAT(target_.down(), IsEmpty());
     scan();
 }
 
