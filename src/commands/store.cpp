@@ -82,6 +82,7 @@ std::string changeSettings(const SettingSet& settings, const PrefsRecord& record
     copySettings(changed, record, prefs);
     if (changed.any() && !savePrefs())
         return savingFault();
+    recoveryYield(settings);
     updateLoginItem(settings);
     if (changed.none())
         return {};

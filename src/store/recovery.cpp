@@ -3,6 +3,7 @@
 
 #include "platform/CoreFoundation/CFPropertyList.h"
 #include "platform/CoreFoundation/PreferencesOutcome.h"
+#include "platform/CoreFoundation/UserFiles.h"
 #include "platform/CoreServices/StateFile.h"
 #include "src/files/proputil.h"
 #include "src/record/settingcheck.h"
@@ -10,6 +11,7 @@
 #include "src/store/settingsfile.h"
 
 #include <filesystem>
+#include <utility>
 
 namespace {
 
@@ -74,6 +76,27 @@ SettingSet recoveryTakeOver(PrefsRecord& record) {
         releaseLeftStateFile(path);
     }
     return differences(stored, record);
+}
+
+void recoveryYield(const SettingSet& settings) {
+    for (const std::string& path : findStateFiles(kFileName, StateFileOwner::Gone)) {
+        const auto list = readLeftover(path);
+        const auto* leftover = dynamicCFCast<CFDictionary>(list.get());
+        if (!leftover)
+            continue;
+        CFDictionary::Items items = leftover->items();
+        for (std::size_t i = 0; i < kSettings.size(); ++i)
+            if (settings[i])
+                items.erase(CFSTR(kSettings[i].key)->text());
+        if (items.size() == leftover->items().size())
+            continue;
+        // The moment counts for the rest.
+        std::error_code error;
+        const auto time = std::filesystem::last_write_time(path, error);
+        const auto rest = CFRef<CFDictionary>::adopt(new CFDictionary(std::move(items)));
+        if (replaceUserFile(path, propertyListToXML(rest.get())) == 0 && !error)
+            std::filesystem::last_write_time(path, time, error);
+    }
 }
 
 void recoveryLookAt(PrefsRecord& record) {

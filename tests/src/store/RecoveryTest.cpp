@@ -96,6 +96,15 @@ TEST_F(RecoveryTest, WhatWasStoredAfterwardsStaysAndAnOddListIsTaken) {
         EXPECT_EQ(record.buttonActions[0], 5);
         EXPECT_EQ(record.buttonActions[1], 200);
     }
+    PrefsRecord record;
+    record.lineThickness = 8;
+    recoveryYield(differences(record, PrefsRecord()));
+    record.lineThickness = 7;
+    record.lineScanTime = 15;
+    recoveryTakeOver(record);
+    EXPECT_EQ(record.lineThickness, 7) << "chosen meanwhile as it is stored";
+    EXPECT_EQ(double{record.lineScanTime}, 15);
+    EXPECT_EQ(record.buttonActions[0], 5);
 }
 
 TEST_F(RecoveryTest, AFolderThatCannotBeWrittenIsTroubleUntilTheChangesAreSaved) {
