@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "agent/Sequence.h"
+#include "agent/Volume.h"
+#include "agent/scan/Actions.h"
+#include "agent/x11/Hand.h"
+#include "agent/x11/Typist.h"
+#include "agent/x11/WindowManager.h"
+#include "agent/x11/XServer.h"
+#include "src/record/differences.h"
+
+#include <QTimer>
+
+#include <optional>
+#include <string>
+
+/// Carries out what the palette's actions say. What takes time, such as a drag, goes on by itself,
+/// and what comes meanwhile waits for its end.
+class Deeds {
+public:
+    /// Does what is the scanner's.
+    class Listener {
+    public:
+        /// What was begun can't be done: why, in a sentence.
+        virtual void cantDo(const std::string& why) = 0;
+        /// A menu or a keyboard has opened, which is to be scanned at once.
+        virtual void scanNow() = 0;
+        /// The switch is left alone until it is held for four seconds.
+        virtual void pause() = 0;
+        /// These settings get the record's values.
+        virtual void change(const SettingSet& settings, const PrefsRecord& record) = 0;
+
+    protected:
+        ~Listener() = default;
+    };
+
+    /// All must outlive it.
+    Deeds(XServer& server, Hand& hand, Listener& listener);
+    ~Deeds();
+    Deeds(const Deeds&) = delete;
+    Deeds& operator=(const Deeds&) = delete;
+
+    /// `settings` is a checked record. Why it can't be done, in a sentence, or empty.
+    std::string carryOut(const Deed& deed, const PrefsRecord& settings);
+
+    /// Drops what is under way. Nothing is held afterwards.
+    void letGo();
+
+private:
+    using Doer = std::string (Deeds::*)(const ActionRow& row);
+
+    std::string act(const ActionRow& row);
+    std::string keys(const ActionRow& row);
+    std::string close(const ActionRow& row);
+    std::string desktop(const ActionRow& row);
+    std::string louder(const ActionRow& row);
+    std::string quieter(const ActionRow& row);
+    std::string mute(const ActionRow& row);
+    std::string faster(const ActionRow& row);
+    std::string slower(const ActionRow& row);
+    std::string pause(const ActionRow& row);
+    bool changeTimes(int steps);
+    void click(const Deed& deed, const PrefsRecord& settings);
+    void pickUp(Place place);
+    void moveTo(Place place);
+    void drop(Place place);
+    void giveUp(Place place);
+    void scroll(Place place);
+    void afterUsersKeys();
+    void lookForUsersKeys();
+
+    Hand& hand_;
+    Listener& listener_;
+    Typist typist_;
+    WindowManager windows_;
+    Volume volume_;
+    Sequence sequence_;
+    std::optional<Place> held_; ///< where the pointer will be, while a button is down
+    QTimer keysUp_;
+    double keysUpUntil_ = 0;
+    PrefsRecord settings_; ///< of the action that is carried out
+};

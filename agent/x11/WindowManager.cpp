@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "agent/x11/WindowManager.h"
+
+#include "agent/x11/Properties.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace {
+
+/// EWMH's mark of a request that comes from the user, not from a program.
+constexpr std::uint32_t kFromPager = 2;
+
+bool has(const std::vector<std::uint32_t>& numbers, std::uint32_t wanted) {
+    return std::find(numbers.begin(), numbers.end(), wanted) != numbers.end();
+}
+
+} // namespace
+
+std::vector<std::uint32_t> WindowManager::rootNumbers(const char* name) const {
+    return numbersOf(server_, askProperty(server_, server_.root(), name));
+}
+
+bool WindowManager::isOrdinary(xcb_window_t window) const {
+    const auto types = numbersOf(server_, askProperty(server_, window, "_NET_WM_WINDOW_TYPE"));
+    return !has(types, server_.atom("_NET_WM_WINDOW_TYPE_DESKTOP")) &&
+           !has(types, server_.atom("_NET_WM_WINDOW_TYPE_DOCK"));
+}
+
+std::optional<xcb_window_t> WindowManager::active() const {
+    const auto active = rootNumbers("_NET_ACTIVE_WINDOW");
+    if (active.empty() || active[0] == XCB_NONE || !isOrdinary(active[0]))
+        return std::nullopt;
+    return active[0];
+}
+
+std::string WindowManager::programOf(xcb_window_t window) const {
+    const std::string both = bytesOf(server_, askProperty(server_, window, "WM_CLASS"));
+    const std::size_t second = both.find('\0');
+    return second == std::string::npos ? "" : both.c_str() + second + 1;
+}
+
+std::vector<WindowManager::Window> WindowManager::windows() const {
+    std::vector<Window> windows;
+    auto all = rootNumbers("_NET_CLIENT_LIST_STACKING");
+    if (all.empty())
+        all = rootNumbers("_NET_CLIENT_LIST");
+    for (auto window = all.rbegin(); window != all.rend(); ++window) {
+        const auto title = askProperty(server_, *window, "_NET_WM_NAME");
+        const auto oldTitle = askProperty(server_, *window, "WM_NAME");
+        const auto states = numbersOf(server_, askProperty(server_, *window, "_NET_WM_STATE"));
+        const std::string text = bytesOf(server_, title), oldText = bytesOf(server_, oldTitle);
+        if (isOrdinary(*window) && !has(states, server_.atom("_NET_WM_STATE_SKIP_TASKBAR")))
+            windows.push_back({*window, text.empty() ? oldText : text});
+    }
+    return windows;
+}
+
+bool WindowManager::close(xcb_window_t window) {
+    return request("_NET_CLOSE_WINDOW", window, {XCB_CURRENT_TIME, kFromPager});
+}
+
+bool WindowManager::activate(xcb_window_t window) {
+    return request("_NET_ACTIVE_WINDOW", window, {kFromPager, XCB_CURRENT_TIME, XCB_NONE});
+}
+
+bool WindowManager::toggleDesktop() {
+    const auto shown = rootNumbers("_NET_SHOWING_DESKTOP");
+    const bool isShown = !shown.empty() && shown[0] != 0;
+    return request("_NET_SHOWING_DESKTOP", server_.root(), {!isShown});
+}
+
+bool WindowManager::request(const char* name, xcb_window_t window,
+                            const std::vector<std::uint32_t>& data) {
+    if (!has(rootNumbers("_NET_SUPPORTED"), server_.atom(name)))
+        return false;
+    xcb_client_message_event_t event = {};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = server_.atom(name);
+    std::copy(data.begin(), data.end(), event.data.data32);
+    char bytes[32];
+    std::memcpy(bytes, &event, sizeof bytes);
+    xcb_send_event(server_.connection(), 0, server_.root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   bytes);
+    server_.flush();
+    return true;
+}
+
+Area WindowManager::windowAt(Place place) const {
+    xcb_connection_t* connection = server_.connection();
+    const xcb_window_t root = server_.root();
+    const XReply<xcb_translate_coordinates_reply_t> found(xcb_translate_coordinates_reply(
+        connection,
+        xcb_translate_coordinates(connection, root, root,
+                                  static_cast<std::int16_t>(std::lround(place.x)),
+                                  static_cast<std::int16_t>(std::lround(place.y))),
+        nullptr));
+    const xcb_window_t window = found && found->child != XCB_NONE ? found->child : root;
+    const XReply<xcb_get_geometry_reply_t> geometry(
+        xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
+    if (!geometry)
+        return {};
+    return {static_cast<double>(geometry->x), static_cast<double>(geometry->y),
+            static_cast<double>(geometry->width), static_cast<double>(geometry->height)};
+}

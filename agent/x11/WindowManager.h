@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "agent/scan/Geometry.h"
+#include "agent/x11/XServer.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The programs' windows, and what a window manager does with them by EWMH's requests. Each call is
+/// a few round trips to the server.
+class WindowManager {
+public:
+    struct Window {
+        xcb_window_t id;
+        std::string title; ///< UTF-8
+    };
+
+    /// `server` must outlive it.
+    explicit WindowManager(XServer& server) : server_(server) {}
+
+    /// The active window, unless it is the desktop's or a panel.
+    std::optional<xcb_window_t> active() const;
+
+    /// The second part of WM_CLASS, the program's: "XTerm". Empty without.
+    std::string programOf(xcb_window_t window) const;
+
+    /// The windows that a task bar has, the one that was used last first.
+    std::vector<Window> windows() const;
+
+    /// False when the window manager can't.
+    bool close(xcb_window_t window);
+    bool activate(xcb_window_t window);
+    /// Shows the desktop without windows, or the windows again.
+    bool toggleDesktop();
+
+    /// What lies there, with its frame; the whole screen where no window is.
+    Area windowAt(Place place) const;
+
+private:
+    bool request(const char* name, xcb_window_t window, const std::vector<std::uint32_t>& data);
+    std::vector<std::uint32_t> rootNumbers(const char* name) const;
+    bool isOrdinary(xcb_window_t window) const;
+
+    XServer& server_;
+};

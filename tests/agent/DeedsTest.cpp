@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "agent/Deeds.h"
+
+#include "agent/x11/Guard.h"
+#include "tests/agent/TargetWindow.h"
+#include "tests/support/ApplicationTest.h"
+#include "tests/support/FakeDevice.h"
+#include "tests/support/XvfbServer.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+
+using Texts = std::vector<std::string>;
+
+/// The number of the action of that kind, with these keys if it has any.
+UInt8 actionOf(ActionKind kind, const std::string& keys = {}) {
+    UInt8 action = 0;
+    while (kActionRows[action].kind != kind ||
+           (kind == ActionKind::Keys && kActionRows[action].keys != keys))
+        ++action;
+    return action;
+}
+
+/// What the scanner would have to do.
+struct Told final : Deeds::Listener {
+    void cantDo(const std::string& why) override { texts.push_back(why); }
+
+    void scanNow() override { texts.emplace_back("scan"); }
+
+    void pause() override { texts.emplace_back("pause"); }
+
+    void change(const SettingSet&, const PrefsRecord& record) override {
+        texts.push_back(QStringLiteral("line %1, pointer %2")
+                            .arg(record.lineScanTime)
+                            .arg(record.pointerScanTime)
+                            .toStdString());
+    }
+
+    Texts texts;
+};
+
+class DeedsTest : public ApplicationTest<QCoreApplication> {
+protected:
+    void SetUp() override { ASSERT_TRUE(server_ && guard_) << fault_; }
+
+    std::string carryOut(const Deed& deed) { return deeds_->carryOut(deed, settings_); }
+
+    std::string choose(ActionKind kind, const std::string& keys = {}) {
+        return carryOut({.kind = Deed::Kind::Action, .action = actionOf(kind, keys)});
+    }
+
+    std::string press(const std::string& keys) { return choose(ActionKind::Keys, keys); }
+
+    /// What the target gets, as many as expected and what comes right after.
+    Texts events(std::size_t expected) {
+        Texts all;
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            const Texts more = target_.events();
+            all.insert(all.end(), more.begin(), more.end());
+            return all.size() >= expected;
+        }));
+        return all;
+    }
+
+    XvfbServer xvfb_;
+    TargetWindow target_{0, 0, 400, 300};
+    FakeDevice keyboard_{FakeDevice::Kind::Keyboard};
+    std::string fault_;
+    std::unique_ptr<Guard> guard_ = Guard::start();
+    std::unique_ptr<XServer> server_ = XServer::connect(fault_);
+    std::unique_ptr<Hand> hand_ = std::make_unique<Hand>(*server_, *guard_);
+    Told told_;
+    std::unique_ptr<Deeds> deeds_ = std::make_unique<Deeds>(*server_, *hand_, told_);
+    PrefsRecord settings_ = [] {
+        PrefsRecord record;
+        record.clickDuration = 10;
+        return record;
+    }();
+};
+
+TEST_F(DeedsTest, AtAPlace) {
+    using Kind = Deed::Kind;
+
+    const struct {
+        const char* name;
+        std::vector<Deed> deeds;
+        Texts events;
+    } kCases[] = {
+        {"click", {{.kind = Kind::Click, .place = {5, 6}}}, {"press 1 at 5,6", "release 1 at 5,6"}},
+        {"double click",
+         {{.kind = Kind::Click, .place = {5, 6}, .click = ActionKind::DoubleClick}},
+         {"press 1 at 5,6", "release 1 at 5,6", "press 1 at 5,6", "release 1 at 5,6"}},
+        {"the other button",
+         {{.kind = Kind::Click, .place = {7, 8}, .click = ActionKind::RightClick}},
+         {"press 3 at 7,8", "release 3 at 7,8"}},
+        {"with modifiers",
+         {{.kind = Kind::Click, .place = {5, 6}, .shift = true, .control = true}},
+         {"key 50 down", "key 37 down", "press 1 at 5,6", "release 1 at 5,6", "key 50 up",
+          "key 37 up"}},
+        {"scroll in the upper half",
+         {{.kind = Kind::Scroll, .place = {50, 149}}},
+         {"press 4 at 50,149", "release 4 at 50,149", "press 4 at 50,149", "release 4 at 50,149",
+          "press 4 at 50,149", "release 4 at 50,149"}},
+        {"scroll in the lower half",
+         {{.kind = Kind::Scroll, .place = {50, 151}}},
+         {"press 5 at 50,151", "release 5 at 50,151", "press 5 at 50,151", "release 5 at 50,151",
+          "press 5 at 50,151", "release 5 at 50,151"}},
+        {"drag",
+         {{.kind = Kind::ButtonDown, .place = {0, 0}},
+          {.kind = Kind::Move, .place = {120, 60}},
+          {.kind = Kind::ButtonUp, .place = {120, 60}}},
+         {"press 1 at 0,0", "move to 10,5", "move to 20,10", "move to 30,15", "move to 40,20",
+          "move to 50,25", "move to 60,30", "move to 70,35", "move to 80,40", "move to 90,45",
+          "move to 100,50", "move to 110,55", "move to 120,60", "move to 120,60",
+          "release 1 at 120,60"}},
+        {"a drag that is given up",
+         {{.kind = Kind::ButtonDown, .place = {10, 10}}, {.kind = Kind::GiveUp, .place = {10, 10}}},
+         {"press 1 at 10,10", "key 9 down", "key 9 up", "move to 10,10", "release 1 at 10,10"}},
+    };
+
+    for (const auto& [name, all, expected] : kCases) {
+        SCOPED_TRACE(name);
+        for (const Deed& deed : all)
+            EXPECT_EQ(carryOut(deed), "");
+        EXPECT_THAT(events(expected.size()), ElementsAreArray(expected));
+        EXPECT_THAT(target_.down(), IsEmpty());
+    }
+}
+
+TEST_F(DeedsTest, KeysAreWhereTheActiveLayoutHasThem) {
+    const struct {
+        const char* layout;
+        const char* keys;
+        Texts events;
+    } kCases[] = {
+        {"us", "Control+z", {"key 37 down", "key 52 down", "key 52 up", "key 37 up"}},
+        {"de", "Control+z", {"key 37 down", "key 29 down", "key 29 up", "key 37 up"}},
+        {"fr", "Control+z", {"key 37 down", "key 25 down", "key 25 up", "key 37 up"}},
+        {"fr", "Control+c", {"key 37 down", "key 54 down", "key 54 up", "key 37 up"}},
+        {"gr,us", "Control+c", {"key 37 down", "key 54 down", "key 54 up", "key 37 up"}},
+        {"gr,de", "Control+z", {"key 37 down", "key 29 down", "key 29 up", "key 37 up"}},
+        {"gr", "Return", {"key 36 down", "key 36 up"}},
+        {"gr", "Alt+Left", {"key 64 down", "key 113 down", "key 113 up", "key 64 up"}},
+    };
+
+    for (const auto& [layout, keys, expected] : kCases) {
+        SCOPED_TRACE(std::string(layout) + " " + keys);
+        QProcess::execute("setxkbmap", {layout});
+        EXPECT_EQ(press(keys), "");
+        EXPECT_THAT(events(expected.size()), ElementsAreArray(expected));
+    }
+}
+
+TEST_F(DeedsTest, WaitsForTheUsersModifiers) {
+    constexpr int kSuper = 133;
+    keyboard_.key(kSuper, true);
+    EXPECT_EQ(carryOut({.kind = Deed::Kind::Click, .place = {5, 6}}), "");
+    EXPECT_EQ(press("Return"), "");
+    QTest::qWait(100);
+    EXPECT_THAT(target_.events(), ElementsAre("key 133 down"));
+    keyboard_.key(kSuper, false);
+    EXPECT_THAT(events(5), ElementsAre("key 133 up", "press 1 at 5,6", "release 1 at 5,6",
+                                       "key 36 down", "key 36 up"));
+}
+
+TEST_F(DeedsTest, ItsOwnActionsAreTheScanners) {
+    const struct {
+        double line, pointer;
+        ActionKind kind;
+        std::string says;
+        Texts told;
+    } kCases[] = {
+        {8, 6, ActionKind::Faster, "", {"line 7.5, pointer 5.5"}},
+        {8, 6, ActionKind::Slower, "", {"line 8.5, pointer 6.5"}},
+        {1.2, 1, ActionKind::Faster, "", {"line 1, pointer 1"}},
+        {1, 1, ActionKind::Faster, "The scan is as fast as it can be.", {}},
+        {60, 60, ActionKind::Slower, "The scan is as slow as it can be.", {}},
+        {8, 6, ActionKind::Pause, "", {"pause"}},
+    };
+
+    for (const auto& [line, pointer, kind, says, told] : kCases) {
+        SCOPED_TRACE(says);
+        settings_.lineScanTime = line;
+        settings_.pointerScanTime = pointer;
+        told_.texts.clear();
+        EXPECT_EQ(choose(kind), says);
+        EXPECT_EQ(told_.texts, told);
+    }
+}
+
+} // namespace
