@@ -1,15 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "src/files/ptrutil.h"
 
+#include "platform/CoreFoundation/Localization.h"
 #include "src/files/imageutil.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <iterator>
 #include <limits>
 #include <optional>
 
 namespace {
+
+/// The titles of our own agent's pointers, which have translations. Any others are shown as they
+/// are.
+constexpr const char* kOwnTitles[] = {
+    LOCALIZABLE("Pointers", "default"),
+    LOCALIZABLE("Pointers", "Arrow small"),
+    LOCALIZABLE("Pointers", "Arrow large"),
+    LOCALIZABLE("Pointers", "Arrow large white"),
+    LOCALIZABLE("Pointers", "Arrow huge yellow"),
+    LOCALIZABLE("Pointers", "Arrow large see-through"),
+    LOCALIZABLE("Pointers", "Crosshair small"),
+    LOCALIZABLE("Pointers", "Crosshair large"),
+    LOCALIZABLE("Pointers", "Crosshair large white"),
+    LOCALIZABLE("Pointers", "Crosshair huge see-through"),
+    LOCALIZABLE("Pointers", "Ring"),
+    LOCALIZABLE("Pointers", "Target huge"),
+};
 
 /// Reads a decimal number of int's range and moves the text behind it.
 std::optional<int> takeNumber(const char** text) {
@@ -71,5 +91,8 @@ std::string ptrutilPointerTitle(const char* name) {
     std::string title = name;
     if (hotSpotOf(name))
         title.erase(title.rfind('+'));
+    const auto* own = std::ranges::find(kOwnTitles, title);
+    if (own != std::end(kOwnTitles))
+        return localized("Pointers", *own);
     return title.empty() ? name : title;
 }

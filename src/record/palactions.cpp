@@ -5,8 +5,55 @@
 #include "src/files/proputil.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
+
+/// The titles in our own agent's list, which have translations. Any others are shown as they are.
+constexpr const char* kOwnTitles[] = {
+    // clang-format off
+    LOCALIZABLE("Actions", "Empty slot"),
+    LOCALIZABLE("Actions", "Type"),
+    LOCALIZABLE("Actions", "Scroll"),
+    LOCALIZABLE("Actions", "Pg up"),
+    LOCALIZABLE("Actions", "Pg down"),
+    LOCALIZABLE("Actions", "Back"),
+    LOCALIZABLE("Actions", "Forward"),
+    LOCALIZABLE("Actions", "Return"),
+    LOCALIZABLE("Actions", "Tab"),
+    LOCALIZABLE("Actions", "Escape"),
+    LOCALIZABLE("Actions", "Delete"),
+    LOCALIZABLE("Actions", "Space"),
+    LOCALIZABLE("Actions", "Cut"),
+    LOCALIZABLE("Actions", "Copy"),
+    LOCALIZABLE("Actions", "Paste"),
+    LOCALIZABLE("Actions", "Undo"),
+    LOCALIZABLE("Actions", "Up"),
+    LOCALIZABLE("Actions", "Down"),
+    LOCALIZABLE("Actions", "Left"),
+    LOCALIZABLE("Actions", "Right"),
+    LOCALIZABLE("Actions", "Click"),
+    LOCALIZABLE("Actions", "Double"),
+    LOCALIZABLE("Actions", "Drag"),
+    LOCALIZABLE("Actions", "R-click"),
+    LOCALIZABLE("Actions", "Hold"),
+    LOCALIZABLE("Actions", "Move"),
+    LOCALIZABLE("Actions", "Shift"),
+    LOCALIZABLE("Actions", "Control"),
+    LOCALIZABLE("Actions", "Menus"),
+    LOCALIZABLE("Actions", "Apps"),
+    LOCALIZABLE("Actions", "Windows"),
+    LOCALIZABLE("Actions", "Close"),
+    LOCALIZABLE("Actions", "Desktop"),
+    LOCALIZABLE("Actions", "Louder"),
+    LOCALIZABLE("Actions", "Quieter"),
+    LOCALIZABLE("Actions", "Mute"),
+    LOCALIZABLE("Actions", "Faster"),
+    LOCALIZABLE("Actions", "Slower"),
+    LOCALIZABLE("Actions", "Pause"),
+    LOCALIZABLE("Actions", "Again"),
+    // clang-format on
+};
 
 CFBundle* (*findBundle)() = nullptr;
 CFRef<const CFArray> actionList; ///< null until read
@@ -17,8 +64,8 @@ const CFDictionary* getDictForAction(UInt8 action) {
     if (action >= kNumActions)
         return nullptr;
     if (!actionList) {
-        const auto list = propUtilReadResourceFile(palutilBundle(), CFSTR("btn_icons_std"),
-                                                   CFArrayGetTypeID());
+        const auto list =
+            propUtilReadResourceFile(palutilBundle(), CFSTR("btn_icons_std"), CFArrayGetTypeID());
         actionList = CFRef<const CFArray>::retain(dynamicCFCast<CFArray>(list.get()));
     }
     if (!actionList)
@@ -46,9 +93,17 @@ const CFString* palutilActionTitle(UInt8 action) {
     return title.get();
 }
 
-std::string palutilActionName(UInt8 action) {
+CFRef<const CFString> palutilCopyShownTitle(UInt8 action) {
     const CFString* title = palutilActionTitle(action);
-    return title ? toUTF8(title)
+    const std::string text = title ? toUTF8(title) : "";
+    const auto* own = std::ranges::find(kOwnTitles, text);
+    return own == std::end(kOwnTitles) ? CFRef<const CFString>::retain(title)
+                                       : createFromUTF8(localized("Actions", *own));
+}
+
+std::string palutilActionName(UInt8 action) {
+    const auto title = palutilCopyShownTitle(action);
+    return title ? toUTF8(title.get())
            : action == kEmptyAction
                ? localized("Palette", "Empty slot")
                : filled(localized("Palette", "Action %1"), {std::to_string(action)});

@@ -22,6 +22,9 @@ const CFBundle* palutilBundle();
 /// Null when the action has none. Borrowed until palutilForgetActions.
 const CFString* palutilActionTitle(UInt8 action);
 
+/// The title in the user's language. Null when the action has none.
+CFRef<const CFString> palutilCopyShownTitle(UInt8 action);
+
 /// The action in words, in UTF-8: its title, else its number.
 std::string palutilActionName(UInt8 action);
 

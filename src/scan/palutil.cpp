@@ -75,16 +75,17 @@ void drawContent(const Rect* bounds, ThemeButtonKind, const ThemeButtonDrawInfo*
     const auto& [content, action] = *static_cast<const PaletteBtnContent*>(userData);
     if (action == kEmptyAction)
         return;
-    const CFString* title = content & kButtonContentName ? palutilActionTitle(action) : nullptr;
+    const auto title =
+        content & kButtonContentName ? palutilCopyShownTitle(action) : CFRef<const CFString>();
     const auto icon = content & kButtonContentIcon ? palutilCopyActionIcon(action) : CFRef<Icon>();
     if (!icon) {
         if (title)
-            drawText(*bounds, title, false);
+            drawText(*bounds, title.get(), false);
         return;
     }
     Rect area = *bounds;
     if (title)
-        area.bottom = drawText(*bounds, title, true);
+        area.bottom = drawText(*bounds, title.get(), true);
     iconUtilPlotIcon(iconSquare(area), kAlignAbsoluteCenter, kTransformNone, icon.get());
 }
 

@@ -101,10 +101,10 @@ void PaletteEditor::load() {
 
 void PaletteEditor::addActionMenuToCtl(NSPopUpButton* ctl, SEL selector, NSObject& target) {
     for (int action = 0; action < kNumActions; ++action) {
-        const CFString* title = palutilActionTitle(static_cast<UInt8>(action));
+        const auto title = palutilCopyShownTitle(static_cast<UInt8>(action));
         if (!title)
             continue;
-        const std::string text = toUTF8(title);
+        const std::string text = toUTF8(title.get());
         ctl->addItemWithTitle(text);
         NSMenuItem* item = ctl->itemWithTitle(text);
         item->setTag(action);

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/PopUpButtonWidget.h"
 #include "src/record/keycombo.h"
+#include "src/files/ptrutil.h"
+#include "src/pane/pointers/ptrman.h"
 #include "src/record/numbertext.h"
+#include "src/record/palactions.h"
 #include "src/record/settings.h"
 #include "tests/support/PaneFixture.h"
 #include "tests/support/TrySweeps.h"
@@ -108,6 +111,19 @@ TEST_F(LanguagesTest, LongerTextsFitWhereverTheyStand) {
         }
         expectTheResultFits();
     }
+}
+
+TEST_F(LanguagesTest, ActionsAndPointersOfOurAgentHaveTranslations) {
+    speak("eo");
+    open();
+    for (UInt8 action = 0; action < kNumActions; ++action) {
+        const auto title = palutilCopyShownTitle(action);
+        EXPECT_TRUE(title && toUTF8(title.get()).starts_with("⟦")) << int{action};
+    }
+    EXPECT_EQ(toUTF8(palutilActionTitle(20)), "Click") << "as the list has it";
+    for (int i = 0; i < ptrmanCountPointers(); ++i)
+        EXPECT_THAT(ptrutilPointerTitle(ptrmanPointerAt(i).c_str()), testing::StartsWith("⟦"));
+    EXPECT_EQ(ptrutilPointerTitle("mine+1x2"), "mine") << "of somebody else's";
 }
 
 TEST_F(LanguagesTest, OneIsSingularAndAFrenchNothingToo) {
