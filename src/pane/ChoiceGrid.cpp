@@ -17,6 +17,7 @@ constexpr int kSide = 44; ///< of a button, in points; enough for a trembling ha
 constexpr int kGap = 6;
 constexpr float kRoomAroundText = 20; ///< above and below it, together
 constexpr float kLeastListWidth = 200;
+constexpr float kNameHeight = 28; ///< of a line of text, at 200 % too
 
 struct Choice {
     const ChoiceGridSource& source;
@@ -67,8 +68,10 @@ void ChoiceGrid::reload() {
     if (source_) {
         const int rows = (count_ + columns() - 1) / columns();
         const float width = source_->isList() ? kLeastListWidth : kColumns * (kSide + kGap) - kGap;
-        setFrameSize(
-            {width, std::max(static_cast<float>(rows) * (choiceSize().height + kGap) - kGap, 0.F)});
+        const float height =
+            std::max(static_cast<float>(rows) * (choiceSize().height + kGap) - kGap, 0.F);
+        const bool hasName = !source_->isList() && count_ > 0;
+        setFrameSize({width, hasName ? height + kNameHeight : height});
     }
     setNeedsDisplay(true);
     for (const int changed : {old, chosen_})
@@ -88,6 +91,19 @@ void ChoiceGrid::drawRect(const NSRect&) {
                         &choice);
         DrawThemeFocusRect(&frame, i == cursor_ && isFirstResponder());
     }
+    drawName();
+}
+
+/// Beneath the pictures, of the one where the keyboard is, else of the chosen one. Nothing in a
+/// list, whose rows are names.
+void ChoiceGrid::drawName() const {
+    const int named = isFirstResponder() ? cursor_ : chosen_;
+    if (count_ == 0 || named < 0 || source_->isList())
+        return;
+    const NSRect last = frameOf(count_ - 1);
+    NSDrawString(createFromUTF8(source_->choiceName(named)).get(),
+                 {0, last.y + last.height, bounds().width, kNameHeight},
+                 {NSFont::systemFontOfSize(0)});
 }
 
 void ChoiceGrid::mouseDown(NSEvent* event) {

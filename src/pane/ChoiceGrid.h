@@ -9,7 +9,7 @@
 class ChoiceGridSource {
 public:
     virtual int choiceCount() const = 0;
-    virtual std::string choiceName(int index) const = 0; ///< for screen readers; UTF-8
+    virtual std::string choiceName(int index) const = 0; ///< in words; UTF-8
     virtual bool isChosen(int index) const = 0;
     /// Draws the choice's picture in the rectangle.
     virtual void drawChoice(int index, const Rect& bounds) const = 0;
@@ -22,8 +22,8 @@ protected:
     ~ChoiceGridSource() = default;
 };
 
-/// A grid of pictures, or a list of texts. Each is a button that makes its choice. Arrow keys move
-/// a cursor; Space or Return presses the button there.
+/// A grid of pictures with a name beneath, or a list of texts. Each is a button that makes its
+/// choice. Arrow keys move a cursor; Space or Return presses the button there.
 class ChoiceGrid final : public NSQuickDrawView, public NSAccessibilityList {
 public:
     /// Not owned; null for none.
@@ -51,6 +51,7 @@ private:
     int columns() const;
     NSSize choiceSize() const;
     NSRect frameOf(int index) const;
+    void drawName() const;
 
     ChoiceGridSource* source_ = nullptr;
     int count_ = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/ViewWidget.h"
 
+#include "platform/AppKit/NSAccessibility.h"
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSView.h"
 #include "platform/AppKit/detail/ViewAccessibility.h"
@@ -14,6 +15,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
+#include <QToolTip>
 #include <QVariant>
 
 #include <algorithm>
@@ -138,7 +140,23 @@ bool ViewWidget::isKeyTaken(QEvent& event) {
     return isKeyTaken_;
 }
 
+/// The pointer rests on an element of a list: its name is shown.
+bool ViewWidget::showName(const QHelpEvent& help) {
+    const auto* list = dynamic_cast<const NSAccessibilityList*>(view_);
+    const NSPoint place = {static_cast<float>(help.pos().x()), static_cast<float>(help.pos().y())};
+    for (int i = 0; list && i < list->accessibilityCount(); ++i) {
+        const auto element = list->accessibilityElement(i);
+        if (!NSPointInRect(place, element.frame))
+            continue;
+        QToolTip::showText(help.globalPos(), QString::fromStdString(element.label), this);
+        return true;
+    }
+    return false;
+}
+
 bool ViewWidget::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip && showName(static_cast<QHelpEvent&>(*event)))
+        return true;
     if (!isKeyTaken(*event))
         return QWidget::event(event);
     event->accept();

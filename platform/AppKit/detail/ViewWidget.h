@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class GrafPort;
+class QHelpEvent;
 class NSEvent;
 class NSView;
 
@@ -40,6 +41,7 @@ protected:
 
 private:
     NSEvent mouseEventOf(const QMouseEvent& event) const;
+    bool showName(const QHelpEvent& help);
     bool isKeyTaken(QEvent& event);
 
     NSView* view_ = nullptr;

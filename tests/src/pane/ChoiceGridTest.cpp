@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "src/files/ptrutil.h"
 #include "src/pane/pointers/ptrman.h"
 #include "tests/support/PaneFixture.h"
 
+#include <QHelpEvent>
 #include <QScreen>
+#include <QToolTip>
 
 namespace {
 
@@ -34,6 +37,23 @@ TEST_F(ChoiceGridTest, ClicksKeysAndActionsChooseAndReachTheAgent) {
                           i == index)
                     << i;
         }
+    }
+    for (const auto& [name, title] :
+         {std::pair("pointerGrid", ptrutilPointerTitle(ptrmanPointerAt(7).c_str())),
+          {"lineColorGrid", "Buff"},
+          {"scanAreaGrid", "Right third"}}) {
+        QWidget* grid = find(name);
+        const QPoint place(70, 70); // in the second row
+        QHelpEvent help(QEvent::ToolTip, place, grid->mapToGlobal(place));
+        QApplication::sendEvent(grid, &help);
+        EXPECT_EQ(QToolTip::text().toStdString(), title);
+        const QImage picture = grid->grab().toImage();
+        const QRgb blank = picture.pixel(picture.width() - 1, picture.height() - 1);
+        bool hasName = false;
+        for (int y = 100; y < picture.height(); ++y) // beneath the two rows
+            for (int x = 0; x < 40; ++x)
+                hasName |= picture.pixel(x, y) != blank;
+        EXPECT_TRUE(hasName) << name;
     }
     EXPECT_EQ(prefs.pointerImageName, ptrmanPointerAt(7));
     EXPECT_EQ(prefs.lineColor.green, 162) << "of buff";
