@@ -85,7 +85,7 @@ void PopUpMenu::fill(const std::vector<PopUpEntry>& entries) {
             new QListWidgetItem(entry.icon.isNull() ? noIcon : entry.icon, entry.title, this);
         item->setFlags(entry.enabled ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
         const int width = sizeHintForIndex(indexFromItem(item)).width() + kRoomBesideText;
-        item->setSizeHint({std::min(width, widest), entryHeight_});
+        item->setSizeHint({std::clamp(width, panestyle::kTarget, widest), entryHeight_});
     }
 }
 

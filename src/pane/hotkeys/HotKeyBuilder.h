@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/AppKit/NSPopUpButton.h"
+
 class HotKeyView;
 class NSButton;
-class NSMenuItem;
 class NSObject;
-class NSPopUpButton;
 class NSTextField;
 
 /// Builds a hot key without a key press, for users without a keyboard: from check boxes for four
 /// modifiers and a menu of keys. The interface file fills the public fields; none is owned.
-class HotKeyBuilder {
+class HotKeyBuilder final : public NSMenuDelegate {
 public:
     NSTextField* builderTitle = nullptr;
     NSButton* builderCommand = nullptr;
@@ -19,8 +19,10 @@ public:
     NSButton* builderOption = nullptr;
     NSPopUpButton* builderKey = nullptr;
 
-    /// Fills the menu. Its items send buildHotKey: to `menuTarget`, with the key code as tag.
+    /// The items of the menu will send buildHotKey: to `menuTarget`, with the key code as tag.
     void setup(NSObject& menuTarget);
+    /// Fills the menu with the keys by the names that they have now.
+    void menuNeedsUpdate(NSPopUpButton* menu) override;
     /// Ends the building of a hot key.
     void load();
     /// From now on choices set the hot key of the view, which isn't owned.
@@ -30,5 +32,6 @@ public:
 private:
     void enable(bool enabled);
 
-    HotKeyView* view_ = nullptr; ///< whose hot key is being built, or null
+    NSObject* menuTarget_ = nullptr; ///< not owned
+    HotKeyView* view_ = nullptr;     ///< whose hot key is being built, or null
 };

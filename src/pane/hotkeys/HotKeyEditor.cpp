@@ -8,16 +8,31 @@
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "platform/HIToolbox/HotKeyMode.h"
 #include "src/pane/hotkeys/HotKeyView.h"
+#include "src/record/keyboardwords.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace {
 
 /// Seconds that a capture can keep keys from other programs.
 constexpr int kCaptureSeconds = 30;
 
-constexpr const char* kClaim = LOCALIZABLE("HotKeys", "Use it here and remove it there");
-constexpr const char* kRestore = LOCALIZABLE("HotKeys", "Put back what was here");
+constexpr const char* kClaim = LOCALIZABLE("HotKeys", "Use these keys only here");
+constexpr const char* kRestore = LOCALIZABLE("HotKeys", "Undo the change here");
+
+/// What the keyboard says, where that isn't the name that is shown. Empty where it is.
+std::string wordsBeside(const HotKeyView& view, const KeyboardLayout& layout) {
+    const auto plain = [](std::string text) {
+        std::erase(text, ' ');
+        std::ranges::transform(text, text.begin(),
+                               [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+        return text;
+    };
+    const auto name = view.combination();
+    std::string words = keyboardWords(layout, view.modifiers(), view.keyCode());
+    return !name || plain(toUTF8(name.get())) == plain(words) ? "" : words;
+}
 
 /// Whether both are assigned and the agent can't tell them apart.
 bool isSameHotKey(const HotKey& a, const HotKey& b) {
@@ -44,7 +59,7 @@ void HotKeyEditor::setup(HotKeyViewTarget& viewTarget, NSObject& menuTarget) {
         {LOCALIZABLE("HotKeys", "Press new keys"), "captureHotKey:"},
         {LOCALIZABLE("HotKeys", "Choose keys…"), "chooseHotKey:"},
         {LOCALIZABLE("HotKeys", "None"), "removeHotKey:"},
-        {LOCALIZABLE("HotKeys", "Default"), "resetHotKey:"},
+        {LOCALIZABLE("HotKeys", "Reset"), "resetHotKey:"},
         {kClaim, "claimHotKey:"},
         {kRestore, "restoreHotKey:"},
     };
@@ -211,27 +226,35 @@ void HotKeyEditor::noticeChanges() {
 
 void HotKeyEditor::updateHotKeyNotes() {
     noticeChanges();
+    const KeyboardLayout layout;
     const auto all = rows();
     for (std::size_t i = 0; i < all.size(); ++i) {
-        const auto same = sameAs(i);
-        std::string note;
-        std::vector<std::string> names;
-        for (const std::size_t other : same)
-            names.push_back(
-                filled(localized("HotKeys", "“%1”"), {all[other]->view->accessibilityLabel()}));
-        if (!same.empty())
-            note =
-                filled(localized("HotKeys", "⚠ The same keys as %1. The menu beside it offers to "
-                                            "use them here alone, or to put back what was here."),
-                       {joined(Joint::Items, names)});
-        all[i]->note->setStringValue(note);
+        const std::string same = sameKeysText(i);
+        const std::string words = wordsBeside(*all[i]->view, layout);
+        const std::string here =
+            words.empty() ? "" : filled(localized("HotKeys", "%1 on your keyboard"), {words});
+        all[i]->note->setStringValue(joined(Joint::Value, {here, same}));
         for (const char* offer : {kClaim, kRestore})
             all[i]
                 ->menu->itemWithTitle(localized("HotKeys", offer))
                 ->setTarget(same.empty() ? nullptr : menuTarget_);
-        const auto combination = all[i]->view->combination();
-        const std::string now =
-            combination ? filled(localized("HotKeys", "Now %1."), {toUTF8(combination.get())}) : "";
-        all[i]->menu->setAccessibilityHelp(joined(Joint::Sentences, {now, note}));
+        const auto name = all[i]->view->combination();
+        const std::string now = joined(Joint::Note, {name ? toUTF8(name.get()) : "", here});
+        all[i]->menu->setAccessibilityHelp(
+            joined(Joint::Sentences,
+                   {now.empty() ? now : filled(localized("HotKeys", "Now %1."), {now}), same}));
     }
+}
+
+/// Which others are the same. Empty for none.
+std::string HotKeyEditor::sameKeysText(std::size_t index) {
+    std::vector<std::string> names;
+    for (const std::size_t other : sameAs(index))
+        names.push_back(
+            filled(localized("HotKeys", "“%1”"), {rows()[other]->view->accessibilityLabel()}));
+    return names.empty()
+               ? ""
+               : filled(localized("HotKeys", "⚠ The same keys as %1. The menu beside it offers to "
+                                             "use them only here, or to undo the change."),
+                        {joined(Joint::Items, names)});
 }

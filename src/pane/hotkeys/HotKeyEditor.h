@@ -63,8 +63,8 @@ public:
     void setTargetHotKey(HotKeyView* view);
     /// Shows the group of prompts that fits the target.
     void updateHotKeyUI();
-    /// Shows beside each hot key which others are the same. A user may set that, but the agent
-    /// can't tell them apart.
+    /// Shows beside each hot key what the keyboard calls it, and which others are the same. A user
+    /// may set that, but the agent can't tell them apart.
     void updateHotKeyNotes();
 
 private:
@@ -73,6 +73,7 @@ private:
     HotKeyRow& rowOf(const NSMenuItem& item);
     /// The other hot keys that the agent can't tell from this one.
     std::vector<std::size_t> sameAs(std::size_t index) const;
+    std::string sameKeysText(std::size_t index);
     void noticeChanges();
     /// Shows how long the capture still keeps keys from other programs, and ends it then. The time
     /// stands while the window is inactive: it gets no key then, and the others have theirs.

@@ -115,6 +115,10 @@ void HotKeyView::unassign() {
     redraw();
 }
 
+SInt32 HotKeyView::keyCode() const {
+    return index_ < 0 ? -1 : prefs.hotKeys[index_].keyCode;
+}
+
 void HotKeyView::setToNone() {
     if (index_ >= 0) {
         unassign();

@@ -50,6 +50,8 @@ public:
     /// Sets the hot key to this value.
     void restore(const HotKey& hotKey);
 
+    /// The key code of the stored hot key; negative for none, and before an index is set.
+    SInt32 keyCode() const;
     /// The hot key in words. Null when there is nothing to show.
     CFRef<CFString> combination() const;
 

@@ -126,13 +126,15 @@ TEST_F(HotKeyTest, HotKeysThatTheAgentCantTellApartAreNoted) {
     open();
     for (const auto& [name, note] : {std::pair("scanKey", "The same keys as “Cancel the scan”"),
                                      {"cancelScanKey", "The same keys as “Scan”"},
-                                     {"masterOnOffKey", ""}, // the same key, other modifiers
+                                     {"masterOnOffKey", // the same key, other modifiers
+                                      "Super+F13 or Print Screen on your keyboard"},
                                      {"showPreferencesKey", ""},
                                      {"scanKey2", ""}}) {
         const std::string control = name;
         const std::string text = find<QLabel>((control + "Note").c_str())->text().toStdString();
         EXPECT_THAT(text, testing::HasSubstr(note)) << name;
         EXPECT_EQ(text.empty(), *note == '\0') << name;
+        EXPECT_EQ(text.find("⚠") == text.npos, std::string(note).find("same") == text.npos) << name;
         EXPECT_THAT(find((control + "Btn").c_str())->accessibleDescription().toStdString(),
                     testing::HasSubstr(note));
     }
@@ -162,22 +164,29 @@ TEST_F(HotKeyTest, AHotKeyIsBuiltWithoutAKeyAndATwiceUsedOneIsUsedOnce) {
     };
     choose("scanKeyBtn", "Choose keys…");
     EXPECT_TRUE(find("builderCommand")->hasFocus());
+    std::string keys;
+    for (const PopUpEntry& entry : popUp("builderKey").entries())
+        keys += entry.title.toStdString() + ' ';
+    for (const char* run : {"A B C", "J K L", "Z 0 1", "F1 F2", "F9 F10 F11",
+                            "Space Enter Backspace", "Num Lock keypad Enter keypad 0"})
+        EXPECT_THAT(keys, testing::HasSubstr(run)) << "in the order in which one looks for a key";
+    EXPECT_EQ(keys.find("enter"), keys.npos) << "Apple's code for Enter, which no key sends";
     click("builderControl"); // besides command, which the hot key has already
-    choose("builderKey", "esc");
+    choose("builderKey", "Esc");
     expectChange(0x1100, 0x35);
     click("builderCommand"), click("builderControl");
-    choose("builderKey", "esc"); // as “Cancel scan”
+    choose("builderKey", "Esc"); // as “Cancel scan”
     expectChange(0, 0x35);
     EXPECT_TRUE(find<QLabel>("cancelScanKeyNote")->text().contains("“Scan”"));
-    choose("scanKeyBtn", "Put back what was here");
+    choose("scanKeyBtn", "Undo the change here");
     expectChange(0x1100, 0x35);
-    choose("builderKey", "esc");
+    choose("builderKey", "Esc");
     expectChange(0, 0x35);
     choose("masterOnOffKeyBtn", "Choose keys…");
     click("builderControl"), click("builderShift");
-    choose("builderKey", "esc");
+    choose("builderKey", "Esc");
     expectChange(0, 0x35);
-    choose("scanKeyBtn", "Use it here and remove it there");
+    choose("scanKeyBtn", "Use these keys only here");
     EXPECT_EQ(shown("cancelScanKey") + shown("masterOnOffKey"), "-none--none-");
     EXPECT_EQ(shown("scanKey"), "esc");
     EXPECT_FALSE(popUp("scanKeyBtn").entries().back().enabled) << "there is nothing to settle";
