@@ -36,8 +36,8 @@ void TryPage::showResult() {
     const bool isOffered =
         advice.verdict == tryout::Verdict::Change || advice.verdict == tryout::Verdict::TryAgain;
     takeBtn_->setHidden(!isOffered);
-    takeBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Try it at %.1f"), advised_));
-    keepBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Keep %.1f"), conditions_.sweep.time));
+    takeBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Use %.1f s and try"), advised_));
+    keepBtn_->setTitle(withSeconds(LOCALIZABLE("Try", "Keep %.1f s"), conditions_.sweep.time));
     suggestion_ = tryout::suggestionOf(advice, steadiness, prefs);
     showSuggestion();
     showHistory(keep(advice, measured) ? "" : localized("Try", "This try couldn’t be stored."));

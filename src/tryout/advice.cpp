@@ -170,8 +170,10 @@ void adviseTimes(Advice& advice, const Conditions& tried, const Earlier& known) 
     adviseTime(advice, tried, choices, known);
     advice.expected = rated(tried.sweep, advice.time, tried.target, advice.timing).rate;
     advice.promised = rated(tried.sweep, advice.time, tried.target, advice.cautious).rate;
+    advice.expectedNow = rated(tried.sweep, tried.sweep.time, tried.target, advice.timing).rate;
+    advice.promisedNow = choices.tried.rate;
     if (advice.verdict == Verdict::Keep)
-        advice.promised = choices.tried.rate;
+        advice.promised = advice.promisedNow;
     if (tried.pointer && (advice.verdict == Verdict::Keep || advice.verdict == Verdict::Change))
         advisePointer(advice, tried, choices, known);
 }

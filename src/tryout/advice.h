@@ -53,6 +53,7 @@ struct Advice {
     double time = 0; ///< suggested for the line, in seconds; the tried one unless Change, TryAgain
     double expected = 0; ///< the line's share of hits at `time`, if the timing is as measured
     double promised = 0; ///< the least share that 95 of 100 users with such a try have there
+    double expectedNow = 0, promisedNow = 0; ///< the same at the time that was tried
     /// The time that suits the pointer with such a line; the set one if it suits. None when hits of
     /// the pointer can't be predicted. Suggest it only with Keep: one change at a time.
     std::optional<double> pointerTime;

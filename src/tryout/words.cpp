@@ -104,11 +104,22 @@ std::string evenText(const Advice& advice) {
                      "Your presses all came at the same moment, as far as this computer can tell.");
 }
 
-std::string lineText(const Advice& advice) {
-    return format(advice.verdict == Verdict::Keep
-                      ? LOCALIZABLE("Try", "%.1f seconds suits you: we expect %d in 10.")
-                      : LOCALIZABLE("Try", "At %.1f seconds we expect %d in 10."),
-                  advice.time, tenths(std::max(advice.expected, advice.promised)));
+/// "9 in 10, at least 7": what to expect, and what is sure. Both are rounded down.
+std::string sharesText(double expected, double promised) {
+    return format(LOCALIZABLE("Try", "%d in 10, at least %d"), tenths(std::max(expected, promised)),
+                  tenths(promised));
+}
+
+/// The speed of now has the same figures beside it.
+std::string lineText(const Advice& advice, const Conditions& tried) {
+    const std::string shares = sharesText(advice.expected, advice.promised);
+    if (advice.verdict == Verdict::Keep)
+        return format(LOCALIZABLE("Try", "%.1f seconds suits you: we expect %s."), advice.time,
+                      shares.c_str());
+    return format(LOCALIZABLE("Try", "At %.1f seconds we expect %s. At %.1f seconds, as it is now: "
+                                     "%s."),
+                  advice.time, shares.c_str(), tried.sweep.time,
+                  sharesText(advice.expectedNow, advice.promisedNow).c_str());
 }
 
 /// The result with the pointer after the line.
@@ -118,16 +129,14 @@ std::string clicksText(const Advice& advice, const Conditions& tried) {
     if (!advice.pointerTime)
         return localized("Try", "The pointer’s speed is too far from the line’s to say how many "
                                 "clicks will hit.");
-    const int promised = tenths(advice.clicksPromised);
-    const int expected = std::max(tenths(advice.clicks), promised);
+    const std::string shares = sharesText(advice.clicks, advice.clicksPromised);
     if (*advice.pointerTime == tried.pointer->time)
-        return format(LOCALIZABLE("Try", "With the pointer after it, at %.1f seconds, we expect "
-                                         "%d clicks in 10 to hit, and at least %d."),
-                      *advice.pointerTime, expected, promised);
-    return format(
-        LOCALIZABLE("Try", "With the pointer after it, at %.1f seconds instead of %.1f, we expect "
-                           "%d clicks in 10 to hit, and at least %d."),
-        *advice.pointerTime, tried.pointer->time, expected, promised);
+        return format(LOCALIZABLE("Try", "Line and pointer together, with the pointer at %.1f "
+                                         "seconds: %s."),
+                      *advice.pointerTime, shares.c_str());
+    return format(LOCALIZABLE("Try", "Line and pointer together, with the pointer at %.1f seconds "
+                                     "instead of %.1f: %s."),
+                  *advice.pointerTime, tried.pointer->time, shares.c_str());
 }
 
 std::string tryAgainText(const Advice& advice, const Conditions& tried) {
@@ -197,9 +206,9 @@ std::string steadinessText(const Steadiness& steadiness) {
 
 std::string surestText(const Click& click) {
     if (click.pointer.time <= 0)
-        return format(LOCALIZABLE("Try", "%d in 10 takes %.1f seconds."), tenths(kSurestRate),
-                      click.line.time);
-    return format(LOCALIZABLE("Try", "%d clicks in 10 to hit takes %.1f seconds for the line and "
+        return format(LOCALIZABLE("Try", "At least %d in 10 takes %.1f seconds."),
+                      tenths(kSurestRate), click.line.time);
+    return format(LOCALIZABLE("Try", "At least %d clicks in 10 takes %.1f seconds for the line and "
                                      "%.1f for the pointer."),
                   tenths(kSurestRate), click.line.time, click.pointer.time);
 }
@@ -247,7 +256,7 @@ std::string verdictText(const Advice& advice, const Conditions& tried, const Mea
                    "once more."));
     case Verdict::Keep:
     case Verdict::Change:
-        return withHits(lineText(advice), clicksText(advice, tried));
+        return withHits(lineText(advice, tried), clicksText(advice, tried));
     case Verdict::TryAgain:
         return withHits(tryAgainText(advice, tried));
     case Verdict::OutOfReach:

@@ -190,14 +190,14 @@ def check_history(tour: Tour, offsets: list[float]) -> str:
 
 
 def take_the_advice(tour: Tour) -> str:
-    button = next(n for n in tour.screen.names("push button") if n.startswith("Try it at"))
-    advised = float(button.split()[-1])
+    button = next(n for n in tour.screen.names("push button") if n.startswith("Use "))
+    advised = float(button.split()[1])
     tour.log.skip()
     tour.screen.click(button, "push button")
     account = tour.log.expect_change(SCAN_SPEED, "lineScanTime", advised)
     until(lambda: view(tour).description.startswith("A line"), "another try begins")
     tour.screen.click("Leave", "push button")
-    slider = tour.screen.find("Line scan time", "slider")
+    slider = tour.screen.find("Line crosses the screen in", "slider")
     check(slider.value == advised, f"the slider is at {slider.value}")
     press("key", "ctrl+z")
     undone = tour.log.expect_change(SCAN_SPEED, "lineScanTime", SCAN_TIME)
@@ -270,7 +270,7 @@ def leave_by_switch(tour: Tour) -> str:
 
     def is_left() -> None:
         until(lambda: "The line" not in tour.screen.names("push button"), "the page is left")
-        tour.screen.find("Line scan time", "slider")
+        tour.screen.find("Line crosses the screen in", "slider")
 
     this = open_the_page(tour)
     for _ in range(10):  # of them eight are measured

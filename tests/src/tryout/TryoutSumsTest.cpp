@@ -128,9 +128,12 @@ TEST(TryoutAdvice, EachKindOfUserGetsWordsOfTheirOwn) {
         {"no spread", tryOf([](int) { return 0.05; }), 10, Verdict::Change, 7, "same moment"},
         {"quick", tryOf([](int i) { return i % 2 == 0 ? 0.01 : -0.01; }), 20, Verdict::TryAgain,
          13.5, "quicker line"},
-        {"even", tryOf(kEven), 12, Verdict::Keep, 12, "12.0 seconds suits you: we expect 8 in 10"},
+        {"even", tryOf(kEven), 12, Verdict::Keep, 12,
+         "12.0 seconds suits you: we expect 8 in 10, at least 7"},
         {"uneven", withExtras(tryOf(kUneven), 3), 12, Verdict::Change, 19.5,
-         "in 10 of 12 sweeps. At 19.5 seconds we expect 9 in 10"},
+         "in 10 of 12 sweeps. At 19.5 seconds we expect 9 in 10, at least 8. At 12.0 seconds, as "
+         "it "
+         "is now: 8 in 10, at least 5."},
         {"slow", tryOf(late), 10, Verdict::TryAgain, 20, "slower line"},
         {"slowest", tryOf(late), 40, Verdict::OutOfReach, 40, "Even at 60 seconds"},
     };
@@ -143,6 +146,10 @@ TEST(TryoutAdvice, EachKindOfUserGetsWordsOfTheirOwn) {
         EXPECT_DOUBLE_EQ(advice.time, row.time) << row.who;
         const std::string words = resultText(advice, tried, row.measured, Trigger::Way::Press);
         EXPECT_NE(words.find(row.words), std::string::npos) << row.who << ": " << words;
+        const std::string details = detailsText(advice, {});
+        EXPECT_EQ(details.find("9 in 10"),
+                  advice.surest ? details.find("At least 9") + 9 : details.npos)
+            << "a lower bound is called one: " << details;
     }
 }
 
@@ -188,7 +195,7 @@ TEST(TryoutAdvice, APointerAlongTheLineMultiplies) {
     EXPECT_GE(advice.promised * hitRate({500, *advice.pointerTime}, 10, advice.cautious),
               kQuickestRate);
     words = resultText(advice, tried, measured, Trigger::Way::Step);
-    EXPECT_NE(words.find("seconds instead of 12.0, we expect"), std::string::npos) << words;
+    EXPECT_NE(words.find("seconds instead of 12.0: "), std::string::npos) << words;
     EXPECT_NE(words.find("one step a press"), std::string::npos) << words;
 
     measured = tryOf(kUneven);
