@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 
 namespace {
 
@@ -32,7 +33,8 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
 
 Strip::Strip(QWidget* parent)
     : QFrame(parent), text_(new QLabel(this)), edge_(new QWidget(this)),
-      buttonRow_(new QWidget(this)), buttons_(new QBoxLayout(QBoxLayout::LeftToRight, buttonRow_)),
+      room_(new QScrollArea(this)), buttonRow_(new QWidget(this)),
+      buttons_(new QBoxLayout(QBoxLayout::LeftToRight, buttonRow_)),
       content_(new QBoxLayout(QBoxLayout::LeftToRight)) {
     [[maybe_unused]] static const bool isKnown = [] {
         QAccessible::installFactory(makeInterface);
@@ -41,12 +43,17 @@ Strip::Strip(QWidget* parent)
     setAutoFillBackground(true);
     text_->setWordWrap(true);
     text_->setTextFormat(Qt::PlainText);
+    text_->setAutoFillBackground(false);
+    room_->setWidget(text_);
+    room_->setWidgetResizable(true);
+    room_->setFrameShape(QFrame::NoFrame);
+    room_->viewport()->setAutoFillBackground(false);
     buttons_->setContentsMargins(0, 0, 0, 0);
     edge_->setFixedHeight(kEdge);
     edge_->setAutoFillBackground(true);
     content_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     content_->setSpacing(kMargin);
-    content_->addWidget(text_, 1);
+    content_->addWidget(room_, 1);
     content_->addWidget(buttonRow_);
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
@@ -134,4 +141,13 @@ void Strip::arrangeButtons() {
     buttons_->setAlignment(isNarrow ? Qt::Alignment() : Qt::AlignLeft);
     const bool isBeside = needed + kReadable * fontMetrics().height() <= room;
     content_->setDirection(isBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    makeRoomForText(isBeside ? room - needed : room);
+}
+
+/// A long list of changes is scrolled, by keys too.
+void Strip::makeRoomForText(int textWidth) {
+    const int needed = text_->heightForWidth(textWidth);
+    const int most = window()->height() * 2 / 5;
+    room_->setFixedHeight(std::min(needed, most));
+    room_->setFocusPolicy(needed > most ? Qt::StrongFocus : Qt::NoFocus);
 }

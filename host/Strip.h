@@ -6,6 +6,7 @@
 class QBoxLayout;
 class QLabel;
 class QPushButton;
+class QScrollArea;
 
 /// Shows the current message of UserMessages.h with its buttons: an alert on yellow, a note in the
 /// desktop's colours. Hidden without a message. To a screen reader it is an alert named by the
@@ -23,9 +24,11 @@ private:
     void setColors(bool isAlert);
     void addButton(const QString& label, std::function<void()> press);
     void arrangeButtons();
+    void makeRoomForText(int textWidth);
 
     QLabel* text_;
     QWidget* edge_; ///< a line between strip and pane
+    QScrollArea* room_;
     QWidget* buttonRow_;
     QBoxLayout* buttons_;
     QBoxLayout* content_;
