@@ -36,13 +36,13 @@ bool isSame(const PrefsRecord& a, const PrefsRecord& b) {
 /// The title of a section's button, or of the button for all.
 std::string resetTitle(int count, bool all) {
     if (count == 0)
-        return all ? localized("Changes", "Put everything back")
-                   : localized("Changes", "Nothing to put back");
+        return all ? localized("Changes", "Reset everything")
+                   : localized("Changes", "Nothing to reset");
     if (all)
-        return count == 1 ? localized("Changes", "Put everything back: 1 setting")
-                          : localized("Changes", "Put everything back: %n settings", "", count);
-    return count == 1 ? localized("Changes", "Put 1 setting back")
-                      : localized("Changes", "Put %n settings back", "", count);
+        return count == 1 ? localized("Changes", "Reset everything: 1 setting")
+                          : localized("Changes", "Reset everything: %n settings", "", count);
+    return count == 1 ? localized("Changes", "Reset 1 setting")
+                      : localized("Changes", "Reset %n settings", "", count);
 }
 
 } // namespace

@@ -23,7 +23,7 @@ double secondsNow() {
     return std::chrono::duration<double>(now).count();
 }
 
-/// A step in words: "Line scan time: 12.5 back to 10.0 sec, and 2 settings more."
+/// A step in words: "Volume: 70 back to 50, and 2 more settings."
 std::string stepText(const SettingSet& settings, const PrefsRecord& before,
                      const PrefsRecord& after, const char* pattern) {
     return filled(localized("Changes", "%1.", "a sentence"),
@@ -97,9 +97,8 @@ void PreferenceWrangler::resetPaletteButtons(NSButton*) {
     if (differences(before, prefs).any())
         tellUser(kChangeTopic,
                  {.kind = UserMessage::Kind::Note,
-                  .text = localized("Changes",
-                                    "The palette has the buttons again that Korvex came with."),
-                  .buttons = {undoButton(localized("Changes", "Put it back"))}});
+                  .text = localized("Changes", "The palette has its original buttons again."),
+                  .buttons = {undoButton(localized("Changes", "Undo"))}});
 }
 
 void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& before,
@@ -134,7 +133,7 @@ void PreferenceWrangler::putBack(const SettingSet& settings, const PrefsRecord& 
     adopt(settings, record);
     tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note,
                             .text = stepText(settings, before, prefs, kSettingBecomesAgain),
-                            .buttons = {undoButton(localized("Changes", "Undo this"))}});
+                            .buttons = {undoButton(localized("Changes", "Undo"))}});
 }
 
 void PreferenceWrangler::takeImport(const SettingsOffer& offer) {
@@ -145,7 +144,7 @@ void PreferenceWrangler::takeImport(const SettingsOffer& offer) {
     adopt(changes, offer.record);
     tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note,
                             .text = stepText(changes, before, prefs, kSettingBecomes),
-                            .buttons = {undoButton(localized("Changes", "Put it back"))}});
+                            .buttons = {undoButton(localized("Changes", "Undo"))}});
 }
 
 /// Tells the agent first, since showing every value takes longer.

@@ -32,7 +32,7 @@ struct Setting {
     std::size_t offset;            ///< of the field in PrefsRecord
     std::size_t size;              ///< of the field, in bytes
     ChangeMask changes;            ///< the groups that a change reports; 0 for none
-    const char* name;              ///< in words, as in "Line scan time: 12.5 sec"
+    const char* name;              ///< in words, as in "Volume: 50"
     SettingLimits limits = {};
     std::span<const char* const> choices = {}; ///< the values of a choice in words, from 0
     SettingControl control = SettingControl::other;
@@ -104,7 +104,7 @@ inline constexpr ChangeMask kBothLines = kChangeScanLineLook | kChangeGuideLineL
 /// In the record's order, which is that of loading and saving.
 // clang-format off
 inline constexpr Setting kRows[] = {
-    {SETTING("on", kFlagNotation, on, kChangeOnOff), LOCALIZABLE("Settings", "Scanning")},
+    {SETTING("on", kFlagNotation, on, kChangeOnOff), LOCALIZABLE("Settings", "Scanning with Korvex")},
     {SETTING("playClickSounds", kFlagNotation, playClickSounds, kChangeSounds),
      LOCALIZABLE("Settings", "A sound for each click"), CHECK("playClickSoundsCheck", "changedPlayClickSounds:")},
     {SETTING("playDragPrompts", kFlagNotation, playDragPrompts, kChangeSounds),
@@ -137,18 +137,18 @@ inline constexpr Setting kRows[] = {
     {SETTING("scanner.fakeMouse2SwitchMode", kFlagNotation, fakeMouse2SwitchMode, 0),
      LOCALIZABLE("Settings", "Second mouse button as a second switch")},
     {SETTING("scanner.scanMode", kDecimalNotation, scanMode, kChangeTriggers),
-     LOCALIZABLE("Settings", "Scan mode"), {}, kScanModes},
+     LOCALIZABLE("Settings", "Way of scanning"), {}, kScanModes},
     {SETTING("scanner.scanArea", kRectangleNotation, scanArea, kChangeScanArea), LOCALIZABLE("Settings", "My own area")},
     {SETTING("scanner.useScanArea", kFlagNotation, useScanArea, kChangeScanArea),
-     LOCALIZABLE("Settings", "Scan"), {}, kScanAreas},
+     LOCALIZABLE("Settings", "What is scanned"), {}, kScanAreas},
     {SETTING("scanner.lineScanCanEndKybdMode", kFlagNotation, lineScanCanEndKybdMode,
              kChangeKeyboardMode),
      LOCALIZABLE("Settings", "Line scan ends keyboard mode"),
      CHECK("lineScanCanEndKybdModeCheck", "changedLineScanCanEndKyndMode:")},
     {SETTING("scanner.lineScanTime", kRealNotation, lineScanTime, kChangeScanSpeed),
-     LOCALIZABLE("Settings", "Line scan time"), seconds(1, 60), SLIDER("lineScanTime")},
+     LOCALIZABLE("Settings", "Line crosses the screen in"), seconds(1, 60), SLIDER("lineScanTime")},
     {SETTING("scanner.pointerScanTime", kRealNotation, pointerScanTime, kChangeScanSpeed),
-     LOCALIZABLE("Settings", "Pointer scan time"), seconds(1, 60), SLIDER("pointerScanTime")},
+     LOCALIZABLE("Settings", "Pointer crosses the screen in"), seconds(1, 60), SLIDER("pointerScanTime")},
     {SETTING("scanner.menuScanSpeedScaleFactor", kRealNotation, menuScanSpeedScaleFactor,
              kChangeScanSpeed),
      LOCALIZABLE("Settings", "Speed in menus"), percent(10, 200, 5), SLIDER("menuScanSpeedScaleFactor")},
@@ -156,7 +156,7 @@ inline constexpr Setting kRows[] = {
      LOCALIZABLE("Settings", "Start slowly, then speed up"),
      CHECK("useScanAccelerationCheck", "changedUseScanAcceleration:")},
     {SETTING("scanner.autoRepeatTime", kRealNotation, autoRepeatTime, kChangeScanSpeed),
-     LOCALIZABLE("Settings", "Time between repeats"), seconds(0.5, 20), SLIDER("autoRepeatTime")},
+     LOCALIZABLE("Settings", "Repeat an action every"), seconds(0.5, 20), SLIDER("autoRepeatTime")},
     {SETTING("scanner.clickDuration", kRealNotation, clickDuration, kChangeScanSpeed),
      LOCALIZABLE("Settings", "Length of a click"), kMilliseconds, SLIDER("clickTime")},
     {SETTING("scanner.interClickDelay", kRealNotation, interClickDelay, 0), LOCALIZABLE("Settings", "Pause between clicks")},
@@ -171,15 +171,15 @@ inline constexpr Setting kRows[] = {
     {SETTING("scanner.pointerImageName", kTextNotation, pointerImageName, kChangePointer), LOCALIZABLE("Settings", "Pointer")},
     {SETTING("hotkeys.keys", kHotKeyListNotation, hotKeys, kChangeHotKeys), LOCALIZABLE("Settings", "Hot keys")},
     {SETTING("palette.borderGap", kDecimalNotation, borderGap, kChangePalette),
-     LOCALIZABLE("Settings", "Space around the edge of the palette"), points(0, 100), BUMPER("borderGap")},
+     LOCALIZABLE("Settings", "Space around the edge"), points(0, 100), BUMPER("borderGap")},
     {SETTING("palette.buttonGap", kDecimalNotation, buttonGap, kChangePalette),
-     LOCALIZABLE("Settings", "Space between palette buttons"), points(0, 100), BUMPER("buttonGap")},
+     LOCALIZABLE("Settings", "Space between the buttons"), points(0, 100), BUMPER("buttonGap")},
     {SETTING("palette.buttonSize", kSizeNotation, buttonSize, kChangePalette),
-     LOCALIZABLE("Settings", "Size of palette buttons"), {kMinButtonSize, kMaxButtonSize, 0, nullptr, LOCALIZABLE("Units", "points")}},
+     LOCALIZABLE("Settings", "Size of the buttons"), {kMinButtonSize, kMaxButtonSize, 0, nullptr, LOCALIZABLE("Units", "points")}},
     {SETTING("palette.buttonShape", kHexWordNotation, buttonShape, kChangePalette),
-     LOCALIZABLE("Settings", "Corners of palette buttons"), {}, kCorners},
+     LOCALIZABLE("Settings", "Corners of the buttons"), {}, kCorners},
     {SETTING("palette.buttonContent", kHexWordNotation, buttonContent, kChangePalette),
-     LOCALIZABLE("Settings", "Shown on palette buttons")},
+     LOCALIZABLE("Settings", "Shown on the buttons")},
     {SETTING("palette.buttonActions", kActionListNotation, buttonActions, kChangePalette),
      LOCALIZABLE("Settings", "Palette buttons")},
 };

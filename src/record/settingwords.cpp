@@ -37,6 +37,10 @@ std::string print(const char* format, Parts... parts) {
     return localizedNumbers(text);
 }
 
+std::string onOrOff(UInt32 isOn) {
+    return isOn ? localized("Settings", "on") : localized("Settings", "off");
+}
+
 std::string choiceText(const Setting& setting, const PrefsRecord& record) {
     UInt32 choice = 0;
     std::memcpy(&choice, setting.in(record), setting.size); // little-endian, like the record
@@ -124,12 +128,29 @@ std::vector<PartChange> actionChanges(const PrefsRecord& before, const PrefsReco
     return changes;
 }
 
+std::vector<PartChange> contentChanges(const PrefsRecord& before, const PrefsRecord& after) {
+    static constexpr struct {
+        UInt32 bit;
+        const char* name;
+    } kParts[] = {{kButtonContentIcon, LOCALIZABLE("Settings", "Show the icon")},
+                  {kButtonContentName, LOCALIZABLE("Settings", "Show the name")}};
+
+    std::vector<PartChange> changes;
+    for (const auto& [bit, name] : kParts)
+        if ((before.buttonContent ^ after.buttonContent) & bit)
+            changes.push_back({localized("Settings", name), onOrOff(before.buttonContent & bit),
+                               onOrOff(after.buttonContent & bit)});
+    return changes;
+}
+
 /// The parts of a setting that differ, if its parts have names. There are none if many buttons of
 /// the palette differ: their list is told as a whole then.
 std::vector<PartChange> partChanges(const Setting& setting, const PrefsRecord& before,
                                     const PrefsRecord& after) {
     if (setting.notation == &kHotKeyListNotation)
         return hotKeyChanges(before, after);
+    if (setting.offset == offsetof(PrefsRecord, buttonContent))
+        return contentChanges(before, after);
     if (setting.notation != &kActionListNotation)
         return {};
     auto changes = actionChanges(before, after);
@@ -175,8 +196,7 @@ std::string settingText(const Setting& setting, const PrefsRecord& record) {
     if (!setting.choices.empty())
         return choiceText(setting, record);
     if (setting.notation == &kFlagNotation)
-        return get<UInt8>(setting, record) ? localized("Settings", "on")
-                                           : localized("Settings", "off");
+        return onOrOff(get<UInt8>(setting, record));
     if (setting.notation == &kRectangleNotation)
         return areaText(record.scanArea);
     if (setting.notation == &kColourNotation)
@@ -220,16 +240,25 @@ std::string changesText(const SettingSet& settings, const PrefsRecord& before,
     const int others = static_cast<int>(settings.count()) - 1;
     if (others == 0)
         return text;
-    return filled(others == 1 ? localized("Changes", "%1, and 1 setting more")
-                              : localized("Changes", "%1, and %n settings more", "", others),
+    return filled(others == 1 ? localized("Changes", "%1, and 1 more setting")
+                              : localized("Changes", "%1, and %n more settings", "", others),
                   {text});
+}
+
+std::string changeLines(const SettingSet& settings, const PrefsRecord& before,
+                        const PrefsRecord& after) {
+    std::string lines;
+    for (std::size_t i = 0; i < kSettings.size(); ++i)
+        if (settings[i])
+            lines += "\n" + changeText(kSettings[i], before, after, kSettingBecomes);
+    return lines;
 }
 
 std::string putBackText(const Setting& setting, const PrefsRecord& now, const PrefsRecord& after) {
     if (settingText(setting, now) == settingText(setting, after))
-        return filled(localized("Changes", "Put “%1” back to its default"),
+        return filled(localized("Changes", "Reset “%1” to its default"),
                       {localized("Settings", setting.name)});
-    return changeText(setting, now, after, LOCALIZABLE("Changes", "Put “%1” back to %3"));
+    return changeText(setting, now, after, LOCALIZABLE("Changes", "Reset “%1” to %3"));
 }
 
 std::string rangeText(const SettingLimits& limits) {

@@ -22,7 +22,7 @@ void setSettingNumber(const Setting& setting, double value, PrefsRecord& record)
 inline constexpr char kSettingBecomes[] = LOCALIZABLE("Changes", "%1: %2 to %3");
 inline constexpr char kSettingBecomesAgain[] = LOCALIZABLE("Changes", "%1: %2 back to %3");
 
-/// A change in words, as in "Line scan time: 12.5 back to 10.0 sec", with one of the patterns
+/// A change in words, as in "Volume: 70 back to 50", with one of the patterns
 /// above. It names each hot key that differs, and up to two buttons of the palette. Two values with
 /// the same words are left out.
 std::string changeText(const Setting& setting, const PrefsRecord& before, const PrefsRecord& after,
@@ -32,7 +32,11 @@ std::string changeText(const Setting& setting, const PrefsRecord& before, const 
 std::string changesText(const SettingSet& settings, const PrefsRecord& before,
                         const PrefsRecord& after, const char* pattern);
 
-/// The effect of putting it back, as in "Put “Line scan time” back to 10.0 sec".
+/// All of them, each in a line of its own, which a line break precedes.
+std::string changeLines(const SettingSet& settings, const PrefsRecord& before,
+                        const PrefsRecord& after);
+
+/// The effect of putting it back, as in "Reset “Volume” to 50".
 std::string putBackText(const Setting& setting, const PrefsRecord& now, const PrefsRecord& after);
 
 /// Limits in words, as in "1 to 60 seconds".

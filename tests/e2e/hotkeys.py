@@ -85,7 +85,7 @@ def set_to_none_and_default(tour: "Tour") -> str:
         open_menu(tour, "Scan", "n", *["Down"] * item, "Return")
         accounts.append(expect(tour, "Scan", COMMAND, code))
         until(lambda: view(tour, "Scan").text == text, f"{text} is shown")
-    for button, code in ("Cancel", None), ("None", NONE | 0x35), ("Default", 0x35):
+    for button, code in ("Cancel", None), ("None", NONE | 0x35), ("Reset", 0x35):
         begin(tour, "Cancel the scan")
         tour.screen.click(button, "push button")
         if code:

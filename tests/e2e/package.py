@@ -80,8 +80,8 @@ class Visit:
         self.screen = screen
 
     def lengthen(self, seconds: float) -> None:
-        self.screen.click("Line scan time, longer", "push button")
-        slider = self.screen.find("Line scan time", "slider")
+        self.screen.click("Line crosses the screen in, longer", "push button")
+        slider = self.screen.find("Line crosses the screen in", "slider")
         until(lambda: slider.value == seconds, f"the time becomes {seconds}")
 
     def close(self) -> None:

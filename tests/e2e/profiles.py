@@ -31,7 +31,7 @@ def use_two_in_turn(tour: "Tour") -> str:
     """Save two profiles by ready names, use them in turn by menu and by command, and undo"""
     save(tour, "Morning")
     tour.choose_tab("Scanning")
-    tour.screen.click("Line scan time, longer", "push button")
+    tour.screen.click("Line crosses the screen in, longer", "push button")
     changed = expect_time(tour, 11)
     tour.screen.find("Profile: Morning, changed", "push button")
     save(tour, "Tired")
@@ -66,7 +66,7 @@ def choose_file(tour: "Tour", button: str, path: str) -> None:
 def export_them(tour: "Tour") -> str:
     """Save all settings in a file"""
     tour.exported = tour.desktop.folder / "all.plist"
-    choose_file(tour, "Export the settings", str(tour.exported))
+    choose_file(tour, "Export settings", str(tour.exported))
     until(tour.exported.exists, "the file is there")
     (text,) = until(lambda: tour.screen.names("alert"), "it is told")
     check(str(tour.exported) in text, text)

@@ -47,12 +47,12 @@ WANTED = {
 WELCOME = ("Not now", "Press your switch", "Start")
 STEPS = {
     "Scanning": (
-        ("text", "Line scan time", "12.5", "longer"),
+        ("text", "Line crosses the screen in", "12.5", "longer"),
         ("text", "Speed in menus", "70", "faster"),
         ("check box", "Start slowly, then speed up"),
         ("list item", "Left third"),
         ("text", "Top edge of my own area", "50", "further down"),
-        ("push button", "Put 5 settings back"),
+        ("push button", "Reset 5 settings"),
         ("push button", "Undo this"),
         ("push button", "Redo"),
         ("push button", "Undo"),
@@ -73,7 +73,7 @@ STEPS = {
     "Palette": (
         ("push button", "Add a button", "Undo"),
         ("radio button", "Rounded"),
-        ("text", "Palette buttons", "43", "larger"),
+        ("text", "Size of the buttons", "43", "larger"),
     ),
     "General": (
         ("check box", "Prompts while dragging"),

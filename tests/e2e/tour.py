@@ -126,9 +126,9 @@ def look_at_the_tabs(tour: Tour) -> str:
 def change_three_settings(tour: Tour) -> str:
     """Press plus on the line scan time, leave out the menu bar, choose another scan mode"""
     tour.choose_tab("Scanning")
-    tour.screen.click("Line scan time, longer", "push button")
+    tour.screen.click("Line crosses the screen in, longer", "push button")
     time = tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10.5)
-    slider = tour.screen.find("Line scan time", "slider")
+    slider = tour.screen.find("Line crosses the screen in", "slider")
     until(lambda: slider.value == 10.5, "the slider follows")
     tour.screen.click("Scan the menu bar too", "check box")
     menu_bar = tour.log.expect_change(NO_GROUP, "canScanMenuBar", 0)
@@ -141,16 +141,16 @@ def put_a_section_back(tour: Tour) -> str:
     """Put a setting back in its row, then its whole section; undo, redo and undo it"""
     tour.choose_tab("Scanning")
     tour.picture("not-at-their-defaults")
-    tour.screen.click("Put “Line scan time” back to 10.0 sec", "push button")
+    tour.screen.click("Reset “Line crosses the screen in” to 10.0 sec", "push button")
     row = tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10)
     press("key", "ctrl+z")
     tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10.5)
     menu_bar = tour.screen.find("Scan the menu bar too", "check box")
-    tour.screen.click("Put 2 settings back", "push button")
+    tour.screen.click("Reset 2 settings", "push button")
     mask = tour.log.expect("SAPr")["mask"]
     check(mask == SCAN_SPEED | NO_GROUP, f"mask {mask} of the section")
     until(lambda: menu_bar.checked, "the menu bar is scanned again")
-    check(tour.screen.find("Line scan time", "slider").value == 10, "the line scan time is changed")
+    check(tour.screen.find("Line crosses the screen in", "slider").value == 10, "the line scan time is changed")
     tour.picture("section-put-back")
     press("key", "ctrl+z")
     undone = tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10.5)
@@ -180,7 +180,7 @@ def open_it_again(tour: Tour) -> str:
     high, low = tour.log.expect("PPop")["psn"]
     check(process_of(f":{high}.{low}") == tour.program.pid, "PPop names another process")
     screen = tour.screen
-    check(screen.find("Line scan time", "slider").value == 10.5, "the line scan time is lost")
+    check(screen.find("Line crosses the screen in", "slider").value == 10.5, "the line scan time is lost")
     check(not screen.find("Scan the menu bar too", "check box").checked, "the menu bar is back")
     tour.choose_tab("Presses")
     tour.wait_for_choice("Hold to scan, let go to choose")

@@ -63,7 +63,7 @@ def without_a_window():
     expect('"from": "10.0 sec", "to": "12.5 sec"', "profile", "compare", "Tired", "--json")
     expect("there is no profile", "profile", "compare", "Nobody", "Tired", status=1)
     expect("10.0 sec", "get", "scanner.lineScanTime")
-    expect("Line scan time: 10.0 to 12.5 sec", "profile", "use", "Tired")
+    expect("Line crosses the screen in: 10.0 to 12.5 sec", "profile", "use", "Tired")
     run("set", "soundLevel", "49")
     expect("Tired (in use, changed)", "profile", "list")
     expect("Volume: 49 to 50", "profile", "use", "Tired")

@@ -66,7 +66,7 @@ void NumberRow::build() {
     const auto named = [this](const char* property, const QString& how) {
         return how.arg(accessibleName(), this->property(property).toString());
     };
-    //: As in "Line scan time, longer"
+    //: As in "Volume, louder"
     const QString step = QCoreApplication::translate("NumberRow", "%1, %2");
     const QString page = QCoreApplication::translate("NumberRow", "%1, much %2");
     const bool hasSlider = property("maxValue").isValid();

@@ -17,7 +17,7 @@ class QLabel;
 ///
 /// - caption, with a mnemonic marked by “&”; accessibleName, if it differs from the caption;
 ///   accessibleDescription: the explanation that is shown;
-/// - less, more: what its buttons do, as in "Line scan time, longer";
+/// - less, more: what its buttons do, as in "Volume, louder";
 /// - minValue, maxValue, decimals: the slider's limits and its decimal places; without limits there
 ///   is no slider;
 /// - indented: the row belongs to the radio button above it.

@@ -68,7 +68,7 @@ void PutBackButton::offer(const QString& label, std::function<void()> press) {
     const bool offered = !label.isEmpty();
     press_ = offered ? std::move(press) : nullptr;
     const QString name =
-        offered ? label : QCoreApplication::translate("PutBackButton", "Back at its default");
+        offered ? label : QCoreApplication::translate("PutBackButton", "Reset to its default");
     if (accessibleName() == name)
         return; // assistive technology hears of no news, and nothing is drawn anew
     setAccessibleName(name);

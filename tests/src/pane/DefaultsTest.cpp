@@ -34,36 +34,36 @@ TEST_P(DefaultsTest, EachRowThatDiffersIsMarkedAndPutBack) {
         ChangeMask mask;
     } cases[] = {
         {[](auto& r) { r.lineScanTime = 12.5; }, "lineScanTimePutBack",
-         "Put “Line scan time” back to 20.0 sec", kChangeScanSpeed},
+         "Reset “Line crosses the screen in” to 20.0 sec", kChangeScanSpeed},
         {[](auto& r) { r.canScanMenuBar = 0; }, "canScanMenuBarCheckPutBack",
-         "Put “Scan the menu bar too” back to on", 0},
+         "Reset “Scan the menu bar too” to on", 0},
         {[](auto& r) { r.launchAtLogin = 0; }, "launchAtLoginPutBack",
-         "Put “Start Korvex when you log in” back to on", kChangeLaunch},
+         "Reset “Start Korvex when you log in” to on", kChangeLaunch},
         {[](auto& r) { r.scanMode = 2; }, "scanModeRadios2PutBack",
-         "Put “Scan mode” back to “Press to start, press to choose”", kChangeTriggers},
+         "Reset “Way of scanning” to “Press to start, press to choose”", kChangeTriggers},
         {[](auto& r) {
              r.scanArea = {0, 0, 640, 480};
          },
-         "scanAreaRowPutBack", "Put “My own area” back to none", kChangeScanArea},
+         "scanAreaRowPutBack", "Reset “My own area” to none", kChangeScanArea},
         {[](auto& r) {
              r.lineColor = {0, 0, 255};
          },
-         "lineColorRowPutBack", "Put “Line colour” back to Red (#640000)",
+         "lineColorRowPutBack", "Reset “Line colour” to Red (#640000)",
          kChangeScanLineLook | kChangeGuideLineLook},
         {[](auto& r) { std::strcpy(r.pointerImageName, "big"); }, "pointerRowPutBack",
-         "Put “Pointer” back to “default”", kChangePointer},
+         "Reset “Pointer” to “default”", kChangePointer},
         {[](auto& r) { r.buttonShape = 1; }, "buttonShapeRowPutBack",
-         "Put “Corners of palette buttons” back to “Square”", kChangePalette},
+         "Reset “Corners of the buttons” to “Square”", kChangePalette},
         {[](auto& r) { r.buttonContent = 1; }, "buttonContentNameCheckPutBack",
-         "Put “Shown on palette buttons” back to icon and name", kChangePalette},
+         "Reset “Show the name” to on", kChangePalette},
         {[](auto& r) { r.buttonSize.width = 60; }, "buttonWidthPutBack",
-         "Put “Size of palette buttons” back to 40 × 40 points", kChangePalette},
+         "Reset “Size of the buttons” to 40 × 40 points", kChangePalette},
         {[](auto& r) {
              r.hotKeys[2] = {-1, 0};
          },
-         "cancelScanKeyRowPutBack", "Put “Cancel the scan (hot key)” back to esc", kChangeHotKeys},
+         "cancelScanKeyRowPutBack", "Reset “Cancel the scan (hot key)” to esc", kChangeHotKeys},
         {[](auto& r) { r.buttonActions[0] = 5; }, "paletteEditorPutBack",
-         "Put “Palette button 1” back to “Click”", kChangePalette},
+         "Reset “Palette button 1” to “Click”", kChangePalette},
     };
 
     muteNotice("<key>scanner.lineScanTime</key><string>20.0</string>");
@@ -113,12 +113,12 @@ TEST_P(DefaultsTest, ASectionOrAllGoBackInOneChangeThatCanBeUndone) {
     }
 
     const PrefsRecord changed = prefs;
-    EXPECT_EQ(find<QAbstractButton>("generalResetBtn")->text(), "Put 1 setting back");
-    EXPECT_EQ(find<QAbstractButton>("allResetBtn")->text(), "Put everything back: 5 settings");
+    EXPECT_EQ(find<QAbstractButton>("generalResetBtn")->text(), "Reset 1 setting");
+    EXPECT_EQ(find<QAbstractButton>("allResetBtn")->text(), "Reset everything: 5 settings");
 
     press("scanningResetBtn");
     EXPECT_EQ(agentLog_.nextMask(), kChangeScanSpeed);
-    EXPECT_EQ(told(), "Scan the menu bar too: off back to on, and 1 setting more.");
+    EXPECT_EQ(told(), "Scan the menu bar too: off back to on, and 1 more setting.");
     EXPECT_EQ(double{prefs.lineScanTime}, 10);
     EXPECT_EQ(prefs.scanMode, 1);
     EXPECT_FALSE(find("scanningResetBtn")->isEnabled());

@@ -2,9 +2,13 @@
 #include "src/record/settingwords.h"
 #include "tests/support/PaneFixture.h"
 
+#include <QGroupBox>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QSlider>
+
+#include <algorithm>
+#include <map>
 
 namespace {
 
@@ -36,6 +40,49 @@ protected:
         return find<QLineEdit>(name.c_str())->text().toStdString();
     }
 };
+
+/// Undo, defaults, commands and screen readers call a setting by the words beside its control.
+TEST_F(SettingsTest, ASettingHasOneName) {
+    static const std::map<std::string, const char*> kOthers = {
+        {"on", "masterHeading"},
+        {"launchAtLogin", "launchAtLogin"},
+        {"activateAtLaunch", "activateAtLaunch"},
+        {"scanner.triggerOnRelease", "triggerOnReleaseRowTitle"},
+        {"scanner.scanMode", "modeCard"},
+        {"scanner.scanArea", "scanAreaRowTitle"},
+        {"scanner.useScanArea", "areaCard"},
+        {"scanner.lineColor", "lineColorRowTitle"},
+        {"scanner.pointerImageName", "pointerRowTitle"},
+        {"hotkeys.keys", "hotKeysCard"},
+        {"palette.buttonSize", "buttonSizeTitle"},
+        {"palette.buttonShape", "buttonShapeRowTitle"},
+        {"palette.buttonActions", "paletteCard"},
+    };
+    const auto shown = [this](const std::string& name) {
+        const auto* widget = find(name.c_str());
+        const char* property = qobject_cast<const QGroupBox*>(widget) ? "title" : "text";
+        return widget->property(property).toString().remove('&').toStdString();
+    };
+
+    open();
+    for (const Setting& setting : kSettings) {
+        const std::string outlet = setting.outlet ? setting.outlet : "";
+        if (const auto other = kOthers.find(setting.key); other != kOthers.end()) {
+            EXPECT_EQ(shown(other->second), setting.name);
+        }
+        if (outlet.empty())
+            continue;
+        EXPECT_EQ(shown(setting.isNumber() ? outlet + "Title" : outlet), setting.name);
+        if (setting.isNumber()) {
+            EXPECT_EQ(find((outlet + "Label").c_str())->accessibleName().toStdString(),
+                      setting.name);
+        }
+    }
+    for (const char* group : {"scanModeRadios", "useScanAreaRadios", "buttonShapeRadios"})
+        EXPECT_TRUE(std::ranges::any_of(kSettings, [&](const Setting& setting) {
+            return find(group)->accessibleName().toStdString() == setting.name;
+        })) << group;
+}
 
 TEST_F(SettingsTest, EachNumberAndCheckBoxChangesItsSettingAloneAndReportsItsGroup) {
     openWithAgent();

@@ -86,7 +86,7 @@ TEST_F(UndoTest, EachKindOfChangeIsOneStepThatIsSaidAndShown) {
              for (int i = 0; i < 3; ++i)
                  click("lineScanTimeIncBtn");
          },
-         "Line scan time: 11.5 back to 10.0 sec.", "lineScanTimeSlider"},
+         "Line crosses the screen in: 11.5 back to 10.0 sec.", "lineScanTimeSlider"},
         {[&] {
              keys("volumeSlider", {Qt::Key_Right, Qt::Key_Right});
          },
@@ -96,15 +96,15 @@ TEST_F(UndoTest, EachKindOfChangeIsOneStepThatIsSaidAndShown) {
         {[&] { click("playDragPrompts"); }, "Prompts while dragging: off back to on.",
          "playDragPrompts"},
         {[&] { click("scanModeRadios2"); },
-         "Scan mode: “Each press moves one step” back to “Press to start, press to choose”.",
+         "Way of scanning: “Each press moves one step” back to “Press to start, press to choose”.",
          "scanModeRadios0"},
         {[&] {
              keys("scanAreaGrid", {Qt::Key_Home, Qt::Key_Right, Qt::Key_Space});
          },
-         "My own area: 400 × 800 at 0, 0 back to 100 × 80 at 0, 0, and 1 setting more.",
+         "My own area: 400 × 800 at 0, 0 back to 100 × 80 at 0, 0, and 1 more setting.",
          "scanAreaBtn"},
         {[&] { hold("scanAreaWidthIncBtn"); },
-         "My own area: 120 × 80 at 0, 0 back to 100 × 80 at 0, 0, and 1 setting more.",
+         "My own area: 120 × 80 at 0, 0 back to 100 × 80 at 0, 0, and 1 more setting.",
          "scanAreaBtn"},
         {[&] { dragColours(); }, "Line colour: Blue (#0000ff) back to Red (#640000).", "lineColor"},
         {[&] {
@@ -123,9 +123,9 @@ TEST_F(UndoTest, EachKindOfChangeIsOneStepThatIsSaidAndShown) {
          "Scroll”.",
          "paletteView"},
         {[&] { click("buttonContentNameCheck"); },
-         "Shown on palette buttons: icon back to icon and name.", "buttonContentNameCheck"},
+         "Show the name: off back to on.", "buttonContentNameCheck"},
         {[&] { hold("buttonHeightIncBtn"); },
-         "Size of palette buttons: 40 × 42 back to 40 × 40 points.", "buttonHeightPageDecBtn"},
+         "Size of the buttons: 40 × 42 back to 40 × 40 points.", "buttonHeightPageDecBtn"},
         {[&] { click("launchAtLogin"); }, "Start Korvex when you log in: off back to on.",
          "launchAtLogin"},
     };

@@ -37,7 +37,7 @@ TEST(HistoryTest, ChangesOfOneNumberWithinTwoSecondsAreOneStep) {
     const HistoryStep* first = history.undo(record);
     EXPECT_EQ(
         changeText(settingOf(first->settings), first->after, first->before, kSettingBecomesAgain),
-        "Line scan time: 11.5 back to 10.0 sec");
+        "Line crosses the screen in: 11.5 back to 10.0 sec");
     EXPECT_FALSE(history.canUndo());
     const PrefsRecord factory;
     EXPECT_EQ(std::memcmp(&record, &factory, sizeof record), 0);
@@ -106,19 +106,20 @@ TEST(SettingWordsTest, EverySettingReadsInPeoplesWords) {
     for (std::size_t i = 0; i < kSettings.size(); ++i)
         if (changed[i])
             texts += changeText(kSettings[i], before, after, kSettingBecomes) + "\n";
-    EXPECT_EQ(texts,
-              "Scanning: on to off\n"
-              "Scan mode: “Press to start, press to choose” to “Hold to scan, let go to choose”\n"
-              "My own area: 64 × 48 at 0, 10 to 640 × 480 at 0, 10\n"
-              "Speed in menus: 60% to 65%\n"
-              "Line colour: Red (#640000) to Blue\n"
-              "Line thickness: 7 to 9 points\n"
-              "Pointer: “Zeiger größer” to “bigé”\n"
-              "Cancel the scan (hot key): esc to none\n"
-              "Size of palette buttons: 40 × 40 to 60 × 50 points\n"
-              "Shown on palette buttons: icon and name to icon\n"
-              "Palette button 1: “Action 20” to “Empty slot”; "
-              "Palette button 2: “Action 21” to “Action 7”\n");
+    EXPECT_EQ(
+        texts,
+        "Scanning with Korvex: on to off\n"
+        "Way of scanning: “Press to start, press to choose” to “Hold to scan, let go to choose”\n"
+        "My own area: 64 × 48 at 0, 10 to 640 × 480 at 0, 10\n"
+        "Speed in menus: 60% to 65%\n"
+        "Line colour: Red (#640000) to Blue\n"
+        "Line thickness: 7 to 9 points\n"
+        "Pointer: “Zeiger größer” to “bigé”\n"
+        "Cancel the scan (hot key): esc to none\n"
+        "Size of the buttons: 40 × 40 to 60 × 50 points\n"
+        "Show the name: on to off\n"
+        "Palette button 1: “Action 20” to “Empty slot”; "
+        "Palette button 2: “Action 21” to “Action 7”\n");
     before.buttonActions[4] = 9;
     EXPECT_EQ(changeText(kSettings.back(), before, after, kSettingBecomesAgain),
               "Palette buttons: “Action 20, Action 21, Action 22, Action 1, Action 9” back to "
