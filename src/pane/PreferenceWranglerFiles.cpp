@@ -44,15 +44,14 @@ void offerFile(const std::string& path) {
         message.text = filled(localized("Profiles", "Nothing in “%1” differs from the settings."),
                               {fileName(path)});
     } else {
-        message.text =
-            filled(localized("Profiles", "“%1” would change: %2. Use its settings?"),
-                   {fileName(path), changesText(changes, prefs, offer.record, kSettingBecomes)});
+        message.text = filled(localized("Profiles", "“%1” would change:"), {fileName(path)}) +
+                       changeLines(changes, prefs, offer.record);
         message.buttons = {{localized("Profiles", "Use them"),
                             [offer] {
                                 if (theWrangler)
                                     theWrangler->takeImport(offer);
                             }},
-                           {localized("Profiles", "Leave"), {}}};
+                           {localized("Profiles", "Keep mine"), {}}};
     }
     message.text += refusedText(offer.refused);
     tellUser(kChangeTopic, std::move(message));
@@ -62,13 +61,13 @@ void offerFile(const std::string& path) {
 
 void PreferenceWrangler::importSettings(NSButton* sender) {
     NSOpenPanel panel;
-    panel.setTitle(localized("Profiles", "Settings from a file"));
+    panel.setTitle(localized("Profiles", "Import settings"));
     panel.beginSheetModalForWindow(sender->window(), offerFile);
 }
 
 void PreferenceWrangler::exportSettings(NSButton* sender) {
     NSSavePanel panel;
-    panel.setTitle(localized("Profiles", "Save the settings in a file"));
+    panel.setTitle(localized("Profiles", "Export settings"));
     panel.setNameFieldStringValue("Korvex.plist");
     panel.beginSheetModalForWindow(sender->window(), [](const std::string& path) {
         const int error = writeSettingsFile(path, SettingSet().set(), prefs);

@@ -44,7 +44,7 @@ bool succeeded(const std::string& fault, const char* text, const std::string& na
 }
 
 constexpr char kCannotSave[] = LOCALIZABLE("Profiles", "“%1” couldn’t be saved: %2.");
-constexpr char kPutBack[] = LOCALIZABLE("Profiles", "Put it back");
+constexpr char kUndo[] = LOCALIZABLE("Profiles", "Undo");
 
 } // namespace
 
@@ -257,7 +257,7 @@ void ProfileEditor::showChosen() {
         : !fault.empty()
             ? filled(localized("Profiles", "Your profiles can’t be read: %1."), {fault})
             : localized("Profiles", "There is no profile yet. Save the settings as they are "
-                                    "now, and come back to them with two presses."));
+                                    "now, and come back to them with the Profiles menu."));
 }
 
 /// What would change if it were used now, or after the one that it is compared with.
@@ -275,10 +275,7 @@ std::string ProfileEditor::explanationOf(const Profile& profile) const {
         : other ? localized("Profiles", "“%1” in place of “%2” would change:")
                        : localized("Profiles", "“%1” would change:"),
         names);
-    for (std::size_t i = 0; i < kSettings.size(); ++i)
-        if (changes[i])
-            text += "\n" + changeText(kSettings[i], before, after, kSettingBecomes);
-    return text;
+    return text + changeLines(changes, before, after);
 }
 
 // What is done with a profile
@@ -311,7 +308,20 @@ void ProfileEditor::use(Profile profile) {
     const std::string text = joined(Joint::Sentences, texts);
     if (changes.none())
         return tell(text);
-    tell(text, {{localized("Profiles", kPutBack), [this] { target_.undoChange(); }}});
+    tellUse(text,
+            changes.count() > 1
+                ? named(LOCALIZABLE("Profiles", "“%1” is in use. It has changed:"), profile.name) +
+                      changeLines(changes, before, record)
+                : "");
+}
+
+/// With a button for `all`, everything that has changed, unless it is empty.
+void ProfileEditor::tellUse(const std::string& text, const std::string& all) {
+    std::vector<UserMessage::Button> buttons = {
+        {localized("Profiles", kUndo), [this] { target_.undoChange(); }}};
+    if (!all.empty())
+        buttons.push_back({localized("Profiles", "Show all"), [this, all] { tellUse(all, ""); }});
+    tell(text, std::move(buttons));
 }
 
 void ProfileEditor::updateChosen() {
@@ -355,7 +365,7 @@ void ProfileEditor::save(const std::string& profile) {
         {named(LOCALIZABLE("Profiles", "The settings are saved as “%1”."), profile), keepInUse()});
     if (former.empty())
         return tell(text);
-    tell(text, {{localized("Profiles", kPutBack),
+    tell(text, {{localized("Profiles", kUndo),
                  [this, former, wasInUse] { putBack(former[0], wasInUse); }}});
 }
 
@@ -399,8 +409,7 @@ void ProfileEditor::deleteChosen() {
     target_.noteProfile();
     tell(named(LOCALIZABLE("Profiles", "“%1” is deleted. The settings stay as they are."),
                former.name),
-         {{localized("Profiles", kPutBack),
-           [this, former, wasInUse] { putBack(former, wasInUse); }}});
+         {{localized("Profiles", kUndo), [this, former, wasInUse] { putBack(former, wasInUse); }}});
 }
 
 void ProfileEditor::suggestName(const NSButton& sender) {

@@ -106,6 +106,7 @@ private:
     void addItem(NSPopUpButton* to, const std::string& title, const char* action, int tag);
     std::string explanationOf(const Profile& profile) const;
     void use(Profile profile);
+    void tellUse(const std::string& text, const std::string& all);
     void save(const std::string& profile);
     /// The field's text, without blanks at its ends.
     std::string typedName() const;
