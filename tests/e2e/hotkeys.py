@@ -4,7 +4,7 @@
 from typing import TYPE_CHECKING
 
 from tests.e2e.agentlog import FIELDS
-from tests.e2e.screen import press
+from tests.e2e.screen import press, run
 from tests.e2e.waiting import check, until
 
 if TYPE_CHECKING:
@@ -142,4 +142,24 @@ def move_the_focus(tour: "Tour") -> str:
     return f"only the last, {account}"
 
 
-STEPS = capture_a_hot_key, set_to_none_and_default, hold_keys_down, take_every_shortcut, move_the_focus
+def say_what_the_keyboard_says(tour: "Tour") -> str:
+    """Name keys as a German keyboard does"""
+    run("setxkbmap", "de")
+    capture(tour, "Scan", "ctrl+z", CONTROL, 0x10)
+    until(lambda: "Ctrl+Z on your keyboard" in tour.screen.names("label"), "it is named")
+    check(view(tour, "Scan").text == "control+Y", "the name by place is gone")
+    tour.picture("german-keyboard")
+    open_menu(tour, "Scan", "n", "Down", "Return")
+    tour.screen.find("Choose a key", "push button").act()
+    keys = until(lambda: [n for n in tour.screen.names("list item") if n != "Scan"], "the list opens")
+    for run_of_keys in ("X Y Z Ä", "9 # +", "^ ´ F1"):
+        check(run_of_keys in " ".join(keys), f"{run_of_keys} isn’t in {keys}")
+    press("key", "Escape")
+    run("setxkbmap", "us")
+    return f"control+Y is Ctrl+Z there; {len(keys)} keys to choose from"
+
+
+STEPS = (
+    *(capture_a_hot_key, set_to_none_and_default, hold_keys_down, take_every_shortcut),
+    *(move_the_focus, say_what_the_keyboard_says),
+)
