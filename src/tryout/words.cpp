@@ -132,9 +132,9 @@ std::string clicksText(const Advice& advice, const Conditions& tried) {
     const std::string shares = sharesText(advice.clicks, advice.clicksPromised);
     if (*advice.pointerTime == tried.pointer->time)
         return format(LOCALIZABLE("Try", "Line and pointer together, with the pointer at %.1f "
-                                         "seconds: %s."),
+                                         "s: %s."),
                       *advice.pointerTime, shares.c_str());
-    return format(LOCALIZABLE("Try", "Line and pointer together, with the pointer at %.1f seconds "
+    return format(LOCALIZABLE("Try", "Line and pointer together, with the pointer at %.1f s "
                                      "instead of %.1f: %s."),
                   *advice.pointerTime, tried.pointer->time, shares.c_str());
 }
