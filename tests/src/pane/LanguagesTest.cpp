@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/PopUpButtonWidget.h"
-#include "src/record/keycombo.h"
 #include "src/files/ptrutil.h"
 #include "src/pane/pointers/ptrman.h"
 #include "src/record/numbertext.h"
@@ -154,11 +153,12 @@ TEST_F(LanguagesTest, EnterIsTheKeypadsInEachLanguage) {
         const bool isEnglish = !translator_.load(QStringLiteral("Localizable.qm"), folder);
         EXPECT_EQ(isEnglish, language == std::string("en"));
         QCoreApplication::installTranslator(&translator_);
-        const std::string enter = toUTF8(createKeyComboString(0, kKeypadEnter).get());
+        const std::string enter = localized("Keyboard", "keypad Enter");
         open();
         const auto choose = [this](const char* menu, const std::string& title) {
-            static_cast<PopUpButtonWidget&>(*find<QPushButton>(menu))
-                .onChosen(QString::fromStdString(title));
+            auto& button = static_cast<PopUpButtonWidget&>(*find<QPushButton>(menu));
+            button.entries(); // which fills it
+            button.onChosen(QString::fromStdString(title));
         };
         choose("scanKey2Btn", localized("HotKeys", "Choose keys…"));
         choose("builderKey", enter);
