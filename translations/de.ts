@@ -2,6 +2,169 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Actions</name>
+    <message>
+        <source>Empty slot</source>
+        <translation>Leerer Platz</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tippen</translation>
+    </message>
+    <message>
+        <source>Scroll</source>
+        <translation>Blättern</translation>
+    </message>
+    <message>
+        <source>Pg up</source>
+        <translation>Bild auf</translation>
+    </message>
+    <message>
+        <source>Pg down</source>
+        <translation>Bild ab</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Runter</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Klick</translation>
+    </message>
+    <message>
+        <source>Double</source>
+        <translation>Doppelt</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Ziehen</translation>
+    </message>
+    <message>
+        <source>R-click</source>
+        <translation>R-Klick</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Bewegen</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>Menüs</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Desktop</translation>
+    </message>
+    <message>
+        <source>Louder</source>
+        <translation>Lauter</translation>
+    </message>
+    <message>
+        <source>Quieter</source>
+        <translation>Leiser</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stumm</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>Schneller</translation>
+    </message>
+    <message>
+        <source>Slower</source>
+        <translation>Langsamer</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Again</source>
+        <translation>Nochmals</translation>
+    </message>
+</context>
+<context>
     <name>Agent</name>
     <message>
         <source>No X11 display can be reached.</source>
@@ -11,21 +174,33 @@
         <source>The X11 display has no %1, which scanning needs.</source>
         <translation>Dem X11-Bildschirm fehlt %1. Das Scannen braucht es.</translation>
     </message>
+    <message>
+        <source>Another program scans already.</source>
+        <translation>Ein anderes Programm scannt schon.</translation>
+    </message>
+    <message>
+        <source>Korvex can&apos;t scan in a Wayland session. Log out, and choose a session with X11 where you log in.</source>
+        <translation>Korvex kann in einer Wayland-Sitzung nicht scannen. Melden Sie sich ab, und wählen Sie beim Anmelden eine Sitzung mit X11.</translation>
+    </message>
+    <message>
+        <source>Korvex can&apos;t scan: no process can be started.</source>
+        <translation>Korvex kann nicht scannen: Es lässt sich kein Prozess starten.</translation>
+    </message>
+    <message>
+        <source>Scanning is off. Hold your switch for four seconds to switch it on again.</source>
+        <translation>Das Scannen ist aus. Halten Sie den Schalter vier Sekunden, um es wieder einzuschalten.</translation>
+    </message>
+    <message>
+        <source>Another program has these keys: %1. Choose others under Presses.</source>
+        <translation>Ein anderes Programm hat diese Tasten: %1. Wählen Sie andere unter „Drücken“.</translation>
+    </message>
+    <message>
+        <source>Scanning is on.</source>
+        <translation>Das Scannen ist eingeschaltet.</translation>
+    </message>
 </context>
 <context>
     <name>Changes</name>
-    <message>
-        <source>The palette has the buttons again that Korvex came with.</source>
-        <translation>Die Palette hat wieder die Knöpfe, mit denen Korvex kam.</translation>
-    </message>
-    <message>
-        <source>Put it back</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>%1, and 1 setting more</source>
-        <translation>%1, und 1 weitere Einstellung</translation>
-    </message>
     <message>
         <source>%1.</source>
         <comment>a sentence</comment>
@@ -39,54 +214,62 @@
         <source>%1: %2 back to %3</source>
         <translation>%1: %2 wird wieder %3</translation>
     </message>
-    <message numerus="yes">
-        <source>%1, and %n settings more</source>
-        <translation>
-            <numerusform>%1, und %n weitere Einstellung</numerusform>
-            <numerusform>%1, und %n weitere Einstellungen</numerusform>
-        </translation>
-    </message>
     <message>
-        <source>Put everything back</source>
+        <source>Reset everything</source>
         <translation>Alles zurücksetzen</translation>
     </message>
     <message>
-        <source>Nothing to put back</source>
+        <source>Nothing to reset</source>
         <translation>Nichts zurückzusetzen</translation>
     </message>
     <message>
-        <source>Put everything back: 1 setting</source>
+        <source>Reset everything: 1 setting</source>
         <translation>Alles zurücksetzen: 1 Einstellung</translation>
     </message>
     <message numerus="yes">
-        <source>Put everything back: %n settings</source>
+        <source>Reset everything: %n settings</source>
         <translation>
             <numerusform>Alles zurücksetzen: %n Einstellung</numerusform>
             <numerusform>Alles zurücksetzen: %n Einstellungen</numerusform>
         </translation>
     </message>
     <message>
-        <source>Put 1 setting back</source>
+        <source>Reset 1 setting</source>
         <translation>1 Einstellung zurücksetzen</translation>
     </message>
     <message numerus="yes">
-        <source>Put %n settings back</source>
+        <source>Reset %n settings</source>
         <translation>
             <numerusform>%n Einstellung zurücksetzen</numerusform>
             <numerusform>%n Einstellungen zurücksetzen</numerusform>
         </translation>
     </message>
     <message>
-        <source>Put “%1” back to its default</source>
+        <source>The palette has its original buttons again.</source>
+        <translation>Die Palette hat wieder ihre ursprünglichen Knöpfe.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>%1, and 1 more setting</source>
+        <translation>%1, und 1 weitere Einstellung</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, and %n more settings</source>
+        <translation>
+            <numerusform>%1, und %n weitere Einstellung</numerusform>
+            <numerusform>%1, und %n weitere Einstellungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset “%1” to its default</source>
         <translation>„%1“ auf den Standard zurücksetzen</translation>
     </message>
     <message>
-        <source>Put “%1” back to %3</source>
+        <source>Reset “%1” to %3</source>
         <translation>„%1“ zurücksetzen auf %3</translation>
-    </message>
-    <message>
-        <source>Undo this</source>
-        <translation>Dies rückgängig machen</translation>
     </message>
 </context>
 <context>
@@ -213,10 +396,6 @@
     <message>
         <source>Changes settings.</source>
         <translation>Ändert Einstellungen.</translation>
-    </message>
-    <message>
-        <source>Puts settings back to their defaults; &quot;all&quot; stands for all of them.</source>
-        <translation>Setzt Einstellungen auf den Standard zurück; „all“ steht für alle.</translation>
     </message>
     <message>
         <source>FILE</source>
@@ -348,6 +527,10 @@
         <source>there is no option &quot;%1&quot;</source>
         <translation>eine Option „%1“ gibt es nicht</translation>
     </message>
+    <message>
+        <source>Resets settings to their defaults; &quot;all&quot; stands for all of them.</source>
+        <translation>Setzt Einstellungen auf den Standard zurück; „all“ steht für alle.</translation>
+    </message>
 </context>
 <context>
     <name>Faults</name>
@@ -456,13 +639,13 @@
     </message>
     <message>
         <source>It answers: 1 press.</source>
-        <translation>Er antwortet: 1 Druck.</translation>
+        <translation>Er antwortet: 1 Betätigung.</translation>
     </message>
     <message numerus="yes">
         <source>It answers: %n presses.</source>
         <translation>
-            <numerusform>Er antwortet: %n Druck.</numerusform>
-            <numerusform>Er antwortet: %n Drücke.</numerusform>
+            <numerusform>Er antwortet: %n Betätigung.</numerusform>
+            <numerusform>Er antwortet: %n Betätigungen.</numerusform>
         </translation>
     </message>
     <message>
@@ -582,14 +765,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Neue Tasten für „%1“</translation>
     </message>
     <message>
-        <source>Use it here and remove it there</source>
-        <translation>Hier verwenden und dort entfernen</translation>
-    </message>
-    <message>
-        <source>Put back what was here</source>
-        <translation>Vorige Tasten zurückholen</translation>
-    </message>
-    <message>
         <source>Press new keys</source>
         <translation>Neue Tasten drücken</translation>
     </message>
@@ -602,20 +777,12 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Keine</translation>
     </message>
     <message>
-        <source>Default</source>
-        <translation>Standard</translation>
-    </message>
-    <message>
         <source>Listening: press the new hot key, one key, alone or with Ctrl, Alt, Shift or Super held down. Every key counts, Esc and Tab too. Seconds left: %1.</source>
         <translation>Drücken Sie jetzt die neue Taste, allein oder zusammen mit Strg, Alt, Umschalt oder Super. Jede Taste zählt, auch Esc und Tab. Verbleibende Sekunden: %1.</translation>
     </message>
     <message>
         <source>“%1”</source>
         <translation>„%1“</translation>
-    </message>
-    <message>
-        <source>⚠ The same keys as %1. The menu beside it offers to use them here alone, or to put back what was here.</source>
-        <translation>⚠ Dieselben Tasten wie %1. Das Menü daneben bietet an, sie nur hier zu verwenden oder die vorigen zurückzuholen.</translation>
     </message>
     <message>
         <source>Now %1.</source>
@@ -654,6 +821,26 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <comment>as in Scan (hot key)</comment>
         <translation>%1 (Tastenkombination)</translation>
     </message>
+    <message>
+        <source>Use these keys only here</source>
+        <translation>Diese Tasten nur hier verwenden</translation>
+    </message>
+    <message>
+        <source>Undo the change here</source>
+        <translation>Die Änderung hier rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>%1 on your keyboard</source>
+        <translation>%1 auf Ihrer Tastatur</translation>
+    </message>
+    <message>
+        <source>⚠ The same keys as %1. The menu beside it offers to use them only here, or to undo the change.</source>
+        <translation>⚠ Dieselben Tasten wie %1. Das Menü daneben bietet an, sie nur hier zu verwenden oder die Änderung rückgängig zu machen.</translation>
+    </message>
 </context>
 <context>
     <name>Joints</name>
@@ -684,6 +871,125 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
 </context>
 <context>
+    <name>Keyboard</name>
+    <message>
+        <source>F13 or Print Screen</source>
+        <translation>F13 oder Druck</translation>
+    </message>
+    <message>
+        <source>F14 or Scroll Lock</source>
+        <translation>F14 oder Rollen</translation>
+    </message>
+    <message>
+        <source>F15 or Pause</source>
+        <translation>F15 oder Pause</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabetaste</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Rücktaste</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Einfg</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Pos1</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Bild auf</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Bild ab</translation>
+    </message>
+    <message>
+        <source>Left arrow</source>
+        <translation>Pfeil links</translation>
+    </message>
+    <message>
+        <source>Right arrow</source>
+        <translation>Pfeil rechts</translation>
+    </message>
+    <message>
+        <source>Up arrow</source>
+        <translation>Pfeil auf</translation>
+    </message>
+    <message>
+        <source>Down arrow</source>
+        <translation>Pfeil ab</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stumm</translation>
+    </message>
+    <message>
+        <source>Quieter</source>
+        <translation>Leiser</translation>
+    </message>
+    <message>
+        <source>Louder</source>
+        <translation>Lauter</translation>
+    </message>
+    <message>
+        <source>Num Lock</source>
+        <translation>Num</translation>
+    </message>
+    <message>
+        <source>keypad Enter</source>
+        <translation>Ziffernblock Eingabetaste</translation>
+    </message>
+    <message>
+        <source>keypad %1</source>
+        <translation>Ziffernblock %1</translation>
+    </message>
+    <message>
+        <source>Super+</source>
+        <translation>Super+</translation>
+    </message>
+    <message>
+        <source>Ctrl+</source>
+        <translation>Strg+</translation>
+    </message>
+    <message>
+        <source>Shift+</source>
+        <translation>Umschalt+</translation>
+    </message>
+    <message>
+        <source>Alt+</source>
+        <translation>Alt+</translation>
+    </message>
+</context>
+<context>
     <name>Keys</name>
     <message>
         <source>return</source>
@@ -699,11 +1005,11 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>delete</source>
-        <translation>Löschen</translation>
+        <translation>Rücktaste</translation>
     </message>
     <message>
         <source>enter</source>
-        <translation>Enter</translation>
+        <translation>Ziffernblock Eingabetaste</translation>
     </message>
     <message>
         <source>esc</source>
@@ -715,11 +1021,11 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>clear</source>
-        <translation>Entfernen</translation>
+        <translation>Num</translation>
     </message>
     <message>
         <source>help</source>
-        <translation>Hilfe</translation>
+        <translation>Einfg</translation>
     </message>
     <message>
         <source>home</source>
@@ -739,7 +1045,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>command+</source>
-        <translation>Befehl+</translation>
+        <translation>Super+</translation>
     </message>
     <message>
         <source>control+</source>
@@ -751,7 +1057,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>option+</source>
-        <translation>Wahl+</translation>
+        <translation>Alt+</translation>
     </message>
     <message>
         <source> keypad </source>
@@ -777,7 +1083,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <name>NumberRow</name>
     <message>
         <source>%1, %2</source>
-        <extracomment>As in &quot;Line scan time, longer&quot;</extracomment>
+        <extracomment>As in &quot;Volume, louder&quot;</extracomment>
         <translation>%1, %2</translation>
     </message>
     <message>
@@ -809,7 +1115,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <name>Palette</name>
     <message>
         <source>Choose the button to swap with button %1. The same button again, or Escape, cancels.</source>
-        <translation>Wählen Sie den Knopf, mit dem Knopf %1 tauschen soll. Derselbe Knopf noch einmal oder Escape bricht ab.</translation>
+        <translation>Wählen Sie den Knopf, mit dem Knopf %1 tauschen soll. Derselbe Knopf noch einmal oder Esc bricht ab.</translation>
     </message>
     <message>
         <source>Chosen: button %1.</source>
@@ -853,7 +1159,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>&lt;p&gt;Off stops scanning and keeps all settings. Hold Alt (Option) while you click to quit Korvex itself, or to start it.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;„Aus“ beendet das Scannen und behält alle Einstellungen. Halten Sie Alt (Wahl) beim Klicken, um Korvex selbst zu beenden oder zu starten.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;„Aus“ beendet das Scannen und behält alle Einstellungen. Halten Sie Alt beim Klicken, um Korvex selbst zu beenden oder zu starten.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Turns scanning off and on. Your settings stay as they are.</source>
@@ -878,14 +1184,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Takes the last change of this visit back. Ctrl+Z does the same.</source>
-        <translation>Nimmt die letzte Änderung dieses Besuchs zurück. Strg+Z tut dasselbe.</translation>
-    </message>
-    <message>
-        <source>&lt;p&gt;Takes the last change of this visit back. Ctrl+Z does the same.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Nimmt die letzte Änderung dieses Besuchs zurück. Strg+Z tut dasselbe.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -944,10 +1242,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>länger</translation>
     </message>
     <message>
-        <source>Line scan time</source>
-        <translation>Zeit des Linien-Scans</translation>
-    </message>
-    <message>
         <source>More time makes it easier to stop the line in the right place.</source>
         <translation>Mit mehr Zeit halten Sie die Linie leichter an der richtigen Stelle an.</translation>
     </message>
@@ -958,10 +1252,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Pointer &amp;crosses the screen in</source>
         <translation>&amp;Zeiger überquert den Bildschirm in</translation>
-    </message>
-    <message>
-        <source>Pointer scan time</source>
-        <translation>Zeit des Zeiger-Scans</translation>
     </message>
     <message>
         <source>Once you have stopped the line, the pointer moves along it.</source>
@@ -1036,10 +1326,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>&amp;Eine Aktion wiederholen alle</translation>
     </message>
     <message>
-        <source>Time between repeats</source>
-        <translation>Zeit zwischen Wiederholungen</translation>
-    </message>
-    <message>
         <source>Actions such as scrolling go on at this pace until you press again.</source>
         <translation>Aktionen wie das Blättern gehen in diesem Takt weiter, bis Sie wieder drücken.</translation>
     </message>
@@ -1105,7 +1391,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Drag across the screen, or move the area&apos;s lower right corner with the arrow keys and, with Shift, its upper left one. Return keeps the area, Esc leaves all as it was.</source>
-        <translation>Ziehen Sie über den Bildschirm, oder bewegen Sie die rechte untere Ecke des Bereichs mit den Pfeiltasten und, mit Umschalt, die linke obere. Return behält den Bereich, Esc lässt alles, wie es war.</translation>
+        <translation>Ziehen Sie über den Bildschirm, oder bewegen Sie die rechte untere Ecke des Bereichs mit den Pfeiltasten und, mit Umschalt, die linke obere. Die Eingabetaste behält den Bereich, Esc lässt alles, wie es war.</translation>
     </message>
     <message>
         <source>none</source>
@@ -1121,7 +1407,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Covers the screen. Drag across it, or move the area&apos;s lower right corner with the arrow keys and, with Shift, its upper left one. Return keeps the area, Esc leaves all as it was.</source>
-        <translation>Bedeckt den Bildschirm. Ziehen Sie darüber, oder bewegen Sie die rechte untere Ecke des Bereichs mit den Pfeiltasten und, mit Umschalt, die linke obere. Return behält den Bereich, Esc lässt alles, wie es war.</translation>
+        <translation>Bedeckt den Bildschirm. Ziehen Sie darüber, oder bewegen Sie die rechte untere Ecke des Bereichs mit den Pfeiltasten und, mit Umschalt, die linke obere. Die Eingabetaste behält den Bereich, Esc lässt alles, wie es war.</translation>
     </message>
     <message>
         <source>&amp;Draw…</source>
@@ -1154,10 +1440,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Way of scanning</source>
         <translation>Art zu scannen</translation>
-    </message>
-    <message>
-        <source>Scan mode</source>
-        <translation>Scan-Art</translation>
     </message>
     <message>
         <source>How your switch controls the scan.</source>
@@ -1245,7 +1527,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>&amp;Ignore presses after a click for</source>
-        <translation>&amp;Nach einem Klick nicht beachten für</translation>
+        <translation>Drücken nach einem Klick &amp;ignorieren für</translation>
     </message>
     <message>
         <source>Stops an unwanted second press from counting. 0 ignores none.</source>
@@ -1253,7 +1535,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>&lt;p&gt;Half a second stops most accidental double presses; longer leaves time for a spasm to pass.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Eine halbe Sekunde fängt die meisten doppelten Drücke ab; länger lässt einen Krampf vorübergehen.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Eine halbe Sekunde fängt die meisten doppelten Betätigungen ab; länger lässt einen Krampf vorübergehen.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Your switch</source>
@@ -1276,10 +1558,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Für einen Schalter, der als Maustaste angeschlossen ist, oder für die Maus selbst.</translation>
     </message>
     <message>
-        <source>Keys that work everywhere</source>
-        <translation>Tasten, die überall wirken</translation>
-    </message>
-    <message>
         <source>Press the new hot key: one key, alone or with Ctrl, Alt, Shift or Super held down. Every key counts, Esc and Tab too.</source>
         <translation>Drücken Sie die neue Taste, allein oder zusammen mit Strg, Alt, Umschalt oder Super. Jede Taste zählt, auch Esc und Tab.</translation>
     </message>
@@ -1292,24 +1570,12 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Goes back to the usual hot key.</source>
-        <translation>Kehrt zur üblichen Taste zurück.</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>Standard</translation>
-    </message>
-    <message>
         <source>Takes the hot key away.</source>
         <translation>Nimmt die Taste weg.</translation>
     </message>
     <message>
         <source>None</source>
         <translation>Keine</translation>
-    </message>
-    <message>
-        <source>To change a hot key, click it, or open the menu beside it and choose “Press new keys”. The next key that you press becomes the hot key. Without a keyboard, choose “Choose keys…”. In its name, “command” is the Super or Windows key and “option” is Alt.</source>
-        <translation>Um eine Taste zu ändern, klicken Sie darauf, oder öffnen Sie das Menü daneben und wählen „Neue Tasten drücken“. Die nächste Taste, die Sie drücken, gilt. Ohne Tastatur wählen Sie „Tasten wählen…“. „Befehl“ im Namen ist die Super- oder Windows-Taste, „Wahl“ ist Alt.</translation>
     </message>
     <message>
         <source>Sca&amp;n</source>
@@ -1369,7 +1635,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Does what the switch at the top of this window does.</source>
-        <translation>Tut, was der Schalter oben in diesem Fenster tut.</translation>
+        <translation>Tut, was der Umschalter oben in diesem Fenster tut.</translation>
     </message>
     <message>
         <source>Turn scanning on or off</source>
@@ -1401,7 +1667,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>command (Super)</source>
-        <translation>Befehl (Super)</translation>
+        <translation>Super</translation>
     </message>
     <message>
         <source>control</source>
@@ -1413,7 +1679,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>option (Alt)</source>
-        <translation>Wahl (Alt)</translation>
+        <translation>Alt</translation>
     </message>
     <message>
         <source>Choose a key</source>
@@ -1458,10 +1724,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Strong colours</source>
         <translation>Kräftige Farben</translation>
-    </message>
-    <message>
-        <source>Strong line colours</source>
-        <translation>Kräftige Linienfarben</translation>
     </message>
     <message>
         <source>Line &amp;thickness</source>
@@ -1548,14 +1810,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Wählen Sie einen großen oder einen, dessen Farbe Sie schnell finden.</translation>
     </message>
     <message>
-        <source>Corners</source>
-        <translation>Ecken</translation>
-    </message>
-    <message>
-        <source>Corners of the palette’s buttons</source>
-        <translation>Ecken der Palettenknöpfe</translation>
-    </message>
-    <message>
         <source>The shape of each button of the palette.</source>
         <translation>Die Form jedes Palettenknopfs.</translation>
     </message>
@@ -1584,10 +1838,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Jeder Palettenknopf zeigt den Namen seiner Aktion.</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
         <source>smaller</source>
         <translation>kleiner</translation>
     </message>
@@ -1604,10 +1854,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Größere Knöpfe sind leichter zu sehen und zu treffen. 20 bis 100 Punkte je Seite.</translation>
     </message>
     <message>
-        <source>Width alone</source>
-        <translation>Nur die Breite</translation>
-    </message>
-    <message>
         <source>narrower</source>
         <translation>schmaler</translation>
     </message>
@@ -1616,16 +1862,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>breiter</translation>
     </message>
     <message>
-        <source>Palette buttons’ width</source>
-        <translation>Breite der Palettenknöpfe</translation>
-    </message>
-    <message>
         <source>Wider buttons have room for longer names.</source>
         <translation>Breitere Knöpfe haben Platz für längere Namen.</translation>
-    </message>
-    <message>
-        <source>Height alone</source>
-        <translation>Nur die Höhe</translation>
     </message>
     <message>
         <source>lower</source>
@@ -1636,32 +1874,12 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>höher</translation>
     </message>
     <message>
-        <source>Palette buttons’ height</source>
-        <translation>Höhe der Palettenknöpfe</translation>
-    </message>
-    <message>
         <source>Higher buttons have room for a larger icon above the name.</source>
         <translation>Höhere Knöpfe haben Platz für ein größeres Bild über dem Namen.</translation>
     </message>
     <message>
-        <source>Around the edge</source>
-        <translation>Am Rand</translation>
-    </message>
-    <message>
-        <source>Space around the edge of the palette</source>
-        <translation>Abstand am Rand der Palette</translation>
-    </message>
-    <message>
         <source>Between the buttons and the edge of the palette.</source>
         <translation>Zwischen den Knöpfen und dem Rand der Palette.</translation>
-    </message>
-    <message>
-        <source>Between the buttons</source>
-        <translation>Zwischen den Knöpfen</translation>
-    </message>
-    <message>
-        <source>Space between palette buttons</source>
-        <translation>Abstand zwischen Palettenknöpfen</translation>
     </message>
     <message>
         <source>More space makes it harder to hit the wrong button.</source>
@@ -1674,10 +1892,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Palette</source>
         <translation>Palette</translation>
-    </message>
-    <message>
-        <source>Buttons</source>
-        <translation>Knöpfe</translation>
     </message>
     <message>
         <source>The nine places of the palette. The arrow keys move between them, Space chooses one.</source>
@@ -1750,14 +1964,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Reset all buttons</source>
         <translation>Alle Knöpfe zurücksetzen</translation>
-    </message>
-    <message>
-        <source>Puts the five buttons back that Korvex came with.</source>
-        <translation>Stellt die fünf Knöpfe wieder her, mit denen Korvex kam.</translation>
-    </message>
-    <message>
-        <source>&lt;p&gt;Puts the five buttons back that Korvex came with.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Stellt die fünf Knöpfe wieder her, mit denen Korvex kam.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>R&amp;eset all</source>
@@ -1884,16 +2090,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Verwenden</translation>
     </message>
     <message>
-        <source>Save the settings in the chosen profile</source>
-        <translation>Die Einstellungen im gewählten Profil speichern</translation>
-    </message>
-    <message>
         <source>The chosen profile gets the settings as they are now.</source>
         <translation>Das gewählte Profil bekommt die Einstellungen, wie sie jetzt sind.</translation>
-    </message>
-    <message>
-        <source>Save the settings in it</source>
-        <translation>Einstellungen darin speichern</translation>
     </message>
     <message>
         <source>Delete the chosen profile</source>
@@ -1972,10 +2170,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Das gewählte umbenennen</translation>
     </message>
     <message>
-        <source>Settings from a file</source>
-        <translation>Einstellungen aus einer Datei</translation>
-    </message>
-    <message>
         <source>Shows what the file would change, before anything is changed.</source>
         <translation>Zeigt, was die Datei ändern würde, bevor etwas geändert wird.</translation>
     </message>
@@ -1988,16 +2182,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Importieren…</translation>
     </message>
     <message>
-        <source>Save all settings in a file</source>
-        <translation>Alle Einstellungen in eine Datei speichern</translation>
-    </message>
-    <message>
         <source>As a backup, or for another computer.</source>
         <translation>Als Sicherung oder für einen anderen Computer.</translation>
-    </message>
-    <message>
-        <source>Export the settings</source>
-        <translation>Einstellungen exportieren</translation>
     </message>
     <message>
         <source>Export…</source>
@@ -2009,7 +2195,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Scans only that part from now on: the whole screen, a half, a third, a quarter or, where the desktop tells it, the window that you used last.</source>
-        <translation>Scannt von nun an nur diesen Teil: den ganzen Bildschirm, eine Hälfte, ein Drittel, ein Viertel oder, wo der Desktop es verrät, das zuletzt benutzte Fenster.</translation>
+        <translation>Scannt von nun an nur diesen Teil: den ganzen Bildschirm, eine Hälfte, ein Drittel, ein Viertel oder, wo der Desktop es mitteilt, das zuletzt benutzte Fenster.</translation>
     </message>
     <message>
         <source>Left edge</source>
@@ -2088,28 +2274,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Dieser Abschnitt</translation>
     </message>
     <message>
-        <source>All that a bar marks goes back to its default. You can undo that.</source>
-        <translation>Alles mit einem Balken wird auf den Standard zurückgesetzt. Sie können das rückgängig machen.</translation>
-    </message>
-    <message>
-        <source>Puts this section’s settings back to their defaults.</source>
-        <translation>Setzt die Einstellungen dieses Abschnitts auf den Standard zurück.</translation>
-    </message>
-    <message>
-        <source>All that a bar marks goes back to its default, but not how Korvex starts.</source>
-        <translation>Alles mit einem Balken wird auf den Standard zurückgesetzt, nur nicht, wie Korvex startet.</translation>
-    </message>
-    <message>
         <source>All sections</source>
         <translation>Alle Abschnitte</translation>
-    </message>
-    <message>
-        <source>Every setting goes back to its default, but not how Korvex starts.</source>
-        <translation>Jede Einstellung wird auf den Standard zurückgesetzt, nur nicht, wie Korvex startet.</translation>
-    </message>
-    <message>
-        <source>Puts the settings of all sections back to their defaults.</source>
-        <translation>Setzt die Einstellungen aller Abschnitte auf den Standard zurück.</translation>
     </message>
     <message>
         <source>Settings as a file</source>
@@ -2151,12 +2317,159 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>Sound, login, profiles</source>
         <translation>Ton, Anmeldung, Profile</translation>
     </message>
+    <message>
+        <source>Undoes the last change of this visit. Ctrl+Z does the same.</source>
+        <translation>Macht die letzte Änderung dieses Besuchs rückgängig. Strg+Z tut dasselbe.</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Undoes the last change of this visit. Ctrl+Z does the same.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Macht die letzte Änderung dieses Besuchs rückgängig. Strg+Z tut dasselbe.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Line crosses the screen in</source>
+        <translation>Linie überquert den Bildschirm in</translation>
+    </message>
+    <message>
+        <source>Pointer crosses the screen in</source>
+        <translation>Zeiger überquert den Bildschirm in</translation>
+    </message>
+    <message>
+        <source>Repeat an action every</source>
+        <translation>Eine Aktion wiederholen alle</translation>
+    </message>
+    <message>
+        <source>Resets every setting marked with a bar. You can undo that.</source>
+        <translation>Setzt jede Einstellung zurück, die ein Balken markiert. Sie können das rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Resets this section’s settings to their defaults.</source>
+        <translation>Setzt die Einstellungen dieses Abschnitts auf den Standard zurück.</translation>
+    </message>
+    <message>
+        <source>Hot keys</source>
+        <translation>Tastenkombinationen</translation>
+    </message>
+    <message>
+        <source>Resets the hot key to its default.</source>
+        <translation>Setzt die Tastenkombination auf den Standard zurück.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>They work everywhere. To change one, click it, or open the menu beside it and choose “Press new keys”. The next key that you press becomes the hot key. Without a keyboard, choose “Choose keys…”.</source>
+        <translation>Sie wirken überall. Um eine zu ändern, klicken Sie darauf, oder öffnen Sie das Menü daneben und wählen „Neue Tasten drücken“. Die nächste Taste, die Sie drücken, gilt. Ohne Tastatur wählen Sie „Tasten wählen…“.</translation>
+    </message>
+    <message>
+        <source>Gives the palette its five original buttons again.</source>
+        <translation>Gibt der Palette ihre fünf ursprünglichen Knöpfe wieder.</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Gives the palette its five original buttons again.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Gibt der Palette ihre fünf ursprünglichen Knöpfe wieder.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Corners of the buttons</source>
+        <translation>Ecken der Knöpfe</translation>
+    </message>
+    <message>
+        <source>Size of the buttons</source>
+        <translation>Größe der Knöpfe</translation>
+    </message>
+    <message>
+        <source>Width of the buttons</source>
+        <translation>Breite der Knöpfe</translation>
+    </message>
+    <message>
+        <source>Height of the buttons</source>
+        <translation>Höhe der Knöpfe</translation>
+    </message>
+    <message>
+        <source>Space around the edge</source>
+        <translation>Abstand am Rand</translation>
+    </message>
+    <message>
+        <source>Space between the buttons</source>
+        <translation>Abstand zwischen den Knöpfen</translation>
+    </message>
+    <message>
+        <source>Update this profile</source>
+        <translation>Dieses Profil aktualisieren</translation>
+    </message>
+    <message>
+        <source>Export settings</source>
+        <translation>Einstellungen exportieren</translation>
+    </message>
+    <message>
+        <source>Resets every setting marked with a bar, but not how Korvex starts.</source>
+        <translation>Setzt jede Einstellung zurück, die ein Balken markiert, nur nicht, wie Korvex startet.</translation>
+    </message>
+    <message>
+        <source>Resets every setting, but not how Korvex starts.</source>
+        <translation>Setzt jede Einstellung zurück, nur nicht, wie Korvex startet.</translation>
+    </message>
+    <message>
+        <source>Resets the settings of all sections to their defaults.</source>
+        <translation>Setzt die Einstellungen aller Abschnitte auf den Standard zurück.</translation>
+    </message>
 </context>
 <context>
     <name>Pointer</name>
     <message>
         <source>None</source>
         <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>Pointers</name>
+    <message>
+        <source>default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Arrow small</source>
+        <translation>Pfeil, klein</translation>
+    </message>
+    <message>
+        <source>Arrow large</source>
+        <translation>Pfeil, groß</translation>
+    </message>
+    <message>
+        <source>Arrow large white</source>
+        <translation>Pfeil, groß, weiß</translation>
+    </message>
+    <message>
+        <source>Arrow huge yellow</source>
+        <translation>Pfeil, riesig, gelb</translation>
+    </message>
+    <message>
+        <source>Arrow large see-through</source>
+        <translation>Pfeil, groß, durchsichtig</translation>
+    </message>
+    <message>
+        <source>Crosshair small</source>
+        <translation>Fadenkreuz, klein</translation>
+    </message>
+    <message>
+        <source>Crosshair large</source>
+        <translation>Fadenkreuz, groß</translation>
+    </message>
+    <message>
+        <source>Crosshair large white</source>
+        <translation>Fadenkreuz, groß, weiß</translation>
+    </message>
+    <message>
+        <source>Crosshair huge see-through</source>
+        <translation>Fadenkreuz, riesig, durchsichtig</translation>
+    </message>
+    <message>
+        <source>Ring</source>
+        <translation>Ring</translation>
+    </message>
+    <message>
+        <source>Target huge</source>
+        <translation>Zielscheibe, riesig</translation>
     </message>
 </context>
 <context>
@@ -2198,24 +2511,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Nichts in „%1“ weicht von den Einstellungen ab.</translation>
     </message>
     <message>
-        <source>“%1” would change: %2. Use its settings?</source>
-        <translation>„%1“ würde ändern: %2. Einstellungen verwenden?</translation>
-    </message>
-    <message>
         <source>Use them</source>
         <translation>Verwenden</translation>
-    </message>
-    <message>
-        <source>Leave</source>
-        <translation>Lassen</translation>
-    </message>
-    <message>
-        <source>Settings from a file</source>
-        <translation>Einstellungen aus einer Datei</translation>
-    </message>
-    <message>
-        <source>Save the settings in a file</source>
-        <translation>Die Einstellungen in eine Datei speichern</translation>
     </message>
     <message>
         <source>“%1” couldn’t be saved: %2.</source>
@@ -2274,10 +2571,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>%1, in Gebrauch</translation>
     </message>
     <message>
-        <source>There is no profile yet. Save the settings as they are now, and come back to them with two presses.</source>
-        <translation>Es gibt noch kein Profil. Speichern Sie die Einstellungen, wie sie jetzt sind, und kehren Sie mit zweimal Drücken zu ihnen zurück.</translation>
-    </message>
-    <message>
         <source>The settings are those of “%1”.</source>
         <translation>Die Einstellungen sind die von „%1“.</translation>
     </message>
@@ -2318,10 +2611,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Und %1 weitere.</translation>
     </message>
     <message>
-        <source>Put it back</source>
-        <translation>Zurücknehmen</translation>
-    </message>
-    <message>
         <source>First type a name, or press one of the ready ones.</source>
         <translation>Tippen Sie zuerst einen Namen, oder drücken Sie einen der fertigen.</translation>
     </message>
@@ -2349,12 +2638,40 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>Your profiles can’t be read: %1.</source>
         <translation>Ihre Profile können nicht gelesen werden: %1.</translation>
     </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Meine behalten</translation>
+    </message>
+    <message>
+        <source>Import settings</source>
+        <translation>Einstellungen importieren</translation>
+    </message>
+    <message>
+        <source>Export settings</source>
+        <translation>Einstellungen exportieren</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>There is no profile yet. Save the settings as they are now, and come back to them with the Profiles menu.</source>
+        <translation>Es gibt noch kein Profil. Speichern Sie die Einstellungen, wie sie jetzt sind, und kehren Sie mit dem Menü „Profile“ zu ihnen zurück.</translation>
+    </message>
+    <message>
+        <source>“%1” is in use. It has changed:</source>
+        <translation>„%1“ ist in Gebrauch. Geändert ist:</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle zeigen</translation>
+    </message>
 </context>
 <context>
     <name>PutBackButton</name>
     <message>
-        <source>Back at its default</source>
-        <translation>Zurückgesetzt</translation>
+        <source>Reset to its default</source>
+        <translation>Auf den Standard zurückgesetzt</translation>
     </message>
 </context>
 <context>
@@ -2455,10 +2772,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>%g × %g bei %g; %g</translation>
     </message>
     <message>
-        <source>Scanning</source>
-        <translation>Scannen</translation>
-    </message>
-    <message>
         <source>A sound for each click</source>
         <translation>Ein Ton bei jedem Klick</translation>
     </message>
@@ -2484,7 +2797,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Ignore presses after a click for</source>
-        <translation>Nach einem Klick nicht beachten für</translation>
+        <translation>Drücken nach einem Klick ignorieren für</translation>
     </message>
     <message>
         <source>Wait before the scan starts</source>
@@ -2515,28 +2828,12 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Zweite Maustaste als zweiter Schalter</translation>
     </message>
     <message>
-        <source>Scan mode</source>
-        <translation>Scan-Art</translation>
-    </message>
-    <message>
         <source>My own area</source>
         <translation>Mein eigener Bereich</translation>
     </message>
     <message>
-        <source>Scan</source>
-        <translation>Scannen</translation>
-    </message>
-    <message>
         <source>Line scan ends keyboard mode</source>
         <translation>Der Linien-Scan beendet den Tastaturmodus</translation>
-    </message>
-    <message>
-        <source>Line scan time</source>
-        <translation>Zeit des Linien-Scans</translation>
-    </message>
-    <message>
-        <source>Pointer scan time</source>
-        <translation>Zeit des Zeiger-Scans</translation>
     </message>
     <message>
         <source>Speed in menus</source>
@@ -2545,10 +2842,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Start slowly, then speed up</source>
         <translation>Langsam beginnen, dann schneller werden</translation>
-    </message>
-    <message>
-        <source>Time between repeats</source>
-        <translation>Zeit zwischen Wiederholungen</translation>
     </message>
     <message>
         <source>Length of a click</source>
@@ -2581,26 +2874,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Hot keys</source>
         <translation>Tastenkombinationen</translation>
-    </message>
-    <message>
-        <source>Space around the edge of the palette</source>
-        <translation>Abstand am Rand der Palette</translation>
-    </message>
-    <message>
-        <source>Space between palette buttons</source>
-        <translation>Abstand zwischen Palettenknöpfen</translation>
-    </message>
-    <message>
-        <source>Size of palette buttons</source>
-        <translation>Größe der Palettenknöpfe</translation>
-    </message>
-    <message>
-        <source>Corners of palette buttons</source>
-        <translation>Ecken der Palettenknöpfe</translation>
-    </message>
-    <message>
-        <source>Shown on palette buttons</source>
-        <translation>Auf den Palettenknöpfen gezeigt</translation>
     </message>
     <message>
         <source>Palette buttons</source>
@@ -2661,6 +2934,58 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>Palette button %1</source>
         <comment>its number</comment>
         <translation>Palettenknopf %1</translation>
+    </message>
+    <message>
+        <source>Scanning with Korvex</source>
+        <translation>Mit Korvex scannen</translation>
+    </message>
+    <message>
+        <source>Way of scanning</source>
+        <translation>Art zu scannen</translation>
+    </message>
+    <message>
+        <source>What is scanned</source>
+        <translation>Was gescannt wird</translation>
+    </message>
+    <message>
+        <source>Line crosses the screen in</source>
+        <translation>Linie überquert den Bildschirm in</translation>
+    </message>
+    <message>
+        <source>Pointer crosses the screen in</source>
+        <translation>Zeiger überquert den Bildschirm in</translation>
+    </message>
+    <message>
+        <source>Repeat an action every</source>
+        <translation>Eine Aktion wiederholen alle</translation>
+    </message>
+    <message>
+        <source>Space around the edge</source>
+        <translation>Abstand am Rand</translation>
+    </message>
+    <message>
+        <source>Space between the buttons</source>
+        <translation>Abstand zwischen den Knöpfen</translation>
+    </message>
+    <message>
+        <source>Size of the buttons</source>
+        <translation>Größe der Knöpfe</translation>
+    </message>
+    <message>
+        <source>Corners of the buttons</source>
+        <translation>Ecken der Knöpfe</translation>
+    </message>
+    <message>
+        <source>Shown on the buttons</source>
+        <translation>Auf den Knöpfen gezeigt</translation>
+    </message>
+    <message>
+        <source>Show the icon</source>
+        <translation>Bild zeigen</translation>
+    </message>
+    <message>
+        <source>Show the name</source>
+        <translation>Namen zeigen</translation>
     </message>
 </context>
 <context>
@@ -2799,14 +3124,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
 <context>
     <name>Try</name>
     <message>
-        <source>Try it at %.1f</source>
-        <translation>Mit %.1f probieren</translation>
-    </message>
-    <message>
-        <source>Keep %.1f</source>
-        <translation>%.1f behalten</translation>
-    </message>
-    <message>
         <source>This try couldn’t be stored.</source>
         <translation>Dieser Versuch konnte nicht gespeichert werden.</translation>
     </message>
@@ -2900,7 +3217,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Your presses all came at the same moment, as far as this computer can tell.</source>
-        <translation>Ihre Drücke kamen alle im selben Moment, soweit dieser Computer es sagen kann.</translation>
+        <translation>Ihre Betätigungen kamen alle im selben Moment, soweit dieser Computer es sagen kann.</translation>
     </message>
     <message>
         <source>A slower line is likely to suit you better. Try it at %.1f seconds, and we can tell.</source>
@@ -2920,7 +3237,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>%zu of %zu presses came when nothing asked for them. Before the speed, make the presses steadier.</source>
-        <translation>%zu von %zu Drücken kamen, als nichts danach fragte. Sorgen Sie vor dem Tempo für ruhigere Drücke.</translation>
+        <translation>%zu von %zu Betätigungen kamen, als nichts danach fragte. Sorgen Sie vor dem Tempo für ruhigere Betätigungen.</translation>
     </message>
     <message>
         <source>Ready for the next press after %.1f seconds.</source>
@@ -2928,7 +3245,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Ignoring presses for %.1f seconds after a click would catch most of those that nothing asked for.</source>
-        <translation>Würden Drücke %.1f Sekunden nach einem Klick nicht beachtet, fielen die meisten ungewollten weg.</translation>
+        <translation>Würden Betätigungen %.1f Sekunden nach einem Klick nicht beachtet, fielen die meisten ungewollten weg.</translation>
     </message>
     <message>
         <source>A shortest press of %.1f seconds would, too.</source>
@@ -2936,23 +3253,19 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>They last as long as your other presses, so no shortest press tells them apart.</source>
-        <translation>Sie dauern so lange wie Ihre anderen Drücke, darum unterscheidet kein kürzester Druck sie.</translation>
+        <translation>Sie dauern so lange wie Ihre anderen Betätigungen, darum unterscheidet kein kürzester Druck sie.</translation>
     </message>
     <message>
         <source>Lateness %.0f ms, spread %.0f ms (%.0f ms at most), from %d presses.</source>
-        <translation>Verspätung %.0f ms, Streuung %.0f ms (höchstens %.0f ms), aus %d Drücken.</translation>
-    </message>
-    <message>
-        <source>%d in 10 takes %.1f seconds.</source>
-        <translation>%d von 10 brauchen %.1f Sekunden.</translation>
+        <translation>Verspätung %.0f ms, Streuung %.0f ms (höchstens %.0f ms), aus %d Betätigungen.</translation>
     </message>
     <message>
         <source>The presses came at other moments than the marks, so we can’t suggest a speed. Wait for the line to reach the mark, then press.</source>
-        <translation>Die Drücke kamen in anderen Momenten als die Marken, darum können wir kein Tempo vorschlagen. Warten Sie, bis die Linie die Marke erreicht, dann drücken Sie.</translation>
+        <translation>Die Betätigungen kamen in anderen Momenten als die Marken, darum können wir kein Tempo vorschlagen. Warten Sie, bis die Linie die Marke erreicht, dann drücken Sie.</translation>
     </message>
     <message>
         <source>The presses became less even from sweep to sweep. Have a rest, then try once more.</source>
-        <translation>Die Drücke wurden von Durchlauf zu Durchlauf ungleichmäßiger. Ruhen Sie sich aus, dann versuchen Sie es noch einmal.</translation>
+        <translation>Die Betätigungen wurden von Durchlauf zu Durchlauf ungleichmäßiger. Ruhen Sie sich aus, dann versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>Wait for the line.</source>
@@ -2999,28 +3312,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Die Linie</translation>
     </message>
     <message>
-        <source>%.1f seconds suits you: we expect %d in 10.</source>
-        <translation>%.1f Sekunden passen zu Ihnen: Wir erwarten %d von 10.</translation>
-    </message>
-    <message>
-        <source>At %.1f seconds we expect %d in 10.</source>
-        <translation>Bei %.1f Sekunden erwarten wir %d von 10.</translation>
-    </message>
-    <message>
-        <source>With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit, and at least %d.</source>
-        <translation>Mit dem Zeiger danach, bei %.1f Sekunden, erwarten wir, dass %d von 10 Klicks treffen, und mindestens %d.</translation>
-    </message>
-    <message>
-        <source>With the pointer after it, at %.1f seconds instead of %.1f, we expect %d clicks in 10 to hit, and at least %d.</source>
-        <translation>Mit dem Zeiger danach, bei %.1f statt %.1f Sekunden, erwarten wir, dass %d von 10 Klicks treffen, und mindestens %d.</translation>
-    </message>
-    <message>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm.</source>
         <translation>Auch bei %.0f Sekunden, der langsamsten Linie, können wir nicht erwarten, dass 3 von 4 Klicks treffen. Ziele von %.0f mm würden es möglich machen, oder ein Scanbereich von nur %.0f × %.0f mm.</translation>
-    </message>
-    <message>
-        <source>%d clicks in 10 to hit takes %.1f seconds for the line and %.1f for the pointer.</source>
-        <translation>Damit %d von 10 Klicks treffen, braucht die Linie %.1f Sekunden und der Zeiger %.1f.</translation>
     </message>
     <message>
         <source>After a miss it took %.1f seconds to go on.</source>
@@ -3036,7 +3329,7 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Spread of your presses, up to %.0f ms</source>
-        <translation>Streuung Ihrer Drücke, bis %.0f ms</translation>
+        <translation>Streuung Ihrer Betätigungen, bis %.0f ms</translation>
     </message>
     <message>
         <source>The pointer’s speed is too far from the line’s to say how many clicks will hit.</source>
@@ -3048,11 +3341,11 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
     <message>
         <source>Any key but Tab and Escape is a press, and any mouse button on the picture.</source>
-        <translation>Als Druck zählt jede Taste außer Tab und Escape, und jede Maustaste auf dem Bild.</translation>
+        <translation>Als Druck zählt jede Taste außer Tab und Esc, und jede Maustaste auf dem Bild.</translation>
     </message>
     <message>
         <source>Whether your switch arrives is shown by “First steps”, in the section “General”. Escape leaves.</source>
-        <translation>Ob Ihr Schalter ankommt, zeigt „Erste Schritte“ im Abschnitt „Allgemein“. Escape verlässt die Seite.</translation>
+        <translation>Ob Ihr Schalter ankommt, zeigt „Erste Schritte“ im Abschnitt „Allgemein“. Esc verlässt die Seite.</translation>
     </message>
     <message>
         <source>Two sweeps went by without a press. To leave, press now. To go on, wait %.0f seconds.</source>
@@ -3096,6 +3389,42 @@ to %2</source>
         <translation>„%1“
 auf %2 setzen</translation>
     </message>
+    <message>
+        <source>Use %.1f s and try</source>
+        <translation>%.1f s nehmen und probieren</translation>
+    </message>
+    <message>
+        <source>Keep %.1f s</source>
+        <translation>%.1f s behalten</translation>
+    </message>
+    <message>
+        <source>%d in 10, at least %d</source>
+        <translation>%d von 10, mindestens %d</translation>
+    </message>
+    <message>
+        <source>%.1f seconds suits you: we expect %s.</source>
+        <translation>%.1f Sekunden passen zu Ihnen: Wir erwarten %s.</translation>
+    </message>
+    <message>
+        <source>At %.1f seconds we expect %s. At %.1f seconds, as it is now: %s.</source>
+        <translation>Bei %.1f Sekunden erwarten wir %s. Bei %.1f Sekunden, wie jetzt: %s.</translation>
+    </message>
+    <message>
+        <source>Line and pointer together, with the pointer at %.1f s: %s.</source>
+        <translation>Linie und Zeiger zusammen, mit dem Zeiger bei %.1f Sekunden: %s.</translation>
+    </message>
+    <message>
+        <source>Line and pointer together, with the pointer at %.1f s instead of %.1f: %s.</source>
+        <translation>Linie und Zeiger zusammen, mit dem Zeiger bei %.1f statt %.1f Sekunden: %s.</translation>
+    </message>
+    <message>
+        <source>At least %d in 10 takes %.1f seconds.</source>
+        <translation>Mindestens %d von 10 brauchen %.1f Sekunden.</translation>
+    </message>
+    <message>
+        <source>At least %d clicks in 10 takes %.1f seconds for the line and %.1f for the pointer.</source>
+        <translation>Für mindestens %d von 10 Klicks braucht die Linie %.1f Sekunden und der Zeiger %.1f.</translation>
+    </message>
 </context>
 <context>
     <name>Units</name>
@@ -3134,7 +3463,7 @@ auf %2 setzen</translation>
     </message>
     <message>
         <source>Assistive access is switched off</source>
-        <translation>Der Zugriff für Hilfsmittel ist ausgeschaltet</translation>
+        <translation>Der Zugriff für unterstützende Technologien ist ausgeschaltet</translation>
     </message>
     <message>
         <source>Korvex needs it to find the windows, menus and buttons on your screen. While it is off, Korvex can’t scan. “Open settings” shows you where to switch it on. This notice closes by itself after half a minute.</source>
@@ -3158,7 +3487,7 @@ auf %2 setzen</translation>
     </message>
     <message>
         <source>Shows where assistive access is switched on.</source>
-        <translation>Zeigt, wo der Zugriff für Hilfsmittel eingeschaltet wird.</translation>
+        <translation>Zeigt, wo der Zugriff für unterstützende Technologien eingeschaltet wird.</translation>
     </message>
     <message>
         <source>Open sett&amp;ings</source>
@@ -3170,7 +3499,7 @@ auf %2 setzen</translation>
     </message>
     <message>
         <source>Closes this notice until tomorrow. The Escape key does the same.</source>
-        <translation>Schließt diesen Hinweis bis morgen. Die Escape-Taste tut dasselbe.</translation>
+        <translation>Schließt diesen Hinweis bis morgen. Die Esc-Taste tut dasselbe.</translation>
     </message>
     <message>
         <source>&amp;Not now</source>
@@ -3206,10 +3535,6 @@ auf %2 setzen</translation>
     <message>
         <source>2. Choose how you press</source>
         <translation>2. Wählen, wie Sie drücken</translation>
-    </message>
-    <message>
-        <source>Scan mode</source>
-        <translation>Scan-Art</translation>
     </message>
     <message>
         <source>How your switch controls the scan.</source>
@@ -3254,10 +3579,6 @@ auf %2 setzen</translation>
     <message>
         <source>longer</source>
         <translation>länger</translation>
-    </message>
-    <message>
-        <source>Line scan time</source>
-        <translation>Zeit des Linien-Scans</translation>
     </message>
     <message>
         <source>Begin slowly. More time makes it easier to stop the line in the right place.</source>
@@ -3319,6 +3640,10 @@ auf %2 setzen</translation>
         <source>Start</source>
         <translation>Los geht’s</translation>
     </message>
+    <message>
+        <source>Way of scanning</source>
+        <translation>Art zu scannen</translation>
+    </message>
 </context>
 <context>
     <name>tryout</name>
@@ -3348,7 +3673,7 @@ auf %2 setzen</translation>
     </message>
     <message>
         <source>Press any key or button, or use this button’s press action. Escape leaves.</source>
-        <translation>Drücken Sie eine Taste oder einen Knopf, oder nutzen Sie die Drück-Aktion dieses Knopfs. Escape verlässt die Seite.</translation>
+        <translation>Drücken Sie eine Taste oder einen Knopf, oder nutzen Sie die Drück-Aktion dieses Knopfs. Esc verlässt die Seite.</translation>
     </message>
     <message>
         <source>Sets the line scan time and lets you try it. You can go back at any time.</source>

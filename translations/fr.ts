@@ -2,6 +2,169 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>Actions</name>
+    <message>
+        <source>Empty slot</source>
+        <translation>Place vide</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Taper</translation>
+    </message>
+    <message>
+        <source>Scroll</source>
+        <translation>Défiler</translation>
+    </message>
+    <message>
+        <source>Pg up</source>
+        <translation>Page préc.</translation>
+    </message>
+    <message>
+        <source>Pg down</source>
+        <translation>Page suiv.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Haut</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Bas</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Clic</translation>
+    </message>
+    <message>
+        <source>Double</source>
+        <translation>Double</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Glisser</translation>
+    </message>
+    <message>
+        <source>R-click</source>
+        <translation>Clic dr.</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Tenir</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>Menus</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Applis</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Fenêtres</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Bureau</translation>
+    </message>
+    <message>
+        <source>Louder</source>
+        <translation>Plus fort</translation>
+    </message>
+    <message>
+        <source>Quieter</source>
+        <translation>Moins fort</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Muet</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>Plus vite</translation>
+    </message>
+    <message>
+        <source>Slower</source>
+        <translation>Moins vite</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Again</source>
+        <translation>Encore</translation>
+    </message>
+</context>
+<context>
     <name>Agent</name>
     <message>
         <source>No X11 display can be reached.</source>
@@ -11,21 +174,33 @@
         <source>The X11 display has no %1, which scanning needs.</source>
         <translation>L’écran X11 n’a pas %1, dont le balayage a besoin.</translation>
     </message>
+    <message>
+        <source>Another program scans already.</source>
+        <translation>Un autre programme balaie déjà.</translation>
+    </message>
+    <message>
+        <source>Korvex can&apos;t scan in a Wayland session. Log out, and choose a session with X11 where you log in.</source>
+        <translation>Korvex ne peut pas balayer dans une session Wayland. Fermez la session, et choisissez-en une avec X11 en ouvrant la suivante.</translation>
+    </message>
+    <message>
+        <source>Korvex can&apos;t scan: no process can be started.</source>
+        <translation>Korvex ne peut pas balayer : aucun processus ne peut être lancé.</translation>
+    </message>
+    <message>
+        <source>Scanning is off. Hold your switch for four seconds to switch it on again.</source>
+        <translation>Le balayage est à l’arrêt. Maintenez votre contacteur quatre secondes pour le remettre en marche.</translation>
+    </message>
+    <message>
+        <source>Another program has these keys: %1. Choose others under Presses.</source>
+        <translation>Un autre programme a ces touches : %1. Choisissez-en d’autres dans « Appuis ».</translation>
+    </message>
+    <message>
+        <source>Scanning is on.</source>
+        <translation>Le balayage est en marche.</translation>
+    </message>
 </context>
 <context>
     <name>Changes</name>
-    <message>
-        <source>The palette has the buttons again that Korvex came with.</source>
-        <translation>La palette a de nouveau les boutons fournis avec Korvex.</translation>
-    </message>
-    <message>
-        <source>Put it back</source>
-        <translation>Revenir en arrière</translation>
-    </message>
-    <message>
-        <source>%1, and 1 setting more</source>
-        <translation>%1, et 1 autre réglage</translation>
-    </message>
     <message>
         <source>%1.</source>
         <comment>a sentence</comment>
@@ -39,54 +214,62 @@
         <source>%1: %2 back to %3</source>
         <translation>%1&#xa0;: %2 redevient %3</translation>
     </message>
+    <message>
+        <source>Reset everything</source>
+        <translation>Tout réinitialiser</translation>
+    </message>
+    <message>
+        <source>Nothing to reset</source>
+        <translation>Rien à réinitialiser</translation>
+    </message>
+    <message>
+        <source>Reset everything: 1 setting</source>
+        <translation>Tout réinitialiser : 1 réglage</translation>
+    </message>
     <message numerus="yes">
-        <source>%1, and %n settings more</source>
+        <source>Reset everything: %n settings</source>
+        <translation>
+            <numerusform>Tout réinitialiser : %n réglage</numerusform>
+            <numerusform>Tout réinitialiser : %n réglages</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset 1 setting</source>
+        <translation>Réinitialiser 1 réglage</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings</source>
+        <translation>
+            <numerusform>Réinitialiser %n réglage</numerusform>
+            <numerusform>Réinitialiser %n réglages</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The palette has its original buttons again.</source>
+        <translation>La palette a de nouveau ses boutons d’origine.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>%1, and 1 more setting</source>
+        <translation>%1, et 1 autre réglage</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, and %n more settings</source>
         <translation>
             <numerusform>%1, et %n autre réglage</numerusform>
             <numerusform>%1, et %n autres réglages</numerusform>
         </translation>
     </message>
     <message>
-        <source>Put everything back</source>
-        <translation>Tout remettre</translation>
+        <source>Reset “%1” to its default</source>
+        <translation>Réinitialiser « %1 »</translation>
     </message>
     <message>
-        <source>Nothing to put back</source>
-        <translation>Rien à remettre</translation>
-    </message>
-    <message>
-        <source>Put everything back: 1 setting</source>
-        <translation>Tout remettre&#xa0;: 1 réglage</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put everything back: %n settings</source>
-        <translation>
-            <numerusform>Tout remettre&#xa0;: %n réglage</numerusform>
-            <numerusform>Tout remettre&#xa0;: %n réglages</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Put 1 setting back</source>
-        <translation>Remettre 1 réglage</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put %n settings back</source>
-        <translation>
-            <numerusform>Remettre %n réglage</numerusform>
-            <numerusform>Remettre %n réglages</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Put “%1” back to its default</source>
-        <translation>Remettre «&#xa0;%1&#xa0;» à sa valeur par défaut</translation>
-    </message>
-    <message>
-        <source>Put “%1” back to %3</source>
-        <translation>Remettre «&#xa0;%1&#xa0;» à %3</translation>
-    </message>
-    <message>
-        <source>Undo this</source>
-        <translation>Annuler ceci</translation>
+        <source>Reset “%1” to %3</source>
+        <translation>Réinitialiser « %1 » à %3</translation>
     </message>
 </context>
 <context>
@@ -213,10 +396,6 @@
     <message>
         <source>Changes settings.</source>
         <translation>Change des réglages.</translation>
-    </message>
-    <message>
-        <source>Puts settings back to their defaults; &quot;all&quot; stands for all of them.</source>
-        <translation>Remet des réglages à leur valeur par défaut&#xa0;; «&#xa0;all&#xa0;» les désigne tous.</translation>
     </message>
     <message>
         <source>FILE</source>
@@ -347,6 +526,10 @@
     <message>
         <source>there is no option &quot;%1&quot;</source>
         <translation>il n’y a pas d’option «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Resets settings to their defaults; &quot;all&quot; stands for all of them.</source>
+        <translation>Réinitialise des réglages ; « all » vaut pour tous.</translation>
     </message>
 </context>
 <context>
@@ -582,14 +765,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Nouvelles touches pour «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>Use it here and remove it there</source>
-        <translation>L’utiliser ici et l’enlever là-bas</translation>
-    </message>
-    <message>
-        <source>Put back what was here</source>
-        <translation>Remettre ce qui était ici</translation>
-    </message>
-    <message>
         <source>Press new keys</source>
         <translation>Appuyer sur de nouvelles touches</translation>
     </message>
@@ -602,20 +777,12 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Aucun</translation>
     </message>
     <message>
-        <source>Default</source>
-        <translation>Par défaut</translation>
-    </message>
-    <message>
         <source>Listening: press the new hot key, one key, alone or with Ctrl, Alt, Shift or Super held down. Every key counts, Esc and Tab too. Seconds left: %1.</source>
         <translation>À l’écoute&#xa0;: appuyez sur le nouveau raccourci, une touche, seule ou avec Ctrl, Alt, Maj ou Super. Chaque touche compte, Échap et Tab aussi. Secondes restantes&#xa0;: %1.</translation>
     </message>
     <message>
         <source>“%1”</source>
         <translation>«&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message>
-        <source>⚠ The same keys as %1. The menu beside it offers to use them here alone, or to put back what was here.</source>
-        <translation>⚠ Les mêmes touches que %1. Le menu à côté propose de les garder ici seulement, ou de remettre ce qui était ici.</translation>
     </message>
     <message>
         <source>Now %1.</source>
@@ -627,7 +794,7 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>Turn scanning on or off</source>
-        <translation>Activer ou arrêter le balayage</translation>
+        <translation>Marche ou arrêt du balayage</translation>
     </message>
     <message>
         <source>Scan</source>
@@ -653,6 +820,26 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <source>%1 (hot key)</source>
         <comment>as in Scan (hot key)</comment>
         <translation>%1 (raccourci)</translation>
+    </message>
+    <message>
+        <source>Use these keys only here</source>
+        <translation>N’utiliser ces touches qu’ici</translation>
+    </message>
+    <message>
+        <source>Undo the change here</source>
+        <translation>Annuler le changement ici</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>%1 on your keyboard</source>
+        <translation>%1 sur votre clavier</translation>
+    </message>
+    <message>
+        <source>⚠ The same keys as %1. The menu beside it offers to use them only here, or to undo the change.</source>
+        <translation>⚠ Les mêmes touches que %1. Le menu à côté propose de ne les utiliser qu’ici, ou d’annuler le changement.</translation>
     </message>
 </context>
 <context>
@@ -684,74 +871,193 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
 </context>
 <context>
+    <name>Keyboard</name>
+    <message>
+        <source>F13 or Print Screen</source>
+        <translation>F13 ou Impr. écran</translation>
+    </message>
+    <message>
+        <source>F14 or Scroll Lock</source>
+        <translation>F14 ou Arrêt défil</translation>
+    </message>
+    <message>
+        <source>F15 or Pause</source>
+        <translation>F15 ou Pause</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Retour arrière</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Inser</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Suppr</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Page préc.</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Page suiv.</translation>
+    </message>
+    <message>
+        <source>Left arrow</source>
+        <translation>Flèche gauche</translation>
+    </message>
+    <message>
+        <source>Right arrow</source>
+        <translation>Flèche droite</translation>
+    </message>
+    <message>
+        <source>Up arrow</source>
+        <translation>Flèche haut</translation>
+    </message>
+    <message>
+        <source>Down arrow</source>
+        <translation>Flèche bas</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Muet</translation>
+    </message>
+    <message>
+        <source>Quieter</source>
+        <translation>Moins fort</translation>
+    </message>
+    <message>
+        <source>Louder</source>
+        <translation>Plus fort</translation>
+    </message>
+    <message>
+        <source>Num Lock</source>
+        <translation>Verr. num</translation>
+    </message>
+    <message>
+        <source>keypad Enter</source>
+        <translation>pavé num. Entrée</translation>
+    </message>
+    <message>
+        <source>keypad %1</source>
+        <translation>pavé num. %1</translation>
+    </message>
+    <message>
+        <source>Super+</source>
+        <translation>Super+</translation>
+    </message>
+    <message>
+        <source>Ctrl+</source>
+        <translation>Ctrl+</translation>
+    </message>
+    <message>
+        <source>Shift+</source>
+        <translation>Maj+</translation>
+    </message>
+    <message>
+        <source>Alt+</source>
+        <translation>Alt+</translation>
+    </message>
+</context>
+<context>
     <name>Keys</name>
     <message>
         <source>return</source>
-        <translation>retour</translation>
+        <translation>Entrée</translation>
     </message>
     <message>
         <source>tab</source>
-        <translation>tab</translation>
+        <translation>Tab</translation>
     </message>
     <message>
         <source>space</source>
-        <translation>espace</translation>
+        <translation>Espace</translation>
     </message>
     <message>
         <source>delete</source>
-        <translation>suppr. arrière</translation>
+        <translation>Retour arrière</translation>
     </message>
     <message>
         <source>enter</source>
-        <translation>entrée</translation>
+        <translation>pavé num. Entrée</translation>
     </message>
     <message>
         <source>esc</source>
-        <translation>échap</translation>
+        <translation>Échap</translation>
     </message>
     <message>
         <source>caps lock</source>
-        <translation>verr. maj</translation>
+        <translation>Verr. maj</translation>
     </message>
     <message>
         <source>clear</source>
-        <translation>effacer</translation>
+        <translation>Verr. num</translation>
     </message>
     <message>
         <source>help</source>
-        <translation>aide</translation>
+        <translation>Inser</translation>
     </message>
     <message>
         <source>home</source>
-        <translation>début</translation>
+        <translation>Début</translation>
     </message>
     <message>
         <source>page up</source>
-        <translation>page préc.</translation>
+        <translation>Page préc.</translation>
     </message>
     <message>
         <source>end</source>
-        <translation>fin</translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>page down</source>
-        <translation>page suiv.</translation>
+        <translation>Page suiv.</translation>
     </message>
     <message>
         <source>command+</source>
-        <translation>commande+</translation>
+        <translation>Super+</translation>
     </message>
     <message>
         <source>control+</source>
-        <translation>contrôle+</translation>
+        <translation>Ctrl+</translation>
     </message>
     <message>
         <source>shift+</source>
-        <translation>maj+</translation>
+        <translation>Maj+</translation>
     </message>
     <message>
         <source>option+</source>
-        <translation>option+</translation>
+        <translation>Alt+</translation>
     </message>
     <message>
         <source> keypad </source>
@@ -777,7 +1083,7 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <name>NumberRow</name>
     <message>
         <source>%1, %2</source>
-        <extracomment>As in &quot;Line scan time, longer&quot;</extracomment>
+        <extracomment>As in &quot;Volume, louder&quot;</extracomment>
         <translation>%1, %2</translation>
     </message>
     <message>
@@ -853,11 +1159,11 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>&lt;p&gt;Off stops scanning and keeps all settings. Hold Alt (Option) while you click to quit Korvex itself, or to start it.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;«&#xa0;Arrêt&#xa0;» cesse le balayage et garde tous les réglages. Maintenez Alt (Option) en cliquant pour quitter Korvex lui-même, ou pour le lancer.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;«&#xa0;Arrêt&#xa0;» cesse le balayage et garde tous les réglages. Maintenez Alt en cliquant pour quitter Korvex lui-même, ou pour le lancer.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Turns scanning off and on. Your settings stay as they are.</source>
-        <translation>Arrête et active le balayage. Vos réglages restent comme ils sont.</translation>
+        <translation>Marche et arrêt du balayage. Vos réglages restent comme ils sont.</translation>
     </message>
     <message>
         <source>Stops scanning. With Alt held, quits Korvex.</source>
@@ -878,14 +1184,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>Undo</source>
         <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Takes the last change of this visit back. Ctrl+Z does the same.</source>
-        <translation>Annule le dernier changement de cette visite. Ctrl+Z fait de même.</translation>
-    </message>
-    <message>
-        <source>&lt;p&gt;Takes the last change of this visit back. Ctrl+Z does the same.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Annule le dernier changement de cette visite. Ctrl+Z fait de même.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -944,10 +1242,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>plus long</translation>
     </message>
     <message>
-        <source>Line scan time</source>
-        <translation>Durée de balayage de la ligne</translation>
-    </message>
-    <message>
         <source>More time makes it easier to stop the line in the right place.</source>
         <translation>Avec plus de temps, il est plus facile d’arrêter la ligne au bon endroit.</translation>
     </message>
@@ -958,10 +1252,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>Pointer &amp;crosses the screen in</source>
         <translation>Le pointeur traver&amp;se l’écran en</translation>
-    </message>
-    <message>
-        <source>Pointer scan time</source>
-        <translation>Durée de balayage du pointeur</translation>
     </message>
     <message>
         <source>Once you have stopped the line, the pointer moves along it.</source>
@@ -1036,10 +1326,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>&amp;Répéter une action toutes les</translation>
     </message>
     <message>
-        <source>Time between repeats</source>
-        <translation>Temps entre les répétitions</translation>
-    </message>
-    <message>
         <source>Actions such as scrolling go on at this pace until you press again.</source>
         <translation>Des actions comme le défilement continuent à ce rythme jusqu’au prochain appui.</translation>
     </message>
@@ -1105,7 +1391,7 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>Drag across the screen, or move the area&apos;s lower right corner with the arrow keys and, with Shift, its upper left one. Return keeps the area, Esc leaves all as it was.</source>
-        <translation>Glissez sur l’écran, ou déplacez le coin inférieur droit de la zone avec les flèches et, avec Maj, son coin supérieur gauche. Retour garde la zone, Échap laisse tout comme avant.</translation>
+        <translation>Glissez sur l’écran, ou déplacez le coin inférieur droit de la zone avec les flèches et, avec Maj, son coin supérieur gauche. Entrée garde la zone, Échap laisse tout comme avant.</translation>
     </message>
     <message>
         <source>none</source>
@@ -1121,7 +1407,7 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>Covers the screen. Drag across it, or move the area&apos;s lower right corner with the arrow keys and, with Shift, its upper left one. Return keeps the area, Esc leaves all as it was.</source>
-        <translation>Couvre l’écran. Glissez dessus, ou déplacez le coin inférieur droit de la zone avec les flèches et, avec Maj, son coin supérieur gauche. Retour garde la zone, Échap laisse tout comme avant.</translation>
+        <translation>Couvre l’écran. Glissez dessus, ou déplacez le coin inférieur droit de la zone avec les flèches et, avec Maj, son coin supérieur gauche. Entrée garde la zone, Échap laisse tout comme avant.</translation>
     </message>
     <message>
         <source>&amp;Draw…</source>
@@ -1154,10 +1440,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>Way of scanning</source>
         <translation>Façon de balayer</translation>
-    </message>
-    <message>
-        <source>Scan mode</source>
-        <translation>Mode de balayage</translation>
     </message>
     <message>
         <source>How your switch controls the scan.</source>
@@ -1276,10 +1558,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Pour un contacteur branché comme bouton de souris, ou pour la souris elle-même.</translation>
     </message>
     <message>
-        <source>Keys that work everywhere</source>
-        <translation>Touches valables partout</translation>
-    </message>
-    <message>
         <source>Press the new hot key: one key, alone or with Ctrl, Alt, Shift or Super held down. Every key counts, Esc and Tab too.</source>
         <translation>Appuyez sur le nouveau raccourci&#xa0;: une touche, seule ou avec Ctrl, Alt, Maj ou Super. Chaque touche compte, Échap et Tab aussi.</translation>
     </message>
@@ -1292,24 +1570,12 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>Goes back to the usual hot key.</source>
-        <translation>Revient au raccourci habituel.</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>Par défaut</translation>
-    </message>
-    <message>
         <source>Takes the hot key away.</source>
         <translation>Enlève le raccourci.</translation>
     </message>
     <message>
         <source>None</source>
         <translation>Aucun</translation>
-    </message>
-    <message>
-        <source>To change a hot key, click it, or open the menu beside it and choose “Press new keys”. The next key that you press becomes the hot key. Without a keyboard, choose “Choose keys…”. In its name, “command” is the Super or Windows key and “option” is Alt.</source>
-        <translation>Pour changer un raccourci, cliquez dessus, ou ouvrez le menu à côté et choisissez «&#xa0;Appuyer sur de nouvelles touches&#xa0;». La prochaine touche devient le raccourci. Sans clavier, choisissez «&#xa0;Choisir des touches…&#xa0;». Dans son nom, «&#xa0;commande&#xa0;» est la touche Super ou Windows, et «&#xa0;option&#xa0;» est Alt.</translation>
     </message>
     <message>
         <source>Sca&amp;n</source>
@@ -1365,7 +1631,7 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>&amp;Turn scanning on or off</source>
-        <translation>Ac&amp;tiver ou arrêter le balayage</translation>
+        <translation>Marche ou arrê&amp;t du balayage</translation>
     </message>
     <message>
         <source>Does what the switch at the top of this window does.</source>
@@ -1373,11 +1639,11 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>Turn scanning on or off</source>
-        <translation>Activer ou arrêter le balayage</translation>
+        <translation>Marche ou arrêt du balayage</translation>
     </message>
     <message>
         <source>Change: Turn scanning on or off</source>
-        <translation>Changer&#xa0;: Activer ou arrêter le balayage</translation>
+        <translation>Changer : Marche ou arrêt du balayage</translation>
     </message>
     <message>
         <source>Sho&amp;w these settings</source>
@@ -1401,19 +1667,19 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>command (Super)</source>
-        <translation>commande (Super)</translation>
+        <translation>Super</translation>
     </message>
     <message>
         <source>control</source>
-        <translation>contrôle</translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>shift</source>
-        <translation>maj</translation>
+        <translation>Maj</translation>
     </message>
     <message>
         <source>option (Alt)</source>
-        <translation>option (Alt)</translation>
+        <translation>Alt</translation>
     </message>
     <message>
         <source>Choose a key</source>
@@ -1458,10 +1724,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>Strong colours</source>
         <translation>Couleurs fortes</translation>
-    </message>
-    <message>
-        <source>Strong line colours</source>
-        <translation>Couleurs de ligne fortes</translation>
     </message>
     <message>
         <source>Line &amp;thickness</source>
@@ -1548,14 +1810,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Choisissez-en un grand, ou d’une couleur que vous trouvez vite.</translation>
     </message>
     <message>
-        <source>Corners</source>
-        <translation>Coins</translation>
-    </message>
-    <message>
-        <source>Corners of the palette’s buttons</source>
-        <translation>Coins des boutons de la palette</translation>
-    </message>
-    <message>
         <source>The shape of each button of the palette.</source>
         <translation>La forme de chaque bouton de la palette.</translation>
     </message>
@@ -1584,10 +1838,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Chaque bouton de la palette montre le nom de son action.</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>Taille</translation>
-    </message>
-    <message>
         <source>smaller</source>
         <translation>plus petit</translation>
     </message>
@@ -1604,10 +1854,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>De plus grands boutons se voient et s’atteignent mieux. De 20 à 100 points par côté.</translation>
     </message>
     <message>
-        <source>Width alone</source>
-        <translation>Largeur seule</translation>
-    </message>
-    <message>
         <source>narrower</source>
         <translation>plus étroit</translation>
     </message>
@@ -1616,16 +1862,8 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>plus large</translation>
     </message>
     <message>
-        <source>Palette buttons’ width</source>
-        <translation>Largeur des boutons de la palette</translation>
-    </message>
-    <message>
         <source>Wider buttons have room for longer names.</source>
         <translation>Des boutons plus larges ont de la place pour des noms plus longs.</translation>
-    </message>
-    <message>
-        <source>Height alone</source>
-        <translation>Hauteur seule</translation>
     </message>
     <message>
         <source>lower</source>
@@ -1636,32 +1874,12 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>plus haut</translation>
     </message>
     <message>
-        <source>Palette buttons’ height</source>
-        <translation>Hauteur des boutons de la palette</translation>
-    </message>
-    <message>
         <source>Higher buttons have room for a larger icon above the name.</source>
         <translation>Des boutons plus hauts ont de la place pour une plus grande icône au-dessus du nom.</translation>
     </message>
     <message>
-        <source>Around the edge</source>
-        <translation>Autour du bord</translation>
-    </message>
-    <message>
-        <source>Space around the edge of the palette</source>
-        <translation>Espace autour du bord de la palette</translation>
-    </message>
-    <message>
         <source>Between the buttons and the edge of the palette.</source>
         <translation>Entre les boutons et le bord de la palette.</translation>
-    </message>
-    <message>
-        <source>Between the buttons</source>
-        <translation>Entre les boutons</translation>
-    </message>
-    <message>
-        <source>Space between palette buttons</source>
-        <translation>Espace entre les boutons de la palette</translation>
     </message>
     <message>
         <source>More space makes it harder to hit the wrong button.</source>
@@ -1674,10 +1892,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>Palette</source>
         <translation>Palette</translation>
-    </message>
-    <message>
-        <source>Buttons</source>
-        <translation>Boutons</translation>
     </message>
     <message>
         <source>The nine places of the palette. The arrow keys move between them, Space chooses one.</source>
@@ -1752,14 +1966,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Réinitialiser tous les boutons</translation>
     </message>
     <message>
-        <source>Puts the five buttons back that Korvex came with.</source>
-        <translation>Remet les cinq boutons fournis avec Korvex.</translation>
-    </message>
-    <message>
-        <source>&lt;p&gt;Puts the five buttons back that Korvex came with.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Remet les cinq boutons fournis avec Korvex.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>R&amp;eset all</source>
         <translation>Tout &amp;réinitialiser</translation>
     </message>
@@ -1829,11 +2035,11 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>Turn scanning on when Korvex starts</source>
-        <translation>Activer le balayage au lancement de Korvex</translation>
+        <translation>Mettre le balayage en marche au lancement de Korvex</translation>
     </message>
     <message>
         <source>Otherwise Korvex waits until you turn scanning on, here or with its key.</source>
-        <translation>Sinon, Korvex attend que vous activiez le balayage, ici ou avec sa touche.</translation>
+        <translation>Sinon, Korvex attend que vous mettiez le balayage en marche, ici ou avec sa touche.</translation>
     </message>
     <message>
         <source>First steps</source>
@@ -1884,16 +2090,8 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Utiliser</translation>
     </message>
     <message>
-        <source>Save the settings in the chosen profile</source>
-        <translation>Enregistrer les réglages dans le profil choisi</translation>
-    </message>
-    <message>
         <source>The chosen profile gets the settings as they are now.</source>
         <translation>Le profil choisi reçoit les réglages tels qu’ils sont maintenant.</translation>
-    </message>
-    <message>
-        <source>Save the settings in it</source>
-        <translation>Y enregistrer les réglages</translation>
     </message>
     <message>
         <source>Delete the chosen profile</source>
@@ -1972,10 +2170,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Renommer le profil choisi</translation>
     </message>
     <message>
-        <source>Settings from a file</source>
-        <translation>Réglages d’un fichier</translation>
-    </message>
-    <message>
         <source>Shows what the file would change, before anything is changed.</source>
         <translation>Montre ce que le fichier changerait, avant tout changement.</translation>
     </message>
@@ -1988,16 +2182,8 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Importer…</translation>
     </message>
     <message>
-        <source>Save all settings in a file</source>
-        <translation>Enregistrer tous les réglages dans un fichier</translation>
-    </message>
-    <message>
         <source>As a backup, or for another computer.</source>
         <translation>Comme sauvegarde, ou pour un autre ordinateur.</translation>
-    </message>
-    <message>
-        <source>Export the settings</source>
-        <translation>Exporter les réglages</translation>
     </message>
     <message>
         <source>Export…</source>
@@ -2088,28 +2274,8 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Cette section</translation>
     </message>
     <message>
-        <source>All that a bar marks goes back to its default. You can undo that.</source>
-        <translation>Tout ce que marque une barre revient à sa valeur par défaut. Vous pouvez l’annuler.</translation>
-    </message>
-    <message>
-        <source>Puts this section’s settings back to their defaults.</source>
-        <translation>Remet les réglages de cette section à leur valeur par défaut.</translation>
-    </message>
-    <message>
-        <source>All that a bar marks goes back to its default, but not how Korvex starts.</source>
-        <translation>Tout ce que marque une barre revient à sa valeur par défaut, sauf le démarrage de Korvex.</translation>
-    </message>
-    <message>
         <source>All sections</source>
         <translation>Toutes les sections</translation>
-    </message>
-    <message>
-        <source>Every setting goes back to its default, but not how Korvex starts.</source>
-        <translation>Chaque réglage revient à sa valeur par défaut, sauf le démarrage de Korvex.</translation>
-    </message>
-    <message>
-        <source>Puts the settings of all sections back to their defaults.</source>
-        <translation>Remet les réglages de toutes les sections à leur valeur par défaut.</translation>
     </message>
     <message>
         <source>Settings as a file</source>
@@ -2151,12 +2317,159 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <source>Sound, login, profiles</source>
         <translation>Son, démarrage, profils</translation>
     </message>
+    <message>
+        <source>Undoes the last change of this visit. Ctrl+Z does the same.</source>
+        <translation>Annule le dernier changement de cette visite. Ctrl+Z fait de même.</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Undoes the last change of this visit. Ctrl+Z does the same.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Annule le dernier changement de cette visite. Ctrl+Z fait de même.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Line crosses the screen in</source>
+        <translation>La ligne traverse l’écran en</translation>
+    </message>
+    <message>
+        <source>Pointer crosses the screen in</source>
+        <translation>Le pointeur traverse l’écran en</translation>
+    </message>
+    <message>
+        <source>Repeat an action every</source>
+        <translation>Répéter une action toutes les</translation>
+    </message>
+    <message>
+        <source>Resets every setting marked with a bar. You can undo that.</source>
+        <translation>Réinitialise chaque réglage marqué d’une barre. Vous pouvez l’annuler.</translation>
+    </message>
+    <message>
+        <source>Resets this section’s settings to their defaults.</source>
+        <translation>Réinitialise les réglages de cette section.</translation>
+    </message>
+    <message>
+        <source>Hot keys</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Resets the hot key to its default.</source>
+        <translation>Réinitialise le raccourci.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>They work everywhere. To change one, click it, or open the menu beside it and choose “Press new keys”. The next key that you press becomes the hot key. Without a keyboard, choose “Choose keys…”.</source>
+        <translation>Ils agissent partout. Pour en changer un, cliquez dessus, ou ouvrez le menu à côté et choisissez « Appuyer sur de nouvelles touches ». La prochaine touche pressée devient le raccourci. Sans clavier, choisissez « Choisir des touches… ».</translation>
+    </message>
+    <message>
+        <source>Gives the palette its five original buttons again.</source>
+        <translation>Rend à la palette ses cinq boutons d’origine.</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Gives the palette its five original buttons again.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Rend à la palette ses cinq boutons d’origine.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Corners of the buttons</source>
+        <translation>Coins des boutons</translation>
+    </message>
+    <message>
+        <source>Size of the buttons</source>
+        <translation>Taille des boutons</translation>
+    </message>
+    <message>
+        <source>Width of the buttons</source>
+        <translation>Largeur des boutons</translation>
+    </message>
+    <message>
+        <source>Height of the buttons</source>
+        <translation>Hauteur des boutons</translation>
+    </message>
+    <message>
+        <source>Space around the edge</source>
+        <translation>Espace au bord</translation>
+    </message>
+    <message>
+        <source>Space between the buttons</source>
+        <translation>Espace entre les boutons</translation>
+    </message>
+    <message>
+        <source>Update this profile</source>
+        <translation>Mettre ce profil à jour</translation>
+    </message>
+    <message>
+        <source>Export settings</source>
+        <translation>Exporter les réglages</translation>
+    </message>
+    <message>
+        <source>Resets every setting marked with a bar, but not how Korvex starts.</source>
+        <translation>Réinitialise chaque réglage marqué d’une barre, sauf le démarrage de Korvex.</translation>
+    </message>
+    <message>
+        <source>Resets every setting, but not how Korvex starts.</source>
+        <translation>Réinitialise chaque réglage, sauf le démarrage de Korvex.</translation>
+    </message>
+    <message>
+        <source>Resets the settings of all sections to their defaults.</source>
+        <translation>Réinitialise les réglages de toutes les sections.</translation>
+    </message>
 </context>
 <context>
     <name>Pointer</name>
     <message>
         <source>None</source>
         <translation>Aucun</translation>
+    </message>
+</context>
+<context>
+    <name>Pointers</name>
+    <message>
+        <source>default</source>
+        <translation>standard</translation>
+    </message>
+    <message>
+        <source>Arrow small</source>
+        <translation>Flèche, petite</translation>
+    </message>
+    <message>
+        <source>Arrow large</source>
+        <translation>Flèche, grande</translation>
+    </message>
+    <message>
+        <source>Arrow large white</source>
+        <translation>Flèche, grande, blanche</translation>
+    </message>
+    <message>
+        <source>Arrow huge yellow</source>
+        <translation>Flèche, énorme, jaune</translation>
+    </message>
+    <message>
+        <source>Arrow large see-through</source>
+        <translation>Flèche, grande, transparente</translation>
+    </message>
+    <message>
+        <source>Crosshair small</source>
+        <translation>Croix, petite</translation>
+    </message>
+    <message>
+        <source>Crosshair large</source>
+        <translation>Croix, grande</translation>
+    </message>
+    <message>
+        <source>Crosshair large white</source>
+        <translation>Croix, grande, blanche</translation>
+    </message>
+    <message>
+        <source>Crosshair huge see-through</source>
+        <translation>Croix, énorme, transparente</translation>
+    </message>
+    <message>
+        <source>Ring</source>
+        <translation>Anneau</translation>
+    </message>
+    <message>
+        <source>Target huge</source>
+        <translation>Cible, énorme</translation>
     </message>
 </context>
 <context>
@@ -2198,24 +2511,8 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Rien dans «&#xa0;%1&#xa0;» ne diffère des réglages.</translation>
     </message>
     <message>
-        <source>“%1” would change: %2. Use its settings?</source>
-        <translation>«&#xa0;%1&#xa0;» changerait&#xa0;: %2. Utiliser ses réglages&#xa0;?</translation>
-    </message>
-    <message>
         <source>Use them</source>
         <translation>Les utiliser</translation>
-    </message>
-    <message>
-        <source>Leave</source>
-        <translation>Laisser</translation>
-    </message>
-    <message>
-        <source>Settings from a file</source>
-        <translation>Réglages d’un fichier</translation>
-    </message>
-    <message>
-        <source>Save the settings in a file</source>
-        <translation>Enregistrer les réglages dans un fichier</translation>
     </message>
     <message>
         <source>“%1” couldn’t be saved: %2.</source>
@@ -2274,10 +2571,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>%1, utilisé</translation>
     </message>
     <message>
-        <source>There is no profile yet. Save the settings as they are now, and come back to them with two presses.</source>
-        <translation>Il n’y a pas encore de profil. Enregistrez les réglages tels qu’ils sont, et revenez-y en deux appuis.</translation>
-    </message>
-    <message>
         <source>The settings are those of “%1”.</source>
         <translation>Les réglages sont ceux de «&#xa0;%1&#xa0;».</translation>
     </message>
@@ -2318,10 +2611,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Et %1 de plus.</translation>
     </message>
     <message>
-        <source>Put it back</source>
-        <translation>Revenir en arrière</translation>
-    </message>
-    <message>
         <source>First type a name, or press one of the ready ones.</source>
         <translation>Tapez d’abord un nom, ou pressez un de ceux tout prêts.</translation>
     </message>
@@ -2349,12 +2638,40 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <source>Your profiles can’t be read: %1.</source>
         <translation>Vos profils ne peuvent pas être lus&#xa0;: %1.</translation>
     </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Garder les miens</translation>
+    </message>
+    <message>
+        <source>Import settings</source>
+        <translation>Importer des réglages</translation>
+    </message>
+    <message>
+        <source>Export settings</source>
+        <translation>Exporter les réglages</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>There is no profile yet. Save the settings as they are now, and come back to them with the Profiles menu.</source>
+        <translation>Il n’y a pas encore de profil. Enregistrez les réglages tels qu’ils sont, et revenez-y par le menu « Profils ».</translation>
+    </message>
+    <message>
+        <source>“%1” is in use. It has changed:</source>
+        <translation>« %1 » est utilisé. Il a changé :</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Tout montrer</translation>
+    </message>
 </context>
 <context>
     <name>PutBackButton</name>
     <message>
-        <source>Back at its default</source>
-        <translation>Remis par défaut</translation>
+        <source>Reset to its default</source>
+        <translation>Réinitialisé</translation>
     </message>
 </context>
 <context>
@@ -2455,10 +2772,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>%g × %g à %g&#xa0;; %g</translation>
     </message>
     <message>
-        <source>Scanning</source>
-        <translation>Balayage</translation>
-    </message>
-    <message>
         <source>A sound for each click</source>
         <translation>Un son à chaque clic</translation>
     </message>
@@ -2515,28 +2828,12 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Second bouton de souris comme second contacteur</translation>
     </message>
     <message>
-        <source>Scan mode</source>
-        <translation>Mode de balayage</translation>
-    </message>
-    <message>
         <source>My own area</source>
         <translation>Ma zone</translation>
     </message>
     <message>
-        <source>Scan</source>
-        <translation>Balayer</translation>
-    </message>
-    <message>
         <source>Line scan ends keyboard mode</source>
         <translation>Le balayage de la ligne quitte le mode clavier</translation>
-    </message>
-    <message>
-        <source>Line scan time</source>
-        <translation>Durée de balayage de la ligne</translation>
-    </message>
-    <message>
-        <source>Pointer scan time</source>
-        <translation>Durée de balayage du pointeur</translation>
     </message>
     <message>
         <source>Speed in menus</source>
@@ -2545,10 +2842,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>Start slowly, then speed up</source>
         <translation>Commencer lentement, puis accélérer</translation>
-    </message>
-    <message>
-        <source>Time between repeats</source>
-        <translation>Temps entre les répétitions</translation>
     </message>
     <message>
         <source>Length of a click</source>
@@ -2583,26 +2876,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Raccourcis clavier</translation>
     </message>
     <message>
-        <source>Space around the edge of the palette</source>
-        <translation>Espace autour du bord de la palette</translation>
-    </message>
-    <message>
-        <source>Space between palette buttons</source>
-        <translation>Espace entre les boutons de la palette</translation>
-    </message>
-    <message>
-        <source>Size of palette buttons</source>
-        <translation>Taille des boutons de la palette</translation>
-    </message>
-    <message>
-        <source>Corners of palette buttons</source>
-        <translation>Coins des boutons de la palette</translation>
-    </message>
-    <message>
-        <source>Shown on palette buttons</source>
-        <translation>Montré sur les boutons de la palette</translation>
-    </message>
-    <message>
         <source>Palette buttons</source>
         <translation>Boutons de la palette</translation>
     </message>
@@ -2624,11 +2897,11 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>on</source>
-        <translation>oui</translation>
+        <translation>marche</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>non</translation>
+        <translation>arrêt</translation>
     </message>
     <message>
         <source>%d × %d points</source>
@@ -2640,7 +2913,7 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>Turn scanning on when Korvex starts</source>
-        <translation>Activer le balayage au lancement de Korvex</translation>
+        <translation>Mettre le balayage en marche au lancement de Korvex</translation>
     </message>
     <message>
         <source>none</source>
@@ -2662,6 +2935,58 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <comment>its number</comment>
         <translation>Bouton %1 de la palette</translation>
     </message>
+    <message>
+        <source>Scanning with Korvex</source>
+        <translation>Balayage avec Korvex</translation>
+    </message>
+    <message>
+        <source>Way of scanning</source>
+        <translation>Façon de balayer</translation>
+    </message>
+    <message>
+        <source>What is scanned</source>
+        <translation>Ce qui est balayé</translation>
+    </message>
+    <message>
+        <source>Line crosses the screen in</source>
+        <translation>La ligne traverse l’écran en</translation>
+    </message>
+    <message>
+        <source>Pointer crosses the screen in</source>
+        <translation>Le pointeur traverse l’écran en</translation>
+    </message>
+    <message>
+        <source>Repeat an action every</source>
+        <translation>Répéter une action toutes les</translation>
+    </message>
+    <message>
+        <source>Space around the edge</source>
+        <translation>Espace au bord</translation>
+    </message>
+    <message>
+        <source>Space between the buttons</source>
+        <translation>Espace entre les boutons</translation>
+    </message>
+    <message>
+        <source>Size of the buttons</source>
+        <translation>Taille des boutons</translation>
+    </message>
+    <message>
+        <source>Corners of the buttons</source>
+        <translation>Coins des boutons</translation>
+    </message>
+    <message>
+        <source>Shown on the buttons</source>
+        <translation>Montré sur les boutons</translation>
+    </message>
+    <message>
+        <source>Show the icon</source>
+        <translation>Montrer l’icône</translation>
+    </message>
+    <message>
+        <source>Show the name</source>
+        <translation>Montrer le nom</translation>
+    </message>
 </context>
 <context>
     <name>Strip</name>
@@ -2674,15 +2999,15 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <name>Switch</name>
     <message>
         <source>Scanning is off. %1 switches it on again.</source>
-        <translation>Le balayage est arrêté. %1 l’active de nouveau.</translation>
+        <translation>Le balayage est à l’arrêt. %1 le remet en marche.</translation>
     </message>
     <message>
         <source>Scanning is off, and no hot key switches it on again.</source>
-        <translation>Le balayage est arrêté, et aucun raccourci ne l’active de nouveau.</translation>
+        <translation>Le balayage est à l’arrêt, et aucun raccourci ne le remet en marche.</translation>
     </message>
     <message>
         <source>Switch on</source>
-        <translation>Activer</translation>
+        <translation>Mettre en marche</translation>
     </message>
     <message>
         <source>Ready for your switch</source>
@@ -2798,14 +3123,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
 </context>
 <context>
     <name>Try</name>
-    <message>
-        <source>Try it at %.1f</source>
-        <translation>Essayer à %.1f</translation>
-    </message>
-    <message>
-        <source>Keep %.1f</source>
-        <translation>Garder %.1f</translation>
-    </message>
     <message>
         <source>This try couldn’t be stored.</source>
         <translation>Cet essai n’a pas pu être enregistré.</translation>
@@ -2943,10 +3260,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Retard %.0f ms, dispersion %.0f ms (%.0f ms au plus), sur %d appuis.</translation>
     </message>
     <message>
-        <source>%d in 10 takes %.1f seconds.</source>
-        <translation>%d sur 10 demande %.1f s.</translation>
-    </message>
-    <message>
         <source>The presses came at other moments than the marks, so we can’t suggest a speed. Wait for the line to reach the mark, then press.</source>
         <translation>Les appuis sont venus à d’autres moments que les repères&#xa0;; nous ne pouvons pas proposer de vitesse. Attendez que la ligne atteigne le repère, puis appuyez.</translation>
     </message>
@@ -2999,28 +3312,8 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>La ligne</translation>
     </message>
     <message>
-        <source>%.1f seconds suits you: we expect %d in 10.</source>
-        <translation>Un temps de %.1f s vous convient&#xa0;: nous attendons %d sur 10.</translation>
-    </message>
-    <message>
-        <source>At %.1f seconds we expect %d in 10.</source>
-        <translation>À %.1f s, nous attendons %d sur 10.</translation>
-    </message>
-    <message>
-        <source>With the pointer after it, at %.1f seconds, we expect %d clicks in 10 to hit, and at least %d.</source>
-        <translation>Avec le pointeur ensuite, à %.1f s, nous attendons %d clics justes sur 10, et au moins %d.</translation>
-    </message>
-    <message>
-        <source>With the pointer after it, at %.1f seconds instead of %.1f, we expect %d clicks in 10 to hit, and at least %d.</source>
-        <translation>Avec le pointeur ensuite, à %.1f s au lieu de %.1f, nous attendons %d clics justes sur 10, et au moins %d.</translation>
-    </message>
-    <message>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm.</source>
-        <translation>Même à %.0f secondes, la ligne la plus lente, nous n’attendons pas 3 clics justes sur 4. Des cibles de %.0f mm le permettraient, ou une zone de balayage de %.0f × %.0f mm seulement.</translation>
-    </message>
-    <message>
-        <source>%d clicks in 10 to hit takes %.1f seconds for the line and %.1f for the pointer.</source>
-        <translation>Pour %d clics justes sur 10, il faut %.1f s pour la ligne et %.1f pour le pointeur.</translation>
+        <translation>Même à %.0f secondes, la ligne la plus lente, nous n’attendons pas 3 clics réussis sur 4. Des cibles de %.0f mm le permettraient, ou une zone de balayage de %.0f × %.0f mm seulement.</translation>
     </message>
     <message>
         <source>After a miss it took %.1f seconds to go on.</source>
@@ -3040,7 +3333,7 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>The pointer’s speed is too far from the line’s to say how many clicks will hit.</source>
-        <translation>La vitesse du pointeur est trop éloignée de celle de la ligne pour dire combien de clics seront justes.</translation>
+        <translation>La vitesse du pointeur est trop éloignée de celle de la ligne pour dire combien de clics seront réussis.</translation>
     </message>
     <message>
         <source>It must last for %.1f seconds.</source>
@@ -3095,6 +3388,42 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
 to %2</source>
         <translation>Régler «&#xa0;%1&#xa0;»
 sur %2</translation>
+    </message>
+    <message>
+        <source>Use %.1f s and try</source>
+        <translation>Prendre %.1f s et essayer</translation>
+    </message>
+    <message>
+        <source>Keep %.1f s</source>
+        <translation>Garder %.1f s</translation>
+    </message>
+    <message>
+        <source>%d in 10, at least %d</source>
+        <translation>%d réussis sur 10, au moins %d</translation>
+    </message>
+    <message>
+        <source>%.1f seconds suits you: we expect %s.</source>
+        <translation>Un temps de %.1f s vous convient : nous attendons %s.</translation>
+    </message>
+    <message>
+        <source>At %.1f seconds we expect %s. At %.1f seconds, as it is now: %s.</source>
+        <translation>À %.1f s, nous attendons %s. À %.1f s, comme maintenant : %s.</translation>
+    </message>
+    <message>
+        <source>Line and pointer together, with the pointer at %.1f s: %s.</source>
+        <translation>Ligne et pointeur ensemble, avec le pointeur à %.1f s : %s.</translation>
+    </message>
+    <message>
+        <source>Line and pointer together, with the pointer at %.1f s instead of %.1f: %s.</source>
+        <translation>Ligne et pointeur ensemble, avec le pointeur à %.1f s au lieu de %.1f : %s.</translation>
+    </message>
+    <message>
+        <source>At least %d in 10 takes %.1f seconds.</source>
+        <translation>Au moins %d réussis sur 10 demandent %.1f s.</translation>
+    </message>
+    <message>
+        <source>At least %d clicks in 10 takes %.1f seconds for the line and %.1f for the pointer.</source>
+        <translation>Pour au moins %d clics réussis sur 10, il faut %.1f s pour la ligne et %.1f pour le pointeur.</translation>
     </message>
 </context>
 <context>
@@ -3208,10 +3537,6 @@ sur %2</translation>
         <translation>2. Choisir comment vous appuyez</translation>
     </message>
     <message>
-        <source>Scan mode</source>
-        <translation>Mode de balayage</translation>
-    </message>
-    <message>
         <source>How your switch controls the scan.</source>
         <translation>Comment votre contacteur commande le balayage.</translation>
     </message>
@@ -3254,10 +3579,6 @@ sur %2</translation>
     <message>
         <source>longer</source>
         <translation>plus long</translation>
-    </message>
-    <message>
-        <source>Line scan time</source>
-        <translation>Durée de balayage de la ligne</translation>
     </message>
     <message>
         <source>Begin slowly. More time makes it easier to stop the line in the right place.</source>
@@ -3318,6 +3639,10 @@ sur %2</translation>
     <message>
         <source>Start</source>
         <translation>Commencer</translation>
+    </message>
+    <message>
+        <source>Way of scanning</source>
+        <translation>Façon de balayer</translation>
     </message>
 </context>
 <context>
