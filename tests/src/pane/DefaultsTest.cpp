@@ -149,7 +149,7 @@ TEST_F(NamesTest, WhatLiesBehindANameDoesntCount) {
     std::strcpy(prefs.pointerImageName, PrefsRecord().pointerImageName); // "default", then "20"
     theWrangler->changed(kChangePointer);
     EXPECT_EQ(agentLog_.nextMask(), kChangePointer);
-    EXPECT_EQ(find<QAbstractButton>("lookResetBtn")->text(), "Nothing to put back");
+    EXPECT_EQ(find<QAbstractButton>("lookResetBtn")->text(), "Nothing to reset");
     EXPECT_FALSE(find("pointerRowPutBackBar")->isVisible());
     theWrangler->adopt(SettingSet().set(), PrefsRecord());
     EXPECT_THAT(remainingMasks(), testing::IsEmpty()) << "an equal name isn't sent";
