@@ -35,7 +35,10 @@ Place between(Place from, Place to, double part) {
 
 Deeds::Deeds(XServer& server, Hand& hand, Listener& listener)
     : hand_(hand), listener_(listener), typist_(server, hand), windows_(server),
-      volume_([this](const std::string& why) { listener_.cantDo(why); }) {
+      volume_([this](const std::string& why) { listener_.cantDo(why); }),
+      typing_(
+          server, [this] { listener_.scanNow(); },
+          [this](const std::string& why) { listener_.cantDo(why); }) {
     keysUp_.setInterval(kKeysUpMs);
     QObject::connect(&keysUp_, &QTimer::timeout, [this] { lookForUsersKeys(); });
 }
@@ -48,6 +51,15 @@ void Deeds::letGo() {
     keysUp_.stop();
     sequence_.clear();
     hand_.letGo();
+}
+
+void Deeds::addTo(Surroundings& around) const {
+    around.keyboard = typing_.keyboard();
+}
+
+void Deeds::scanRanOut(const PrefsRecord& settings) {
+    if (settings.lineScanCanEndKybdMode)
+        typing_.end();
 }
 
 std::string Deeds::carryOut(const Deed& deed, const PrefsRecord& settings) {
@@ -177,7 +189,7 @@ std::string Deeds::act(const ActionRow& row) {
         {ActionKind::Desktop, &Deeds::desktop}, {ActionKind::Louder, &Deeds::louder},
         {ActionKind::Quieter, &Deeds::quieter}, {ActionKind::Mute, &Deeds::mute},
         {ActionKind::Faster, &Deeds::faster},   {ActionKind::Slower, &Deeds::slower},
-        {ActionKind::Pause, &Deeds::pause},
+        {ActionKind::Pause, &Deeds::pause},     {ActionKind::Type, &Deeds::type},
     };
     const auto* const found =
         std::find_if(std::begin(kDoers), std::end(kDoers),
@@ -208,6 +220,11 @@ std::string Deeds::desktop(const ActionRow&) {
     return windows_.toggleDesktop()
                ? ""
                : localized("Agent", "The window manager can't show the desktop.");
+}
+
+std::string Deeds::type(const ActionRow&) {
+    typing_.toggle();
+    return {};
 }
 
 std::string Deeds::louder(const ActionRow&) {

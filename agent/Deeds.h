@@ -2,8 +2,10 @@
 #pragma once
 
 #include "agent/Sequence.h"
+#include "agent/Typing.h"
 #include "agent/Volume.h"
 #include "agent/scan/Actions.h"
+#include "agent/scan/Region.h"
 #include "agent/x11/Hand.h"
 #include "agent/x11/Typist.h"
 #include "agent/x11/WindowManager.h"
@@ -44,6 +46,12 @@ public:
     /// `settings` is a checked record. Why it can't be done, in a sentence, or empty.
     std::string carryOut(const Deed& deed, const PrefsRecord& settings);
 
+    /// Adds what it has opened to be scanned: the keyboard.
+    void addTo(Surroundings& around) const;
+
+    /// A scan has run to its end without a choice: what was opened for it is closed.
+    void scanRanOut(const PrefsRecord& settings);
+
     /// Drops what is under way. Nothing is held afterwards.
     void letGo();
 
@@ -54,6 +62,7 @@ private:
     std::string keys(const ActionRow& row);
     std::string close(const ActionRow& row);
     std::string desktop(const ActionRow& row);
+    std::string type(const ActionRow& row);
     std::string louder(const ActionRow& row);
     std::string quieter(const ActionRow& row);
     std::string mute(const ActionRow& row);
@@ -75,6 +84,7 @@ private:
     Typist typist_;
     WindowManager windows_;
     Volume volume_;
+    Typing typing_;
     Sequence sequence_;
     std::optional<Place> held_; ///< where the pointer will be, while a button is down
     QTimer keysUp_;

@@ -18,6 +18,10 @@ namespace {
 constexpr AEEventClass kAgentClass = fourCharCode("Krvx");
 constexpr AEEventID kOnOff = fourCharCode("PPon");
 constexpr AEEventID kSays = fourCharCode("PPsy");
+constexpr AEEventID kSetSettings = fourCharCode("PSet");
+constexpr AEKeyword keySettings = fourCharCode("Sets");
+constexpr DescType typeBits = fourCharCode("comp");
+constexpr SInt32 kPatience = 5 * 60; ///< ticks, for a window that is asked to change settings
 constexpr DescType typePrefsRecord = fourCharCode("KrPf");
 constexpr DescType typeUTF8Text = fourCharCode("utf8");
 constexpr OSType kPaneSignature = fourCharCode("sprf");
@@ -158,19 +162,50 @@ void Link::setTrouble(const std::string& text) {
     send(kSays, typeUTF8Text, trouble_.data(), trouble_.size());
 }
 
+void Link::change(const SettingSet& settings, const PrefsRecord& record) {
+    const ProcessSerialNumber window =
+        paneIsClosed_ ? kNoProcess : findOtherApplication(kPaneSignature);
+    if (window == kNoProcess)
+        return store(settings, record);
+    AppleEvent event = eventTo(window, kSetSettings);
+    const std::uint64_t bits = settings.to_ullong();
+    AEPutParamPtr(&event, keyDirectObject, typePrefsRecord, &record, sizeof record);
+    AEPutParamPtr(&event, keySettings, typeBits, &bits, sizeof bits);
+    sendThen(event, kPatience, [=, this](OSErr error) {
+        if (error != noErr) // it has just closed, or hangs
+            store(settings, record);
+    });
+}
+
+void Link::store(const SettingSet& settings, const PrefsRecord& record) {
+    copySettings(settings, record, prefs);
+    for (std::size_t i = 0; i < kSettings.size(); ++i)
+        if (settings[i])
+            CFPreferencesSetAppValue(CFSTR(kSettings[i].key),
+                                     kSettings[i].notation->write(kSettings[i].in(record)).get(),
+                                     kAgentBundleID);
+    CFPreferencesAppSynchronize(kAgentBundleID);
+    settingsChanged();
+}
+
 void Link::send(AEEventID eventID, DescType type, const void* data, std::size_t size) {
     if (paneIsClosed_)
         return;
     // An agent that the pane launched wasn't told which process shows the pane.
     if (pane_ == kNoProcess)
         pane_ = findOtherApplication(kPaneSignature);
-    AEAddressDesc address;
-    AppleEvent event;
-    AECreateDesc(typeProcessSerialNumber, &pane_, sizeof pane_, &address);
-    AECreateAppleEvent(kAgentClass, eventID, &address, kAutoGenerateReturnID, kAnyTransactionID,
-                       &event);
+    AppleEvent event = eventTo(pane_, eventID);
     AEPutParamPtr(&event, keyDirectObject, type, data, size);
     AESend(&event, nullptr, kAENoReply, kAEDefaultTimeout);
+}
+
+AppleEvent Link::eventTo(const ProcessSerialNumber& process, AEEventID eventID) {
+    AEAddressDesc address;
+    AppleEvent event;
+    AECreateDesc(typeProcessSerialNumber, &process, sizeof process, &address);
+    AECreateAppleEvent(kAgentClass, eventID, &address, kAutoGenerateReturnID, kAnyTransactionID,
+                       &event);
+    return event;
 }
 
 ProcessSerialNumber findOtherApplication(OSType signature) {

@@ -4,7 +4,7 @@
 #include "agent/EventLog.h"
 #include "platform/CoreServices/AppleEvents.h"
 #include "platform/CoreServices/ChangeWatch.h"
-#include "src/record/PrefsRecord.h"
+#include "src/record/differences.h"
 
 #include <optional>
 #include <string>
@@ -47,6 +47,10 @@ public:
     /// Switches scanning on or off, stores and reports it, and tells the listener.
     void switchTo(bool on);
 
+    /// Gives these settings the record's values, which are checked ones: in an open pane, which
+    /// shows, sends and stores them; else here, stores them, and tells the listener. Never waits.
+    void change(const SettingSet& settings, const PrefsRecord& record);
+
     /// Why nothing scans, in a sentence, or empty: told to the pane now and at each opening.
     void setTrouble(const std::string& text);
 
@@ -64,6 +68,8 @@ private:
     void processesChanged();
     void setPaneHolds(bool holds);
     void send(AEEventID event, DescType type, const void* data, std::size_t size);
+    static AppleEvent eventTo(const ProcessSerialNumber& process, AEEventID eventID);
+    void store(const SettingSet& settings, const PrefsRecord& record);
     void settingsChanged();
 
     const EventLog& log_;

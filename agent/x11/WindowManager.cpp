@@ -16,6 +16,12 @@ bool has(const std::vector<std::uint32_t>& numbers, std::uint32_t wanted) {
     return std::find(numbers.begin(), numbers.end(), wanted) != numbers.end();
 }
 
+/// The second of WM_CLASS's two texts, which a zero ends each.
+std::string programIn(const std::string& both) {
+    const std::size_t second = both.find('\0');
+    return second == std::string::npos ? "" : both.c_str() + second + 1;
+}
+
 } // namespace
 
 std::vector<std::uint32_t> WindowManager::rootNumbers(const char* name) const {
@@ -36,9 +42,7 @@ std::optional<xcb_window_t> WindowManager::active() const {
 }
 
 std::string WindowManager::programOf(xcb_window_t window) const {
-    const std::string both = bytesOf(server_, askProperty(server_, window, "WM_CLASS"));
-    const std::size_t second = both.find('\0');
-    return second == std::string::npos ? "" : both.c_str() + second + 1;
+    return programIn(bytesOf(server_, askProperty(server_, window, "WM_CLASS")));
 }
 
 std::vector<WindowManager::Window> WindowManager::windows() const {
@@ -55,6 +59,43 @@ std::vector<WindowManager::Window> WindowManager::windows() const {
             windows.push_back({*window, text.empty() ? oldText : text});
     }
     return windows;
+}
+
+/// The managed windows, and those that go round the window manager.
+std::vector<xcb_window_t> WindowManager::all() const {
+    auto windows = rootNumbers("_NET_CLIENT_LIST");
+    const XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(
+        server_.connection(), xcb_query_tree(server_.connection(), server_.root()), nullptr));
+    if (tree) {
+        const xcb_window_t* children = xcb_query_tree_children(tree.get());
+        windows.insert(windows.end(), children, children + tree->children_len);
+    }
+    return windows;
+}
+
+std::optional<Area> WindowManager::placeOf(const std::string& program) const {
+    xcb_connection_t* connection = server_.connection();
+    const auto windows = all();
+    std::vector<xcb_get_property_cookie_t> asked;
+    for (const xcb_window_t window : windows)
+        asked.push_back(askProperty(server_, window, "WM_CLASS"));
+    std::optional<Area> place;
+    for (std::size_t i = 0; i < windows.size(); ++i) {
+        if (programIn(bytesOf(server_, asked[i])) != program || place)
+            continue;
+        const XReply<xcb_get_window_attributes_reply_t> state(xcb_get_window_attributes_reply(
+            connection, xcb_get_window_attributes(connection, windows[i]), nullptr));
+        const XReply<xcb_get_geometry_reply_t> geometry(
+            xcb_get_geometry_reply(connection, xcb_get_geometry(connection, windows[i]), nullptr));
+        const XReply<xcb_translate_coordinates_reply_t> corner(xcb_translate_coordinates_reply(
+            connection, xcb_translate_coordinates(connection, windows[i], server_.root(), 0, 0),
+            nullptr));
+        if (state && geometry && corner && state->map_state == XCB_MAP_STATE_VIEWABLE)
+            place =
+                Area{static_cast<double>(corner->dst_x), static_cast<double>(corner->dst_y),
+                     static_cast<double>(geometry->width), static_cast<double>(geometry->height)};
+    }
+    return place;
 }
 
 bool WindowManager::close(xcb_window_t window) {

@@ -26,6 +26,9 @@ public:
     /// The second part of WM_CLASS, the program's: "XTerm". Empty without.
     std::string programOf(xcb_window_t window) const;
 
+    /// Where a window of that program is shown. None when there is no such window.
+    std::optional<Area> placeOf(const std::string& program) const;
+
     /// The windows that a task bar has, the one that was used last first.
     std::vector<Window> windows() const;
 
@@ -41,6 +44,7 @@ public:
 private:
     bool request(const char* name, xcb_window_t window, const std::vector<std::uint32_t>& data);
     std::vector<std::uint32_t> rootNumbers(const char* name) const;
+    std::vector<xcb_window_t> all() const;
     bool isOrdinary(xcb_window_t window) const;
 
     XServer& server_;

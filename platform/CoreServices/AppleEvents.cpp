@@ -5,6 +5,8 @@
 #include "platform/CoreServices/detail/SessionBus.h"
 #include "platform/CoreServices/detail/StartedApplications.h"
 
+#include <QDBusPendingCallWatcher>
+
 #include <algorithm>
 #include <bit>
 #include <cstring>
@@ -115,6 +117,16 @@ OSErr AESend(const AppleEvent* event, AppleEvent* reply, AESendMode mode, SInt32
     if ((mode & kAEWaitReply) == kAEWaitReply)
         return resultOfReply(bus.call(message, QDBus::Block, millisecondsOfTicks(timeOutInTicks)));
     return bus.send(message) ? noErr : connectionInvalid;
+}
+
+void sendThen(const AppleEvent& event, SInt32 timeOutInTicks, std::function<void(OSErr)> done) {
+    auto* watcher = new QDBusPendingCallWatcher(
+        sessionBus().asyncCall(messageOfEvent(event), millisecondsOfTicks(timeOutInTicks)));
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
+                     [watcher, done = std::move(done)] {
+                         watcher->deleteLater();
+                         done(resultOfReply(watcher->reply()));
+                     });
 }
 
 void flushSentEvents() {

@@ -4,6 +4,7 @@
 #include "platform/CoreFoundation/CFBase.h"
 #include "platform/CoreServices/Processes.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -94,6 +95,10 @@ OSErr AEGetAttributePtr(const AppleEvent* event, AEKeyword keyword, DescType des
 /// connectionInvalid without a bus. `reply` (may be null) is left empty: only the result is sent
 /// back.
 OSErr AESend(const AppleEvent* event, AppleEvent* reply, AESendMode mode, SInt32 timeOutInTicks);
+
+/// Sends the event and doesn't wait: `done` is called later with what AESend would return for
+/// kAEWaitReply. macOS has kAEQueueReply for this.
+void sendThen(const AppleEvent& event, SInt32 timeOutInTicks, std::function<void(OSErr)> done);
 
 /// Waits until the bus has every event that was sent, a second at most. macOS has no such
 /// operation.

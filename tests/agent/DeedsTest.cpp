@@ -8,6 +8,9 @@
 #include "tests/support/XvfbServer.h"
 
 #include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QProcess>
 #include <QTest>
 
@@ -195,6 +198,53 @@ TEST_F(DeedsTest, ItsOwnActionsAreTheScanners) {
         EXPECT_EQ(choose(kind), says);
         EXPECT_EQ(told_.texts, told);
     }
+}
+
+/// The desktop's programs, on the session's bus.
+class DesktopDeedsTest : public DeedsTest {
+protected:
+    DesktopDeedsTest() {
+        auto call =
+            QDBusMessage::createMethodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                           "org.freedesktop.DBus", "UpdateActivationEnvironment");
+        using Environment = QMap<QString, QString>;
+        qDBusRegisterMetaType<Environment>();
+        call << QVariant::fromValue(Environment{{"DISPLAY", qEnvironmentVariable("DISPLAY")}});
+        QDBusConnection::sessionBus().call(call);
+    }
+
+    bool waitToBeTold(const Texts& texts) {
+        return QTest::qWaitFor([&] { return told_.texts == texts; }, 20'000);
+    }
+
+    std::optional<Area> keyboard() {
+        Surroundings around;
+        deeds_->addTo(around);
+        return around.keyboard;
+    }
+};
+
+TEST_F(DesktopDeedsTest, TypesWithOnboard) {
+    EXPECT_EQ(choose(ActionKind::Type), "");
+    EXPECT_TRUE(waitToBeTold({"scan"})) << testing::PrintToString(told_.texts);
+    const auto place = keyboard();
+    ASSERT_TRUE(place);
+    EXPECT_GT(place->width, 100);
+    settings_.lineScanCanEndKybdMode = 0;
+    deeds_->scanRanOut(settings_);
+    EXPECT_TRUE(keyboard());
+    // A click on one of its keys, which types into the window that has the focus.
+    target_.events();
+    EXPECT_EQ(carryOut({.kind = Deed::Kind::Click, .place = place->middle()}), "");
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const Texts all = target_.events();
+        return std::find_if(all.begin(), all.end(), [](const std::string& text) {
+                   return text.starts_with("key ");
+               }) != all.end();
+    }));
+    settings_.lineScanCanEndKybdMode = 1;
+    deeds_->scanRanOut(settings_);
+    EXPECT_FALSE(keyboard());
 }
 
 } // namespace

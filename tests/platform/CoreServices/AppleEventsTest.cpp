@@ -100,12 +100,17 @@ TEST_F(AppleEventsTest, OnlyAWaitingSenderWaitsForAHangingPeerAndOnlySoLong) {
     timer.start();
     const AppleEvent event = makeEvent(peer_.psn(), kTestClass, kAnswerCode);
     EXPECT_EQ(AESend(&event, nullptr, kAENoReply, kAEDefaultTimeout), noErr);
+    OSErr later = noErr;
+    sendThen(event, 60, [&](OSErr result) { later = result; });
     EXPECT_LT(timer.restart(), 900);
     EXPECT_EQ(peer_.ask(60), errAETimeout);
     EXPECT_GE(timer.elapsed(), 950);
+    EXPECT_TRUE(waitUntil([&] { return later == errAETimeout; }));
     EXPECT_LT(timer.elapsed(), 10'000);
     peer_.signal(SIGCONT);
     EXPECT_EQ(peer_.ask(), 8) << "the late answer is taken for this one";
+    sendThen(event, kAEDefaultTimeout, [&](OSErr result) { later = result; });
+    EXPECT_TRUE(waitUntil([&] { return later == errAEDescNotFound; }));
     peer_.signal(SIGKILL);
     EXPECT_TRUE(waitUntil([&] { return peer_.ask() == procNotFound; })) << "it is gone";
 }
