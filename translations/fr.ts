@@ -198,6 +198,50 @@
         <source>Scanning is on.</source>
         <translation>Le balayage est en marche.</translation>
     </message>
+    <message>
+        <source>No window is active.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The window manager can&apos;t close windows for others.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The window manager can&apos;t show the desktop.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The scan is as fast as it can be.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The scan is as slow as it can be.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A terminal can&apos;t cut. Choose Copy.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A terminal can&apos;t undo.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This terminal can&apos;t copy for other programs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The volume needs pactl. Install pulseaudio-utils.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No sound server answers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The keyboard has no key for %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Changes</name>
@@ -249,10 +293,6 @@
         <translation>La palette a de nouveau ses boutons d’origine.</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
         <source>%1, and 1 more setting</source>
         <translation>%1, et 1 autre réglage</translation>
     </message>
@@ -270,6 +310,10 @@
     <message>
         <source>Reset “%1” to %3</source>
         <translation>Réinitialiser « %1 » à %3</translation>
+    </message>
+    <message>
+        <source>Undo this</source>
+        <translation>Annuler ceci</translation>
     </message>
 </context>
 <context>
@@ -2651,10 +2695,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Exporter les réglages</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
         <source>There is no profile yet. Save the settings as they are now, and come back to them with the Profiles menu.</source>
         <translation>Il n’y a pas encore de profil. Enregistrez les réglages tels qu’ils sont, et revenez-y par le menu « Profils ».</translation>
     </message>
@@ -2665,6 +2705,10 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>Show all</source>
         <translation>Tout montrer</translation>
+    </message>
+    <message>
+        <source>Undo this</source>
+        <translation>Annuler ceci</translation>
     </message>
 </context>
 <context>

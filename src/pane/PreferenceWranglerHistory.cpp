@@ -98,7 +98,7 @@ void PreferenceWrangler::resetPaletteButtons(NSButton*) {
         tellUser(kChangeTopic,
                  {.kind = UserMessage::Kind::Note,
                   .text = localized("Changes", "The palette has its original buttons again."),
-                  .buttons = {undoButton(localized("Changes", "Undo"))}});
+                  .buttons = {undoButton(localized("Changes", "Undo this"))}});
 }
 
 void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& before,
@@ -133,7 +133,7 @@ void PreferenceWrangler::putBack(const SettingSet& settings, const PrefsRecord& 
     adopt(settings, record);
     tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note,
                             .text = stepText(settings, before, prefs, kSettingBecomesAgain),
-                            .buttons = {undoButton(localized("Changes", "Undo"))}});
+                            .buttons = {undoButton(localized("Changes", "Undo this"))}});
 }
 
 void PreferenceWrangler::takeImport(const SettingsOffer& offer) {
@@ -144,7 +144,7 @@ void PreferenceWrangler::takeImport(const SettingsOffer& offer) {
     adopt(changes, offer.record);
     tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note,
                             .text = stepText(changes, before, prefs, kSettingBecomes),
-                            .buttons = {undoButton(localized("Changes", "Undo"))}});
+                            .buttons = {undoButton(localized("Changes", "Undo this"))}});
 }
 
 /// Tells the agent first, since showing every value takes longer.

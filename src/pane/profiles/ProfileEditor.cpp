@@ -44,7 +44,7 @@ bool succeeded(const std::string& fault, const char* text, const std::string& na
 }
 
 constexpr char kCannotSave[] = LOCALIZABLE("Profiles", "“%1” couldn’t be saved: %2.");
-constexpr char kUndo[] = LOCALIZABLE("Profiles", "Undo");
+constexpr char kUndo[] = LOCALIZABLE("Profiles", "Undo this");
 
 } // namespace
 
