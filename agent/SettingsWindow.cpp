@@ -24,7 +24,8 @@ void startProgram() {
         const QString program = QString::fromUtf8(name);
         const bool isPath = program.contains(u'/');
         const QString path = isPath ? QDir::cleanPath(here.filePath(program)) : program;
-        if ((!isPath || QFileInfo(path).isExecutable()) && QProcess::startDetached(path, {}))
+        if ((!isPath || QFileInfo(path).isExecutable()) &&
+            QProcess::startDetached(path, {"--section", "last"}))
             return;
     }
 }
@@ -35,8 +36,8 @@ void startProgram() {
 void showSettingsWindow() {
     QDBusMessage message = QDBusMessage::createMethodCall(
         QStringLiteral("org.korvex.Preferences"), QStringLiteral("/org/korvex/Preferences"),
-        QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
-    message << QVariantMap();
+        QStringLiteral("org.freedesktop.Application"), QStringLiteral("ActivateAction"));
+    message << QStringLiteral("last") << QVariantList() << QVariantMap();
     auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message));
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, [watcher] {
         if (watcher->isError())

@@ -100,7 +100,9 @@ void PaneHost::open() {
     window_->open();
 }
 
+/// What is shown is the last section from now on, for whoever asks for it.
 void PaneHost::bringToFront() {
+    keepSection(pane_->mainView()->widget());
     window_->bringToFront();
 }
 
@@ -135,6 +137,7 @@ void PaneHost::end() {
         return;
     exitStatus = store() ? EXIT_SUCCESS : EXIT_FAILURE;
     leaveInTime();
+    keepSection(pane_->mainView()->widget());
     deselect();
     window_->hide();
     QCoreApplication::exit(exitStatus);
