@@ -98,7 +98,7 @@ struct PrefsRecord {
     UInt8 padding109[3] = {};
     double autoRepeatTime = 4.0;   ///< seconds
     double clickDuration = 70.0;   ///< milliseconds
-    double interClickDelay = 10.0; ///< in a unit of the agent's own; no control changes it
+    double interClickDelay = 10.0; ///< milliseconds; no control changes it
     LineColor lineColor = {100, 0, 0};
     UInt8 padding142[2] = {};
     SInt32 lineThickness = 7;               ///< points
