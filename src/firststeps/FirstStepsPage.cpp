@@ -46,6 +46,16 @@ std::string agentText() {
                               : localized("FirstSteps", "None is installed yet.");
 }
 
+/// What is beside the button that is to be hit.
+std::string firstScanText(int hits) {
+    if (hits > 0)
+        return hits == 1 ? localized("FirstSteps", "Hit! So you reach everything on the screen.")
+                         : localized("FirstSteps", "Hit %n times.", "", hits);
+    if (daemonState() != AgentState::Running)
+        return localized("FirstSteps", "It begins once Korvex runs.");
+    return prefs.on ? "" : localized("FirstSteps", "It begins once Korvex is on.");
+}
+
 } // namespace
 
 FirstStepsPage::FirstStepsPage(NSWindow window, FirstStepsTarget& target)
@@ -65,6 +75,7 @@ std::span<const Outlet> FirstStepsPage::outlets() const {
         outletRow<&P::scanModeRadios_>("scanModeRadios"),
         outletRow<&P::lineScanTime_>("lineScanTime"),
         outletRow<&P::agentState_>("agentState"),
+        outletRow<&P::firstScanWords_>("firstScanWords"),
     };
     return table;
 }
@@ -76,6 +87,7 @@ std::span<const Action> FirstStepsPage::actions() const {
         actionRow<&P::findMySpeed>("findMySpeed:"),
         actionRow<&P::showHelp>("showHelp:"),
         actionRow<&P::showAgentHelp>("showAgentHelp:"),
+        actionRow<&P::hitByScan>("hitByScan:"),
         actionRow<&P::leave>("leave:"),
     };
     return table;
@@ -100,6 +112,7 @@ void FirstStepsPage::update() {
     scanModeRadios_->selectCellWithTag(prefs.scanMode);
     lineScanTime_->update();
     agentState_->setStringValue(agentText());
+    firstScanWords_->setStringValue(firstScanText(hits_));
 }
 
 void FirstStepsPage::answered() {
@@ -108,6 +121,11 @@ void FirstStepsPage::answered() {
         "FirstSteps", "To go on with your switch, wait half a minute: then it scans again.");
     pressWords_->setStringValue(
         joined(Joint::Sentences, {pressView_->words(), mayScan ? wayOn : ""}));
+}
+
+void FirstStepsPage::hitByScan(NSButton*) {
+    ++hits_;
+    update();
 }
 
 void FirstStepsPage::changedScanMode(NSMatrix* sender) {

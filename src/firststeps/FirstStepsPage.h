@@ -30,7 +30,7 @@ protected:
 
 /// The page at the first start. It answers presses of the switch. It asks how the switch is pressed
 /// and how fast the line should be, and writes the fields of `prefs`. It says where help is and
-/// what the agent is.
+/// what the agent is, and has a button for a first scan.
 class FirstStepsPage final : public NSObject, public PressViewTarget {
 public:
     /// The target isn't owned.
@@ -53,6 +53,7 @@ public:
     void findMySpeed(NSButton* sender);
     void showHelp(NSButton* sender);
     void showAgentHelp(NSButton* sender);
+    void hitByScan(NSButton* sender);
     void leave(NSButton* sender);
 
 private:
@@ -69,6 +70,8 @@ private:
     NSMatrix* scanModeRadios_ = nullptr;
     SliderController* lineScanTime_ = nullptr;
     NSTextField* agentState_ = nullptr;
+    NSTextField* firstScanWords_ = nullptr;
+    int hits_ = 0; ///< of the button to be hit by a scan
 };
 
 /// Opens the page in the window. Does nothing while it is open, or without its form.

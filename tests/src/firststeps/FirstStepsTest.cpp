@@ -62,6 +62,8 @@ TEST_F(FirstStepsTest, TakesEditsOnTheOneRoadAndIsFoundAgain) {
     click("firstStepsBtn");
     ASSERT_TRUE(page());
     EXPECT_EQ(part<QLabel>("agentState")->text(), QStringLiteral("It is running."));
+    QTest::mouseClick(part("firstScanBtn"), Qt::LeftButton);
+    EXPECT_TRUE(part<QLabel>("firstScanWords")->text().startsWith(QLatin1String("Hit!")));
     leaveBy("findMySpeed");
     EXPECT_TRUE(window()->findChild<QWidget*>(QStringLiteral("tryout"))) << "the try isn't open";
 }
