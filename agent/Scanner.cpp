@@ -14,6 +14,7 @@
 
 namespace {
 
+constexpr int kLockLookMs = 1000;
 constexpr int kFrameMs = 16;             ///< at 60 frames a second
 constexpr double kHalfAFrame = 0.5 / 60; ///< s; a line drawn for then is right in the middle
 constexpr double kSecondsAMillisecond = 1e-3;
@@ -45,6 +46,8 @@ Scanner::Scanner(Link& link, XServer& server, Guard& guard)
     frames_.setInterval(kFrameMs);
     QObject::connect(&deadline_, &QTimer::timeout, [this] { follow(); });
     QObject::connect(&frames_, &QTimer::timeout, [this] { frame(); });
+    lockLook_.setInterval(kLockLookMs);
+    QObject::connect(&lockLook_, &QTimer::timeout, [this] { lookAtLock(); });
     desktop_.onScreens([this] { screensChanged(); });
     desktop_.onLock([this](bool isLocked) { screenLocked(isLocked); });
     link_.setListener(this);
@@ -92,6 +95,14 @@ void Scanner::screenLocked(bool isLocked) {
     isLocked_ = isLocked;
     endEverything();
     updateSwitches();
+}
+
+/// A lock that tells nobody was found by a press, and its end is looked for.
+void Scanner::lookAtLock() {
+    if (desktop_.lockWindowIsUp())
+        return;
+    lockLook_.stop();
+    screenLocked(false);
 }
 
 Switches::State Scanner::stateOfSwitches() const {
@@ -203,6 +214,11 @@ std::vector<Region> Scanner::regions() const {
 }
 
 void Scanner::start(double moment) {
+    if (desktop_.lockWindowIsUp()) {
+        screenLocked(true);
+        lockLook_.start();
+        return;
+    }
     scan_.start(regions(), moment);
     guard_.watch();
     frames_.start();

@@ -35,6 +35,7 @@ private:
     void useSettings();
     void screensChanged();
     void screenLocked(bool isLocked);
+    void lookAtLock();
     Switches::State stateOfSwitches() const;
     void updateSwitches();
     void tellTrouble();
@@ -65,6 +66,7 @@ private:
     Scan scan_;
     QTimer deadline_; ///< of presses and scan
     QTimer frames_;   ///< runs while a scan is under way
+    QTimer lockLook_; ///< runs while a lock that tells nobody is up
     bool isLocked_ = false;
     std::string toldTrouble_;
 };
