@@ -200,47 +200,55 @@
     </message>
     <message>
         <source>No window is active.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Fenster ist aktiv.</translation>
     </message>
     <message>
         <source>The window manager can&apos;t close windows for others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Fensterverwaltung kann keine Fenster für andere schließen.</translation>
     </message>
     <message>
         <source>The window manager can&apos;t show the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Fensterverwaltung kann den Desktop nicht zeigen.</translation>
     </message>
     <message>
         <source>The scan is as fast as it can be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneller kann der Scan nicht werden.</translation>
     </message>
     <message>
         <source>The scan is as slow as it can be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsamer kann der Scan nicht werden.</translation>
     </message>
     <message>
         <source>A terminal can&apos;t cut. Choose Copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Terminal kann nicht ausschneiden. Wählen Sie „Kopieren“.</translation>
     </message>
     <message>
         <source>A terminal can&apos;t undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Terminal kann nichts rückgängig machen.</translation>
     </message>
     <message>
         <source>This terminal can&apos;t copy for other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Terminal kann nicht für andere Programme kopieren.</translation>
     </message>
     <message>
         <source>The volume needs pactl. Install pulseaudio-utils.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Lautstärke braucht pactl. Installieren Sie pulseaudio-utils.</translation>
     </message>
     <message>
         <source>No sound server answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Tondienst antwortet.</translation>
     </message>
     <message>
         <source>The keyboard has no key for %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tastatur hat keine Taste für %1.</translation>
+    </message>
+    <message>
+        <source>To type on the screen, install Onboard.</source>
+        <translation>Um auf dem Bildschirm zu tippen, installieren Sie Onboard.</translation>
+    </message>
+    <message>
+        <source>Onboard, the keyboard on the screen, doesn&apos;t start.</source>
+        <translation>Onboard, die Tastatur auf dem Bildschirm, startet nicht.</translation>
     </message>
 </context>
 <context>
@@ -708,6 +716,25 @@
     <message>
         <source>To go on with your switch, wait half a minute: then it scans again.</source>
         <translation>Um mit dem Schalter weiterzumachen, warten Sie eine halbe Minute: Dann scannt er wieder.</translation>
+    </message>
+    <message>
+        <source>Hit! So you reach everything on the screen.</source>
+        <translation>Getroffen! So erreichen Sie alles auf dem Bildschirm.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Hit %n times.</source>
+        <translation>
+            <numerusform>%n-mal getroffen.</numerusform>
+            <numerusform>%n-mal getroffen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It begins once Korvex runs.</source>
+        <translation>Es beginnt, sobald Korvex läuft.</translation>
+    </message>
+    <message>
+        <source>It begins once Korvex is on.</source>
+        <translation>Es beginnt, sobald Korvex eingeschaltet ist.</translation>
     </message>
 </context>
 <context>
@@ -3561,10 +3588,6 @@ auf %2 setzen</translation>
         <translation>Willkommen bei Korvex</translation>
     </message>
     <message>
-        <source>A line sweeps across the screen, and a press of your switch chooses what it touches. Four steps are enough to begin. All of it can be changed later, and this page is found again under General.</source>
-        <translation>Eine Linie läuft über den Bildschirm, und ein Druck auf Ihren Schalter wählt, was sie berührt. Für den Anfang genügen vier Schritte. Alles lässt sich später ändern, und diese Seite finden Sie unter „Allgemein“ wieder.</translation>
-    </message>
-    <message>
         <source>1. See your switch answer</source>
         <translation>1. Sehen, wie Ihr Schalter antwortet</translation>
     </message>
@@ -3665,10 +3688,6 @@ auf %2 setzen</translation>
         <translation>Der Agent von Korvex</translation>
     </message>
     <message>
-        <source>A program of its own that does the scanning; here you set how. Help says where to get one, and how to write one.</source>
-        <translation>Ein eigenes Programm, das scannt; hier stellen Sie ein, wie. Die Hilfe sagt, woher man einen bekommt und wie man einen schreibt.</translation>
-    </message>
-    <message>
         <source>About the agent</source>
         <translation>Über den Agenten</translation>
     </message>
@@ -3687,6 +3706,30 @@ auf %2 setzen</translation>
     <message>
         <source>Way of scanning</source>
         <translation>Art zu scannen</translation>
+    </message>
+    <message>
+        <source>A line sweeps across the screen, and a press of your switch chooses what it touches. Five steps are enough to begin. All of it can be changed later, and this page is found again under General.</source>
+        <translation>Eine Linie läuft über den Bildschirm, und ein Druck auf Ihren Schalter wählt, was sie berührt. Für den Anfang genügen fünf Schritte. Alles lässt sich später ändern, und diese Seite finden Sie unter „Allgemein“ wieder.</translation>
+    </message>
+    <message>
+        <source>A program of its own that does the scanning, also when this window is closed. Here you set how.</source>
+        <translation>Ein eigenes Programm, das scannt, auch wenn dieses Fenster geschlossen ist. Hier stellen Sie ein, wie.</translation>
+    </message>
+    <message>
+        <source>5. Scan for the first time</source>
+        <translation>5. Zum ersten Mal scannen</translation>
+    </message>
+    <message>
+        <source>Your first scan</source>
+        <translation>Ihr erster Scan</translation>
+    </message>
+    <message>
+        <source>Press your switch: the line starts. Press again when it is on this button, and once more when the pointer is.</source>
+        <translation>Drücken Sie Ihren Schalter: Die Linie startet. Drücken Sie wieder, wenn sie auf diesem Knopf ist, und noch einmal, wenn der Zeiger es ist.</translation>
+    </message>
+    <message>
+        <source>Hit me</source>
+        <translation>Triff mich</translation>
     </message>
 </context>
 <context>

@@ -200,47 +200,55 @@
     </message>
     <message>
         <source>No window is active.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune fenêtre n’est active.</translation>
     </message>
     <message>
         <source>The window manager can&apos;t close windows for others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le gestionnaire de fenêtres ne peut pas fermer de fenêtres pour d’autres.</translation>
     </message>
     <message>
         <source>The window manager can&apos;t show the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le gestionnaire de fenêtres ne peut pas montrer le bureau.</translation>
     </message>
     <message>
         <source>The scan is as fast as it can be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le balayage est aussi rapide que possible.</translation>
     </message>
     <message>
         <source>The scan is as slow as it can be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le balayage est aussi lent que possible.</translation>
     </message>
     <message>
         <source>A terminal can&apos;t cut. Choose Copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un terminal ne peut pas couper. Choisissez « Copier ».</translation>
     </message>
     <message>
         <source>A terminal can&apos;t undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un terminal ne peut rien annuler.</translation>
     </message>
     <message>
         <source>This terminal can&apos;t copy for other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce terminal ne peut pas copier pour d’autres programmes.</translation>
     </message>
     <message>
         <source>The volume needs pactl. Install pulseaudio-utils.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le volume a besoin de pactl. Installez pulseaudio-utils.</translation>
     </message>
     <message>
         <source>No sound server answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun serveur de son ne répond.</translation>
     </message>
     <message>
         <source>The keyboard has no key for %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le clavier n’a pas de touche pour %1.</translation>
+    </message>
+    <message>
+        <source>To type on the screen, install Onboard.</source>
+        <translation>Pour écrire à l’écran, installez Onboard.</translation>
+    </message>
+    <message>
+        <source>Onboard, the keyboard on the screen, doesn&apos;t start.</source>
+        <translation>Onboard, le clavier à l’écran, ne démarre pas.</translation>
     </message>
 </context>
 <context>
@@ -708,6 +716,25 @@
     <message>
         <source>To go on with your switch, wait half a minute: then it scans again.</source>
         <translation>Pour continuer avec votre contacteur, attendez une demi-minute&#xa0;: il balaie alors de nouveau.</translation>
+    </message>
+    <message>
+        <source>Hit! So you reach everything on the screen.</source>
+        <translation>Touché ! Vous atteignez ainsi tout ce qui est à l’écran.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Hit %n times.</source>
+        <translation>
+            <numerusform>Touché %n fois.</numerusform>
+            <numerusform>Touché %n fois.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It begins once Korvex runs.</source>
+        <translation>Cela commence dès que Korvex est en marche.</translation>
+    </message>
+    <message>
+        <source>It begins once Korvex is on.</source>
+        <translation>Cela commence dès que Korvex est activé.</translation>
     </message>
 </context>
 <context>
@@ -3561,10 +3588,6 @@ sur %2</translation>
         <translation>Bienvenue dans Korvex</translation>
     </message>
     <message>
-        <source>A line sweeps across the screen, and a press of your switch chooses what it touches. Four steps are enough to begin. All of it can be changed later, and this page is found again under General.</source>
-        <translation>Une ligne traverse l’écran, et un appui sur votre contacteur choisit ce qu’elle touche. Quatre étapes suffisent pour commencer. Tout peut être changé plus tard, et cette page se retrouve dans «&#xa0;Général&#xa0;».</translation>
-    </message>
-    <message>
         <source>1. See your switch answer</source>
         <translation>1. Voir répondre votre contacteur</translation>
     </message>
@@ -3665,10 +3688,6 @@ sur %2</translation>
         <translation>L’agent de Korvex</translation>
     </message>
     <message>
-        <source>A program of its own that does the scanning; here you set how. Help says where to get one, and how to write one.</source>
-        <translation>Un programme à part, qui fait le balayage&#xa0;; ici, vous réglez comment. L’aide dit où en trouver un, et comment en écrire un.</translation>
-    </message>
-    <message>
         <source>About the agent</source>
         <translation>À propos de l’agent</translation>
     </message>
@@ -3687,6 +3706,30 @@ sur %2</translation>
     <message>
         <source>Way of scanning</source>
         <translation>Façon de balayer</translation>
+    </message>
+    <message>
+        <source>A line sweeps across the screen, and a press of your switch chooses what it touches. Five steps are enough to begin. All of it can be changed later, and this page is found again under General.</source>
+        <translation>Une ligne balaie l’écran, et un appui sur votre contacteur choisit ce qu’elle touche. Cinq étapes suffisent pour commencer. Tout peut être changé plus tard, et cette page se retrouve sous « Général ».</translation>
+    </message>
+    <message>
+        <source>A program of its own that does the scanning, also when this window is closed. Here you set how.</source>
+        <translation>Un programme à part qui fait le balayage, même quand cette fenêtre est fermée. Ici, vous réglez comment.</translation>
+    </message>
+    <message>
+        <source>5. Scan for the first time</source>
+        <translation>5. Balayer pour la première fois</translation>
+    </message>
+    <message>
+        <source>Your first scan</source>
+        <translation>Votre premier balayage</translation>
+    </message>
+    <message>
+        <source>Press your switch: the line starts. Press again when it is on this button, and once more when the pointer is.</source>
+        <translation>Appuyez sur votre contacteur : la ligne part. Appuyez de nouveau quand elle est sur ce bouton, et encore une fois quand le pointeur y est.</translation>
+    </message>
+    <message>
+        <source>Hit me</source>
+        <translation>Touchez-moi</translation>
     </message>
 </context>
 <context>
