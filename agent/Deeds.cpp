@@ -38,6 +38,9 @@ Deeds::Deeds(XServer& server, Hand& hand, Listener& listener)
       volume_([this](const std::string& why) { listener_.cantDo(why); }),
       typing_(
           server, [this] { listener_.scanNow(); },
+          [this](const std::string& why) { listener_.cantDo(why); }),
+      openers_(
+          server, hand, typist_, [this] { listener_.scanNow(); },
           [this](const std::string& why) { listener_.cantDo(why); }) {
     keysUp_.setInterval(kKeysUpMs);
     QObject::connect(&keysUp_, &QTimer::timeout, [this] { lookForUsersKeys(); });
@@ -50,14 +53,18 @@ Deeds::~Deeds() {
 void Deeds::letGo() {
     keysUp_.stop();
     sequence_.clear();
+    openers_.close();
     hand_.letGo();
 }
 
 void Deeds::addTo(Surroundings& around) const {
     around.keyboard = typing_.keyboard();
+    if (const auto list = openers_.list())
+        around.menus.insert(around.menus.begin(), *list);
 }
 
 void Deeds::scanRanOut(const PrefsRecord& settings) {
+    openers_.close();
     if (settings.lineScanCanEndKybdMode)
         typing_.end();
 }
@@ -190,6 +197,8 @@ std::string Deeds::act(const ActionRow& row) {
         {ActionKind::Quieter, &Deeds::quieter}, {ActionKind::Mute, &Deeds::mute},
         {ActionKind::Faster, &Deeds::faster},   {ActionKind::Slower, &Deeds::slower},
         {ActionKind::Pause, &Deeds::pause},     {ActionKind::Type, &Deeds::type},
+        {ActionKind::Menus, &Deeds::menus},     {ActionKind::Apps, &Deeds::apps},
+        {ActionKind::Windows, &Deeds::windows},
     };
     const auto* const found =
         std::find_if(std::begin(kDoers), std::end(kDoers),
@@ -224,6 +233,23 @@ std::string Deeds::desktop(const ActionRow&) {
 
 std::string Deeds::type(const ActionRow&) {
     typing_.toggle();
+    return {};
+}
+
+std::string Deeds::menus(const ActionRow&) {
+    afterUsersKeys();
+    sequence_.add([this] { openers_.menus(); });
+    return {};
+}
+
+std::string Deeds::apps(const ActionRow&) {
+    afterUsersKeys();
+    sequence_.add([this] { openers_.applications(); });
+    return {};
+}
+
+std::string Deeds::windows(const ActionRow&) {
+    openers_.windows();
     return {};
 }
 

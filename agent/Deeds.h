@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "agent/Openers.h"
 #include "agent/Sequence.h"
 #include "agent/Typing.h"
 #include "agent/Volume.h"
@@ -46,7 +47,7 @@ public:
     /// `settings` is a checked record. Why it can't be done, in a sentence, or empty.
     std::string carryOut(const Deed& deed, const PrefsRecord& settings);
 
-    /// Adds what it has opened to be scanned: the keyboard.
+    /// Adds what it has opened to be scanned: the keyboard, a list.
     void addTo(Surroundings& around) const;
 
     /// A scan has run to its end without a choice: what was opened for it is closed.
@@ -63,6 +64,9 @@ private:
     std::string close(const ActionRow& row);
     std::string desktop(const ActionRow& row);
     std::string type(const ActionRow& row);
+    std::string menus(const ActionRow& row);
+    std::string apps(const ActionRow& row);
+    std::string windows(const ActionRow& row);
     std::string louder(const ActionRow& row);
     std::string quieter(const ActionRow& row);
     std::string mute(const ActionRow& row);
@@ -85,6 +89,7 @@ private:
     WindowManager windows_;
     Volume volume_;
     Typing typing_;
+    Openers openers_;
     Sequence sequence_;
     std::optional<Place> held_; ///< where the pointer will be, while a button is down
     QTimer keysUp_;

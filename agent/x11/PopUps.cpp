@@ -106,8 +106,39 @@ std::vector<PopUps::Window> PopUps::overWindows() {
     const auto* first = xcb_query_tree_children(tree.get());
     std::vector<xcb_window_t> ids(first, first + tree->children_len);
     std::erase_if(ids, [this](xcb_window_t id) { return isOurs(id); });
+    const auto openbox = openboxWindow();
     std::reverse(ids.begin(), ids.end());
-    return inputOutput(ids);
+    auto windows = inputOutput(ids);
+    std::erase_if(windows, [&](const Window& window) {
+        return !window.isOver && !(openbox && isMenuOf(*openbox, window.id));
+    });
+    return windows;
+}
+
+/// Openbox's own menus aren't override-redirect, as no window manager manages it. The window that
+/// stands for it; none when another one runs.
+std::optional<xcb_window_t> PopUps::openboxWindow() {
+    const auto check =
+        numbersOf(server_, askProperty(server_, server_.root(), "_NET_SUPPORTING_WM_CHECK"));
+    if (check.empty() ||
+        bytesOf(server_, askProperty(server_, check[0], "_NET_WM_NAME")) != "Openbox")
+        return std::nullopt;
+    return check[0];
+}
+
+/// A frame has the window of another program inside.
+bool PopUps::isMenuOf(xcb_window_t manager, xcb_window_t window) {
+    const auto clientOf = [mask = xcb_get_setup(server_.connection())->resource_id_mask](
+                              xcb_window_t id) { return id & ~mask; };
+    if (clientOf(window) != clientOf(manager))
+        return false;
+    const XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(
+        server_.connection(), xcb_query_tree(server_.connection(), window), nullptr));
+    if (!tree)
+        return false;
+    const auto* first = xcb_query_tree_children(tree.get());
+    return std::all_of(first, first + tree->children_len,
+                       [&](xcb_window_t child) { return clientOf(child) == clientOf(manager); });
 }
 
 std::vector<PopUps::Window> PopUps::inputOutput(const std::vector<xcb_window_t>& ids) {
@@ -128,14 +159,13 @@ std::vector<PopUps::Window> PopUps::inputOutput(const std::vector<xcb_window_t>&
             xcb_get_window_attributes_reply(connection, asked[i].attributes, nullptr));
         const XReply<xcb_get_geometry_reply_t> geometry(
             xcb_get_geometry_reply(connection, asked[i].geometry, nullptr));
-        if (attributes && geometry && attributes->override_redirect &&
-            attributes->map_state == XCB_MAP_STATE_VIEWABLE &&
+        if (attributes && geometry && attributes->map_state == XCB_MAP_STATE_VIEWABLE &&
             attributes->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT)
-            windows.push_back(
-                {ids[i],
-                 {static_cast<double>(geometry->x), static_cast<double>(geometry->y),
-                  static_cast<double>(geometry->width + 2 * geometry->border_width),
-                  static_cast<double>(geometry->height + 2 * geometry->border_width)}});
+            windows.push_back({ids[i],
+                               {static_cast<double>(geometry->x), static_cast<double>(geometry->y),
+                                static_cast<double>(geometry->width + 2 * geometry->border_width),
+                                static_cast<double>(geometry->height + 2 * geometry->border_width)},
+                               attributes->override_redirect != 0});
     }
     return windows;
 }

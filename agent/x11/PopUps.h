@@ -4,6 +4,7 @@
 #include "agent/scan/Region.h"
 #include "agent/x11/XServer.h"
 
+#include <optional>
 #include <vector>
 
 /// Finds what other programs have put over all windows: their open menus, and a lock screen.
@@ -15,10 +16,10 @@ public:
     PopUps(const PopUps&) = delete;
     PopUps& operator=(const PopUps&) = delete;
 
-    /// The areas of the open menus, the innermost first: mapped override-redirect windows of others
-    /// while somebody holds the pointer, but no tooltips, notifications, pictures of a drag, and
-    /// none over a whole screen. Without the shadow that a program draws around. Four round trips
-    /// at most.
+    /// The areas of the open menus, the innermost first: mapped override-redirect windows of
+    /// others, and Openbox's own menus, while somebody holds the pointer, but no tooltips,
+    /// notifications, pictures of a drag, and none over a whole screen. Without the shadow that a
+    /// program draws around. A few round trips.
     std::vector<Area> menus(const std::vector<Screen>& screens);
 
     /// Whether another program's override-redirect window over a whole screen is up and holds
@@ -29,8 +30,11 @@ private:
     struct Window {
         xcb_window_t id;
         Area area;
+        bool isOver; ///< override-redirect
     };
 
+    std::optional<xcb_window_t> openboxWindow();
+    bool isMenuOf(xcb_window_t manager, xcb_window_t window);
     bool isOurs(xcb_window_t window) const;
     std::vector<Window> overWindows();
     std::vector<Window> inputOutput(const std::vector<xcb_window_t>& ids);

@@ -74,28 +74,37 @@ std::vector<xcb_window_t> WindowManager::all() const {
 }
 
 std::optional<Area> WindowManager::placeOf(const std::string& program) const {
-    xcb_connection_t* connection = server_.connection();
     const auto windows = all();
     std::vector<xcb_get_property_cookie_t> asked;
     for (const xcb_window_t window : windows)
         asked.push_back(askProperty(server_, window, "WM_CLASS"));
     std::optional<Area> place;
-    for (std::size_t i = 0; i < windows.size(); ++i) {
-        if (programIn(bytesOf(server_, asked[i])) != program || place)
-            continue;
-        const XReply<xcb_get_window_attributes_reply_t> state(xcb_get_window_attributes_reply(
-            connection, xcb_get_window_attributes(connection, windows[i]), nullptr));
-        const XReply<xcb_get_geometry_reply_t> geometry(
-            xcb_get_geometry_reply(connection, xcb_get_geometry(connection, windows[i]), nullptr));
-        const XReply<xcb_translate_coordinates_reply_t> corner(xcb_translate_coordinates_reply(
-            connection, xcb_translate_coordinates(connection, windows[i], server_.root(), 0, 0),
-            nullptr));
-        if (state && geometry && corner && state->map_state == XCB_MAP_STATE_VIEWABLE)
-            place =
-                Area{static_cast<double>(corner->dst_x), static_cast<double>(corner->dst_y),
-                     static_cast<double>(geometry->width), static_cast<double>(geometry->height)};
-    }
+    for (std::size_t i = 0; i < windows.size(); ++i)
+        if (programIn(bytesOf(server_, asked[i])) == program && !place)
+            place = areaOf(windows[i]);
     return place;
+}
+
+std::optional<Area> WindowManager::areaOf(xcb_window_t window) const {
+    xcb_connection_t* connection = server_.connection();
+    const auto stateAsked = xcb_get_window_attributes(connection, window);
+    const auto geometryAsked = xcb_get_geometry(connection, window);
+    const auto cornerAsked = xcb_translate_coordinates(connection, window, server_.root(), 0, 0);
+    const XReply<xcb_get_window_attributes_reply_t> state(
+        xcb_get_window_attributes_reply(connection, stateAsked, nullptr));
+    const XReply<xcb_get_geometry_reply_t> geometry(
+        xcb_get_geometry_reply(connection, geometryAsked, nullptr));
+    const XReply<xcb_translate_coordinates_reply_t> corner(
+        xcb_translate_coordinates_reply(connection, cornerAsked, nullptr));
+    if (!state || !geometry || !corner || state->map_state != XCB_MAP_STATE_VIEWABLE)
+        return std::nullopt;
+    return Area{static_cast<double>(corner->dst_x), static_cast<double>(corner->dst_y),
+                static_cast<double>(geometry->width), static_cast<double>(geometry->height)};
+}
+
+std::uint32_t WindowManager::processOf(xcb_window_t window) const {
+    const auto number = numbersOf(server_, askProperty(server_, window, "_NET_WM_PID"));
+    return number.empty() ? 0 : number[0];
 }
 
 bool WindowManager::close(xcb_window_t window) {
@@ -112,9 +121,17 @@ bool WindowManager::toggleDesktop() {
     return request("_NET_SHOWING_DESKTOP", server_.root(), {!isShown});
 }
 
+/// One that has gone may have left its list behind, but not its window.
+bool WindowManager::supports(const char* name) const {
+    constexpr const char* kCheck = "_NET_SUPPORTING_WM_CHECK";
+    const auto check = rootNumbers(kCheck);
+    return !check.empty() && numbersOf(server_, askProperty(server_, check[0], kCheck)) == check &&
+           has(rootNumbers("_NET_SUPPORTED"), server_.atom(name));
+}
+
 bool WindowManager::request(const char* name, xcb_window_t window,
                             const std::vector<std::uint32_t>& data) {
-    if (!has(rootNumbers("_NET_SUPPORTED"), server_.atom(name)))
+    if (!supports(name))
         return false;
     xcb_client_message_event_t event = {};
     event.response_type = XCB_CLIENT_MESSAGE;
@@ -122,13 +139,30 @@ bool WindowManager::request(const char* name, xcb_window_t window,
     event.window = window;
     event.type = server_.atom(name);
     std::copy(data.begin(), data.end(), event.data.data32);
-    char bytes[32];
-    std::memcpy(bytes, &event, sizeof bytes);
-    xcb_send_event(server_.connection(), 0, server_.root(),
-                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                   bytes);
-    server_.flush();
+    send(event, XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT);
     return true;
+}
+
+template <class Event>
+void WindowManager::send(const Event& event, std::uint32_t mask) {
+    char bytes[32];
+    static_assert(sizeof event == sizeof bytes);
+    std::memcpy(bytes, &event, sizeof bytes);
+    xcb_send_event(server_.connection(), 0, server_.root(), mask, bytes);
+    server_.flush();
+}
+
+void WindowManager::askForRootMenu() {
+    constexpr xcb_button_t kMenuButton = 3;
+    const xcb_screen_t& screen = server_.screen();
+    xcb_button_press_event_t event = {};
+    event.detail = kMenuButton;
+    event.root = event.event = server_.root();
+    event.root_x = event.event_x = static_cast<std::int16_t>(screen.width_in_pixels / 2);
+    event.root_y = event.event_y = static_cast<std::int16_t>(screen.height_in_pixels / 2);
+    event.same_screen = 1;
+    event.response_type = XCB_BUTTON_PRESS; // a release would close the menu again
+    send(event, XCB_EVENT_MASK_BUTTON_PRESS);
 }
 
 Area WindowManager::windowAt(Place place) const {

@@ -26,6 +26,12 @@ public:
     /// The second part of WM_CLASS, the program's: "XTerm". Empty without.
     std::string programOf(xcb_window_t window) const;
 
+    /// The process that made it, as it says. 0 if it doesn't.
+    std::uint32_t processOf(xcb_window_t window) const;
+
+    /// Where it is shown. None when it isn't.
+    std::optional<Area> areaOf(xcb_window_t window) const;
+
     /// Where a window of that program is shown. None when there is no such window.
     std::optional<Area> placeOf(const std::string& program) const;
 
@@ -38,11 +44,18 @@ public:
     /// Shows the desktop without windows, or the windows again.
     bool toggleDesktop();
 
+    /// Has the window manager do what it does at a click with the other button beside all windows:
+    /// many show their menu of applications then, in the middle of the screen.
+    void askForRootMenu();
+
     /// What lies there, with its frame; the whole screen where no window is.
     Area windowAt(Place place) const;
 
 private:
+    bool supports(const char* name) const;
     bool request(const char* name, xcb_window_t window, const std::vector<std::uint32_t>& data);
+    template <class Event>
+    void send(const Event& event, std::uint32_t mask);
     std::vector<std::uint32_t> rootNumbers(const char* name) const;
     std::vector<xcb_window_t> all() const;
     bool isOrdinary(xcb_window_t window) const;

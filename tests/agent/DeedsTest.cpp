@@ -2,15 +2,15 @@
 #include "agent/Deeds.h"
 
 #include "agent/x11/Guard.h"
+#include "agent/x11/Properties.h"
 #include "tests/agent/TargetWindow.h"
-#include "tests/support/ApplicationTest.h"
 #include "tests/support/FakeDevice.h"
 #include "tests/support/XvfbServer.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusMetaType>
+#include <QGuiApplication>
 #include <QProcess>
 #include <QTest>
 
@@ -51,7 +51,16 @@ struct Told final : Deeds::Listener {
     Texts texts;
 };
 
-class DeedsTest : public ApplicationTest<QCoreApplication> {
+/// Shows windows on the display.
+struct Application {
+    int argc = 1;
+    char name[5] = "test";
+    char* argv[2] = {name, nullptr};
+    bool isSet = qputenv("QT_QPA_PLATFORM", "xcb");
+    QGuiApplication application{argc, argv};
+};
+
+class DeedsTest : public testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(server_ && guard_) << fault_; }
 
@@ -79,6 +88,7 @@ protected:
     FakeDevice keyboard_{FakeDevice::Kind::Keyboard};
     std::string fault_;
     std::unique_ptr<Guard> guard_ = Guard::start();
+    Application application_;
     std::unique_ptr<XServer> server_ = XServer::connect(fault_);
     std::unique_ptr<Hand> hand_ = std::make_unique<Hand>(*server_, *guard_);
     Told told_;
@@ -200,7 +210,7 @@ TEST_F(DeedsTest, ItsOwnActionsAreTheScanners) {
     }
 }
 
-/// The desktop's programs, on the session's bus.
+/// Openbox, with the menu that Debian gives it, and programs that say what happens to them.
 class DesktopDeedsTest : public DeedsTest {
 protected:
     DesktopDeedsTest() {
@@ -211,40 +221,142 @@ protected:
         qDBusRegisterMetaType<Environment>();
         call << QVariant::fromValue(Environment{{"DISPLAY", qEnvironmentVariable("DISPLAY")}});
         QDBusConnection::sessionBus().call(call);
+        start(manager_, "env", {"XDG_CONFIG_DIRS=/etc/xdg", "openbox"});
+        EXPECT_TRUE(waitForRoot("_NET_SUPPORTED"));
+    }
+
+    ~DesktopDeedsTest() override {
+        for (QProcess* program : {&editor_, &manager_}) {
+            program->closeWriteChannel();
+            program->kill();
+            program->waitForFinished();
+        }
+    }
+
+    static void start(QProcess& program, const QString& name, const QStringList& arguments) {
+        program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        program.start(name, arguments);
+        ASSERT_TRUE(program.waitForStarted());
+    }
+
+    void startEditor(const QString& name, const QStringList& arguments) {
+        xcb_unmap_window(target_.connection(), target_.window());
+        target_.events();
+        start(editor_, name, arguments);
+        EXPECT_TRUE(says("ready"));
+        EXPECT_TRUE(waitForRoot("_NET_ACTIVE_WINDOW"));
+    }
+
+    /// Whether the editor says that or more, now or soon. All before is forgotten.
+    bool says(const std::string& text) {
+        const bool found = QTest::qWaitFor(
+            [&] {
+                said_ += editor_.readAllStandardOutput().toStdString();
+                return said_.find(text) != std::string::npos;
+            },
+            20'000);
+        EXPECT_TRUE(found) << text << " isn't in\n" << said_;
+        said_.clear();
+        return found;
+    }
+
+    /// Until the window manager says so: a number that isn't zero, or a list.
+    bool waitForRoot(const char* property) {
+        return QTest::qWaitFor(
+            [&] {
+                const auto numbers =
+                    numbersOf(*server_, askProperty(*server_, server_->root(), property));
+                return !numbers.empty() && numbers[0] != 0;
+            },
+            20'000);
     }
 
     bool waitToBeTold(const Texts& texts) {
-        return QTest::qWaitFor([&] { return told_.texts == texts; }, 20'000);
+        const bool isTold = QTest::qWaitFor([&] { return told_.texts == texts; }, 20'000);
+        EXPECT_EQ(told_.texts, texts);
+        told_.texts.clear();
+        return isTold;
     }
 
-    std::optional<Area> keyboard() {
+    Surroundings around() {
         Surroundings around;
         deeds_->addTo(around);
-        return around.keyboard;
+        return around;
     }
+
+    /// A click on a row of the list that is open, from the top.
+    void chooseRow(int row) {
+        ASSERT_EQ(around().menus.size(), 1U);
+        const Area list = around().menus[0];
+        carryOut({.kind = Deed::Kind::Click,
+                  .place = {list.middle().x, list.top + (row + 0.5) * ListWindow::kRowHeight}});
+    }
+
+    std::optional<Area> keyboard() { return around().keyboard; }
+
+    QProcess manager_, editor_;
+    std::string said_;
 };
 
 TEST_F(DesktopDeedsTest, TypesWithOnboard) {
+    startEditor(KORVEX_GTK_EDITOR, {});
     EXPECT_EQ(choose(ActionKind::Type), "");
-    EXPECT_TRUE(waitToBeTold({"scan"})) << testing::PrintToString(told_.texts);
+    ASSERT_TRUE(waitToBeTold({"scan"}));
     const auto place = keyboard();
     ASSERT_TRUE(place);
     EXPECT_GT(place->width, 100);
     settings_.lineScanCanEndKybdMode = 0;
     deeds_->scanRanOut(settings_);
     EXPECT_TRUE(keyboard());
-    // A click on one of its keys, which types into the window that has the focus.
-    target_.events();
+    // A click on one of its keys types into the window that has the focus.
     EXPECT_EQ(carryOut({.kind = Deed::Kind::Click, .place = place->middle()}), "");
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-        const Texts all = target_.events();
-        return std::find_if(all.begin(), all.end(), [](const std::string& text) {
-                   return text.starts_with("key ");
-               }) != all.end();
-    }));
+    EXPECT_TRUE(says("text "));
     settings_.lineScanCanEndKybdMode = 1;
     deeds_->scanRanOut(settings_);
     EXPECT_FALSE(keyboard());
+}
+
+TEST_F(DesktopDeedsTest, WindowsAreBroughtForwardClosedAndHidden) {
+    EXPECT_EQ(choose(ActionKind::Close), "No window is active.");
+    startEditor(KORVEX_GTK_EDITOR, {});
+    QProcess other;
+    start(other, KORVEX_GTK_EDITOR, {"without a menu bar"});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return other.readAllStandardOutput().contains("ready"); }));
+    EXPECT_EQ(choose(ActionKind::Windows), "");
+    ASSERT_TRUE(waitToBeTold({"scan"}));
+    said_.clear();
+    chooseRow(1);
+    EXPECT_TRUE(says("ready"));
+    EXPECT_TRUE(around().menus.empty());
+    EXPECT_TRUE(waitForRoot("_NET_ACTIVE_WINDOW"));
+    EXPECT_EQ(choose(ActionKind::Desktop), "");
+    EXPECT_TRUE(waitForRoot("_NET_SHOWING_DESKTOP"));
+    EXPECT_EQ(choose(ActionKind::Desktop), "");
+    EXPECT_TRUE(says("ready"));
+    EXPECT_TRUE(waitForRoot("_NET_ACTIVE_WINDOW"));
+    EXPECT_EQ(choose(ActionKind::Close), "");
+    EXPECT_TRUE(says("closed"));
+    other.closeWriteChannel();
+    other.waitForFinished();
+    manager_.kill();
+    manager_.waitForFinished();
+    EXPECT_EQ(choose(ActionKind::Desktop), "The window manager can't show the desktop.");
+}
+
+TEST_F(DesktopDeedsTest, MenusOpenAndAreScanned) {
+    startEditor(KORVEX_GTK_EDITOR, {});
+    EXPECT_EQ(choose(ActionKind::Menus), "");
+    ASSERT_TRUE(waitToBeTold({"scan"})); // the list of its menus
+    chooseRow(1);
+    EXPECT_TRUE(says("menu Edit"));
+    ASSERT_TRUE(waitToBeTold({"scan"}));
+    EXPECT_EQ(press("Escape"), "");
+}
+
+TEST_F(DesktopDeedsTest, ApplicationsAreTheDesktopsMenu) {
+    startEditor(KORVEX_GTK_EDITOR, {});
+    EXPECT_EQ(choose(ActionKind::Apps), "");
+    EXPECT_TRUE(waitToBeTold({"scan"}));
 }
 
 } // namespace

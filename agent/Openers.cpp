@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "agent/Openers.h"
+
+#include "agent/x11/Screens.h"
+#include "platform/CoreFoundation/Localization.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace {
+
+constexpr int kLookMs = 50;         ///< between two looks for a menu
+constexpr double kClickTime = 0.03; ///< s
+
+/// How a desktop opens its menu of applications: by a program or by keys.
+struct Way {
+    const char* desktop; ///< as XDG_CURRENT_DESKTOP has it
+    const char* program;
+    const char* keys;
+    bool isMenu; ///< else it is drawn by the desktop itself, and the screen is scanned
+};
+
+constexpr Way kWays[] = {
+    {"GNOME", nullptr, "Super_L", false},
+    {"KDE", nullptr, "Alt+F1", false},
+    {"LXDE", "lxpanelctl menu", nullptr, true},
+    {"LXQt", nullptr, "Alt+F1", true},
+    {"MATE", nullptr, "Alt+F1", true},
+    {"X-Cinnamon", nullptr, "Super_L", false},
+    {"XFCE", "xfce4-popup-applicationsmenu", nullptr, true},
+};
+
+/// Null for one that isn't in the table.
+const Way* wayOfDesktop() {
+    const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(QChar(':'));
+    const auto* const way = std::find_if(std::begin(kWays), std::end(kWays), [&](const Way& row) {
+        return desktops.contains(QLatin1String(row.desktop), Qt::CaseInsensitive);
+    });
+    return way == std::end(kWays) ? nullptr : way;
+}
+
+bool run(const char* command) {
+    QStringList words = QProcess::splitCommand(QString::fromLatin1(command));
+    const QString program = QStandardPaths::findExecutable(words.takeFirst());
+    return !program.isEmpty() && QProcess::startDetached(program, words);
+}
+
+std::string noApplications() {
+    return localized("Agent", "This desktop has no menu of applications that Korvex can open.");
+}
+
+} // namespace
+
+Openers::Openers(XServer& server, Hand& hand, Typist& typist, std::function<void()> opened,
+                 std::function<void(const std::string&)> cantDo)
+    : server_(server), hand_(hand), typist_(typist), windows_(server), popUps_(server),
+      opened_(std::move(opened)), cantDo_(std::move(cantDo)) {
+    look_.setInterval(kLookMs);
+    QObject::connect(&look_, &QTimer::timeout, [this] { lookForMenu(); });
+}
+
+std::optional<Area> Openers::list() const {
+    return list_ && list_->isVisible() ? windows_.areaOf(static_cast<xcb_window_t>(list_->winId()))
+                                       : std::nullopt;
+}
+
+void Openers::close() {
+    look_.stop();
+    if (list_)
+        list_->hide();
+}
+
+void Openers::choose(std::vector<std::string> rows, std::function<void(std::size_t)> chosen) {
+    if (!list_)
+        list_ = std::make_unique<ListWindow>([this] { opened_(); });
+    list_->open(std::move(rows), std::move(chosen));
+}
+
+// Windows ----------------------------------------------------------------------------------------
+
+void Openers::windows() {
+    const auto windows = windows_.windows();
+    if (windows.empty())
+        return cantDo_(localized("Agent", "No window is open."));
+    std::vector<std::string> titles;
+    for (const auto& window : windows)
+        titles.push_back(window.title);
+    choose(titles, [this, windows](std::size_t row) {
+        if (!windows_.activate(windows[row].id))
+            cantDo_(localized("Agent", "The window manager can't bring windows to the front."));
+    });
+}
+
+// Menus ------------------------------------------------------------------------------------------
+
+void Openers::menus() {
+    const auto active = windows_.active();
+    if (!active)
+        return cantDo_(localized("Agent", "No window is active."));
+    askForMenuBar(windows_.processOf(*active), &look_,
+                  [this](const std::vector<BarMenu>& menus) { chooseMenu(menus); });
+}
+
+void Openers::chooseMenu(const std::vector<BarMenu>& menus) {
+    if (menus.empty())
+        return pressMenuKey();
+    if (menus.size() == 1)
+        return openMenu(menus[0]);
+    std::vector<std::string> names;
+    for (const BarMenu& menu : menus)
+        names.push_back(menu.name);
+    choose(names, [this, menus](std::size_t row) { openMenu(menus[row]); });
+}
+
+void Openers::openMenu(const BarMenu& menu) {
+    hand_.click({.place = menu.place.middle(), .duration = kClickTime});
+    expectMenu(localized("Agent", "The menu doesn't open."));
+}
+
+/// Toolkits open the only menu of a window, or the first of its bar, by this key.
+void Openers::pressMenuKey() {
+    typist_.type("F10");
+    expectMenu(localized("Agent", "This window has no menu that Korvex can open."));
+}
+
+void Openers::expectMenu(const std::string& otherwise) {
+    otherwise_ = otherwise;
+    until_ = XServer::now() + kPatience;
+    look_.start();
+}
+
+void Openers::lookForMenu() {
+    const bool isOpen = !popUps_.menus(listScreens(server_)).empty();
+    if (!isOpen && XServer::now() < until_)
+        return;
+    look_.stop();
+    if (isOpen || otherwise_.empty())
+        opened_();
+    else
+        cantDo_(otherwise_);
+}
+
+// Applications -----------------------------------------------------------------------------------
+
+void Openers::applications() {
+    const Way* way = wayOfDesktop();
+    std::string fault;
+    if (!way)
+        windows_.askForRootMenu();
+    else if (way->program)
+        fault = run(way->program) ? "" : noApplications();
+    else
+        fault = typist_.type(way->keys);
+    if (!fault.empty())
+        return cantDo_(fault);
+    expectMenu(way && !way->isMenu ? "" : noApplications());
+}
