@@ -105,12 +105,12 @@ TEST_F(AppleEventsTest, OnlyAWaitingSenderWaitsForAHangingPeerAndOnlySoLong) {
     EXPECT_LT(timer.restart(), 900);
     EXPECT_EQ(peer_.ask(60), errAETimeout);
     EXPECT_GE(timer.elapsed(), 950);
-    EXPECT_TRUE(waitUntil([&] { return later == errAETimeout; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return later == errAETimeout; }));
     EXPECT_LT(timer.elapsed(), 10'000);
     peer_.signal(SIGCONT);
     EXPECT_EQ(peer_.ask(), 8) << "the late answer is taken for this one";
     sendThen(event, kAEDefaultTimeout, [&](OSErr result) { later = result; });
-    EXPECT_TRUE(waitUntil([&] { return later == errAEDescNotFound; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return later == errAEDescNotFound; }));
     peer_.signal(SIGKILL);
     EXPECT_TRUE(waitUntil([&] { return peer_.ask() == procNotFound; })) << "it is gone";
 }
