@@ -14,7 +14,9 @@ struct Figure {
     std::string name;
     Limit limit;
     Measure measured, floor;
-    std::vector<double> results, floors; ///< seconds or bytes
+    std::vector<double> results, floors; ///< in what the limit is in; without a floor, none
+
+    bool isTime() const { return limit.kind == Limit::Times || limit.kind == Limit::Plus; }
 };
 
 std::deque<Figure> figures;
@@ -29,6 +31,10 @@ std::string shown(double value, Limit::Kind kind) {
     char text[32];
     if (kind == Limit::Bytes)
         std::snprintf(text, sizeof text, "%.2f MiB", value / (1 << 20));
+    else if (kind == Limit::Share)
+        std::snprintf(text, sizeof text, "%.2f %%", value * 100);
+    else if (kind == Limit::Count)
+        std::snprintf(text, sizeof text, "%.0f", value);
     else if (value >= 1e-3)
         std::snprintf(text, sizeof text, "%.2f ms", value * 1e3);
     else
@@ -43,7 +49,8 @@ bool judge(const Figure& figure) {
         std::printf("%-58s not measured\n", figure.name.c_str());
         return false;
     }
-    const double measured = median(figure.results), floor = median(figure.floors);
+    const double measured = median(figure.results);
+    const double floor = figure.floor ? median(figure.floors) : 0;
     double value = measured;
     std::string result, limit;
     if (kind == Limit::Times) {
@@ -54,25 +61,27 @@ bool judge(const Figure& figure) {
         std::snprintf(text, sizeof text, "%.2f x", amount);
         limit = text;
     } else {
-        value -= floor;
+        if (kind == Limit::Plus || kind == Limit::Bytes)
+            value -= floor;
         result = shown(value, kind);
         limit = shown(amount, kind);
     }
     const bool within = value <= amount;
     std::printf("%-58s %11s %11s %11s %11s%s\n", figure.name.c_str(), shown(measured, kind).c_str(),
-                shown(floor, kind).c_str(), result.c_str(), limit.c_str(), within ? "" : "  OVER");
+                figure.floor ? shown(floor, kind).c_str() : "", result.c_str(), limit.c_str(),
+                within ? "" : "  OVER");
     return within;
 }
 
 /// Measures both in turn, so that what else the machine does meanwhile slows both.
 void run(benchmark::State& state, Figure& figure) {
     for (auto _ : state) {
-        const double result = figure.measured(), floor = figure.floor();
+        const double result = figure.measured(), floor = figure.floor ? figure.floor() : 0;
         if (result < 0 || floor < 0) {
             figure.results.clear();
             return state.SkipWithError("failed");
         }
-        state.SetIterationTime(figure.limit.kind == Limit::Bytes ? 1.0 : result);
+        state.SetIterationTime(figure.isTime() ? result : 1.0);
         figure.results.push_back(result);
         figure.floors.push_back(floor);
     }
@@ -105,6 +114,7 @@ int main(int argc, char** argv) {
     addStartFigures();
     addCommandFigures();
     addLaunchFigures();
+    addAgentFigures();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;

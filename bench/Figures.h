@@ -13,18 +13,22 @@ struct Limit {
         Times, ///< a multiple of its floor
         Plus,  ///< more than its floor, in seconds
         Bytes, ///< more than its floor, in bytes
+        // Without regard to a floor, which may be missing:
+        Seconds,
+        Share, ///< of a processor
+        Count,
     };
 
     Kind kind;
     double amount;
 };
 
-/// Does one piece of work and returns the seconds or bytes it took. A negative result means
-/// failure, which ends the figure.
+/// Does one piece of work and returns the seconds, bytes or whatever it took. A negative result
+/// means failure, which ends the figure.
 using Measure = double (*)();
 
 /// Registers a figure, and the floor that it is compared with in the same run.
-void addFigure(const std::string& name, Limit limit, Measure measured, Measure floor);
+void addFigure(const std::string& name, Limit limit, Measure measured, Measure floor = nullptr);
 
 // One function for each subject and file, in the order of the runs.
 void addPrefsFigures();
@@ -38,6 +42,7 @@ void addChangeFigures();
 void addStartFigures();
 void addCommandFigures();
 void addLaunchFigures();
+void addAgentFigures();
 
 /// Sets the displays for the next QApplication to those of the overlay's figures. Returns Qt's
 /// platform from before.

@@ -13,16 +13,6 @@ double uniform(double low, double high, std::mt19937& random) {
     return std::uniform_real_distribution<>(low, high)(random);
 }
 
-double nextPress(const SimulatedUser& user, const Sweep& sweep, double markTime, double spread,
-                 std::mt19937& random) {
-    const double kind = uniform(0, 1, random);
-    if (kind < user.lapses)
-        return uniform(0, 2 * sweep.time, random); // half of them are none: the sweep is over
-    if (kind < user.lapses + user.strays)
-        return uniform(0, sweep.time, random);
-    return markTime + user.timing.lateness + spread * std::normal_distribution<>()(random);
-}
-
 /// The true rate of hits, of presses that are no lapses.
 double trueRate(const tryout::Conditions& tried, const tryout::Timing& truth, double lineTime,
                 double pointerTime) {
@@ -68,6 +58,16 @@ tryout::Conditions simulatedConditions() {
             .pointer = Sweep{.travel = 530, .time = 10}};
 }
 
+double pressTime(const SimulatedUser& user, const Sweep& sweep, double markTime, double spread,
+                 std::mt19937& random) {
+    const double kind = uniform(0, 1, random);
+    if (kind < user.lapses)
+        return uniform(0, 2 * sweep.time, random); // half of them are none: the sweep is over
+    if (kind < user.lapses + user.strays)
+        return uniform(0, sweep.time, random);
+    return markTime + user.timing.lateness + spread * std::normal_distribution<>()(random);
+}
+
 tryout::Measured simulateTry(const SimulatedUser& user, const tryout::Conditions& conditions,
                              std::mt19937& random) {
     const Sweep& sweep = conditions.sweep;
@@ -80,7 +80,7 @@ tryout::Measured simulateTry(const SimulatedUser& user, const tryout::Conditions
     double spread = user.timing.spread;
     for (const double mark : marks) {
         tryout::Trial trial{.markTime = sweep.timeAt(mark)};
-        const double press = std::max(nextPress(user, sweep, trial.markTime, spread, random), 0.0);
+        const double press = std::max(pressTime(user, sweep, trial.markTime, spread, random), 0.0);
         spread *= 1 + user.tiring;
         trial.pressed = press < sweep.time;
         if (trial.pressed) {

@@ -18,6 +18,11 @@ struct SimulatedUser {
     std::optional<tryout::Verdict> verdict = {};
 };
 
+/// When the user presses to stop a sweep at `markTime`, both in seconds after it began. `spread` is
+/// the present one.
+double pressTime(const SimulatedUser& user, const Sweep& sweep, double markTime, double spread,
+                 std::mt19937& random);
+
 /// The twelve sweeps of a try, with marks across the whole range in random order.
 tryout::Measured simulateTry(const SimulatedUser& user, const tryout::Conditions& conditions,
                              std::mt19937& random);

@@ -17,6 +17,8 @@ public:
 
     bool isRunning() const { return pid_ > 0; }
 
+    pid_t pid() const { return pid_; }
+
     /// Kills it, as a crash does.
     void kill();
 
