@@ -4,11 +4,13 @@
 
 #include "bench/AgentDesktop.h"
 #include "bench/SimulatedUser.h"
+#include "src/record/palactions.h"
 #include "src/tryout/session.h"
 #include "src/tryout/tryconditions.h"
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -45,6 +47,7 @@ PrefsRecord recordOfUser() {
     record.preScanDelay = 0.5;
     record.lineScanTime = record.pointerScanTime = 4; // at first
     record.clickDuration = 10;
+    std::ranges::fill(record.buttonActions, kEmptyAction); // no palette covers a target
     return record;
 }
 
