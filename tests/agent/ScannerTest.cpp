@@ -1,138 +1,14 @@
 // SPDX-License-Identifier: MIT
-// The agent as a process, with a display server, a keyboard, a mouse and a window of its own.
-#include "agent/x11/XServer.h"
-#include "src/record/PrefsRecord.h"
-#include "src/scan/sweep.h"
-#include "tests/agent/TargetWindow.h"
-#include "tests/support/AgentTest.h"
-#include "tests/support/FakeDevice.h"
-#include "tests/support/XvfbServer.h"
+#include "tests/agent/ScannerFixture.h"
 
-#include <gmock/gmock.h>
-
-#include <cstdio>
+#include <algorithm>
+#include <functional>
 #include <random>
 
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-constexpr int kWidth = 800, kHeight = 600;
-constexpr int kScanKey = 38, kSecondKey = 56; ///< of the server: A and B
-constexpr int kEscape = 9, kX = 53;
-constexpr double kDelay = 0.3;
-constexpr double kStamp = 0.002; ///< s; the server's time stamps are whole milliseconds
-
-/// When something happened: between two moments.
-struct Span {
-    double from, to;
-};
-
-/// Scans quickly, by keys that need no modifier.
-PrefsRecord quickSettings() {
-    PrefsRecord record;
-    record.preScanDelay = kDelay;
-    record.lineScanTime = record.pointerScanTime = 2;
-    record.useScanAcceleration = 0;
-    record.wantMouseClickTrigger = 0;
-    record.clickDuration = 10;
-    record.inverseReleaseTime = 0.2;
-    record.hotKeys[1] = {0x00, 0}; // A
-    record.hotKeys[4] = {0x0B, 0}; // B
-    return record;
-}
-
-/// This process is taken for the pane.
-bool isOn = true;
-
-OSErr onOff(const AppleEvent* event, AppleEvent*, void*) {
-    UInt8 state = 0;
-    std::size_t size = 0;
-    AEGetParamPtr(event, keyDirectObject, typeBoolean, nullptr, &state, sizeof state, &size);
-    isOn = state != 0;
-    return noErr;
-}
-
-class ScannerTest : public AgentTest<QCoreApplication> {
-protected:
-    ScannerTest() {
-        AEInstallEventHandler(fourCharCode("Krvx"), fourCharCode("PPon"), onOff, nullptr);
-        registerCurrentProcess(fourCharCode("APPL"), fourCharCode("sprf"));
-        startAgent();
-    }
-
-    void use(const PrefsRecord& record) {
-        const UInt32 mask = 0xFFFF;
-        AEDesc settings, changes;
-        AECreateDesc(fourCharCode("KrPf"), &record, sizeof record, &settings);
-        AECreateDesc(typeUInt32, &mask, sizeof mask, &changes);
-        EXPECT_EQ(
-            sendAndWait(makeEvent(findAgent(), fourCharCode("Krvx"), fourCharCode("SAPr"),
-                                  {{keyDirectObject, settings}, {fourCharCode("Chng"), changes}})),
-            noErr);
-        settings_ = record;
-    }
-
-    void holdKeys(UInt8 hold) {
-        AEDesc state;
-        AECreateDesc(typeBoolean, &hold, sizeof hold, &state);
-        EXPECT_EQ(sendAndWait(makeEvent(findAgent(), fourCharCode("Krvx"), fourCharCode("PPhd"),
-                                        {{keyDirectObject, state}})),
-                  noErr);
-    }
-
-    Span key(int code, bool isDown) {
-        const double from = XServer::now();
-        keyboard_.key(code, isDown);
-        return {from, XServer::now()};
-    }
-
-    /// A press of that length in seconds. When it began, or ended.
-    Span press(int code = kScanKey, double length = 0.02, bool atEnd = false) {
-        const Span down = key(code, true);
-        wait(length);
-        const Span up = key(code, false);
-        return atEnd ? up : down;
-    }
-
-    static void wait(double seconds) { QTest::qWait(static_cast<int>(seconds * 1000)); }
-
-    /// Whether the target's next event is a click whose coordinates the two sweeps had in these
-    /// spans after their starts.
-    void expectClick(Span lineStart, Span line, Span pointerStart, Span pointer) {
-        const auto events = target_.events(2); // and the release
-        ASSERT_FALSE(events.empty()) << "no click";
-        int x = 0, y = 0;
-        ASSERT_EQ(std::sscanf(events.front().c_str(), "press 1 at %d,%d", &x, &y), 2)
-            << events.front();
-        expectPlace(y, {kHeight, settings_.lineScanTime, settings_.useScanAcceleration != 0},
-                    lineStart, line);
-        expectPlace(x, {kWidth, settings_.pointerScanTime, settings_.useScanAcceleration != 0},
-                    pointerStart, pointer);
-    }
-
-    void expectPlace(int place, const Sweep& sweep, Span start, Span stop) const {
-        const double delay = settings_.preScanDelay;
-        EXPECT_GE(place + 1, sweep.positionAt(stop.from - start.to - delay - kStamp));
-        EXPECT_LE(place - 1, sweep.positionAt(stop.to - start.from - delay + kStamp));
-    }
-
-    /// A scan in automatic scanning, and the click that it makes.
-    void scan() {
-        const Span start = press();
-        wait(kDelay + 0.5);
-        const Span line = press();
-        wait(kDelay + 0.6);
-        const Span pointer = press();
-        expectClick(start, line, line, pointer);
-    }
-
-    XvfbServer xvfb_{kWidth, kHeight};
-    FakeDevice keyboard_{FakeDevice::Kind::Keyboard}, mouse_{FakeDevice::Kind::Mouse};
-    TargetWindow target_{0, 0, kWidth, kHeight};
-    PrefsRecord settings_;
-};
 
 TEST_F(ScannerTest, EachWayOfScanningHitsItsPlace) {
     use(quickSettings());
@@ -212,16 +88,11 @@ TEST_F(ScannerTest, AMouseButtonIsASwitchThatStaysStill) {
 
 TEST_F(ScannerTest, EndsAsItIsTold) {
     use(quickSettings());
-    const auto begin = [&] {
-        press();
-        wait(kDelay + 0.2);
-    };
     // Escape is the agent's only while it scans.
     begin();
     press(kEscape);
     EXPECT_THAT(target_.events(), IsEmpty());
-    press(kEscape);
-    EXPECT_THAT(target_.events(2), ElementsAre("key 9 down", "key 9 up"));
+    expectNoScan();
 
     // A line that nobody stops goes twice.
     PrefsRecord record = quickSettings();
@@ -229,8 +100,7 @@ TEST_F(ScannerTest, EndsAsItIsTold) {
     use(record);
     begin();
     wait(2 * (kDelay + record.lineScanTime));
-    press(kEscape);
-    EXPECT_THAT(target_.events(2), ElementsAre("key 9 down", "key 9 up"));
+    expectNoScan();
 
     // Switched off by its key, which is taken: the scan key is the programs' then.
     use(quickSettings());
@@ -250,6 +120,128 @@ TEST_F(ScannerTest, EndsAsItIsTold) {
     wait(0.5);
     EXPECT_EQ(target_.events(2).back(), "key 38 up");
     EXPECT_THAT(target_.down(), IsEmpty());
+    scan();
+}
+
+/// Of the line where it crosses the screen's middle; 0 without one.
+int middleOf(const std::vector<std::uint32_t>& column, std::uint32_t color) {
+    const auto first = std::ranges::find(column, color) - column.begin();
+    const auto count = std::ranges::count(column, color);
+    return count ? static_cast<int>(first + count / 2) : 0;
+}
+
+TEST_F(ScannerTest, ChangesInMidScanAreFelt) {
+    constexpr std::uint32_t kDark = 0x640000, kBlue = 0x0000ff;
+    PrefsRecord record = quickSettings();
+    record.lineScanTime = 4;
+    use(record);
+    const Span start = press();
+    wait(kDelay + 0.5);
+    ASSERT_GT(middleOf(column(), kDark), 0);
+
+    // The look at once, the speed from the next sweep on.
+    record.lineColor = {0, 0, 255};
+    record.lineScanTime = 2;
+    record.pointerScanTime = 3;
+    use(record);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return middleOf(column(), kBlue) > 0; }));
+    const Span line = press();
+    wait(kDelay + 0.6);
+    const Span pointer = press();
+    settings_.lineScanTime = 4;
+    expectClick(start, line, line, pointer);
+
+    // Another region, other switches and off end the scan.
+    const struct {
+        const char* name;
+        std::function<void(PrefsRecord&)> change;
+    } kEnds[] = {
+        {"the area",
+         [](PrefsRecord& to) {
+             to.scanArea = {100, 100, 200, 200};
+         }},
+        {"its use", [](PrefsRecord& to) { to.useScanArea = 1; }},
+        {"the menu bar", [](PrefsRecord& to) { to.canScanMenuBar = 0; }},
+        {"the mode", [](PrefsRecord& to) { to.scanMode = 2; }},
+        {"release", [](PrefsRecord& to) { to.triggerOnRelease = 1; }},
+        {"the switch", [](PrefsRecord& to) { to.wantMouseClickTrigger = 1; }},
+        {"off", [](PrefsRecord& to) { to.on = 0; }},
+    };
+
+    for (const auto& [name, change] : kEnds) {
+        SCOPED_TRACE(name);
+        record = quickSettings();
+        use(record);
+        begin();
+        change(record);
+        use(record);
+        expectNoScan();
+    }
+}
+
+TEST_F(ScannerTest, WaitsAndIgnoresForAsLongAsItIsTold) {
+    PrefsRecord record = quickSettings();
+    record.preScanDelay = 1;
+    record.afterClickDelay = 1.5;
+    use(record);
+    // Before the line and before the pointer presses do nothing.
+    const Span start = press();
+    wait(0.4);
+    press();
+    wait(0.9);
+    const Span line = press();
+    wait(0.3);
+    press();
+    wait(1.1);
+    const Span pointer = press();
+    expectClick(start, line, line, pointer);
+    // The click is followed by presses that nobody gets.
+    wait(0.2);
+    press();
+    wait(0.5);
+    press();
+    EXPECT_THAT(target_.events(), IsEmpty());
+    expectNoScan();
+    wait(1);
+    begin();
+}
+
+TEST_F(ScannerTest, ASwitchThatIsHeldForTenSecondsEndsEverything) {
+    PrefsRecord record = quickSettings();
+    record.lineScanTime = 60;
+    record.scanMode = 1;
+    use(record);
+    key(kScanKey, true);
+    wait(9.5);
+    EXPECT_THAT(agentWindows(), testing::SizeIs(1));
+    wait(1);
+    EXPECT_THAT(agentWindows(), IsEmpty());
+    key(kScanKey, false);
+    expectNoScan();
+    use(quickSettings());
+    scan();
+}
+
+TEST_F(ScannerTest, AnOpenMenuIsScannedByTheLineAlone) {
+    PrefsRecord record = quickSettings();
+    record.menuScanSpeedScaleFactor = 50;
+    use(record);
+    const int left = 100, top = 150, width = 200, height = 300;
+    {
+        TargetWindow menu(left, top, width, height);
+        menu.openMenu();
+        const Span start = press();
+        wait(kDelay + 0.5);
+        const Span line = press();
+        const auto events = menu.events(3);
+        ASSERT_EQ(events.size(), 3U);
+        int y = 0; // it hears of motion, too
+        ASSERT_EQ(std::sscanf(events[1].c_str(), "press 1 at 200,%d", &y), 1) << events[1];
+        expectPlace(y - top, {height, 2 * record.lineScanTime * height / kHeight, false}, start,
+                    line);
+        EXPECT_THAT(agentWindows(), testing::SizeIs(1)) << "the menu";
+    }
+    target_.events();
     scan();
 }
 

@@ -33,13 +33,14 @@ std::string textOf(const xcb_generic_event_t& event) {
 
 } // namespace
 
-TargetWindow::TargetWindow(int left, int top, int width, int height)
+TargetWindow::TargetWindow(int left, int top, int width, int height, bool isOver)
     : connection_(xcb_connect(nullptr, nullptr)) {
     root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
     window_ = xcb_generate_id(connection_);
-    const std::uint32_t values[] = {
-        1, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE | XCB_EVENT_MASK_BUTTON_PRESS |
-               XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_BUTTON_MOTION};
+    const std::uint32_t values[] = {isOver, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE |
+                                                XCB_EVENT_MASK_BUTTON_PRESS |
+                                                XCB_EVENT_MASK_BUTTON_RELEASE |
+                                                XCB_EVENT_MASK_BUTTON_MOTION};
     xcb_create_window(connection_, XCB_COPY_FROM_PARENT, window_, root_,
                       static_cast<std::int16_t>(left), static_cast<std::int16_t>(top),
                       static_cast<std::uint16_t>(width), static_cast<std::uint16_t>(height), 0,

@@ -8,8 +8,9 @@
 /// A window of another program, on a connection of its own: what it is told by the server.
 class TargetWindow {
 public:
-    /// It has the focus and covers this part of the screen.
-    TargetWindow(int left, int top, int width, int height);
+    /// It has the focus and covers this part of the screen. `isOver`: as menus and locks do, it
+    /// keeps away from window managers.
+    TargetWindow(int left, int top, int width, int height, bool isOver = true);
     ~TargetWindow();
     TargetWindow(const TargetWindow&) = delete;
     TargetWindow& operator=(const TargetWindow&) = delete;
