@@ -21,16 +21,16 @@
 
 namespace {
 
-/// Seconds from storing the settings to the end of the program.
-constexpr unsigned kMostSecondsToLeave = 3;
+/// From storing the settings to the end of the program. The bus usually needs a millisecond.
+constexpr useconds_t kMostMicrosecondsToLeave = 700'000;
 
 PaneHost* openHost = nullptr; // for the exit handler
 int exitStatus = EXIT_SUCCESS;
 
-/// Ends the program even if the display server hangs.
+/// Ends the program even if the display server or the bus hangs.
 void leaveInTime() {
     std::signal(SIGALRM, [](int) { _exit(exitStatus); });
-    alarm(kMostSecondsToLeave);
+    ualarm(kMostMicrosecondsToLeave, 0);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "host/Strip.h"
 #include "platform/AppKit/NSView.h"
+#include "platform/AppKit/detail/ContentCover.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
@@ -17,11 +18,16 @@ PaneWindow::PaneWindow(NSView* pane) : pane_(pane), formSize_(pane->widget()->si
     scroller->setFocusPolicy(Qt::NoFocus);
     scroller->setWidgetResizable(true);
     scroller->setWidget(pane->widget());
+    auto* covered = new QWidget; // by other pages, but the strip never is
+    covered->setObjectName(kCoveredPart);
+    auto* whole = new QVBoxLayout(covered);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(scroller);
     auto* content = new QWidget;
     auto* rows = new QVBoxLayout(content);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
-    rows->addWidget(scroller, 1);
+    rows->addWidget(covered, 1);
     rows->addWidget(new Strip(content)); // below, so that what is pressed stays where it is
     setCentralWidget(content);
     for (const auto key : {Qt::CTRL | Qt::Key_W, Qt::CTRL | Qt::Key_Q})

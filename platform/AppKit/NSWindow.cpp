@@ -4,6 +4,7 @@
 #include "platform/AppKit/NSView.h"
 #include "platform/AppKit/detail/ContentCover.h"
 #include "platform/AppKit/detail/ViewWidget.h"
+#include "platform/HIToolbox/detail/CarbonWindow.h"
 #include "platform/HIToolbox/detail/HostedWindow.h"
 
 #include <QPointer>
@@ -53,6 +54,10 @@ void NSWindow::setContentView(NSView* view) {
     delete ContentCover::of(window_);
     if (view)
         new ContentCover(window_, view->widget());
+}
+
+bool NSWindow::isLeft() {
+    return areWindowsLeft;
 }
 
 void NSWindow::toggleFullScreen() {

@@ -26,9 +26,13 @@ public:
     /// Whether it is the active one, which gets the keys.
     bool isKeyWindow() const;
 
-    /// Covers the whole window with the view. Null shows the window's own content again, with the
-    /// focus where it was. Neither is deleted.
+    /// Covers the window's content with the view; what the host says beneath stays in sight. Null
+    /// shows the window's own content again, with the focus where it was. Neither is deleted.
     void setContentView(NSView* view);
+
+    /// Whether the visit has ended. The window's server may be gone or hang then, so nothing in the
+    /// window is shown, hidden or deleted.
+    static bool isLeft();
 
     /// Fills the whole screen, or stops doing so.
     void toggleFullScreen();

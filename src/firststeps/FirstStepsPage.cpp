@@ -17,8 +17,8 @@
 
 namespace {
 
-/// The page; null while it isn't open.
-std::unique_ptr<FirstStepsPage> page;
+/// The page; null while it isn't open. Never destroyed: an exit handler may end the visit.
+auto& page = *new std::unique_ptr<FirstStepsPage>;
 
 /// A key in the agent's domain, as for the notice's day. True once the page has been left.
 const CFString* seenKey() {
@@ -184,5 +184,5 @@ void firstStepsUpdate() {
 }
 
 void firstStepsClose() {
-    page.reset();
+    closePage(page);
 }

@@ -86,7 +86,7 @@ void VLDKorvexPane::didUnselect() {
     palutilCleanup();
     prefsCleanup();
     daemonCleanup();
-    // Last, since these touch the window, whose server may hang.
+    // Last, since these touch the window.
     firstStepsClose();
     tryPageClose();
 }

@@ -26,3 +26,10 @@ void openPage(std::unique_ptr<Page>& page, const char* name, const CFBundle* bun
     for (const std::string& error : errors)
         std::fprintf(stderr, "%s\n", error.c_str());
 }
+
+/// Closes the page. At the end of a visit it stays as it is; the window deletes its widgets.
+template <class Page>
+void closePage(std::unique_ptr<Page>& page) {
+    if (!NSWindow::isLeft())
+        page.reset();
+}

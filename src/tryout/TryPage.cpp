@@ -21,8 +21,8 @@ using Phase = tryout::Session::Phase;
 /// Seconds without any press, after which the page says what counts as one.
 constexpr double kFirstPressExpected = 30;
 
-/// The page; null while it isn't open.
-std::unique_ptr<TryPage> page;
+/// The page; null while it isn't open. Never destroyed: an exit handler may end the visit.
+auto& page = *new std::unique_ptr<TryPage>;
 
 tryout::Conditions conditionsOn(const NSScreen& screen, tryout::TargetChoice target) {
     return tryout::conditionsOf(prefs, {screen.frame.width, screen.frame.height},
@@ -304,5 +304,5 @@ void tryPageOpen(const CFBundle* bundle, NSWindow window, TryPageTarget& target)
 }
 
 void tryPageClose() {
-    page.reset();
+    closePage(page);
 }

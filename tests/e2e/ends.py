@@ -12,6 +12,7 @@ import plistlib
 import signal
 import subprocess
 import sys
+import time
 from pathlib import Path
 from typing import Callable
 
@@ -27,6 +28,7 @@ from tests.e2e.waiting import PATIENCE, Failure, check, until
 
 TABS = "Scanning|Presses|Look|Palette|General"
 SANITIZER_FOUND = 99  # the exit status
+MOST_SECONDS = 1.5  # from the end of the display, or the request, to that of the program
 
 
 def show_tab(name: str) -> Callable[[Tour], None]:
@@ -49,6 +51,12 @@ def show_overlay(tour: Tour) -> None:
     until(lambda: len(tour.screen.windows(PROGRAM)) > 1, "the overlay is on the screen")
 
 
+def try_out(tour: Tour) -> None:
+    tour.choose_tab("Scanning")
+    tour.screen.click("Find my speed", "push button")
+    tour.screen.find("Full screen", "push button")
+
+
 def die(tour: Tour) -> None:
     tour.desktop.display.kill()
 
@@ -62,11 +70,12 @@ STATES = {f"the tab {name}": show_tab(name) for name in TABS.split("|")} | {
     "the notice": show_notice,
     "a capture": capture,
     "the overlay": show_overlay,
+    "a try": try_out,
 }
 # State, end, whether somebody reads the program's standard error, and the exit status.
 VISITS = (
     *((state, die, read, 1) for state in STATES for read in (True, False)),
-    *((state, hang_and_be_asked, True, 0) for state in ("the tab Palette", "the notice")),
+    *((state, hang_and_be_asked, True, 0) for state in ("the tab Palette", "the notice", "a try")),
 )
 
 
@@ -101,7 +110,9 @@ def visit(tour: Tour, state: str, end: Callable, read: bool, status: int) -> Non
     change(tour)
     STATES[state](tour)
     end(tour)
+    asked = time.monotonic()
     until(lambda: tour.program.poll() is not None, "it ends")
+    check(time.monotonic() - asked < MOST_SECONDS, "it took too long to end")
     found = tour.program.returncode
     check(found != SANITIZER_FOUND, "the sanitizer found a fault")
     check(found == status, f"it ended with {found}")

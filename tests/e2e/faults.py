@@ -74,6 +74,18 @@ def unwritable_folder(tour: Tour) -> None:
     check(stored == "no", f"{stored} is stored")
 
 
+def unwritable_folder_at_the_first_steps(tour: Tour) -> None:
+    tour.stored.write_bytes(plistlib.dumps({DATE: NEVER, "firstStepsSeen": False}))
+    open_window(tour)
+    tour.screen.click("Line scan time, longer", "push button")
+    tour.stored.parent.chmod(0o500)
+    tour.ask_to_close()
+    expect_alert(tour, "couldn’t be saved: no permission")
+    tour.stored.parent.chmod(0o700)
+    tour.screen.click("Try again", "push button")
+    check(tour.program.wait(PATIENCE) == 0, "the program failed")
+
+
 def copy_and_close_anyway(tour: Tour) -> None:
     open_window(tour)
     click_scan_menu_bar(tour)
@@ -191,6 +203,7 @@ FAULTS = (
     damaged_file,
     unreadable_file,
     unwritable_folder,
+    unwritable_folder_at_the_first_steps,
     copy_and_close_anyway,
     *((read_only_file_system, full_disk) if may_mount() else ()),
     agent_that_does_not_start,

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/ContentCover.h"
 
+#include "platform/HIToolbox/detail/CarbonWindow.h"
+
 #include <QEvent>
 #include <QVBoxLayout>
 
@@ -8,23 +10,29 @@ namespace {
 
 constexpr auto kName = QLatin1String("contentCover");
 
+QWidget* coveredPart(QWidget* window) {
+    auto* part = window->findChild<QWidget*>(kCoveredPart);
+    return part ? part : window;
+}
+
 } // namespace
 
 ContentCover* ContentCover::of(QWidget* window) {
     return dynamic_cast<ContentCover*>(
-        window->findChild<QWidget*>(kName, Qt::FindDirectChildrenOnly));
+        coveredPart(window)->findChild<QWidget*>(kName, Qt::FindDirectChildrenOnly));
 }
 
 ContentCover::ContentCover(QWidget* window, QWidget* content)
-    : QWidget(window), content_(content), formerFocus_(window->focusWidget()) {
+    : QWidget(coveredPart(window)), content_(content), formerFocus_(window->focusWidget()) {
     setObjectName(kName);
     setAutoFillBackground(true);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content);
-    setGeometry(window->rect());
-    window->installEventFilter(this);
-    for (auto* child : window->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    QWidget* part = parentWidget();
+    setGeometry(part->rect());
+    part->installEventFilter(this);
+    for (auto* child : part->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
         // Before the window is shown, its content is hidden too, but not explicitly.
         const bool isHidden =
             child->isHidden() && child->testAttribute(Qt::WA_WState_ExplicitShowHide);
@@ -39,6 +47,8 @@ ContentCover::ContentCover(QWidget* window, QWidget* content)
 }
 
 ContentCover::~ContentCover() {
+    if (areWindowsLeft)
+        return;
     if (content_) {
         content_->hide();
         content_->setParent(nullptr);

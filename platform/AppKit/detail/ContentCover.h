@@ -6,14 +6,18 @@
 
 #include <vector>
 
-/// Another content that covers a window. While it exists the window's own content is hidden, also
+/// Names the part of a window that a cover covers. Without one it covers the whole window.
+constexpr auto kCoveredPart = QLatin1String("content");
+
+/// Another content that covers a window's. While it exists the window's own content is hidden, also
 /// from keyboard and screen readers.
 class ContentCover final : public QWidget {
 public:
     /// The window's cover, or null.
     static ContentCover* of(QWidget* window);
 
-    /// Takes the content. At its end the content is hidden and has no parent.
+    /// Takes the content. At its end the content is hidden and has no parent, unless windows are
+    /// left as they are.
     ContentCover(QWidget* window, QWidget* content);
     ~ContentCover() override;
 
