@@ -96,7 +96,7 @@ void loadLocalizations(const std::string& resources) {
     decimalPoint = point == QLatin1String(",") ? ',' : '.';
     for (const QString& language : languagesBeforeEnglish()) {
         const std::string folder = resources + '/' + language.toStdString() + ".lproj";
-        if (!std::filesystem::exists(folder + '/' + kTableFile))
+        if (std::error_code error; !std::filesystem::exists(folder + '/' + kTableFile, error))
             continue;
         folderInUse = folder;
         // Qt's own texts, such as those of file dialogues. Ours have precedence.

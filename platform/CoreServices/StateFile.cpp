@@ -185,9 +185,10 @@ ChangeWatch watchStateFile(std::function<void()> onChange) {
 std::vector<std::string> findStateFiles(const std::string& name, StateFileOwner owner) {
     std::error_code error;
     std::multimap<fs::file_time_type, std::string> found;
-    for (const auto& entry : fs::directory_iterator(stateFolder(), error))
-        if (belongsTo(owner, entry.path(), name))
-            found.emplace(entry.last_write_time(error), entry.path());
+    fs::directory_iterator entry(stateFolder(), error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error))
+        if (std::error_code gone; belongsTo(owner, entry->path(), name))
+            found.emplace(entry->last_write_time(gone), entry->path());
     std::vector<std::string> paths;
     for (auto& [time, path] : found)
         if (path.find(kPendingSuffix, path.rfind('/')) == path.npos)

@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
+#include <sstream>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,6 +18,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t kMaxNameLength = 60; // bytes
+constexpr std::size_t kMaxNoteSize = 4096; // bytes
 constexpr char kSuffix[] = ".plist";
 
 std::string folder() {
@@ -34,6 +35,18 @@ std::string currentProfilePath() {
 
 std::string reasonOf(int error) {
     return error ? std::strerror(error) : "";
+}
+
+/// The same with the path, for a file that the user didn't name.
+std::string faultOf(const std::string& path, int error) {
+    return error ? path + ": " + std::strerror(error) : "";
+}
+
+/// Notes which profile is in use. While one is renamed its next name is noted too: the renaming
+/// alone decides which of both it is, wherever the program ends.
+int writeNote(const std::string& name, const std::string& nextName = {}) {
+    return replaceUserFile(currentProfilePath(),
+                           name + "\n" + (nextName.empty() ? "" : nextName + "\n"));
 }
 
 bool isThere(const std::string& name) {
@@ -64,9 +77,11 @@ std::vector<std::string> profileNames() {
 
 std::string profilesFault() {
     // Whether the folder can be listed, and its files be reached.
-    if (access((folder() + "/.").c_str(), R_OK | X_OK) == 0 || errno == ENOENT)
-        return "";
-    return folder() + ": " + std::strerror(errno);
+    if (access((folder() + "/.").c_str(), R_OK | X_OK) != 0 && errno != ENOENT)
+        return faultOf(folder(), errno);
+    std::string note;
+    const int error = readUserFile(currentProfilePath(), kMaxNoteSize, note);
+    return error == ENOENT ? "" : faultOf(currentProfilePath(), error);
 }
 
 namespace {
@@ -132,17 +147,14 @@ std::string renameProfile(const std::string& name, const std::string& newName) {
         return fault;
     if (!isThere(name))
         return whyMissing();
-    if (isThere(newName))
-        return localized("Faults", "there is a profile of that name");
     const bool isCurrent = currentProfile() == name;
-    std::error_code error;
-    fs::rename(pathOf(name), pathOf(newName), error);
-    if (error || !isCurrent)
-        return reasonOf(error.value());
-    const std::string fault = setCurrentProfile(newName);
-    if (!fault.empty())
-        fs::rename(pathOf(newName), pathOf(name), error);
-    return fault;
+    if (const int error = isCurrent && !isThere(newName) ? writeNote(name, newName) : 0)
+        return faultOf(currentProfilePath(), error);
+    const int error = renameUserFile(pathOf(name), pathOf(newName));
+    if (isCurrent)
+        writeNote(error ? name : newName);
+    return error == EEXIST ? localized("Faults", "there is a profile of that name")
+                           : reasonOf(error);
 }
 
 std::string deleteProfile(const std::string& name) {
@@ -154,16 +166,22 @@ std::string deleteProfile(const std::string& name) {
 }
 
 std::string currentProfile() {
-    std::ifstream file(currentProfilePath());
-    std::string name;
-    std::getline(file, name);
-    return isThere(name) ? name : "";
+    std::string note;
+    if (readUserFile(currentProfilePath(), kMaxNoteSize, note) != 0)
+        return {};
+    std::istringstream lines(note);
+    std::string name, nextName;
+    std::getline(lines, name);
+    std::getline(lines, nextName);
+    if (!isThere(name))
+        name = isThere(nextName) ? nextName : "";
+    if (!nextName.empty() && !name.empty())
+        writeNote(name);
+    return name;
 }
 
 std::string setCurrentProfile(const std::string& name) {
     if (name == currentProfile())
         return {};
-    const std::string path = currentProfilePath();
-    const std::string reason = reasonOf(replaceUserFile(path, name + "\n"));
-    return reason.empty() ? "" : path + ": " + reason;
+    return faultOf(currentProfilePath(), writeNote(name));
 }

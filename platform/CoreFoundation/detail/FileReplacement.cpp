@@ -153,8 +153,9 @@ void Finisher::wait() {
 int makeFolders(const std::string& path, unsigned mode) {
     if (mkdir(path.c_str(), mode) == 0)
         return 0;
+    std::error_code fault;
     if (errno == EEXIST)
-        return fs::is_directory(path) ? 0 : ENOTDIR;
+        return fs::is_directory(path, fault) ? 0 : fault ? fault.value() : ENOTDIR;
     const int error = errno;
     const std::size_t slash = path.rfind('/');
     if (error != ENOENT || slash == std::string::npos || slash == 0)
@@ -170,6 +171,18 @@ std::string resolveLinks(std::string path) {
     for (int i = 0; i < kMostLinks && fs::is_symlink(path, error); ++i)
         path = (fs::path(path).parent_path() / fs::read_symlink(path, error)).string();
     return path;
+}
+
+int resolveOwnLinks(std::string& path) {
+    struct stat link;
+    for (int i = 0; i < kMostLinks && lstat(path.c_str(), &link) == 0 && S_ISLNK(link.st_mode);
+         ++i) {
+        if (link.st_uid != geteuid())
+            return EACCES;
+        std::error_code error;
+        path = (fs::path(path).parent_path() / fs::read_symlink(path, error)).string();
+    }
+    return 0;
 }
 
 PendingFile::PendingFile(const std::string& destination, std::string_view content, unsigned mode)

@@ -13,6 +13,10 @@ int makeFolders(const std::string& path, unsigned mode);
 /// The target of the symbolic links at `path`. It needn't exist.
 std::string resolveLinks(std::string path);
 
+/// The same in place, but EACCES at a link that isn't this user's own: in a folder of all, anybody
+/// may have put it there.
+int resolveOwnLinks(std::string& path);
+
 /// Follows the destination's name in the names of files that aren't in place yet.
 constexpr std::string_view kPendingSuffix = ".new";
 

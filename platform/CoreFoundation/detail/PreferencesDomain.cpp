@@ -182,12 +182,16 @@ FileOutcome PreferencesDomain::saveOutlook() const {
     std::string above = folder();
     while (above.rfind('/') != 0 && access(above.c_str(), F_OK) != 0 && errno == ENOENT)
         above.erase(above.rfind('/'));
-    if (!std::filesystem::is_directory(above))
-        return outcomeOf(ENOTDIR, above);
+    std::error_code error;
+    if (!std::filesystem::is_directory(above, error))
+        return outcomeOf(error ? error.value() : ENOTDIR, above);
     return access(above.c_str(), W_OK | X_OK) == 0 ? FileOutcome{FileTrouble::None, path_}
                                                    : outcomeOf(errno, above);
 }
 
 FileOutcome PreferencesDomain::saveCopy(const std::string& path) const {
-    return replaceFile(resolveLinks(path), propertyListToXML(merged().get()), fileMode(readers_));
+    std::string target = path;
+    if (const int error = resolveOwnLinks(target))
+        return outcomeOf(error, path);
+    return replaceFile(target, propertyListToXML(merged().get()), fileMode(readers_));
 }

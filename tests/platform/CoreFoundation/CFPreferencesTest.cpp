@@ -249,6 +249,14 @@ TEST_F(CFPreferencesTest, WhatIsInTheWayIsLeftAloneAndTheMarksStay) {
         fs::rename(aside, folder);
     });
 
+    fs::rename(folder, aside);
+    fs::create_symlink(folder.filename(), folder);
+    EXPECT_EQ(preferencesSaveOutlook(domain_.get()).trouble, FileTrouble::InTheWay);
+    expectRefused("a link that leads to itself", FileTrouble::InTheWay, folder, [&] {
+        fs::remove(folder);
+        fs::rename(aside, folder);
+    });
+
     ASSERT_EQ(mkfifo((own_.string() + ".new").c_str(), 0600), 0); // left behind: goes
     EXPECT_EQ(preferencesSaveOutlook(domain_.get()).trouble, FileTrouble::None);
     EXPECT_TRUE(synchronize());

@@ -6,7 +6,10 @@
 #include "src/store/prefs.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
+#include <barrier>
 #include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -37,6 +40,65 @@ TEST(ProfilesTest, AProfileBringsBackAllButTheSwitchAndTheLogin) {
     for (const char* bad :
          {"", ".hidden", "a/b", "../x", "a\nb", "a\u202Eb", "\u200B", " ", "a ", "\xFF"})
         EXPECT_NE(saveProfile(bad, factory), "") << bad;
+}
+
+TEST(ProfilesTest, OfTwoRenamesToOneNameOneIsRefused) {
+    for (int round = 0; round < 100; ++round) {
+        for (const char* name : {"One", "Two"})
+            ASSERT_EQ(saveProfile(name, PrefsRecord()), "");
+        std::barrier start(2);
+        std::string faults[2];
+        const auto rename = [&](const char* name, std::string& fault) {
+            start.arrive_and_wait();
+            fault = renameProfile(name, "Both");
+        };
+        std::thread other([&] { rename("One", faults[0]); });
+        rename("Two", faults[1]);
+        other.join();
+        EXPECT_EQ(faults[0] + faults[1], "there is a profile of that name");
+        ASSERT_EQ(profileNames().size(), 2u);
+        for (const std::string& name : profileNames())
+            deleteProfile(name);
+    }
+}
+
+TEST(ProfilesTest, TheNoteOfTheOneInUseSurvivesACrashAndIsReadWithCare) {
+    const std::string note = std::string(std::getenv("XDG_STATE_HOME")) + "/korvex/profile";
+    ASSERT_EQ(saveProfile("Tired", PrefsRecord()), "");
+    for (const char* cut : {"Tired\nRested\n", "Exhausted\nTired\n"}) { // before and after it
+        writeFile(note, cut);
+        EXPECT_EQ(currentProfile(), "Tired");
+        EXPECT_EQ(readFile(note), "Tired\n");
+    }
+    fs::resize_file(note, std::uintmax_t{1} << 40);
+    EXPECT_EQ(currentProfile(), "");
+    EXPECT_EQ(profilesFault(), note + ": File too large");
+    fs::remove(note);
+    ASSERT_EQ(mkfifo(note.c_str(), 0600), 0);
+    EXPECT_EQ(currentProfile(), "");
+    EXPECT_EQ(profilesFault(), note + ": Operation not supported");
+    EXPECT_EQ(setCurrentProfile("Tired"), note + ": Operation not supported");
+    fs::remove(note);
+}
+
+TEST(ProfilesTest, AProfileIsItsUsersAloneAndNeverSaidToBeSavedWhenItIsNot) {
+    const std::string path = kFolder + "/Mine.plist";
+    umask(0);
+    ASSERT_EQ(saveProfile("Mine", PrefsRecord()), "");
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms(0600));
+    fs::remove(path);
+    writeFile(path + "/in the way", "");
+    EXPECT_EQ(saveProfile("Mine", PrefsRecord()), "Is a directory");
+    fs::remove_all(path);
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can make a link that is another user's";
+    const std::string target = makeSandboxFolder("target") / "file";
+    writeFile(target, "precious");
+    fs::create_symlink(target, path);
+    ASSERT_EQ(lchown(path.c_str(), 65534, 65534), 0);
+    EXPECT_EQ(saveProfile("Mine", PrefsRecord()), "Permission denied");
+    EXPECT_EQ(readFile(target), "precious");
+    fs::remove(path);
 }
 
 TEST(ProfilesTest, OfAFileTheSoundSettingsAreOfferedAndTheOthersNamed) {
@@ -120,6 +182,12 @@ const struct {
     {"playClickSounds", "Off", "off"},
     {"playClickSounds", "maybe", "neither on nor off"},
     {"palette.buttonSize", "(60,50)", "60 × 50 points"},
+    {"soundLevel", "50.5", "not a whole number"},
+    {"on", "1", "on"},
+    {"palette.buttonContent", "3", "icon and name"},
+    {"palette.buttonContent", "Name", "name"},
+    {"scanner.lineColor", "#640000", "Red (#640000)"},
+    {"scanner.lineColor", "#64000g", "not a value of this setting; for example #640000"},
     {"palette.buttonSize", "60", "not a value of this setting; for example (40,40)"},
 };
 
