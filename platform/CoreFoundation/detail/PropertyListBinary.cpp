@@ -26,13 +26,13 @@ struct Object {
 };
 
 /// A moment as XML text, `seconds` after 2001-01-01 00:00 UTC. XML has the years 1 to 9999. Moments
-/// outside become the first or last second of those.
+/// outside become the first or last second of those. `seconds` is a number.
 std::string dateText(double seconds) {
     using namespace std::chrono;
     constexpr sys_days epoch = 2001y / January / 1;
     constexpr double first = duration<double>(sys_days(1y / January / 1) - epoch).count();
     constexpr double end = duration<double>(sys_days(10000y / January / 1) - epoch).count();
-    const double within = std::isnan(seconds) ? 0 : std::clamp(std::floor(seconds), first, end - 1);
+    const double within = std::clamp(std::floor(seconds), first, end - 1);
     const sys_seconds moment = epoch + std::chrono::seconds(static_cast<std::int64_t>(within));
     const sys_days day = floor<days>(moment);
     const year_month_day date(day);
@@ -177,6 +177,13 @@ private:
                                 : double{std::bit_cast<float>(static_cast<std::uint32_t>(bits))};
     }
 
+    CFRef<const CFType> readDate(const Object& object) const {
+        const double seconds = readReal(object);
+        return std::isnan(seconds)
+                   ? nullptr
+                   : CFRef<CarriedValue>::adopt(new CarriedValue("date", dateText(seconds)));
+    }
+
     /// A reference in a keyed archive. XML writes it as a dictionary.
     CFRef<const CFType> readUID(const Object& object) const {
         CFDictionary::Items items;
@@ -232,7 +239,7 @@ private:
         case 0x2:
             return CFRef<CFNumber>::adopt(new CFNumber(readReal(object)));
         case 0x3:
-            return CFRef<CarriedValue>::adopt(new CarriedValue("date", dateText(readReal(object))));
+            return readDate(object);
         case 0x4:
             return readData(object);
         case 0x8:

@@ -14,6 +14,9 @@ namespace {
 /// The most characters that an entity of the document may stand for.
 constexpr int kLongestEntity = 64;
 
+/// Of one tag. Ours has one.
+constexpr std::size_t kMostAttributes = 1000;
+
 bool isBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
@@ -103,6 +106,37 @@ CFRef<const CFType> valueOf(std::u16string_view name, std::u16string text) {
     return ascii && element != std::end(kElements) ? element->read(trimmed(*ascii)) : nullptr;
 }
 
+/// Whether an entity's text stands outside of the document. It is never fetched.
+bool isOutside(const QXmlStreamEntityDeclaration& entity) {
+    return !entity.systemId().isEmpty() || !entity.publicId().isEmpty();
+}
+
+/// Whether a tag has more attributes than the parser can compare with one another in a moment. Its
+/// end is the first '>' outside of quotes; no '<' is inside. In other encodings than those with
+/// ASCII's bytes all signs of the document count.
+bool hasTooManyAttributes(std::string_view bytes) {
+    const bool isWide = bytes.substr(0, 4).find('\0') != bytes.npos;
+    std::size_t attributes = 0;
+    bool isInTag = true;
+    char quote = 0;
+    for (const char c : bytes) {
+        if (c == '<' && !isWide) {
+            attributes = 0;
+            isInTag = true;
+            quote = 0;
+        } else if (quote) {
+            quote = c == quote ? 0 : quote;
+        } else if (isInTag && (c == '"' || c == '\'')) {
+            quote = c;
+        } else if (c == '>' && !isWide) {
+            isInTag = false;
+        } else if (c == '=' && isInTag && ++attributes > kMostAttributes) {
+            return true;
+        }
+    }
+    return false;
+}
+
 std::u16string_view view(QStringView text) {
     return {text.utf16(), static_cast<std::size_t>(text.size())};
 }
@@ -141,8 +175,10 @@ private:
             case QXmlStreamReader::Characters:
                 failed_ = !xml_.isWhitespace();
                 break;
-            case QXmlStreamReader::StartDocument:
             case QXmlStreamReader::DTD:
+                failed_ = std::ranges::any_of(xml_.entityDeclarations(), isOutside);
+                break;
+            case QXmlStreamReader::StartDocument:
             case QXmlStreamReader::Comment:
             case QXmlStreamReader::ProcessingInstruction:
                 break;
@@ -209,5 +245,5 @@ private:
 } // namespace
 
 CFRef<const CFType> readXMLPropertyList(std::string_view bytes) {
-    return Reader(bytes).read();
+    return hasTooManyAttributes(bytes) ? nullptr : Reader(bytes).read();
 }

@@ -68,6 +68,19 @@ TEST(CFPropertyList, LimitsHold) {
     EXPECT_TRUE(nested(kPropertyListMaxDepth));
     EXPECT_FALSE(nested(kPropertyListMaxDepth + 1));
     EXPECT_FALSE(parse("<plist>" + repeated(100'000, "<array>")));
+    std::string attributes;
+    for (int i = 0; i < 60'000; ++i)
+        attributes += " a" + std::to_string(i) + "='>'";
+    const std::string crowded = "<plist" + attributes + "><true/></plist>";
+    std::string wide = "\xFF\xFE";
+    for (const char c : crowded)
+        wide += {c, '\0'};
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_FALSE(parse(crowded));
+    EXPECT_FALSE(parse(wide));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+    const std::string signs = "<string>" + std::string(60'000, '=') + "</string>";
+    EXPECT_EQ(written(parse(plist("<!-- '<\" -->" + signs)).get()), signs);
     const std::string sound = plist("<true/>");
     const std::size_t room = kPropertyListMaxSize - sound.size();
     EXPECT_TRUE(parse(sound + std::string(room, '\n')));
@@ -112,6 +125,9 @@ TEST(CFPropertyList, WhatIsCutOffOrHasAnotherTrailerIsRefused) {
         for (std::size_t length = 0; length < whole.size(); ++length)
             EXPECT_FALSE(parse(whole.substr(0, length))) << "cut off at " << length;
     }
+    EXPECT_FALSE(parse(binary({"\x33\x7F\xF8" + std::string(6, '\0')}))) << "no date";
+    EXPECT_FALSE(parse("<!DOCTYPE plist [<!ENTITY e SYSTEM 'file:///e'>]>" +
+                       plist("<string>a&e;b</string>")));
     for (std::size_t at = sound.size() - 26; at < sound.size(); ++at) {
         std::string bytes = sound;
         bytes[at] = static_cast<char>(bytes[at] ^ 0x80);
