@@ -62,14 +62,15 @@ std::optional<AppleEvent> eventOfMessage(const QDBusMessage& message) {
     const auto parameters = arguments.at(2).value<QDBusArgument>();
     std::size_t count = 0, bytes = 0;
     parameters.beginArray();
-    while (!parameters.atEnd()) {
+    while (!parameters.atEnd() && count <= kMaxEventParameters && bytes <= kMaxEventBytes) {
         WireParameter parameter;
         parameters >> parameter;
+        ++count;
         bytes += static_cast<std::size_t>(parameter.bytes.size());
-        if (++count > kMaxEventParameters || bytes > kMaxEventBytes)
-            return std::nullopt;
         event.parameters[parameter.keyword] = descOf(parameter);
     }
-    parameters.endArray();
+    parameters.endArray(); // in any case: until then the argument holds the whole message
+    if (count > kMaxEventParameters || bytes > kMaxEventBytes)
+        return std::nullopt;
     return event;
 }

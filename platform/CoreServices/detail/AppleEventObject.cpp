@@ -1,22 +1,51 @@
 // SPDX-License-Identifier: MIT
 #include "platform/CoreServices/detail/AppleEventObject.h"
 
-#include "platform/CoreServices/detail/AppleEventHandlers.h"
+#include "platform/CoreServices/detail/AppleEventInbox.h"
 #include "platform/CoreServices/detail/AppleEventMessage.h"
 #include "platform/CoreServices/detail/SessionBus.h"
 
 #include <QCoreApplication>
 #include <QDBusVirtualObject>
 #include <QPointer>
+#include <QThread>
 
 namespace {
 
+/// Works on a thread of its own, so that messages don't pile up before the main thread.
 class AppleEventObject final : public QDBusVirtualObject {
 public:
-    using QDBusVirtualObject::QDBusVirtualObject;
+    explicit AppleEventObject(AppleEventInbox& inbox) : inbox_(inbox) {}
 
     QString introspect(const QString& path) const override;
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+
+private:
+    AppleEventInbox& inbox_;
+};
+
+/// The application's. It ends with it.
+class Receiver final : public QObject {
+public:
+    explicit Receiver(QObject* application)
+        : QObject(application), inbox_(new AppleEventInbox(this)),
+          object_(new AppleEventObject(*inbox_)) {
+        object_->moveToThread(&thread_);
+        connect(&thread_, &QThread::finished, object_, &QObject::deleteLater);
+        thread_.start();
+    }
+
+    ~Receiver() override {
+        thread_.quit();
+        thread_.wait();
+    }
+
+    QDBusVirtualObject* object() const { return object_; }
+
+private:
+    AppleEventInbox* inbox_;
+    AppleEventObject* object_;
+    QThread thread_;
 };
 
 QString AppleEventObject::introspect(const QString&) const {
@@ -41,20 +70,22 @@ bool AppleEventObject::handleMessage(const QDBusMessage& message,
     if (message.signature() != kEventSignature)
         return answer(message.createErrorReply(
             QDBusError::InvalidArgs, QStringLiteral("Event takes %1").arg(kEventSignature)));
-    const std::optional<AppleEvent> event = eventOfMessage(message);
+    std::optional<AppleEvent> event = eventOfMessage(message);
     if (!event)
         return answer(message.createErrorReply(QDBusError::LimitsExceeded,
                                                QStringLiteral("the event is too large")));
-    AppleEvent reply;
-    return answer(message.createReply(int{dispatchAppleEvent(*event, &reply)}));
+    if (!inbox_.put(std::move(*event), message, connection))
+        return answer(message.createErrorReply(QDBusError::LimitsExceeded,
+                                               QStringLiteral("too many events wait")));
+    return true;
 }
 
 } // namespace
 
 bool exportAppleEventObject() {
-    static QPointer<AppleEventObject> object;
-    if (object)
+    static QPointer<Receiver> receiver;
+    if (receiver)
         return true;
-    object = new AppleEventObject(QCoreApplication::instance());
-    return sessionBus().registerVirtualObject(kEventObjectPath, object);
+    receiver = new Receiver(QCoreApplication::instance());
+    return sessionBus().registerVirtualObject(kEventObjectPath, receiver->object());
 }

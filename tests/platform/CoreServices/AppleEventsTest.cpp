@@ -7,6 +7,9 @@
 #include <QDBusConnection>
 #include <QElapsedTimer>
 
+#include <fstream>
+#include <unistd.h>
+
 namespace {
 
 OSErr handle(const AppleEvent*, AppleEvent*, void* result) {
@@ -92,6 +95,38 @@ TEST_F(AppleEventsTest, OtherCallsAreAnsweredWithAnError) {
             << row.interface << ' ' << row.member << ", " << row.arguments.size() << " arguments";
     }
     EXPECT_EQ(peer_.ask(), 8);
+}
+
+/// In MiB.
+long memoryOf(pid_t process) {
+    std::ifstream file("/proc/" + std::to_string(process) + "/statm");
+    long all = 0, resident = 0;
+    file >> all >> resident;
+    return resident * sysconf(_SC_PAGESIZE) / (1 << 20);
+}
+
+TEST_F(AppleEventsTest, AFloodLeavesRoomForOthersAndItsLastReportCounts) {
+    const long before = memoryOf(peer_.pid());
+    auto flooder = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "flooder");
+    for (int code = 0; code < 30'000; ++code) {
+        const std::vector<UInt8> bytes{static_cast<UInt8>(code), static_cast<UInt8>(code >> 8)};
+        flooder.send(messageOfEvent(
+            makeEvent(peer_.psn(), kTestClass, kReport, {{keyDirectObject, {typeCode, bytes}}})));
+    }
+    // Handling all of them would take half a minute.
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(peer_.ask(20 * 60), 8);
+    EXPECT_LT(timer.elapsed(), 15'000);
+    const AppleEvent last = makeEvent(peer_.psn(), kTestClass, kLastReport);
+    EXPECT_TRUE(waitUntil([&] { return sendAndWait(last) == 29'999; }));
+
+    for (int i = 0; i < 16; ++i) // of 8 MiB each
+        EXPECT_EQ(
+            sendAndWait(makeEvent(peer_.psn(), kTestClass, kAnswerCode,
+                                  {{keyDirectObject, {typeCode, std::vector<UInt8>(8U << 20)}}})),
+            errAEEventNotHandled);
+    EXPECT_LT(memoryOf(peer_.pid()) - before, 100);
 }
 
 TEST_F(AppleEventsTest, OnlyAWaitingSenderWaitsForAHangingPeerAndOnlySoLong) {

@@ -16,11 +16,25 @@ OSErr answerCode(const AppleEvent* event, AppleEvent*, void*) {
     return error != noErr ? error : size == sizeof code ? code : paramErr;
 }
 
+OSErr lastReport = noErr;
+
+OSErr takeReport(const AppleEvent* event, AppleEvent* reply, void*) {
+    QTest::qSleep(1);
+    lastReport = answerCode(event, reply, nullptr);
+    return noErr;
+}
+
+OSErr answerLastReport(const AppleEvent*, AppleEvent*, void*) {
+    return lastReport;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     AEInstallEventHandler(kTestClass, kAnswerCode, answerCode, nullptr);
+    AEInstallEventHandler(kTestClass, kReport, takeReport, nullptr);
+    AEInstallEventHandler(kTestClass, kLastReport, answerLastReport, nullptr);
     ProcessSerialNumber self;
     if (!registerCurrentProcess(static_cast<OSType>(std::stoul(argv[1])), fourCharCode("peer")) ||
         GetCurrentProcess(&self) != noErr)

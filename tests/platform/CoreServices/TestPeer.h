@@ -10,6 +10,8 @@
 // Events of the peer's class.
 constexpr AEEventClass kTestClass = fourCharCode("Test");
 constexpr AEEventID kAnswerCode = fourCharCode("code"); ///< answers its direct object, two bytes
+constexpr AEEventID kReport = fourCharCode("rprt");     ///< takes a millisecond; no answer needed
+constexpr AEEventID kLastReport = fourCharCode("last"); ///< answers the last report's code
 constexpr AEEventID kOther = fourCharCode("none");      ///< isn't handled
 constexpr DescType typeCode = fourCharCode("shor");
 constexpr OSType kApplication = fourCharCode("APPL");
