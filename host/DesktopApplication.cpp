@@ -4,10 +4,11 @@
 #include "host/ApplicationName.h"
 
 #include <QCoreApplication>
-#include <QDBusAbstractAdaptor>
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QStringList>
+#include <QDBusVirtualObject>
+#include <QMap>
 
 namespace {
 
@@ -21,32 +22,65 @@ struct Token {
 constexpr Token kActivationToken = {"activation-token", "XDG_ACTIVATION_TOKEN"};
 constexpr Token kStartupID = {"desktop-startup-id", "DESKTOP_STARTUP_ID"};
 
-class ApplicationAdaptor final : public QDBusAbstractAdaptor {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+/// Limits of what another program sends: entries that are looked at, and characters of a token.
+/// Real ones have two entries and about a hundred characters.
+constexpr int kMostEntries = 64;
+constexpr qsizetype kLongestToken = 4096;
 
+const auto kInterface = QStringLiteral("org.freedesktop.Application");
+
+/// The tokens in a method's platform data, by key. Taking in all of a large map would take seconds.
+QMap<QString, QString> tokensIn(const QVariant& platformData) {
+    QMap<QString, QString> tokens;
+    const auto data = platformData.value<QDBusArgument>();
+    data.beginMap();
+    for (int i = 0; i < kMostEntries && !data.atEnd(); ++i) {
+        QString key;
+        QDBusVariant value;
+        data.beginMapEntry();
+        data >> key >> value;
+        data.endMapEntry();
+        if (const QString text = value.variant().toString(); text.size() <= kLongestToken)
+            tokens[key] = text;
+    }
+    data.endMap();
+    return tokens;
+}
+
+class ApplicationObject final : public QDBusVirtualObject {
 public:
-    ApplicationAdaptor(QObject* object, std::function<void(const ShowRequest&)> onShow)
-        : QDBusAbstractAdaptor(object), onShow_(std::move(onShow)) {}
+    ApplicationObject(QObject* parent, std::function<void(const ShowRequest&)> onShow)
+        : QDBusVirtualObject(parent), onShow_(std::move(onShow)) {}
 
-public Q_SLOTS:
+    QString introspect(const QString&) const override {
+        return QStringLiteral(
+            "<interface name=\"org.freedesktop.Application\">"
+            "<method name=\"Activate\"><arg type=\"a{sv}\" direction=\"in\"/></method>"
+            "<method name=\"Open\"><arg type=\"as\" direction=\"in\"/>"
+            "<arg type=\"a{sv}\" direction=\"in\"/></method>"
+            "<method name=\"ActivateAction\"><arg type=\"s\" direction=\"in\"/>"
+            "<arg type=\"av\" direction=\"in\"/><arg type=\"a{sv}\" direction=\"in\"/></method>"
+            "</interface>");
+    }
 
-    void Activate(const QVariantMap& platformData) { show({}, platformData); }
-
-    void Open(const QStringList&, const QVariantMap& platformData) { show({}, platformData); }
-
-    void ActivateAction(const QString& name, const QVariantList&, const QVariantMap& platformData) {
-        show(name, platformData);
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+        const QString call = message.member() + message.signature();
+        const bool isAction = call == QLatin1String("ActivateActionsava{sv}");
+        if (message.interface() != kInterface ||
+            !(isAction || call == QLatin1String("Activatea{sv}") ||
+              call == QLatin1String("Openasa{sv}")))
+            return false;
+        const QVariantList arguments = message.arguments();
+        show(isAction ? arguments[0].toString() : QString(), tokensIn(arguments.constLast()));
+        return !message.isReplyRequired() || bus.send(message.createReply());
     }
 
 private:
-    void show(const QString& section, const QVariantMap& platformData) {
-        const auto text = [&](const Token& token) {
-            return platformData.value(QLatin1String(token.key)).toString();
-        };
+    void show(const QString& section, const QMap<QString, QString>& tokens) {
         // Qt's Wayland windows read the activation token there.
-        qputenv(kActivationToken.variable, text(kActivationToken).toUtf8());
-        onShow_({section, text(kStartupID)});
+        qputenv(kActivationToken.variable,
+                tokens.value(QLatin1String(kActivationToken.key)).toUtf8());
+        onShow_({section, tokens.value(QLatin1String(kStartupID.key))});
     }
 
     std::function<void(const ShowRequest&)> onShow_;
@@ -64,17 +98,16 @@ QVariantMap activationData() {
 
 void exportDesktopApplication(QDBusConnection& bus,
                               std::function<void(const ShowRequest&)> onShow) {
-    auto* object = new QObject(QCoreApplication::instance());
-    new ApplicationAdaptor(object, std::move(onShow));
-    bus.registerObject(QLatin1String(kApplicationPath), object);
+    bus.registerVirtualObject(
+        QLatin1String(kApplicationPath),
+        new ApplicationObject(QCoreApplication::instance(), std::move(onShow)));
 }
 
 bool askDesktopApplication(const QDBusConnection& bus, const ShowRequest& request,
                            const QVariantMap& activation) {
     const bool plain = request.section.isEmpty();
     auto call = QDBusMessage::createMethodCall(
-        QLatin1String(kApplicationName), QLatin1String(kApplicationPath),
-        QStringLiteral("org.freedesktop.Application"),
+        QLatin1String(kApplicationName), QLatin1String(kApplicationPath), kInterface,
         plain ? QStringLiteral("Activate") : QStringLiteral("ActivateAction"));
     call.setAutoStartService(false);
     if (!plain)
@@ -82,5 +115,3 @@ bool askDesktopApplication(const QDBusConnection& bus, const ShowRequest& reques
     call << activation;
     return bus.call(call, QDBus::Block, kTimeoutMs).type() == QDBusMessage::ReplyMessage;
 }
-
-#include "DesktopApplication.moc"

@@ -30,12 +30,13 @@ public:
     /// Sends the text and its final zero in parts of 20 bytes.
     void broadcast(const QByteArray& text) {
         xcb_client_message_event_t event = message("_NET_STARTUP_INFO_BEGIN", 8);
+        const xcb_atom_t following = atom("_NET_STARTUP_INFO");
         for (qsizetype sent = 0; sent <= text.size(); sent += sizeof event.data) {
             const auto part = text.mid(sent, sizeof event.data);
             std::memset(&event.data, 0, sizeof event.data);
             std::copy(part.begin(), part.end(), event.data.data8);
             send(event, XCB_EVENT_MASK_PROPERTY_CHANGE);
-            event.type = atom("_NET_STARTUP_INFO");
+            event.type = following;
         }
     }
 

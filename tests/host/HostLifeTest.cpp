@@ -6,6 +6,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
+#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QProcess>
 
@@ -107,6 +108,21 @@ TEST_F(HostLifeTest, ASecondStartAsksTheFirstToComeForward) {
         EXPECT_EQ(data, (QVariantMap{{QStringLiteral("activation-token"), "a token"}}));
         EXPECT_EQ(findProcess(kHost), kNoProcess);
     }
+}
+
+TEST_F(HostLifeTest, ARequestOfAnySizeIsCompliedWithAtOnce) {
+    open();
+    QVariantMap data{{QStringLiteral("desktop-startup-id"), QString(1 << 20, 'x')}};
+    for (int i = 0; i < 20'000; ++i)
+        data[QString::number(i)] = QStringLiteral("nothing");
+    auto call = QDBusMessage::createMethodCall("org.korvex.Preferences", "/org/korvex/Preferences",
+                                               "org.freedesktop.Application", "ActivateAction");
+    call << QStringLiteral("general") << QVariantList() << data;
+    QElapsedTimer timer;
+    timer.start();
+    const QDBusMessage reply = QDBusConnection::sessionBus().call(call, QDBus::Block, 20'000);
+    EXPECT_EQ(reply.type(), QDBusMessage::ReplyMessage) << reply.errorMessage().toStdString();
+    EXPECT_LT(timer.elapsed(), 1500);
 }
 
 TEST_F(HostLifeTest, OpensWithoutABusTooAndWithOneThatHangs) {
