@@ -8,6 +8,7 @@
 namespace {
 
 constexpr double kSameStepSeconds = 2;
+constexpr std::size_t kMostSteps = 1000; // of 750 bytes each
 
 /// The parts of a setting that differ, such as the sides of an area: one bit for each.
 UInt32 differingParts(const Setting& setting, const PrefsRecord& a, const PrefsRecord& b) {
@@ -47,6 +48,8 @@ void History::note(const PrefsRecord& record, double time, const std::string& pr
     } else {
         steps_.push_back({changed, now_, record, time, before, profile});
     }
+    if (steps_.size() > kMostSteps)
+        steps_.pop_front();
     position_ = steps_.size();
     now_ = record;
 }

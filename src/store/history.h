@@ -3,9 +3,9 @@
 
 #include "src/record/differences.h"
 
+#include <deque>
 #include <optional>
 #include <string>
-#include <vector>
 
 /// One step that can be undone: the settings that it changed, before and after.
 struct HistoryStep {
@@ -15,8 +15,8 @@ struct HistoryStep {
     std::string profileBefore, profileAfter; ///< the names of those in use, empty for none
 };
 
-/// The steps of one visit. This class only keeps records. Its caller changes `prefs` and reports
-/// the change.
+/// The last thousand steps of one visit. This class only keeps records. Its caller changes `prefs`
+/// and reports the change.
 class History {
 public:
     explicit History(const PrefsRecord& start, const std::string& profile = {})
@@ -52,6 +52,6 @@ private:
 
     PrefsRecord now_;
     std::string profile_;
-    std::vector<HistoryStep> steps_;
+    std::deque<HistoryStep> steps_;
     std::size_t position_ = 0; ///< steps before it are done, the others undone
 };

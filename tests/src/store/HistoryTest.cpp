@@ -47,6 +47,19 @@ TEST(HistoryTest, ChangesOfOneNumberWithinTwoSecondsAreOneStep) {
     EXPECT_EQ(double{record.lineScanTime}, 11.5);
 }
 
+TEST(HistoryTest, StepsEndAndTheOldestGo) {
+    PrefsRecord record;
+    History history(record);
+    for (int i = 1; i <= 1500; ++i) { // each later than the one before can join
+        record.lineScanTime = i;
+        history.note(record, 3 * i);
+    }
+    int steps = 0;
+    for (; history.undo(record); ++steps)
+        EXPECT_EQ(double{record.lineScanTime}, 1499 - steps);
+    EXPECT_EQ(steps, 1000);
+}
+
 TEST(HistoryTest, WhatTheAgentReportsIsNoStepAndStays) {
     PrefsRecord record;
     History history(record);
