@@ -3,6 +3,7 @@
 
 #include "platform/CoreFoundation/detail/FileReading.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <sstream>
 #include <string_view>
@@ -49,19 +50,23 @@ DesktopEntry readDesktopEntry(const std::string& path) {
     if (!file.data)
         return {};
     const auto bytes = file.data->bytes();
-    std::istringstream lines(std::string(bytes.begin(), bytes.end()));
+    std::string_view rest(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     DesktopEntry entry;
     bool inGroup = false;
-    for (std::string line; std::getline(lines, line);) {
+    while (!rest.empty()) {
+        const std::string_view line = rest.substr(0, rest.find('\n'));
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
         const std::string_view text = trimmed(line);
-        const std::size_t equals = text.find('=');
-        if (text.starts_with('['))
+        if (text.starts_with('[')) {
             inGroup = text == "[Desktop Entry]";
-        else if (inGroup && !text.starts_with('#') && equals != text.npos)
-            entry.try_emplace(std::string(trimmed(text.substr(0, equals))),
-                              unescaped(trimmed(text.substr(equals + 1))));
+            continue;
+        }
+        const std::size_t equals = inGroup && !text.starts_with('#') ? text.find('=') : text.npos;
+        const std::string_view key = trimmed(text.substr(0, equals));
+        // Most lines are names in other languages, which end with a bracket.
+        if (equals != text.npos && !key.ends_with(']'))
+            entry.try_emplace(std::string(key), unescaped(trimmed(text.substr(equals + 1))));
     }
-    std::erase_if(entry, [](const auto& item) { return item.first.ends_with(']'); });
     return entry;
 }
 
