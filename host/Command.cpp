@@ -2,6 +2,7 @@
 #include "host/Command.h"
 
 #include "host/Arguments.h"
+#include "host/BusProbe.h"
 #include "platform/CoreFoundation/CFBundle.h"
 #include "platform/CoreFoundation/Localization.h"
 
@@ -24,6 +25,7 @@ bool isForPeople(int argc, char** argv) {
 
 int runCommand(int argc, char** argv) {
     using Run = int (*)(int count, const char* const* arguments);
+    leaveOutHangingBus();
     QCoreApplication application(argc, argv);
     if (isForPeople(argc, argv))
         loadOwnLocalizations();

@@ -12,9 +12,15 @@ std::size_t indexOf(const Setting* setting) {
     return static_cast<std::size_t>(setting - kSettings.data());
 }
 
-int change(const SettingSet& settings, const PrefsRecord& record) {
-    const std::string fault = changeSettings(settings, record);
-    return fault.empty() ? int{kCommandDone} : commandFailed(fault);
+int change(const CommandLine& line, const PrefsRecord& before, const SettingSet& settings,
+           const PrefsRecord& record) {
+    if (const std::string fault = changeSettings(settings, record); !fault.empty())
+        return commandFailed(fault);
+    PrefsRecord after = before;
+    copySettings(settings, record, after);
+    if (line.json)
+        printChangesJson(before, after);
+    return kCommandDone;
 }
 
 } // namespace
@@ -22,7 +28,8 @@ int change(const SettingSet& settings, const PrefsRecord& record) {
 int runSet(const CommandLine& line) {
     if (line.operands.size() % 2)
         return commandFailed(localized("Commands", "every key needs a value"));
-    PrefsRecord record = currentSettings();
+    const PrefsRecord before = currentSettings();
+    PrefsRecord record = before;
     SettingSet settings;
     for (std::size_t i = 0; i < line.operands.size(); i += 2) {
         const Setting* setting = settingOfKey(line.operands[i]);
@@ -33,7 +40,7 @@ int runSet(const CommandLine& line) {
             return commandFailed(line.operands[i] + ": " + fault);
         settings[indexOf(setting)] = true;
     }
-    return change(settings, record);
+    return change(line, before, settings, record);
 }
 
 int runReset(const CommandLine& line) {
@@ -47,5 +54,5 @@ int runReset(const CommandLine& line) {
         else
             settings[indexOf(setting)] = true;
     }
-    return change(settings, defaultRecord());
+    return change(line, currentSettings(), settings, defaultRecord());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/commands/command.h"
 
+#include "platform/CoreFoundation/CFPropertyList.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "src/commands/json.h"
 #include "src/commands/store.h"
@@ -15,19 +16,6 @@
 #include <optional>
 
 namespace {
-
-/// What is different, for programs.
-void printChangesJson(const PrefsRecord& before, const PrefsRecord& after) {
-    const SettingSet changed = differences(before, after);
-    JsonList list;
-    for (std::size_t i = 0; i < kSettings.size(); ++i)
-        if (changed[i])
-            list.add(JsonObject()
-                         .add("key", kSettings[i].key)
-                         .add("from", settingText(kSettings[i], before))
-                         .add("to", settingText(kSettings[i], after)));
-    std::puts(list.text().c_str());
-}
 
 /// Says what is different, or with `none` that nothing is.
 void printChanges(const CommandLine& line, const PrefsRecord& before, const PrefsRecord& after,
@@ -95,8 +83,8 @@ int listProfiles(const CommandLine& line) {
         if (line.json)
             list.add(JsonObject()
                          .add("name", name)
-                         .add("inUse", isInUse ? "yes" : "no")
-                         .add("changed", isChanged ? "yes" : "no"));
+                         .addFlag("inUse", isInUse)
+                         .addFlag("changed", isChanged));
         else
             std::puts(listedProfile(name, isInUse, isChanged).c_str());
     }
@@ -176,11 +164,34 @@ constexpr ProfileVerb kVerbs[] = {
     {"save", 1, 1, saveCurrent},  {"rename", 2, 2, renameOne}, {"delete", 1, 1, deleteOne},
 };
 
+/// Standard input, as far as a file of settings may be long.
+std::string readInput() {
+    std::string text(kPropertyListMaxSize + 1, '\0');
+    text.resize(std::fread(text.data(), 1, text.size(), stdin));
+    return text;
+}
+
 } // namespace
+
+void printChangesJson(const PrefsRecord& before, const PrefsRecord& after) {
+    const SettingSet changed = differences(before, after);
+    JsonList list;
+    for (std::size_t i = 0; i < kSettings.size(); ++i)
+        if (changed[i])
+            list.add(JsonObject()
+                         .add("key", kSettings[i].key)
+                         .add("from", settingText(kSettings[i], before))
+                         .add("to", settingText(kSettings[i], after)));
+    std::puts(list.text().c_str());
+}
 
 int runExport(const CommandLine& line) {
     const std::string& path = line.operands[0];
     const PrefsRecord now = currentSettings();
+    if (path == "-" && line.json) {
+        commandFailed(localized("Commands", "--json goes with a file, not with -"));
+        return kCommandMisused;
+    }
     if (path == "-") {
         std::fputs(settingsDocument(SettingSet().set(), now).c_str(), stdout);
         return kCommandDone;
@@ -190,12 +201,17 @@ int runExport(const CommandLine& line) {
     const auto folder = std::filesystem::canonical("." / file.parent_path(), error);
     const int fault = error ? error.value() // a mistyped folder isn't made
                             : writeSettingsFile(folder / file.filename(), SettingSet().set(), now);
-    return fault ? commandFailed(path + ": " + std::strerror(fault)) : int{kCommandDone};
+    if (fault)
+        return commandFailed(path + ": " + std::strerror(fault));
+    if (line.json)
+        std::puts(JsonObject().add("file", (folder / file.filename()).string()).text().c_str());
+    return kCommandDone;
 }
 
 int runImport(const CommandLine& line) {
     const PrefsRecord now = currentSettings();
-    const SettingsOffer offer = readSettingsFile(line.operands[0], now);
+    const SettingsOffer offer = line.operands[0] == "-" ? readSettings(readInput(), now)
+                                                        : readSettingsFile(line.operands[0], now);
     if (!offer.error.empty())
         return commandFailed(line.operands[0] + ": " + offer.error);
     printOffer(line, offer, now);

@@ -16,16 +16,6 @@ std::string storedText(const Setting& setting, const PrefsRecord& record) {
     return text ? toUTF8(text.get()) : "";
 }
 
-/// "1 to 60 seconds", the choices, or an empty text.
-std::string choiceText(const Setting& setting) {
-    if (setting.limits.maximum > 0)
-        return rangeText(setting.limits);
-    std::vector<std::string> choices;
-    for (const char* choice : setting.choices)
-        choices.push_back(localized("Choices", choice));
-    return joined(Joint::Items, choices);
-}
-
 JsonObject describe(const Setting& setting, const PrefsRecord& record) {
     JsonObject object;
     object.add("key", setting.key).add("stored", storedText(setting, record));
@@ -40,7 +30,9 @@ void printListJson(const PrefsRecord& now, const PrefsRecord& defaults) {
     for (const Setting& setting : kSettings) {
         JsonObject object = describe(setting, now);
         object.add("name", setting.name).add("default", settingText(setting, defaults));
-        object.add("range", choiceText(setting)).add("unit", setting.limits.unit);
+        object.add("range", takenText(setting)).add("unit", setting.limits.unit);
+        if (setting.limits.maximum > 0)
+            object.add("min", setting.limits.minimum).add("max", setting.limits.maximum);
         list.add(object);
     }
     std::puts(list.text().c_str());
@@ -57,7 +49,7 @@ int runList(const CommandLine& line) {
     }
     for (const Setting& setting : kSettings) {
         const std::string words =
-            joined(Joint::Note, {localized("Settings", setting.name), choiceText(setting)});
+            joined(Joint::Note, {localized("Settings", setting.name), takenText(setting)});
         const std::string usual =
             filled(localized("Commands", "default: %1"), {settingText(setting, defaults)});
         std::printf("%s = %s\n    %s\n", setting.key, settingText(setting, now).c_str(),
@@ -77,7 +69,7 @@ int runGet(const CommandLine& line) {
         if (line.json)
             list.add(describe(*setting, now));
         else
-            texts += settingText(*setting, now) + "\n";
+            texts += settingValue(*setting, now) + "\n";
     }
     std::fputs(line.json ? (list.text() + "\n").c_str() : texts.c_str(), stdout);
     return kCommandDone;

@@ -7,33 +7,44 @@
 
 namespace {
 
-/// For bash, with the names of the commands, the settings, what is done with profiles, and the
-/// sections. What profiles are called isn't given to compgen, which expands it as the shell does.
+/// For bash, with the names of the commands, the settings, their values, what is done with
+/// profiles, and the sections. What may have a blank isn't given to compgen, which expands it as
+/// the shell does.
 constexpr char kCompletion[] = R"bash(_korvex_preferences() {
-    local word=${COMP_WORDS[COMP_CWORD]} name
-    if [ "$COMP_CWORD" -eq 1 ]; then
-        COMPREPLY=($(compgen -W '%s' -- "$word"))
-        return
-    fi
-    case ${COMP_WORDS[1]} in
-    get | set | reset) COMPREPLY=($(compgen -W '%s' -- "$word")) ;;
-    profile)
-        if [ "$COMP_CWORD" -eq 2 ]; then
-            COMPREPLY=($(compgen -W '%s' -- "$word"))
-            return
-        fi
-        compopt -o filenames 2>/dev/null || :
-        while read -r name; do
-            [[ $name != "$word"* ]] || COMPREPLY+=("$name")
-        done < <("${COMP_WORDS[0]}" profile list --json |
+    local word=${COMP_WORDS[COMP_CWORD]//\\/} words= lines= line
+    case $COMP_CWORD:${COMP_WORDS[1]} in
+    1:*) words='%s' ;;
+    *:get | *[02468]:set) words='%s' ;;
+    *:reset) words='all %s' ;;
+    *:set)
+        case ${COMP_WORDS[COMP_CWORD - 1]} in
+%s        esac ;;
+    2:profile) words='%s' ;;
+    *:profile)
+        lines=$("${COMP_WORDS[0]}" profile list --json |
             sed -n 's/.*"name": "\([^"\\]*\)".*/\1/p') ;;
-    show) COMPREPLY=($(compgen -W '%s' -- "$word")) ;;
-    export | import) COMPREPLY=($(compgen -f -- "$word")) ;;
+    *:show) words='%s' ;;
+    *:export | *:import) lines=$(compgen -f -- "$word") ;;
     esac
-    case $word in -*) COMPREPLY=($(compgen -W '--help --json --yes' -- "$word")) ;; esac
+    case $word in -*) words='--help --json --yes' ;; esac
+    COMPREPLY=($(compgen -W "$words" -- "$word"))
+    [ -n "$lines" ] || return 0
+    compopt -o filenames 2>/dev/null || :
+    while read -r line; do
+        [[ $line != "$word"* ]] || COMPREPLY+=("$line")
+    done <<<"$lines"
 }
 complete -F _korvex_preferences korvex-preferences
 )bash";
+
+/// The values of a choice as a case of the script, a line each. Empty for any other setting.
+std::string completedValues(const Setting& setting) {
+    std::string lines;
+    for (const char* word : wordsOf(setting).words)
+        lines += (lines.empty() ? "" : "\n") + std::string(word);
+    return lines.empty() ? ""
+                         : "        " + std::string(setting.key) + ") lines='" + lines + "' ;;\n";
+}
 
 /// Escapes for roff: a minus isn't a hyphen, and no line begins with a point.
 std::string roff(const std::string& text) {
@@ -52,12 +63,7 @@ void printHeading(const std::string& text) {
 }
 
 std::string describe(const Setting& setting) {
-    std::vector<std::string> range;
-    if (setting.limits.maximum > 0)
-        range.push_back(rangeText(setting.limits));
-    for (std::size_t i = 0; i < setting.choices.size(); ++i)
-        range.push_back(std::to_string(i) + " " + localized("Choices", setting.choices[i]));
-    return joined(Joint::Note, {localized("Settings", setting.name), joined(Joint::Items, range)});
+    return joined(Joint::Note, {localized("Settings", setting.name), takenText(setting)});
 }
 
 std::string spaced(const std::string& text, const std::string& word) {
@@ -77,8 +83,8 @@ int runManual(const CommandLine&) {
     for (const Command& command : commands())
         printItem(std::string(command.name) + " " + operandsOf(command),
                   localized("Commands", command.does));
-    printItem("--json", localized("Commands", "answers for programs"));
-    printItem("--yes", localized("Commands", "doesn't ask"));
+    printItem("--json", localized("Commands", kJsonHelp));
+    printItem("--yes", localized("Commands", kYesHelp));
     printHeading(localized("Commands", "SETTINGS", "a heading of the manual page"));
     for (const Setting& setting : kSettings)
         printItem(setting.key, describe(setting));
@@ -86,15 +92,18 @@ int runManual(const CommandLine&) {
 }
 
 int runCompletion(const CommandLine&) {
-    std::string names = "help", keys, verbs, sections;
+    std::string names = "help", keys, values, verbs, sections;
     for (const Command& command : commands())
         names = spaced(names, command.name);
-    for (const Setting& setting : kSettings)
+    for (const Setting& setting : kSettings) {
         keys = spaced(keys, setting.key);
+        values += completedValues(setting);
+    }
     for (const ProfileVerb& verb : profileVerbs())
         verbs = spaced(verbs, verb.name);
     for (const std::string& section : sectionNames())
         sections = spaced(sections, section);
-    std::printf(kCompletion, names.c_str(), keys.c_str(), verbs.c_str(), sections.c_str());
+    std::printf(kCompletion, names.c_str(), keys.c_str(), keys.c_str(), values.c_str(),
+                verbs.c_str(), sections.c_str());
     return kCommandDone;
 }

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/CoreFoundation/Localization.h"
 #include "src/commands/commands.h"
+#include "src/record/PrefsRecord.h"
 
 #include <string>
 #include <vector>
@@ -21,6 +23,12 @@ struct Command {
     int (*run)(const CommandLine& line);
     std::size_t fewest = 0, most = 0; ///< operands; most 0: no upper limit
 };
+
+inline constexpr char kJsonHelp[] =
+    LOCALIZABLE("Commands", "answers for programs: numbers are numbers, yes and no are true and "
+                            "false, and what changes is a list of key, from and to");
+inline constexpr char kYesHelp[] =
+    LOCALIZABLE("Commands", "lets import change the settings; no other command asks");
 
 /// In the order of the help text.
 std::span<const Command> commands();
@@ -42,6 +50,10 @@ int runSet(const CommandLine& line);
 int runReset(const CommandLine& line);
 
 // FileCommands.cpp
+
+/// Prints what is different, for programs.
+void printChangesJson(const PrefsRecord& before, const PrefsRecord& after);
+
 int runExport(const CommandLine& line);
 int runImport(const CommandLine& line);
 int runProfile(const CommandLine& line);

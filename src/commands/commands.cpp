@@ -5,6 +5,7 @@
 #include "src/commands/store.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 
@@ -15,7 +16,8 @@ constexpr Command kCommands[] = {
      LOCALIZABLE("Commands", "Shows every setting: its key, value, default, range and what it is."),
      runList, 0, 0},
     {"get", LOCALIZABLE("Commands", "KEY…"),
-     LOCALIZABLE("Commands", "Shows the value of settings."), runGet, 1, 0},
+     LOCALIZABLE("Commands", "Shows the value of settings, as set takes it in every language."),
+     runGet, 1, 0},
     {"set", LOCALIZABLE("Commands", "KEY VALUE…"), LOCALIZABLE("Commands", "Changes settings."),
      runSet, 2, 0},
     {"reset", LOCALIZABLE("Commands", "KEY…"),
@@ -25,8 +27,9 @@ constexpr Command kCommands[] = {
      LOCALIZABLE("Commands", "Writes the settings to a file; - stands for standard output."),
      runExport, 1, 1},
     {"import", LOCALIZABLE("Commands", "FILE"),
-     LOCALIZABLE("Commands", "Shows what a file would change; with --yes, changes it."), runImport,
-     1, 1},
+     LOCALIZABLE("Commands", "Shows what a file would change; with --yes, changes it. - stands "
+                             "for standard input."),
+     runImport, 1, 1},
     {"profile", LOCALIZABLE("Commands", "list|use|compare|save|rename|delete [NAME…]"),
      LOCALIZABLE("Commands", "Lists, uses and compares named states of the settings; compare says "
                              "what differs between two, or between one and the settings."),
@@ -48,9 +51,8 @@ int printHelp() {
     for (const Command& command : kCommands)
         std::printf("  %s %s\n      %s\n", command.name, operandsOf(command).c_str(),
                     localized("Commands", command.does).c_str());
-    std::printf("\n  --json  %s\n  --yes   %s\n",
-                localized("Commands", "answers for programs").c_str(),
-                localized("Commands", "doesn't ask").c_str());
+    std::printf("\n  --json  %s\n  --yes   %s\n", localized("Commands", kJsonHelp).c_str(),
+                localized("Commands", kYesHelp).c_str());
     return kCommandDone;
 }
 
@@ -102,7 +104,9 @@ int noSuchSetting(const std::string& key) {
     return kCommandFailed;
 }
 
-int korvexRunCommand(int count, const char* const* arguments) {
+namespace {
+
+int run(int count, const char* const* arguments) {
     const std::string name = count > 0 ? arguments[0] : "help";
     if (name == "help")
         return printHelp();
@@ -123,4 +127,16 @@ int korvexRunCommand(int count, const char* const* arguments) {
                 : filled(localized("Commands", "%1 takes no operand"), {name}));
     nameActions();
     return command->run(line);
+}
+
+} // namespace
+
+/// A reader that has gone has what it wanted, but the rest wasn't written.
+int korvexRunCommand(int count, const char* const* arguments) {
+    const int result = run(count, arguments);
+    if (std::fflush(stdout) == 0 && !std::ferror(stdout))
+        return result;
+    return errno == EPIPE ? int{kCommandFailed}
+                          : commandFailed(filled(localized("Commands", "standard output: %1"),
+                                                 {std::strerror(errno)}));
 }

@@ -9,7 +9,7 @@
 
 enum CommandResult {
     kCommandDone = 0,
-    kCommandFailed = 1,  ///< failed, and changed nothing
+    kCommandFailed = 1,  ///< failed; unless it says so, it changed nothing
     kCommandMisused = 2, ///< unknown command or wrong arguments
 };
 

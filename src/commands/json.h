@@ -4,11 +4,15 @@
 #include <string>
 #include <string_view>
 
-/// An object of texts and numbers as JSON text (RFC 8259).
+/// An object of texts, numbers and flags as JSON text (RFC 8259).
 class JsonObject {
 public:
     JsonObject& add(std::string_view name, std::string_view text);
     JsonObject& add(std::string_view name, double number); ///< null when it isn't finite
+
+    JsonObject& addFlag(std::string_view name, bool flag) {
+        return addRaw(name, flag ? "true" : "false");
+    }
 
     std::string text() const { return "{" + members_ + "}"; }
 

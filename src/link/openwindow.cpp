@@ -96,7 +96,7 @@ std::optional<std::string> sendToWindow(const SettingSet& settings, const PrefsR
     case errAETimeout:
         if (findWindow() != window)
             return std::nullopt; // it closed meanwhile
-        return localized("Faults", "the open window doesn't answer");
+        return localized("Faults", "the open window doesn't answer; the change may still come");
     default:
         return localized("Faults", "the open window doesn't take the change");
     }

@@ -21,8 +21,12 @@ std::string lineColorText(const LineColor& color) {
     const std::string name = localized("Colour", nearest->name);
     if (distance(nearest->color, color) == 0)
         return name;
-    char code[16];
-    std::snprintf(code, sizeof code, "#%02x%02x%02x", color.red, color.green, color.blue);
     return filled(localized("Colour", "%1 (%2)", "a colour like that name, and its code"),
-                  {name, code});
+                  {name, lineColorCode(color)});
+}
+
+std::string lineColorCode(const LineColor& color) {
+    char code[24];
+    std::snprintf(code, sizeof code, "#%02x%02x%02x", color.red, color.green, color.blue);
+    return code;
 }

@@ -30,3 +30,6 @@ inline constexpr NamedColor kLineColors[] = {
 /// The colour in words, in UTF-8: its name, or the nearest name and the colour's code, such as "Red
 /// (#640000)".
 std::string lineColorText(const LineColor& color);
+
+/// As in "#640000".
+std::string lineColorCode(const LineColor& color);

@@ -31,13 +31,6 @@ bool isWithin(const SettingLimits& limits, double value) {
     return value >= limits.minimum && value <= limits.maximum; // false if it is no number
 }
 
-/// A choice or a word of bits in the record.
-UInt32 wordIn(const Setting& setting, const PrefsRecord& record) {
-    UInt32 word = 0;
-    std::memcpy(&word, setting.in(record), setting.size); // little-endian, like the record
-    return word;
-}
-
 /// A list's text for a comparison: without blanks, in small letters.
 std::string bare(const CFString* text) {
     std::string result = text ? toUTF8(text) : "";
@@ -67,17 +60,41 @@ std::string withExample(const Setting& setting, const PrefsRecord& record,
                         const std::string& fault) {
     if (setting.notation == &kFlagNotation)
         return localized("Faults", "neither on nor off");
-    const auto stored = setting.notation->write(setting.in(record));
-    return stored ? filled(localized("Faults", "%1; for example %2"), {fault, toUTF8(stored.get())})
-                  : fault;
+    return filled(localized("Faults", "%1; for example %2"),
+                  {fault, settingValue(setting, record)});
 }
 
-std::optional<UInt32> choiceFrom(const Setting& setting, const std::string& words) {
-    for (std::size_t i = 0; i < setting.choices.size(); ++i)
-        if (words == std::to_string(i) || strcasecmp(words.c_str(), setting.choices[i]) == 0 ||
-            words == localized("Choices", setting.choices[i]))
+/// One of the setting's words, or its number.
+std::optional<UInt32> choiceFrom(const Setting& setting, const std::string& text) {
+    const auto [words, table] = wordsOf(setting);
+    for (std::size_t i = 0; i < words.size(); ++i)
+        if (text == std::to_string(i) || strcasecmp(text.c_str(), words[i]) == 0 ||
+            text == localized(table, words[i]))
             return static_cast<UInt32>(i);
     return std::nullopt;
+}
+
+/// Sets a number. Returns the fault.
+std::string setNumber(const Setting& setting, const std::string& words, PrefsRecord& record) {
+    const auto value = numberFrom(words, setting.limits.unit);
+    if (!value)
+        return *setting.limits.unit ? filled(localized("Faults", "not a number in %1"),
+                                             {localized("Units", setting.limits.unit)})
+                                    : localized("Faults", "not a number");
+    if (!isWithin(setting.limits, *value))
+        return rangeWords(setting.limits);
+    if (setting.notation != &kRealNotation && *value != std::round(*value))
+        return localized("Faults", "not a whole number");
+    setSettingNumber(setting, *value, record);
+    return {};
+}
+
+/// "#640000" in the stored form. Any other text stays as it is.
+std::string storedColour(const std::string& words) {
+    if (words.size() != 7 || words[0] != '#' ||
+        words.find_first_not_of("0123456789abcdefABCDEF", 1) != words.npos)
+        return words;
+    return "[0x" + words.substr(1, 2) + ",0x" + words.substr(3, 2) + ",0x" + words.substr(5) + "]";
 }
 
 } // namespace
@@ -128,26 +145,14 @@ std::string setFromValue(const Setting& setting, const CFType* value, PrefsRecor
 std::string setFromWords(const Setting& setting, const std::string& words, PrefsRecord& record) {
     PrefsRecord changed = record;
     if (setting.isNumber()) {
-        const auto value = numberFrom(words, setting.limits.unit);
-        if (!value)
-            return *setting.limits.unit ? filled(localized("Faults", "not a number in %1"),
-                                                 {localized("Units", setting.limits.unit)})
-                                        : localized("Faults", "not a number");
-        if (!isWithin(setting.limits, *value))
-            return rangeWords(setting.limits);
-        setSettingNumber(setting, *value, changed);
-    } else if (!setting.choices.empty()) {
-        const auto choice = choiceFrom(setting, words);
-        if (!choice)
-            return choiceWords(setting);
+        if (std::string fault = setNumber(setting, words, changed); !fault.empty())
+            return fault;
+    } else if (const auto choice = choiceFrom(setting, words)) {
         std::memcpy(setting.in(changed), &*choice, setting.size);
+    } else if (!setting.choices.empty()) {
+        return choiceWords(setting);
     } else {
-        const bool isOn = strcasecmp(words.c_str(), "on") == 0;
-        const bool isOff = strcasecmp(words.c_str(), "off") == 0;
-        const std::string text = setting.notation != &kFlagNotation ? words
-                                 : isOn                             ? "yes"
-                                 : isOff                            ? "no"
-                                                                    : words;
+        const std::string text = setting.notation == &kColourNotation ? storedColour(words) : words;
         const std::string fault = setFromValue(setting, createFromUTF8(text).get(), record);
         return fault.empty() ? "" : withExample(setting, record, fault);
     }

@@ -17,5 +17,5 @@ std::string settingFault(const Setting& setting, const PrefsRecord& record);
 std::string setFromValue(const Setting& setting, const CFType* value, PrefsRecord& record);
 
 /// The same with a value in words or with its stored text: "12.5", "12.5 sec", "60%", "on", "no", a
-/// choice's words or number, "(40,40)".
+/// choice's words or number, "#640000", "(40,40)"; takes back every settingValue.
 std::string setFromWords(const Setting& setting, const std::string& words, PrefsRecord& record);

@@ -10,9 +10,11 @@
 
 #include <algorithm>
 #include <cctype>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 
 namespace {
 
@@ -37,13 +39,8 @@ std::string print(const char* format, Parts... parts) {
     return localizedNumbers(text);
 }
 
-std::string onOrOff(UInt32 isOn) {
-    return isOn ? localized("Settings", "on") : localized("Settings", "off");
-}
-
 std::string choiceText(const Setting& setting, const PrefsRecord& record) {
-    UInt32 choice = 0;
-    std::memcpy(&choice, setting.in(record), setting.size); // little-endian, like the record
+    const UInt32 choice = wordIn(setting, record);
     return choice < setting.choices.size() ? localized("Choices", setting.choices[choice])
                                            : std::to_string(choice);
 }
@@ -55,12 +52,26 @@ std::string areaText(const ScanArea& area) {
                  double{area.width}, double{area.height}, double{area.x}, double{area.y});
 }
 
-std::string contentText(UInt32 content) {
-    constexpr const char* kContents[] = {
-        LOCALIZABLE("Settings", "nothing"), LOCALIZABLE("Settings", "icon"),
-        LOCALIZABLE("Settings", "name"), LOCALIZABLE("Settings", "icon and name")};
-    return localized("Settings", kContents[content & 3]);
+constexpr const char* kContents[] = {
+    LOCALIZABLE("Settings", "nothing"), LOCALIZABLE("Settings", "icon"),
+    LOCALIZABLE("Settings", "name"), LOCALIZABLE("Settings", "icon and name")};
+
+constexpr const char* kOffOn[] = {LOCALIZABLE("Settings", "off"), LOCALIZABLE("Settings", "on")};
+
+std::string onOrOff(UInt32 isOn) {
+    return localized("Settings", kOffOn[isOn != 0]);
 }
+
+/// What `set` takes, for settings that are no choice among words. Numbers and the signs around them
+/// are the same in each language.
+constexpr struct {
+    const PrefsNotation* notation;
+    const char* form;
+} kForms[] = {
+    {&kRealNotation, "0.00"},           {&kRectangleNotation, "origin(X,Y); size(WIDTH,HEIGHT)"},
+    {&kColourNotation, "#rrggbb"},      {&kHotKeyListNotation, "[ {0xKEY,0xMODIFIERS} … ]"},
+    {&kSizeNotation, "(WIDTH,HEIGHT)"}, {&kActionListNotation, "[ ACTION … ]"},
+};
 
 std::string hotKeyText(const HotKey& hotKey) {
     const auto text = createKeyComboString(hotKey.modifiers, hotKey.keyCode);
@@ -209,10 +220,55 @@ std::string settingText(const Setting& setting, const PrefsRecord& record) {
     if (setting.notation == &kActionListNotation)
         return actionsText(record.buttonActions);
     if (setting.notation == &kHexWordNotation)
-        return contentText(record.buttonContent);
+        return localized("Settings", kContents[record.buttonContent & 3]);
     if (setting.notation == &kRealNotation)
         return print("%g", settingNumber(setting, record));
     return pointerText(setting, record);
+}
+
+std::string settingValue(const Setting& setting, const PrefsRecord& record) {
+    const SettingWords words = wordsOf(setting);
+    if (const UInt32 word = wordIn(setting, record); word < words.words.size())
+        return words.words[word];
+    if (setting.notation == &kRealNotation || setting.isNumber()) {
+        char text[32];
+        return {text, std::to_chars(text, std::end(text), settingNumber(setting, record)).ptr};
+    }
+    const auto& [red, green, blue] = record.lineColor;
+    if (setting.notation == &kColourNotation && std::max({red, green, blue}) <= 255)
+        return lineColorCode(record.lineColor);
+    const auto stored = setting.notation->write(setting.in(record));
+    return stored ? toUTF8(stored.get()) : "";
+}
+
+SettingWords wordsOf(const Setting& setting) {
+    if (!setting.choices.empty())
+        return {setting.choices, "Choices"};
+    if (setting.notation == &kFlagNotation)
+        return {kOffOn, "Settings"};
+    if (setting.offset == offsetof(PrefsRecord, buttonContent))
+        return {kContents, "Settings"};
+    return {};
+}
+
+UInt32 wordIn(const Setting& setting, const PrefsRecord& record) {
+    UInt32 word = 0;
+    std::memcpy(&word, setting.in(record), std::min(setting.size, sizeof word));
+    return word; // little-endian, like the record
+}
+
+std::string takenText(const Setting& setting) {
+    std::string text;
+    const auto [words, table] = wordsOf(setting);
+    for (const char* word : words)
+        text += (text.empty() ? "" : " | ") + localized(table, word);
+    const auto* form =
+        std::ranges::find(kForms, setting.notation, [](const auto& each) { return each.notation; });
+    if (!setting.isNumber() && form != std::end(kForms))
+        text = form->form;
+    if (setting.limits.maximum > 0)
+        text += (text.empty() ? "" : ", ") + rangeText(setting.limits);
+    return text;
 }
 
 std::string changeText(const Setting& setting, const PrefsRecord& before, const PrefsRecord& after,

@@ -12,6 +12,26 @@
 /// As in "12.5 sec", "on", "40 × 40 points" or "control+shift+X, …".
 std::string settingText(const Setting& setting, const PrefsRecord& record);
 
+/// As a command prints it and setFromWords takes it back exactly, as in "12.26", "on", "#c10020" or
+/// "(40,40)". It is the same in every language.
+std::string settingValue(const Setting& setting, const PrefsRecord& record);
+
+/// The values of a setting that is a choice among words, in English, from 0, and the table of their
+/// translations. Empty for any other setting.
+struct SettingWords {
+    std::span<const char* const> words;
+    const char* table = "";
+};
+
+SettingWords wordsOf(const Setting& setting);
+
+/// The first bytes of a field, at most four, as a number: a choice, a flag or a word of bits.
+UInt32 wordIn(const Setting& setting, const PrefsRecord& record);
+
+/// What setFromWords takes: "1 to 60 seconds", "off | on" in the user's language, or a form such as
+/// "(WIDTH,HEIGHT), 20 to 100 points". Empty when that is any text.
+std::string takenText(const Setting& setting);
+
 /// The number that a setting holds, in its unit; 0 for a setting that isn't a number.
 double settingNumber(const Setting& setting, const PrefsRecord& record);
 

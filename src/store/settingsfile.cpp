@@ -72,13 +72,14 @@ std::string settingsDocument(const SettingSet& settings, const PrefsRecord& reco
     return propertyListToXML(settingsDictionary(settings, record).get());
 }
 
-SettingsOffer readSettingsFile(const std::string& path, const PrefsRecord& base) {
+namespace {
+
+/// What a list offers, which is null if the text was none.
+SettingsOffer offerOf(const CFType* list, const PrefsRecord& base) {
     SettingsOffer offer{.record = base, .settings = {}, .refused = {}, .error = {}};
-    const auto url = CFURLCreateFromFileSystemRepresentation(path.c_str(), false);
-    const auto list = propUtilReadFile(url.get(), CFDictionaryGetTypeID());
-    const auto* dictionary = dynamicCFCast<CFDictionary>(list.get());
+    const auto* dictionary = dynamicCFCast<CFDictionary>(list);
     if (!dictionary) {
-        offer.error = fileFault(path);
+        offer.error = localized("Faults", "damaged, or no file of settings");
         return offer;
     }
     for (const auto& [key, value] : dictionary->items()) {
@@ -88,6 +89,23 @@ SettingsOffer readSettingsFile(const std::string& path, const PrefsRecord& base)
             offer.refused.push_back({setting ? name : shownKey(key), reason});
     }
     return offer;
+}
+
+} // namespace
+
+SettingsOffer readSettingsFile(const std::string& path, const PrefsRecord& base) {
+    const auto url = CFURLCreateFromFileSystemRepresentation(path.c_str(), false);
+    const auto list = propUtilReadFile(url.get(), CFDictionaryGetTypeID());
+    SettingsOffer offer = offerOf(list.get(), base);
+    if (!list)
+        offer.error = fileFault(path);
+    return offer;
+}
+
+SettingsOffer readSettings(const std::string& document, const PrefsRecord& base) {
+    const auto data = CFDataCreate(reinterpret_cast<const UInt8*>(document.data()),
+                                   static_cast<CFIndex>(document.size()));
+    return offerOf(CFPropertyListCreateFromXMLData(data.get()).get(), base);
 }
 
 int writeSettingsFile(const std::string& path, const SettingSet& settings,

@@ -40,6 +40,9 @@ std::string settingsDocument(const SettingSet& settings, const PrefsRecord& reco
 /// a whole. Files have no version: what a newer one adds are such keys and values.
 SettingsOffer readSettingsFile(const std::string& path, const PrefsRecord& base);
 
+/// The same with a file's content.
+SettingsOffer readSettings(const std::string& document, const PrefsRecord& base);
+
 /// Writes the file as a whole. Returns errno, 0 for none.
 int writeSettingsFile(const std::string& path, const SettingSet& settings,
                       const PrefsRecord& record);

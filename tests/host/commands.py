@@ -6,6 +6,7 @@ import os
 import resource
 import shutil
 import signal
+import socket
 import subprocess
 import sys
 import time
@@ -45,6 +46,18 @@ def wait_for(condition):
         time.sleep(0.02)
 
 
+COMPLETED = {
+    "profile compare Ti": "Tired",
+    "ex": "export",
+    "get soundL": "soundLevel",
+    "reset a": "all;activateAtLaunch",
+    "set on of": "off",
+    "set on off scanner.scanMode Ho": "Hold to scan, let go to choose",
+    "set on off soundL": "soundLevel",
+    "import 'a\\ f'": "a file",
+}
+
+
 def without_a_window():
     run("set", "scanner.lineScanTime", "12.5", "scanner.scanMode", "2")
     expect('"value": 12.5', "get", "--json", "scanner.lineScanTime")
@@ -54,20 +67,25 @@ def without_a_window():
     expect("no setting", "get", "nonsense", status=1)
     expect("no/all.plist: No such file", "export", "no/all.plist", status=1)
     expect("no command", "nonsense", status=2)
-    keys = [each["key"] for each in json.loads(run("list", "--json"))]
+    rows = {each["key"]: each for each in json.loads(run("list", "--json"))}
+    keys = list(rows)
     assert len(keys) == 40
+    time = rows["scanner.lineScanTime"]
+    assert (time["min"], time["max"], time["value"]) == (1, 60, 12.5), time
+    expect("Scanning (off | on); default: on", "list")
     run("profile", "save", "Tired")
     run("reset", "all")
     run("profile", "save", "Rested")
     expect("“Each press moves one step” to “Press to start", "profile", "compare", "Tired", "Rested")
     expect('"from": "10.0 sec", "to": "12.5 sec"', "profile", "compare", "Tired", "--json")
     expect("there is no profile", "profile", "compare", "Nobody", "Tired", status=1)
-    expect("10.0 sec", "get", "scanner.lineScanTime")
+    expect("10\n", "get", "scanner.lineScanTime")
     expect("Line crosses the screen in: 10.0 to 12.5 sec", "profile", "use", "Tired")
     run("set", "soundLevel", "49")
     expect("Tired (in use, changed)", "profile", "list")
     expect("Volume: 49 to 50", "profile", "use", "Tired")
-    expect('"inUse": "yes", "changed": "no"', "profile", "list", "--json")
+    tired = {"name": "Tired", "inUse": True, "changed": False}
+    assert tired in json.loads(run("profile", "list", "--json"))
     run("export", "all.plist")
     run("reset", "scanner.lineScanTime")
     with open("all.plist") as file:
@@ -77,17 +95,20 @@ def without_a_window():
     expect("Left out: off: no setting of this version", "import", "all.plist")
     expect('"from": "10.0 sec", "to": "12.5 sec"', "import", "--json", "all.plist")
     expect("Usage: ", "import", "--help")
-    expect("10.0 sec", "get", "scanner.lineScanTime")
+    expect("10\n", "get", "scanner.lineScanTime")
     run("import", "--yes", "all.plist")
-    expect("12.5 sec", "get", "scanner.lineScanTime")
+    expect("12.5\n", "get", "scanner.lineScanTime")
     run("set", "launchAtLogin", "off")
     manual, completion = run("manual"), run("completion")
     assert all(f".B {key}\n" in manual for key in keys) and f"'{' '.join(keys)}'" in completion
     assert "'scanning presses look palette general'" in completion
-    ask = f"COMP_CWORD=3 COMP_WORDS=({HOST} profile compare Ti); _korvex_preferences; echo $COMPREPLY"
-    answer = subprocess.run(["bash", "-e"], input=completion + ask, text=True, check=True,
-                            env=ENVIRONMENT, stdout=subprocess.PIPE)
-    assert answer.stdout == "Tired\n", answer
+    open("a file", "w").close()
+    for words, offered in COMPLETED.items():
+        ask = (f"COMP_WORDS=({HOST} {words}); COMP_CWORD=$((${{#COMP_WORDS[@]}} - 1))\n"
+               "_korvex_preferences; printf '%s;' \"${COMPREPLY[@]}\"")
+        answer = subprocess.run(["bash"], input=completion + ask, text=True, check=True,
+                                env=ENVIRONMENT, stdout=subprocess.PIPE)
+        assert answer.stdout == offered + ";", (words, answer)
     expect("there is no section \"pallete\", but scanning", "show", "pallete", status=1)
 
 
@@ -104,6 +125,71 @@ def the_login_entry_follows_as_by_a_click():
         run(*command)
         assert "Hidden" not in open(entry).read(), command
     run("set", "launchAtLogin", "off")
+
+
+def what_get_prints_set_takes():
+    """Exactly, in every language."""
+    run("set", "scanner.lineScanTime", "12.26", "soundLevel", "33", "scanner.lineColor", "#112233",
+        "palette.buttonContent", "2", "scanner.interClickDelay", "0.05", "on", "0",
+        "scanner.scanArea", "origin(10,20); size(300,200)", "scanner.scanMode", "1")
+    before, keys = run("export", "-"), [each["key"] for each in json.loads(run("list", "--json"))]
+    printed = set()
+    for language in ("en", "de", "fr"):
+        ENVIRONMENT.update(LANGUAGE=language, LANG="C.UTF-8")
+        values = run("get", *keys).splitlines()
+        printed.add(tuple(values))
+        run("reset", "all")
+        run("set", *(word for pair in zip(keys, values) for word in pair))
+        assert run("export", "-") == before, language
+    assert len(printed) == 1 and "12.26" in values and "#112233" in values, printed
+    ENVIRONMENT.update(LANGUAGE="en")
+    asked = run("reset", "--json", "all")
+    assert {"key": "on", "from": "off", "to": "on"} in json.loads(asked), asked
+    document = subprocess.run([HOST, "import", "-", "--yes", "--json"], input=before, text=True,
+                              env=ENVIRONMENT, stdout=subprocess.PIPE, check=True)
+    assert {"key": "on", "from": "on", "to": "off"} in json.loads(document.stdout), document
+    assert run("export", "-") == before
+    changed = json.loads(run("set", "--json", "on", "yes", "soundLevel", "33"))
+    assert changed == [{"key": "on", "from": "off", "to": "on"}], changed
+    assert json.loads(run("export", "--json", "all.plist"))["file"].endswith("/all.plist")
+    expect("--json", "export", "--json", "-", status=2)
+
+
+def what_is_full_or_hangs_is_told():
+    with open("/dev/full", "w") as full:
+        for command in (("export", "-"), ("list",), ("get", "on"), ("help",)):
+            result = subprocess.run([HOST, *command], env=ENVIRONMENT, stdout=full,
+                                    stderr=subprocess.PIPE, text=True)
+            assert result.returncode == 1 and "No space left" in result.stderr, result
+    with socket.socket(socket.AF_UNIX) as bus:
+        bus.bind("bus")
+        bus.listen()
+        hanging = dict(ENVIRONMENT, DBUS_SESSION_BUS_ADDRESS="unix:path=" + os.path.abspath("bus"))
+        for command in (("set", "soundLevel", "34"), ("profile", "save", "Hurried")):
+            start = time.monotonic()
+            subprocess.run([HOST, *command], env=hanging, check=True, timeout=20)
+            assert time.monotonic() - start < 4, command
+    expect("34", "get", "soundLevel")
+    expect("Hurried (in use)", "profile", "list")
+    run("profile", "delete", "Hurried")
+    run("reset", "all")
+
+
+def folders_that_lead_to_themselves_are_told():
+    for folder in (os.path.dirname(STORED), os.path.expandvars("$XDG_STATE_HOME/korvex"),
+                   os.path.expandvars("$XDG_DATA_HOME/korvex/profiles")):
+        aside = folder + ".aside"
+        os.makedirs(folder, exist_ok=True)
+        os.rename(folder, aside)
+        os.symlink(folder, folder)
+        outputs = [subprocess.run([HOST, *command], env=ENVIRONMENT, capture_output=True, text=True,
+                                  timeout=20)
+                   for command in (("set", "soundLevel", "35"), ("profile", "save", "Looped"))]
+        assert all(each.returncode in (0, 1) for each in outputs), outputs
+        assert any("Too many levels" in each.stderr for each in outputs), outputs
+        os.remove(folder)
+        os.rename(aside, folder)
+    run("set", "soundLevel", "49")
 
 
 def what_goes_wrong_loses_nothing():
@@ -159,6 +245,9 @@ def many_at_once():
 os.chdir(os.path.expanduser("~"))
 without_a_window()
 the_login_entry_follows_as_by_a_click()
+what_get_prints_set_takes()
+what_is_full_or_hangs_is_told()
+folders_that_lead_to_themselves_are_told()
 what_goes_wrong_loses_nothing()
 with_an_open_window()
 many_at_once()

@@ -233,15 +233,17 @@ TEST_F(DaemonTest, WhatTheAgentSaysStandsInTheStripUntilItIsGone) {
 
 TEST_F(DaemonTest, ACommandsSettingsAreCheckedLikeThoseOfAFile) {
     openWithAgent();
-    const auto set = [this](const SettingSet& settings, auto change, std::uint64_t more = 0) {
+    const auto set = [this](const SettingSet& settings, auto change, std::uint64_t more = 0,
+                            long missing = 0) {
         PrefsRecord record = prefs;
         change(record);
         const auto* bytes = reinterpret_cast<const UInt8*>(&record);
         const std::uint64_t bits = settings.to_ullong() | more;
         const auto* bitBytes = reinterpret_cast<const UInt8*>(&bits);
-        return answerTo(kAgentClass, fourCharCode("PSet"),
-                        {{keyDirectObject, {fourCharCode("KrPf"), {bytes, bytes + sizeof record}}},
-                         {fourCharCode("Sets"), {fourCharCode("comp"), {bitBytes, bitBytes + 8}}}});
+        return answerTo(
+            kAgentClass, fourCharCode("PSet"),
+            {{keyDirectObject, {fourCharCode("KrPf"), {bytes, bytes + sizeof record - missing}}},
+             {fourCharCode("Sets"), {fourCharCode("comp"), {bitBytes, bitBytes + 8}}}});
     };
     const PrefsRecord before = prefs;
     const SettingSet all = SettingSet().set();
@@ -254,6 +256,10 @@ TEST_F(DaemonTest, ACommandsSettingsAreCheckedLikeThoseOfAFile) {
     EXPECT_EQ(set(
                   {}, [](auto&) {}, std::uint64_t{1} << kSettings.size()),
               paramErr);
+    EXPECT_EQ(set(
+                  all, [](auto& r) { r.lineThickness = 9; }, 0, 1),
+              paramErr)
+        << "a byte short";
     EXPECT_EQ(std::memcmp(&prefs, &before, sizeof before), 0);
     EXPECT_EQ(set(all, [](auto& r) { r.launchAtLogin = r.on = 255; }), noErr);
     EXPECT_EQ(set(all, [](auto& r) { r.canScanMenuBar = 0; }), noErr);

@@ -3,6 +3,7 @@
 
 #include "platform/CoreServices/StateFile.h"
 #include "src/store/prefs.h"
+#include "src/store/settingsfile.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 
 #include <csignal>
@@ -105,6 +106,16 @@ TEST_F(RecoveryTest, WhatWasStoredAfterwardsStaysAndAnOddListIsTaken) {
     EXPECT_EQ(record.lineThickness, 7) << "chosen meanwhile as it is stored";
     EXPECT_EQ(double{record.lineScanTime}, 15);
     EXPECT_EQ(record.buttonActions[0], 5);
+}
+
+TEST_F(RecoveryTest, AnotherProcessOfTheSameNumberIsntTheOwner) {
+    PrefsRecord record;
+    record.lineScanTime = 40;
+    writeFile(state_ / "korvex" / ("unsaved." + std::to_string(getpid()) + ".1"),
+              settingsDocument(differences(record, PrefsRecord()), record));
+    PrefsRecord later;
+    recoveryTakeOver(later);
+    EXPECT_EQ(double{later.lineScanTime}, 40);
 }
 
 TEST_F(RecoveryTest, AFolderThatCannotBeWrittenIsTroubleUntilTheChangesAreSaved) {
