@@ -14,7 +14,13 @@ FIELDS = {
     "launchAtLogin": ("<B", 5),
     "canScanMenuBar": ("<B", 12),
     "scanMode": ("<i", 60),
+    "scanArea": ("<4fB", 64),  # and, behind it, whether it is in use
     "lineScanTime": ("<d", 84),
+    "lineColor": ("<3H", 136),
+    "lineThickness": ("<i", 144),
+    "pointerImageName": ("100s", 164),
+    "buttonSize": ("<2h", 312),
+    "buttonShape": ("<I", 316),
 }
 
 

@@ -11,7 +11,6 @@ from typing import NamedTuple
 
 from PIL import Image
 
-from tests.e2e.agentlog import FIELDS
 from tests.e2e.desktop import Desktop, ask, given, process_of
 from tests.e2e.screen import press, run, until_at_rest
 from tests.e2e.startup import dismiss_the_notice
@@ -19,7 +18,6 @@ from tests.e2e.tour import Tour, touring
 from tests.e2e.waiting import PATIENCE, check, until
 
 SCAN_AREA = 1024  # the group of settings
-FIELDS |= {"scanArea": ("<4fB", 64)}  # and, behind it, whether it is in use
 
 BUTTON = "Draw my own area", "push button"
 WHOLE_SCREEN, OWN_AREA = "The whole screen", "Only my own area"

@@ -26,7 +26,7 @@ PROGRAM = "korvex-preferences"
 AGENT = "Korvex.prefPane/Contents/Linux/Korvex Agent.app/Contents/Linux/korvex-agent"
 
 # Groups of settings, as the agent is told which one changed.
-NO_GROUP, TRIGGERS, SCAN_SPEED = 0, 256, 512
+NO_GROUP, BOTH_LINES, POINTER, PALETTE, TRIGGERS, SCAN_SPEED, SCAN_AREA = 0, 3, 4, 8, 256, 512, 1024
 
 CHANGED = {
     "scanner.canScanMenuBar": "no",
@@ -164,6 +164,43 @@ def put_a_section_back(tour: Tour) -> str:
     return f"{row}; the section, mask {mask}; {undone}"
 
 
+# A section, the control, and the mask and field of its change, which is undone again.
+EDITS = (
+    ("Scanning", "list item", "Left third", SCAN_AREA, "scanArea", (0, 0, 341, 768, 1)),
+    ("Look", "list item", "Blue", BOTH_LINES, "lineColor", (0, 83, 138)),
+    ("Look", "push button", "Line thickness, thicker", BOTH_LINES, "lineThickness", 8),
+    ("Look", "list item", "Ring", POINTER, "pointerImageName", b"Ring+20x20".ljust(100, b"\0")),
+    ("Palette", "radio button", "Rounded", PALETTE, "buttonShape", 1),
+    ("Palette", "push button", "Palette buttons, larger", PALETTE, "buttonSize", (41, 41)),
+)
+
+
+def change_each_section(tour: Tour) -> str:
+    """Change the area, the look, the pointer and the palette, and undo each"""
+    told = []
+    for section, role, name, mask, field, value in EDITS:
+        tour.choose_tab(section)
+        tour.screen.click(name, role)
+        told.append(tour.log.expect_change(mask, field, value))
+        tour.picture(f"edited-{field}")
+        press("key", "ctrl+z")
+        event = tour.log.expect("SAPr")
+        check(event["mask"] == mask, f"undoing {field} sends mask {event['mask']}")
+    return "; ".join(told)
+
+
+def switch_off_and_on(tour: Tour) -> str:
+    """Switch scanning off and on again"""
+    tour.choose("Off")
+    tour.log.expect("quit")
+    until(lambda: not process_of("org.korvex.Agent"), "the agent ends")
+    tour.picture("off")
+    tour.choose("On")
+    tour.agent = wait_for_agent()
+    tour.log.expect("SAPr")
+    return "the agent was asked to quit, and launched again"
+
+
 def close_the_pane(tour: Tour) -> str:
     """Close the pane"""
     tour.close()
@@ -218,6 +255,8 @@ STEPS = (
     look_at_the_tabs,
     change_three_settings,
     put_a_section_back,
+    change_each_section,
+    switch_off_and_on,
     profiles.use_two_in_turn,
     *hotkeys.STEPS,
     startup.launch_at_login,
