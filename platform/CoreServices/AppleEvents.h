@@ -114,3 +114,7 @@ OSErr AEInstallEventHandler(AEEventClass eventClass, AEEventID eventID, AEEventH
                             void* refCon);
 /// errAEHandlerNotFound unless this handler is installed for exactly that class and ID.
 OSErr AERemoveEventHandler(AEEventClass eventClass, AEEventID eventID, AEEventHandler handler);
+
+/// From now on, of events of that kind that wait to be handled and ask for no answer, only each
+/// sender's last one is: a flood of reports costs what one does.
+void keepLastReportOnly(AEEventClass eventClass, AEEventID eventID);

@@ -177,6 +177,7 @@ void daemonSetup(const CFString* path) {
     if (AEInstallEventHandler(kAgentEventClass, typeWildCard, ae, nullptr) == noErr)
         aehandler = ae;
     AEInstallEventHandler(kAgentEventClass, kAgentSays, aeSays, nullptr);
+    keepLastReportOnly(kAgentEventClass, kAgentOnOff);
     processWatch = watchProcesses(processesChanged);
     launchWatch = watchLaunches(wranglerShowAgentState);
     changesOfVisit.reset();

@@ -4,15 +4,49 @@
 #include "platform/CoreServices/detail/AppleEventHandlers.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace {
 
 constexpr int kMostAtOnce = 50;
-constexpr std::size_t kRoom = 4u << 20;      ///< bytes for one sender
-constexpr std::size_t kEachEvent = 4u << 10; ///< beside its parameters
+constexpr std::size_t kRoom = 16u << 20;     ///< bytes for one sender
+constexpr std::size_t kEachEvent = 1u << 10; ///< beside its parameters
+
+using Kind = std::pair<AEEventClass, AEEventID>;
+
+Kind kindOf(const AppleEvent& event) {
+    return {event.eventClass, event.eventID};
+}
+
+/// The kinds of which the last one counts.
+class Reports {
+public:
+    void add(Kind kind) {
+        const std::lock_guard lock(guard_);
+        kinds_.insert(kind);
+    }
+
+    bool contains(Kind kind) {
+        const std::lock_guard lock(guard_);
+        return kinds_.contains(kind);
+    }
+
+private:
+    std::mutex guard_;
+    std::set<Kind> kinds_;
+};
+
+Reports& reports() {
+    static Reports& all = *new Reports;
+    return all;
+}
 
 } // namespace
+
+void keepLastReportOnly(AEEventClass eventClass, AEEventID eventID) {
+    reports().add({eventClass, eventID});
+}
 
 AppleEventInbox::AppleEventInbox(QObject* parent) : QObject(parent) {
     look_.setSingleShot(true);
@@ -30,14 +64,13 @@ bool AppleEventInbox::put(AppleEvent event, const QDBusMessage& message,
                           const QDBusConnection& connection) {
     Waiting next{std::move(event), message, connection};
     const std::lock_guard lock(guard_);
-    if (taken_[message.service()] + next.bytes() > kRoom) {
-        if (message.isReplyRequired())
-            return false;
-        replaceLast(std::move(next));
-    } else {
-        taken_[message.service()] += next.bytes();
-        waiting_.push_back(std::move(next));
-    }
+    if (replaceLast(next))
+        return true;
+    std::size_t& taken = taken_[message.service()];
+    if (taken + next.bytes() > kRoom)
+        return false;
+    taken += next.bytes();
+    waiting_.push_back(std::move(next));
     // A timer, since posted events are handled until there are none, and that may be never.
     if (!std::exchange(isAnnounced_, true))
         QMetaObject::invokeMethod(
@@ -45,19 +78,20 @@ bool AppleEventInbox::put(AppleEvent event, const QDBusMessage& message,
     return true;
 }
 
-/// Puts the report in the place of that sender's last one of the same kind. Without one it is
-/// dropped. Under the guard, as `put`.
-void AppleEventInbox::replaceLast(Waiting report) {
+/// Puts a report whose last one counts in the place of that sender's earlier one. False when none
+/// waits. Under the guard, as `put`.
+bool AppleEventInbox::replaceLast(Waiting& report) {
+    if (report.message.isReplyRequired() || !reports().contains(kindOf(report.event)))
+        return false;
     const auto last = std::find_if(waiting_.rbegin(), waiting_.rend(), [&](const Waiting& each) {
-        return each.event.eventClass == report.event.eventClass &&
-               each.event.eventID == report.event.eventID &&
-               each.message.service() == report.message.service() &&
-               !each.message.isReplyRequired();
+        return kindOf(each.event) == kindOf(report.event) && !each.message.isReplyRequired() &&
+               each.message.service() == report.message.service();
     });
     if (last == waiting_.rend())
-        return;
+        return false;
     taken_[report.message.service()] += report.bytes() - last->bytes();
     *last = std::move(report);
+    return true;
 }
 
 std::optional<AppleEventInbox::Waiting> AppleEventInbox::take() {

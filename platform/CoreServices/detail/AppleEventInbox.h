@@ -15,13 +15,13 @@
 #include <optional>
 
 /// Events between the thread that receives them and the main thread, which handles them a few at a
-/// time, so that a flood of them delays nothing else for long. Each sender has room for a thousand;
-/// beyond that only the last of its reports counts, and what waits for an answer is refused.
+/// time, so that a flood of them delays nothing else for long. Of reports whose last one counts,
+/// each sender has one waiting. For all else a sender has 16 MiB: ten thousand records.
 class AppleEventInbox final : public QObject {
 public:
     explicit AppleEventInbox(QObject* parent);
 
-    /// Any thread. False when there is no room for an event that waits for an answer.
+    /// Any thread. False when there is no room.
     bool put(AppleEvent event, const QDBusMessage& message, const QDBusConnection& connection);
 
 private:
@@ -33,7 +33,7 @@ private:
         std::size_t bytes() const;
     };
 
-    void replaceLast(Waiting report);
+    bool replaceLast(Waiting& report);
     std::optional<Waiting> take();
     void deliver();
 

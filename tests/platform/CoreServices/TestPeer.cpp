@@ -34,6 +34,7 @@ int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     AEInstallEventHandler(kTestClass, kAnswerCode, answerCode, nullptr);
     AEInstallEventHandler(kTestClass, kReport, takeReport, nullptr);
+    keepLastReportOnly(kTestClass, kReport);
     AEInstallEventHandler(kTestClass, kLastReport, answerLastReport, nullptr);
     ProcessSerialNumber self;
     if (!registerCurrentProcess(static_cast<OSType>(std::stoul(argv[1])), fourCharCode("peer")) ||
