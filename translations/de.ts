@@ -438,10 +438,6 @@
         <translation>SCHLÜSSEL…</translation>
     </message>
     <message>
-        <source>Shows the value of settings.</source>
-        <translation>Zeigt den Wert von Einstellungen.</translation>
-    </message>
-    <message>
         <source>KEY VALUE…</source>
         <translation>SCHLÜSSEL WERT…</translation>
     </message>
@@ -458,10 +454,6 @@
         <translation>Schreibt die Einstellungen in eine Datei; - steht für die Standardausgabe.</translation>
     </message>
     <message>
-        <source>Shows what a file would change; with --yes, changes it.</source>
-        <translation>Zeigt, was eine Datei ändern würde; mit --yes wird es geändert.</translation>
-    </message>
-    <message>
         <source>Prints the completion for bash.</source>
         <translation>Gibt die Vervollständigung für bash aus.</translation>
     </message>
@@ -472,14 +464,6 @@
     <message>
         <source>Usage: korvex-preferences COMMAND [--json] [--yes] …</source>
         <translation>Aufruf: korvex-preferences BEFEHL [--json] [--yes] …</translation>
-    </message>
-    <message>
-        <source>answers for programs</source>
-        <translation>Antworten für Programme</translation>
-    </message>
-    <message>
-        <source>doesn&apos;t ask</source>
-        <translation>fragt nicht nach</translation>
     </message>
     <message>
         <source>See korvex-preferences help.</source>
@@ -583,16 +567,36 @@
         <source>Resets settings to their defaults; &quot;all&quot; stands for all of them.</source>
         <translation>Setzt Einstellungen auf den Standard zurück; „all“ steht für alle.</translation>
     </message>
+    <message>
+        <source>answers for programs: numbers are numbers, yes and no are true and false, and what changes is a list of key, from and to</source>
+        <translation>Antworten für Programme: Zahlen sind Zahlen, ja und nein sind true und false, und was sich ändert, ist eine Liste von key, from und to</translation>
+    </message>
+    <message>
+        <source>lets import change the settings; no other command asks</source>
+        <translation>lässt import die Einstellungen ändern; kein anderer Befehl fragt nach</translation>
+    </message>
+    <message>
+        <source>Shows the value of settings, as set takes it in every language.</source>
+        <translation>Zeigt den Wert von Einstellungen, wie set ihn in jeder Sprache nimmt.</translation>
+    </message>
+    <message>
+        <source>Shows what a file would change; with --yes, changes it. - stands for standard input.</source>
+        <translation>Zeigt, was eine Datei ändern würde; mit --yes wird es geändert. - steht für die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>standard output: %1</source>
+        <translation>Standardausgabe: %1</translation>
+    </message>
+    <message>
+        <source>--json goes with a file, not with -</source>
+        <translation>--json gehört zu einer Datei, nicht zu -</translation>
+    </message>
 </context>
 <context>
     <name>Faults</name>
     <message>
         <source>the change can&apos;t be sent</source>
         <translation>die Änderung kann nicht gesendet werden</translation>
-    </message>
-    <message>
-        <source>the open window doesn&apos;t answer</source>
-        <translation>das offene Fenster antwortet nicht</translation>
     </message>
     <message>
         <source>the open window doesn&apos;t take the change</source>
@@ -665,6 +669,14 @@
     <message>
         <source>%1; for example %2</source>
         <translation>%1; zum Beispiel %2</translation>
+    </message>
+    <message>
+        <source>the open window doesn&apos;t answer; the change may still come</source>
+        <translation>das offene Fenster antwortet nicht; die Änderung kann noch kommen</translation>
+    </message>
+    <message>
+        <source>not a whole number</source>
+        <translation>keine ganze Zahl</translation>
     </message>
 </context>
 <context>

@@ -438,10 +438,6 @@
         <translation>CLÉ…</translation>
     </message>
     <message>
-        <source>Shows the value of settings.</source>
-        <translation>Montre la valeur de réglages.</translation>
-    </message>
-    <message>
         <source>KEY VALUE…</source>
         <translation>CLÉ VALEUR…</translation>
     </message>
@@ -458,10 +454,6 @@
         <translation>Écrit les réglages dans un fichier&#xa0;; - désigne la sortie standard.</translation>
     </message>
     <message>
-        <source>Shows what a file would change; with --yes, changes it.</source>
-        <translation>Montre ce qu’un fichier changerait&#xa0;; avec --yes, le change.</translation>
-    </message>
-    <message>
         <source>Prints the completion for bash.</source>
         <translation>Affiche l’autocomplétion pour bash.</translation>
     </message>
@@ -472,14 +464,6 @@
     <message>
         <source>Usage: korvex-preferences COMMAND [--json] [--yes] …</source>
         <translation>Utilisation&#xa0;: korvex-preferences COMMANDE [--json] [--yes] …</translation>
-    </message>
-    <message>
-        <source>answers for programs</source>
-        <translation>réponses pour des programmes</translation>
-    </message>
-    <message>
-        <source>doesn&apos;t ask</source>
-        <translation>ne demande rien</translation>
     </message>
     <message>
         <source>See korvex-preferences help.</source>
@@ -583,16 +567,36 @@
         <source>Resets settings to their defaults; &quot;all&quot; stands for all of them.</source>
         <translation>Réinitialise des réglages ; « all » vaut pour tous.</translation>
     </message>
+    <message>
+        <source>answers for programs: numbers are numbers, yes and no are true and false, and what changes is a list of key, from and to</source>
+        <translation>réponses pour des programmes : les nombres sont des nombres, oui et non sont true et false, et ce qui change est une liste de key, from et to</translation>
+    </message>
+    <message>
+        <source>lets import change the settings; no other command asks</source>
+        <translation>laisse import changer les réglages ; aucune autre commande ne demande</translation>
+    </message>
+    <message>
+        <source>Shows the value of settings, as set takes it in every language.</source>
+        <translation>Montre la valeur de réglages, telle que set la prend dans toutes les langues.</translation>
+    </message>
+    <message>
+        <source>Shows what a file would change; with --yes, changes it. - stands for standard input.</source>
+        <translation>Montre ce qu’un fichier changerait ; avec --yes, le change. - désigne l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>standard output: %1</source>
+        <translation>sortie standard : %1</translation>
+    </message>
+    <message>
+        <source>--json goes with a file, not with -</source>
+        <translation>--json va avec un fichier, pas avec -</translation>
+    </message>
 </context>
 <context>
     <name>Faults</name>
     <message>
         <source>the change can&apos;t be sent</source>
         <translation>le changement ne peut pas être envoyé</translation>
-    </message>
-    <message>
-        <source>the open window doesn&apos;t answer</source>
-        <translation>la fenêtre ouverte ne répond pas</translation>
     </message>
     <message>
         <source>the open window doesn&apos;t take the change</source>
@@ -665,6 +669,14 @@
     <message>
         <source>%1; for example %2</source>
         <translation>%1&#xa0;; par exemple %2</translation>
+    </message>
+    <message>
+        <source>the open window doesn&apos;t answer; the change may still come</source>
+        <translation>la fenêtre ouverte ne répond pas ; le changement peut encore venir</translation>
+    </message>
+    <message>
+        <source>not a whole number</source>
+        <translation>pas un nombre entier</translation>
     </message>
 </context>
 <context>
