@@ -72,7 +72,7 @@ def without_a_window():
     assert len(keys) == 40
     time = rows["scanner.lineScanTime"]
     assert (time["min"], time["max"], time["value"]) == (1, 60, 12.5), time
-    expect("Scanning (off | on); default: on", "list")
+    expect("Scanning with Korvex (off | on); default: on", "list")
     run("profile", "save", "Tired")
     run("reset", "all")
     run("profile", "save", "Rested")
