@@ -19,6 +19,7 @@ constexpr int kFrameMs = 16;             ///< at 60 frames a second
 constexpr double kHalfAFrame = 0.5 / 60; ///< s; a line drawn for then is right in the middle
 constexpr double kSecondsAMillisecond = 1e-3;
 constexpr double kLongestWait = 24 * 3600; ///< s; more than any phase
+constexpr double kFaultTime = 2;           ///< s; how long a fault is to be read
 
 /// The pointer's picture; an unknown one as "default".
 PointerImage pictureOf(const char* name) {
@@ -39,7 +40,8 @@ bool endsScan(const PrefsRecord& before, const PrefsRecord& after) {
 
 Scanner::Scanner(Link& link, XServer& server, Guard& guard)
     : link_(link), server_(server), guard_(guard), desktop_(server), switches_(server, *this),
-      hand_(server, guard), overlay_(server), settings_(link.settings()) {
+      hand_(server, guard), deeds_(server, hand_, *this), overlay_(server),
+      palette_(server, actions_), settings_(link.settings()) {
     deadline_.setSingleShot(true);
     deadline_.setTimerType(Qt::PreciseTimer);
     frames_.setTimerType(Qt::PreciseTimer);
@@ -49,6 +51,7 @@ Scanner::Scanner(Link& link, XServer& server, Guard& guard)
     lockLook_.setInterval(kLockLookMs);
     QObject::connect(&lockLook_, &QTimer::timeout, [this] { lookAtLock(); });
     desktop_.onScreens([this] { screensChanged(); });
+    desktop_.onActiveWindow([this] { activeWindowChanged(); });
     desktop_.onLock([this](bool isLocked) { screenLocked(isLocked); });
     link_.setListener(this);
     useSettings();
@@ -63,6 +66,8 @@ void Scanner::useSettings() {
     presses_.setRules(PressRules(settings_));
     scan_.setRules(ScanRules(settings_));
     sounds_.use(settings_);
+    actions_.setRepeatTime(settings_.autoRepeatTime);
+    palette_.use(settings_);
     overlay_.setLook(settings_, scale, pictureOf(settings_.pointerImageName));
     switches_.use(settings_, scale);
     updateSwitches();
@@ -70,8 +75,11 @@ void Scanner::useSettings() {
 
 void Scanner::settingsChanged() {
     const PrefsRecord before = std::exchange(settings_, link_.settings());
+    if (before.on != settings_.on)
+        isPaused_ = false;
     if (endsScan(before, settings_))
         endEverything();
+    actions_.press();
     useSettings();
     if (!scan_.isIdle())
         scan_.setTimes(regions());
@@ -91,6 +99,12 @@ void Scanner::screensChanged() {
     useSettings();
 }
 
+/// What repeats was meant for the other window.
+void Scanner::activeWindowChanged() {
+    actions_.press();
+    follow();
+}
+
 void Scanner::screenLocked(bool isLocked) {
     isLocked_ = isLocked;
     endEverything();
@@ -108,7 +122,7 @@ void Scanner::lookAtLock() {
 Switches::State Scanner::stateOfSwitches() const {
     if (isLocked_ || link_.paneHoldsKeys())
         return Switches::State::Free;
-    if (!settings_.on)
+    if (!isActive())
         return Switches::State::Off;
     return scan_.isIdle() ? Switches::State::Ready : Switches::State::Scanning;
 }
@@ -149,7 +163,7 @@ void Scanner::switchUp(Switch which, double moment) {
 }
 
 void Scanner::onOffKey() {
-    switchOn(!settings_.on);
+    switchOn(!isActive());
 }
 
 void Scanner::showSettingsKey() {
@@ -161,7 +175,10 @@ void Scanner::cancelKey() {
 }
 
 void Scanner::switchOn(bool on) {
-    link_.switchTo(on); // it comes back as settingsChanged
+    isPaused_ = false;
+    if (settings_.on != on)
+        link_.switchTo(on); // it comes back as settingsChanged
+    updateSwitches();
     if (on)
         notify(localized("Agent", "Scanning is on."));
 }
@@ -174,12 +191,12 @@ void Scanner::act(const Signal& signal) {
         endEverything();
         break;
     case Signal::Kind::Wake:
-        if (!settings_.on)
+        if (!isActive())
             switchOn(true);
         break;
     case Signal::Kind::Press:
     case Signal::Kind::Choose:
-        if (!settings_.on)
+        if (!isActive())
             break;
         if (isCancel && !scan_.isIdle())
             cancel();
@@ -192,8 +209,10 @@ void Scanner::act(const Signal& signal) {
     }
 }
 
-/// The scan takes it, or it begins another.
+/// It ends what repeats, or the scan takes it, or it begins another.
 void Scanner::press(const Signal& signal) {
+    if (actions_.press())
+        return;
     if (!scan_.isIdle() && scan_.signal(signal))
         return;
     if (const auto place = scan_.takeChoice())
@@ -210,6 +229,7 @@ std::vector<Region> Scanner::regions() const {
     const ScanArea& own = settings_.scanArea;
     if (settings_.useScanArea && isUsable(own))
         around.ownArea = desktop_.inPixels(own.x, own.y, own.width, own.height);
+    deeds_.addTo(around);
     return regionsOf(settings_, around);
 }
 
@@ -220,27 +240,96 @@ void Scanner::start(double moment) {
         return;
     }
     scan_.start(regions(), moment);
+    hasOutcome_ = false;
     guard_.watch();
     frames_.start();
     updateSwitches();
 }
 
 void Scanner::choose(Place place) {
+    hasOutcome_ = true;
     overlay_.hide();
-    hand_.click({.place = place, .duration = settings_.clickDuration * kSecondsAMillisecond});
-    presses_.clicked(XServer::now());
-    sounds_.click();
+    const double now = XServer::now();
+    if (const auto action = palette_.actionAt(scan_.region(), place)) {
+        const bool wasOn = actions_.isOn(*action);
+        actions_.chooseButton(*action, now);
+        if (actions_.isOn(*action) != wasOn)
+            sounds_.arm();
+    } else {
+        actions_.choosePoint(place, now);
+    }
+    carryOut();
 }
 
-void Scanner::cancel() {
-    scan_.cancel();
+void Scanner::carryOut() {
+    for (const Deed& deed : actions_.take()) {
+        const std::string fault = deeds_.carryOut(deed, settings_);
+        if (fault.empty())
+            sound(deed);
+        else
+            cantDo(fault);
+    }
+}
+
+/// It is heard, and read beside the palette. What repeats can't be done again either.
+void Scanner::cantDo(const std::string& why) {
+    actions_.press();
+    sounds_.refuse();
+    fault_ = why;
+    faultEnd_ = XServer::now() + kFaultTime;
     follow();
 }
 
-void Scanner::endEverything() {
+void Scanner::scanNow() {
+    if (stateOfSwitches() == Switches::State::Ready && !actions_.repeats())
+        start(XServer::now());
+    follow();
+}
+
+void Scanner::pause() {
+    isPaused_ = true;
+    notify(localized("Agent", "Scanning pauses. Hold your switch for four seconds to go on."));
+    endEverything();
+    updateSwitches();
+}
+
+void Scanner::change(const SettingSet& settings, const PrefsRecord& record) {
+    link_.change(settings, record);
+}
+
+void Scanner::sound(const Deed& deed) {
+    switch (deed.kind) {
+    case Deed::Kind::Click:
+        presses_.clicked(XServer::now());
+        sounds_.click();
+        break;
+    case Deed::Kind::ButtonDown:
+        sounds_.pickUp();
+        break;
+    case Deed::Kind::ButtonUp:
+    case Deed::Kind::GiveUp:
+        sounds_.drop();
+        break;
+    default:
+        break;
+    }
+}
+
+void Scanner::cancel() {
+    hasOutcome_ = true;
     scan_.cancel();
+    actions_.cancel();
+    follow();
+}
+
+/// What was picked up stays where it is: Escape might reach whoever has the keys now.
+void Scanner::endEverything() {
+    hasOutcome_ = true;
+    scan_.cancel();
+    actions_.cancel();
+    actions_.take();
     presses_.forget();
-    hand_.letGo();
+    deeds_.letGo();
     follow();
 }
 
@@ -252,13 +341,23 @@ void Scanner::follow() {
     scan_.advance(now);
     if (const auto place = scan_.takeChoice())
         choose(*place);
+    actions_.advance(now);
+    carryOut();
+    if (now >= faultEnd_)
+        fault_.clear();
     if (scan_.isIdle() && frames_.isActive()) {
         frames_.stop();
         guard_.rest();
         overlay_.hide();
+        if (!hasOutcome_)
+            deeds_.scanRanOut(settings_);
         updateSwitches();
     }
-    const double next = std::min({presses_.deadline(), scan_.deadline(), now + kLongestWait}) - now;
+    if (scan_.isIdle())
+        showPalette();
+    const double next = std::min({presses_.deadline(), scan_.deadline(), actions_.deadline(),
+                                  fault_.empty() ? kLongestWait + now : faultEnd_}) -
+                        now;
     if (next < kLongestWait)
         deadline_.start(std::max(0, static_cast<int>(std::ceil(next / kSecondsAMillisecond))));
     else
@@ -269,6 +368,20 @@ void Scanner::frame() {
     server_.drain(); // a press that is here already comes before the frame
     guard_.heartbeat();
     follow();
-    if (!scan_.isIdle())
-        overlay_.show(scan_.pictureAt(XServer::now() + kHalfAFrame));
+    if (scan_.isIdle())
+        return;
+    const Picture picture = scan_.pictureAt(XServer::now() + kHalfAFrame);
+    const xcb_window_t lowest = overlay_.show(picture);
+    std::optional<Place> pointer;
+    if (picture.pointer && picture.guide)
+        pointer = {*picture.pointer, *picture.guide};
+    palette_.show(picture.region, pointer, fault_, lowest);
+}
+
+/// Without a scan it is seen while an action repeats, and beside a fault.
+void Scanner::showPalette() {
+    if (actions_.repeats() || !fault_.empty())
+        palette_.show(scan_.region(), {}, fault_, XCB_NONE);
+    else
+        palette_.hide();
 }

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "agent/Deeds.h"
 #include "agent/Link.h"
+#include "agent/Palette.h"
 #include "agent/Sounds.h"
 #include "agent/scan/Presses.h"
 #include "agent/scan/Scan.h"
@@ -15,8 +17,9 @@
 #include <QTimer>
 
 /// Scans an X11 desktop. A press goes from the switches through the filter to the scan; what is
-/// chosen goes to the hand; each frame goes from the scan to the overlay.
-class Scanner final : public Link::Listener, private Switches::Listener {
+/// chosen goes to the actions, and what these decide is carried out. Each frame goes from the scan
+/// to the overlay and the palette.
+class Scanner final : public Link::Listener, private Switches::Listener, private Deeds::Listener {
 public:
     /// All must outlive it. Begins at once, if the link's settings say so.
     Scanner(Link& link, XServer& server, Guard& guard);
@@ -32,10 +35,19 @@ private:
     void showSettingsKey() override;
     void cancelKey() override;
 
+    void cantDo(const std::string& why) override;
+    void scanNow() override;
+    void pause() override;
+    void change(const SettingSet& settings, const PrefsRecord& record) override;
+
     void useSettings();
     void screensChanged();
+    void activeWindowChanged();
     void screenLocked(bool isLocked);
     void lookAtLock();
+
+    bool isActive() const { return settings_.on && !isPaused_; }
+
     Switches::State stateOfSwitches() const;
     void updateSwitches();
     void tellTrouble();
@@ -46,12 +58,15 @@ private:
     std::vector<Region> regions() const;
     void start(double moment);
     void choose(Place place);
+    void carryOut();
+    void sound(const Deed& deed);
     void cancel();
     void endEverything();
     /// After whatever may have changed the scan: its end, its choice, the next deadline, the
     /// picture.
     void follow();
     void frame();
+    void showPalette();
 
     Link& link_;
     XServer& server_;
@@ -59,14 +74,21 @@ private:
     Desktop desktop_;
     Switches switches_;
     Hand hand_;
+    Deeds deeds_;
     Overlay overlay_;
+    Actions actions_;
+    Palette palette_;
     Sounds sounds_;
     PrefsRecord settings_; ///< as used last
     Presses presses_;
     Scan scan_;
-    QTimer deadline_; ///< of presses and scan
+    QTimer deadline_; ///< of presses, scan, actions and the fault
     QTimer frames_;   ///< runs while a scan is under way
     QTimer lockLook_; ///< runs while a lock that tells nobody is up
     bool isLocked_ = false;
+    bool hasOutcome_ = true; ///< the scan was cancelled, or something was chosen
+    bool isPaused_ = false;  ///< by the user: as if it were off
     std::string toldTrouble_;
+    std::string fault_; ///< of what couldn't be done, until then
+    double faultEnd_ = 0;
 };

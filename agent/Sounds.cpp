@@ -17,6 +17,7 @@ namespace {
 // Names of freedesktop.org's sound naming specification. The first that the theme has is heard: the
 // theme "freedesktop", which is there when no other is, lacks the fitting ones.
 constexpr const char* kClick[] = {"button-pressed", "audio-volume-change", nullptr};
+constexpr const char* kArm[] = {"button-toggle-on", "message", nullptr};
 constexpr const char* kPickUp[] = {"drag-start", "device-added", nullptr};
 constexpr const char* kDrop[] = {"drag-accept", "device-removed", nullptr};
 constexpr const char* kRefuse[] = {"drag-fail", "dialog-error", "bell", nullptr};
@@ -104,6 +105,10 @@ void Sounds::use(const PrefsRecord& record) {
 
 void Sounds::click() {
     play(hearsClicks_, kClick);
+}
+
+void Sounds::arm() {
+    play(hearsClicks_, kArm);
 }
 
 void Sounds::pickUp() {

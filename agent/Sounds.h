@@ -20,6 +20,7 @@ public:
     void use(const PrefsRecord& record);
 
     void click();  ///< a click was made; if clicks are to be heard
+    void arm();    ///< a button of the palette was pressed in, or comes out; as clicks
     void pickUp(); ///< a drag begins; if prompts are to be heard
     void drop();   ///< it ends; the same
     void refuse(); ///< something can't be done; the same

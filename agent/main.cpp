@@ -10,10 +10,11 @@
 #include "agent/Scanner.h"
 #include "agent/UnixSignals.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "src/record/palactions.h"
 
+#include <QApplication>
 #include <QDBusConnection>
 #include <QFileInfo>
-#include <QGuiApplication>
 
 #include <csignal>
 #include <cstdio>
@@ -46,13 +47,14 @@ Session session() {
     return answers ? Session::X11 : Session::None;
 }
 
-/// With a display it knows the screens. Neither variable is for the programs that it starts.
+/// With a display it knows the screens, and draws the palette as the pane does. Neither variable is
+/// for the programs that it starts.
 std::unique_ptr<QCoreApplication> makeApplication(Session session, int& argc, char** argv) {
     if (session != Session::X11)
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "xcb");
     qputenv("QT_QPA_PLATFORMTHEME", "generic"); // no toolkit is loaded for its colours
-    auto application = std::make_unique<QGuiApplication>(argc, argv);
+    auto application = std::make_unique<QApplication>(argc, argv);
     qunsetenv("QT_QPA_PLATFORM");
     qunsetenv("QT_QPA_PLATFORMTHEME");
     return application;
@@ -106,6 +108,7 @@ struct Scanning {
         else if (session == Session::X11)
             server = XServer::connect(fault);
         if (server) {
+            palutilUseBundle(CFBundleGetMainBundle);
             server->onEnd([] { QCoreApplication::exit(1); });
             scanner.emplace(link, *server, *guard);
         } else if (!fault.empty()) {

@@ -142,8 +142,9 @@ bool Actions::isOn(UInt8 action) const {
     if (kind == ActionKind::Control)
         return control_;
     const bool isHeld = held_ && held_->kind == kind;
-    const bool repeats = repetition_ && repetition_->deed.kind == Deed::Kind::Action &&
-                         repetition_->deed.action == action;
+    const bool repeats = repetition_ && (repetition_->deed.kind == Deed::Kind::Scroll
+                                             ? kind == ActionKind::Scroll
+                                             : repetition_->deed.action == action);
     const bool isArmed = isForAPoint(kind) && kind != ActionKind::Click && armed_ == kind;
     return isHeld || repeats || isArmed;
 }

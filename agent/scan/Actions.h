@@ -103,6 +103,9 @@ public:
     /// Whether that button looks pressed: it is armed, or what it does goes on.
     bool isOn(UInt8 action) const;
 
+    /// Whether something goes on until a press.
+    bool repeats() const { return repetition_.has_value(); }
+
     /// Whether a button of the mouse is down.
     bool holds() const { return held_.has_value(); }
 

@@ -65,7 +65,8 @@ Region regionAt(const Area& area, const PrefsRecord& record, const Screen& scree
                 double speed = 1) {
     return {.area = area,
             .lineTime = record.lineScanTime * area.height / screen.area.height / speed,
-            .pointerTime = record.pointerScanTime * area.width / screen.area.width};
+            .pointerTime = record.pointerScanTime * area.width / screen.area.width,
+            .scale = screen.scale};
 }
 
 std::vector<Region> menuRegions(const PrefsRecord& record, const std::vector<Area>& menus,

@@ -21,6 +21,7 @@ struct Region {
     double lineTime = 0;
     double pointerTime = 0;
     bool isMenu = false; ///< there is no pointer: the middle of the line's row is chosen
+    double scale = 1;    ///< pixels a point
 
     bool operator==(const Region&) const = default;
 };

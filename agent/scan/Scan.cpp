@@ -84,7 +84,7 @@ Picture Scan::pictureAt(double moment) const {
         return {};
     const Area& all = area(state);
     Picture picture;
-    picture.region = all;
+    picture.region = regions_[state.region];
     const bool isPointer = isOfPointer(state);
     if (const auto position = this->position(state, moment))
         (isPointer ? picture.pointer : picture.line) = (isPointer ? all.left : all.top) + *position;
@@ -179,7 +179,7 @@ void Scan::begin(State& state, Phase delay, double moment) const {
 }
 
 void Scan::sweep(State& state, Phase delay, double setOff) const {
-    const auto& [all, lineTime, pointerTime, isMenu] = regions_[state.region];
+    const auto& [all, lineTime, pointerTime, isMenu, scale] = regions_[state.region];
     state.phase = delay;
     state.setOff = setOff;
     state.sweep = delay == Phase::PointerDelay

@@ -27,7 +27,7 @@ struct Picture {
     std::optional<double> guide;   ///< the stopped line's centre, y: the pointer's path
     std::optional<double> pointer; ///< the pointer's hot spot on the guide, x
     std::optional<Area> band;      ///< in step scanning: what the next presses divide
-    Area region;                   ///< the lines end at its edges
+    Region region;                 ///< the lines end at its edges
 
     bool operator==(const Picture&) const = default;
 };
@@ -85,6 +85,9 @@ public:
 
     /// The choice, once: the point between the presses' moments. None while there is none.
     std::optional<Place> takeChoice();
+
+    /// The region of the present, or of the last choice. Only once a scan was started.
+    const Region& region() const { return regions_[state_.region]; }
 
 private:
     /// Where a scan stands, in a value of its own: what is ahead can be looked at in a copy.

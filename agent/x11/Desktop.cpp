@@ -2,6 +2,7 @@
 #include "agent/x11/Desktop.h"
 
 #include "agent/x11/Panels.h"
+#include "agent/x11/Properties.h"
 #include "agent/x11/ScreenLock.h"
 #include "agent/x11/Screens.h"
 
@@ -11,8 +12,15 @@
 #include <utility>
 #include <xcb/randr.h>
 
+namespace {
+
+constexpr const char* kActiveWindow = "_NET_ACTIVE_WINDOW";
+
+} // namespace
+
 Desktop::Desktop(XServer& server) : server_(server), popUps_(std::make_unique<PopUps>(server)) {
     followServer();
+    followRoot();
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         followQt();
 }
@@ -52,6 +60,10 @@ void Desktop::onScreens(std::function<void()> changed) {
     screensChanged_ = std::move(changed);
 }
 
+void Desktop::onActiveWindow(std::function<void()> changed) {
+    activeWindowChanged_ = std::move(changed);
+}
+
 void Desktop::onLock(std::function<void(bool)> changed) {
     lock_ = std::make_unique<ScreenLock>(std::move(changed));
 }
@@ -85,6 +97,26 @@ void Desktop::followServer() {
         if (type == first + XCB_RANDR_SCREEN_CHANGE_NOTIFY || type == first + XCB_RANDR_NOTIFY)
             tellScreens();
     });
+}
+
+void Desktop::followRoot() {
+    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_change_window_attributes(server_.connection(), server_.root(), XCB_CW_EVENT_MASK, &mask);
+    activeWindow_ = activeWindow();
+    server_.onEvent([this](const xcb_generic_event_t& event) {
+        const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+        if ((event.response_type & 0x7f) != XCB_PROPERTY_NOTIFY ||
+            change.atom != server_.atom(kActiveWindow))
+            return;
+        const xcb_window_t now = activeWindow();
+        if (std::exchange(activeWindow_, now) != now && activeWindowChanged_)
+            activeWindowChanged_();
+    });
+}
+
+xcb_window_t Desktop::activeWindow() const {
+    const auto windows = numbersOf(server_, askProperty(server_, server_.root(), kActiveWindow));
+    return windows.empty() ? XCB_NONE : windows.front();
 }
 
 void Desktop::tellScreens() const {

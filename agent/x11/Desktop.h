@@ -46,6 +46,8 @@ public:
 
     /// Called when screens come, go or change, perhaps more than once for a change.
     void onScreens(std::function<void()> changed);
+    /// Called when the active window is another one, as the window manager says.
+    void onActiveWindow(std::function<void()> changed);
     /// Called with true when the screen gets locked, and with false when it is unlocked: by
     /// logind's hint or a screen saver's signal. It is unlocked at first.
     void onLock(std::function<void(bool)> changed);
@@ -54,10 +56,13 @@ private:
     void followQt();
     void followServer();
     void tellScreens() const;
+    void followRoot();
+    xcb_window_t activeWindow() const;
 
     XServer& server_;
     std::unique_ptr<PopUps> popUps_;
-    std::function<void()> screensChanged_;
+    std::function<void()> screensChanged_, activeWindowChanged_;
+    xcb_window_t activeWindow_ = XCB_NONE;
     std::unique_ptr<ScreenLock> lock_;
     QObject context_; ///< of the connections to Qt's signals
 };

@@ -85,10 +85,11 @@ public:
         redraw();
     }
 
-    void show(const Picture& picture) {
+    xcb_window_t show(const Picture& picture) {
         shown_ = picture;
-        place(picture);
+        const xcb_window_t lowest = place(picture);
         server_.flush();
+        return lowest;
     }
 
 private:
@@ -96,7 +97,7 @@ private:
     void drawGuides(double alpha);
     void drawBand(double alpha);
     void drawPointer();
-    void place(const Picture& picture);
+    xcb_window_t place(const Picture& picture);
 
     bool blends() const { return compositor_.isRunning() && visual_.depth == 32; }
 
@@ -152,8 +153,8 @@ void Overlay::Windows::drawPointer() {
     }
 }
 
-void Overlay::Windows::place(const Picture& picture) {
-    const QRect region = pixelsOf(picture.region);
+xcb_window_t Overlay::Windows::place(const Picture& picture) {
+    const QRect region = pixelsOf(picture.region.area);
     const int thickness = pixels(record_.lineThickness);
     const auto across = [&](double y) {
         return QRect(region.x(), startOf(y, thickness), region.width(), thickness);
@@ -178,7 +179,7 @@ void Overlay::Windows::place(const Picture& picture) {
     above = cross_.show(cross, above);
     above = guide_.show(guide, above);
     above = line_.show(line, above);
-    band_.show(band, above);
+    return band_.show(band, above);
 }
 
 Overlay::Overlay(XServer& server) : windows_(std::make_unique<Windows>(server)) {}
@@ -189,8 +190,8 @@ void Overlay::setLook(const PrefsRecord& record, double scale, const PointerImag
     windows_->setLook(record, scale, pointer);
 }
 
-void Overlay::show(const Picture& picture) {
-    windows_->show(picture);
+xcb_window_t Overlay::show(const Picture& picture) {
+    return windows_->show(picture);
 }
 
 void Overlay::hide() {

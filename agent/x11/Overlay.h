@@ -25,8 +25,9 @@ public:
     /// `pointer` is the pointer's picture, a pixel a point; a null image shows a plain arrow.
     void setLook(const PrefsRecord& record, double scale, const PointerImage& pointer);
 
-    /// Shows that. Windows that it doesn't name are hidden.
-    void show(const Picture& picture);
+    /// Shows that. Windows that it doesn't name are hidden. Gives the lowest that is shown, for
+    /// what is to lie below it, or XCB_NONE.
+    xcb_window_t show(const Picture& picture);
     void hide();
 
 private:

@@ -11,11 +11,12 @@
 #include <cstring>
 
 /// A test on a display of its own: a server, the agent's connection to it, and another program's.
-class DisplayTest : public ApplicationTest<QCoreApplication> {
+template <class Application>
+class DisplayTestWith : public ApplicationTest<Application> {
 protected:
     static constexpr int kWidth = 800, kHeight = 600;
 
-    DisplayTest() : server_(XServer::connect(fault_)), others_(XServer::connect(fault_)) {}
+    DisplayTestWith() : server_(XServer::connect(fault_)), others_(XServer::connect(fault_)) {}
 
     void SetUp() override { ASSERT_TRUE(server_ && others_) << fault_; }
 
@@ -77,3 +78,5 @@ private:
 protected:
     std::unique_ptr<XServer> server_, others_;
 };
+
+using DisplayTest = DisplayTestWith<QCoreApplication>;

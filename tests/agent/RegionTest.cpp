@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 
 static void PrintTo(const Region& region, std::ostream* out) {
-    const auto& [area, lineTime, pointerTime, isMenu] = region;
+    const auto& [area, lineTime, pointerTime, isMenu, scale] = region;
     *out << area.left << ", " << area.top << ", " << area.width << ", " << area.height << " in "
-         << lineTime << " and " << pointerTime << (isMenu ? " of a menu" : "");
+         << lineTime << " and " << pointerTime << (isMenu ? " of a menu" : "") << " at " << scale;
 }
 
 namespace {
@@ -15,7 +15,7 @@ namespace {
 /// A desk with a panel on its left screen, and a right one at twice the pixels.
 const Area kLeft{0, 0, 1000, 800}, kRight{1000, 0, 500, 400};
 const std::vector<Screen> kScreens{{kLeft, 1, 40}, {kRight, 2}};
-const std::vector<Region> kBoth{{kLeft, 8, 10}, {kRight, 8, 10}};
+const std::vector<Region> kBoth{{kLeft, 8, 10}, {kRight, 8, 10, false, 2}};
 
 /// What may differ: the pointer is on the left, and there is no area.
 struct Desk {
@@ -46,7 +46,7 @@ TEST(Region, IsWhatIsThereWithItsShareOfTheTimes) {
         {"below the panel", {.hasPanel = false}, {{{0, 40, 1000, 760}, 7.6, 10}, kBoth[1]}},
         {"no screens", {{{{5, 5, 0, 9}}}}, {{{0, 0, 1, 1}, 8, 10}}},
         {"the own area", {.ownArea = {900, 700, 300, 200}}, {{{900, 700, 100, 100}, 1, 1}}},
-        {"over both screens", {.ownArea = {500, -9, 5000, 409}}, {{{500, 0, 1000, 400}, 8, 20}}},
+        {"over both screens", {.ownArea = {500, -9, 5000, 409}}, {{{500, 0, 1000, 400}, 8, 20, false, 2}}},
         {"not used", {.ownArea = kRight, .usesArea = false}, kBoth},
         {"off all screens", {.ownArea = {1100, 500, 100, 100}}, kBoth},
         {"no number", {.ownArea = {NAN, 0, NAN, 100}}, kBoth},
@@ -55,7 +55,7 @@ TEST(Region, IsWhatIsThereWithItsShareOfTheTimes) {
         {"menus, at half the speed",
          {.ownArea = kLeft, .keyboard = kLeft,
           .menus = {{1100, 100, 100, 100}, {-50, 700, 100, 200}, {0, 900, 10, 10}}},
-         {{{1100, 100, 100, 100}, 4, 2, true}, {{0, 700, 50, 100}, 2, .5, true}}}};
+         {{{1100, 100, 100, 100}, 4, 2, true, 2}, {{0, 700, 50, 100}, 2, .5, true}}}};
     // clang-format on
     for (const auto& [what, desk, regions] : cases) {
         PrefsRecord record;

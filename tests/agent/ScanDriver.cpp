@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/agent/ScanDriver.h"
 
+#include "agent/scan/Actions.h"
+#include "agent/scan/PalettePlace.h"
 #include "agent/scan/Scan.h"
 #include "agent/scan/Settings.h"
+#include "src/record/palactions.h"
 #include "src/record/settings.h"
 #include "src/record/settingwords.h"
 
@@ -15,7 +18,7 @@
 namespace {
 
 constexpr double kLongestScan = 6000; ///< seconds; menus of two screens' height at a tenth of 60
-constexpr int kMostChanges = 50;      ///< of one scan without a press
+constexpr int kMostChanges = 50;      ///< of one scan without a press, or of the actions
 
 void require(bool holds, const char* rule) {
     if (!holds) {
@@ -28,7 +31,7 @@ bool isPress(const Signal& signal) {
     return signal.kind == Signal::Kind::Press || signal.kind == Signal::Kind::Choose;
 }
 
-/// What goes on between the presses and the scan, at a desk of two screens.
+/// What goes on between the presses, the scan and the actions, at a desk of two screens.
 class Desk {
 public:
     explicit Desk(const PrefsRecord& record) : record_(record) { setRules(); }
@@ -46,12 +49,17 @@ private:
     void pass(double seconds);
     void handle(const Signal& signal);
     void look();
+    void choose(Place place);
+    int carryOut();
 
     PrefsRecord record_, checked_;
     Surroundings around_{
         {{{0, 0, 1920, 1080}, 1, 30}, {{1920, -200, 800, 600}}}, {9, 9}, {}, {}, {}};
     Presses presses_;
     Scan scan_;
+    Actions actions_;
+    bool isDown_ = false; ///< a button of the mouse
+    int repeats_ = 0;     ///< without a press
     std::vector<Region> regions_;
     double now_ = 1000;
     bool hasChosen_ = false;
@@ -62,6 +70,7 @@ void Desk::setRules() {
     checked_ = checkedRecord(record_);
     presses_.setRules(PressRules(checked_));
     scan_.setRules(ScanRules(checked_));
+    actions_.setRepeatTime(checked_.autoRepeatTime);
 }
 
 void Desk::change(UInt8 which, UInt8 value) {
@@ -78,7 +87,7 @@ void Desk::change(UInt8 which, UInt8 value) {
 void Desk::happen(UInt8 what, UInt8 how) {
     const auto which = static_cast<Switch>(how % kSwitches);
     const double late = how % 50 / 1000.0;
-    switch (what % 8) {
+    switch (what % 9) {
     case 0:
     case 1:
         presses_.down(which, now_ - late);
@@ -97,8 +106,12 @@ void Desk::happen(UInt8 what, UInt8 how) {
         around_.menus.assign(what / 8 % 3, {how * 12.0, what * 4.0, how * 2.0, what * 8.0});
         around_.ownArea = {how * 12.0 - 200, what * 4.0 - 300, what * 3.0, how * 1.0};
         break;
+    case 7:
+        actions_.chooseButton(how % (kNumActions + 1), now_);
+        repeats_ = 0;
+        break;
     default:
-        what == 7 ? scan_.cancel() : what == 15 ? presses_.forget() : presses_.clicked(now_);
+        what == 8 ? scan_.cancel() : what == 17 ? presses_.forget() : presses_.clicked(now_);
     }
     pass(how * how / 8000.0);
 }
@@ -111,11 +124,20 @@ void Desk::pass(double seconds) {
         handle(signal);
     scan_.advance(now_);
     look();
+    carryOut();
+    actions_.advance(now_);
+    require(actions_.deadline() > now_, "actions wait for what is to come");
+    repeats_ += carryOut();
+    require(repeats_ < Actions::kMostRepeats, "a repetition ends by itself");
 }
 
 void Desk::handle(const Signal& signal) {
     if (signal.kind == Signal::Kind::End)
-        scan_.cancel();
+        scan_.cancel(), actions_.cancel();
+    if (isPress(signal))
+        repeats_ = 0;
+    if (isPress(signal) && actions_.press())
+        return require(!actions_.repeats(), "a press ends what repeats");
     if (scan_.signal(signal) || !isPress(signal))
         return;
     look();
@@ -127,7 +149,7 @@ void Desk::handle(const Signal& signal) {
 void Desk::look() {
     require(std::isfinite(scan_.deadline()) != scan_.isIdle(), "each phase has an end");
     const Picture picture = scan_.pictureAt(now_ + 0.01);
-    const Area& region = picture.region;
+    const Area& region = picture.region.area;
     require(!(scan_.isIdle() && picture.line), "nothing is shown when idle");
     for (const auto& y : {picture.line, picture.guide})
         require(!y || (*y >= region.top && *y <= region.bottom()), "a line is within its region");
@@ -140,6 +162,33 @@ void Desk::look() {
                 std::ranges::any_of(
                     regions_, [&](const Region& each) { return each.area.contains(*choice); }),
             "a choice is within a region");
+    if (choice)
+        choose(*choice);
+}
+
+void Desk::choose(Place place) {
+    repeats_ = 0;
+    const PalettePlace palette(checked_, scan_.region());
+    const auto slot = palette.slotAt(place);
+    require(!slot || palette.frame.contains(place), "the buttons are on the palette");
+    if (slot)
+        actions_.chooseButton(checked_.buttonActions[*slot], now_);
+    else if (!palette.frame.contains(place))
+        actions_.choosePoint(place, now_);
+}
+
+/// How much was done.
+int Desk::carryOut() {
+    const std::vector<Deed> deeds = actions_.take();
+    for (const Deed& deed : deeds) {
+        const bool isDown = deed.kind == Deed::Kind::ButtonDown;
+        const bool isUp = deed.kind == Deed::Kind::ButtonUp || deed.kind == Deed::Kind::GiveUp;
+        require(!(isDown && isDown_) && !(isUp && !isDown_), "down and up take turns");
+        require(!(isDown_ && deed.kind == Deed::Kind::Click), "no click while the button is down");
+        isDown_ = isDown || (isDown_ && !isUp);
+    }
+    require(isDown_ == actions_.holds(), "it knows whether the button is down");
+    return static_cast<int>(deeds.size());
 }
 
 void Desk::leave() {
@@ -148,6 +197,9 @@ void Desk::leave() {
     for (int i = 0; i < kMostChanges && !scan_.isIdle(); ++i)
         pass(std::max(scan_.deadline() - now_, 0.0));
     require(scan_.isIdle() && now_ - left < kLongestScan, "a scan ends by itself");
+    for (int i = 0; i < kMostChanges && std::isfinite(actions_.deadline()); ++i)
+        pass(actions_.deadline() - now_);
+    require(!isDown_ && !actions_.repeats(), "nothing is held or repeats for ever");
 }
 
 } // namespace

@@ -125,7 +125,7 @@ TEST(Scan, PicturesAreRightAheadOfTimeAndRulesHoldFromTheNextSweep) {
     happen(scan, kTwo, "p0");
     EXPECT_EQ(scan.pictureAt(9.9).line, 545);
     EXPECT_EQ(scan.pictureAt(10.5).line, 5) << "of the next region, before the time is handled";
-    EXPECT_EQ(scan.pictureAt(10.5).region, kRight.area);
+    EXPECT_EQ(scan.pictureAt(10.5).region, kRight);
     scan.setTimes({kRight}); // of others
     scan.setTimes({{kRegion.area, 1, 5}, kRight});
     happen(scan, {}, "p4");

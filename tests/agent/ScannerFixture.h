@@ -11,6 +11,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstdio>
 
 constexpr int kWidth = 800, kHeight = 600;
@@ -24,7 +25,7 @@ struct Span {
     double from, to;
 };
 
-/// Scans quickly, by keys that need no modifier.
+/// Scans quickly, by keys that need no modifier, without a palette: only the lines are shown.
 inline PrefsRecord quickSettings() {
     PrefsRecord record;
     record.preScanDelay = kDelay;
@@ -33,6 +34,7 @@ inline PrefsRecord quickSettings() {
     record.wantMouseClickTrigger = 0;
     record.clickDuration = 10;
     record.inverseReleaseTime = 0.2;
+    std::fill_n(record.buttonActions, kNumPaletteSlots, UInt8{0});
     record.hotKeys[1] = {0x00, 0}; // A
     record.hotKeys[4] = {0x0B, 0}; // B
     return record;
