@@ -10,6 +10,7 @@
 #include "agent/Scanner.h"
 #include "agent/UnixSignals.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "platform/Support/Appearance.h"
 #include "src/record/palactions.h"
 
 #include <QApplication>
@@ -108,6 +109,7 @@ struct Scanning {
         else if (session == Session::X11)
             server = XServer::connect(fault);
         if (server) {
+            Appearance::follow(); // the palette does
             palutilUseBundle(CFBundleGetMainBundle);
             server->onEnd([] { QCoreApplication::exit(1); });
             scanner.emplace(link, *server, *guard);

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "host/Appearance.h"
 #include "host/Arguments.h"
 #include "host/BusProbe.h"
 #include "host/Command.h"
@@ -8,6 +7,7 @@
 #include "host/TerminationSignals.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreServices/Processes.h"
+#include "platform/Support/Appearance.h"
 
 #include <QApplication>
 #include <QFileInfo>

@@ -5,11 +5,13 @@
 #include <cmath>
 
 PalettePlace::PalettePlace(const PrefsRecord& record, const Region& region) : scale(region.scale) {
-    if (!region.isMenu)
+    if (region.palette != PalettePart::None)
         layout = paletteLayout(record, region.area.width / scale);
     const double height = std::round(layout.height * scale);
-    frame = {std::round(region.area.left), std::round(region.area.middle().y - height / 2),
-             std::round(layout.width * scale), height};
+    const double top = region.palette == PalettePart::TopLeft ? region.area.top
+                                                              : region.area.middle().y - height / 2;
+    frame = {std::round(region.area.left), std::round(top), std::round(layout.width * scale),
+             height};
 }
 
 std::optional<std::size_t> PalettePlace::slotAt(Place place) const {

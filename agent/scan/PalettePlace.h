@@ -7,9 +7,10 @@
 #include <cstddef>
 #include <optional>
 
-/// Where the palette lies while a region is scanned: at its left edge, in the middle of its height.
+/// Where the palette lies while a region is scanned: in the middle of its left edge, or where the
+/// region says.
 struct PalettePlace {
-    /// Of a checked record. Over an open menu there is none.
+    /// Of a checked record.
     PalettePlace(const PrefsRecord& record, const Region& region);
 
     /// The slot that lies there. None between two buttons and beside the palette.

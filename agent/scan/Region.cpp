@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "agent/scan/Region.h"
 
+#include "src/scan/palettelayout.h"
+
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -79,8 +82,23 @@ std::vector<Region> menuRegions(const PrefsRecord& record, const std::vector<Are
         regions.push_back(
             regionAt(area, record, screenOf(area, screens), record.menuScanSpeedScaleFactor / 100));
         regions.back().isMenu = true;
+        regions.back().palette = PalettePart::None;
     }
     return regions;
+}
+
+/// The keyboard's keys, none of which the palette may hide.
+Region keyboardRegion(Area area, const PrefsRecord& record, const Screen& screen) {
+    const bool needsPalette = !record.lineScanCanEndKybdMode;
+    if (needsPalette) {
+        const double height =
+            paletteLayout(record, area.width / screen.scale).height * screen.scale;
+        const double top = std::max(area.top - height, screen.area.top);
+        area.height += std::exchange(area.top, top) - top;
+    }
+    Region region = regionAt(area, record, screen);
+    region.palette = needsPalette ? PalettePart::TopLeft : PalettePart::None;
+    return region;
 }
 
 /// The whole screen, or what is below its panel.
@@ -100,12 +118,12 @@ std::vector<Region> regionsOf(const PrefsRecord& record, const Surroundings& sur
     std::vector<Region> regions = menuRegions(record, surroundings.menus, screens);
     if (!regions.empty())
         return regions;
-    for (const Area& wanted : {surroundings.keyboard.value_or(Area{}),
-                               record.useScanArea ? surroundings.ownArea : Area{}}) {
-        const Area area = cutToScreens(wanted, screens);
-        if (isUsableArea(area))
-            return {regionAt(area, record, screenOf(area, screens))};
-    }
+    const Area keyboard = cutToScreens(surroundings.keyboard.value_or(Area{}), screens);
+    if (isUsableArea(keyboard))
+        return {keyboardRegion(keyboard, record, screenOf(keyboard, screens))};
+    const Area own = cutToScreens(record.useScanArea ? surroundings.ownArea : Area{}, screens);
+    if (isUsableArea(own))
+        return {regionAt(own, record, screenOf(own, screens))};
     for (const Screen& screen : screens)
         regions.push_back(regionAt(scannedPart(screen, record.canScanMenuBar), record, screen));
     return regions;

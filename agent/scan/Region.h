@@ -14,6 +14,9 @@ struct Screen {
     double panel = 0; ///< pixels that a panel at its top edge takes; 0 for none
 };
 
+/// Where the palette lies in a region.
+enum class PalettePart { LeftEdge, TopLeft, None };
+
 /// What one line sweeps over, and the times of the whole way in seconds. The law of both ways is
 /// Sweep's.
 struct Region {
@@ -22,6 +25,7 @@ struct Region {
     double pointerTime = 0;
     bool isMenu = false; ///< there is no pointer: the middle of the line's row is chosen
     double scale = 1;    ///< pixels a point
+    PalettePart palette = PalettePart::LeftEdge;
 
     bool operator==(const Region&) const = default;
 };
@@ -36,6 +40,7 @@ struct Surroundings {
 };
 
 /// The regions of a scan, in the order in which the line sweeps them. Never empty.
+/// The keyboard has room for the palette above its keys, if only the palette ends the typing.
 /// Open menus come before all else, then the keyboard, then the own area if it is used and on a
 /// screen, else the screens: the mouse pointer's first, then the others from left to right.
 /// A region that is smaller than its screen takes less time in proportion; a menu as much as its

@@ -179,12 +179,12 @@ void Scan::begin(State& state, Phase delay, double moment) const {
 }
 
 void Scan::sweep(State& state, Phase delay, double setOff) const {
-    const auto& [all, lineTime, pointerTime, isMenu, scale] = regions_[state.region];
+    const Region& region = regions_[state.region];
     state.phase = delay;
     state.setOff = setOff;
     state.sweep = delay == Phase::PointerDelay
-                      ? Sweep{all.width, pointerTime, state.rules.accelerates}
-                      : Sweep{all.height, lineTime, state.rules.accelerates};
+                      ? Sweep{region.area.width, region.pointerTime, state.rules.accelerates}
+                      : Sweep{region.area.height, region.lineTime, state.rules.accelerates};
 }
 
 void Scan::divide(State& state, double from, double length) const {

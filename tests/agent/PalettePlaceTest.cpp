@@ -45,7 +45,14 @@ TEST(PalettePlace, IsAtTheLeftEdgeInRowsOfHalfTheRegionAtMost) {
          {{1000, -200, 800, 600}, 1, 1, false, 2},
          {1000, 4, 308, 192}},
         {"half the points", usual, {{0, 0, 1000, 700}, 1, 1, false, 2}, {0, 300, 492, 100}},
-        {"over a menu", usual, {{0, 0, 1000, 700}, 1, 1, true}, {0, 350, 0, 0}},
+        {"above the keys",
+         usual,
+         {{0, 500, 1000, 200}, 1, 1, false, 1, PalettePart::TopLeft},
+         {0, 500, 246, 50}},
+        {"over a menu",
+         usual,
+         {{0, 0, 1000, 700}, 1, 1, true, 1, PalettePart::None},
+         {0, 350, 0, 0}},
         {"no buttons", withButtons({}), {{0, 0, 1000, 700}}, {0, 350, 0, 0}},
     };
 

@@ -110,7 +110,7 @@ TEST_F(PaletteTest, ShowsTheButtonsAsThePaneDrawsThem) {
     EXPECT_EQ(colorAt(4, 300), kWhite) << "it went with the line";
     EXPECT_EQ(colorAt(401, 300), kBlack) << "two pixels a point";
     EXPECT_NE(colorAt(420, 300), kWhite);
-    region_.isMenu = true;
+    region_.palette = PalettePart::None;
     show();
     EXPECT_EQ(shown({0, 0, kWidth, kHeight}).copy(400, 0, 400, 600), shown({0, 0, 400, 600}))
         << "none over a menu";
@@ -159,15 +159,6 @@ TEST_F(PaletteTest, ATextStandsBesideItOrBelowWhereThereIsNoRoom) {
     show();
     EXPECT_EQ(colorAt(0, 340), kWhite);
     EXPECT_EQ(colorAt(0, 300), kBlack);
-}
-
-TEST_F(PaletteTest, KnowsTheActionAtAPlace) {
-    const auto at = [&](double x, double y) { return palette_->actionAt(region_, {x, y}); };
-    EXPECT_EQ(at(70, 300), kDouble);
-    EXPECT_EQ(at(54, 300), kEmptyAction) << "between two";
-    EXPECT_EQ(at(2, 276), kEmptyAction) << "at the edge";
-    EXPECT_EQ(at(246, 300), std::nullopt);
-    EXPECT_EQ(at(70, 274), std::nullopt);
 }
 
 } // namespace

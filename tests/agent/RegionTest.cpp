@@ -5,9 +5,10 @@
 #include <gtest/gtest.h>
 
 static void PrintTo(const Region& region, std::ostream* out) {
-    const auto& [area, lineTime, pointerTime, isMenu, scale] = region;
+    const auto& [area, lineTime, pointerTime, isMenu, scale, palette] = region;
     *out << area.left << ", " << area.top << ", " << area.width << ", " << area.height << " in "
-         << lineTime << " and " << pointerTime << (isMenu ? " of a menu" : "") << " at " << scale;
+         << lineTime << " and " << pointerTime << (isMenu ? " of a menu" : "") << " at " << scale
+         << " palette " << static_cast<int>(palette);
 }
 
 namespace {
@@ -24,7 +25,7 @@ struct Desk {
     Area ownArea = {};
     std::optional<Area> keyboard = {};
     std::vector<Area> menus = {};
-    bool usesArea = true, hasPanel = true;
+    bool usesArea = true, hasPanel = true, canEndKeyboard = true;
 };
 
 struct Case {
@@ -51,11 +52,14 @@ TEST(Region, IsWhatIsThereWithItsShareOfTheTimes) {
         {"off all screens", {.ownArea = {1100, 500, 100, 100}}, kBoth},
         {"no number", {.ownArea = {NAN, 0, NAN, 100}}, kBoth},
         {"the keyboard", {.ownArea = kRight, .keyboard = {{0, 600, 1000, 200}}},
-         {{{0, 600, 1000, 200}, 2, 10}}},
+         {{{0, 600, 1000, 200}, 2, 10, false, 1, PalettePart::None}}},
+        {"with its palette above", {.keyboard = {{0, 600, 1000, 200}}, .canEndKeyboard = false},
+         {{{0, 550, 1000, 250}, 2.5, 10, false, 1, PalettePart::TopLeft}}},
         {"menus, at half the speed",
          {.ownArea = kLeft, .keyboard = kLeft,
           .menus = {{1100, 100, 100, 100}, {-50, 700, 100, 200}, {0, 900, 10, 10}}},
-         {{{1100, 100, 100, 100}, 4, 2, true, 2}, {{0, 700, 50, 100}, 2, .5, true}}}};
+         {{{1100, 100, 100, 100}, 4, 2, true, 2, PalettePart::None},
+          {{0, 700, 50, 100}, 2, .5, true, 1, PalettePart::None}}}};
     // clang-format on
     for (const auto& [what, desk, regions] : cases) {
         PrefsRecord record;
@@ -63,7 +67,8 @@ TEST(Region, IsWhatIsThereWithItsShareOfTheTimes) {
         record.menuScanSpeedScaleFactor = 50;
         record.useScanArea = desk.usesArea;
         record.canScanMenuBar = desk.hasPanel;
-        const auto& [screens, pointer, ownArea, keyboard, menus, usesArea, hasPanel] = desk;
+        record.lineScanCanEndKybdMode = desk.canEndKeyboard;
+        const auto& [screens, pointer, ownArea, keyboard, menus, usesArea, hasPanel, canEnd] = desk;
         EXPECT_EQ(regionsOf(record, {screens, pointer, menus, keyboard, ownArea}), regions) << what;
     }
 }

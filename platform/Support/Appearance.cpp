@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/Appearance.h"
+#include "platform/Support/Appearance.h"
 
 #include <QApplication>
 #include <QDBusArgument>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/DesktopPalette.h"
+#include "platform/Support/DesktopPalette.h"
 
 #include <QDBusMessage>
 #include <QFont>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/DesktopPalette.h"
+#include "platform/Support/DesktopPalette.h"
 
 #include <QList>
 
