@@ -6,6 +6,7 @@
 namespace {
 
 constexpr double kTextGap = 6; ///< points, between palette and text
+constexpr Area kAnyArea{0, 0, 1000, 1000};
 
 QRect pixelsOf(const Area& area) {
     return QRectF(area.left, area.top, area.width, area.height).toRect();
@@ -20,6 +21,7 @@ Palette::Palette(XServer& server, const Actions& actions)
 void Palette::use(const PrefsRecord& record) {
     record_ = record;
     drawn_.reset();
+    palettePicture(widget_, record, PalettePlace(record, {kAnyArea}), {}); // reads titles and icons
 }
 
 std::optional<UInt8> Palette::actionAt(const Region& region, Place place) const {
@@ -54,10 +56,9 @@ void Palette::hide() {
 
 void Palette::draw(const PalettePlace& place, const Drawn& wanted) {
     drawn_ = wanted;
-    if (place.frame.isEmpty())
-        return;
     const QImage image = palettePicture(widget_, record_, place, wanted.state);
-    window_.paint(image.convertToFormat(visual_.format));
+    if (!image.isNull())
+        window_.paint(image.convertToFormat(visual_.format));
 }
 
 /// Right of the palette; below it if there is no room. Nowhere without a text.

@@ -13,7 +13,8 @@ public:
     /// Both must outlive it. `actions` says which buttons look pressed.
     Palette(XServer& server, const Actions& actions);
 
-    /// The buttons and the look of a checked record, from the next `show` on.
+    /// The buttons and the look of a checked record, from the next `show` on. What they need is
+    /// read now, so that the first one is as quick as the others.
     void use(const PrefsRecord& record);
 
     /// The action of the button that lies there while that region is scanned. kEmptyAction on the

@@ -30,6 +30,8 @@ QImage emptyPicture(QSizeF size, double scale) {
 QImage palettePicture(QWidget& widget, const PrefsRecord& record, const PalettePlace& place,
                       const PaletteState& state) {
     const PaletteLayout& layout = place.layout;
+    if (place.frame.isEmpty())
+        return {};
     widget.resize(layout.width, layout.height); // the port has its size
     QImage image = emptyPicture(widget.size(), place.scale);
     QPainter painter(&image);

@@ -19,7 +19,7 @@ struct PaletteState {
 
 // Both pictures have the style, colours and fonts of the widget, which isn't shown.
 
-/// The palette as the pane's preview has it, as large as the place's frame.
+/// The palette as the pane's preview has it, as large as the place's frame. Null for an empty one.
 QImage palettePicture(QWidget& widget, const PrefsRecord& record, const PalettePlace& place,
                       const PaletteState& state);
 

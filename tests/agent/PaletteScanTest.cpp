@@ -135,6 +135,20 @@ TEST_F(PaletteScanTest, WhatRepeatsAndWhatRestsEndsByTheSwitch) {
     const std::string here = choose(kHere);
     EXPECT_EQ(target_.events(2), clicks(1, 1, here)) << "the press before started no scan";
 
+    // What repeats was meant for the window that was active.
+    choose(middleOf(0));
+    target_.events(2);
+    const std::uint32_t other = 7;
+    const XReply<xcb_intern_atom_reply_t> active(xcb_intern_atom_reply(
+        target_.connection(), xcb_intern_atom(target_.connection(), 0, 18, "_NET_ACTIVE_WINDOW"),
+        nullptr));
+    const auto root = xcb_setup_roots_iterator(xcb_get_setup(target_.connection())).data->root;
+    xcb_change_property(target_.connection(), XCB_PROP_MODE_REPLACE, root, active->atom,
+                        XCB_ATOM_WINDOW, 32, 1, &other);
+    target_.events();
+    wait(0.7);
+    EXPECT_THAT(target_.events(), IsEmpty());
+
     // A pause ends as scanning is switched on.
     choose(middleOf(1));
     EXPECT_TRUE(QTest::qWaitFor([&] {
