@@ -250,6 +250,30 @@
         <source>Onboard, the keyboard on the screen, doesn&apos;t start.</source>
         <translation>Onboard, die Tastatur auf dem Bildschirm, startet nicht.</translation>
     </message>
+    <message>
+        <source>This desktop has no menu of applications that Korvex can open.</source>
+        <translation>Dieser Desktop hat kein Anwendungsmenü, das Korvex öffnen kann.</translation>
+    </message>
+    <message>
+        <source>No window is open.</source>
+        <translation>Es ist kein Fenster offen.</translation>
+    </message>
+    <message>
+        <source>The window manager can&apos;t bring windows to the front.</source>
+        <translation>Die Fensterverwaltung kann keine Fenster nach vorn holen.</translation>
+    </message>
+    <message>
+        <source>The menu doesn&apos;t open.</source>
+        <translation>Das Menü öffnet sich nicht.</translation>
+    </message>
+    <message>
+        <source>This window has no menu that Korvex can open.</source>
+        <translation>Dieses Fenster hat kein Menü, das Korvex öffnen kann.</translation>
+    </message>
+    <message>
+        <source>Scanning pauses. Hold your switch for four seconds to go on.</source>
+        <translation>Das Scannen ruht. Halten Sie den Schalter vier Sekunden, um weiterzumachen.</translation>
+    </message>
 </context>
 <context>
     <name>Changes</name>

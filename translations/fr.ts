@@ -250,6 +250,30 @@
         <source>Onboard, the keyboard on the screen, doesn&apos;t start.</source>
         <translation>Onboard, le clavier à l’écran, ne démarre pas.</translation>
     </message>
+    <message>
+        <source>This desktop has no menu of applications that Korvex can open.</source>
+        <translation>Ce bureau n’a pas de menu d’applications que Korvex puisse ouvrir.</translation>
+    </message>
+    <message>
+        <source>No window is open.</source>
+        <translation>Aucune fenêtre n’est ouverte.</translation>
+    </message>
+    <message>
+        <source>The window manager can&apos;t bring windows to the front.</source>
+        <translation>Le gestionnaire de fenêtres ne peut pas mettre de fenêtre au premier plan.</translation>
+    </message>
+    <message>
+        <source>The menu doesn&apos;t open.</source>
+        <translation>Le menu ne s’ouvre pas.</translation>
+    </message>
+    <message>
+        <source>This window has no menu that Korvex can open.</source>
+        <translation>Cette fenêtre n’a pas de menu que Korvex puisse ouvrir.</translation>
+    </message>
+    <message>
+        <source>Scanning pauses. Hold your switch for four seconds to go on.</source>
+        <translation>Le balayage est en pause. Maintenez votre contacteur quatre secondes pour continuer.</translation>
+    </message>
 </context>
 <context>
     <name>Changes</name>
