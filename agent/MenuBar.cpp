@@ -23,7 +23,8 @@ constexpr quint32 kScreenCoordinates = 0;
 
 constexpr int kCallMs = 300;      ///< for one answer
 constexpr int kPatienceMs = 2500; ///< for all
-constexpr int kRetryMs = 300;     ///< a program that is just told to answer makes its tree first
+/// A program that is just told to answer makes its tree first.
+constexpr int kTries = 4, kRetryMs = 250;
 constexpr std::size_t kMostObjects = 400;
 
 const QString kAccessible = QStringLiteral("org.a11y.atspi.Accessible");
@@ -177,12 +178,11 @@ std::vector<BarMenu> menusIn(const Bus& bus, const std::vector<Object>& windows)
 
 std::vector<BarMenu> menuBarOf(quint32 process) {
     const Bus bus;
-    while (!bus.isLate()) {
-        const auto windows = windowsOf(bus, process);
-        const auto menus = menusIn(bus, windows);
-        if (!menus.empty() || !windows.empty())
+    for (int tries = 0; tries < kTries; ++tries) {
+        if (tries > 0)
+            QThread::msleep(kRetryMs);
+        if (const auto menus = menusIn(bus, windowsOf(bus, process)); !menus.empty())
             return menus;
-        QThread::msleep(kRetryMs);
     }
     return {};
 }

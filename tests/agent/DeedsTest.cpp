@@ -22,6 +22,8 @@ using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
 
+constexpr int kLongestWait = 6'000; ///< ms
+
 using Texts = std::vector<std::string>;
 
 /// The number of the action of that kind, with these keys if it has any.
@@ -226,11 +228,9 @@ protected:
     }
 
     ~DesktopDeedsTest() override {
-        for (QProcess* program : {&editor_, &manager_}) {
-            program->closeWriteChannel();
-            program->kill();
-            program->waitForFinished();
-        }
+        endEditor();
+        manager_.kill();
+        manager_.waitForFinished();
     }
 
     static void start(QProcess& program, const QString& name, const QStringList& arguments) {
@@ -247,6 +247,12 @@ protected:
         EXPECT_TRUE(waitForRoot("_NET_ACTIVE_WINDOW"));
     }
 
+    void endEditor() {
+        editor_.kill();
+        editor_.waitForFinished();
+        said_.clear();
+    }
+
     /// Whether the editor says that or more, now or soon. All before is forgotten.
     bool says(const std::string& text) {
         const bool found = QTest::qWaitFor(
@@ -254,7 +260,7 @@ protected:
                 said_ += editor_.readAllStandardOutput().toStdString();
                 return said_.find(text) != std::string::npos;
             },
-            20'000);
+            kLongestWait);
         EXPECT_TRUE(found) << text << " isn't in\n" << said_;
         said_.clear();
         return found;
@@ -344,13 +350,49 @@ TEST_F(DesktopDeedsTest, WindowsAreBroughtForwardClosedAndHidden) {
 }
 
 TEST_F(DesktopDeedsTest, MenusOpenAndAreScanned) {
-    startEditor(KORVEX_GTK_EDITOR, {});
-    EXPECT_EQ(choose(ActionKind::Menus), "");
-    ASSERT_TRUE(waitToBeTold({"scan"})); // the list of its menus
-    chooseRow(1);
-    EXPECT_TRUE(says("menu Edit"));
-    ASSERT_TRUE(waitToBeTold({"scan"}));
-    EXPECT_EQ(press("Escape"), "");
+    for (const char* program : {KORVEX_GTK_EDITOR, KORVEX_QT_EDITOR}) {
+        startEditor(program, {});
+        EXPECT_EQ(choose(ActionKind::Menus), "");
+        ASSERT_TRUE(waitToBeTold({"scan"})); // the list of its menus
+        chooseRow(1);
+        EXPECT_TRUE(says("menu Edit"));
+        ASSERT_TRUE(waitToBeTold({"scan"}));
+        EXPECT_EQ(press("Escape"), "");
+        endEditor();
+    }
+}
+
+TEST_F(DesktopDeedsTest, TextIsCutPastedAndDraggedInEveryLayout) {
+    constexpr int kApart = 600; // ms; sooner, a click would belong to the ones before
+    using Kind = Deed::Kind;
+    for (const auto& [program, name] : {std::pair(KORVEX_GTK_EDITOR, "Gtk_editor.py"),
+                                        std::pair(KORVEX_QT_EDITOR, "agent_qt_editor")}) {
+        SCOPED_TRACE(name);
+        startEditor(program, {"without a menu bar"});
+        const auto area = WindowManager(*server_).placeOf(name);
+        ASSERT_TRUE(area);
+        const Place word{area->left + 15, area->top + 12};
+        const Deed selectIt{.kind = Kind::Click, .place = word, .click = ActionKind::DoubleClick};
+        for (const char* layout : {"us", "de", "fr", "gr,us", "gr"}) {
+            SCOPED_TRACE(layout);
+            QProcess::execute("setxkbmap", {layout});
+            QTest::qWait(kApart);
+            carryOut(selectIt);
+            EXPECT_EQ(press("Control+x"), "");
+            EXPECT_TRUE(says("text  two|three|"));
+            EXPECT_EQ(press("Control+v"), "");
+            EXPECT_TRUE(says("text one two|three|"));
+        }
+        QTest::qWait(kApart);
+        carryOut(selectIt);
+        QTest::qWait(kApart);
+        const Place below{area->left + 200, area->top + 100};
+        carryOut({.kind = Kind::ButtonDown, .place = word});
+        carryOut({.kind = Kind::Move, .place = below});
+        carryOut({.kind = Kind::ButtonUp, .place = below});
+        EXPECT_TRUE(says("text  two|three|one"));
+        endEditor();
+    }
 }
 
 TEST_F(DesktopDeedsTest, ApplicationsAreTheDesktopsMenu) {
