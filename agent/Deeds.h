@@ -50,6 +50,9 @@ public:
     /// Adds what it has opened to be scanned: the keyboard, a list.
     void addTo(Surroundings& around) const;
 
+    /// Closes the list to choose from, if one is open.
+    void closeList() { openers_.close(); }
+
     /// A scan has run to its end without a choice: what was opened for it is closed.
     void scanRanOut(const PrefsRecord& settings);
 

@@ -319,6 +319,7 @@ void Scanner::cancel() {
     hasOutcome_ = true;
     scan_.cancel();
     actions_.cancel();
+    deeds_.closeList();
     follow();
 }
 

@@ -14,7 +14,8 @@ build_packages=(
 )
 # A virtual display with a window manager, and programs that read the screen and type.
 tour_packages=(
-    xvfb x11-utils x11-xkb-utils x11-xserver-utils picom openbox onboard xdotool maim dex
+    xvfb x11-utils x11-xkb-utils x11-xserver-utils picom openbox xdotool maim dex
+    onboard pulseaudio pulseaudio-utils
     at-spi2-core python3-gi python3-pil gir1.2-atspi-2.0 gir1.2-gtk-3.0
 )
 check_packages=(git clang-format-14 clang-tidy-14 libbenchmark-dev)

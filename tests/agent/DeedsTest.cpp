@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "agent/Deeds.h"
 
+#include "agent/Terminals.h"
 #include "agent/x11/Guard.h"
 #include "agent/x11/Properties.h"
 #include "tests/agent/TargetWindow.h"
@@ -147,7 +148,7 @@ TEST_F(DeedsTest, AtAPlace) {
         for (const Deed& deed : all)
             EXPECT_EQ(carryOut(deed), "");
         EXPECT_THAT(events(expected.size()), ElementsAreArray(expected));
-        EXPECT_THAT(target_.down(), IsEmpty());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return target_.down().empty(); }));
     }
 }
 
@@ -209,6 +210,85 @@ TEST_F(DeedsTest, ItsOwnActionsAreTheScanners) {
         told_.texts.clear();
         EXPECT_EQ(choose(kind), says);
         EXPECT_EQ(told_.texts, told);
+    }
+}
+
+TEST_F(DeedsTest, TheVolumeIsTheSoundServersWithinItsLimits) {
+    const auto told = [this](const std::string& why) {
+        return QTest::qWaitFor([&] { return told_.texts == Texts{why}; });
+    };
+    const auto sink = [](const char* command) {
+        QProcess program;
+        program.start("pactl", {command, "@DEFAULT_SINK@"});
+        program.waitForFinished();
+        return program.readAllStandardOutput().toStdString();
+    };
+    EXPECT_EQ(choose(ActionKind::Louder), "");
+    EXPECT_TRUE(told("No sound server answers."));
+    told_.texts.clear();
+
+    QProcess server;
+    server.start("pulseaudio", {"-n", "--daemonize=no", "--exit-idle-time=-1", "-L",
+                                "module-native-protocol-unix", "-L", "module-null-sink"});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !sink("get-sink-volume").empty(); }, kLongestWait));
+
+    const struct {
+        const char* volume;
+        ActionKind kind;
+        const char* command;
+        std::string expected;
+    } kCases[] = {
+        {"50%", ActionKind::Louder, "get-sink-volume", " 55% "},
+        {"50%", ActionKind::Quieter, "get-sink-volume", " 45% "},
+        {"98%", ActionKind::Louder, "get-sink-volume", " 100% "},
+        {"3%", ActionKind::Quieter, "get-sink-volume", " 0% "},
+        {"50%", ActionKind::Mute, "get-sink-mute", "yes"},
+        {"50%", ActionKind::Mute, "get-sink-mute", "no"},
+    };
+
+    for (const auto& [volume, kind, command, expected] : kCases) {
+        SCOPED_TRACE(expected);
+        QTest::qWait(300); // one is done at a time
+        QProcess::execute("pactl", {"set-sink-volume", "@DEFAULT_SINK@", volume});
+        EXPECT_EQ(choose(kind), "");
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return sink(command).find(expected) != std::string::npos; }, kLongestWait));
+    }
+    EXPECT_THAT(told_.texts, IsEmpty());
+    server.kill();
+    server.waitForFinished();
+}
+
+TEST_F(DeedsTest, LettingGoDropsWhatIsUnderWay) {
+    carryOut({.kind = Deed::Kind::ButtonDown, .place = {10, 10}});
+    carryOut({.kind = Deed::Kind::Move, .place = {200, 100}});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return target_.down() == Texts{"button 1"}; }));
+    deeds_->letGo();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return target_.down().empty(); }));
+    target_.events();
+    QTest::qWait(300);
+    EXPECT_THAT(target_.events(), IsEmpty());
+}
+
+TEST(Shortcut, TerminalsHaveTheirOwn) {
+    const struct {
+        const char *program, *keys, *expected;
+        bool isFault;
+    } kCases[] = {
+        {"Gedit", "Control+c", "Control+c", false},
+        {"Xfce4-terminal", "Control+c", "Shift+Control+c", false},
+        {"Xfce4-terminal", "Control+v", "Shift+Control+v", false},
+        {"Xfce4-terminal", "Control+z", "A terminal can't undo.", true},
+        {"XTerm", "Control+v", "Shift+Insert", false},
+        {"XTerm", "Control+c", "This terminal can't copy for other programs.", true},
+        {"XTerm", "Control+x", "A terminal can't cut. Choose Copy.", true},
+        {"XTerm", "Return", "Return", false},
+    };
+
+    for (const auto& [program, keys, expected, isFault] : kCases) {
+        const auto [pressed, fault] = shortcutIn(program, keys);
+        EXPECT_EQ(isFault ? fault : pressed, expected) << program;
+        EXPECT_EQ(fault.empty(), !isFault) << program;
     }
 }
 
