@@ -65,6 +65,7 @@ TEST_F(SoundsTest, WhatIsNotToBeHeardAsksForNoSound) {
         sounds.click();
         sounds.use(record);
         sounds.click();
+        sounds.arm();
         sounds.pickUp();
         sounds.drop();
         sounds.refuse();
