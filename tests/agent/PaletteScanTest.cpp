@@ -3,6 +3,8 @@
 #include "tests/agent/ScannerFixture.h"
 
 #include <algorithm>
+#include <bit>
+#include <fstream>
 
 namespace {
 
@@ -160,6 +162,42 @@ TEST_F(PaletteScanTest, WhatRepeatsAndWhatRestsEndsByTheSwitch) {
     target_.events();
     choose(kHere);
     EXPECT_EQ(target_.events(2), clicks(1, 1, here));
+}
+
+/// What the window is asked for: the line's time, and which settings.
+struct {
+    double lineScanTime = 0;
+    std::uint64_t settings = 0;
+} asked;
+
+OSErr setSettings(const AppleEvent* event, AppleEvent*, void*) {
+    PrefsRecord record;
+    std::size_t size = 0;
+    AEGetParamPtr(event, keyDirectObject, fourCharCode("KrPf"), nullptr, &record, sizeof record,
+                  &size);
+    AEGetParamPtr(event, fourCharCode("Sets"), fourCharCode("comp"), nullptr, &asked.settings,
+                  sizeof asked.settings, &size);
+    asked.lineScanTime = record.lineScanTime;
+    return noErr;
+}
+
+TEST_F(PaletteScanTest, FasterAndSlowerAreTheWindowsOrStored) {
+    use(withButtons({36, 37}));
+    const auto isStored = [](const std::string& time) {
+        std::ifstream file(storedFile());
+        const std::string text(std::istreambuf_iterator<char>(file), {});
+        return text.find("lineScanTime") != std::string::npos &&
+               text.find(time) != std::string::npos;
+    };
+    // This process answers that it shows no window.
+    choose(middleOf(0));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isStored("1.500000"); }));
+
+    AEInstallEventHandler(fourCharCode("Krvx"), fourCharCode("PSet"), setSettings, nullptr);
+    choose(middleOf(1));
+    EXPECT_TRUE(QTest::qWaitFor([] { return asked.lineScanTime == 2; }));
+    EXPECT_EQ(std::popcount(asked.settings), 2);
+    EXPECT_TRUE(isStored("1.500000")) << "the window stores it";
 }
 
 } // namespace
