@@ -11,6 +11,7 @@ KEYS = "PPhd"  # who has the keys: the agent or the pane
 
 # The record's fields that the tour changes: struct's format and the offset in bytes.
 FIELDS = {
+    "on": ("<B", 0),
     "launchAtLogin": ("<B", 5),
     "canScanMenuBar": ("<B", 12),
     "scanMode": ("<i", 60),
@@ -18,7 +19,7 @@ FIELDS = {
     "lineScanTime": ("<d", 84),
     "lineColor": ("<3H", 136),
     "lineThickness": ("<i", 144),
-    "pointerImageName": ("100s", 164),
+    "pointerImageName": ("10s", 164),
     "buttonSize": ("<2h", 312),
     "buttonShape": ("<I", 316),
 }
