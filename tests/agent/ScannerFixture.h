@@ -94,6 +94,14 @@ protected:
         return atEnd ? up : down;
     }
 
+    /// Control, shift, X.
+    void onOffKey() {
+        for (const int code : {37, 50, kX})
+            key(code, true);
+        for (const int code : {kX, 50, 37})
+            key(code, false);
+    }
+
     static void wait(double seconds) { QTest::qWait(static_cast<int>(seconds * 1000)); }
 
     /// A scan that is under way, its line on the screen.

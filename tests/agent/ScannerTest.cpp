@@ -105,10 +105,7 @@ TEST_F(ScannerTest, EndsAsItIsTold) {
     // Switched off by its key, which is taken: the scan key is the programs' then.
     use(quickSettings());
     begin();
-    for (const int code : {37, 50, kX}) // control, shift
-        key(code, true);
-    for (const int code : {kX, 50, 37})
-        key(code, false);
+    onOffKey();
     EXPECT_TRUE(QTest::qWaitFor([] { return !isOn; }));
     target_.events();
     press();
@@ -128,6 +125,56 @@ int middleOf(const std::vector<std::uint32_t>& column, std::uint32_t color) {
     const auto first = std::ranges::find(column, color) - column.begin();
     const auto count = std::ranges::count(column, color);
     return count ? static_cast<int>(first + count / 2) : 0;
+}
+
+TEST_F(ScannerTest, IsSwitchedOffByItsKeyInEachState) {
+    PrefsRecord record = quickSettings();
+    record.clickDuration = 300;
+    const auto toPointer = [&] {
+        begin();
+        press();
+        wait(kDelay + 0.2);
+    };
+
+    const struct {
+        const char* name;
+        SInt32 mode;
+        std::function<void()> get;
+    } kStates[] = {
+        {"at rest", 0, [] {}},
+        {"before the line", 0, [&] { press(); }},
+        {"the line", 0, [&] { begin(); }},
+        {"the pointer", 0, toPointer},
+        {"the click", 0,
+         [&] {
+             toPointer();
+             press();
+             target_.events(1);
+         }},
+        {"a line that is held on to", 1,
+         [&] {
+             key(kScanKey, true);
+             wait(kDelay + 0.2);
+         }},
+        {"a band", 2, [&] { press(); }},
+    };
+
+    for (const auto& [name, mode, get] : kStates) {
+        SCOPED_TRACE(name);
+        record.scanMode = mode;
+        use(record);
+        get();
+        onOffKey();
+        EXPECT_TRUE(QTest::qWaitFor([] { return !isOn; }));
+        EXPECT_THAT(agentWindows(), IsEmpty());
+        key(kScanKey, false);
+        EXPECT_THAT(target_.down(), IsEmpty());
+        onOffKey();
+        EXPECT_TRUE(QTest::qWaitFor([] { return isOn; }));
+    }
+    use(quickSettings());
+    target_.events();
+    scan();
 }
 
 TEST_F(ScannerTest, ChangesInMidScanAreFelt) {
