@@ -182,9 +182,13 @@ class Screen:
     def active_window(self) -> str:
         return ask("xdotool", "getactivewindow").strip()
 
-    def picture(self, path: Path) -> None:
-        """Saves what is on the screen, once it is at rest. The pointer would hide a part."""
-        path.write_bytes(until_at_rest(lambda: run("maim", "--hidecursor")))
+    def picture(self, path: Path, moves: bool = False) -> None:
+        """Saves what is on the screen, once it is at rest unless something moves. The pointer would
+        hide a part."""
+        def look() -> bytes:
+            return run("maim", "--hidecursor")
+
+        path.write_bytes(look() if moves else until_at_rest(look))
 
 
 def until_at_rest(look: Callable[[], T]) -> T:

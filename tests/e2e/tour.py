@@ -91,9 +91,10 @@ class Tour:
         control = self.screen.find(radio, "radio button")
         until(lambda: control.checked, f"“{radio}” is chosen")
 
-    def picture(self, name: str) -> None:
+    def picture(self, name: str, moves: bool = False) -> None:
+        """Of what is on the screen once it is at rest, or at once if something moves."""
         self._pictures += 1
-        self.screen.picture(self.out / f"{self._pictures:02}-{name}.png")
+        self.screen.picture(self.out / f"{self._pictures:02}-{name}.png", moves)
 
 
 def wait_for_agent() -> int:
