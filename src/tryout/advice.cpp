@@ -67,9 +67,9 @@ bool isMiss(const Trial& trial, const Conditions& tried) {
 }
 
 /// A sweep's time and its share of hits.
-RatedTime rated(Sweep sweep, double time, double width, const Timing& timing) {
+RatedTime rated(Sweep sweep, double time, double width, const Timing& timing, double part = 1) {
     sweep.time = time;
-    return {time, hitRate(sweep, width, timing)};
+    return {time, hitRate(sweep, width, timing), part};
 }
 
 /// Whether the speed of the pointer is close enough to the line speeds that were tried.
@@ -104,12 +104,14 @@ struct Choices {
 
 Choices choicesOf(const Advice& advice, const Conditions& tried) {
     const Timing& timing = advice.cautious;
-    Choices choices = {.line = ratedTimes(tried.sweep, tried.target, timing, tried.times),
-                       .pointer = {std::begin(kNoPointer), std::end(kNoPointer)},
-                       .tried = rated(tried.sweep, tried.sweep.time, tried.target, timing),
-                       .waits = {tried.delay, advice.costOfMiss.value_or(kCostOfMiss)}};
+    Choices choices = {
+        .line = ratedTimes(tried.sweep, tried.target, timing, tried.times, tried.linePart),
+        .pointer = {std::begin(kNoPointer), std::end(kNoPointer)},
+        .tried = rated(tried.sweep, tried.sweep.time, tried.target, timing, tried.linePart),
+        .waits = {tried.delay * (tried.pointer ? 2 : 1), advice.costOfMiss.value_or(kCostOfMiss)}};
     if (tried.pointer)
-        choices.pointer = ratedTimes(*tried.pointer, tried.across, timing, tried.times);
+        choices.pointer =
+            ratedTimes(*tried.pointer, tried.across, timing, tried.times, tried.pointerPart);
     choices.tried.rate = std::max(choices.tried.rate, countedRate(advice));
     return choices;
 }
@@ -149,8 +151,9 @@ void adviseTime(Advice& advice, const Conditions& tried, const Choices& choices,
 /// The set time stays unless another one that can be predicted is better by enough.
 void advisePointer(Advice& advice, const Conditions& tried, Choices& choices,
                    const Earlier& known) {
-    const RatedTime line = {advice.time, advice.promised};
-    const RatedTime set = rated(*tried.pointer, tried.pointer->time, tried.across, advice.cautious);
+    const RatedTime line = {advice.time, advice.promised, tried.linePart};
+    const RatedTime set = rated(*tried.pointer, tried.pointer->time, tried.across, advice.cautious,
+                                tried.pointerPart);
     std::erase_if(choices.pointer, [&](const RatedTime& pointer) {
         return !isForetold(known, *tried.pointer, pointer.time);
     });

@@ -11,14 +11,16 @@ namespace tryout {
 
 /// The conditions of a try.
 struct Conditions {
-    Sweep sweep;                       ///< in millimetres and seconds
+    Sweep sweep;                       ///< of the whole screen, in millimetres and seconds
     double target = 10;                ///< its size in the direction of the sweep, in millimetres
-    double delay = 0;                  ///< before each scan, in seconds
+    double delay = 0;                  ///< before the line, and before the pointer; in seconds
     SettingRange times = {1, 60, 0.5}; ///< what the sweep's time can be, and the pointer's
     /// Moves along the stopped line and is stopped as well. None when a press moves one step. It
     /// isn't swept in a try: its presses are assumed to be like the line's.
     std::optional<Sweep> pointer = {};
     double across = 10; ///< the target's size in the pointer's direction
+    /// The parts of the screen that are swept, above 0 to 1. They take these parts of the times.
+    double linePart = 1, pointerPart = 1;
 };
 
 enum class Verdict {

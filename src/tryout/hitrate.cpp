@@ -69,10 +69,10 @@ double timePerHit(const Click& click, const Waits& waits) {
 }
 
 std::vector<RatedTime> ratedTimes(Sweep sweep, double width, const Timing& timing,
-                                  const SettingRange& range) {
+                                  const SettingRange& range, double part) {
     std::vector<RatedTime> times;
     for (sweep.time = range.min; sweep.time <= range.max; sweep.time += range.step)
-        times.push_back({sweep.time, hitRate(sweep, width, timing)});
+        times.push_back({sweep.time, hitRate(sweep, width, timing), part});
     return times;
 }
 

@@ -33,10 +33,11 @@ struct SettingRange {
     double roundUp(double value) const;
 };
 
-/// A time for a sweep, in seconds, and the share of presses that hit then.
+/// A time for a sweep of the whole screen, in seconds, and the share of presses that hit then.
 struct RatedTime {
     double time = 0;
     double rate = 1;
+    double part = 1; ///< of the screen that is swept, above 0 to 1, in that part of the time
 };
 
 /// One click: a press for the line, then one for the pointer along it. Without a pointer its time
@@ -47,7 +48,8 @@ struct Click {
     /// Two axes multiply.
     double rate() const { return line.rate * pointer.rate; }
 
-    double time() const { return line.time + pointer.time; }
+    /// Of both sweeps.
+    double time() const { return line.time * line.part + pointer.time * pointer.part; }
 };
 
 /// The cost of a miss that wasn't measured: the time until the next scan can start.
@@ -55,17 +57,17 @@ constexpr double kCostOfMiss = 5;
 
 /// Waiting times besides the sweeps, in seconds.
 struct Waits {
-    double delay = 0; ///< before the line sets off
+    double delay = 0; ///< before the line and, where there is one, before the pointer together
     double miss = kCostOfMiss;
 };
 
-/// The average time of a hit, including the wait before each scan and the misses: (D + T/2 + (1 -
-/// P) c) / P, where T is the time of both sweeps. Infinite when nothing is hit.
+/// The average time of a hit, including the waits before both sweeps and the misses: (D + T/2 + (1
+/// - P) c) / P, where T is the time of both sweeps. Infinite when nothing is hit.
 double timePerHit(const Click& click, const Waits& waits);
 
-/// Every time of the range for the sweep, the shortest first.
+/// Every time of the range for the sweep of a screen, the shortest first. `part` of it is swept.
 std::vector<RatedTime> ratedTimes(Sweep sweep, double width, const Timing& timing,
-                                  const SettingRange& range);
+                                  const SettingRange& range, double part = 1);
 
 constexpr double kSurestRate = 0.9;
 constexpr double kQuickestRate = 0.75;

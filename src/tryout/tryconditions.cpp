@@ -22,9 +22,9 @@ constexpr SettingRange kPointerTimes = rangeOf(offsetof(PrefsRecord, pointerScan
 static_assert(kTimes.min == kPointerTimes.min && kTimes.max == kPointerTimes.max &&
               kTimes.step == kPointerTimes.step);
 
-/// The scanned part of a screen that is `points` wide or high.
-double scanned(bool hasArea, float area, double points) {
-    return hasArea ? std::min(double{area}, points) : points;
+/// The part of a screen that is `points` wide or high, from above 0 to 1, which is scanned.
+double partOf(bool hasArea, float area, double points) {
+    return hasArea ? std::min(double{area} / points, 1.0) : 1;
 }
 
 } // namespace
@@ -66,16 +66,15 @@ Conditions conditionsOf(const PrefsRecord& record, Extent points, Extent millime
                      .time = std::clamp(time, kTimes.min, kTimes.max),
                      .accelerates = record.useScanAcceleration != 0};
     };
-    Conditions tried = {.sweep =
-                            sweepOf(scanned(hasArea, area.height, points.height) * scale.height,
-                                    record.lineScanTime),
+    Conditions tried = {.sweep = sweepOf(millimetres.height, record.lineScanTime),
                         .target = size.height,
                         .delay = record.preScanDelay,
                         .times = kTimes,
-                        .across = size.width};
+                        .across = size.width,
+                        .linePart = partOf(hasArea, area.height, points.height),
+                        .pointerPart = partOf(hasArea, area.width, points.width)};
     if (triggerOf(record).way != Trigger::Way::Step)
-        tried.pointer = sweepOf(scanned(hasArea, area.width, points.width) * scale.width,
-                                record.pointerScanTime);
+        tried.pointer = sweepOf(millimetres.width, record.pointerScanTime);
     return tried;
 }
 

@@ -30,8 +30,8 @@ Extent targetOf(TargetChoice choice, const PrefsRecord& record, Extent millimetr
 /// The choice of the next whole millimetre above or below a height, within the limits.
 TargetChoice nextTarget(double height, bool isLarger);
 
-/// The conditions on a screen of that size, in points and in millimetres. The line crosses the
-/// screen, or the scan area if there is one.
+/// The conditions on a screen of that size, in points and in millimetres. A scan area is a part
+/// of the screen and swept in that part of the time, so at the same speed.
 Conditions conditionsOf(const PrefsRecord& record, Extent points, Extent millimetres,
                         TargetChoice target);
 

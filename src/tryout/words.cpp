@@ -149,20 +149,14 @@ std::string tryAgainText(const Advice& advice, const Conditions& tried) {
 }
 
 std::string outOfReachText(const Advice& advice, const Conditions& tried) {
-    const double target = std::ceil(tried.target * advice.enlargement);
-    // Rates depend on target size and way only by their quotient.
-    const double height = std::floor(tried.sweep.travel / advice.enlargement);
-    if (!tried.pointer)
-        return format(
-            LOCALIZABLE("Try",
-                        "Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f "
-                        "mm wide would make it so, or a scan area only %.0f mm across."),
-            tried.times.max, target, height);
+    // A smaller area wouldn't: it is swept at the same speed.
     return format(
-        LOCALIZABLE("Try",
-                    "Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. "
-                    "Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm."),
-        tried.times.max, target, std::floor(tried.pointer->travel / advice.enlargement), height);
+        tried.pointer
+            ? LOCALIZABLE("Try", "Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 "
+                                 "to hit. Targets of %.0f mm would make it so.")
+            : LOCALIZABLE("Try", "Even at %.0f seconds, the slowest, we can’t expect 3 in 4. "
+                                 "Targets of %.0f mm would make it so."),
+        tried.times.max, std::ceil(tried.target * advice.enlargement));
 }
 
 std::string tooFewText(const Advice& advice, const Measured& measured) {

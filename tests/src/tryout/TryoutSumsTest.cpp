@@ -212,6 +212,28 @@ TEST(TryoutAdvice, APointerAlongTheLineMultiplies) {
     EXPECT_NE(words.find("3 clicks in 4"), std::string::npos) << words;
 }
 
+// A scan waits before the line and before the pointer, and an own area is swept in its part of the
+// time: the less of the time for a hit is in the sweeps, the slower they may be.
+TEST(TryoutAdvice, BothWaitsAndTheSweptPartAreReckonedWith) {
+    Conditions tried = kLineAlone;
+    tried.pointer = Sweep{.travel = 500, .time = 15};
+    tried.sweep.time = 14; // too fast to stay
+    const Measured measured = tryOf(kUneven);
+    const Timing timing = advise(measured, tried).cautious;
+    const auto lineWith = [&](double delay, double part) {
+        const auto line = ratedTimes(tried.sweep, tried.target, timing, tried.times, part);
+        const auto pointer = ratedTimes(*tried.pointer, tried.across, timing, tried.times, part);
+        return quickestTimes(line, pointer, {delay, kCostOfMiss}).value_or(Click()).line.time;
+    };
+    for (const auto& [delay, part] : {std::pair{1.5, 1.0}, {10.0, 1.0}, {1.5, 0.25}}) {
+        tried.delay = delay;
+        tried.linePart = tried.pointerPart = part;
+        EXPECT_DOUBLE_EQ(advise(measured, tried).time, lineWith(2 * delay, part)) << delay << part;
+    }
+    EXPECT_LT(lineWith(10, 1), lineWith(20, 1));
+    EXPECT_LT(lineWith(3, 1), lineWith(3, 0.25));
+}
+
 TEST(TryoutAdvice, WhatAMissCostsIsMeasuredWhereThereAreEnough) {
     Measured measured = tryOf([](int i) { return i < 3 ? 0.15 : 0.02 * (i % 3); });
     EXPECT_FALSE(advise(measured, kLineAlone).costOfMiss);
@@ -253,7 +275,9 @@ TEST(TryoutAdvice, WhatIsTriedIsAsSet) {
     record.scanArea = {0, 0, 960, 2000};
     tried = conditionsOf(record, kPoints, kMillimetres, kUsualTarget);
     EXPECT_DOUBLE_EQ(tried.sweep.travel, 270);
-    EXPECT_DOUBLE_EQ(tried.pointer.value().travel, 240);
+    EXPECT_DOUBLE_EQ(tried.linePart, 1);
+    EXPECT_DOUBLE_EQ(tried.pointer.value().travel, 480) << "half of it, in half of the time";
+    EXPECT_DOUBLE_EQ(tried.pointerPart, 0.5);
     EXPECT_EQ(triggerOf(record).way, Trigger::Way::Hold);
     record.scanMode = 2;
     EXPECT_FALSE(conditionsOf(record, kPoints, kMillimetres, kUsualTarget).pointer);
