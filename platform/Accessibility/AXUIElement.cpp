@@ -14,6 +14,8 @@ namespace {
 
 const QString kService = QStringLiteral("org.a11y.Bus");
 const QString kObject = QStringLiteral("/org/a11y/bus");
+const QString kStatus = QStringLiteral("org.a11y.Status");
+const QString kEnabled = QStringLiteral("IsEnabled");
 const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
 
 constexpr int kPatience = 100; ///< milliseconds to wait for the first answer
@@ -22,7 +24,7 @@ QDBusMessage statusQuestion(bool startsService) {
     auto question =
         QDBusMessage::createMethodCall(kService, kObject, kProperties, QStringLiteral("Get"));
     question.setAutoStartService(startsService);
-    question.setArguments({QStringLiteral("org.a11y.Status"), QStringLiteral("IsEnabled")});
+    question.setArguments({kStatus, kEnabled});
     return question;
 }
 
@@ -34,6 +36,8 @@ public:
     bool isOn() const { return isOn_; }
 
     bool isKnown() const { return isKnown_; }
+
+    void switchOn(std::function<void()> failed);
 
     std::function<void()> listener;
 
@@ -78,6 +82,18 @@ void AccessibilitySwitch::ask() {
     });
 }
 
+void AccessibilitySwitch::switchOn(std::function<void()> failed) {
+    auto wish =
+        QDBusMessage::createMethodCall(kService, kObject, kProperties, QStringLiteral("Set"));
+    wish.setArguments({kStatus, kEnabled, QVariant::fromValue(QDBusVariant(true))});
+    auto* answer = new QDBusPendingCallWatcher(sessionBus().asyncCall(wish), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this,
+            [this, answer, failed = std::move(failed)] {
+                answer->isError() ? failed() : ask();
+                answer->deleteLater();
+            });
+}
+
 void AccessibilitySwitch::take(const QDBusMessage& reply) {
     isOn_ = QDBusPendingReply<QDBusVariant>(reply).value().variant().toBool();
     isKnown_ = true;
@@ -100,6 +116,10 @@ bool AXAPIEnabled() {
 
 bool isAXAPIEnabledKnown() {
     return theSwitch().isKnown();
+}
+
+void enableAXAPI(std::function<void()> failed) {
+    theSwitch().switchOn(std::move(failed));
 }
 
 void setAXAPIEnabledListener(std::function<void()> listener) {

@@ -15,6 +15,10 @@ bool AXAPIEnabled();
 /// False while the service hasn't given its first answer.
 bool isAXAPIEnabledKnown();
 
+/// Asks the service to switch it on and doesn't wait. `failed` is called from the event loop if it
+/// refuses or there is none; the listener hears of success. No operation of the platform.
+void enableAXAPI(std::function<void()> failed);
+
 /// Calls `listener` from the event loop after each answer. There is one listener. An empty function
 /// removes it.
 void setAXAPIEnabledListener(std::function<void()> listener);

@@ -4,7 +4,12 @@
 #include "platform/CoreFoundation/CFBundle.h"
 #include "platform/CoreFoundation/Localization.h"
 
+#include "platform/HIToolbox/detail/HelpViewer.h"
+
+#include <QCoreApplication>
 #include <QDesktopServices>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 
 #include <filesystem>
@@ -30,6 +35,34 @@ fs::path findPage(const fs::path& folder, const fs::path& page) {
         return {};
     const fs::path inside = file.lexically_relative(folder);
     return inside.empty() || *inside.begin() == ".." ? fs::path() : file;
+}
+
+/// Opens the page in the desktop's browser. The desktop's opener ends with an error when there is
+/// none; the page is then shown in a window of our own.
+void openPage(const QUrl& page) {
+    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    if (opener.isEmpty()) {
+        if (!QDesktopServices::openUrl(page))
+            showHelpPage(page);
+        return;
+    }
+    auto* process = new QProcess(QCoreApplication::instance());
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->setStandardOutputFile(QProcess::nullDevice());
+    process->setStandardErrorFile(QProcess::nullDevice());
+    QObject::connect(process, &QProcess::finished, process, [process, page](int status) {
+        if (status != 0 || process->exitStatus() != QProcess::NormalExit)
+            showHelpPage(page);
+        process->deleteLater();
+    });
+    QObject::connect(process, &QProcess::errorOccurred, process,
+                     [process, page](QProcess::ProcessError error) {
+                         if (error != QProcess::FailedToStart)
+                             return;
+                         showHelpPage(page);
+                         process->deleteLater();
+                     });
+    process->start(opener, {page.toString(QUrl::FullyEncoded)});
 }
 
 /// The book in the user's language. Empty when there is none.
@@ -78,5 +111,6 @@ OSStatus AHGotoPage(const CFString* bookName, const CFString* path, const CFStri
     QUrl url = QUrl::fromLocalFile(QString::fromStdString(file.string()));
     if (anchor)
         url.setFragment(QString::fromStdString(toUTF8(anchor)));
-    return QDesktopServices::openUrl(url) ? OSStatus{noErr} : kAHInternalErr;
+    openPage(url);
+    return noErr;
 }

@@ -41,6 +41,11 @@ OSStatus InstallEventLoopTimer(EventLoopRef, EventTimerInterval delay, EventTime
     return noErr;
 }
 
+OSStatus SetEventLoopTimerNextFireTime(EventLoopTimerRef timer, EventTimerInterval delay) {
+    timer->start(milliseconds(delay));
+    return noErr;
+}
+
 OSStatus RemoveEventLoopTimer(EventLoopTimerRef timer) {
     timer->stop();
     timer->deleteLater();

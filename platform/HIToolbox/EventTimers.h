@@ -26,5 +26,8 @@ OSStatus InstallEventLoopTimer(EventLoopRef loop, EventTimerInterval delay,
                                EventTimerInterval interval, EventLoopTimerUPP function,
                                void* userData, EventLoopTimerRef* timer);
 
+/// Calls the function next after `delay` from now on, also after it has fired once.
+OSStatus SetEventLoopTimerNextFireTime(EventLoopTimerRef timer, EventTimerInterval delay);
+
 /// May be called from the timer's own function.
 OSStatus RemoveEventLoopTimer(EventLoopTimerRef timer);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/CoreFoundation/CFBase.h"
+#include "platform/CoreFoundation/CFString.h"
 #include "platform/QuickDraw/QuickDraw.h"
 
 // The Window Manager. Places and sizes are in points. The origin of global coordinates is the main
@@ -31,6 +31,9 @@ OSStatus CreateNewWindow(WindowClass windowClass, WindowAttributes attributes,
 
 /// Hides and destroys the window and its handlers. May be called while one of them runs.
 void DisposeWindow(WindowRef window);
+
+/// Its name: what screen readers call it.
+OSStatus SetWindowTitleWithCFString(WindowRef window, const CFString* title);
 
 void ShowWindow(WindowRef window);
 

@@ -39,11 +39,13 @@ std::string agentText() {
         return localized("FirstSteps", "It is running.");
     case AgentState::Starting:
         return localized("FirstSteps", "It is starting…");
+    case AgentState::NotInstalled:
+        return localized("FirstSteps", "None is installed yet.");
     case AgentState::NotRunning:
+    case AgentState::Ended:
         break;
     }
-    return daemonMainBundle() ? localized("FirstSteps", "It isn’t running now.")
-                              : localized("FirstSteps", "None is installed yet.");
+    return localized("FirstSteps", "It isn’t running now.");
 }
 
 /// What is beside the button that is to be hit.

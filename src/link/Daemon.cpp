@@ -243,8 +243,17 @@ void AgentHold::set(bool isWanted) {
 AgentState daemonState() {
     if (findDaemon() && daemonPSN != quitPSN)
         return AgentState::Running;
-    const bool isAwaited = daemonExecutablePath && isLaunching(toUTF8(daemonExecutablePath.get()));
-    return isAwaited ? AgentState::Starting : AgentState::NotRunning;
+    if (!daemonMainBundle())
+        return AgentState::NotInstalled;
+    if (isLaunching(toUTF8(daemonExecutablePath.get())))
+        return AgentState::Starting;
+    return daemonPSN != kNoProcess && daemonPSN != quitPSN ? AgentState::Ended
+                                                           : AgentState::NotRunning;
+}
+
+void daemonLaunch() {
+    if (daemonExecutablePath && !findDaemon())
+        launchAgain(toUTF8(daemonExecutablePath.get()));
 }
 
 CFBundle* daemonMainBundle() {

@@ -48,12 +48,18 @@ private:
 
 enum class AgentState {
     Running,
-    Starting,   ///< started less than ten seconds ago
-    NotRunning, ///< and isn't starting
+    Starting,     ///< started less than ten seconds ago
+    NotRunning,   ///< and isn't starting
+    Ended,        ///< as before; it ran during this visit, and nobody here asked it to quit
+    NotInstalled, ///< and none runs from elsewhere
 };
 
 /// As far as is known. wranglerShowAgentState is called whenever it changes.
 AgentState daemonState();
+
+/// Starts the agent, unless it runs or is starting, and forgets that it ended or didn't start
+/// before.
+void daemonLaunch();
 
 /// The agent application's bundle with its resources. Null without a path or bundle. Borrowed until
 /// daemonCleanup.

@@ -2,8 +2,10 @@
 #include "src/notice/axreq.h"
 
 #include "platform/Accessibility/AXUIElement.h"
+#include "platform/AppKit/UserMessages.h"
 #include "platform/CoreFoundation/CFNumber.h"
 #include "platform/CoreFoundation/CFPreferences.h"
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreServices/LaunchServices.h"
 #include "platform/HIToolbox/AppleHelp.h"
 #include "platform/HIToolbox/CommandEvents.h"
@@ -14,12 +16,14 @@
 #include "src/store/prefs.h"
 
 #include <ctime>
+#include <iterator>
 
 namespace {
 
 constexpr ControlID kNeverAgain{fourCharCode("axRq"), 100};
 constexpr UInt32 kDismiss = fourCharCode("axCn");
 constexpr UInt32 kOpenSettings = fourCharCode("axOp");
+constexpr UInt32 kSwitchOn = fourCharCode("axSw");
 
 constexpr SInt32 kNever = 0x7FFFFFFF; ///< the stored day that means "never again"
 constexpr EventTimerInterval kSecondsShown = 30.0;
@@ -27,7 +31,7 @@ constexpr EventTimerInterval kSecondsShown = 30.0;
 const NibRequirementRegistration nibRequirement([] {
     static constexpr const char* windows[] = {"sheet", "window"};
     static constexpr ControlID controls[] = {kNeverAgain};
-    static constexpr UInt32 commands[] = {kDismiss, kOpenSettings};
+    static constexpr UInt32 commands[] = {kDismiss, kOpenSettings, kSwitchOn};
     return NibRequirement{"axreq", windows, controls, commands};
 }());
 
@@ -80,8 +84,19 @@ void openHelpPage() {
 void openAccessSettings() {
     const auto url = CFURLCreateFromFileSystemRepresentation(
         "/System/Library/PreferencePanes/UniversalAccessPref.prefPane", true);
-    if (!url || LSOpenCFURLRef(url.get(), nullptr) != noErr)
-        openHelpPage();
+    if (url && LSOpenCFURLRef(url.get(), nullptr) == noErr)
+        return;
+    tellUser("access", {.text = localized("Notice", "This desktop has no settings that could be "
+                                                    "opened here. The help says how to switch "
+                                                    "assistive access on.")});
+    openHelpPage();
+}
+
+/// A press or a key in the notice: its user is reading it.
+OSStatus stirred(EventHandlerCallRef, EventRef, void*) {
+    if (noticeTimer)
+        SetEventLoopTimerNextFireTime(noticeTimer, kSecondsShown);
+    return eventNotHandledErr;
 }
 
 OSStatus windce(EventHandlerCallRef, EventRef event, void*) {
@@ -99,6 +114,10 @@ OSStatus windce(EventHandlerCallRef, EventRef event, void*) {
     case kOpenSettings:
         axReqCancel();
         openAccessSettings();
+        return noErr;
+    case kSwitchOn:
+        enableAXAPI(openAccessSettings);
+        axReqCancel();
         return noErr;
     default:
         return eventNotHandledErr;
@@ -130,6 +149,10 @@ bool createNoticeWindow(CFBundle* bundle, const CFString* windowName) {
         constexpr EventTypeSpec kType{kEventClassCommand, kEventCommandProcess};
         InstallEventHandler(GetWindowEventTarget(noticeWindow), NewEventHandlerUPP(windce), 1,
                             &kType, nullptr, nullptr);
+        constexpr EventTypeSpec kStirs[] = {{kEventClassKeyboard, kEventRawKeyDown},
+                                            {kEventClassMouse, kEventMouseDown}};
+        InstallEventHandler(GetWindowEventTarget(noticeWindow), NewEventHandlerUPP(stirred),
+                            std::size(kStirs), kStirs, nullptr, nullptr);
         InstallEventLoopTimer(GetMainEventLoop(), kSecondsShown, 0, NewEventLoopTimerUPP(timeup),
                               nullptr, &noticeTimer);
         noticeBundle = CFRef<CFBundle>::retain(bundle);

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "src/firststeps/FirstStepsPage.h"
+#include "src/link/Daemon.h"
 #include "src/pane/NumberController.h"
+#include "src/pane/SwitchGuard.h"
 #include "src/pane/area/ScanAreaChooser.h"
 #include "src/pane/hotkeys/HotKeyEditor.h"
 #include "src/pane/hotkeys/HotKeyView.h"
@@ -70,21 +72,28 @@ public:
     void changed(ChangeMask changes) override;
     void updateUIForChanges(ChangeMask changes);
 
-    void updateMasterOnOff();
-    /// Shows what the switch does now, as far as that is known.
-    void updateMasterState();
-    /// The agent has reported its state. It is stored and not sent back.
-    void setMasterOnOff(bool on);
     void updateTriggerUI();
     /// Makes the preview show that line. Doesn't redraw it.
     void showSampleLineType(SInt32 type);
     void updateScanAreaRadios();
 
-    void changedMasterOnOff(NSMatrix* sender);
-    void switchOn();
     void changedUseScanArea(NSMatrix* sender);
     void changedTriggerOnRelease(NSMatrix* sender);
     void changedScanMode(NSMatrix* sender);
+
+    // PreferenceWranglerSwitch.cpp: on and off, and whether the switch is heard
+
+    void updateMasterOnOff();
+    /// Shows what the switch does now, as far as that is known, and says when nothing can scan.
+    void updateMasterState();
+    /// The agent has reported its state. It is stored and not sent back.
+    void setMasterOnOff(bool on);
+    /// Also starts an agent that doesn't run.
+    void changedMasterOnOff(NSMatrix* sender);
+    void switchOn();
+    /// Before `prefs` are stored for good: undoes in them what would lock the user out and wasn't
+    /// confirmed. The controls don't show it. Returns what has changed.
+    ChangeMask settle();
 
     // PreferenceWranglerHistory.cpp: steps that can be undone, and changes of many settings at once
 
@@ -320,6 +329,8 @@ private:
     PrefsRecord marked_;               ///< the record when marks were last updated
 
     History history_{prefs};
+    SwitchGuard guard_;
+    AgentState shownAgent_ = AgentState::NotRunning; ///< as last told
     HotKeyEditor hotKeys_;
     PaletteEditor palette_{*this};
     PointerChooser pointers_{*this};

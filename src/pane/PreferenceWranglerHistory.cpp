@@ -45,6 +45,9 @@ void PreferenceWrangler::beginHistory() {
     defaults_ = defaultRecord();
     updateDefaults(true);
     updateHistoryUI();
+    guard_.begin([this](const SettingSet& settings, const PrefsRecord& record) {
+        putBack(settings, record);
+    });
 }
 
 void PreferenceWrangler::noteStep() {
@@ -157,6 +160,7 @@ void PreferenceWrangler::showAndReport(const SettingSet& settings) {
         prefsWerentChanged();
         recoveryForget();
     }
+    guard_.follow();
 }
 
 void PreferenceWrangler::updateHistoryUI() {

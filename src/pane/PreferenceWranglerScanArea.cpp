@@ -2,9 +2,12 @@
 #include "src/pane/PreferenceWrangler.h"
 
 #include "platform/AppKit/NSTextField.h"
+#include "platform/AppKit/UserMessages.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "src/pane/area/choosearea.h"
 #include "src/record/settingwords.h"
+
+#include <utility>
 
 namespace {
 
@@ -19,10 +22,29 @@ std::string explain(OSStatus error) {
                            "session with X11 (Xorg).");
 }
 
+/// Says what came of drawing an area, when that is over.
+void tellOutcome(std::string text) {
+    tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note, .text = std::move(text)});
+}
+
+/// An area that can't be scanned, as typed numbers may make it. Empty for any other.
+std::string missingText(const ScanArea& area) {
+    const auto& [x, y, width, height] = area;
+    const bool isNone = x == 0 && y == 0 && width == 0 && height == 0;
+    if (isNone || isUsable(area))
+        return {};
+    if (width > 0)
+        return localized("ScanArea", "The height is missing.");
+    return height > 0 ? localized("ScanArea", "The width is missing.")
+                      : localized("ScanArea", "Width and height are missing.");
+}
+
 } // namespace
 
 void PreferenceWrangler::updateScanAreaText() {
-    scanAreaText_->setStringValue(settingText(settingAt(offsetof(PrefsRecord, scanArea)), prefs));
+    const std::string missing = missingText(prefs.scanArea);
+    scanAreaText_->setStringValue(
+        missing.empty() ? settingText(settingAt(offsetof(PrefsRecord, scanArea)), prefs) : missing);
 }
 
 void PreferenceWrangler::showScanArea() {
@@ -37,10 +59,17 @@ void PreferenceWrangler::setCustomScanArea(NSButton*) {
     if (!chooseArea(&area)) {
         if (chooseAreaError() != noErr)
             scanAreaText_->setStringValue(explain(chooseAreaError()));
+        else
+            tellOutcome(localized("ScanArea", "What is scanned stays as it was."));
         return;
     }
     prefs.scanArea = {area.origin.x, area.origin.y, area.size.width, area.size.height};
     prefs.useScanArea = !CGRectIsEmpty(area);
     updateScanAreaRadios();
     changed(kChangeScanArea);
+    tellOutcome(prefs.useScanArea
+                    ? filled(localized("ScanArea", "Only your own area is scanned now: %1."),
+                             {settingText(settingAt(offsetof(PrefsRecord, scanArea)), prefs)})
+                    : localized("ScanArea", "You have no area of your own any more. The whole "
+                                            "screen is scanned."));
 }

@@ -76,6 +76,10 @@ void VLDKorvexPane::didSelect() {
 }
 
 bool VLDKorvexPane::commitEditing() {
+    if (const ChangeMask undone = preferenceWrangler_->settle()) {
+        prefsWereChanged();
+        daemonSendChanges(undone, true);
+    }
     return prefsCommit();
 }
 

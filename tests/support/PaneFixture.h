@@ -41,10 +41,9 @@ protected:
     }
 
     /// Makes the pane and shows it, as the host does.
-    void open() {
+    void open(const char* bundle = KORVEX_BUNDLE) {
         pane_ = std::make_unique<VLDKorvexPane>();
-        bundle_ =
-            CFBundleCreate(CFURLCreateFromFileSystemRepresentation(KORVEX_BUNDLE, true).get());
+        bundle_ = CFBundleCreate(CFURLCreateFromFileSystemRepresentation(bundle, true).get());
         pane_->initWithBundle(bundle_.get());
         std::vector<std::string> errors;
         ASSERT_TRUE(pane_->loadMainView(errors)) << testing::PrintToString(errors);

@@ -79,6 +79,13 @@ void DisposeWindow(WindowRef window) {
     delete window;
 }
 
+OSStatus SetWindowTitleWithCFString(WindowRef window, const CFString* title) {
+    const QString name = QString::fromStdU16String(title->text());
+    window->widget().setWindowTitle(name);
+    window->widget().setAccessibleName(name);
+    return noErr;
+}
+
 void ShowWindow(WindowRef window) {
     window->show();
 }

@@ -154,7 +154,14 @@ std::string ScanAreaChooser::choiceName(int index) const {
                                          {part, std::to_string(index / kPartCount + 1)});
 }
 
+/// With one display the first picture is no area: it is what is scanned without one.
+bool ScanAreaChooser::isWholeScreen(int index) const {
+    return index == 0 && displays_.size() == 1;
+}
+
 bool ScanAreaChooser::isChosen(int index) const {
+    if (isWholeScreen(index))
+        return !prefs.useScanArea;
     const auto& [x, y, width, height] = prefs.scanArea;
     const auto [origin, size] = areaOf(index);
     return prefs.useScanArea && origin.x == x && origin.y == y && size.width == width &&
@@ -190,6 +197,10 @@ void ScanAreaChooser::drawWindow(const Rect& bounds) const {
 void ScanAreaChooser::choose(int index) {
     if (index >= partCount() && !(lastWindow_ = lastUsedWindow()))
         return; // the window is gone
+    if (isWholeScreen(index)) {
+        prefs.useScanArea = 0;
+        return changes_.changed(kChangeScanArea);
+    }
     const auto [origin, size] = areaOf(index);
     prefs.scanArea = {origin.x, origin.y, size.width, size.height};
     prefs.useScanArea = 1;

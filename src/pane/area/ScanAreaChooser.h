@@ -45,6 +45,7 @@ public:
 private:
     int partCount() const;
     CGRect areaOf(int index) const;
+    bool isWholeScreen(int index) const;
     void drawWindow(const Rect& bounds) const;
     void reloadGrid();
     void takeNumbers();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/pane/area/choosearea.h"
 
+#include "platform/AppKit/NSAccessibility.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/CoreGraphics/CGDirectDisplay.h"
@@ -8,6 +9,7 @@
 #include "src/pane/changedparts.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace {
@@ -138,6 +140,22 @@ void drawAreas(CGContext* context) {
     CGContextRestoreGState(context);
 }
 
+std::string wholeNumber(CGFloat points) {
+    return std::to_string(std::lround(points));
+}
+
+/// Makes a screen reader say where the area is, and `before` it.
+void sayArea(const CGRect& area, const std::string& before = {}) {
+    const auto [origin, size] = CGRectStandardize(area);
+    const std::string place = CGRectIsEmpty(area)
+                                  ? localized("ScanArea", "No area")
+                                  : filled(localized("ScanArea", "Left %1, top %2, %3 by %4"),
+                                           {wholeNumber(origin.x), wholeNumber(origin.y),
+                                            wholeNumber(size.width), wholeNumber(size.height)});
+    NSAccessibilityPostNotification(nullptr, NSAccessibilityAnnouncementRequestedNotification,
+                                    before + place);
+}
+
 ShownAreas shownAreas() {
     return {currentBounds, newBounds, dragging};
 }
@@ -215,6 +233,8 @@ OSStatus handleMouseEvent(EventRef event) {
         return eventNotHandledErr;
     if (followMouse(GetEventKind(event), location))
         drawChanges();
+    if (GetEventKind(event) == kEventMouseUp)
+        sayArea(currentBounds);
     return eventNotHandledErr;
 }
 
@@ -284,6 +304,7 @@ OSStatus arrowHandler(EventHandlerCallRef, EventRef event, void*) {
     newBounds = {near, {far.x - near.x, far.y - near.y}};
     currentBounds = newBounds;
     drawChanges();
+    sayArea(currentBounds);
     return noErr;
 }
 
@@ -295,6 +316,8 @@ OSStatus openOverlay(Boolean* accepted) {
         &kInitialBounds, &overlay);
     if (error != noErr)
         return error;
+    SetWindowTitleWithCFString(overlay,
+                               createFromUTF8(localized("ScanArea", "Draw my own area")).get());
     if (!overlayUPP)
         overlayUPP = NewEventHandlerUPP(overlayHandler);
     const EventTargetRef target = GetWindowEventTarget(overlay);
@@ -313,6 +336,10 @@ OSStatus runOverlay(const CGRect& area) {
     dragging = false;
     ShowWindow(overlay);
     SetUserFocusWindow(overlay);
+    sayArea(area,
+            localized("ScanArea", "Arrow keys move a corner, with Shift the other one. Return "
+                                  "keeps the area, Escape leaves it as it was.") +
+                "\n");
     return RunAppModalLoopForWindow(overlay);
 }
 

@@ -4,7 +4,8 @@
 #include "tests/support/ApplicationTest.h"
 
 #include <QApplication>
-#include <QDesktopServices>
+#include <QLabel>
+#include <QTest>
 #include <QTextBrowser>
 
 namespace {
@@ -12,7 +13,36 @@ namespace {
 const std::string kName = "<key>CFBundleHelpBookName</key><string>Test Help</string>";
 const std::string kFolder = "<key>CFBundleHelpBookFolder</key><string>my help</string>";
 
-using AppleHelpTest = ApplicationTest<QApplication>;
+class AppleHelpTest : public ApplicationTest<QApplication> {
+protected:
+    /// Puts a desktop's opener first in $PATH. It notes what it opens and ends with that status.
+    void makeOpener(int status) {
+        const fs::path folder = makeSandboxFolder("bin"), opener = folder / "xdg-open";
+        writeFile(opener, "#!/bin/sh\nprintf %s \"$1\" >'" + opened_.string() + "'\nexit " +
+                              std::to_string(status) + "\n");
+        fs::permissions(opener, fs::perms::owner_all);
+        qputenv("PATH", (folder.string() + ":" + qgetenv("PATH").toStdString()).c_str());
+    }
+
+    /// What the opener was told to open. Empty if it wasn't started.
+    std::string opened(bool isExpected) {
+        EXPECT_TRUE(!isExpected || QTest::qWaitFor([this] { return fs::exists(opened_); }));
+        QTest::qWait(20);
+        const std::string address = fs::exists(opened_) ? readFile(opened_) : "";
+        fs::remove(opened_);
+        return address;
+    }
+
+    static QTextBrowser* viewer() {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (auto* text = window->findChild<QTextBrowser*>(); text && window->isVisible())
+                return text;
+        return nullptr;
+    }
+
+private:
+    fs::path opened_ = makeSandboxFolder("opened") / "address";
+};
 
 TEST_F(AppleHelpTest, OpensThePagesOfAWholeBookAndNoOthers) {
     const fs::path bundle = makeSandboxFolder("Test Pane.prefPane");
@@ -49,18 +79,25 @@ TEST_F(AppleHelpTest, OpensThePagesOfAWholeBookAndNoOthers) {
                  {"/etc/passwd", nullptr, nullptr},
                  {"tabs", nullptr, nullptr}};
 
+    makeOpener(0);
     const std::string folder =
         "file://" + bundle.parent_path().string() + "/Test%20Pane.prefPane/Contents/Resources/";
     for (const auto& [page, anchor, opened] : cases) {
         SCOPED_TRACE(page ? page : "start page");
-        QTextBrowser desktop;
-        QDesktopServices::setUrlHandler(QStringLiteral("file"), &desktop, "setSource");
         EXPECT_EQ(AHGotoPage(CFSTR("Test Help"), constantText(page), constantText(anchor)),
                   opened ? OSStatus{noErr} : kAHInternalErr);
-        EXPECT_EQ(desktop.source().toString(QUrl::FullyEncoded).toStdString(),
-                  opened ? folder + opened : "");
-        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+        EXPECT_EQ(this->opened(opened != nullptr), opened ? folder + opened : "");
+        EXPECT_EQ(viewer(), nullptr);
     }
+    makeOpener(3); // it found no browser
+    EXPECT_EQ(AHGotoPage(CFSTR("Test Help"), CFSTR("tabs/scanning tab.html"), nullptr), noErr);
+    ASSERT_TRUE(QTest::qWaitFor([] { return viewer() != nullptr; }));
+    EXPECT_EQ(viewer()->source().fileName(), "scanning tab.html");
+    EXPECT_THAT(viewer()->window()->findChild<QLabel*>()->text().toStdString(),
+                testing::HasSubstr((resources / "my help/tabs/scanning tab.html").string()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(viewer()->window()));
+    QTest::keyClick(viewer(), Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([] { return viewer() == nullptr; }));
 }
 
 } // namespace

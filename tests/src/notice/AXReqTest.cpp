@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/notice/axreq.h"
 
+#include "platform/Accessibility/AXUIElement.h"
 #include "platform/CoreFoundation/CFNumber.h"
 #include "platform/CoreFoundation/CFPreferences.h"
 #include "tests/support/AccessibilityService.h"
@@ -146,8 +147,23 @@ TEST_F(AXReqTest, TheStoredDayDecides) {
     EXPECT_NE(notice(), nullptr) << "no number at all";
 }
 
-TEST_F(AXReqTest, ClosesByItselfAfterHalfAMinute) {
+TEST_F(AXReqTest, ItsButtonsSwitchAccessOnAndSayWhereThereAreNoSettings) {
+    AccessibilityService service;
     open();
+    QTest::mouseClick(part<QPushButton>("sheetOpen"), Qt::LeftButton);
+    EXPECT_EQ(notice(), nullptr);
+    EXPECT_THAT(told(), testing::HasSubstr("no settings that could be opened"));
+    fakeTime = 20'001 * kDay;
+    selectAgain();
+    QTest::mouseClick(part<QPushButton>("sheetSwitchOn"), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([] { return AXAPIEnabled(); }));
+}
+
+TEST_F(AXReqTest, ClosesByItselfHalfAMinuteAfterTheLastKeyInIt) {
+    open();
+    QTest::qWait(4'000);
+    QTest::keyClick(window()->focusWidget(), Qt::Key_Tab);
+    QTest::mouseClick(notice(), Qt::LeftButton);
     QElapsedTimer clock;
     clock.start();
     ASSERT_TRUE(QTest::qWaitFor([this] { return notice() == nullptr; }, 40'000));

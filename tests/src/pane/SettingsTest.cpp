@@ -242,8 +242,10 @@ TEST_F(SettingsTest, WhatWasSwitchedOffOrResetIsPutBackFromTheStrip) {
     prefs.buttonActions[0] = 5;
     openWithAgent();
     click("masterOnOffRadios0");
-    EXPECT_EQ(find<QLabel>("masterState")->text(), "Your switch does nothing now");
-    EXPECT_EQ(told(), "Scanning is off. control+shift+X switches it on again.");
+    EXPECT_EQ(find<QLabel>("masterState")->text(), "Off");
+    EXPECT_EQ(told(),
+              "Scanning is off. Hold your switch for four seconds to switch it on again, or press "
+              "control+shift+X.");
     pressInStrip();
     EXPECT_EQ(prefs.on, 1);
     click("resetActionsBtn");
