@@ -6,11 +6,12 @@
 #include "platform/AppKit/detail/ShownText.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QBoxLayout>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QShortcut>
 
 namespace {
 
@@ -60,6 +61,8 @@ Strip::Strip(QWidget* parent)
     all->setSpacing(0);
     all->addWidget(edge_);
     all->addLayout(content_);
+    connect(qApp, &QApplication::focusChanged, this, &Strip::followFocus);
+    new QShortcut(QKeySequence(Qt::Key_F6), this, this, &Strip::goThereOrBack);
     setMessageListener([this] { showCurrent(); });
     showCurrent();
 }
@@ -69,6 +72,8 @@ Strip::~Strip() {
 }
 
 void Strip::showCurrent() {
+    if (hasKeyboard()) // a button that goes would pass it on to any other
+        giveKeyboardBack();
     // Later: the press of one of them may be under way.
     for (auto* button : buttonRow_->findChildren<QPushButton*>()) {
         buttons_->removeWidget(button);
@@ -101,6 +106,29 @@ void Strip::showCurrent() {
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
     announce(text);
+}
+
+void Strip::followFocus(QWidget* before, QWidget* now) {
+    if (now && isAncestorOf(now) && before && !isAncestorOf(before))
+        former_ = before;
+}
+
+bool Strip::hasKeyboard() const {
+    const QWidget* focus = window()->focusWidget();
+    return focus && isAncestorOf(focus);
+}
+
+void Strip::goThereOrBack() {
+    if (hasKeyboard())
+        return giveKeyboardBack();
+    for (auto* button : buttonRow_->findChildren<QPushButton*>())
+        if (buttons_->indexOf(button) == 0)
+            button->setFocus(Qt::ShortcutFocusReason);
+}
+
+void Strip::giveKeyboardBack() {
+    if (former_ && former_->isVisible() && former_->isEnabled())
+        former_->setFocus(Qt::OtherFocusReason);
 }
 
 void Strip::setColors(bool isAlert) {

@@ -13,6 +13,7 @@ struct NSAccessibilityElement {
     NSRect frame;      ///< in the view's coordinates
     bool isSelected = false;
     bool isEnabled = true;
+    std::string help = {}; ///< its description, UTF-8
 };
 
 /// A view that draws a list of elements and describes each to a screen reader. Indexes start at 0.

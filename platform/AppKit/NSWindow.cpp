@@ -9,6 +9,8 @@
 
 #include <QPointer>
 #include <QScreen>
+#include <QStackedWidget>
+#include <QVariant>
 #include <QWidget>
 
 #include <algorithm>
@@ -43,6 +45,19 @@ void NSWindow::makeFirstResponder(NSView* view) {
 
 bool NSWindow::isKeyWindow() const {
     return window_->isActiveWindow();
+}
+
+std::string NSWindow::helpTopic() const {
+    const auto topicOf = [](const QWidget* widget) {
+        return widget->property("help").toString().toStdString();
+    };
+    for (const QWidget* each = window_->focusWidget(); each; each = each->parentWidget())
+        if (const std::string topic = topicOf(each); !topic.empty())
+            return topic;
+    for (const auto* pages : window_->findChildren<QStackedWidget*>())
+        if (pages->isVisible() && pages->currentWidget())
+            return topicOf(pages->currentWidget());
+    return {};
 }
 
 WindowRef NSWindow::windowRef() const {

@@ -4,6 +4,8 @@
 #include "platform/AppKit/NSGeometry.h"
 #include "platform/HIToolbox/MacWindows.h"
 
+#include <string>
+
 class NSView;
 class QWidget;
 
@@ -41,6 +43,10 @@ public:
     NSScreen screen() const;
 
     QWidget* widget() const { return window_; }
+
+    /// What the help has on the view with the keyboard: the property `help` of its widget or the
+    /// nearest one around it, else of the page in sight. Empty when none has one.
+    std::string helpTopic() const;
 
     /// The same window for Carbon.
     WindowRef windowRef() const;

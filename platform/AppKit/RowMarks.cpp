@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 
 namespace {
 
@@ -15,7 +16,9 @@ bool isButton(const QWidget* widget) {
 }
 
 bool canBeOperated(const QWidget* widget) {
-    return (widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() && widget->isVisible() &&
+    const bool takesKeyboard =
+        (widget->focusPolicy() & Qt::TabFocus) || qobject_cast<const QSlider*>(widget);
+    return takesKeyboard && widget->isEnabled() && widget->isVisible() &&
            !qobject_cast<const QLineEdit*>(widget) && !dynamic_cast<const PutBackButton*>(widget);
 }
 

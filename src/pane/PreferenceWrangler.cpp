@@ -12,6 +12,8 @@
 #include "src/pane/SliderController.h"
 #include "src/pane/look/SampleScanView.h"
 
+#include <algorithm>
+
 REGISTER_CLASS(PreferenceWrangler);
 
 PreferenceWrangler* theWrangler = nullptr;
@@ -243,8 +245,15 @@ const CFBundle* PreferenceWrangler::ownBundle() {
         CFSTR((std::string(kAgentBundleIDText) + ".PrefsPane").c_str()));
 }
 
-void PreferenceWrangler::showHelp(NSButton*) {
-    showHelpPage(nullptr);
+/// The page of the section, at the row that has the keyboard.
+void PreferenceWrangler::showHelp(NSButton* sender) {
+    const std::string topic = sender->window().helpTopic();
+    const std::size_t mark = std::min(topic.find('#'), topic.size());
+    const auto page = createFromUTF8(topic.substr(0, mark));
+    const auto anchor = createFromUTF8(topic.substr(std::min(mark + 1, topic.size())));
+    if (helpBookName_)
+        AHGotoPage(helpBookName_, topic.empty() ? nullptr : page.get(),
+                   mark < topic.size() ? anchor.get() : nullptr);
 }
 
 void PreferenceWrangler::showHelpPage(const CFString* page) {

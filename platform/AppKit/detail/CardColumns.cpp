@@ -20,6 +20,12 @@ public:
 
     ~CardLayout() override { qDeleteAll(items_); }
 
+    /// Above all columns, with margins of its own; null for none. Not owned.
+    void setAbove(QWidget* above) {
+        above_ = above;
+        invalidate();
+    }
+
     void addItem(QLayoutItem* item) override { items_ << item; }
 
     int count() const override { return static_cast<int>(items_.size()); }
@@ -44,7 +50,8 @@ public:
     int heightForWidth(int width) const override {
         const Columns columns = columnsIn(width);
         const auto [left, right] = heightsOf(columns);
-        return std::max(left, right) + contentsMargins().top() + contentsMargins().bottom();
+        return heightAbove() + std::max(left, right) + contentsMargins().top() +
+               contentsMargins().bottom();
     }
 
     QSize sizeIn(int columns) const {
@@ -59,10 +66,13 @@ public:
         const QRect room = rect.marginsRemoved(contentsMargins());
         const Columns columns = columnsIn(rect.width());
         const int all = columns.end < count() ? 2 * columns.width + spacing() : columns.width;
-        QPoint place(room.x() + (room.width() - all) / 2, room.y());
+        const int top = room.y() + heightAbove();
+        QPoint place(room.x() + (room.width() - all) / 2, top);
+        if (above_)
+            above_->setGeometry({rect.topLeft(), QSize(rect.width(), above_->sizeHint().height())});
         for (int index = 0; index < count(); ++index) {
             if (index == columns.end)
-                place = {place.x() + columns.width + spacing(), room.y()};
+                place = {place.x() + columns.width + spacing(), top};
             const QSize size(columns.width, heightOf(*items_[index], columns.width));
             items_[index]->setGeometry({place, size});
             place.ry() += size.height() + spacing();
@@ -99,7 +109,10 @@ private:
         return {heights[0], heights[1]};
     }
 
+    int heightAbove() const { return above_ ? above_->sizeHint().height() : 0; }
+
     QList<QLayoutItem*> items_;
+    QWidget* above_ = nullptr;
 };
 
 } // namespace
@@ -112,6 +125,14 @@ void CardColumns::build() {
     cards->setContentsMargins(margins);
     for (auto* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
         cards->addWidget(child);
+}
+
+void CardColumns::setAbove(QWidget* above) {
+    if (above) {
+        above->setParent(this);
+        above->lower(); // first in the reading order
+    }
+    static_cast<CardLayout*>(layout())->setAbove(above);
 }
 
 QSize CardColumns::sizeIn(int columns) const {

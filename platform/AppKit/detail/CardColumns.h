@@ -16,6 +16,10 @@ public:
 
     void build() override;
 
+    /// Shows a widget above the cards, as wide as the page; null for none. The caller puts the
+    /// former one elsewhere.
+    void setAbove(QWidget* above);
+
     /// The width of that many columns, and the height of the cards in them.
     QSize sizeIn(int columns) const;
 };

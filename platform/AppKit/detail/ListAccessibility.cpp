@@ -26,7 +26,7 @@ public:
 
     int indexOfChild(const QAccessibleInterface*) const override { return -1; }
 
-    QAccessible::Role role() const override { return QAccessible::ListItem; }
+    QAccessible::Role role() const override { return list_.elementRole(); }
 
     QAccessible::State state() const override;
     QString text(QAccessible::Text kind) const override;
@@ -70,7 +70,9 @@ QAccessible::State ElementInterface::state() const {
 }
 
 QString ElementInterface::text(QAccessible::Text kind) const {
-    return kind == QAccessible::Name ? QString::fromStdString(element().label) : QString();
+    return kind == QAccessible::Name          ? QString::fromStdString(element().label)
+           : kind == QAccessible::Description ? QString::fromStdString(element().help)
+                                              : QString();
 }
 
 QRect ElementInterface::rect() const {
@@ -81,8 +83,9 @@ QRect ElementInterface::rect() const {
 
 } // namespace
 
-ListInterface::ListInterface(QWidget& widget, NSAccessibilityList& list)
-    : QAccessibleWidget(&widget, QAccessible::List), list_(list) {}
+ListInterface::ListInterface(QWidget& widget, NSAccessibilityList& list, QAccessible::Role role,
+                             QAccessible::Role elementRole)
+    : QAccessibleWidget(&widget, role), list_(list), elementRole_(elementRole) {}
 
 ListInterface::~ListInterface() {
     for (const QAccessible::Id id : elements_)

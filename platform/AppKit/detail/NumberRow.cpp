@@ -39,13 +39,12 @@ Part* NumberRow::make(const char* suffix, const char* outlet, const char* action
 QAbstractButton* NumberRow::makeButton(const char* suffix, const char* outlet, const char* action,
                                        const char* text, const QString& name) {
     auto* button = make<QToolButton>(suffix, outlet, action);
-    button->setFocusPolicy(Qt::StrongFocus);
     button->setText(QString::fromUtf8(text));
     button->setAccessibleName(name);
     return button;
 }
 
-void NumberRow::addSlider(QHBoxLayout& controls) {
+SliderWidget* NumberRow::addSlider(QHBoxLayout& controls) {
     auto* slider = make<SliderWidget>("Slider", "slider", "changedValue:");
     slider->setOrientation(Qt::Horizontal);
     const double range = property("maxValue").toDouble() - property("minValue").toDouble();
@@ -56,7 +55,27 @@ void NumberRow::addSlider(QHBoxLayout& controls) {
         slider->setProperty(limit, property(limit));
     slider->setMinimumWidth(kLeastSliderWidth);
     slider->setPreferredWidth(kSliderWidth);
+    slider->setFocusPolicy(Qt::ClickFocus);
     controls.addWidget(slider, 1);
+    return slider;
+}
+
+/// Less, value, more: the keys of the value do what the other parts do for the mouse.
+void NumberRow::setUpKeys(Buttons buttons, ValueField& field, SliderWidget* slider) {
+    for (auto* stop : {buttons.less, buttons.more})
+        stop->setFocusPolicy(Qt::StrongFocus);
+    for (auto* other : {buttons.muchLess, buttons.muchMore})
+        other->setFocusPolicy(Qt::ClickFocus);
+    field.onStep = [buttons, slider](ValueField::Step step) {
+        using enum ValueField::Step;
+        if (step == MuchLess || step == MuchMore)
+            (step == MuchMore ? buttons.muchMore : buttons.muchLess)->click();
+        else if (slider)
+            slider->triggerAction(step == More ? QAbstractSlider::SliderSingleStepAdd
+                                               : QAbstractSlider::SliderSingleStepSub);
+        else
+            (step == More ? buttons.more : buttons.less)->click();
+    };
 }
 
 void NumberRow::build() {
@@ -72,32 +91,33 @@ void NumberRow::build() {
     const bool hasSlider = property("maxValue").isValid();
 
     const RowText text(*this, caption, accessibleDescription());
-    explanation_ = text.explanation;
     auto* putBack = new PutBackButton(this); // before the controls in reading order
     auto* controls = new QHBoxLayout;
     controls->setContentsMargins(0, 0, 0, 0);
     controls->setSpacing(kGap);
-    controls->addWidget(
-        makeButton("PageDecBtn", "pageDecBtn", "decPage:", "−−", named("less", page)));
-    controls->addWidget(makeButton("DecBtn", "decBtn", "decValue:", "−", named("less", step)));
-    if (hasSlider)
-        addSlider(*controls);
-    controls->addWidget(makeButton("IncBtn", "incBtn", "incValue:", "+", named("more", step)));
-    controls->addWidget(
-        makeButton("PageIncBtn", "pageIncBtn", "incPage:", "++", named("more", page)));
+    Buttons buttons;
+    buttons.muchLess =
+        makeButton("PageDecBtn", "pageDecBtn", "decPage:", "−−", named("less", page));
+    buttons.less = makeButton("DecBtn", "decBtn", "decValue:", "−", named("less", step));
+    controls->addWidget(buttons.muchLess);
+    controls->addWidget(buttons.less);
+    SliderWidget* slider = hasSlider ? addSlider(*controls) : nullptr;
+    // Here for Tab, which follows the order of the parts.
+    auto* field = make<ValueField>("Label", "label", "typedValue:");
+    buttons.more = makeButton("IncBtn", "incBtn", "incValue:", "+", named("more", step));
+    buttons.muchMore =
+        makeButton("PageIncBtn", "pageIncBtn", "incPage:", "++", named("more", page));
+    controls->addWidget(buttons.more);
+    controls->addWidget(buttons.muchMore);
     if (!hasSlider)
         controls->addStretch();
-    auto* field = make<ValueField>("Label", "label", "typedValue:");
     field->setExplanation(text.explanation);
     controls->addWidget(field);
+    setUpKeys(buttons, *field, slider);
     if (hasSlider)
         text.caption->setProperty("outlet", QStringLiteral("title"));
     text.caption->setBuddy(field);
     new RowLayout(this, text, controls, putBack, rowIndent(*this));
-}
-
-void NumberRow::setCompact(bool compact) {
-    showExplanation(*this, explanation_, compact);
 }
 
 void NumberRow::paintEvent(QPaintEvent*) {

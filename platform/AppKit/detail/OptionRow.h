@@ -14,9 +14,9 @@
 class OptionLook {
 public:
     /// `indicatorAtRight`: true for check boxes. A radio button has its indicator before the text.
-    OptionLook(const QAbstractButton& button, bool indicatorAtRight, bool isCompact)
+    OptionLook(const QAbstractButton& button, bool indicatorAtRight)
         : button_(button), room_(PutBackButton::of(button) ? PutBackButton::kRoom : 0),
-          indicatorAtRight_(indicatorAtRight), isCompact_(isCompact) {}
+          indicatorAtRight_(indicatorAtRight) {}
 
     int widthHint() const;
     int heightForWidth(int width) const;
@@ -25,7 +25,7 @@ public:
     void draw(QWidget& row, QStyle::PrimitiveElement indicator, const QStyleOption& option) const;
 
 private:
-    QString explanation() const { return isCompact_ ? QString() : button_.accessibleDescription(); }
+    QString explanation() const { return button_.accessibleDescription(); }
 
     QSize textSize(int width) const;
     QRect textRect(const QRect& rect) const;
@@ -35,14 +35,13 @@ private:
     const QAbstractButton& button_;
     int room_; ///< points for the button that puts the row back
     bool indicatorAtRight_;
-    bool isCompact_; ///< shows no explanation
 };
 
 /// A check box or radio button that is a whole row. Its accessible description is shown beneath its
 /// text. A click anywhere in the row clicks it. It has a button that puts it back, unless it is
 /// inside another row. Property `indented`: see NumberRow.
 template <class Button>
-class OptionRow final : public Button, public FormPart, public CompactRow {
+class OptionRow final : public Button, public FormPart, public FormRow {
 public:
     explicit OptionRow(QWidget* parent) : Button(parent) {
         QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
@@ -66,13 +65,6 @@ public:
         return isBuilt_ ? look().heightForWidth(width) : panestyle::kTarget;
     }
 
-    void setCompact(bool compact) override {
-        isCompact_ = compact;
-        this->setToolTip(compact ? this->accessibleDescription() : QString());
-        this->updateGeometry();
-        this->update();
-    }
-
 protected:
     bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
 
@@ -93,11 +85,10 @@ protected:
 private:
     static constexpr bool kIsCheck = std::is_same_v<Button, QCheckBox>;
 
-    OptionLook look() const { return OptionLook(*this, kIsCheck, isCompact_); }
+    OptionLook look() const { return OptionLook(*this, kIsCheck); }
 
     PutBackButton* putBack_ = nullptr; ///< null for none
-    bool isCompact_ = false;
-    bool isBuilt_ = false; ///< or the form is being read, and nothing need be measured
+    bool isBuilt_ = false;             ///< or the form is being read, and nothing need be measured
 };
 
 using CheckRow = OptionRow<QCheckBox>;

@@ -263,6 +263,14 @@ QSize PaneStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     }
 }
 
+/// A click anywhere in them counts. Assistive technology is told the same.
+QRect PaneStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                const QWidget* widget) const {
+    return element == SE_CheckBoxClickRect || element == SE_RadioButtonClickRect
+               ? option->rect
+               : QProxyStyle::subElementRect(element, option, widget);
+}
+
 QRect PaneStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                                 SubControl part, const QWidget* widget) const {
     if (const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);

@@ -3,7 +3,7 @@
 
 #include "platform/AppKit/detail/PaneColors.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -51,6 +51,10 @@ PutBackButton::PutBackButton(QWidget* row) : QToolButton(row), bar_(new Bar(row)
     row->installEventFilter(this);
     hide();
     bar_->hide();
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (focusPolicy() == Qt::NoFocus && now && !isKeyboardInRow(now))
+            becomeStop();
+    });
     connect(this, &QToolButton::clicked, this, [this] {
         if (const auto press = press_) // a copy: what it does replaces it
             press();
@@ -74,14 +78,26 @@ void PutBackButton::offer(const QString& label, std::function<void()> press) {
     setAccessibleName(name);
     setToolTip(label);
     bar_->setVisible(offered);
+    if (offered && !isVisible() && isKeyboardInRow(window()->focusWidget()))
+        setFocusPolicy(Qt::NoFocus);
     offered ? show() : hideWhenLeft();
     update();
 }
 
+void PutBackButton::becomeStop() {
+    setFocusPolicy(Qt::TabFocus);
+}
+
+bool PutBackButton::isKeyboardInRow(const QWidget* focus) const {
+    return focus && (focus == parentWidget() || parentWidget()->isAncestorOf(focus));
+}
+
 void PutBackButton::hideWhenLeft() {
     // In an inactive window, the focus widget gets the focus back later.
-    if (!press_ && !underMouse() && window()->focusWidget() != this)
+    if (!press_ && !underMouse() && window()->focusWidget() != this) {
         hide();
+        becomeStop();
+    }
 }
 
 bool PutBackButton::eventFilter(QObject* row, QEvent* event) {

@@ -10,7 +10,9 @@
 /// Shows that a row's setting isn't at its default. It has a bar at the start of the row, which is
 /// the widget around the button, and a button that puts the setting back. Both show only while
 /// there is something to put back. But a button with focus or under the pointer stays and does
-/// nothing, so that a second press hits nothing else.
+/// nothing, so that a second press hits nothing else. A change by key doesn't put the button
+/// between the keyboard and what Tab goes to next: it is a Tab stop once the keyboard has left the
+/// row.
 class PutBackButton final : public QToolButton {
 public:
     static constexpr int kSide = panestyle::kTarget; ///< points, as the next
@@ -32,6 +34,8 @@ protected:
 
 private:
     void hideWhenLeft();
+    void becomeStop();
+    bool isKeyboardInRow(const QWidget* focus) const;
 
     QWidget* bar_;                ///< the row's
     std::function<void()> press_; ///< empty: nothing to put back

@@ -34,14 +34,6 @@ RowText::RowText(QWidget& row, const QString& captionText, const QString& explan
     explanation->setBuddy(&row);
 }
 
-void showExplanation(QWidget& row, QLabel* explanation, bool compact) {
-    if (!explanation)
-        return;
-    explanation->setVisible(!compact);
-    if (row.toolTip().isEmpty() || row.toolTip() == row.accessibleDescription())
-        row.setToolTip(compact ? row.accessibleDescription() : QString());
-}
-
 QString withoutMnemonic(QString text) {
     static const QRegularExpression kMnemonic(QStringLiteral("&(.)"));
     return text.replace(kMnemonic, QStringLiteral("\\1"));
@@ -53,7 +45,7 @@ int rowIndent(const QWidget& row) {
 
 bool isInRow(const QWidget& widget) {
     const QWidget* around = widget.parentWidget();
-    while (around && !dynamic_cast<const CompactRow*>(around))
+    while (around && !dynamic_cast<const FormRow*>(around))
         around = around->parentWidget();
     return around != nullptr;
 }

@@ -15,17 +15,11 @@ struct RowText {
     QLabel* explanation; ///< null for none
 };
 
-/// A row that can hide its explanation. It then shows as a tool tip.
-class CompactRow {
-public:
-    virtual void setCompact(bool compact) = 0;
-
+/// A row of the form, around its controls.
+class FormRow {
 protected:
-    ~CompactRow() = default;
+    virtual ~FormRow() = default;
 };
-
-/// Shows the explanation; in a compact row only as a tool tip.
-void showExplanation(QWidget& row, QLabel* explanation, bool compact);
 
 /// A text without the mark of its mnemonic.
 QString withoutMnemonic(QString text);

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/SectionBar.h"
 
+#include "platform/AppKit/detail/ListAccessibility.h"
 #include "platform/AppKit/detail/PaneColors.h"
 #include "platform/AppKit/detail/PaneStyle.h"
+#include "platform/AppKit/detail/RowText.h"
 #include "platform/AppKit/detail/SectionIcons.h"
 
 #include <QPainter>
@@ -21,9 +23,19 @@ constexpr int kIcon = 24;
 constexpr int kStripe = 4; // at the edge of the current section
 constexpr int kLeastWidth = 180;
 
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    auto* bar = dynamic_cast<SectionBar*>(object);
+    return bar ? new ListInterface(*bar, *bar, QAccessible::PageTabList, QAccessible::PageTab)
+               : nullptr;
+}
+
 } // namespace
 
 SectionBar::SectionBar(QWidget* parent) : QTabBar(parent) {
+    [[maybe_unused]] static const bool isKnown = [] {
+        QAccessible::installFactory(makeInterface);
+        return true;
+    }();
     setShape(RoundedWest);
     setDrawBase(false);
     setUsesScrollButtons(true);
@@ -35,6 +47,15 @@ void SectionBar::addSection(const QString& name, const QString& holds, const QSt
     setTabData(index, icon);
     setTabToolTip(index, holds);
     setTabText(index, name);
+}
+
+NSAccessibilityElement SectionBar::accessibilityElement(int index) const {
+    const QRect frame = tabRect(index);
+    return {.label = withoutMnemonic(tabText(index)).toStdString(),
+            .frame = {static_cast<float>(frame.x()), static_cast<float>(frame.y()),
+                      static_cast<float>(frame.width()), static_cast<float>(frame.height())},
+            .isSelected = index == currentIndex(),
+            .help = tabToolTip(index).toStdString()};
 }
 
 QSize SectionBar::tabSizeHint(int index) const {

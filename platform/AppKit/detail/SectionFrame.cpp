@@ -183,8 +183,7 @@ void SectionFrame::enterPage() {
 void SectionFrame::showCurrent() {
     const int current = pages_->currentIndex();
     bar_->setCurrentIndex(current);
-    for (QWidget* above : aboves_)
-        above->setVisible(above->objectName() == pages_->currentWidget()->property("above"));
+    placeAboves();
     for (int index = 0; index < menu_->actions().size(); ++index)
         menu_->actions().at(index)->setChecked(index == current);
     if (!button_)
@@ -193,6 +192,24 @@ void SectionFrame::showCurrent() {
     button_->setText(title);
     button_->setAccessibleName(
         QCoreApplication::translate("SectionFrame", "Section: %1").arg(title));
+}
+
+/// Shows the current page's widget above it: outside of what scrolls, or in a low window inside.
+void SectionFrame::placeAboves() {
+    auto* cards = dynamic_cast<CardColumns*>(page(pages_->currentIndex())->widget());
+    for (QWidget* above : aboves_) {
+        const bool isCurrent =
+            above->objectName() == pages_->currentWidget()->property("above").toString();
+        const bool scrolls = isLow_ && isCurrent && cards;
+        if (auto* former = dynamic_cast<CardColumns*>(above->parentWidget());
+            former && !(scrolls && former == cards))
+            former->setAbove(nullptr);
+        if (scrolls)
+            cards->setAbove(above);
+        else if (above->parentWidget() != this)
+            static_cast<QBoxLayout*>(layout()->itemAt(1)->layout())->insertWidget(0, above);
+        above->setVisible(isCurrent);
+    }
 }
 
 void SectionFrame::fitWindow() {
@@ -280,9 +297,7 @@ void SectionFrame::setLow(bool low) {
     if (low == isLow_)
         return;
     isLow_ = low;
-    for (auto* widget : pages_->findChildren<QWidget*>())
-        if (auto* row = dynamic_cast<CompactRow*>(widget))
-            row->setCompact(low);
+    placeAboves();
 }
 
 void SectionFrame::resizeEvent(QResizeEvent* event) {

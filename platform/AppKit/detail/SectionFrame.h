@@ -21,8 +21,8 @@ class SectionBar;
 /// In a narrow or low window a button with a menu replaces the list. The property `menuButton`
 /// names it. The parts of the layout around it are put one above the other if the window is too
 /// narrow for all. Widgets whose property `wideOnly` is true are then hidden, and the buttons
-/// beside it show their property `shortText` instead of their text. In a low window the rows show
-/// no explanations.
+/// beside it show their property `shortText` instead of their text. In a low window the widget
+/// above a page scrolls with it.
 ///
 /// These keys work in the whole window. Ctrl+Tab, Ctrl+Shift+Tab, Ctrl+Page Up and Ctrl+Page Down
 /// go to the neighbouring section. Alt+1 to Alt+9 go to the section with that number. Alt and a
@@ -53,6 +53,7 @@ private:
     void choose(int section);
     void enterPage();
     void showCurrent();
+    void placeAboves();
     void fitWindow();
     void setPageMargins(bool narrow);
     void setNarrow(bool narrow);

@@ -26,7 +26,6 @@ void SettingRow::build() {
     const auto own = findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
     const QString caption = property("caption").toString();
     const RowText text(*this, caption, accessibleDescription());
-    explanation_ = text.explanation;
     auto* putBack = new PutBackButton(this); // in the reading order before the controls
     auto* controls = new QWidget(this);
     controls->setObjectName(objectName() + QLatin1String("Controls"));
@@ -42,10 +41,6 @@ void SettingRow::build() {
             break;
         }
     }
-}
-
-void SettingRow::setCompact(bool compact) {
-    showExplanation(*this, explanation_, compact);
 }
 
 void SettingRow::paintEvent(QPaintEvent*) {

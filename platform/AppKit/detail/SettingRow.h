@@ -9,16 +9,12 @@
 /// A row of the form with any controls: its children in the form, side by side. It builds caption
 /// and explanation from the properties `caption` and accessibleDescription and puts the controls to
 /// their right. Alt and the caption's mnemonic act on the row's first control.
-class SettingRow final : public QWidget, public FormPart, public CompactRow {
+class SettingRow final : public QWidget, public FormPart, public FormRow {
 public:
     using QWidget::QWidget;
 
     void build() override;
-    void setCompact(bool compact) override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    QLabel* explanation_ = nullptr; ///< null for none
 };

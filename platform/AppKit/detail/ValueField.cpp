@@ -80,7 +80,27 @@ bool ValueField::event(QEvent* event) {
     return true;
 }
 
+std::optional<ValueField::Step> ValueField::stepOf(int key) {
+    switch (key) {
+    case Qt::Key_Up:
+        return Step::More;
+    case Qt::Key_Down:
+        return Step::Less;
+    case Qt::Key_PageUp:
+        return Step::MuchMore;
+    case Qt::Key_PageDown:
+        return Step::MuchLess;
+    default:
+        return {};
+    }
+}
+
 void ValueField::keyPressEvent(QKeyEvent* event) {
+    if (const auto step = stepOf(event->key());
+        step && onStep && event->modifiers() == Qt::NoModifier) {
+        commit();
+        return onStep(*step);
+    }
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:

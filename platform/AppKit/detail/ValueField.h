@@ -3,6 +3,9 @@
 
 #include <QLineEdit>
 
+#include <functional>
+#include <optional>
+
 class QLabel;
 
 /// A field that shows a value and accepts a typed one. The text is taken when Return is pressed or
@@ -26,6 +29,10 @@ public:
 
     std::function<void()> onTyped; ///< called with a new text in the field
 
+    enum class Step { MuchLess, Less, More, MuchMore };
+
+    std::function<void(Step step)> onStep; ///< called by the arrow keys and by Page Up and Down
+
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -33,6 +40,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    static std::optional<Step> stepOf(int key);
     void commit();
     void withdrawRefusal();
 

@@ -20,11 +20,13 @@ protected:
 
     bool isChecked(const char* name) { return find<QAbstractButton>(name)->isChecked(); }
 
-    /// Every control that Tab reaches, shown on its page.
+    /// Every control that Tab reaches, or that its row's value stands for, shown on its page.
     std::vector<QWidget*> controls() {
         std::vector<QWidget*> found;
         for (auto* widget : window()->findChildren<QWidget*>()) {
-            if (!(widget->focusPolicy() & Qt::TabFocus) ||
+            static const QRegularExpression kOfNumbers("(Slider|Page(Dec|Inc)Btn)$");
+            if ((!(widget->focusPolicy() & Qt::TabFocus) &&
+                 !widget->objectName().contains(kOfNumbers)) ||
                 qobject_cast<QAbstractScrollArea*>(widget) ||
                 widget->objectName().startsWith(QLatin1String("qt_")))
                 continue;
@@ -314,6 +316,69 @@ TEST_F(SettingsTest, ANarrowWindowHasAButtonInsteadOfTheListAndAWideOneTwoColumn
         last->setFocus();
         EXPECT_FALSE(last->visibleRegion().isEmpty()) << width;
     }
+}
+
+TEST_F(SettingsTest, ARowIsThreeStopsItsValueHasTheKeysAndItsArrowIsNotInTheWay) {
+    openWithAgent();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+    find("lineScanTimeDecBtn")->setFocus();
+    const auto next = [&] {
+        QTest::keyClick(window()->focusWidget(), Qt::Key_Tab);
+        return window()->focusWidget()->objectName().toStdString();
+    };
+    EXPECT_EQ(next(), "lineScanTimeLabel");
+
+    const struct {
+        Qt::Key key;
+        double seconds;
+    } presses[] = {{Qt::Key_Up, 10.1}, {Qt::Key_PageUp, 12.5}, {Qt::Key_Down, 12.4}};
+
+    for (const auto& [key, seconds] : presses) {
+        QTest::keyClick(window()->focusWidget(), key);
+        EXPECT_DOUBLE_EQ(prefs.lineScanTime, seconds);
+        EXPECT_EQ(agentLog_.nextMask(), kChangeScanSpeed);
+    }
+    EXPECT_TRUE(find("lineScanTimePutBack")->isVisible());
+    EXPECT_EQ(next(), "lineScanTimeIncBtn");
+    EXPECT_EQ(next(), "pointerScanTimeDecBtn");
+    find("lineScanTimeDecBtn")->setFocus();
+    QTest::keyClick(window()->focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(window()->focusWidget()->objectName(), "lineScanTimePutBack") << "it can be reached";
+
+    auto* check = find("canScanMenuBarCheck");
+    check->setFocus();
+    QTest::keyClick(check, Qt::Key_Space);
+    EXPECT_EQ(next(), "lineScanCanEndKybdModeCheck");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(check)->rect().size(), check->size());
+    const auto* bar = window()->findChild<QWidget*>(QStringLiteral("sectionsBar"));
+    auto* tabs = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(bar));
+    EXPECT_EQ(tabs->child(0)->role(), QAccessible::PageTab);
+    EXPECT_TRUE(tabs->child(0)->state().selected && !tabs->child(0)->state().focused);
+    EXPECT_THAT(remainingMasks(), testing::ElementsAre(0));
+}
+
+TEST_F(SettingsTest, TheHelpKnowsThePageAndTheRow) {
+    open();
+    const fs::path help = fs::path(KORVEX_BUNDLE) / "Contents/Resources/help";
+    const NSWindow theWindow = pane_->mainView()->window();
+    find("volumeDecBtn")->setFocus();
+    EXPECT_EQ(theWindow.helpTopic(), "general.html#volume");
+    window()->focusWidget()->clearFocus();
+    find("lineColor");
+    EXPECT_EQ(theWindow.helpTopic(), "look.html");
+    int topics = 0;
+    for (const auto* widget : window()->findChildren<QWidget*>()) {
+        const QStringList topic = widget->property("help").toString().split('#');
+        if (topic.front().isEmpty())
+            continue;
+        ++topics;
+        const std::string page = readFile(help / topic.front().toStdString());
+        EXPECT_NE(page, "") << topic.front().toStdString();
+        if (topic.size() > 1) {
+            EXPECT_THAT(page, testing::HasSubstr("id=\"" + topic[1].toStdString() + "\""));
+        }
+    }
+    EXPECT_GT(topics, 60);
 }
 
 TEST_F(SettingsTest, ArrowsOnTheSwitchMoveWithoutChoosing) {

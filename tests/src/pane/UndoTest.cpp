@@ -92,7 +92,7 @@ TEST_F(UndoTest, EachKindOfChangeIsOneStepThatIsSaidAndShown) {
          },
          "Volume: 52 back to 50.", "volumeSlider"},
         {[&] { type("lineThicknessLabel", "9"); }, "Line thickness: 9 back to 7 points.",
-         "lineThicknessPageDecBtn"},
+         "lineThicknessDecBtn"},
         {[&] { click("playDragPrompts"); }, "Prompts while dragging: off back to on.",
          "playDragPrompts"},
         {[&] { click("scanModeRadios2"); },
@@ -125,7 +125,7 @@ TEST_F(UndoTest, EachKindOfChangeIsOneStepThatIsSaidAndShown) {
         {[&] { click("buttonContentNameCheck"); },
          "Show the name: off back to on.", "buttonContentNameCheck"},
         {[&] { hold("buttonHeightIncBtn"); },
-         "Size of the buttons: 40 × 42 back to 40 × 40 points.", "buttonHeightPageDecBtn"},
+         "Size of the buttons: 40 × 42 back to 40 × 40 points.", "buttonHeightDecBtn"},
         {[&] { click("launchAtLogin"); }, "Start Korvex when you log in: off back to on.",
          "launchAtLogin"},
     };
