@@ -811,6 +811,25 @@
     </message>
 </context>
 <context>
+    <name>HelpViewer</name>
+    <message>
+        <source>Korvex Help</source>
+        <translation>Korvex-Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>No web browser could be opened. This is the help’s page without its looks; its file is %1.</source>
+        <translation>Kein Webbrowser ließ sich öffnen. Dies ist die Seite der Hilfe ohne ihre Gestaltung; ihre Datei ist %1.</translation>
+    </message>
+</context>
+<context>
     <name>Host</name>
     <message>
         <source>Korvex.prefPane: not found beside this program</source>
@@ -1187,6 +1206,13 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>This desktop has no settings that could be opened here. The help says how to switch assistive access on.</source>
+        <translation>Dieser Desktop hat keine Einstellungen, die sich hier öffnen lassen. Die Hilfe sagt, wie man den Zugriff einschaltet.</translation>
+    </message>
+</context>
+<context>
     <name>NumberRow</name>
     <message>
         <source>%1, %2</source>
@@ -1309,14 +1335,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Hilfe</translation>
     </message>
     <message>
-        <source>Opens the Korvex help in your web browser. F1 does the same.</source>
-        <translation>Öffnet die Hilfe zu Korvex in Ihrem Browser. F1 tut dasselbe.</translation>
-    </message>
-    <message>
-        <source>&lt;p&gt;Opens the Korvex help in your web browser.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Öffnet die Hilfe zu Korvex in Ihrem Browser.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
     </message>
@@ -1419,10 +1437,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>&amp;Wait before the scan starts</source>
         <translation>&amp;Warten, bevor der Scan beginnt</translation>
-    </message>
-    <message>
-        <source>Time to get ready after your first press. 0 starts at once.</source>
-        <translation>Zeit, sich nach dem ersten Druck bereit zu machen. 0 beginnt sofort.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Enough to settle back and look at the screen before anything moves.&lt;/p&gt;</source>
@@ -1603,10 +1617,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Each press moves one step</source>
         <translation>Jeder Druck geht einen Schritt weiter</translation>
-    </message>
-    <message>
-        <source>Nothing moves until you press, so there is no moment to miss.</source>
-        <translation>Nichts bewegt sich, bis Sie drücken; Sie können keinen Moment verpassen.</translation>
     </message>
     <message>
         <source>The scan ends after this time without a press.</source>
@@ -2520,6 +2530,22 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>Resets the settings of all sections to their defaults.</source>
         <translation>Setzt die Einstellungen aller Abschnitte auf den Standard zurück.</translation>
     </message>
+    <message>
+        <source>Opens the help’s page on this section in your web browser. F1 does the same, at the row that has the keyboard.</source>
+        <translation>Öffnet die Seite der Hilfe zu diesem Abschnitt in Ihrem Webbrowser. F1 tut dasselbe, bei der Zeile, die die Tastatur hat.</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Opens the help’s page on this section in your web browser. F1 does the same, at the row that has the keyboard.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Öffnet die Seite der Hilfe zu diesem Abschnitt in Ihrem Webbrowser. F1 tut dasselbe, bei der Zeile, die die Tastatur hat.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Time to get ready, before the line and again before the pointer. 0 starts at once.</source>
+        <translation>Zeit, sich bereit zu machen, vor der Linie und noch einmal vor dem Zeiger. 0 beginnt sofort.</translation>
+    </message>
+    <message>
+        <source>Nothing moves until you press. Hold your switch for a second, or press the second one, to choose.</source>
+        <translation>Nichts bewegt sich, bis Sie drücken. Zum Wählen halten Sie den Schalter eine Sekunde lang, oder drücken Sie den zweiten.</translation>
+    </message>
 </context>
 <context>
     <name>Pointer</name>
@@ -2858,6 +2884,46 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>The window used last</source>
         <translation>Das zuletzt benutzte Fenster</translation>
     </message>
+    <message>
+        <source>No area</source>
+        <translation>Kein Bereich</translation>
+    </message>
+    <message>
+        <source>Left %1, top %2, %3 by %4</source>
+        <translation>Links %1, oben %2, %3 mal %4</translation>
+    </message>
+    <message>
+        <source>Draw my own area</source>
+        <translation>Meinen eigenen Bereich zeichnen</translation>
+    </message>
+    <message>
+        <source>Arrow keys move a corner, with Shift the other one. Return keeps the area, Escape leaves it as it was.</source>
+        <translation>Pfeiltasten bewegen eine Ecke, mit Umschalt die andere. Die Eingabetaste behält den Bereich, Esc lässt ihn, wie er war.</translation>
+    </message>
+    <message>
+        <source>The height is missing.</source>
+        <translation>Die Höhe fehlt.</translation>
+    </message>
+    <message>
+        <source>The width is missing.</source>
+        <translation>Die Breite fehlt.</translation>
+    </message>
+    <message>
+        <source>Width and height are missing.</source>
+        <translation>Breite und Höhe fehlen.</translation>
+    </message>
+    <message>
+        <source>What is scanned stays as it was.</source>
+        <translation>Was gescannt wird, bleibt, wie es war.</translation>
+    </message>
+    <message>
+        <source>Only your own area is scanned now: %1.</source>
+        <translation>Nur Ihr eigener Bereich wird jetzt gescannt: %1.</translation>
+    </message>
+    <message>
+        <source>You have no area of your own any more. The whole screen is scanned.</source>
+        <translation>Sie haben keinen eigenen Bereich mehr. Der ganze Bildschirm wird gescannt.</translation>
+    </message>
 </context>
 <context>
     <name>SectionFrame</name>
@@ -3109,10 +3175,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Das Scannen ist aus. %1 schaltet es wieder ein.</translation>
     </message>
     <message>
-        <source>Scanning is off, and no hot key switches it on again.</source>
-        <translation>Das Scannen ist aus, und keine Taste schaltet es wieder ein.</translation>
-    </message>
-    <message>
         <source>Switch on</source>
         <translation>Einschalten</translation>
     </message>
@@ -3121,16 +3183,72 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Bereit für Ihren Schalter</translation>
     </message>
     <message>
-        <source>Your switch does nothing now</source>
-        <translation>Ihr Schalter tut jetzt nichts</translation>
-    </message>
-    <message>
         <source>Korvex is starting…</source>
         <translation>Korvex startet…</translation>
     </message>
     <message>
         <source>Korvex isn’t running</source>
         <translation>Korvex läuft nicht</translation>
+    </message>
+    <message>
+        <source>Nothing scans: no agent is installed</source>
+        <translation>Nichts scannt: Kein Agent ist installiert</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>No press is heard</source>
+        <translation>Keine Betätigung wird gehört</translation>
+    </message>
+    <message>
+        <source>Scanning is off, and only this window switches it on again.</source>
+        <translation>Das Scannen ist aus, und nur dieses Fenster schaltet es wieder ein.</translation>
+    </message>
+    <message>
+        <source>Scanning is off. Hold your switch for four seconds to switch it on again.</source>
+        <translation>Das Scannen ist aus. Halten Sie den Schalter vier Sekunden lang, um es wieder einzuschalten.</translation>
+    </message>
+    <message>
+        <source>Scanning is off. Hold your switch for four seconds to switch it on again, or press %1.</source>
+        <translation>Das Scannen ist aus. Halten Sie den Schalter vier Sekunden lang, um es wieder einzuschalten, oder drücken Sie %1.</translation>
+    </message>
+    <message>
+        <source>No agent is installed, so nothing scans. You can make all settings.</source>
+        <translation>Kein Agent ist installiert, also scannt nichts. Alle Einstellungen lassen sich machen.</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>Was zu tun ist</translation>
+    </message>
+    <message>
+        <source>Korvex has ended by itself, so nothing is scanned now.</source>
+        <translation>Korvex hat sich von selbst beendet, also wird jetzt nichts gescannt.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>Neither a key nor a mouse click starts a scan now. Keep this? It goes back in 30 seconds.</source>
+        <translation>Weder eine Taste noch ein Mausklick startet jetzt einen Scan. So behalten? In 30 Sekunden wird es zurückgestellt.</translation>
+    </message>
+    <message>
+        <source>There is no scan key now, and mouse clicks don’t start a scan. Keep this? It goes back in 30 seconds.</source>
+        <translation>Es gibt jetzt keine Scan-Taste, und Mausklicks starten keinen Scan. So behalten? In 30 Sekunden wird es zurückgestellt.</translation>
+    </message>
+    <message>
+        <source>Only a tiny area is scanned now. Keep this? It goes back in 30 seconds.</source>
+        <translation>Nur ein winziger Bereich wird jetzt gescannt. So behalten? In 30 Sekunden wird es zurückgestellt.</translation>
+    </message>
+    <message>
+        <source>Keep this</source>
+        <translation>So behalten</translation>
+    </message>
+    <message>
+        <source>Put it back</source>
+        <translation>Zurückstellen</translation>
     </message>
 </context>
 <context>
@@ -3335,10 +3453,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Eine schnellere Linie passt wohl besser zu Ihnen. Probieren Sie es mit %.1f Sekunden, dann können wir es sagen.</translation>
     </message>
     <message>
-        <source>Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f mm wide would make it so, or a scan area only %.0f mm across.</source>
-        <translation>Auch bei %.0f Sekunden, der langsamsten Linie, können wir nicht 3 von 4 erwarten. Ziele von %.0f mm Breite würden es möglich machen, oder ein Scanbereich von nur %.0f mm.</translation>
-    </message>
-    <message>
         <source>You pressed in %d of %zu sweeps. From %d on we can suggest a speed. Try once more when you like; a slower line gives you more time.</source>
         <translation>Sie haben in %d von %zu Durchläufen gedrückt. Ab %d können wir ein Tempo vorschlagen. Versuchen Sie es noch einmal, wenn Sie möchten; eine langsamere Linie gibt Ihnen mehr Zeit.</translation>
     </message>
@@ -3417,10 +3531,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>The line</source>
         <translation>Die Linie</translation>
-    </message>
-    <message>
-        <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm.</source>
-        <translation>Auch bei %.0f Sekunden, der langsamsten Linie, können wir nicht erwarten, dass 3 von 4 Klicks treffen. Ziele von %.0f mm würden es möglich machen, oder ein Scanbereich von nur %.0f × %.0f mm.</translation>
     </message>
     <message>
         <source>After a miss it took %.1f seconds to go on.</source>
@@ -3532,6 +3642,14 @@ auf %2 setzen</translation>
         <source>At least %d clicks in 10 takes %.1f seconds for the line and %.1f for the pointer.</source>
         <translation>Für mindestens %d von 10 Klicks braucht die Linie %.1f Sekunden und der Zeiger %.1f.</translation>
     </message>
+    <message>
+        <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so.</source>
+        <translation>Auch bei %.0f Sekunden, der langsamsten Linie, erwarten wir keine 3 von 4 Klicks als Treffer. Mit Zielen von %.0f mm wäre es so.</translation>
+    </message>
+    <message>
+        <source>Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets of %.0f mm would make it so.</source>
+        <translation>Auch bei %.0f Sekunden, der langsamsten Linie, erwarten wir keine 3 von 4. Mit Zielen von %.0f mm wäre es so.</translation>
+    </message>
 </context>
 <context>
     <name>Units</name>
@@ -3573,10 +3691,6 @@ auf %2 setzen</translation>
         <translation>Der Zugriff für unterstützende Technologien ist ausgeschaltet</translation>
     </message>
     <message>
-        <source>Korvex needs it to find the windows, menus and buttons on your screen. While it is off, Korvex can’t scan. “Open settings” shows you where to switch it on. This notice closes by itself after half a minute.</source>
-        <translation>Korvex braucht ihn, um Fenster, Menüs und Knöpfe auf Ihrem Bildschirm zu finden. Solange er aus ist, kann Korvex nicht scannen. „Einstellungen öffnen“ zeigt Ihnen, wo Sie ihn einschalten. Dieser Hinweis schließt sich nach einer halben Minute von selbst.</translation>
-    </message>
-    <message>
         <source>Don’t show this again</source>
         <translation>Nicht mehr zeigen</translation>
     </message>
@@ -3611,6 +3725,22 @@ auf %2 setzen</translation>
     <message>
         <source>&amp;Not now</source>
         <translation>&amp;Nicht jetzt</translation>
+    </message>
+    <message>
+        <source>Korvex needs it to find the windows, menus and buttons on your screen. While it is off, Korvex can’t scan. “Open settings” shows you where to switch it on. This notice closes by itself half a minute after your last key or press in it.</source>
+        <translation>Korvex braucht ihn, um Fenster, Menüs und Knöpfe auf Ihrem Bildschirm zu finden. Solange er aus ist, kann Korvex nicht scannen. „Einstellungen öffnen“ zeigt, wo man ihn einschaltet. Dieser Hinweis schließt sich von selbst eine halbe Minute nach der letzten Taste oder dem letzten Klick darin.</translation>
+    </message>
+    <message>
+        <source>Switch it on</source>
+        <translation>Einschalten</translation>
+    </message>
+    <message>
+        <source>Switches assistive access on, where the desktop lets a program do so. Else it opens the settings.</source>
+        <translation>Schaltet den Zugriff ein, wo der Desktop es einem Programm erlaubt. Sonst öffnet es die Einstellungen.</translation>
+    </message>
+    <message>
+        <source>&amp;Switch it on</source>
+        <translation>Ein&amp;schalten</translation>
     </message>
 </context>
 <context>
@@ -3783,10 +3913,6 @@ auf %2 setzen</translation>
         <translation>Ganzer Bildschirm</translation>
     </message>
     <message>
-        <source>Goes back to the settings. Nothing changes.</source>
-        <translation>Kehrt zu den Einstellungen zurück. Nichts ändert sich.</translation>
-    </message>
-    <message>
         <source>Leave</source>
         <translation>Verlassen</translation>
     </message>
@@ -3869,6 +3995,14 @@ auf %2 setzen</translation>
     <message>
         <source>As a palette button</source>
         <translation>Wie ein Palettenknopf</translation>
+    </message>
+    <message>
+        <source>Goes back to the settings, which stay as they are. From eight presses on the try is kept among your tries.</source>
+        <translation>Geht zu den Einstellungen zurück, die bleiben, wie sie sind. Ab acht Betätigungen bleibt der Versuch unter Ihren Versuchen.</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;The settings stay as they are. From eight presses on the try is kept among your tries.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Die Einstellungen bleiben, wie sie sind. Ab acht Betätigungen bleibt der Versuch unter Ihren Versuchen.&lt;/p&gt;</translation>
     </message>
 </context>
 </TS>

@@ -811,6 +811,25 @@
     </message>
 </context>
 <context>
+    <name>HelpViewer</name>
+    <message>
+        <source>Korvex Help</source>
+        <translation>Aide de Korvex</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Retour</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>No web browser could be opened. This is the help’s page without its looks; its file is %1.</source>
+        <translation>Aucun navigateur n’a pu être ouvert. Voici la page de l’aide sans sa mise en forme ; son fichier est %1.</translation>
+    </message>
+</context>
+<context>
     <name>Host</name>
     <message>
         <source>Korvex.prefPane: not found beside this program</source>
@@ -1187,6 +1206,13 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>This desktop has no settings that could be opened here. The help says how to switch assistive access on.</source>
+        <translation>Ce bureau n’a pas de réglages qui puissent être ouverts ici. L’aide dit comment activer l’accès d’assistance.</translation>
+    </message>
+</context>
+<context>
     <name>NumberRow</name>
     <message>
         <source>%1, %2</source>
@@ -1309,14 +1335,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Aide</translation>
     </message>
     <message>
-        <source>Opens the Korvex help in your web browser. F1 does the same.</source>
-        <translation>Ouvre l’aide de Korvex dans votre navigateur. F1 fait de même.</translation>
-    </message>
-    <message>
-        <source>&lt;p&gt;Opens the Korvex help in your web browser.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Ouvre l’aide de Korvex dans votre navigateur.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>&amp;Help</source>
         <translation>A&amp;ide</translation>
     </message>
@@ -1419,10 +1437,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>&amp;Wait before the scan starts</source>
         <translation>&amp;Attendre avant le départ du balayage</translation>
-    </message>
-    <message>
-        <source>Time to get ready after your first press. 0 starts at once.</source>
-        <translation>Du temps pour vous préparer après le premier appui. 0 part aussitôt.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Enough to settle back and look at the screen before anything moves.&lt;/p&gt;</source>
@@ -1603,10 +1617,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>Each press moves one step</source>
         <translation>Chaque appui avance d’un pas</translation>
-    </message>
-    <message>
-        <source>Nothing moves until you press, so there is no moment to miss.</source>
-        <translation>Rien ne bouge sans appui&#xa0;: il n’y a aucun moment à manquer.</translation>
     </message>
     <message>
         <source>The scan ends after this time without a press.</source>
@@ -2520,6 +2530,22 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <source>Resets the settings of all sections to their defaults.</source>
         <translation>Réinitialise les réglages de toutes les sections.</translation>
     </message>
+    <message>
+        <source>Opens the help’s page on this section in your web browser. F1 does the same, at the row that has the keyboard.</source>
+        <translation>Ouvre dans votre navigateur la page de l’aide sur cette section. F1 fait de même, à la ligne qui a le clavier.</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Opens the help’s page on this section in your web browser. F1 does the same, at the row that has the keyboard.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Ouvre dans votre navigateur la page de l’aide sur cette section. F1 fait de même, à la ligne qui a le clavier.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Time to get ready, before the line and again before the pointer. 0 starts at once.</source>
+        <translation>Le temps de se préparer, avant la ligne et encore avant le pointeur. 0 part tout de suite.</translation>
+    </message>
+    <message>
+        <source>Nothing moves until you press. Hold your switch for a second, or press the second one, to choose.</source>
+        <translation>Rien ne bouge sans appui. Pour choisir, tenez votre contacteur une seconde, ou appuyez sur le second.</translation>
+    </message>
 </context>
 <context>
     <name>Pointer</name>
@@ -2858,6 +2884,46 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <source>The window used last</source>
         <translation>La dernière fenêtre utilisée</translation>
     </message>
+    <message>
+        <source>No area</source>
+        <translation>Aucune zone</translation>
+    </message>
+    <message>
+        <source>Left %1, top %2, %3 by %4</source>
+        <translation>Gauche %1, haut %2, %3 sur %4</translation>
+    </message>
+    <message>
+        <source>Draw my own area</source>
+        <translation>Dessiner ma zone</translation>
+    </message>
+    <message>
+        <source>Arrow keys move a corner, with Shift the other one. Return keeps the area, Escape leaves it as it was.</source>
+        <translation>Les flèches déplacent un coin, avec Maj l’autre. Entrée garde la zone, Échap la laisse comme elle était.</translation>
+    </message>
+    <message>
+        <source>The height is missing.</source>
+        <translation>La hauteur manque.</translation>
+    </message>
+    <message>
+        <source>The width is missing.</source>
+        <translation>La largeur manque.</translation>
+    </message>
+    <message>
+        <source>Width and height are missing.</source>
+        <translation>La largeur et la hauteur manquent.</translation>
+    </message>
+    <message>
+        <source>What is scanned stays as it was.</source>
+        <translation>Ce qui est balayé reste comme c’était.</translation>
+    </message>
+    <message>
+        <source>Only your own area is scanned now: %1.</source>
+        <translation>Seule votre zone est balayée maintenant : %1.</translation>
+    </message>
+    <message>
+        <source>You have no area of your own any more. The whole screen is scanned.</source>
+        <translation>Vous n’avez plus de zone à vous. Tout l’écran est balayé.</translation>
+    </message>
 </context>
 <context>
     <name>SectionFrame</name>
@@ -3109,10 +3175,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Le balayage est à l’arrêt. %1 le remet en marche.</translation>
     </message>
     <message>
-        <source>Scanning is off, and no hot key switches it on again.</source>
-        <translation>Le balayage est à l’arrêt, et aucun raccourci ne le remet en marche.</translation>
-    </message>
-    <message>
         <source>Switch on</source>
         <translation>Mettre en marche</translation>
     </message>
@@ -3121,16 +3183,72 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Prêt pour votre contacteur</translation>
     </message>
     <message>
-        <source>Your switch does nothing now</source>
-        <translation>Votre contacteur est sans effet</translation>
-    </message>
-    <message>
         <source>Korvex is starting…</source>
         <translation>Korvex démarre…</translation>
     </message>
     <message>
         <source>Korvex isn’t running</source>
         <translation>Korvex n’est pas en marche</translation>
+    </message>
+    <message>
+        <source>Nothing scans: no agent is installed</source>
+        <translation>Rien ne balaie : aucun agent n’est installé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>No press is heard</source>
+        <translation>Aucun appui n’est entendu</translation>
+    </message>
+    <message>
+        <source>Scanning is off, and only this window switches it on again.</source>
+        <translation>Le balayage est arrêté, et seule cette fenêtre le remet en marche.</translation>
+    </message>
+    <message>
+        <source>Scanning is off. Hold your switch for four seconds to switch it on again.</source>
+        <translation>Le balayage est arrêté. Tenez votre contacteur quatre secondes pour le remettre en marche.</translation>
+    </message>
+    <message>
+        <source>Scanning is off. Hold your switch for four seconds to switch it on again, or press %1.</source>
+        <translation>Le balayage est arrêté. Tenez votre contacteur quatre secondes pour le remettre en marche, ou appuyez sur %1.</translation>
+    </message>
+    <message>
+        <source>No agent is installed, so nothing scans. You can make all settings.</source>
+        <translation>Aucun agent n’est installé, donc rien ne balaie. Tous les réglages peuvent être faits.</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>Que faire</translation>
+    </message>
+    <message>
+        <source>Korvex has ended by itself, so nothing is scanned now.</source>
+        <translation>Korvex s’est arrêté de lui-même, donc rien n’est balayé maintenant.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Lancer</translation>
+    </message>
+    <message>
+        <source>Neither a key nor a mouse click starts a scan now. Keep this? It goes back in 30 seconds.</source>
+        <translation>Ni une touche ni un clic ne lance plus de balayage. Garder cela ? Tout revient dans 30 secondes.</translation>
+    </message>
+    <message>
+        <source>There is no scan key now, and mouse clicks don’t start a scan. Keep this? It goes back in 30 seconds.</source>
+        <translation>Il n’y a plus de touche de balayage, et les clics n’en lancent pas. Garder cela ? Tout revient dans 30 secondes.</translation>
+    </message>
+    <message>
+        <source>Only a tiny area is scanned now. Keep this? It goes back in 30 seconds.</source>
+        <translation>Seule une toute petite zone est balayée maintenant. Garder cela ? Tout revient dans 30 secondes.</translation>
+    </message>
+    <message>
+        <source>Keep this</source>
+        <translation>Garder cela</translation>
+    </message>
+    <message>
+        <source>Put it back</source>
+        <translation>Remettre</translation>
     </message>
 </context>
 <context>
@@ -3335,10 +3453,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Une ligne plus rapide vous conviendra sans doute mieux. Essayez à %.1f s, et nous le saurons.</translation>
     </message>
     <message>
-        <source>Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets %.0f mm wide would make it so, or a scan area only %.0f mm across.</source>
-        <translation>Même à %.0f secondes, la ligne la plus lente, nous n’attendons pas 3 sur 4. Des cibles larges de %.0f mm le permettraient, ou une zone de balayage de %.0f mm seulement.</translation>
-    </message>
-    <message>
         <source>You pressed in %d of %zu sweeps. From %d on we can suggest a speed. Try once more when you like; a slower line gives you more time.</source>
         <translation>Vous avez appuyé dans %d passages sur %zu. À partir de %d, nous pouvons proposer une vitesse. Essayez encore quand vous voulez&#xa0;; une ligne plus lente laisse plus de temps.</translation>
     </message>
@@ -3417,10 +3531,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>The line</source>
         <translation>La ligne</translation>
-    </message>
-    <message>
-        <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so, or a scan area of only %.0f × %.0f mm.</source>
-        <translation>Même à %.0f secondes, la ligne la plus lente, nous n’attendons pas 3 clics réussis sur 4. Des cibles de %.0f mm le permettraient, ou une zone de balayage de %.0f × %.0f mm seulement.</translation>
     </message>
     <message>
         <source>After a miss it took %.1f seconds to go on.</source>
@@ -3532,6 +3642,14 @@ sur %2</translation>
         <source>At least %d clicks in 10 takes %.1f seconds for the line and %.1f for the pointer.</source>
         <translation>Pour au moins %d clics réussis sur 10, il faut %.1f s pour la ligne et %.1f pour le pointeur.</translation>
     </message>
+    <message>
+        <source>Even at %.0f seconds, the slowest, we can’t expect 3 clicks in 4 to hit. Targets of %.0f mm would make it so.</source>
+        <translation>Même à %.0f secondes, le plus lent, on ne peut attendre 3 clics réussis sur 4. Des cibles de %.0f mm le permettraient.</translation>
+    </message>
+    <message>
+        <source>Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets of %.0f mm would make it so.</source>
+        <translation>Même à %.0f secondes, le plus lent, on ne peut attendre 3 sur 4. Des cibles de %.0f mm le permettraient.</translation>
+    </message>
 </context>
 <context>
     <name>Units</name>
@@ -3573,10 +3691,6 @@ sur %2</translation>
         <translation>L’accès d’assistance est désactivé</translation>
     </message>
     <message>
-        <source>Korvex needs it to find the windows, menus and buttons on your screen. While it is off, Korvex can’t scan. “Open settings” shows you where to switch it on. This notice closes by itself after half a minute.</source>
-        <translation>Korvex en a besoin pour trouver les fenêtres, les menus et les boutons de votre écran. Sans lui, Korvex ne peut pas balayer. «&#xa0;Ouvrir les réglages&#xa0;» vous montre où l’activer. Cet avis se ferme seul après une demi-minute.</translation>
-    </message>
-    <message>
         <source>Don’t show this again</source>
         <translation>Ne plus montrer</translation>
     </message>
@@ -3611,6 +3725,22 @@ sur %2</translation>
     <message>
         <source>&amp;Not now</source>
         <translation>&amp;Pas maintenant</translation>
+    </message>
+    <message>
+        <source>Korvex needs it to find the windows, menus and buttons on your screen. While it is off, Korvex can’t scan. “Open settings” shows you where to switch it on. This notice closes by itself half a minute after your last key or press in it.</source>
+        <translation>Korvex en a besoin pour trouver les fenêtres, menus et boutons à l’écran. Tant qu’il est désactivé, Korvex ne peut pas balayer. « Ouvrir les réglages » montre où l’activer. Cet avis se ferme de lui-même une demi-minute après la dernière touche ou le dernier appui dedans.</translation>
+    </message>
+    <message>
+        <source>Switch it on</source>
+        <translation>L’activer</translation>
+    </message>
+    <message>
+        <source>Switches assistive access on, where the desktop lets a program do so. Else it opens the settings.</source>
+        <translation>Active l’accès d’assistance là où le bureau laisse un programme le faire. Sinon, ouvre les réglages.</translation>
+    </message>
+    <message>
+        <source>&amp;Switch it on</source>
+        <translation>L’&amp;activer</translation>
     </message>
 </context>
 <context>
@@ -3783,10 +3913,6 @@ sur %2</translation>
         <translation>Plein écran</translation>
     </message>
     <message>
-        <source>Goes back to the settings. Nothing changes.</source>
-        <translation>Revient aux réglages. Rien ne change.</translation>
-    </message>
-    <message>
         <source>Leave</source>
         <translation>Quitter</translation>
     </message>
@@ -3869,6 +3995,14 @@ sur %2</translation>
     <message>
         <source>As a palette button</source>
         <translation>Comme un bouton de la palette</translation>
+    </message>
+    <message>
+        <source>Goes back to the settings, which stay as they are. From eight presses on the try is kept among your tries.</source>
+        <translation>Revient aux réglages, qui restent comme ils sont. À partir de huit appuis, l’essai est gardé parmi vos essais.</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;The settings stay as they are. From eight presses on the try is kept among your tries.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Les réglages restent comme ils sont. À partir de huit appuis, l’essai est gardé parmi vos essais.&lt;/p&gt;</translation>
     </message>
 </context>
 </TS>
