@@ -27,16 +27,12 @@ void tellOutcome(std::string text) {
     tellUser(kChangeTopic, {.kind = UserMessage::Kind::Note, .text = std::move(text)});
 }
 
-/// An area that can't be scanned, as typed numbers may make it. Empty for any other.
+/// An area that can't be scanned for one side, as typed numbers may make it. Empty for any other.
 std::string missingText(const ScanArea& area) {
-    const auto& [x, y, width, height] = area;
-    const bool isNone = x == 0 && y == 0 && width == 0 && height == 0;
-    if (isNone || isUsable(area))
+    if ((area.width > 0) == (area.height > 0))
         return {};
-    if (width > 0)
-        return localized("ScanArea", "The height is missing.");
-    return height > 0 ? localized("ScanArea", "The width is missing.")
-                      : localized("ScanArea", "Width and height are missing.");
+    return area.width > 0 ? localized("ScanArea", "The height is missing.")
+                          : localized("ScanArea", "The width is missing.");
 }
 
 } // namespace

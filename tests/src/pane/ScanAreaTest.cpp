@@ -19,4 +19,26 @@ TEST_F(NoOverlayTest, TheUserIsToldWhyNoAreaCanBeDrawn) {
     EXPECT_EQ(prefs.scanArea.width, 3);
 }
 
+using AreaTest = PaneTest;
+
+TEST_F(AreaTest, TheWholeScreenIsNoAreaAndAMissingSideIsSaid) {
+    openWithAgent();
+    const auto chooseFirst = [&] {
+        act(QAccessible::queryAccessibleInterface(find("scanAreaGrid"))->child(0));
+    };
+    prefs.scanArea = {0, 0, 640, 480};
+    prefs.useScanArea = 1;
+    chooseFirst();
+    EXPECT_EQ(prefs.useScanArea, 0);
+    EXPECT_EQ(prefs.scanArea.width, 640) << "it can be used again";
+    for (const auto& [area, text] : {std::pair{ScanArea{0, 0, 640, 0}, "The height is missing."},
+                                     {{0, 0, 0, 480}, "The width is missing."},
+                                     {{7, 8, 0, 0}, "none"}}) {
+        prefs.scanArea = area;
+        theWrangler->updateScanAreaText();
+        EXPECT_EQ(find<QLabel>("scanAreaText")->text(), QLatin1String(text));
+    }
+    EXPECT_EQ(remainingMasks(), std::vector<ChangeMask>{kChangeScanArea});
+}
+
 } // namespace
