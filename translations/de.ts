@@ -2909,10 +2909,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Die Breite fehlt.</translation>
     </message>
     <message>
-        <source>Width and height are missing.</source>
-        <translation>Breite und Höhe fehlen.</translation>
-    </message>
-    <message>
         <source>What is scanned stays as it was.</source>
         <translation>Was gescannt wird, bleibt, wie es war.</translation>
     </message>

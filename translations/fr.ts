@@ -826,7 +826,7 @@
     </message>
     <message>
         <source>No web browser could be opened. This is the help’s page without its looks; its file is %1.</source>
-        <translation>Aucun navigateur n’a pu être ouvert. Voici la page de l’aide sans sa mise en forme ; son fichier est %1.</translation>
+        <translation>Aucun navigateur n’a pu être ouvert. Voici la page de l’aide sans sa mise en forme&#xa0;; son fichier est %1.</translation>
     </message>
 </context>
 <context>
@@ -2909,16 +2909,12 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>La largeur manque.</translation>
     </message>
     <message>
-        <source>Width and height are missing.</source>
-        <translation>La largeur et la hauteur manquent.</translation>
-    </message>
-    <message>
         <source>What is scanned stays as it was.</source>
         <translation>Ce qui est balayé reste comme c’était.</translation>
     </message>
     <message>
         <source>Only your own area is scanned now: %1.</source>
-        <translation>Seule votre zone est balayée maintenant : %1.</translation>
+        <translation>Seule votre zone est balayée maintenant&#xa0;: %1.</translation>
     </message>
     <message>
         <source>You have no area of your own any more. The whole screen is scanned.</source>
@@ -3192,7 +3188,7 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>Nothing scans: no agent is installed</source>
-        <translation>Rien ne balaie : aucun agent n’est installé</translation>
+        <translation>Rien ne balaie&#xa0;: aucun agent n’est installé</translation>
     </message>
     <message>
         <source>Off</source>
@@ -3232,15 +3228,15 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     </message>
     <message>
         <source>Neither a key nor a mouse click starts a scan now. Keep this? It goes back in 30 seconds.</source>
-        <translation>Ni une touche ni un clic ne lance plus de balayage. Garder cela ? Tout revient dans 30 secondes.</translation>
+        <translation>Ni une touche ni un clic ne lance plus de balayage. Garder cela&#xa0;? Tout revient dans 30 secondes.</translation>
     </message>
     <message>
         <source>There is no scan key now, and mouse clicks don’t start a scan. Keep this? It goes back in 30 seconds.</source>
-        <translation>Il n’y a plus de touche de balayage, et les clics n’en lancent pas. Garder cela ? Tout revient dans 30 secondes.</translation>
+        <translation>Il n’y a plus de touche de balayage, et les clics n’en lancent pas. Garder cela&#xa0;? Tout revient dans 30 secondes.</translation>
     </message>
     <message>
         <source>Only a tiny area is scanned now. Keep this? It goes back in 30 seconds.</source>
-        <translation>Seule une toute petite zone est balayée maintenant. Garder cela ? Tout revient dans 30 secondes.</translation>
+        <translation>Seule une toute petite zone est balayée maintenant. Garder cela&#xa0;? Tout revient dans 30 secondes.</translation>
     </message>
     <message>
         <source>Keep this</source>
@@ -3728,7 +3724,7 @@ sur %2</translation>
     </message>
     <message>
         <source>Korvex needs it to find the windows, menus and buttons on your screen. While it is off, Korvex can’t scan. “Open settings” shows you where to switch it on. This notice closes by itself half a minute after your last key or press in it.</source>
-        <translation>Korvex en a besoin pour trouver les fenêtres, menus et boutons à l’écran. Tant qu’il est désactivé, Korvex ne peut pas balayer. « Ouvrir les réglages » montre où l’activer. Cet avis se ferme de lui-même une demi-minute après la dernière touche ou le dernier appui dedans.</translation>
+        <translation>Korvex en a besoin pour trouver les fenêtres, menus et boutons à l’écran. Tant qu’il est désactivé, Korvex ne peut pas balayer. «&#xa0;Ouvrir les réglages&#xa0;» montre où l’activer. Cet avis se ferme de lui-même une demi-minute après la dernière touche ou le dernier appui dedans.</translation>
     </message>
     <message>
         <source>Switch it on</source>

@@ -18,8 +18,9 @@ protected:
     /// Puts a desktop's opener first in $PATH. It notes what it opens and ends with that status.
     void makeOpener(int status) {
         const fs::path folder = makeSandboxFolder("bin"), opener = folder / "xdg-open";
-        writeFile(opener, "#!/bin/sh\nprintf %s \"$1\" >'" + opened_.string() + "'\nexit " +
-                              std::to_string(status) + "\n");
+        const std::string file = "'" + opened_.string() + "'";
+        writeFile(opener, "#!/bin/sh\nprintf %s \"$1\" >" + file + ".new; mv " + file + ".new " +
+                              file + "; exit " + std::to_string(status) + "\n");
         fs::permissions(opener, fs::perms::owner_all);
         qputenv("PATH", (folder.string() + ":" + qgetenv("PATH").toStdString()).c_str());
     }
