@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int kLockLookMs = 1000;
+constexpr int kHeartMs = 500;
 constexpr int kFrameMs = 16;             ///< at 60 frames a second
 constexpr double kHalfAFrame = 0.5 / 60; ///< s; a line drawn for then is right in the middle
 constexpr double kSecondsAMillisecond = 1e-3;
@@ -48,6 +49,11 @@ Scanner::Scanner(Link& link, XServer& server, Guard& guard)
     frames_.setInterval(kFrameMs);
     QObject::connect(&deadline_, &QTimer::timeout, [this] { follow(); });
     QObject::connect(&frames_, &QTimer::timeout, [this] { frame(); });
+    heart_.setInterval(kHeartMs);
+    QObject::connect(&heart_, &QTimer::timeout, [this] {
+        guard_.heartbeat();
+        follow();
+    });
     lockLook_.setInterval(kLockLookMs);
     QObject::connect(&lockLook_, &QTimer::timeout, [this] { lookAtLock(); });
     desktop_.onScreens([this] { screensChanged(); });
@@ -241,7 +247,6 @@ void Scanner::start(double moment) {
     }
     scan_.start(regions(), moment);
     hasOutcome_ = false;
-    guard_.watch();
     frames_.start();
     updateSwitches();
 }
@@ -348,7 +353,6 @@ void Scanner::follow() {
         fault_.clear();
     if (scan_.isIdle() && frames_.isActive()) {
         frames_.stop();
-        guard_.rest();
         overlay_.hide();
         if (!hasOutcome_)
             deeds_.scanRanOut(settings_);
@@ -356,6 +360,7 @@ void Scanner::follow() {
     }
     if (scan_.isIdle())
         showPalette();
+    letBeWatched();
     const double next = std::min({presses_.deadline(), scan_.deadline(), actions_.deadline(),
                                   fault_.empty() ? kLongestWait + now : faultEnd_}) -
                         now;
@@ -365,9 +370,23 @@ void Scanner::follow() {
         deadline_.stop();
 }
 
+/// While it would do harm to hang: a line is on the screen, or something is held or repeats.
+void Scanner::letBeWatched() {
+    const bool isNeeded =
+        !scan_.isIdle() || hand_.holdsAnything() || actions_.holds() || actions_.repeats();
+    if (isNeeded == heart_.isActive())
+        return;
+    if (isNeeded) {
+        guard_.watch();
+        heart_.start();
+    } else {
+        guard_.rest();
+        heart_.stop();
+    }
+}
+
 void Scanner::frame() {
     server_.drain(); // a press that is here already comes before the frame
-    guard_.heartbeat();
     follow();
     if (scan_.isIdle())
         return;

@@ -65,6 +65,7 @@ private:
     /// After whatever may have changed the scan: its end, its choice, the next deadline, the
     /// picture.
     void follow();
+    void letBeWatched();
     void frame();
     void showPalette();
 
@@ -83,6 +84,7 @@ private:
     Presses presses_;
     Scan scan_;
     QTimer deadline_; ///< of presses, scan, actions and the fault
+    QTimer heart_;    ///< beats for the guard while it watches
     QTimer frames_;   ///< runs while a scan is under way
     QTimer lockLook_; ///< runs while a lock that tells nobody is up
     bool isLocked_ = false;

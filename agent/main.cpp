@@ -124,7 +124,9 @@ struct Scanning {
 int main(int argc, char** argv) {
     UnixSignals signals{SIGUSR1, SIGTERM, SIGINT, SIGHUP};
     const Session where = session();
-    const auto guard = where == Session::X11 ? Guard::start() : nullptr;
+    const std::string self =
+        QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget().toStdString();
+    const auto guard = where == Session::X11 ? Guard::start(self.c_str()) : nullptr;
     const auto application = makeApplication(where, argc, argv);
 
     alarm(kStartSeconds);

@@ -32,11 +32,15 @@ constexpr double kHeartbeatPause = 0.5; ///< seconds
 /// again after each of these waits, in milliseconds.
 constexpr int kWaits[] = {0, 5, 20};
 
+constexpr int kIgnored[] = {SIGINT, SIGTERM, SIGHUP, SIGPIPE};
+constexpr int kKept = 3; ///< standard input, output and error
+
 /// The other process.
 class Watcher {
 public:
-    Watcher(int socket, pid_t watched)
-        : socket_(socket), watched_(watched), server_(xcb_connect(nullptr, nullptr)) {}
+    Watcher(int socket, pid_t watched, const char* program)
+        : socket_(socket), watched_(watched), program_(program),
+          server_(xcb_connect(nullptr, nullptr)) {}
 
     void run() {
         const auto* test = xcb_get_extension_data(server_, &xcb_test_id);
@@ -45,6 +49,8 @@ public:
         while (hear())
             ;
         letGo();
+        if (hasHung_ && program_)
+            startAgain();
     }
 
 private:
@@ -56,6 +62,7 @@ private:
         if (ready == 0) {
             kill(watched_, SIGKILL);
             isWatching_ = false;
+            hasHung_ = true;
             return true;
         }
         Message message{};
@@ -103,18 +110,28 @@ private:
         }
     }
 
+    /// In this process's place, as it was started at first.
+    void startAgain() {
+        xcb_disconnect(server_);
+        for (const int signal : kIgnored)
+            std::signal(signal, SIG_DFL);
+        close_range(kKept, ~0U, 0);
+        execl(program_, program_, nullptr);
+    }
+
     int socket_;
     pid_t watched_;
+    const char* program_;
     xcb_connection_t* server_;
     std::set<std::pair<bool, std::uint8_t>> held_;
     bool isWatching_ = false;
+    bool hasHung_ = false;
 };
 
 /// Keeps nothing of the parent's but the socket, whose number is returned.
 int leaveAllBehind(int socket) {
-    constexpr int kKept = 3;
     setsid();
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE})
+    for (const int signal : kIgnored)
         std::signal(signal, SIG_IGN);
     prctl(PR_SET_NAME, "korvex-guard");
     const int nothing = open("/dev/null", O_RDWR);
@@ -126,22 +143,22 @@ int leaveAllBehind(int socket) {
 }
 
 /// The process between ends at once: what it started is no child of the watched one.
-[[noreturn]] void startWatcher(int socket, pid_t watched) {
+[[noreturn]] void startWatcher(int socket, pid_t watched, const char* program) {
     if (fork() == 0)
-        Watcher(leaveAllBehind(socket), watched).run();
+        Watcher(leaveAllBehind(socket), watched, program).run();
     _exit(0);
 }
 
 } // namespace
 
-std::unique_ptr<Guard> Guard::start() {
+std::unique_ptr<Guard> Guard::start(const char* program) {
     int sockets[2];
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, sockets) != 0)
         return nullptr;
     const pid_t watched = getpid();
     const pid_t between = fork();
     if (between == 0)
-        startWatcher(sockets[1], watched);
+        startWatcher(sockets[1], watched, program);
     close(sockets[1]);
     std::unique_ptr<Guard> guard(new Guard(sockets[0]));
     if (between < 0)

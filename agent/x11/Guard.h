@@ -12,7 +12,9 @@ class Guard {
 public:
     /// Starts it. Call it before threads are started and before Qt connects to anything. Null when
     /// no process can be started, or it doesn't reach the display server within kLongestStart.
-    static std::unique_ptr<Guard> start();
+    /// `program` (may be null) is started in place of this process if that hung, as it was started
+    /// itself: nobody else may be there who could. Its path must live as long as the guard.
+    static std::unique_ptr<Guard> start(const char* program = nullptr);
     /// The other process ends. What is still held it lets go.
     ~Guard();
     Guard(const Guard&) = delete;

@@ -199,10 +199,11 @@ TEST_F(ScannerFaultsTest, HangingInAScanItIsEnded) {
     EXPECT_THAT(freeAfter(moment, others),
                 testing::AllOf(Gt(Guard::kLongestSilence - 0.6), Lt(Guard::kLongestSilence + 1)));
     waitForEnd(agent);
-    expectNothingTaken();
 
-    // At rest it may be stopped for as long as one likes, as a debugger does.
-    startAgent();
+    // Another one scans in its place. At rest it may be stopped for as long as one likes, as a
+    // debugger does.
+    waitForAgent();
+    EXPECT_NE(agentPID(), agent);
     use(quickSettings());
     signalAgent(SIGSTOP);
     wait(Guard::kLongestSilence + 0.5);
