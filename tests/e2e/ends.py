@@ -21,10 +21,9 @@ from tests.e2e.agentlog import AgentLog
 from tests.e2e.desktop import given, process_of
 from tests.e2e.scanarea import BUTTON
 from tests.e2e.screen import press
-from tests.e2e.sessionmanager import SessionManager
 from tests.e2e.startup import DATE, NEVER, NOTICE
 from tests.e2e.tour import PROGRAM, Tour, touring, wait_for_agent
-from tests.e2e.waiting import PATIENCE, Failure, check, until
+from tests.e2e.waiting import Failure, check, until
 
 TABS = "Scanning|Presses|Look|Palette|General"
 SANITIZER_FOUND = 99  # the exit status
@@ -145,21 +144,6 @@ def crash_and_return(tour: Tour) -> None:
     check(not list(unsaved.iterdir()), "the file of unsaved changes is still there")
 
 
-def cancel_a_logout(tour: Tour) -> None:
-    """A session that has the program save, and then goes on after all."""
-    store_only(tour, NEVER)
-    with SessionManager() as session:
-        tour.start()
-        tour.wait_for_window()
-        session.wait_for_client()
-        change(tour)
-        session.cancel_a_logout()
-        check(plistlib.loads(tour.stored.read_bytes())["on"] == "no", "nothing was stored")
-        tour.choose_tab("General")
-        tour.ask_to_close()
-        check(tour.program.wait(PATIENCE) == 0, "the program failed")
-
-
 def clear_away(tour: Tour) -> None:
     """Ends what the visit leaves: the program, the display, the agent, their outputs."""
     tour.program.kill()
@@ -196,6 +180,5 @@ if __name__ == "__main__":
             succeeds(a_tour, f"{visited[0]}, {visited[1].__name__}, read: {visited[2]}", visit, *visited)
             for visited in VISITS
         ]
-        for what, step in (("killed", crash_and_return), ("logout cancelled", cancel_a_logout)):
-            results.append(succeeds(a_tour, what, step))
+        results.append(succeeds(a_tour, "killed", crash_and_return))
     sys.exit(0 if all(results) else 1)

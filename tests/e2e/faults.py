@@ -109,49 +109,6 @@ def copy_and_close_anyway(tour: Tour) -> None:
     check(stored == "no", f"{stored} is in the copy")
 
 
-# What a shell does to the folder of the settings, $0, before it becomes the program. Only the program
-# sees it.
-READ_ONLY = 'mount --bind "$0" "$0" && mount -o remount,bind,ro "$0"'
-FULL = """
-    exec 3<"$0/$NAME" && mount -t tmpfs -o size=64k tmpfs "$0" && cat <&3 >"$0/$NAME"
-    head -c 1M /dev/zero >"$0/filler" 2>/dev/null || :"""
-
-
-def open_with_own_mounts(tour: Tour, mounts: str) -> None:
-    """Starts the program with mounts of its own, as the same user."""
-    own = ("unshare", f"--map-user={os.getuid()}", f"--map-group={os.getgid()}")
-    script = f'NAME={tour.stored.name}; {mounts}; exec "$@"'
-    tour.program = tour.desktop.start(
-        *("unshare", "-rm", "sh", "-ec", script, tour.stored.parent),
-        *(*own, tour.build / "host" / PROGRAM),
-        name=PROGRAM,
-    )
-    tour.wait_for_window()
-
-
-def read_only_file_system(tour: Tour) -> None:
-    open_with_own_mounts(tour, READ_ONLY)
-    expect_alert(tour, "can’t be saved:", str(tour.stored.parent), "can only be read")
-    click_scan_menu_bar(tour)
-    tour.ask_to_close()
-    expect_alert(tour, "couldn’t be saved", "can only be read")
-    tour.screen.click("Close anyway", "push button")
-    check(tour.program.wait(PATIENCE) == 1, "closing without saving must not end with 0")
-
-
-def full_disk(tour: Tour) -> None:
-    open_with_own_mounts(tour, FULL)
-    click_scan_menu_bar(tour)
-    tour.ask_to_close()
-    expect_alert(tour, "couldn’t be saved: the disk is full")
-    folder = Path(f"/proc/{tour.program.pid}/root{tour.stored.parent}")
-    (folder / "filler").unlink()
-    with open(folder / tour.stored.name, "rb") as old:
-        tour.screen.click("Try again", "push button")
-        check(tour.program.wait(PATIENCE) == 0, "the program failed")
-        check(os.fstat(old.fileno()).st_nlink == 0, "the file wasn't replaced")
-
-
 def agent_that_does_not_start(tour: Tour) -> None:
     bundle = tour.out / BUNDLE
     shutil.rmtree(bundle, ignore_errors=True)
@@ -191,21 +148,12 @@ def agent_that_keeps_ending(tour: Tour) -> None:
     tour.screen.find("Ready for your switch", "label")
 
 
-def may_mount() -> bool:
-    """Whether this machine lets programs have mounts of their own, as some containers don't."""
-    allowed = subprocess.run(("unshare", "-rm", "true"), check=False).returncode == 0
-    if not allowed:
-        print("Not tried, for want of a right to mount: a full disk, a read-only file system.")
-    return allowed
-
-
 FAULTS = (
     damaged_file,
     unreadable_file,
     unwritable_folder,
     unwritable_folder_at_the_first_steps,
     copy_and_close_anyway,
-    *((read_only_file_system, full_disk) if may_mount() else ()),
     agent_that_does_not_start,
     agent_that_keeps_ending,
 )

@@ -139,33 +139,6 @@ def change_three_settings(tour: Tour) -> str:
     return f'{time}; {menu_bar}; {tour.log.expect_change(TRIGGERS, "scanMode", 1)}'
 
 
-def put_a_section_back(tour: Tour) -> str:
-    """Put a setting back in its row, then its whole section; undo, redo and undo it"""
-    tour.choose_tab("Scanning")
-    tour.picture("not-at-their-defaults")
-    tour.screen.click("Reset “Line crosses the screen in” to 10.0 sec", "push button")
-    row = tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10)
-    press("key", "ctrl+z")
-    tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10.5)
-    menu_bar = tour.screen.find("Scan the menu bar too", "check box")
-    tour.screen.click("Reset 2 settings", "push button")
-    mask = tour.log.expect("SAPr")["mask"]
-    check(mask == SCAN_SPEED | NO_GROUP, f"mask {mask} of the section")
-    until(lambda: menu_bar.checked, "the menu bar is scanned again")
-    check(tour.screen.find("Line crosses the screen in", "slider").value == 10, "the line scan time is changed")
-    tour.picture("section-put-back")
-    press("key", "ctrl+z")
-    undone = tour.log.expect_change(SCAN_SPEED, "lineScanTime", 10.5)
-    until(lambda: not menu_bar.checked, "the menu bar is left out again")
-    press("key", "ctrl+shift+z")
-    check(tour.log.expect("SAPr")["mask"] == mask, "redo sends other groups")
-    until(lambda: menu_bar.checked, "the menu bar is scanned once more")
-    press("key", "ctrl+z")
-    until(lambda: not menu_bar.checked, "the menu bar is left out once more")
-    tour.log.expect("SAPr")
-    return f"{row}; the section, mask {mask}; {undone}"
-
-
 # A section, the control, and the mask and field of its change, with its value after and before.
 EDITS = (
     ("Scanning", "list item", "Left third", SCAN_AREA, "scanArea", (0, 0, 341, 768, 1), (0, 0, 0, 0, 0)),
@@ -254,18 +227,15 @@ STEPS = (
     startup.take_the_first_steps,
     look_at_the_tabs,
     change_three_settings,
-    put_a_section_back,
     change_each_section,
     switch_off_and_on,
     profiles.use_two_in_turn,
     *hotkeys.STEPS,
     startup.launch_at_login,
-    profiles.export_them,
     close_the_pane,
     open_it_again,
     start_it_twice,
     close_it_unchanged,
-    profiles.import_them,
     startup.log_in,
 )
 

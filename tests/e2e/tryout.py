@@ -309,16 +309,6 @@ def leave_by_switch(tour: Tour) -> str:
     return "by a key, by a mouse button, and by clicks alone"
 
 
-def end_in_a_try(tour: Tour) -> str:
-    """However the program ends, the keys are free again."""
-    column = Column(0, 0, 1)
-    tour.screen.click("Find my speed", "push button")
-    until(lambda: not column.keys_are_free(), "the page has the keys")
-    tour.program.kill()
-    until(column.keys_are_free, "the keys are free")
-    return "when the program was killed"
-
-
 if __name__ == "__main__":
     with touring(*given("BUILD_DIR OUT_DIR"), SIZE) as a_tour:
         store_settings(a_tour.desktop)
@@ -333,4 +323,3 @@ if __name__ == "__main__":
         print(f"Flashing: {press_quickly(a_tour)}.", flush=True)
         a_tour.screen.click("Leave", "push button")
         print(f"Left: {leave_by_switch(a_tour)}.", flush=True)
-        print(f"Given back: the keys, {end_in_a_try(a_tour)}.", flush=True)

@@ -180,39 +180,6 @@ TEST_F(PopUpButtonTest, ShowsAsMuchAsItCanBesideTheButtonInColumnsThatArrowsWalk
         key(code);
         EXPECT_EQ(menu_->currentRow(), row) << code;
     }
-    key(Qt::Key_Escape);
-    QApplication::setLayoutDirection(Qt::RightToLeft);
-    key(Qt::Key_Space);
-    key(Qt::Key_Left);
-    EXPECT_EQ(menu_->currentRow(), 13);
-    EXPECT_EQ(rowRect(13).topRight(), rowRect(0).topLeft() - QPoint(1, 0));
-}
-
-TEST_F(PopUpButtonTest, ScreenReaderFollowsTheMenu) {
-    addItems({"Click", "Drag"});
-    auto* button = QAccessible::queryAccessibleInterface(button_);
-    ASSERT_TRUE(button && button->actionInterface());
-    const auto press = [&] {
-        button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        return button->state().expanded;
-    };
-    EXPECT_EQ(button->role(), QAccessible::ButtonMenu);
-    EXPECT_EQ(button->text(QAccessible::Name), "Add button");
-    EXPECT_TRUE(button->state().hasPopup && button->state().expandable);
-    EXPECT_TRUE(press());
-    EXPECT_TRUE(menu_->hasFocus()) << "or nothing is said of the current item";
-    auto* list = QAccessible::queryAccessibleInterface(menu_);
-    ASSERT_TRUE(button->childCount() == 1 && button->child(0) == list && list->childCount() == 2);
-    EXPECT_EQ(list->parent()->indexOfChild(list), 0);
-    EXPECT_EQ(list->text(QAccessible::Name), "Add button");
-    key(Qt::Key_Down);
-    EXPECT_TRUE(list->child(1)->state().focused && list->child(1)->state().selected);
-    EXPECT_EQ(list->child(1)->text(QAccessible::Name), "Drag");
-
-    owner_.control->setEnabled(false);
-    EXPECT_FALSE(press());
-    button_->setAccessibleName("Its own");
-    EXPECT_EQ(button->text(QAccessible::Name), "Its own");
 }
 
 } // namespace

@@ -56,21 +56,4 @@ TEST_F(SliderTest, GoesToAClickAndLeavesTheWheelToThePage) {
     EXPECT_EQ(owner_.sent, 0);
 }
 
-TEST_F(SliderTest, ScreenReaderHearsRealValuesAndTheirText) {
-    find("value")->setProperty("outlet", "label"); // which tells it from other labels
-    slider_->setAccessibleDescription("How long.");
-    auto* interface = QAccessible::queryAccessibleInterface(slider_);
-    EXPECT_EQ(interface->text(QAccessible::Value), "10.0 sec");
-    EXPECT_EQ(interface->text(QAccessible::Description), "10.0 sec. How long.");
-    auto* range = interface->valueInterface();
-    ASSERT_NE(range, nullptr);
-    EXPECT_EQ(range->minimumValue().toDouble(), 1);
-    EXPECT_EQ(range->maximumValue().toDouble(), 20);
-    EXPECT_EQ(range->minimumStepSize().toDouble(), 0.1);
-    range->setCurrentValue(12.5);
-    EXPECT_EQ(range->currentValue().toDouble(), 12.5);
-    EXPECT_EQ(value(), 12.5);
-    EXPECT_EQ(owner_.sent, 1);
-}
-
 } // namespace

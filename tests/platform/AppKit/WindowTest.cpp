@@ -1,31 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/HIToolbox/EventTimers.h"
 #include "platform/Support/EventMoment.h"
-#include "tests/platform/AppKit/TestForm.h"
+
+#include <gtest/gtest.h>
 
 namespace {
-
-using WindowTest = FormTest;
-
-TEST_F(WindowTest, AnotherContentTakesTheWholeWindowUntilItGoes) {
-    ControlOwner<NSButton> owner;
-    ASSERT_NO_FATAL_FAILURE(show(widgetXml("QPushButton", "button", wired()), owner));
-    QWidget* window = nib_.topLevelWidget();
-    find("last")->setFocus();
-    QWidget other;
-    NSView view;
-    view.attachWidget(&other);
-    for (int time = 0; time < 2; ++time) { // again in its own place
-        nib_.topLevelView()->window().setContentView(&view);
-        window->resize(500, 400);
-        EXPECT_EQ(other.size(), window->size());
-        EXPECT_FALSE(find("first")->isVisible());
-    }
-    nib_.topLevelView()->window().setContentView(nullptr);
-    EXPECT_FALSE(other.isVisible() || other.parent());
-    EXPECT_TRUE(find("first")->isVisible());
-    EXPECT_EQ(window->focusWidget(), find("last"));
-}
 
 TEST(EventMoment, IsTheServersAsFarAsItsClockIsOurs) {
     const double now = GetCurrentEventTime();

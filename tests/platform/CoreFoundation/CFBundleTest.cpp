@@ -22,19 +22,6 @@ protected:
     fs::path folder_ = makeSandboxFolder("bundles"), contents_ = folder_ / "Test.app/Contents";
 };
 
-TEST_F(CFBundleTest, OneFolderWithSoundInfoIsOneBundleForAsLongAsItLives) {
-    fs::create_directory_symlink(folder_ / "Test.app", folder_ / "Link.app");
-    {
-        const auto bundle = open(folder_ / "Test.app");
-        ASSERT_TRUE(bundle);
-        EXPECT_EQ(open(folder_ / "Link.app").get(), bundle.get());
-        EXPECT_EQ(CFBundleGetBundleWithIdentifier(CFSTR("org.test")), bundle.get());
-    }
-    EXPECT_EQ(CFBundleGetBundleWithIdentifier(CFSTR("org.test")), nullptr);
-    writeFile(contents_ / "Info.plist", "<plist><array/></plist>");
-    EXPECT_FALSE(open(folder_ / "Test.app"));
-}
-
 TEST_F(CFBundleTest, ResourcesAreFoundAndNothingOutside) {
     const auto bundle = open(folder_ / "Test.app");
 

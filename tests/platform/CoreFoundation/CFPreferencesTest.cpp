@@ -60,34 +60,6 @@ protected:
     fs::path own_, everyones_;
 };
 
-TEST_F(CFPreferencesTest, ReadersTakeWhatReadsAsTheirType) {
-    constexpr CFIndex kNone = -99;
-
-    const struct {
-        const char* stored;
-        int boolean; ///< -1: doesn't read as one
-        CFIndex integer;
-    } cases[] = {{"<integer>-3</integer>", 1, -3},
-                 {"<real>-7.9</real>", 1, -7},
-                 {"<string>+5</string>", -1, 5},
-                 {"<string> 12</string>", -1, kNone},
-                 {"<string>9223372036854775808</string>", -1, kNone}};
-
-    std::string body;
-    for (const auto& row : cases)
-        body += "<key>" + std::to_string(&row - cases) + "</key>" + row.stored;
-    writeFile(own_, dictionaryFile(body));
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.stored);
-        const CFString* key = CFSTR(std::to_string(&row - cases).c_str());
-        bool exists = true;
-        const bool boolean = CFPreferencesGetAppBooleanValue(key, domain_.get(), &exists);
-        EXPECT_EQ(exists ? int{boolean} : -1, row.boolean);
-        const CFIndex integer = CFPreferencesGetAppIntegerValue(key, domain_.get(), &exists);
-        EXPECT_EQ(exists ? integer : kNone, row.integer);
-    }
-}
-
 TEST_F(CFPreferencesTest, AllUsersValuesAreDefaults) {
     // Paths that aren't absolute are ignored.
     const std::string relative = "relative::", vendors = makeSandboxFolder("vendor");

@@ -48,34 +48,4 @@ TEST_F(InstalledApplicationsTest, EntriesSayWhetherTheyAreInstalledAndHideLaterF
     }
 }
 
-/// Each change shows at once: right after another one, in the same step of the file system's clock,
-/// and later, when the cache is in use.
-TEST_F(InstalledApplicationsTest, FollowsInstallationAndRemoval) {
-    const fs::path folder = near_ / "applications", bundle = folder / "Keys.app";
-    for (const bool waits : {false, true}) {
-        SCOPED_TRACE(waits);
-        const auto step = [&](const char* what, const char* found, const fs::path& settling = {}) {
-            if (waits && !settling.empty())
-                waitUntilSettled(settling);
-            for (int i = 0; i < 2; ++i)
-                EXPECT_EQ(find(), found) << what;
-        };
-        fs::remove_all(folder_);
-        fs::create_directories(bundle);
-        step("bundle without content", "", folder);
-        installBundle(near_, "Keys.app", "OTHR", "org.keys");
-        step("another creator", "", bundle / "Contents/Info.plist");
-        installBundle(near_, "Keys.app", "TEST", "org.keys");
-        step("installed", "near/applications/Keys.app", bundle / "Contents/Info.plist");
-        fs::rename(bundle, folder / "Moved.app");
-        step("renamed", "near/applications/Moved.app");
-        installEntry(home_, "org.keys");
-        step("entry as well", "home/applications/org.keys.desktop");
-        fs::remove(home_ / "applications/org.keys.desktop");
-        step("entry removed", "near/applications/Moved.app", folder);
-        fs::remove_all(folder / "Moved.app");
-        step("removed", "");
-    }
-}
-
 } // namespace

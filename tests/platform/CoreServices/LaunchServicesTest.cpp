@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "platform/CoreServices/ChangeWatch.h"
 #include "platform/CoreServices/LaunchTrouble.h"
 #include "tests/platform/CoreServices/TestPeer.h"
 #include "tests/support/TestApplication.h"
@@ -111,46 +110,6 @@ TEST_F(LaunchServicesTest, OneProgramRunsAtATimeDetachedAndIsReapedAtItsEnd) {
     EXPECT_EQ(open(), noErr);
     EXPECT_NE(kill(second, 0), 0) << "not reaped";
     waitForStart(3);
-}
-
-TEST_F(LaunchServicesTest, WhatDoesntComeUpOrKeepsEndingIsTold) {
-    int told = 0;
-    const ChangeWatch watch = watchLaunches([&] { ++told; });
-    const auto trouble = [] {
-        const auto found = findLaunchTrouble();
-        return found ? static_cast<int>(found->trouble) : -1;
-    };
-    use("#!/bin/sh\necho $$ >>'" + pids_.string() + "'\nexec '" TEST_PEER "' " +
-        std::to_string(kApplication) + '\n');
-    EXPECT_EQ(open(), noErr);
-    waitForPeer(true);
-    const AppleEvent quit = makeEvent(findProcess(kPeer), kCoreEventClass, kAEQuitApplication);
-    for (int i = 0; i < 2; ++i) { // the peer takes its time
-        AESend(&quit, nullptr, kAENoReply, kAEDefaultTimeout);
-        EXPECT_EQ(open(), noErr);
-    }
-    EXPECT_EQ(started().size(), 1u);
-    signalProcess(peer(), SIGKILL);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return started().size() == 2; }, 10'000));
-
-    for (int endings = 0; endings < 3; ++endings) {
-        waitForPeer(true);
-        signalProcess(peer(), SIGKILL);
-        waitForPeer(false);
-        ASSERT_TRUE(QTest::qWaitFor([] { return waitpid(-1, nullptr, WNOHANG) == -1; }, 10'000));
-        EXPECT_FALSE(isLaunching(bundle_.string()));
-        EXPECT_TRUE(endings == 2 || trouble() == -1) << "the one on request doesn't count";
-        EXPECT_TRUE(endings == 2 || (open() == noErr && isLaunching(bundle_.string())));
-    }
-    told = 0;
-    ASSERT_TRUE(QTest::qWaitFor([&] { return told > 0 && trouble() >= 0; }));
-    EXPECT_EQ(findLaunchTrouble()->trouble, LaunchTrouble::KeepsEnding);
-    use("#!/bin/sh\necho $$ >>'" + pids_.string() + "'\nexec sleep 600\n");
-    EXPECT_EQ(launchAgain(findLaunchTrouble()->bundle), noErr);
-    EXPECT_EQ(trouble(), -1) << "it may still come up";
-    ASSERT_TRUE(QTest::qWaitFor([&] { return trouble() >= 0; }, 12'000));
-    EXPECT_EQ(findLaunchTrouble()->trouble, LaunchTrouble::NotUp);
-    EXPECT_FALSE(isLaunching(findLaunchTrouble()->bundle));
 }
 
 TEST_F(LaunchServicesTest, OneThatHasLeftTheBusIsFollowedByAnotherOnceItHasEnded) {

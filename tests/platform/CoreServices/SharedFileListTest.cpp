@@ -63,17 +63,4 @@ TEST_F(SharedFileListTest, AnEntrysNameIsTakenOnlyFromAnotherOfItsOwn) {
     }
 }
 
-TEST_F(SharedFileListTest, AUsersItemDoesntUncoverTheOneOfAllUsers) {
-    const auto url = makeTestApplication(kSandbox / "A.app");
-    insert(url.get(), LSSharedFileListCreate(kLSSharedFileListGlobalLoginItems).get());
-    const std::string file = insert(url.get(), list_.get());
-    ASSERT_EQ(items().size(), 1u);
-    EXPECT_EQ(LSSharedFileListItemRemove(list_.get(), items()[0]), noErr);
-    EXPECT_TRUE(items().empty());
-    EXPECT_TRUE(isSound(file));
-    EXPECT_THAT(readFile(file), testing::HasSubstr("Hidden=true"));
-    EXPECT_EQ(insert(url.get(), list_.get()), file);
-    EXPECT_EQ(items().size(), 1u);
-}
-
 } // namespace

@@ -8,7 +8,6 @@
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/ApplicationTest.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
@@ -101,26 +100,6 @@ TEST_F(SheetTest, LeavesTheKeyboardToWhatKeepsIt) {
     EXPECT_TRUE(cancel->hasFocus());
     dispose();
     EXPECT_FALSE(field.hasFocus()) << "it doesn't begin to wait again";
-}
-
-TEST_F(SheetTest, IsANotificationThatFitsItsParentAndOutlivesIt) {
-    auto parent = std::make_unique<QWidget>();
-    parent->resize(40, 30);
-    parent->show();
-    ShowSheetWindow(sheet, windowRefOf(parent.get()));
-    QWidget& widget = sheet->widget();
-    auto* notice = QAccessible::queryAccessibleInterface(widget.parentWidget());
-    EXPECT_EQ(notice->role(), QAccessible::Notification);
-    EXPECT_EQ(notice->text(QAccessible::Name), QStringLiteral("A notice"));
-    EXPECT_EQ(notice->text(QAccessible::Description), QStringLiteral("What it says"));
-    EXPECT_TRUE(parent->rect().contains({widget.mapTo(parent.get(), QPoint()), widget.size()}));
-    EXPECT_GE(widget.height(), widget.minimumSizeHint().height());
-    parent->resize(900, 700);
-    EXPECT_NEAR(widget.mapTo(parent.get(), widget.rect().center()).x(), 450, 2);
-    parent.reset();
-    EXPECT_FALSE(widget.parentWidget() || widget.isVisible());
-    ShowWindow(sheet); // on its own
-    EXPECT_TRUE(widget.isVisible());
 }
 
 } // namespace

@@ -8,7 +8,6 @@
 
 #include <QDBusPendingCall>
 #include <QDBusVirtualObject>
-#include <QElapsedTimer>
 
 #include <cmath>
 #include <cstring>
@@ -93,33 +92,6 @@ protected:
     QDBusConnection otherProgram_ =
         QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("other"));
 };
-
-TEST_F(DaemonTest, AnAgentThatHangsDelaysNothingAndMissesNothing) {
-    constexpr int kCount = 10'000;
-    startAgent();
-    daemonSetup(CFSTR(KORVEX_BUNDLE "/Contents/Linux/Korvex Agent.app"));
-    ASSERT_EQ(agentLog_.nextName(), "PPop");
-    const pid_t agent = agentPID();
-    signalProcess(agent, SIGSTOP);
-    qint64 longest = 0;
-    for (int i = 1; i <= kCount; ++i) {
-        prefs.borderGap = i;
-        QElapsedTimer timer;
-        timer.start();
-        daemonSendChanges(kChangePalette, true);
-        longest = std::max(longest, timer.elapsed());
-    }
-    EXPECT_LT(longest, 1000) << "ms for one call";
-    signalProcess(agent, SIGCONT);
-    for (int i = 1; i <= kCount; ++i)
-        ASSERT_EQ(recordField<SInt32>(agentLog_.next(), offsetof(PrefsRecord, borderGap)), i);
-    prefs.soundLevel = 0xA5A5A5A5;
-    daemonSendChanges(0x1FFFFFFF, false); // waits until the agent has taken it, as it is
-    const QJsonObject last = agentLog_.next();
-    EXPECT_EQ(last["mask"].toInteger(), 0x1FFFFFFF);
-    const auto image = QByteArray::fromRawData(reinterpret_cast<const char*>(&prefs), sizeof prefs);
-    EXPECT_EQ(last["record"].toString().toLatin1(), image.toHex());
-}
 
 TEST_F(DaemonTest, OnlyAReportOfAnotherStateIsKeptAndNoneIsSentBack) {
     openWithAgent();

@@ -4,14 +4,11 @@
 #include "tests/support/ApplicationTest.h"
 
 #include <QApplication>
-#include <QBackingStore>
 #include <QFile>
 #include <QTest>
 #include <QTimer>
-#include <QWindow>
 
 #include <functional>
-#include <random>
 
 void PrintTo(const CGRect& rect, std::ostream* out) {
     *out << rect.size.width << 'x' << rect.size.height << " at " << rect.origin.x << ','
@@ -119,40 +116,6 @@ TEST_F(ChooseAreaTest, WhatTheUserDoesDecidesTheArea) {
         EXPECT_EQ(area, test.area);
         EXPECT_EQ(chooseAreaError(), noErr);
     }
-}
-
-TEST_F(ChooseAreaTest, TheOverlayLiesOverAllDisplaysAndRepaintsWhatChanged) {
-    CGRect area{{-500, 0}, {200, 100}};
-    choose(area, [&] {
-        EXPECT_EQ(overlay_->geometry(), QRect(-600, -100, 1600, 900));
-        // On this platform windows are black beneath.
-        const auto* picture = dynamic_cast<QImage*>(overlay_->backingStore()->paintDevice());
-        const auto expect = [&](std::initializer_list<std::pair<QPoint, QColor>> pixels = {}) {
-            const QImage seen = picture->copy();
-            drawOverlay();
-            EXPECT_EQ(seen, *picture) << "a frame that is drawn as a whole looks different";
-            for (const auto& [place, color] : pixels)
-                EXPECT_NEAR(seen.pixelColor(place - overlay_->pos()).red(), color.red(), 1);
-        };
-        const QColor clear(Qt::black), current(5, 5, 26), edge(102, 20, 20); // half of its strength
-        expect({{{-599, -99}, clear}, {{-302, 98}, current}, {{-298, 50}, clear}});
-        moveTo(-400, 300); // after a press that went elsewhere
-        std::mt19937 random(7);
-        for (int i = 0; i < 30; ++i) {
-            moveTo(std::uniform_int_distribution(-600, 999)(random),
-                   std::uniform_int_distribution(-100, 799)(random));
-            expect();
-        }
-        moveTo(-300, 400);
-        expect({{{-300, 350}, edge}, {{-298, 350}, clear}});
-        release(-300, 400);
-        expect({{{-400, 50}, clear}, {{-350, 350}, current}});
-        key(Qt::Key_Left, Qt::ShiftModifier);
-        expect();
-        click(900, 700);
-        expect();
-        key(Qt::Key_Escape);
-    });
 }
 
 } // namespace

@@ -175,30 +175,6 @@ TEST_F(PaletteEditingTest, AButtonThatDisablesItselfLeavesTheKeyboardWhereOneMor
     EXPECT_EQ(slotsOf(prefs), "20 22 1 2 0 0 0 0 0");
 }
 
-TEST_F(PaletteEditingTest, TheSizeIsSetAndBounded) {
-    openWithAgent();
-
-    const struct {
-        const char* button;
-        ButtonSize before, after; ///< height, width; the same: nothing is sent
-    } sizes[] = {
-        {"buttonSizeIncBtn", {40, 60}, {41, 61}},    {"buttonWidthIncBtn", {40, 60}, {40, 61}},
-        {"buttonHeightDecBtn", {40, 60}, {39, 60}},  {"buttonSizeDecBtn", {20, 60}, {20, 59}},
-        {"buttonWidthIncBtn", {40, 100}, {40, 100}}, {"buttonHeightIncBtn", {5, 500}, {20, 100}},
-    };
-
-    for (const auto& [button, before, after] : sizes) {
-        SCOPED_TRACE(button);
-        prefs.buttonSize = before;
-        click(button);
-        if (before.height != after.height || before.width != after.width) {
-            EXPECT_EQ(agentLog_.nextMask(), kChangePalette);
-        }
-        EXPECT_EQ(prefs.buttonSize.height, after.height);
-        EXPECT_EQ(prefs.buttonSize.width, after.width);
-    }
-}
-
 TEST_F(PaletteEditingTest, NineSquaresFillTheRowAndClicksAndScreenReadersFindThem) {
     open();
     ViewWidget* widget = viewWidget();

@@ -2,8 +2,6 @@
 #include "src/pane/pointers/ptrman.h"
 #include "tests/support/PaneFixture.h"
 
-#include <QColorDialog>
-
 namespace {
 
 /// The preview and the pointer's name in the open pane.
@@ -51,23 +49,6 @@ TEST_F(PointerChoiceTest, ThePreviewAndTheNameTellWhatIsSet) {
     pane_.reset();
     char name[kMaxPointerNameLength + 1];
     EXPECT_FALSE(ptrmanGetNextPointer(nullptr, true, name)) << "names outlive the visit";
-}
-
-TEST_F(PointerChoiceTest, TheAgentHearsOfAnotherPointerAndColour) {
-    openWithAgent();
-    for (const auto& [button, isDefault] :
-         {std::pair("nextPointerBtn", false), {"previousPointerBtn", true}}) {
-        click(button);
-        EXPECT_EQ(agentLog_.nextMask(), kChangePointer);
-        const std::string name = prefs.pointerImageName;
-        EXPECT_EQ(name == PrefsRecord().pointerImageName, isDefault) << name;
-    }
-    click("lineColor");
-    find("lineColor")->findChild<QColorDialog*>()->setCurrentColor({101, 0, 254});
-    const QJsonObject event = agentLog_.next();
-    EXPECT_EQ(event["mask"].toInteger(), kChangeScanLineLook | kChangeGuideLineLook);
-    const LineColor color = recordField<PrefsRecord>(event, 0).lineColor;
-    EXPECT_EQ(std::tuple(color.red, color.green, color.blue), std::tuple(101, 0, 254));
 }
 
 } // namespace

@@ -95,19 +95,6 @@ TEST_F(SampleScanViewTest, TheBandHasTheColourTransparencyAndThicknessOfItsLine)
     }
 }
 
-TEST_F(SampleScanViewTest, WithoutItsPointerNothingElseIsMissing) {
-    prefs.pointerImageName[0] = '\0';
-    const QImage without = draw();
-    choosePointer("there");
-    EXPECT_NE(draw(), without);
-    choosePointer("far+-2147483648x2000000000");
-    EXPECT_EQ(draw(), without);
-    for (const char* name : {"gone", "../there", "\xFF\xFE"}) {
-        std::strcpy(prefs.pointerImageName, name);
-        EXPECT_EQ(draw(), without) << name;
-    }
-}
-
 TEST_F(SampleScanViewTest, ItIsSharpOnScaledDisplays) {
     choosePointer("spot+1x2");
     for (const double scale : {1.25, 2.0}) {

@@ -120,19 +120,4 @@ TEST_F(PalutilTest, WhateverIsWrongWithTheListYieldsLessContent) {
     }
 }
 
-TEST_F(PalutilTest, AnIconThatCantBeReadLeavesTheTitleInTheMiddle) {
-    const std::string whole = readFile(kBuilt / "Contents/Resources/btn_click.icns");
-    const Rect bounds = {0, 0, 60, 60};
-    for (const std::string& bytes :
-         {std::string(), "icns" + std::string(4000, '\x7f'), whole.substr(0, 40), whole}) {
-        beginAgain("<array><dict/><dict><key>title</key><string>Go</string>"
-                   "<key>icon</key><string>it</string></dict></array>");
-        const QImage alone = draw(1, bounds, 0, kButtonContentName);
-        EXPECT_EQ(draw(1, bounds, 0, kBoth), alone) << "a missing file";
-        writeFile(resources_ / "it.icns", bytes);
-        EXPECT_EQ(draw(1, bounds, 0, kBoth) == alone, bytes != whole) << bytes.size() << " bytes";
-        fs::remove(resources_ / "it.icns");
-    }
-}
-
 } // namespace

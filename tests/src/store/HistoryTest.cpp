@@ -98,45 +98,4 @@ TEST(HistoryTest, TheUseOfAProfileIsAStepOfItsOwn) {
     EXPECT_EQ(history.undo(record)->profileBefore, "Tired");
 }
 
-TEST(SettingWordsTest, EverySettingReadsInPeoplesWords) {
-    PrefsRecord before, after;
-    before.scanArea = {0, 10, 64, 48};
-    after.on = 0;
-    after.scanMode = 1;
-    after.scanArea = {0, 10, 640, 480};
-    after.lineColor = {0, 83, 138};
-    after.menuScanSpeedScaleFactor = 65;
-    after.lineThickness = 9;
-    std::strcpy(before.pointerImageName, "Zeiger größer+20x20");
-    std::strcpy(after.pointerImageName, "big\x8e");
-    after.hotKeys[2] = {-1, 0};
-    after.buttonSize = {.height = 50, .width = 60};
-    after.buttonContent = 1;
-    after.buttonActions[0] = 0;
-    after.buttonActions[1] = 7;
-    std::string texts;
-    const SettingSet changed = differences(before, after);
-    for (std::size_t i = 0; i < kSettings.size(); ++i)
-        if (changed[i])
-            texts += changeText(kSettings[i], before, after, kSettingBecomes) + "\n";
-    EXPECT_EQ(
-        texts,
-        "Scanning with Korvex: on to off\n"
-        "Way of scanning: “Press to start, press to choose” to “Hold to scan, let go to choose”\n"
-        "My own area: 64 × 48 at 0, 10 to 640 × 480 at 0, 10\n"
-        "Speed in menus: 60% to 65%\n"
-        "Line colour: Red (#640000) to Blue\n"
-        "Line thickness: 7 to 9 points\n"
-        "Pointer: “Zeiger größer” to “bigé”\n"
-        "Cancel the scan (hot key): esc to none\n"
-        "Size of the buttons: 40 × 40 to 60 × 50 points\n"
-        "Show the name: on to off\n"
-        "Palette button 1: “Action 20” to “Empty slot”; "
-        "Palette button 2: “Action 21” to “Action 7”\n");
-    before.buttonActions[4] = 9;
-    EXPECT_EQ(changeText(kSettings.back(), before, after, kSettingBecomesAgain),
-              "Palette buttons: “Action 20, Action 21, Action 22, Action 1, Action 9” back to "
-              "“Action 7, Action 22, Action 1, Action 2”");
-}
-
 } // namespace
