@@ -68,19 +68,4 @@ TEST_F(FirstStepsTest, TakesEditsOnTheOneRoadAndIsFoundAgain) {
     EXPECT_TRUE(window()->findChild<QWidget*>(QStringLiteral("tryout"))) << "the try isn't open";
 }
 
-TEST_F(FirstStepsTest, AnswersEachPress) {
-    openWithAgent();
-    auto* field = part<QWidget>("pressView");
-    const auto* words = part<QLabel>("pressWords");
-    EXPECT_TRUE(field->hasFocus());
-    QTest::keyPress(field, Qt::Key_F7);
-    EXPECT_EQ(words->text(), QStringLiteral("Pressed."));
-    QTest::keyRelease(field, Qt::Key_F7);
-    EXPECT_TRUE(words->text().startsWith(QLatin1String("It answers: 1 press.")));
-    QTest::mouseClick(field, Qt::RightButton);
-    EXPECT_TRUE(words->text().startsWith(QLatin1String("It answers: 2 presses.")));
-    act(field);
-    EXPECT_TRUE(words->text().startsWith(QLatin1String("It answers: 3 presses. To go on")));
-}
-
 } // namespace

@@ -81,21 +81,4 @@ TEST(HistoryTest, WhatTheAgentReportsIsNoStepAndStays) {
     EXPECT_FALSE(history.canRedo());
 }
 
-TEST(HistoryTest, TheUseOfAProfileIsAStepOfItsOwn) {
-    PrefsRecord record;
-    History history(record, "Morning");
-    for (const auto& [time, profile] : {std::pair(11, "Morning"), {20, "Tired"}, {21, "Tired"}}) {
-        record.lineScanTime = time;
-        history.note(record, time / 100., profile);
-    }
-    history.undo(record);
-    EXPECT_EQ(double{record.lineScanTime}, 20);
-    EXPECT_EQ(history.undo(record)->profileBefore, "Morning");
-    EXPECT_EQ(double{record.lineScanTime}, 11);
-    EXPECT_EQ(history.redo(record)->profileAfter, "Tired");
-    record.lineScanTime = 22;
-    history.note(record, 9, "Tired");
-    EXPECT_EQ(history.undo(record)->profileBefore, "Tired");
-}
-
 } // namespace
