@@ -166,7 +166,7 @@ TEST_F(PaletteEditingTest, AButtonThatDisablesItselfLeavesTheKeyboardWhereOneMor
     prefs.lineScanTime = 1.5;
     for (const auto& [button, heir] : {std::pair("removeButtonBtn", "paletteView"),
                                        {"borderGapDecBtn", "borderGapLabel"},
-                                       {"lineScanTimeDecBtn", "lineScanTimeSlider"}}) {
+                                       {"lineScanTimeDecBtn", "lineScanTimeLabel"}}) {
         find(button)->setFocus();
         QTest::keyClick(find(button), Qt::Key_Space);
         EXPECT_FALSE(find(button)->isEnabled());
