@@ -117,14 +117,9 @@ TEST_F(SettingsTest, EveryOtherControlWritesItsFieldAndReportsItsGroup) {
         UInt8 value; ///< the field's, whose other bytes are 0
         ChangeMask mask;
     } cases[] = {
-        {"launchAtLogin", AT(launchAtLogin), 0, kChangeLaunch},
         {"activateAtLaunch", AT(activateAtLaunch), 0, kChangeLaunch},
         {"triggerOnReleaseRadios1", AT(triggerOnRelease), 1, kChangeTriggers},
         {"scanModeRadios2", AT(scanMode), 2, kChangeTriggers},
-        {"masterOnOffRadios0", AT(on), 0, kChangeOnOff},
-        {"useScanAreaRadios1", AT(useScanArea), 1, kChangeScanArea},
-        {"useScanAreaRadios0", AT(useScanArea), 0, kChangeScanArea},
-        {"buttonShapeRadios1", AT(buttonShape), 1, kChangePalette},
         {"buttonContentNameCheck", AT(buttonContent), 1, kChangePalette},
         {"buttonContentIconCheck", AT(buttonContent), 0, kChangePalette},
         {"buttonContentNameCheck", AT(buttonContent), 2, kChangePalette},
@@ -132,7 +127,6 @@ TEST_F(SettingsTest, EveryOtherControlWritesItsFieldAndReportsItsGroup) {
 
 #undef AT
 
-    prefs.scanArea = {-100, 0, 640, 480};
     openWithAgent();
     for (const auto& [control, offset, value, mask] : cases) {
         SCOPED_TRACE(control);
@@ -238,24 +232,6 @@ TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityActi
         ++tried;
     }
     EXPECT_GT(tried, 60);
-}
-
-TEST_F(SettingsTest, WhatWasSwitchedOffOrResetIsPutBackFromTheStrip) {
-    prefs.buttonActions[0] = 5;
-    openWithAgent();
-    click("masterOnOffRadios0");
-    EXPECT_EQ(find<QLabel>("masterState")->text(), "Off");
-    EXPECT_EQ(told(),
-              "Scanning is off. Hold your switch for four seconds to switch it on again, or press "
-              "control+shift+X.");
-    pressInStrip();
-    EXPECT_EQ(prefs.on, 1);
-    click("resetActionsBtn");
-    EXPECT_EQ(prefs.buttonActions[0], 20);
-    pressInStrip();
-    EXPECT_EQ(prefs.buttonActions[0], 5);
-    EXPECT_THAT(remainingMasks(),
-                testing::ElementsAre(kChangeOnOff, kChangeOnOff, kChangePalette, kChangePalette));
 }
 
 TEST_F(SettingsTest, EveryControlIsNamedReachableAndLargeEnough) {
