@@ -77,7 +77,7 @@ def unwritable_folder(tour: Tour) -> None:
 def unwritable_folder_at_the_first_steps(tour: Tour) -> None:
     tour.stored.write_bytes(plistlib.dumps({DATE: NEVER, "firstStepsSeen": False}))
     open_window(tour)
-    tour.screen.click("Line scan time, longer", "push button")
+    tour.screen.click("Line crosses the screen in, longer", "push button")
     tour.stored.parent.chmod(0o500)
     tour.ask_to_close()
     expect_alert(tour, "couldn’t be saved: no permission")
