@@ -3,10 +3,8 @@
 
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSColorWell.h"
-#include "platform/AppKit/NSMatrix.h"
 #include "platform/AppKit/NSNib.h"
 #include "platform/AppKit/NSSlider.h"
-#include "platform/AppKit/NSTextField.h"
 #include "tests/support/ApplicationTest.h"
 
 #include <QAccessible>

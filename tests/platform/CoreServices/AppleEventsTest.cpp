@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "platform/CoreServices/detail/AppleEventHandlers.h"
 #include "platform/CoreServices/detail/AppleEventMessage.h"
 #include "platform/CoreServices/detail/ProcessName.h"
 #include "tests/platform/CoreServices/TestPeer.h"
@@ -11,22 +10,6 @@
 #include <unistd.h>
 
 namespace {
-
-OSErr handle(const AppleEvent*, AppleEvent*, void* result) {
-    return *static_cast<OSErr*>(result);
-}
-
-TEST(AppleEventTest, TheMostSpecificHandlerTakesAnEventClassBeforeID) {
-    OSErr results[] = {1, 2, 3};
-    AEInstallEventHandler(typeWildCard, typeWildCard, handle, &results[2]);
-    AEInstallEventHandler(typeWildCard, kAnswerCode, handle, &results[1]);
-    AEInstallEventHandler(kTestClass, typeWildCard, handle, &results[0]);
-    AppleEvent reply;
-    EXPECT_EQ(dispatchAppleEvent({kTestClass, kAnswerCode, {}, {}}, &reply), 1);
-    EXPECT_EQ(dispatchAppleEvent({kCoreEventClass, kOther, {}, {}}, &reply), 3);
-    EXPECT_EQ(AERemoveEventHandler(kTestClass, typeWildCard, handle), noErr);
-    EXPECT_EQ(dispatchAppleEvent({kTestClass, kAnswerCode, {}, {}}, &reply), 2);
-}
 
 /// This process and a peer, on a real bus.
 class AppleEventsTest : public ProcessTest {
