@@ -2,15 +2,13 @@
 #include "agent/Deeds.h"
 
 #include "agent/Terminals.h"
+#include "agent/x11/Desktop.h"
 #include "agent/x11/Guard.h"
 #include "agent/x11/Properties.h"
 #include "tests/agent/TargetWindow.h"
 #include "tests/support/FakeDevice.h"
 #include "tests/support/XvfbServer.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusMetaType>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QTest>
@@ -75,17 +73,6 @@ protected:
 
     std::string press(const std::string& keys) { return choose(ActionKind::Keys, keys); }
 
-    /// What the target gets, as many as expected and what comes right after.
-    Texts events(std::size_t expected) {
-        Texts all;
-        EXPECT_TRUE(QTest::qWaitFor([&] {
-            const Texts more = target_.events();
-            all.insert(all.end(), more.begin(), more.end());
-            return all.size() >= expected;
-        }));
-        return all;
-    }
-
     XvfbServer xvfb_;
     TargetWindow target_{0, 0, 400, 300};
     FakeDevice keyboard_{FakeDevice::Kind::Keyboard};
@@ -111,13 +98,6 @@ TEST_F(DeedsTest, AtAPlace) {
         std::vector<Deed> deeds;
         Texts events;
     } kCases[] = {
-        {"click", {{.kind = Kind::Click, .place = {5, 6}}}, {"press 1 at 5,6", "release 1 at 5,6"}},
-        {"double click",
-         {{.kind = Kind::Click, .place = {5, 6}, .click = ActionKind::DoubleClick}},
-         {"press 1 at 5,6", "release 1 at 5,6", "press 1 at 5,6", "release 1 at 5,6"}},
-        {"the other button",
-         {{.kind = Kind::Click, .place = {7, 8}, .click = ActionKind::RightClick}},
-         {"press 3 at 7,8", "release 3 at 7,8"}},
         {"with modifiers",
          {{.kind = Kind::Click, .place = {5, 6}, .shift = true, .control = true}},
          {"key 50 down", "key 37 down", "press 1 at 5,6", "release 1 at 5,6", "key 50 up",
@@ -147,7 +127,7 @@ TEST_F(DeedsTest, AtAPlace) {
         SCOPED_TRACE(name);
         for (const Deed& deed : all)
             EXPECT_EQ(carryOut(deed), "");
-        EXPECT_THAT(events(expected.size()), ElementsAreArray(expected));
+        EXPECT_THAT(target_.events(expected.size()), ElementsAreArray(expected));
         EXPECT_TRUE(QTest::qWaitFor([&] { return target_.down().empty(); }));
     }
 }
@@ -172,7 +152,7 @@ TEST_F(DeedsTest, KeysAreWhereTheActiveLayoutHasThem) {
         SCOPED_TRACE(std::string(layout) + " " + keys);
         QProcess::execute("setxkbmap", {layout});
         EXPECT_EQ(press(keys), "");
-        EXPECT_THAT(events(expected.size()), ElementsAreArray(expected));
+        EXPECT_THAT(target_.events(expected.size()), ElementsAreArray(expected));
     }
 }
 
@@ -184,39 +164,19 @@ TEST_F(DeedsTest, WaitsForTheUsersModifiers) {
     QTest::qWait(100);
     EXPECT_THAT(target_.events(), ElementsAre("key 133 down"));
     keyboard_.key(kSuper, false);
-    EXPECT_THAT(events(5), ElementsAre("key 133 up", "press 1 at 5,6", "release 1 at 5,6",
-                                       "key 36 down", "key 36 up"));
+    EXPECT_THAT(target_.events(5), ElementsAre("key 133 up", "press 1 at 5,6", "release 1 at 5,6",
+                                               "key 36 down", "key 36 up"));
 }
 
-TEST_F(DeedsTest, ItsOwnActionsAreTheScanners) {
-    const struct {
-        double line, pointer;
-        ActionKind kind;
-        std::string says;
-        Texts told;
-    } kCases[] = {
-        {8, 6, ActionKind::Faster, "", {"line 7.5, pointer 5.5"}},
-        {8, 6, ActionKind::Slower, "", {"line 8.5, pointer 6.5"}},
-        {1.2, 1, ActionKind::Faster, "", {"line 1, pointer 1"}},
-        {1, 1, ActionKind::Faster, "The scan is as fast as it can be.", {}},
-        {60, 60, ActionKind::Slower, "The scan is as slow as it can be.", {}},
-        {8, 6, ActionKind::Pause, "", {"pause"}},
-    };
-
-    for (const auto& [line, pointer, kind, says, told] : kCases) {
-        SCOPED_TRACE(says);
-        settings_.lineScanTime = line;
-        settings_.pointerScanTime = pointer;
-        told_.texts.clear();
-        EXPECT_EQ(choose(kind), says);
-        EXPECT_EQ(told_.texts, told);
-    }
+TEST_F(DeedsTest, AScanThatCantBeFasterSaysSo) {
+    settings_.lineScanTime = 1.2, settings_.pointerScanTime = 1;
+    EXPECT_EQ(choose(ActionKind::Faster), "");
+    EXPECT_EQ(told_.texts, Texts{"line 1, pointer 1"});
+    settings_.lineScanTime = 1;
+    EXPECT_EQ(choose(ActionKind::Faster), "The scan is as fast as it can be.");
 }
 
 TEST_F(DeedsTest, TheVolumeIsTheSoundServersWithinItsLimits) {
-    const auto told = [this](const std::string& why) {
-        return QTest::qWaitFor([&] { return told_.texts == Texts{why}; });
-    };
     const auto sink = [](const char* command) {
         QProcess program;
         program.start("pactl", {command, "@DEFAULT_SINK@"});
@@ -224,8 +184,8 @@ TEST_F(DeedsTest, TheVolumeIsTheSoundServersWithinItsLimits) {
         return program.readAllStandardOutput().toStdString();
     };
     EXPECT_EQ(choose(ActionKind::Louder), "");
-    EXPECT_TRUE(told("No sound server answers."));
-    told_.texts.clear();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !told_.texts.empty(); }));
+    EXPECT_EQ(std::exchange(told_.texts, {}), Texts{"No sound server answers."});
 
     QProcess server;
     server.start("pulseaudio", {"-n", "--daemonize=no", "--exit-idle-time=-1", "-L",
@@ -255,8 +215,6 @@ TEST_F(DeedsTest, TheVolumeIsTheSoundServersWithinItsLimits) {
             [&] { return sink(command).find(expected) != std::string::npos; }, kLongestWait));
     }
     EXPECT_THAT(told_.texts, IsEmpty());
-    server.kill();
-    server.waitForFinished();
 }
 
 TEST_F(DeedsTest, LettingGoDropsWhatIsUnderWay) {
@@ -277,7 +235,6 @@ TEST(Shortcut, TerminalsHaveTheirOwn) {
     } kCases[] = {
         {"Gedit", "Control+c", "Control+c", false},
         {"Xfce4-terminal", "Control+c", "Shift+Control+c", false},
-        {"Xfce4-terminal", "Control+v", "Shift+Control+v", false},
         {"Xfce4-terminal", "Control+z", "A terminal can't undo.", true},
         {"XTerm", "Control+v", "Shift+Insert", false},
         {"XTerm", "Control+c", "This terminal can't copy for other programs.", true},
@@ -296,21 +253,9 @@ TEST(Shortcut, TerminalsHaveTheirOwn) {
 class DesktopDeedsTest : public DeedsTest {
 protected:
     DesktopDeedsTest() {
-        auto call =
-            QDBusMessage::createMethodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
-                                           "org.freedesktop.DBus", "UpdateActivationEnvironment");
-        using Environment = QMap<QString, QString>;
-        qDBusRegisterMetaType<Environment>();
-        call << QVariant::fromValue(Environment{{"DISPLAY", qEnvironmentVariable("DISPLAY")}});
-        QDBusConnection::sessionBus().call(call);
+        QProcess::execute("dbus-update-activation-environment", {"DISPLAY"});
         start(manager_, "env", {"XDG_CONFIG_DIRS=/etc/xdg", "openbox"});
         EXPECT_TRUE(waitForRoot("_NET_SUPPORTED"));
-    }
-
-    ~DesktopDeedsTest() override {
-        endEditor();
-        manager_.kill();
-        manager_.waitForFinished();
     }
 
     static void start(QProcess& program, const QString& name, const QStringList& arguments) {
@@ -348,13 +293,11 @@ protected:
 
     /// Until the window manager says so: a number that isn't zero, or a list.
     bool waitForRoot(const char* property) {
-        return QTest::qWaitFor(
-            [&] {
-                const auto numbers =
-                    numbersOf(*server_, askProperty(*server_, server_->root(), property));
-                return !numbers.empty() && numbers[0] != 0;
-            },
-            20'000);
+        const auto isSet = [&] {
+            const auto all = numbersOf(*server_, askProperty(*server_, server_->root(), property));
+            return !all.empty() && all[0] != 0;
+        };
+        return QTest::qWaitFor(isSet, 20'000);
     }
 
     bool waitToBeTold(const Texts& texts) {
@@ -378,8 +321,6 @@ protected:
                   .place = {list.middle().x, list.top + (row + 0.5) * ListWindow::kRowHeight}});
     }
 
-    std::optional<Area> keyboard() { return around().keyboard; }
-
     QProcess manager_, editor_;
     std::string said_;
 };
@@ -388,18 +329,18 @@ TEST_F(DesktopDeedsTest, TypesWithOnboard) {
     startEditor(KORVEX_GTK_EDITOR, {});
     EXPECT_EQ(choose(ActionKind::Type), "");
     ASSERT_TRUE(waitToBeTold({"scan"}));
-    const auto place = keyboard();
+    const auto place = around().keyboard;
     ASSERT_TRUE(place);
     EXPECT_GT(place->width, 100);
     settings_.lineScanCanEndKybdMode = 0;
     deeds_->scanRanOut(settings_);
-    EXPECT_TRUE(keyboard());
+    EXPECT_TRUE(around().keyboard);
     // A click on one of its keys types into the window that has the focus.
     EXPECT_EQ(carryOut({.kind = Deed::Kind::Click, .place = place->middle()}), "");
     EXPECT_TRUE(says("text "));
     settings_.lineScanCanEndKybdMode = 1;
     deeds_->scanRanOut(settings_);
-    EXPECT_FALSE(keyboard());
+    EXPECT_FALSE(around().keyboard);
 }
 
 TEST_F(DesktopDeedsTest, WindowsAreBroughtForwardClosedAndHidden) {
@@ -422,8 +363,6 @@ TEST_F(DesktopDeedsTest, WindowsAreBroughtForwardClosedAndHidden) {
     EXPECT_TRUE(waitForRoot("_NET_ACTIVE_WINDOW"));
     EXPECT_EQ(choose(ActionKind::Close), "");
     EXPECT_TRUE(says("closed"));
-    other.closeWriteChannel();
-    other.waitForFinished();
     manager_.kill();
     manager_.waitForFinished();
     EXPECT_EQ(choose(ActionKind::Desktop), "The window manager can't show the desktop.");
@@ -437,6 +376,7 @@ TEST_F(DesktopDeedsTest, MenusOpenAndAreScanned) {
         chooseRow(1);
         EXPECT_TRUE(says("menu Edit"));
         ASSERT_TRUE(waitToBeTold({"scan"}));
+        EXPECT_EQ(Desktop(*server_).openMenus().size(), 1U);
         EXPECT_EQ(press("Escape"), "");
         endEditor();
     }

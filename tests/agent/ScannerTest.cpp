@@ -2,7 +2,6 @@
 #include "tests/agent/ScannerFixture.h"
 
 #include <algorithm>
-#include <functional>
 #include <random>
 
 namespace {
@@ -24,12 +23,7 @@ TEST_F(ScannerTest, EachWayOfScanningHitsItsPlace) {
     record.minTriggerDuration = 0.05;
     use(record);
     press(kScanKey, 0.01); // too short
-    const Span start = press(kScanKey, 0.2, true);
-    wait(kDelay + 0.3);
-    const Span line = press(kScanKey, 0.2, true);
-    wait(kDelay + 0.3);
-    const Span pointer = press(kScanKey, 0.2, true);
-    expectClick(start, line, line, pointer);
+    scan([this] { return press(kScanKey, 0.2, true); });
 
     record = quickSettings();
     record.scanMode = 1;
@@ -70,103 +64,57 @@ TEST_F(ScannerTest, AMouseButtonIsASwitchThatStaysStill) {
         mouse_.button(button, false);
         return span;
     };
-    const Span start = click(1);
-    wait(kDelay + 0.4);
-    const Span line = click(1);
-    wait(kDelay + 0.4);
-    const Span pointer = click(1);
-    expectClick(start, line, line, pointer);
+    scan([&] { return click(1); });
 
     // The other button cancels, and the scan is over.
     click(1);
-    wait(kDelay + 0.2);
+    EXPECT_TRUE(waitForWindows(1));
     click(3);
+    EXPECT_TRUE(waitForWindows(0));
     EXPECT_THAT(target_.events(), IsEmpty());
     click(3);
     EXPECT_THAT(target_.events(2).front(), testing::StartsWith("press 3"));
 }
 
-TEST_F(ScannerTest, EndsAsItIsTold) {
+TEST_F(ScannerTest, EscapeIsTheAgentsOnlyWhileItScans) {
     use(quickSettings());
-    // Escape is the agent's only while it scans.
     begin();
     press(kEscape);
     EXPECT_THAT(target_.events(), IsEmpty());
     expectNoScan();
-
-    // A line that nobody stops goes twice.
-    PrefsRecord record = quickSettings();
-    record.lineScanTime = 1;
-    use(record);
-    begin();
-    wait(2 * (kDelay + record.lineScanTime));
-    expectNoScan();
-
-    // Switched off by its key, which is taken: the scan key is the programs' then.
-    use(quickSettings());
-    begin();
-    onOffKey();
-    EXPECT_TRUE(QTest::qWaitFor([] { return !isOn; }));
-    target_.events();
-    press();
-    EXPECT_THAT(target_.events(2), ElementsAre("key 38 down", "key 38 up"));
-
-    // Held for four seconds it switches on again, and isn't taken meanwhile.
-    press(kScanKey, 4.3);
-    EXPECT_TRUE(isOn);
-    wait(0.5);
-    EXPECT_EQ(target_.events(2).back(), "key 38 up");
-    EXPECT_THAT(target_.down(), IsEmpty());
-    scan();
-}
-
-/// Of the line where it crosses the screen's middle; 0 without one.
-int middleOf(const std::vector<std::uint32_t>& column, std::uint32_t color) {
-    const auto first = std::ranges::find(column, color) - column.begin();
-    const auto count = std::ranges::count(column, color);
-    return count ? static_cast<int>(first + count / 2) : 0;
 }
 
 TEST_F(ScannerTest, IsSwitchedOffByItsKeyInEachState) {
     PrefsRecord record = quickSettings();
-    record.clickDuration = 300;
-    const auto toPointer = [&] {
-        begin();
-        press();
-        wait(kDelay + 0.2);
-    };
+    record.clickDuration = 500;
 
     const struct {
         const char* name;
         SInt32 mode;
-        std::function<void()> get;
+        int presses;
+        double wait; ///< after the last one
     } kStates[] = {
-        {"at rest", 0, [] {}},
-        {"before the line", 0, [&] { press(); }},
-        {"the line", 0, [&] { begin(); }},
-        {"the pointer", 0, toPointer},
-        {"the click", 0,
-         [&] {
-             toPointer();
-             press();
-             target_.events(1);
-         }},
-        {"a line that is held on to", 1,
-         [&] {
-             key(kScanKey, true);
-             wait(kDelay + 0.2);
-         }},
-        {"a band", 2, [&] { press(); }},
+        {"at rest", 0, 0, 0},
+        {"before the line", 0, 1, 0},
+        {"the line", 0, 1, kDelay + 0.2},
+        {"the pointer", 0, 2, kDelay + 0.2},
+        {"the click", 0, 3, 0.1},
+        {"a line that is held on to", 1, 1, kDelay + 0.2},
+        {"a band", 2, 1, 0},
     };
 
-    for (const auto& [name, mode, get] : kStates) {
-        SCOPED_TRACE(name);
-        record.scanMode = mode;
+    for (const auto& state : kStates) {
+        SCOPED_TRACE(state.name);
+        record.scanMode = state.mode;
         use(record);
-        get();
+        for (int i = 0; i < state.presses; ++i) {
+            wait(i > 0 ? kDelay + 0.2 : 0);
+            state.mode == 1 ? key(kScanKey, true) : press();
+        }
+        wait(state.wait);
         onOffKey();
         EXPECT_TRUE(QTest::qWaitFor([] { return !isOn; }));
-        EXPECT_THAT(agentWindows(), IsEmpty());
+        EXPECT_TRUE(waitForWindows(0));
         key(kScanKey, false);
         EXPECT_THAT(target_.down(), IsEmpty());
         onOffKey();
@@ -178,20 +126,26 @@ TEST_F(ScannerTest, IsSwitchedOffByItsKeyInEachState) {
 }
 
 TEST_F(ScannerTest, ChangesInMidScanAreFelt) {
-    constexpr std::uint32_t kDark = 0x640000, kBlue = 0x0000ff;
+    const auto hasLine = [this](QRgb color) {
+        const QImage image = screenshot(target_.connection());
+        int y = 0;
+        while (y < kHeight && image.pixel(kWidth / 2, y) != color)
+            ++y;
+        return y < kHeight;
+    };
     PrefsRecord record = quickSettings();
     record.lineScanTime = 4;
     use(record);
     const Span start = press();
     wait(kDelay + 0.5);
-    ASSERT_GT(middleOf(column(), kDark), 0);
+    ASSERT_TRUE(hasLine(qRgb(100, 0, 0)));
 
     // The look at once, the speed from the next sweep on.
     record.lineColor = {0, 0, 255};
     record.lineScanTime = 2;
     record.pointerScanTime = 3;
     use(record);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return middleOf(column(), kBlue) > 0; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hasLine(qRgb(0, 0, 255)); }));
     const Span line = press();
     wait(kDelay + 0.6);
     const Span pointer = press();
@@ -226,30 +180,15 @@ TEST_F(ScannerTest, ChangesInMidScanAreFelt) {
     }
 }
 
-TEST_F(ScannerTest, WaitsAndIgnoresForAsLongAsItIsTold) {
+TEST_F(ScannerTest, PressesRightAfterAClickAreNobodys) {
     PrefsRecord record = quickSettings();
-    record.preScanDelay = 1;
     record.afterClickDelay = 1.5;
     use(record);
-    // Before the line and before the pointer presses do nothing.
-    const Span start = press();
-    wait(0.4);
-    press();
-    wait(0.9);
-    const Span line = press();
-    wait(0.3);
-    press();
-    wait(1.1);
-    const Span pointer = press();
-    expectClick(start, line, line, pointer);
-    // The click is followed by presses that nobody gets.
-    wait(0.2);
-    press();
-    wait(0.5);
+    scan();
     press();
     EXPECT_THAT(target_.events(), IsEmpty());
     expectNoScan();
-    wait(1);
+    wait(1.5);
     begin();
 }
 
@@ -266,29 +205,6 @@ TEST_F(ScannerTest, ASwitchThatIsHeldForTenSecondsEndsEverything) {
     key(kScanKey, false);
     expectNoScan();
     use(quickSettings());
-    scan();
-}
-
-TEST_F(ScannerTest, AnOpenMenuIsScannedByTheLineAlone) {
-    PrefsRecord record = quickSettings();
-    record.menuScanSpeedScaleFactor = 50;
-    use(record);
-    const int left = 100, top = 150, width = 200, height = 300;
-    {
-        TargetWindow menu(left, top, width, height);
-        menu.openMenu();
-        const Span start = press();
-        wait(kDelay + 0.5);
-        const Span line = press();
-        const auto events = menu.events(3);
-        ASSERT_EQ(events.size(), 3U);
-        int y = 0; // it hears of motion, too
-        ASSERT_EQ(std::sscanf(events[1].c_str(), "press 1 at 200,%d", &y), 1) << events[1];
-        expectPlace(y - top, {height, 2 * record.lineScanTime * height / kHeight, false}, start,
-                    line);
-        EXPECT_THAT(agentWindows(), testing::SizeIs(1)) << "the menu";
-    }
-    target_.events();
     scan();
 }
 

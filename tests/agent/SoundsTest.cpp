@@ -73,10 +73,4 @@ TEST_F(SoundsTest, WhatIsNotToBeHeardAsksForNoSound) {
     EXPECT_FALSE(isAsked(500));
 }
 
-TEST(Sounds, HalfTheLevelSoundsHalfAsLoud) {
-    EXPECT_DOUBLE_EQ(Sounds::decibels(100), 0);
-    EXPECT_DOUBLE_EQ(Sounds::decibels(50), -10);
-    EXPECT_NEAR(Sounds::decibels(1), -66.4, 0.1);
-}
-
 } // namespace

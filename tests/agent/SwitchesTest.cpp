@@ -6,15 +6,11 @@
 #include "tests/support/FakeDevice.h"
 #include "tests/support/XvfbServer.h"
 
-#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
-#include <QEventLoop>
 #include <QTest>
-#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <linux/input-event-codes.h>
 
 namespace {
@@ -44,14 +40,12 @@ protected:
     /// Returns when the server knows it.
     void become(State state) {
         switches_.setState(state);
-        xcb_connection_t* connection = server_->connection();
-        XReply<xcb_get_input_focus_reply_t>(
-            xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+        waitFor(server_->connection());
     }
 
-    void switchDown(Switch which, double moment) override { note("down", which, moment); }
+    void switchDown(Switch which, double) override { note("down", which); }
 
-    void switchUp(Switch which, double moment) override { note("up", which, moment); }
+    void switchUp(Switch which, double) override { note("up", which); }
 
     void onOffKey() override { heard_.push_back("on/off"); }
 
@@ -59,10 +53,9 @@ protected:
 
     void cancelKey() override { heard_.push_back("cancel"); }
 
-    void note(const std::string& what, Switch which, double moment) {
+    void note(const std::string& what, Switch which) {
         static constexpr const char* kNames[] = {"first", "second", "second button"};
         heard_.push_back(what + " " + kNames[static_cast<int>(which)]);
-        latency_ = XServer::now() - moment;
     }
 
     /// What was heard since the last call.
@@ -70,16 +63,6 @@ protected:
         EXPECT_TRUE(QTest::qWaitFor([&] { return heard_.size() >= expected; }));
         QTest::qWait(20);
         return std::exchange(heard_, {});
-    }
-
-    /// What the program below was told since the last call.
-    std::vector<std::string> told(std::size_t expected = 0) {
-        std::vector<std::string> all;
-        EXPECT_TRUE(QTest::qWaitFor([&] {
-            std::ranges::copy(target_.events(), std::back_inserter(all));
-            return all.size() >= expected;
-        }));
-        return all;
     }
 
     void tap(int key) {
@@ -105,7 +88,6 @@ protected:
 
     PrefsRecord record_;
     std::vector<std::string> heard_;
-    double latency_ = 0;
 
     XvfbServer xvfb_;
     std::string fault_;
@@ -176,40 +158,29 @@ TEST_F(SwitchesTest, AMouseIsASwitchWhileItRests) {
     EXPECT_THAT(heard(2), ElementsAre("down first", "up first"));
     EXPECT_THAT(target_.events(), IsEmpty());
     click(3);
-    EXPECT_THAT(told(2), ElementsAre("press 3 at 400,300", "release 3 at 400,300"));
-
-    // A trembling hand isn't far from where it was.
-    for (int i = 0; i < 20; ++i)
-        mouse_.move(i % 2 == 0 ? 9 : -9, 0);
-    click(1);
-    EXPECT_THAT(heard(2), ElementsAre("down first", "up first"));
-    EXPECT_THAT(target_.events(), IsEmpty());
+    EXPECT_THAT(target_.events(2), ElementsAre("press 3 at 400,300", "release 3 at 400,300"));
 
     // The helper's mouse: a double click, and something is dragged.
     mouse_.move(-24, -32);
     click(1);
     click(1);
-    EXPECT_THAT(told(4), ElementsAre("press 1 at 376,268", "release 1 at 376,268",
-                                     "press 1 at 376,268", "release 1 at 376,268"));
+    EXPECT_THAT(target_.events(4), ElementsAre("press 1 at 376,268", "release 1 at 376,268",
+                                               "press 1 at 376,268", "release 1 at 376,268"));
     mouse_.button(1, true);
-    EXPECT_THAT(told(1), ElementsAre("press 1 at 376,268"));
+    EXPECT_THAT(target_.events(1), ElementsAre("press 1 at 376,268"));
     mouse_.move(-6, -8);
     mouse_.move(-70, 40);
     EXPECT_THAT(target_.down(), ElementsAre("button 1"));
     mouse_.button(1, false);
-    EXPECT_THAT(told(3), ElementsAre("move to 370,260", "move to 300,300", "release 1 at 300,300"));
+    EXPECT_THAT(target_.events(3),
+                ElementsAre("move to 370,260", "move to 300,300", "release 1 at 300,300"));
     EXPECT_THAT(heard(), IsEmpty());
 
-    become(State::Scanning);
-    click(1);
-    click(3);
-    EXPECT_THAT(heard(4),
-                ElementsAre("down first", "up first", "down second button", "up second button"));
     record_.fakeMouse2SwitchMode = 0;
     switches_.use(record_, 1);
     become(State::Scanning);
     click(3);
-    EXPECT_THAT(told(2), ElementsAre("press 3 at 300,300", "release 3 at 300,300"));
+    EXPECT_THAT(target_.events(2), ElementsAre("press 3 at 300,300", "release 3 at 300,300"));
     EXPECT_THAT(heard(), IsEmpty());
 }
 
@@ -264,16 +235,6 @@ TEST_F(SwitchesTest, WhileItIsOffAHeldSwitchIsHeardUntilItMovesOrComesUp) {
     mouse_.move(4, 3);
     EXPECT_THAT(heard(1), ElementsAre("up first"));
     mouse_.button(1, false);
-
-    // Switched on by it: the switch that is still held comes up later.
-    keyboard_.key(kSuper, true);
-    keyboard_.key(kScan, true);
-    EXPECT_THAT(heard(1), ElementsAre("down first"));
-    become(State::Ready);
-    keyboard_.key(kScan, false);
-    keyboard_.key(kSuper, false);
-    EXPECT_THAT(heard(1), ElementsAre("up first"));
-    EXPECT_THAT(target_.down(), IsEmpty());
 }
 
 TEST_F(SwitchesTest, DevicesComeAndGo) {
@@ -288,45 +249,6 @@ TEST_F(SwitchesTest, DevicesComeAndGo) {
     chord({kSuper}, kScan);
     EXPECT_THAT(heard(2), ElementsAre("down first", "up first"));
     EXPECT_THAT(target_.events(), testing::Not(testing::Contains("key 104 down")));
-}
-
-TEST_F(SwitchesTest, KeysOfAnotherProgramAreNamedAndTakenOnceTheyAreFree) {
-    EXPECT_THAT(switches_.taken(), IsEmpty());
-    const auto otherServer = XServer::connect(fault_);
-    {
-        Switches other(*otherServer, *this);
-        other.use(record_, 1);
-        other.setState(State::Scanning);
-        EXPECT_THAT(other.taken(), ElementsAre(0, 1, 3, 4));
-    }
-    // Print Screen is in F13's place.
-    record_.hotKeys[1] = {0x69, 0};
-    record_.hotKeys[4] = {-1, 0};
-    switches_.use(record_, 1);
-    become(State::Ready);
-    tap(code(KEY_SYSRQ));
-    tap(code(KEY_F13));
-    EXPECT_THAT(heard(4), ElementsAre("down first", "up first", "down first", "up first"));
-}
-
-TEST_F(SwitchesTest, AtRestNothingWakesItAndAPressDoesAtOnce) {
-    int wakes = 0;
-    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake,
-                     [&wakes] { ++wakes; });
-    QEventLoop loop;
-    QTimer::singleShot(1000, &loop, &QEventLoop::quit);
-    loop.exec();
-    EXPECT_LE(wakes, 4); // the timer's own
-
-    std::vector<double> latencies;
-    for (int i = 0; i < 20; ++i) {
-        click(1);
-        heard(2);
-        latencies.push_back(latency_ * 1000);
-    }
-    std::ranges::sort(latencies);
-    RecordProperty("median_ms", std::to_string(latencies[10]));
-    EXPECT_LT(latencies[10], 8);
 }
 
 /// A raw motion event as the server sends it.

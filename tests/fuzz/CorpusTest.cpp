@@ -14,13 +14,6 @@
 
 namespace {
 
-void require(bool holds, const char* rule) {
-    if (!holds) {
-        std::fprintf(stderr, "Broken: %s\n", rule);
-        std::abort();
-    }
-}
-
 bool readPropertyList(std::string_view bytes) {
     const auto list = CFPropertyListCreateFromXMLData(makeData(bytes).get());
     const std::string written = list ? propertyListToXML(list.get()) : "";
