@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "agent/Deeds.h"
 
-#include "agent/Terminals.h"
 #include "agent/x11/Desktop.h"
 #include "agent/x11/Guard.h"
 #include "agent/x11/Properties.h"
@@ -226,27 +225,6 @@ TEST_F(DeedsTest, LettingGoDropsWhatIsUnderWay) {
     target_.events();
     QTest::qWait(300);
     EXPECT_THAT(target_.events(), IsEmpty());
-}
-
-TEST(Shortcut, TerminalsHaveTheirOwn) {
-    const struct {
-        const char *program, *keys, *expected;
-        bool isFault;
-    } kCases[] = {
-        {"Gedit", "Control+c", "Control+c", false},
-        {"Xfce4-terminal", "Control+c", "Shift+Control+c", false},
-        {"Xfce4-terminal", "Control+z", "A terminal can't undo.", true},
-        {"XTerm", "Control+v", "Shift+Insert", false},
-        {"XTerm", "Control+c", "This terminal can't copy for other programs.", true},
-        {"XTerm", "Control+x", "A terminal can't cut. Choose Copy.", true},
-        {"XTerm", "Return", "Return", false},
-    };
-
-    for (const auto& [program, keys, expected, isFault] : kCases) {
-        const auto [pressed, fault] = shortcutIn(program, keys);
-        EXPECT_EQ(isFault ? fault : pressed, expected) << program;
-        EXPECT_EQ(fault.empty(), !isFault) << program;
-    }
 }
 
 /// Openbox, with the menu that Debian gives it, and programs that say what happens to them.

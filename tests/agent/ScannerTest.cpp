@@ -9,6 +9,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// Step scanning is what PaletteScanTest does.
 TEST_F(ScannerTest, EachWayOfScanningHitsItsPlace) {
     use(quickSettings());
     scan();
@@ -36,19 +37,6 @@ TEST_F(ScannerTest, EachWayOfScanningHitsItsPlace) {
     wait(kDelay + 0.5);
     const Span chosen = key(kSecondKey, false);
     expectClick(down, up, again, chosen);
-
-    record.scanMode = 2;
-    use(record);
-    press();
-    press();
-    press();
-    press(kSecondKey); // the third band
-    press();
-    press(kScanKey, 1.2); // its second step
-    press();
-    press(kSecondKey);
-    press(kSecondKey); // the second band, its first step
-    EXPECT_THAT(target_.events(2), ElementsAre("press 1 at 84,129", "release 1 at 84,129"));
 }
 
 TEST_F(ScannerTest, AMouseButtonIsASwitchThatStaysStill) {

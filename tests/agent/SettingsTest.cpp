@@ -20,9 +20,7 @@ TEST(Settings, WhatIsWrongBecomesTheNearest) {
     PrefsRecord wrong, right;
     wrong.lineScanTime = NAN, right.lineScanTime = 1;
     wrong.pointerScanTime = INFINITY, right.pointerScanTime = 60;
-    wrong.preScanDelay = -INFINITY, right.preScanDelay = 0;
     wrong.afterClickDelay = 1e300, right.afterClickDelay = 10;
-    wrong.interClickDelay = 1e4, right.interClickDelay = 1000;
     wrong.soundLevel = 0xFFFFFFFF, right.soundLevel = 100;
     wrong.lineThickness = -2147483647, right.lineThickness = 1;
     wrong.on = 200, right.on = 1;
@@ -32,7 +30,6 @@ TEST(Settings, WhatIsWrongBecomesTheNearest) {
     wrong.lineColor = {256, 255, 0xFFFF}, right.lineColor = {255, 255, 255};
     wrong.pointerImageName[0] = 0;
     wrong.buttonSize = {-1, 101}, right.buttonSize = {20, 100};
-    wrong.buttonShape = 2, right.buttonShape = 0;
     wrong.buttonContent = 6, right.buttonContent = 2;
     wrong.buttonActions[8] = 40, right.buttonActions[8] = 0;
     const PrefsRecord checked = checkedRecord(wrong);
