@@ -2,12 +2,8 @@
 #include "src/login/launch.h"
 
 #include "platform/CoreServices/SharedFileList.h"
-#include "platform/HIToolbox/detail/CarbonControl.h"
 #include "platform/Security/Authorization.h"
 #include "tests/support/TestApplication.h"
-
-#include <QApplication>
-#include <QCheckBox>
 
 #include <cstring>
 #include <map>
@@ -17,14 +13,13 @@ namespace {
 
 // The system that a test wants.
 bool makesAuthorizations = true, grantsRight = true;
-std::vector<unsigned> userGroups;
 
 int rightsAsked = 0;
 int authorizations = 0; // made and not freed yet
 
 } // namespace
 
-// Replace the platform's Authorization.cpp and a function of the C library.
+// Replaces the platform's Authorization.cpp.
 
 struct AuthorizationOpaqueRef {};
 
@@ -50,13 +45,6 @@ OSStatus AuthorizationCopyRights(AuthorizationRef, const AuthorizationRights* ri
 OSStatus AuthorizationFree(AuthorizationRef, AuthorizationFlags) {
     --authorizations;
     return errAuthorizationSuccess;
-}
-
-extern "C" int getgrouplist(const char*, gid_t, gid_t* groups, int* count) {
-    if (std::ssize(userGroups) > *count)
-        return -1;
-    std::copy(userGroups.begin(), userGroups.end(), groups);
-    return *count = static_cast<int>(userGroups.size());
 }
 
 namespace {
@@ -174,22 +162,6 @@ TEST_F(LaunchTest, WhatCantBeChangedStaysAndIsTold) {
     EXPECT_EQ(rightsAsked, 2) << "for the removal and for the addition";
 }
 
-TEST_F(LaunchTest, TellsTheStatesOfBothCheckBoxes) {
-    for (int bits = 0; bits < 8; ++bits) {
-        const bool mine = bits & 1, everyones = bits & 2, admin = bits & 4;
-        set(mine, false);
-        set(everyones, true);
-        userGroups = {4711u, admin ? 0u : 80u};
-        SCOPED_TRACE(bits);
-        EXPECT_EQ(state(false), everyones ? 0x01u : mine ? 0x03u : 0x02u);
-        EXPECT_EQ(state(true),
-                  0x12u | (mine ? 0x01u : 0) | (everyones ? 0x04u : 0) | (admin ? 0x08u : 0));
-    }
-    userGroups = std::vector<unsigned>(200, 4711); // more than can be read
-    EXPECT_TRUE(state(true) & kLaunchAllUsersEnabled);
-    EXPECT_FALSE(launchSetAppIsAutoLaunched(nullptr, true, false)) << "the test is in no bundle";
-}
-
 TEST_F(LaunchTest, NothingElseStartsItForThisUser) {
     const fs::path far = kSandbox / "etc/far/autostart";
     setenv("XDG_CONFIG_DIRS",
@@ -251,36 +223,6 @@ TEST_F(LaunchTest, WhatTheUserSwitchedOffElsewhereStaysUntilSwitchedOnHere) {
         EXPECT_EQ(CFArrayGetCount(LSSharedFileListCopySnapshot(list.get(), nullptr).get()), 1)
             << desktop;
     }
-}
-
-TEST_F(LaunchTest, TheBoxesOfADialogShowTheListsAndChangeThem) {
-    int argc = 1;
-    char program[] = "test", *argv[] = {program, nullptr};
-    const QApplication application(argc, argv);
-    userGroups = {0u};
-    QCheckBox boxes[2];
-    CarbonEventTarget window;
-    CarbonControl mine(boxes[0], window), everyones(boxes[1], window);
-    const auto expect = [&](UInt32 checked) {
-        EXPECT_EQ((boxes[0].isChecked() ? 1u : 0) | (boxes[1].isChecked() ? 4u : 0), checked);
-        EXPECT_EQ(state(true) & 5u, checked);
-    };
-    set(true, true);
-    launchBeginUI(url.get(), &mine, &everyones);
-    expect(4);
-    boxes[0].click();
-    boxes[1].click();
-    expect(1);
-    grantsRight = false;
-    boxes[0].click(); // is taken back
-    expect(1);
-    grantsRight = true;
-    set(true, true);
-    launchUpdateUI();
-    expect(5);
-    launchBeginUI(url.get(), &mine, nullptr);
-    EXPECT_FALSE(boxes[0].isEnabled()) << "it can't be taken out for one user";
-    launchEndUI();
 }
 
 } // namespace
