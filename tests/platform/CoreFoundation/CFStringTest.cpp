@@ -41,14 +41,4 @@ TEST(CFString, WhatAnEncodingLacksIsRefused) {
         EXPECT_FALSE(CFStringCreateWithCString(bytes, kCFStringEncodingUTF8)) << bytes;
 }
 
-TEST(CFString, BuffersAndMutableStringsStopAtTheirLimit) {
-    const auto string = CFStringCreateMutable(6);
-    CFStringAppend(string.get(), createFromUTF8("abc\u00E9").get());
-    CFStringAppendCharacters(string.get(), u"xyz", 3);
-    EXPECT_EQ(string->text(), u"abc\u00E9xy");
-    std::array<char, 7> buffer{};
-    EXPECT_FALSE(CFStringGetCString(string.get(), buffer.data(), 6, kCFStringEncodingMacRoman));
-    EXPECT_TRUE(CFStringGetCString(string.get(), buffer.data(), 7, kCFStringEncodingMacRoman));
-}
-
 } // namespace
