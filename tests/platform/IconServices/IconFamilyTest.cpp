@@ -62,27 +62,4 @@ TEST(IconFamilyTest, DecodesEveryDepthWithEveryMaskAndTheMostColoursThatAreWhole
     }
 }
 
-TEST(IconFamilyTest, ReadsWhatPillowWrites) {
-    const std::string bytes = readFile(fs::path(TEST_ICONS) / "Pillow.icns");
-    const QImage image = readFamily(bytes).atLeast(32);
-    ASSERT_EQ(image.size(), QSize(32, 32));
-    EXPECT_EQ(image.pixelColor(16, 16), QColor(0x20, 0x60, 0xC0));
-    EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
-}
-
-TEST(IconImagesTest, DecodesOnceWhatIsNeeded) {
-    std::vector<int> decoded;
-    IconImages images;
-    for (const int side : {64, 16, 128, 32})
-        images.add({side, side / 2}, [side, &decoded] {
-            decoded.push_back(side);
-            return side == 32 ? QImage() : QImage(side, side / 2, QImage::Format_ARGB32);
-        });
-    EXPECT_TRUE(images.anyDecodes());
-    EXPECT_EQ(decoded.size(), 1u);
-    for (const auto& [wanted, taken] : {std::pair{16, 16}, {17, 64}, {65, 128}, {10'000, 128}})
-        EXPECT_EQ(images.atLeast(wanted).width(), taken) << wanted;
-    EXPECT_THAT(decoded, testing::ElementsAre(16, 32, 64, 128));
-}
-
 } // namespace
