@@ -96,7 +96,14 @@ TEST_F(AXReqTest, IsShownOnceADayUntilItIsToldNeverToComeBack) {
 TEST_F(AXReqTest, ALateAnswerTakesTheNoticeAwayAndGivesTheDayBack) {
     AccessibilityService service;
     service.set(true);
+    QTest::qWait(500); // it has heard that
     service.hang();
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_FALSE(AXAPIEnabled());
+    EXPECT_LT(clock.restart(), 1000) << "milliseconds";
+    EXPECT_FALSE(AXAPIEnabled());
+    EXPECT_LT(clock.elapsed(), 50) << "it doesn't ask again";
     open();
     ASSERT_NE(notice(), nullptr);
     EXPECT_EQ(storedDay(), 20'000);
@@ -116,6 +123,24 @@ TEST_F(AXReqTest, LettersOfWhatTheNoticeCoversDoNothingAndItsOwnAlwaysWork) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return (notice() == nullptr) == (key == Qt::Key_N); }));
         EXPECT_EQ(covered->isChecked(), before);
     }
+}
+
+TEST_F(AXReqTest, ItKeepsTheKeyboardFromAllButACapture) {
+    open();
+    ASSERT_NE(notice(), nullptr);
+    for (const auto key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Backtab}) {
+        EXPECT_TRUE(notice()->isAncestorOf(window()->focusWidget()));
+        QTest::keyClick(window()->focusWidget(), key);
+    }
+    find("lineScanTimeIncBtn")->setFocus(); // as a shortcut of the content's would
+    EXPECT_TRUE(notice()->isAncestorOf(window()->focusWidget()));
+    auto* capture = find("scanKey");
+    capture->setFocus();
+    EXPECT_TRUE(capture->hasFocus());
+    QTest::keyClick(capture, Qt::Key_Escape);
+    ASSERT_NE(notice(), nullptr);
+    capture->clearFocus(); // it has what it waited for
+    EXPECT_TRUE(notice()->isAncestorOf(window()->focusWidget()));
 }
 
 TEST_F(AXReqTest, TheStoredDayDecides) {
