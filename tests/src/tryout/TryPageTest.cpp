@@ -51,42 +51,13 @@ TEST_F(TryPageTest, ASuggestionIsOneChangeAndUndoTakesItBack) {
 
 TEST_F(TryPageTest, ATryLeftAfterEnoughPressesIsKept) {
     openWithAgent();
-    for (const bool isBySwitch : {true, false}) {
-        openPage();
-        doTheSweeps(*page_, now_, tryout::kFewestTrials);
-        if (isBySwitch) {
-            for (int holds = 0; holds < 2; ++holds) {
-                page_->pressed(now_);
-                page_->released(now_ += 5);
-                EXPECT_TRUE(button("againBtn")->isVisible()) << "its result is shown first";
-            }
-        } else {
-            page_->left();
-        }
-        page_.reset();
-        EXPECT_TRUE(agentLog_.nextHold());
-        EXPECT_FALSE(agentLog_.nextHold()) << "the keys are the agent's again";
-        EXPECT_EQ(tryout::History().tries().size(), isBySwitch ? 1U : 2U);
-    }
-}
-
-TEST_F(TryPageTest, TheTargetIsChosenBeforeATryAndKept) {
-    openWithAgent();
     openPage();
-    const auto* text = window()->findChild<QLabel*>(QStringLiteral("targetText"));
-    button("targetLargerBtn")->click();
-    EXPECT_EQ(text->text(), QStringLiteral("Target: 11 mm"));
-    button("paletteTargetBtn")->click();
-    EXPECT_THAT(text->text().toStdString(), testing::HasSubstr("a palette button"));
-    EXPECT_FALSE(button("paletteTargetBtn")->isEnabled());
-    button("targetSmallerBtn")->click();
-    const QString chosen = text->text();
-    page_->pressed(GetCurrentEventTime());
-    EXPECT_FALSE(button("targetSmallerBtn")->isEnabled()) << "the mark stays as it is";
+    doTheSweeps(*page_, now_, tryout::kFewestTrials);
+    page_->left();
     page_.reset();
-    openPage();
-    EXPECT_EQ(window()->findChild<QLabel*>(QStringLiteral("targetText"))->text(), chosen);
-    page_.reset();
+    EXPECT_TRUE(agentLog_.nextHold());
+    EXPECT_FALSE(agentLog_.nextHold()) << "the keys are the agent's again";
+    EXPECT_EQ(tryout::History().tries().size(), 1U);
 }
 
 } // namespace
