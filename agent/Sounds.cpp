@@ -14,7 +14,7 @@
 
 namespace {
 
-// Names of freedesktop.org's sound naming specification. The first that the theme has is heard: the
+// Names of freedesktop.org's list of sounds. The first that the theme has is heard: the
 // theme "freedesktop", which is there when no other is, lacks the fitting ones.
 constexpr const char* kClick[] = {"button-pressed", "audio-volume-change", nullptr};
 constexpr const char* kArm[] = {"button-toggle-on", "message", nullptr};

@@ -19,8 +19,8 @@ void recoveryForget();
 /// recoveryKeep has written this program's own, or until recoveryForget.
 SettingSet recoveryTakeOver(PrefsRecord& record);
 
-/// Those settings were chosen meanwhile, perhaps as they are stored: what crashed programs have left
-/// of them is dropped.
+/// Those settings were chosen meanwhile, perhaps as they are stored: what crashed programs have
+/// left of them is dropped.
 void recoveryYield(const SettingSet& settings);
 
 /// Reads the unsaved changes of an open window into the record.
