@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "platform/HIToolbox/EventTimers.h"
 #include "platform/Support/EventMoment.h"
+#include "platform/HIToolbox/EventTimers.h"
 
 #include <gtest/gtest.h>
 

@@ -122,8 +122,8 @@ TEST_F(UndoTest, EachKindOfChangeIsOneStepThatIsSaidAndShown) {
          "Palette buttons: “Double, Drag, Type, Scroll” back to “Click, Double, Drag, Type, "
          "Scroll”.",
          "paletteView"},
-        {[&] { click("buttonContentNameCheck"); },
-         "Show the name: off back to on.", "buttonContentNameCheck"},
+        {[&] { click("buttonContentNameCheck"); }, "Show the name: off back to on.",
+         "buttonContentNameCheck"},
         {[&] { hold("buttonHeightIncBtn"); },
          "Size of the buttons: 40 × 42 back to 40 × 40 points.", "buttonHeightDecBtn"},
         {[&] { click("launchAtLogin"); }, "Start Korvex when you log in: off back to on.",
