@@ -9,8 +9,6 @@ using testing::ElementsAre;
 
 namespace {
 
-constexpr OSType kTool = fourCharCode("tool");
-
 TEST(ProcessNameTest, NamesTellTypeSignatureProcessAndSerialNumber) {
     const QString prefix = QStringLiteral("org.korvex.Process1.");
     const QString fields = QStringLiteral("t4150504C.s0000007F.p4711");
@@ -44,31 +42,6 @@ protected:
             .registerService(name);
     }
 };
-
-TEST_F(ProcessesTest, TheWalkFollowsOthersThatComeAndGoWithoutTheEventLoop) {
-    TestPeer agent;
-    ASSERT_TRUE(ownName(QStringLiteral("org.korvex.Process1.tAPPL.sKrvx.p1"))); // no valid name
-    EXPECT_THAT(walk(), ElementsAre(agent.psn())) << "there before the first look";
-    ASSERT_TRUE(ownName(QStringLiteral("org.korvex.Process1.tAPPL.sKrvx.p2")));
-    TestPeer tool(kTool);
-    ASSERT_TRUE(waitUntil([] { return walk().size() == 2; }));
-    EXPECT_THAT(walk(), ElementsAre(agent.psn(), tool.psn()));
-
-    pid_t pid = 0;
-    ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
-    for (const auto& [peer, type] : {std::pair(&agent, kApplication), {&tool, kTool}}) {
-        ASSERT_EQ(GetProcessInformation(&peer->psn(), &info), noErr);
-        EXPECT_EQ(info.processType, type);
-        EXPECT_EQ(info.processSignature, fourCharCode("peer"));
-        EXPECT_EQ(GetProcessPID(&peer->psn(), &pid), noErr);
-        EXPECT_EQ(pid, peer->pid());
-    }
-
-    tool.signal(SIGKILL);
-    ASSERT_TRUE(waitUntil([] { return walk().size() == 1; }));
-    EXPECT_THAT(walk(), ElementsAre(agent.psn()));
-    EXPECT_EQ(GetProcessPID(&tool.psn(), &pid), procNotFound);
-}
 
 TEST_F(ProcessesTest, ThisProcessTakesPartUnlessItsNameIsTaken) {
     ProcessSerialNumber self;
