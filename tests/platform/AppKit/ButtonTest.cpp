@@ -23,30 +23,6 @@ protected:
     QPushButton* button_ = nullptr;
 };
 
-TEST_F(ButtonTest, AShortClickSendsOnceAndHoldingRepeats) {
-    QTest::mouseClick(button_, Qt::LeftButton);
-    EXPECT_EQ(owner_.sent, 1);
-    QTest::qWait(1300);
-    EXPECT_EQ(owner_.sent, 1);
-
-    QElapsedTimer clock;
-    std::vector<qint64> times;
-    owner_.onAction = [&](NSButton*) { times.push_back(clock.elapsed()); };
-    for (const bool byMouse : {true, false}) {
-        times.clear();
-        clock.start();
-        byMouse ? QTest::mousePress(button_, Qt::LeftButton)
-                : QTest::keyPress(button_, Qt::Key_Space);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return times.size() == 3; }, 5000));
-        byMouse ? QTest::mouseRelease(button_, Qt::LeftButton)
-                : QTest::keyRelease(button_, Qt::Key_Space);
-        EXPECT_THAT(times[0], testing::AllOf(testing::Ge(990), testing::Lt(1250)));
-        EXPECT_THAT(times[2] - times[0], testing::AllOf(testing::Ge(450), testing::Lt(750)));
-        QTest::qWait(400);
-        EXPECT_EQ(times.size(), 3U) << "the release sends nothing";
-    }
-}
-
 TEST_F(ButtonTest, RemovingOrDisablingItInMidHoldStopsItAndTheFocusStaysInTheGroup) {
     NSView* group = owner_.control->superview();
     const QRect place = button_->geometry();

@@ -55,32 +55,6 @@ protected:
     QListWidget* menu_ = nullptr;
 };
 
-TEST_F(PopUpButtonTest, KeysOpenItAtItsFirstItemAndChoose) {
-    const std::tuple<Qt::Key, Qt::KeyboardModifiers, Qt::Key> kTable[] = {
-        {Qt::Key_Space, {}, Qt::Key_Space},
-        {Qt::Key_Down, {}, Qt::Key_Enter},
-        {Qt::Key_A, Qt::AltModifier, Qt::Key_Return}};
-
-    addItems({"Hold", "Drag", "Übergang", "Click", "Hold"}); // the first one is replaced
-    for (const auto& [opening, modifiers, choosing] : kTable) {
-        SCOPED_TRACE(opening);
-        chosen_.clear();
-        key(opening, modifiers);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return menu_->isVisible(); }));
-        EXPECT_EQ(menu_->currentRow(), 0);
-        EXPECT_TRUE(button_->isDown());
-        key(Qt::Key_Down);
-        QKeyEvent held(QEvent::KeyPress, choosing, {}, {}, true);
-        QApplication::sendEvent(menu_, &held);
-        EXPECT_TRUE(menu_->isVisible()) << "the key is held down from opening it";
-        key(choosing);
-        EXPECT_EQ(chosen_, "Übergang ");
-        QApplication::sendEvent(button_, &held);
-        EXPECT_FALSE(menu_->isVisible() || button_->isDown());
-        EXPECT_TRUE(button_->hasFocus());
-    }
-}
-
 TEST_F(PopUpButtonTest, EscapeAndAClickOutsideCloseItWithoutAChoice) {
     addItems({"Click"});
     button_->window()->resize(600, 300);

@@ -2,15 +2,12 @@
 #pragma once
 
 #include "platform/AppKit/NSButton.h"
-#include "platform/AppKit/NSColorWell.h"
 #include "platform/AppKit/NSNib.h"
-#include "platform/AppKit/NSSlider.h"
 #include "tests/support/ApplicationTest.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QPushButton>
-#include <QSlider>
 #include <QTest>
 
 #include <cstdlib>
@@ -77,17 +74,11 @@ public:
 /// Runs Qt offscreen and loads forms made by the test.
 class FormTest : public ApplicationTest<QApplication> {
 protected:
-    bool load(const std::string& xml, NSObject& owner) {
-        std::ofstream(path_) << xml;
-        return nib_.instantiate(path_, owner, errors_);
-    }
-
     /// Loads and shows a form with this control between two line edits, wired to `owner`.
     void show(const std::string& controlXml, NSObject& owner) {
-        ASSERT_TRUE(load(
-            formXml({widgetXml("QLineEdit", "first"), controlXml, widgetXml("QLineEdit", "last")}),
-            owner))
-            << testing::PrintToString(errors_);
+        std::ofstream(path_) << formXml(
+            {widgetXml("QLineEdit", "first"), controlXml, widgetXml("QLineEdit", "last")});
+        ASSERT_TRUE(nib_.instantiate(path_, owner, errors_)) << testing::PrintToString(errors_);
         nib_.topLevelWidget()->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(nib_.topLevelWidget()));
     }

@@ -2,10 +2,12 @@
 #include "src/record/settingwords.h"
 #include "tests/support/PaneFixture.h"
 
+#include <QColorDialog>
 #include <QGroupBox>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QSlider>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <map>
@@ -86,14 +88,22 @@ TEST_F(SettingsTest, ASettingHasOneName) {
         })) << group;
 }
 
-TEST_F(SettingsTest, EachNumberAndCheckBoxChangesItsSettingAloneAndReportsItsGroup) {
+TEST_F(SettingsTest, EachControlChangesItsSettingAloneAndReportsItsGroup) {
+    static const std::map<std::string, const char*> kOthers = {
+        {"activateAtLaunch", "activateAtLaunch"},
+        {"scanner.triggerOnRelease", "triggerOnReleaseRadios1"},
+        {"scanner.scanMode", "scanModeRadios1"},
+        {"palette.buttonContent", "buttonContentIconCheck"},
+    };
+
     openWithAgent();
     for (const Setting& setting : kSettings) {
-        if (!setting.outlet)
+        const auto other = kOthers.find(setting.key);
+        if (!setting.outlet && other == kOthers.end())
             continue;
-        SCOPED_TRACE(setting.outlet);
         const PrefsRecord before = prefs;
-        const std::string outlet = setting.outlet;
+        const std::string outlet = setting.outlet ? setting.outlet : other->second;
+        SCOPED_TRACE(outlet);
         click((outlet + (setting.isNumber() ? "IncBtn" : "")).c_str());
         const QJsonObject event = agentLog_.next();
         EXPECT_EQ(event["mask"].toInteger(), setting.changes);
@@ -106,36 +116,46 @@ TEST_F(SettingsTest, EachNumberAndCheckBoxChangesItsSettingAloneAndReportsItsGro
             EXPECT_THAT(text(outlet + "Label"), testing::EndsWith(settingText(setting, sent)));
         }
     }
+    EXPECT_EQ(prefs.triggerOnRelease, 1);
+    EXPECT_EQ(prefs.scanMode, 1);
+    EXPECT_EQ(prefs.buttonContent, kButtonContentName);
+    EXPECT_FALSE(isEnabled("triggerOnReleaseRadios1"));
 }
 
-TEST_F(SettingsTest, EveryOtherControlWritesItsFieldAndReportsItsGroup) {
-#define AT(field) offsetof(PrefsRecord, field)
-
-    const struct {
-        const char* control;
-        std::size_t offset;
-        UInt8 value; ///< the field's, whose other bytes are 0
-        ChangeMask mask;
-    } cases[] = {
-        {"activateAtLaunch", AT(activateAtLaunch), 0, kChangeLaunch},
-        {"triggerOnReleaseRadios1", AT(triggerOnRelease), 1, kChangeTriggers},
-        {"scanModeRadios2", AT(scanMode), 2, kChangeTriggers},
-        {"buttonContentNameCheck", AT(buttonContent), 1, kChangePalette},
-        {"buttonContentIconCheck", AT(buttonContent), 0, kChangePalette},
-        {"buttonContentNameCheck", AT(buttonContent), 2, kChangePalette},
-    };
-
-#undef AT
-
+TEST_F(SettingsTest, ASliderGoesToAClickAndLeavesTheWheelToThePage) {
+    prefs.soundLevel = 10;
     openWithAgent();
-    for (const auto& [control, offset, value, mask] : cases) {
-        SCOPED_TRACE(control);
-        click(control);
-        const QJsonObject event = agentLog_.next();
-        EXPECT_EQ(event["mask"].toInteger(), mask);
-        EXPECT_EQ(recordField<UInt8>(event, offset), value);
-        EXPECT_EQ(isEnabled("triggerOnReleaseRadios1"), prefs.scanMode == 0);
-    }
+    auto* slider = find<QSlider>("volumeSlider");
+    const QPoint place = slider->rect().center();
+    QTest::mouseClick(slider, Qt::LeftButton, {}, place);
+    EXPECT_NEAR(prefs.soundLevel, 50, 1);
+    EXPECT_EQ(agentLog_.nextMask(), kChangeSounds);
+    QWheelEvent wheel(place, {}, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(slider, &wheel);
+    EXPECT_FALSE(wheel.isAccepted());
+    EXPECT_THAT(remainingMasks(), testing::IsEmpty());
+}
+
+TEST_F(SettingsTest, AColourThatIsTriedGoesBackOnlyWhenItIsCancelled) {
+    constexpr ChangeMask kLook = kChangeScanLineLook | kChangeGuideLineLook;
+    openWithAgent();
+    const auto openChooser = [this] {
+        QTest::qWait(0);
+        click("lineColor");
+        return find("lineColor")->findChild<QColorDialog*>();
+    };
+    auto* chooser = openChooser();
+    chooser->setCurrentColor(QColor(0, 255, 0));
+    EXPECT_EQ(prefs.lineColor.green, 255);
+    EXPECT_EQ(openChooser(), chooser) << "there is one chooser";
+    QTest::keyClick(chooser, Qt::Key_Escape);
+    EXPECT_EQ(prefs.lineColor.green, 0);
+    chooser = openChooser();
+    chooser->setCurrentColor(QColor(9, 9, 9));
+    window()->hide();
+    EXPECT_FALSE(chooser->isVisible());
+    EXPECT_EQ(prefs.lineColor.red, 9) << "it isn't cancelled";
+    EXPECT_EQ(remainingMasks(), std::vector<ChangeMask>(3, kLook));
 }
 
 TEST_F(SettingsTest, ATypedValueIsTakenOrRefusedAndKept) {

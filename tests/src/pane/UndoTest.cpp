@@ -29,11 +29,12 @@ protected:
         actions->doAction(QAccessibleActionInterface::pressAction());
     }
 
-    void hold(const char* name) {
+    void hold(const char* name, bool byKey = false) {
         auto* button = find(name);
-        QTest::mousePress(button, Qt::LeftButton);
+        byKey ? QTest::keyPress(button, Qt::Key_Space) : QTest::mousePress(button, Qt::LeftButton);
         QTest::qWait(1400); // one, and after a second another
-        QTest::mouseRelease(button, Qt::LeftButton);
+        byKey ? QTest::keyRelease(button, Qt::Key_Space)
+              : QTest::mouseRelease(button, Qt::LeftButton);
     }
 
     void type(const char* name, const char* value) {
@@ -124,7 +125,7 @@ TEST_F(UndoTest, EachKindOfChangeIsOneStepThatIsSaidAndShown) {
          "paletteView"},
         {[&] { click("buttonContentNameCheck"); }, "Show the name: off back to on.",
          "buttonContentNameCheck"},
-        {[&] { hold("buttonHeightIncBtn"); },
+        {[&] { hold("buttonHeightIncBtn", true); },
          "Size of the buttons: 40 × 42 back to 40 × 40 points.", "buttonHeightDecBtn"},
         {[&] { click("launchAtLogin"); }, "Start Korvex when you log in: off back to on.",
          "launchAtLogin"},
