@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/CoreServices/detail/SessionBus.h"
 #include "tests/platform/CoreServices/TestPeer.h"
+#include "tests/support/OwnBus.h"
 
 #include <QElapsedTimer>
 
@@ -16,22 +17,11 @@ void expectNobody() {
         EXPECT_EQ(AESend(&event, nullptr, mode, kAEDefaultTimeout), connectionInvalid);
 }
 
-/// The test's own bus, which it ends.
 class BusFaultsTest : public ProcessTest {
 protected:
-    BusFaultsTest() {
-        bus_.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
-        EXPECT_TRUE(bus_.waitForReadyRead(20'000));
-        setenv("DBUS_SESSION_BUS_ADDRESS", bus_.readLine().trimmed().constData(), 1);
-        EXPECT_TRUE(takePart());
-    }
+    BusFaultsTest() { EXPECT_TRUE(takePart()); }
 
-    ~BusFaultsTest() override {
-        bus_.kill();
-        bus_.waitForFinished();
-    }
-
-    QProcess bus_;
+    OwnBus bus_;
 };
 
 TEST_F(BusFaultsTest, ABusThatHangsDelaysOnlyAWaitingSenderAndOneThatHasGoneNobody) {
@@ -39,7 +29,7 @@ TEST_F(BusFaultsTest, ABusThatHangsDelaysOnlyAWaitingSenderAndOneThatHasGoneNobo
     ASSERT_TRUE(waitUntil([&] { return peer.ask() == 8; }));
     ProcessSerialNumber psn = kNoProcess;
     EXPECT_EQ(GetNextProcess(&psn), noErr);
-    signalProcess(bus_.processId(), SIGSTOP);
+    bus_.signal(SIGSTOP);
     QElapsedTimer timer;
     timer.start();
     const AppleEvent event = makeEvent(peer.psn(), kTestClass, kAnswerCode);
@@ -49,10 +39,10 @@ TEST_F(BusFaultsTest, ABusThatHangsDelaysOnlyAWaitingSenderAndOneThatHasGoneNobo
     EXPECT_EQ(GetNextProcess(&psn), noErr);
     EXPECT_LT(timer.elapsed(), 5000);
     EXPECT_EQ(peer.ask(30), errAETimeout);
-    signalProcess(bus_.processId(), SIGCONT);
+    bus_.signal(SIGCONT);
     EXPECT_EQ(peer.ask(), 8);
 
-    bus_.kill();
+    bus_.end();
     ASSERT_TRUE(QTest::qWaitFor([] { return !sessionBus().isConnected(); }, 20'000));
     EXPECT_EQ(peer.ask(), connectionInvalid);
     expectNobody();

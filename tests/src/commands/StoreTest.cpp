@@ -4,33 +4,11 @@
 #include "src/store/prefs.h"
 #include "tests/platform/CoreFoundation/TestFiles.h"
 #include "tests/support/AgentTest.h"
-#include "tests/support/SignalProcess.h"
-
-#include <QProcess>
+#include "tests/support/OwnBus.h"
 
 #include <thread>
 
 namespace {
-
-/// A bus of the test's own, which it stops.
-class OwnBus {
-public:
-    OwnBus() {
-        process_.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
-        EXPECT_TRUE(process_.waitForReadyRead(20'000));
-        setenv("DBUS_SESSION_BUS_ADDRESS", process_.readLine().trimmed().constData(), 1);
-    }
-
-    ~OwnBus() {
-        process_.kill();
-        process_.waitForFinished();
-    }
-
-    void signal(int number) const { signalProcess(process_.processId(), number); }
-
-private:
-    QProcess process_;
-};
 
 class StoreTest : public AgentTest<QCoreApplication> {
 protected:
