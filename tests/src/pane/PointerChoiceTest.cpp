@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "src/pane/pointers/ptrman.h"
+#include "src/record/settingwords.h"
 #include "tests/support/PaneFixture.h"
 
 namespace {
@@ -31,11 +32,12 @@ TEST_F(PointerChoiceTest, ThePreviewAndTheNameTellWhatIsSet) {
     EXPECT_EQ(find<QLabel>("pointerName")->text(), "None");
     click("nextPointerBtn");
     EXPECT_NE(find<QLabel>("pointerName")->text(), "None");
-    for (const auto& [slot, line] : {std::pair(&PrefsRecord::lineGhostTransparency, "guide"),
-                                     {&PrefsRecord::pointerScanTime, "guide"}, // of neither
-                                     {&PrefsRecord::lineTransparency, "scan"}}) {
+    for (const auto& [key, line] : {std::pair("scanner.lineGhostTransparency", "guide"),
+                                    {"scanner.pointerScanTime", "guide"}, // of neither
+                                    {"scanner.lineTransparency", "scan"}}) {
         PrefsRecord record = prefs;
-        record.*slot = record.*slot - 1;
+        const Setting& setting = *settingOfKey(key);
+        setSettingNumber(setting, settingNumber(setting, record) - 1, record);
         theWrangler->adopt(differences(prefs, record), record);
         EXPECT_EQ(button->text(QAccessible::Name),
                   QStringLiteral("Preview of the %1 line").arg(line));
