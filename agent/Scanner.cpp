@@ -122,11 +122,11 @@ void Scanner::lookAtLock() {
     if (desktop_.lockWindowIsUp())
         return;
     lockLook_.stop();
-    screenLocked(false);
+    updateSwitches();
 }
 
 Switches::State Scanner::stateOfSwitches() const {
-    if (isLocked_ || link_.paneHoldsKeys())
+    if (isLocked_ || lockLook_.isActive() || link_.paneHoldsKeys())
         return Switches::State::Free;
     if (!isActive())
         return Switches::State::Off;
@@ -241,8 +241,9 @@ std::vector<Region> Scanner::regions() const {
 
 void Scanner::start(double moment) {
     if (desktop_.lockWindowIsUp()) {
-        screenLocked(true);
         lockLook_.start();
+        endEverything();
+        updateSwitches();
         return;
     }
     scan_.start(regions(), moment);
