@@ -11,7 +11,7 @@
 #include <cstring>
 #include <string>
 
-/// Reads the stand-in agent's log, event by event. The test's event loop runs while it waits.
+/// Reads the agent's log, event by event. The test's event loop runs while it waits.
 class AgentLog {
 public:
     /// Every agent started from now on logs here.

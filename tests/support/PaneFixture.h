@@ -23,7 +23,7 @@
 #include <memory>
 #include <vector>
 
-/// Opens the built pane from its real bundle in this process, with the stand-in agent. A test opens
+/// Opens the built pane from its real bundle in this process, with its agent. A test opens
 /// it when it wants. A test that calls openWithAgent fails when the agent has received anything
 /// that it didn't expect.
 class PaneTest : public AgentTest<QApplication> {
