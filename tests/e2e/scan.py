@@ -135,9 +135,11 @@ def windows() -> list[str]:
     return ask("xdotool", "search", "--onlyvisible", "--class", "^korvex-agent$").split()
 
 
-def is_near(box: Box, left: int, top: int) -> bool:
-    """But for a window's frame."""
-    return 0 <= box.left - left < 40 and 0 <= box.top - top < 40
+def is_at_home(menu: Box, button: Box) -> bool:
+    """Whether the editor has been moved and made as large as it was told to be, but for its frame."""
+    left, top, width, _ = EDITOR
+    return (0 <= menu.left - left < 40 and 0 <= menu.top - top < 40
+            and abs((button.left + button.right) / 2 - left - width / 2) < 8)
 
 
 def sleep_until(moment: float) -> None:
@@ -334,7 +336,7 @@ if __name__ == "__main__":
     with touring(*given("BUILD_DIR OUT_DIR"), SIZE) as a_tour:
         open_all(a_tour)
         scanner = Scanner(a_tour)
-        until(lambda: is_near(scanner.box("File"), *EDITOR[:2]), "the editor is at its place")
+        until(lambda: is_at_home(scanner.box("File"), scanner.box("Count")), "the editor is at its place")
         for number, step in enumerate(STEPS, 1):
             print(f"{number:2} {step.__doc__}: ", end="", flush=True)
             print(f"{step(scanner)}.", flush=True)
