@@ -2,6 +2,7 @@
 #include "platform/HIToolbox/HotKeyMode.h"
 
 #include "platform/HIToolbox/detail/HeldKeys.h"
+#include "platform/HIToolbox/detail/KeyRepeats.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -23,6 +24,7 @@ public:
         connect(&longestGrab_, &QTimer::timeout, this, &HotKeyMode::release);
         grab();
         qApp->installEventFilter(this);
+        correctKeyRepeats(); // before this filter sees them
         connect(qApp, &QGuiApplication::focusWindowChanged, this, &HotKeyMode::follow);
     }
 
@@ -50,19 +52,18 @@ public:
 private:
     /// Whether the event stops here.
     bool pressed(QKeyEvent& event) {
-        const bool isOld =
-            hasEnded_ ? held_.contains(event.nativeScanCode()) : held_.isRepeat(event);
+        const bool isOver = hasEnded_ && !held_.contains(event.nativeScanCode());
+        const bool isNoted = event.type() == QEvent::KeyPress && !isOver;
+        const bool isOld = isNoted ? held_.isRepeat(event) : held_.wouldRepeat(event);
         if (isOld)
             event.accept(); // so that it is no shortcut, either
         return isOld;
     }
 
     bool released(const QKeyEvent& event) {
-        const bool isOld = hasEnded_ && held_.contains(event.nativeScanCode());
-        const bool isUp = held_.isUp(event);
-        if (isUp)
-            leaveWhenUp();
-        return isOld || !isUp; // half of a repetition is no release
+        const bool isOld = held_.ends(event) && hasEnded_;
+        leaveWhenUp();
+        return isOld || event.isAutoRepeat(); // half of a repetition is no release
     }
 
     void follow(const QWindow* focus) {

@@ -77,7 +77,10 @@ def unwritable_folder(tour: Tour) -> None:
 def unwritable_folder_at_the_first_steps(tour: Tour) -> None:
     tour.stored.write_bytes(plistlib.dumps({DATE: NEVER, "firstStepsSeen": False}))
     open_window(tour)
+    time = tour.screen.find("Line crosses the screen in", "slider")
+    before = time.value
     tour.screen.click("Line crosses the screen in, longer", "push button")
+    until(lambda: time.value > before, "the click changes the setting")
     tour.stored.parent.chmod(0o500)
     tour.ask_to_close()
     expect_alert(tour, "couldn’t be saved: no permission")

@@ -7,9 +7,11 @@ OUT_DIR also gets the history.
 """
 
 import csv
+import os
 import plistlib
 import re
 import shutil
+import signal
 import sys
 import time
 from pathlib import Path
@@ -242,6 +244,28 @@ def watch_what_moves(tour: Tour) -> str:
     return f"{moves} frames"
 
 
+def press_while_it_stands_still(tour: Tour) -> str:
+    """A program that falls behind finds the switch down again when it looks at the first release.
+    Both presses count, at their moments."""
+    this = Try(tour)
+    this.get_ready()
+    os.kill(tour.program.pid, signal.SIGSTOP)
+    moments = [this.switch.press()]
+    time.sleep(0.2)
+    held = Thread(target=lambda: moments.append(this.switch.press(0.5)))
+    held.start()
+    time.sleep(0.1)
+    os.kill(tour.program.pid, signal.SIGCONT)
+    result = until(lambda: re.search(r"(\d+) mm before the mark. The mark is ([\d.]+) mm", this.saying()),
+                   "the second press stops the line")
+    held.join()
+    place = float(result.group(2)) - float(result.group(1))
+    truth = moments[1].since(moments[0])
+    off = (truth - place / MILLIMETRES_A_PIXEL / SPEED).sure
+    check(off < 0.05, f"the second press is timed {off * 1000:.0f} ms off")
+    return result.group()
+
+
 def press_quickly(tour: Tour) -> str:
     """The quickest changes that presses can bring about: start and stop, again after pauses of any
     length, presses without end, and held ones."""
@@ -320,6 +344,7 @@ if __name__ == "__main__":
         print(f"Taken: {take_the_advice(a_tour)}.", flush=True)
         print(f"At rest: {wait_quietly(a_tour)}.", flush=True)
         print(f"Moving: {watch_what_moves(a_tour)}.", flush=True)
+        print(f"Behind: {press_while_it_stands_still(a_tour)}", flush=True)
         print(f"Flashing: {press_quickly(a_tour)}.", flush=True)
         a_tour.screen.click("Leave", "push button")
         print(f"Left: {leave_by_switch(a_tour)}.", flush=True)

@@ -5,7 +5,6 @@
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSView.h"
 #include "platform/AppKit/detail/ViewAccessibility.h"
-#include "platform/HIToolbox/detail/KeyMoments.h"
 #include "platform/HIToolbox/detail/KeyRepeats.h"
 #include "platform/HIToolbox/detail/ModifierKeys.h"
 #include "platform/QuickDraw/detail/GrafPort.h"
@@ -67,14 +66,13 @@ NSEvent keyEventOf(const QKeyEvent& event) {
                        .code = virtualKeyCode(event.nativeScanCode()),
                        .modifierFlags = modifierFlagsOf(event),
                        .isARepeat = event.isAutoRepeat()};
-    return NSEvent::key(key, momentOf(event));
+    return NSEvent::key(key, momentOf(event.timestamp()));
 }
 
 } // namespace
 
 ViewWidget::ViewWidget(QWidget* parent) : QWidget(parent) {
     installViewAccessibility();
-    noteKeyMoments();
     correctKeyRepeats();
     setFocusPolicy(Qt::StrongFocus); // or else the form's tab order would leave it out
 }

@@ -7,40 +7,44 @@
 
 #include <QKeyEvent>
 
-#include <limits>
-
 namespace {
 
-/// The time of a press from before the counting began.
-constexpr quint64 kBefore = std::numeric_limits<quint64>::max();
+constexpr quint64 kBefore = 0; ///< the time of a press from before the counting began
 
 } // namespace
 
 void HeldKeys::reset() {
-    since_.clear();
+    keys_.clear();
     resetAt_ = GetCurrentEventTime();
     const auto down = keysDown();
     for (quint32 key = 0; key < kKeyCount; ++key)
         if (down[key])
-            since_[key] = kBefore;
+            keys_[key] = {kBefore};
 }
 
 bool HeldKeys::isRepeat(const QKeyEvent& press) {
-    // Assistive technology may look at a press first. Then copies of it come without a time, some
-    // without a key.
-    if (press.timestamp() == 0)
-        return press.isAutoRepeat();
-    const auto [key, isNew] = since_.try_emplace(press.nativeScanCode(), press.timestamp());
-    const bool wasUnderWay = key->second == kBefore && momentOf(press.timestamp()) <= resetAt_;
-    if (wasUnderWay)
-        key->second = press.timestamp();
-    return press.isAutoRepeat() || (!isNew && key->second != press.timestamp());
+    if (wouldRepeat(press))
+        return true;
+    Key& key = keys_[press.nativeScanCode()];
+    if (press.timestamp() >= key.pressed)
+        key = {press.timestamp()};
+    return false;
 }
 
-bool HeldKeys::isUp(const QKeyEvent& release) {
-    const quint32 key = release.nativeScanCode();
-    if (release.isAutoRepeat() || isKeyDown(key))
-        return false;
-    since_.erase(key);
-    return true;
+bool HeldKeys::wouldRepeat(const QKeyEvent& press) const {
+    const auto key = keys_.find(press.nativeScanCode());
+    if (press.isAutoRepeat() || key == keys_.end() || !key->second.isDown)
+        return press.isAutoRepeat();
+    const quint64 pressed = key->second.pressed;
+    const bool wasUnderWay = pressed == kBefore && momentOf(press.timestamp()) <= resetAt_;
+    return press.timestamp() > pressed && !wasUnderWay;
+}
+
+bool HeldKeys::ends(const QKeyEvent& release) {
+    const auto key = keys_.find(release.nativeScanCode());
+    const bool isEnd = key != keys_.end() && key->second.isDown && !release.isAutoRepeat() &&
+                       release.timestamp() >= key->second.pressed;
+    if (isEnd)
+        key->second.isDown = false;
+    return isEnd;
 }

@@ -3,13 +3,14 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <map>
 
 class QKeyEvent;
 
-/// Which keys are down, by scan code. For a repeating key X11 reports a release and a new press,
-/// and Qt may take the first for a real release. So the X server is asked which keys are down.
-/// Other platforms are trusted.
+/// Which keys are down, by scan code. It relies on KeyRepeats, which tells a repetition from a new
+/// press. It may see a key more than once: at the window, at the view, and as a copy that comes
+/// later, even after the key's next press.
 class HeldKeys {
 public:
     /// Starts again with the keys that are down now. A press that isn't handled yet isn't one of
@@ -20,14 +21,28 @@ public:
     /// the same answer.
     bool isRepeat(const QKeyEvent& press);
 
-    /// Notes a release. True when the key is really up.
-    bool isUp(const QKeyEvent& release);
+    /// The same without noting it. Qt offers each press as a shortcut first, sometimes without its
+    /// key.
+    bool wouldRepeat(const QKeyEvent& press) const;
 
-    bool contains(quint32 scanCode) const { return since_.contains(scanCode); }
+    /// Notes a release. True when it lets go of a key that is down.
+    bool ends(const QKeyEvent& release);
 
-    bool isEmpty() const { return since_.empty(); }
+    bool contains(quint32 scanCode) const {
+        const auto key = keys_.find(scanCode);
+        return key != keys_.end() && key->second.isDown;
+    }
+
+    bool isEmpty() const {
+        return std::ranges::none_of(keys_, [](const auto& key) { return key.second.isDown; });
+    }
 
 private:
-    std::map<quint32, quint64> since_; ///< the time stamp of each key's press
-    double resetAt_ = 0;               ///< on GetCurrentEventTime's clock
+    struct Key {
+        quint64 pressed = 0; ///< the newest press's time stamp
+        bool isDown = true;
+    };
+
+    std::map<quint32, Key> keys_;
+    double resetAt_ = 0; ///< on GetCurrentEventTime's clock
 };

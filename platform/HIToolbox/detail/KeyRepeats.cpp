@@ -20,21 +20,23 @@ constexpr int kPatienceMs = 50; ///< for the press that makes a release a half o
 class KeyRepeats final : public QObject {
 public:
     KeyRepeats() : QObject(qApp) {
-        noteKeyMoments();
         patience_.setSingleShot(true);
         patience_.setInterval(kPatienceMs);
         connect(&patience_, &QTimer::timeout, this, &KeyRepeats::deliverRelease);
-        qApp->installEventFilter(this);
     }
 
     bool eventFilter(QObject* target, QEvent* event) override {
+        if (event->type() != QEvent::KeyRelease && event->type() != QEvent::KeyPress)
+            return false;
+        auto& key = static_cast<QKeyEvent&>(*event);
+        if (key.timestamp() == 0)
+            moments_.restore(key);
+        if (!target->isWindowType())
+            moments_.forget(key);
         if (event == delivered_ || !target->isWindowType())
             return false;
-        if (event->type() == QEvent::KeyRelease)
-            return isKeptBack(*target, static_cast<QKeyEvent&>(*event));
-        if (event->type() == QEvent::KeyPress)
-            return isRepetition(*target, static_cast<QKeyEvent&>(*event));
-        return false;
+        return event->type() == QEvent::KeyRelease ? isKeptBack(*target, key)
+                                                   : isRepetition(*target, key);
     }
 
 private:
@@ -52,7 +54,7 @@ private:
     bool isRepetition(QObject& window, const QKeyEvent& press) {
         const bool isOther = !release_ || window_ != &window ||
                              release_->nativeScanCode() != press.nativeScanCode() ||
-                             momentOf(*release_) != momentOf(press);
+                             release_->timestamp() != press.timestamp();
         if (isOther) {
             deliverRelease();
             return false;
@@ -72,9 +74,11 @@ private:
             deliver(*window_, *release);
     }
 
+    // Sending it would mark it as made by this program. Then it would pass by assistive technology
+    // and overtake its own press.
     void deliver(QObject& window, QKeyEvent& event) {
         delivered_ = &event;
-        QCoreApplication::sendEvent(&window, &event);
+        qApp->notify(&window, &event);
         delivered_ = nullptr;
     }
 
@@ -82,6 +86,7 @@ private:
     std::unique_ptr<QKeyEvent> release_; ///< kept back
     QTimer patience_;
     const QEvent* delivered_ = nullptr; ///< by this object
+    KeyMoments moments_;
 };
 
 } // namespace
@@ -90,4 +95,5 @@ void correctKeyRepeats() {
     static QPointer<KeyRepeats> only;
     if (!only)
         only = new KeyRepeats;
+    qApp->installEventFilter(only); // once more: in front of all that came since
 }
