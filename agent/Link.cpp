@@ -47,10 +47,10 @@ bool takesPart(const ProcessSerialNumber& psn) {
 
 Link::Link(const EventLog& log) : log_(log) {}
 
-void Link::readSettings() {
+void Link::readSettings(bool isBack) {
     prefsSetup();
     settings_ = checkedRecord(prefs);
-    if (settings_.on != settings_.activateAtLaunch)
+    if (!isBack && settings_.on != settings_.activateAtLaunch)
         switchTo(settings_.activateAtLaunch != 0);
 }
 

@@ -35,9 +35,10 @@ public:
     void setListener(Listener* listener) { listener_ = listener; }
 
     /// Reads the stored settings. Scanning is on or off as "activate at launch" says; a difference
-    /// to what is stored is stored and reported. Call it once this process takes part: what a pane
+    /// to what is stored is stored and reported. An agent that is back after a crash goes on as it
+    /// was. Call it once this process takes part: what a pane
     /// stores before that is read, what it changes later is sent.
-    void readSettings();
+    void readSettings(bool isBack);
 
     /// In force now, each value within its limits (checkedRecord).
     const PrefsRecord& settings() const { return settings_; }

@@ -126,7 +126,8 @@ int main(int argc, char** argv) {
     const Session where = session();
     const std::string self =
         QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget().toStdString();
-    const auto guard = where == Session::X11 ? Guard::start(self.c_str()) : nullptr;
+    const int restarts = argc > 1 ? std::atoi(argv[1]) : 0; // given by the guard
+    const auto guard = where == Session::X11 ? Guard::start({self.c_str(), restarts}) : nullptr;
     const auto application = makeApplication(where, argc, argv);
 
     alarm(kStartSeconds);
@@ -150,7 +151,7 @@ int main(int argc, char** argv) {
     link.installHandlers();
     if (!registerCurrentProcess(fourCharCode("APPL"), kAgentSignature))
         return 1;
-    link.readSettings();
+    link.readSettings(restarts > 0);
     Scanning scanning;
     scanning.begin(where, link, guard.get());
     signals.deliverTo([&](int signal) {

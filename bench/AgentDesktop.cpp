@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/AgentDesktop.h"
 
+#include "agent/x11/Guard.h"
 #include "agent/x11/XServer.h"
 #include "src/store/prefs.h"
 
@@ -73,7 +74,7 @@ bool AgentDesktop::startAgent(const PrefsRecord& record) {
     prefs = record;
     if (!savePrefs())
         return false;
-    start(agent_, kAgent);
+    start(agent_, kAgent, {QString::number(Guard::kMostRestarts)}); // killed, it stays away
     const double began = XServer::now();
     while (!hasKey())
         if (agent_.state() != QProcess::Running || XServer::now() - began > kLongestStart / 1000.0)

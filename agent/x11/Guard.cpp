@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <set>
+#include <string>
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -18,7 +19,16 @@
 
 namespace {
 
-enum What : std::uint8_t { HoldKey, HoldButton, LetGoKey, LetGoButton, Watch, Heartbeat, Rest };
+enum What : std::uint8_t {
+    HoldKey,
+    HoldButton,
+    LetGoKey,
+    LetGoButton,
+    Watch,
+    Heartbeat,
+    Rest,
+    Farewell
+};
 
 struct Message {
     std::uint8_t what;
@@ -38,9 +48,9 @@ constexpr int kKept = 3; ///< standard input, output and error
 /// The other process.
 class Watcher {
 public:
-    Watcher(int socket, pid_t watched, const char* program)
+    Watcher(int socket, pid_t watched, const GuardedProgram& program)
         : socket_(socket), watched_(watched), program_(program),
-          server_(xcb_connect(nullptr, nullptr)) {}
+          server_(xcb_connect(nullptr, nullptr)), began_(monotonicNow()) {}
 
     void run() {
         const auto* test = xcb_get_extension_data(server_, &xcb_test_id);
@@ -49,7 +59,7 @@ public:
         while (hear())
             ;
         letGo();
-        if (hasHung_ && program_)
+        if (!wasMeant_ && program_.path && serverAnswers())
             startAgain();
     }
 
@@ -62,7 +72,6 @@ private:
         if (ready == 0) {
             kill(watched_, SIGKILL);
             isWatching_ = false;
-            hasHung_ = true;
             return true;
         }
         Message message{};
@@ -91,6 +100,9 @@ private:
         case Rest:
             isWatching_ = false;
             break;
+        case Farewell:
+            wasMeant_ = true;
+            break;
         default:
             break; // a heartbeat ends the silence
         }
@@ -105,27 +117,38 @@ private:
             for (const auto& [isKey, code] : held_)
                 xcb_test_fake_input(server_, isKey ? XCB_KEY_RELEASE : XCB_BUTTON_RELEASE, code,
                                     XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
-            // Waits until the server has done it.
-            std::free(xcb_get_input_focus_reply(server_, xcb_get_input_focus(server_), nullptr));
+            serverAnswers();
         }
     }
 
-    /// In this process's place, as it was started at first.
+    /// Once it has done what it was asked for. Not when the session has ended.
+    bool serverAnswers() const {
+        auto* answer = xcb_get_input_focus_reply(server_, xcb_get_input_focus(server_), nullptr);
+        std::free(answer);
+        return answer != nullptr;
+    }
+
+    /// In this process's place.
     void startAgain() {
+        const bool livedLong = monotonicNow() - began_ >= Guard::kLongLife;
+        const int restarts = livedLong ? 1 : program_.restarts + 1;
+        if (restarts > Guard::kMostRestarts)
+            return;
         xcb_disconnect(server_);
         for (const int signal : kIgnored)
             std::signal(signal, SIG_DFL);
         close_range(kKept, ~0U, 0);
-        execl(program_, program_, nullptr);
+        execl(program_.path, program_.path, std::to_string(restarts).c_str(), nullptr);
     }
 
     int socket_;
     pid_t watched_;
-    const char* program_;
+    const GuardedProgram program_;
     xcb_connection_t* server_;
+    const double began_; ///< seconds on the monotonic clock
     std::set<std::pair<bool, std::uint8_t>> held_;
     bool isWatching_ = false;
-    bool hasHung_ = false;
+    bool wasMeant_ = false; ///< the end
 };
 
 /// Keeps nothing of the parent's but the socket, whose number is returned.
@@ -143,7 +166,7 @@ int leaveAllBehind(int socket) {
 }
 
 /// The process between ends at once: what it started is no child of the watched one.
-[[noreturn]] void startWatcher(int socket, pid_t watched, const char* program) {
+[[noreturn]] void startWatcher(int socket, pid_t watched, const GuardedProgram& program) {
     if (fork() == 0)
         Watcher(leaveAllBehind(socket), watched, program).run();
     _exit(0);
@@ -151,7 +174,7 @@ int leaveAllBehind(int socket) {
 
 } // namespace
 
-std::unique_ptr<Guard> Guard::start(const char* program) {
+std::unique_ptr<Guard> Guard::start(const GuardedProgram& program) {
     int sockets[2];
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, sockets) != 0)
         return nullptr;
@@ -173,6 +196,7 @@ std::unique_ptr<Guard> Guard::start(const char* program) {
 }
 
 Guard::~Guard() {
+    tell(Farewell);
     close(socket_);
 }
 

@@ -4,18 +4,25 @@
 #include <cstdint>
 #include <memory>
 
+/// What is started when a process ended without ~Guard, up to kMostRestarts times in a row, unless
+/// the session has ended, too. Its argument is the number of restarts; after kLongLife they are
+/// counted anew.
+struct GuardedProgram {
+    const char* path = nullptr; ///< none: nothing is started
+    int restarts = 0;           ///< so far
+};
+
 /// A second process that waits for this one's end and then lets go of the keys and buttons that it
 /// still holds. It has a connection to the server before anything is held. It also ends this one if
-/// it hangs while it must not. It is nobody's child, in a session of its own, and keeps no file of
-/// this process open.
+/// it hangs while it must not, and starts it anew if it crashed or hung: nobody else may be there
+/// who could. It is nobody's child, in a session of its own, and keeps no file of this process
+/// open.
 class Guard {
 public:
     /// Starts it. Call it before threads are started and before Qt connects to anything. Null when
     /// no process can be started, or it doesn't reach the display server within kLongestStart.
-    /// `program` (may be null) is started in place of this process if that hung, as it was started
-    /// itself: nobody else may be there who could. Its path must live as long as the guard.
-    static std::unique_ptr<Guard> start(const char* program = nullptr);
-    /// The other process ends. What is still held it lets go.
+    static std::unique_ptr<Guard> start(const GuardedProgram& program = {});
+    /// The other process ends, and starts nothing. What is still held it lets go.
     ~Guard();
     Guard(const Guard&) = delete;
     Guard& operator=(const Guard&) = delete;
@@ -33,6 +40,8 @@ public:
 
     static constexpr double kLongestSilence = 3; ///< seconds, as is the next
     static constexpr double kLongestStart = 10;
+    static constexpr double kLongLife = 60;
+    static constexpr int kMostRestarts = 3;
 
 private:
     explicit Guard(int socket) : socket_(socket) {}

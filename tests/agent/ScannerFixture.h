@@ -65,8 +65,8 @@ protected:
     static void signalAgent(int signal) { signalProcess(agentPID(), signal); }
 
     static void waitForEnd(pid_t agent) {
-        EXPECT_TRUE(
-            QTest::qWaitFor([agent] { return !agentPID() && kill(agent, 0) != 0; }, 10'000));
+        EXPECT_TRUE(QTest::qWaitFor([agent] { return agentPID() != agent && kill(agent, 0) != 0; },
+                                    10'000));
     }
 
     static void tell(AEEventID id, std::map<AEKeyword, AEDesc> parameters) {
