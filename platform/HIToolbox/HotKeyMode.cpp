@@ -52,9 +52,13 @@ public:
 private:
     /// Whether the event stops here.
     bool pressed(QKeyEvent& event) {
-        const bool isOver = hasEnded_ && !held_.contains(event.nativeScanCode());
-        const bool isNoted = event.type() == QEvent::KeyPress && !isOver;
-        const bool isOld = isNoted ? held_.isRepeat(event) : held_.wouldRepeat(event);
+        // What is offered as a shortcut may be taken as one already. Some are offered without their
+        // key.
+        const quint32 key = event.nativeScanCode();
+        const bool isNoted = event.type() == QEvent::KeyPress || key != 0;
+        const bool isOld = hasEnded_ ? held_.contains(key)
+                           : isNoted ? held_.isRepeat(event)
+                                     : held_.wouldRepeat(event);
         if (isOld)
             event.accept(); // so that it is no shortcut, either
         return isOld;

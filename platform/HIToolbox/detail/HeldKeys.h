@@ -21,8 +21,7 @@ public:
     /// the same answer.
     bool isRepeat(const QKeyEvent& press);
 
-    /// The same without noting it. Qt offers each press as a shortcut first, sometimes without its
-    /// key.
+    /// The same without noting it.
     bool wouldRepeat(const QKeyEvent& press) const;
 
     /// Notes a release. True when it lets go of a key that is down.
