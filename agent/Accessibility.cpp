@@ -56,15 +56,17 @@ bool States::has(State state) const {
            (bits[number / 32] >> number % 32 & 1) != 0;
 }
 
-Bus::Bus(int patienceMs)
-    : name_(QStringLiteral("accessibility-%1").arg(++count)), bus_(name_), deadline_(patienceMs) {
-    const auto session = QDBusConnection::sessionBus();
+void wakePrograms() {
     auto enable = toTheSession("org.freedesktop.DBus.Properties", "Set");
     enable << QStringLiteral("org.a11y.Status") << QStringLiteral("IsEnabled")
            << QVariant::fromValue(QDBusVariant(true));
-    session.call(enable, QDBus::Block, kCallMs);
-    const QDBusReply<QString> address =
-        session.call(toTheSession("org.a11y.Bus", "GetAddress"), QDBus::Block, kCallMs);
+    QDBusConnection::sessionBus().call(enable, QDBus::Block, kCallMs);
+}
+
+Bus::Bus(int patienceMs)
+    : name_(QStringLiteral("accessibility-%1").arg(++count)), bus_(name_), deadline_(patienceMs) {
+    const QDBusReply<QString> address = QDBusConnection::sessionBus().call(
+        toTheSession("org.a11y.Bus", "GetAddress"), QDBus::Block, kCallMs);
     bus_ = QDBusConnection::connectToBus(address.value(), name_);
 }
 

@@ -73,13 +73,16 @@ private:
     Answer (*read_)(const QVariant&);
 };
 
+constexpr int kCallMs = 300; ///< for one answer
+
+/// Tells the session that there are assistive technologies: some programs answer only then. Waits
+/// for the session, kCallMs at most.
+void wakePrograms();
+
 /// A connection for one thread and for a bounded time. Questions after it get empty answers at
 /// once, as do those that a program doesn't answer within kCallMs.
 class Bus {
 public:
-    static constexpr int kCallMs = 300;
-
-    /// Programs that answer only when there are assistive technologies are told that there are.
     explicit Bus(int patienceMs);
     ~Bus();
     Bus(const Bus&) = delete;

@@ -59,6 +59,7 @@ std::vector<BarMenu> menusIn(const Bus& bus, const std::vector<Object>& windows)
 }
 
 std::vector<BarMenu> menuBarOf(quint32 process) {
+    wakePrograms();
     const Bus bus(kPatienceMs);
     for (int tries = 0; tries < kTries; ++tries) {
         if (tries > 0)

@@ -42,7 +42,7 @@ bool endsScan(const PrefsRecord& before, const PrefsRecord& after) {
 Scanner::Scanner(Link& link, XServer& server, Guard& guard)
     : link_(link), server_(server), guard_(guard), desktop_(server), switches_(server, *this),
       hand_(server, guard), deeds_(server, hand_, *this), overlay_(server),
-      palette_(server, actions_), settings_(link.settings()) {
+      palette_(server, actions_), snapping_(server), settings_(link.settings()) {
     deadline_.setSingleShot(true);
     deadline_.setTimerType(Qt::PreciseTimer);
     frames_.setTimerType(Qt::PreciseTimer);
@@ -262,9 +262,15 @@ void Scanner::choose(Place place) {
         if (actions_.isOn(*action) != wasOn)
             sounds_.arm();
     } else {
-        actions_.choosePoint(place, now);
+        const auto target = targetAt(place);
+        actions_.choosePoint(target ? target->middle() : place, now);
     }
     carryOut();
+}
+
+/// Of a click. What is dragged, moved or scrolled has its own place.
+std::optional<Area> Scanner::targetAt(Place place) const {
+    return actions_.clicks() ? snapping_.targetAt(place) : std::nullopt;
 }
 
 void Scanner::carryOut() {
@@ -355,6 +361,7 @@ void Scanner::follow() {
     if (scan_.isIdle() && frames_.isActive()) {
         frames_.stop();
         overlay_.hide();
+        snapping_.forget();
         if (!hasOutcome_)
             deeds_.scanRanOut(settings_);
         updateSwitches();
@@ -391,11 +398,15 @@ void Scanner::frame() {
     follow();
     if (scan_.isIdle())
         return;
-    const Picture picture = scan_.pictureAt(XServer::now() + kHalfAFrame);
-    const xcb_window_t lowest = overlay_.show(picture);
+    Picture picture = scan_.pictureAt(XServer::now() + kHalfAFrame);
     std::optional<Place> pointer;
     if (picture.pointer && picture.guide)
         pointer = {*picture.pointer, *picture.guide};
+    if (pointer && !palette_.actionAt(picture.region, *pointer))
+        picture.target = targetAt(*pointer);
+    const xcb_window_t lowest = overlay_.show(picture);
+    if (picture.guide)
+        snapping_.followLine(picture.region, *picture.guide);
     palette_.show(picture.region, pointer, fault_, lowest);
 }
 

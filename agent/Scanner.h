@@ -4,6 +4,7 @@
 #include "agent/Deeds.h"
 #include "agent/Link.h"
 #include "agent/Palette.h"
+#include "agent/Snapping.h"
 #include "agent/Sounds.h"
 #include "agent/scan/Presses.h"
 #include "agent/scan/Scan.h"
@@ -58,6 +59,7 @@ private:
     std::vector<Region> regions() const;
     void start(double moment);
     void choose(Place place);
+    std::optional<Area> targetAt(Place place) const;
     void carryOut();
     void sound(const Deed& deed);
     void cancel();
@@ -80,6 +82,7 @@ private:
     Actions actions_;
     Palette palette_;
     Sounds sounds_;
+    Snapping snapping_;
     PrefsRecord settings_; ///< as used last
     Presses presses_;
     Scan scan_;

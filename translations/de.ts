@@ -2546,6 +2546,14 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <source>Nothing moves until you press. Hold your switch for a second, or press the second one, to choose.</source>
         <translation>Nichts bewegt sich, bis Sie drücken. Zum Wählen halten Sie den Schalter eine Sekunde lang, oder drücken Sie den zweiten.</translation>
     </message>
+    <message>
+        <source>Click the nearest button</source>
+        <translation>Auf die nächste Schaltfläche klicken</translation>
+    </message>
+    <message>
+        <source>A click that comes near to one button hits its middle. A ring shows which.</source>
+        <translation>Ein Klick, der einer Schaltfläche nahe kommt, trifft ihre Mitte. Ein Ring zeigt, welcher.</translation>
+    </message>
 </context>
 <context>
     <name>Pointer</name>
@@ -3155,6 +3163,10 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
     <message>
         <source>Show the name</source>
         <translation>Namen zeigen</translation>
+    </message>
+    <message>
+        <source>Click the nearest button</source>
+        <translation>Auf die nächste Schaltfläche klicken</translation>
     </message>
 </context>
 <context>

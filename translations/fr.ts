@@ -2546,6 +2546,14 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <source>Nothing moves until you press. Hold your switch for a second, or press the second one, to choose.</source>
         <translation>Rien ne bouge sans appui. Pour choisir, tenez votre contacteur une seconde, ou appuyez sur le second.</translation>
     </message>
+    <message>
+        <source>Click the nearest button</source>
+        <translation>Cliquer sur le bouton le plus proche</translation>
+    </message>
+    <message>
+        <source>A click that comes near to one button hits its middle. A ring shows which.</source>
+        <translation>Un clic près d’un seul bouton touche son milieu. Un anneau montre lequel.</translation>
+    </message>
 </context>
 <context>
     <name>Pointer</name>
@@ -3155,6 +3163,10 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
     <message>
         <source>Show the name</source>
         <translation>Montrer le nom</translation>
+    </message>
+    <message>
+        <source>Click the nearest button</source>
+        <translation>Cliquer sur le bouton le plus proche</translation>
     </message>
 </context>
 <context>

@@ -106,6 +106,9 @@ public:
     /// Whether something goes on until a press.
     bool repeats() const { return repetition_.has_value(); }
 
+    /// Whether the next point is clicked.
+    bool clicks() const { return !held_ && armed_ <= ActionKind::RightClick; }
+
     /// Whether a button of the mouse is down.
     bool holds() const { return held_.has_value(); }
 

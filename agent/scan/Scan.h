@@ -28,6 +28,8 @@ struct Picture {
     std::optional<double> pointer; ///< the pointer's hot spot on the guide, x
     std::optional<Area> band;      ///< in step scanning: what the next presses divide
     Region region;                 ///< the lines end at its edges
+    /// What a press now would hit. None: the pointer's place.
+    std::optional<Area> target = {};
 
     bool operator==(const Picture&) const = default;
 };

@@ -13,6 +13,8 @@ namespace {
 
 constexpr double kDashPeriod = 24; ///< points, from one dash to the next
 constexpr double kBandEdge = 2;    ///< points
+constexpr double kRingEdge = 3;    ///< points
+constexpr double kRingRoom = 2;    ///< points between the ring and what it shows
 constexpr double kBandAlpha = 0.1; ///< so that what lies in it can be read
 
 double alphaOf(double transparency) {
@@ -96,6 +98,7 @@ private:
     void redraw();
     void drawGuides(double alpha);
     void drawBand(double alpha);
+    void drawRing();
     void drawPointer();
     xcb_window_t place(const Picture& picture);
 
@@ -114,8 +117,8 @@ private:
     Picture shown_;
     // From the topmost to the lowest. The guide is the stopped line; the cross goes with the
     // pointer.
-    OverlayWindow pointer_{server_, visual_}, cross_{server_, visual_}, guide_{server_, visual_},
-        line_{server_, visual_}, band_{server_, visual_};
+    OverlayWindow pointer_{server_, visual_}, ring_{server_, visual_}, cross_{server_, visual_},
+        guide_{server_, visual_}, line_{server_, visual_}, band_{server_, visual_};
 };
 
 void Overlay::Windows::redraw() {
@@ -123,6 +126,7 @@ void Overlay::Windows::redraw() {
     line_.fill(colorOf(record_.lineColor, lineAlpha));
     drawGuides(alphaOf(record_.lineGhostTransparency));
     drawBand(lineAlpha);
+    drawRing();
     drawPointer();
     show(shown_);
 }
@@ -140,6 +144,13 @@ void Overlay::Windows::drawBand(double alpha) {
     band_.fill(colorOf(record_.lineColor, kBandAlpha));
     band_.setEdge(edge, colorOf(record_.lineColor, alpha));
     band_.setOutline(blends() ? OverlayWindow::Outline() : frame(edge));
+}
+
+/// What is in it stays as it is.
+void Overlay::Windows::drawRing() {
+    const int edge = pixels(kRingEdge);
+    ring_.setEdge(edge, colorOf(record_.lineColor, 1));
+    ring_.setOutline(frame(edge));
 }
 
 void Overlay::Windows::drawPointer() {
@@ -160,7 +171,7 @@ xcb_window_t Overlay::Windows::place(const Picture& picture) {
         return QRect(region.x(), startOf(y, thickness), region.width(), thickness);
     };
     const bool hasGuides = record_.lineGhostTransparency < 100;
-    QRect pointer, cross, guide, line, band;
+    QRect pointer, ring, cross, guide, line, band;
     if (picture.line)
         line = across(*picture.line);
     if (picture.guide && hasGuides)
@@ -171,11 +182,15 @@ xcb_window_t Overlay::Windows::place(const Picture& picture) {
         const QPoint place = QPointF(*picture.pointer, *picture.guide).toPoint();
         pointer = {place - picture_.hotSpot, picture_.image.size()};
     }
+    const int room = pixels(kRingRoom) + pixels(kRingEdge);
+    if (picture.target)
+        ring = pixelsOf(*picture.target).adjusted(-room, -room, room, room);
     if (picture.band)
         band = pixelsOf(*picture.band);
 
     xcb_window_t above = XCB_NONE;
     above = pointer_.show(pointer, above);
+    above = ring_.show(ring, above);
     above = cross_.show(cross, above);
     above = guide_.show(guide, above);
     above = line_.show(line, above);

@@ -8,7 +8,8 @@
 
 #include <memory>
 
-/// The scan line, the guide lines and the pointer over all windows. Each is a small window of its
+/// The scan line, the guide lines, the pointer and a ring around what it would hit, over all
+/// windows. Each is a small window of its
 /// own that takes no clicks, moved and raised for every frame. With a compositor they are
 /// transparent as the settings say. Without one the scan line is opaque, of the guide lines dashes
 /// are seen, of a band its edge, and of the pointer what is more than half opaque.

@@ -61,6 +61,15 @@ std::vector<WindowManager::Window> WindowManager::windows() const {
     return windows;
 }
 
+std::vector<WindowManager::Shown> WindowManager::shown() const {
+    std::vector<Shown> shown;
+    const auto all = rootNumbers("_NET_CLIENT_LIST_STACKING");
+    for (auto window = all.rbegin(); window != all.rend(); ++window)
+        if (const auto area = areaOf(*window))
+            shown.push_back({processOf(*window), *area});
+    return shown;
+}
+
 /// The managed windows, and those that go round the window manager.
 std::vector<xcb_window_t> WindowManager::all() const {
     auto windows = rootNumbers("_NET_CLIENT_LIST");

@@ -20,6 +20,12 @@ public:
     /// `server` must outlive it.
     explicit WindowManager(XServer& server) : server_(server) {}
 
+    /// A window that is shown.
+    struct Shown {
+        std::uint32_t process; ///< 0 if it doesn't say
+        Area area;             ///< without its frame
+    };
+
     /// The active window, unless it is the desktop's or a panel.
     std::optional<xcb_window_t> active() const;
 
@@ -37,6 +43,9 @@ public:
 
     /// The windows that a task bar has, the one that was used last first.
     std::vector<Window> windows() const;
+
+    /// All that it manages, panels too, the topmost first. Empty without a window manager.
+    std::vector<Shown> shown() const;
 
     /// False when the window manager can't.
     bool close(xcb_window_t window);

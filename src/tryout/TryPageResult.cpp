@@ -5,6 +5,7 @@
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "src/record/settingwords.h"
+#include "src/scan/snapping.h"
 #include "src/tryout/HistoryView.h"
 #include "src/tryout/words.h"
 
@@ -71,8 +72,10 @@ void TryPage::takeSuggestion(NSButton*) {
 }
 
 bool TryPage::keep(const tryout::Advice& advice, const tryout::Measured& measured) {
-    if (advice.verdict != tryout::Verdict::Random)
+    if (advice.verdict != tryout::Verdict::Random) {
         remember(earlier_, measured, conditions_);
+        setSpread(advice.timing.spread);
+    }
     using enum tryout::Trigger::Way;
     const bool isOnRelease = trigger_.way == Release || trigger_.way == Hold;
     return advice.presses == 0 || history_.add(pastTry(advice, conditions_, measured, isOnRelease));
@@ -106,8 +109,10 @@ void TryPage::exportHistory(NSButton*) {
 
 void TryPage::deleteHistory(NSButton*) {
     const bool isDeleted = history_.clear();
-    if (isDeleted)
+    if (isDeleted) {
         window_.makeFirstResponder(againBtn_);
+        setSpread(0);
+    }
     showHistory(isDeleted ? localized("Try", "All tries are deleted.")
                           : localized("Try", "The tries couldn’t be deleted."));
 }

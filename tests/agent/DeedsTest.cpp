@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "agent/Deeds.h"
+#include "agent/Accessibility.h"
+#include "agent/Targets.h"
 
 #include "agent/x11/Desktop.h"
 #include "agent/x11/Guard.h"
@@ -357,6 +359,34 @@ TEST_F(DesktopDeedsTest, MenusOpenAndAreScanned) {
         ASSERT_TRUE(waitToBeTold({"scan"}));
         EXPECT_EQ(desktop.openMenus().size(), 1U);
         EXPECT_EQ(press("Escape"), "");
+        endEditor();
+    }
+}
+
+/// What the programs tell, where it is shown, unless another window covers it.
+TEST_F(DesktopDeedsTest, FindsWhatCanBePressed) {
+    const WindowManager windows(*server_);
+    accessibility::wakePrograms();
+    for (const char* program : {KORVEX_GTK_EDITOR, KORVEX_QT_EDITOR}) {
+        startEditor(program, {});
+        Targets targets;
+        const auto look = [&](const std::vector<WindowManager::Shown>& shown, std::size_t least) {
+            return QTest::qWaitFor([&] { // some programs make their trees when asked
+                targets.lookFor(shown, shown.back().area);
+                return QTest::qWaitFor([&] { return targets.found().size() >= least; }, 500);
+            });
+        };
+        const auto shown = windows.shown();
+        ASSERT_EQ(shown.size(), 1U);
+        EXPECT_TRUE(look(shown, 3)) << program; // two menus and a text
+        const Area window = shown[0].area;
+        for (const Target& target : targets.found()) {
+            EXPECT_EQ(intersection(target.box, window), target.box) << program;
+            EXPECT_EQ(target.isPressed, target.box.top < window.top + 5) << program;
+        }
+        const WindowManager::Shown cover = {0, {window.left, window.top, window.width, 40}};
+        EXPECT_TRUE(look({cover, shown[0]}, 1));
+        EXPECT_EQ(targets.found().size(), 1U) << program;
         endEditor();
     }
 }

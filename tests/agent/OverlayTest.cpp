@@ -79,6 +79,10 @@ TEST_F(OverlayTest, WithoutACompositorTheGuidesAreDashedAndThePointerIsCutOut) {
     EXPECT_EQ(rowsOf(kRed, 400), std::pair(100, 4)) << "edges of two pixels above and below";
     EXPECT_EQ(colorAt(400, 149), kRed);
     EXPECT_EQ(colorAt(400, 125), kWhite);
+
+    show({{}, {}, {}, {}, {kRegion}, Area{200, 200, 40, 20}});
+    EXPECT_EQ(rowsOf(kRed, 220), std::pair(195, 6)) << "the ring, three pixels above and below";
+    EXPECT_EQ(colorAt(220, 199), kWhite) << "with room around the target";
 }
 
 TEST_F(OverlayTest, WithACompositorItIsTransparentAndFollowsItsComingAndGoing) {

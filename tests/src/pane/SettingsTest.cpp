@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "platform/CoreFoundation/CFPreferences.h"
 #include "src/record/settingwords.h"
+#include "src/scan/snapping.h"
+#include "src/store/prefs.h"
 #include "tests/support/PaneFixture.h"
 
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QGroupBox>
 #include <QRadioButton>
@@ -226,7 +230,8 @@ TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityActi
     // back.
     const QRegularExpression others(
         "^(helpBtn|findMySpeed|firstStepsBtn|undoBtn|redoBtn|sections.*|.*Grid|.*Label|scanAreaBtn|"
-        "lineColor|profile.*|.*ProfileBtn|importBtn|exportBtn|paletteView|sampleScanImage|"
+        "lineColor|snappingCheck|profile.*|.*ProfileBtn|importBtn|exportBtn|paletteView|"
+        "sampleScanImage|"
         ".*PutBack|.*ResetBtn|"
         "(add|swapWith|setAction|remove)(Button)?Btn|.*KeyBtn|.*Key2Btn|builder.*)$");
     prefs.scanArea = {0, 0, 640, 480};
@@ -252,6 +257,27 @@ TEST_F(SettingsTest, EveryControlThatChangesASettingDoesSoByItsAccessibilityActi
         ++tried;
     }
     EXPECT_GT(tried, 60);
+}
+
+/// The agent isn't told: it reads the file.
+TEST_F(SettingsTest, ASettingBesideTheRecordIsStoredAtOnce) {
+    muteNotice("<key>scanner.lineScanTime</key><string>20.0</string>");
+    openWithAgent();
+    auto* check = find<QCheckBox>("snappingCheck");
+    const auto isStored = [] {
+        CFPreferencesAppSynchronize(kAgentBundleID);
+        return readSnapSettings().isOn;
+    };
+    EXPECT_TRUE(check->isChecked() && isStored());
+    prefs.lineScanTime = 30; // isn't stored along
+    act(check);
+    EXPECT_FALSE(check->isChecked() || isStored());
+    double time = 0;
+    getPrefDouble(CFSTR("scanner.lineScanTime"), &time);
+    EXPECT_EQ(time, 20);
+    act(find("snappingCheckPutBack"));
+    EXPECT_TRUE(check->isChecked() && isStored());
+    EXPECT_FALSE(find("snappingCheckPutBack")->isVisible());
 }
 
 TEST_F(SettingsTest, EveryControlIsNamedReachableAndLargeEnough) {
