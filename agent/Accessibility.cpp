@@ -66,7 +66,7 @@ void wakePrograms() {
 Bus::Bus(int patienceMs)
     : name_(QStringLiteral("accessibility-%1").arg(++count)), bus_(name_), deadline_(patienceMs) {
     const QDBusReply<QString> address = QDBusConnection::sessionBus().call(
-        toTheSession("org.a11y.Bus", "GetAddress"), QDBus::Block, kCallMs);
+        toTheSession("org.a11y.Bus", "GetAddress"), QDBus::Block, patienceMs);
     bus_ = QDBusConnection::connectToBus(address.value(), name_);
 }
 
