@@ -7,9 +7,9 @@
 #include "platform/CoreFoundation/CFNumber.h"
 #include "platform/CoreFoundation/CFPreferences.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "src/controls/SliderController.h"
+#include "src/controls/page.h"
 #include "src/link/Daemon.h"
-#include "src/pane/SliderController.h"
-#include "src/pane/page.h"
 #include "src/record/settings.h"
 
 #include <algorithm>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/HIToolbox/EventTimers.h"
+#include "src/controls/switchview.h"
 #include "src/link/Daemon.h"
-#include "src/pane/switchview.h"
 
 #include <string>
 

@@ -5,7 +5,6 @@
 #include "platform/CoreServices/LaunchServices.h"
 #include "platform/CoreServices/LaunchTrouble.h"
 #include "src/link/agentsays.h"
-#include "src/pane/PreferenceWrangler.h"
 #include "src/record/palactions.h"
 
 #include <optional>
@@ -38,6 +37,7 @@ std::optional<ChangeMask> changesOfVisit; ///< all of this visit; a mask may be 
 CFRef<const CFString> daemonExecutablePath;
 CFRef<CFBundle> daemonBundle; ///< made on first request
 AEEventHandler aehandler = nullptr;
+AgentReports reportTo = {[](bool) {}, [] {}};
 std::optional<ChangeWatch> processWatch;
 std::optional<ChangeWatch> launchWatch;
 
@@ -135,7 +135,7 @@ void processesChanged() {
         informDaemon();
     if (!takesPart(sayingPSN))
         withdrawSaying(); // gone with the agent
-    wranglerShowAgentState();
+    reportTo.stateChanged();
 }
 
 /// Handles a message of the agent.
@@ -163,12 +163,16 @@ OSErr ae(const AppleEvent* event, AppleEvent*, void*) {
         return error;
     if (size != sizeof on)
         return noErr;
-    wranglerSetMasterOnOff(on != 0);
+    reportTo.switched(on != 0);
     findDaemon();
     return noErr;
 }
 
 } // namespace
+
+void daemonReportTo(const AgentReports& reports) {
+    reportTo = reports;
+}
 
 void daemonSetup(const CFString* path) {
     if (path)
@@ -179,7 +183,7 @@ void daemonSetup(const CFString* path) {
     AEInstallEventHandler(kAgentEventClass, kAgentSays, aeSays, nullptr);
     keepLastReportOnly(kAgentEventClass, kAgentOnOff);
     processWatch = watchProcesses(processesChanged);
-    launchWatch = watchLaunches(wranglerShowAgentState);
+    launchWatch = watchLaunches(reportTo.stateChanged);
     changesOfVisit.reset();
     informedPSN = kNoProcess;
     openingIsUntold = true;

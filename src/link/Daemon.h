@@ -8,6 +8,15 @@
 // The link to the agent, which is a separate program: finding, launching and quitting it, and Apple
 // Events to and from it. It exists from daemonSetup to daemonCleanup, during one visit.
 
+/// Whom the link tells of the agent. Not owned.
+struct AgentReports {
+    void (*switched)(bool on); ///< the running agent was switched on or off
+    void (*stateChanged)();    ///< daemonState() may be another
+};
+
+/// Call it before daemonSetup. Without it nobody is told.
+void daemonReportTo(const AgentReports& reports);
+
 /// Installs the handler for the agent's reports. If the agent runs, tells it that the pane has
 /// opened. Else launches it, whatever its on/off state. `path` is the agent application's path;
 /// with null it can't be launched.
@@ -54,7 +63,7 @@ enum class AgentState {
     NotInstalled, ///< and none runs from elsewhere
 };
 
-/// As far as is known. wranglerShowAgentState is called whenever it changes.
+/// As far as is known. Whenever it changes, `stateChanged` is called.
 AgentState daemonState();
 
 /// Starts the agent, unless it runs or is starting, and forgets that it ended or didn't start

@@ -8,8 +8,8 @@
 #include "platform/AppKit/NSTabView.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/HIToolbox/AppleHelp.h"
-#include "src/pane/BumperController.h"
-#include "src/pane/SliderController.h"
+#include "src/controls/BumperController.h"
+#include "src/controls/SliderController.h"
 #include "src/pane/look/SampleScanView.h"
 
 #include <algorithm>

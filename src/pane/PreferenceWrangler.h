@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "src/controls/NumberController.h"
 #include "src/firststeps/FirstStepsPage.h"
 #include "src/link/Daemon.h"
-#include "src/pane/NumberController.h"
 #include "src/pane/SnappingRow.h"
 #include "src/pane/SwitchGuard.h"
 #include "src/pane/area/ScanAreaChooser.h"
@@ -28,9 +28,6 @@ class NSMenuItem;
 class NSTabView;
 class NSTextField;
 class SampleScanView;
-
-/// The strip's topic for changes. The next change removes its message.
-inline constexpr char kChangeTopic[] = "undo";
 
 /// The pane's controller. It binds every control to its field of `prefs`, shows the fields in the
 /// controls, and passes every edit to the store and the agent. The interface file makes it and

@@ -5,7 +5,7 @@
 #include "platform/AppKit/NSTabView.h"
 #include "platform/AppKit/RowMarks.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "src/pane/BumperController.h"
+#include "src/controls/BumperController.h"
 #include "src/record/settingwords.h"
 #include "src/scan/palutil.h"
 #include "src/store/profiles.h"

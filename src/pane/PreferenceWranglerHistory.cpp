@@ -9,7 +9,7 @@
 #include "platform/AppKit/RowMarks.h"
 #include "platform/AppKit/UserMessages.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "src/pane/BumperController.h"
+#include "src/controls/BumperController.h"
 #include "src/record/settingwords.h"
 #include "src/store/defaults.h"
 #include "src/store/recovery.h"

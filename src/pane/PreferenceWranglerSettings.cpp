@@ -2,8 +2,8 @@
 #include "src/pane/PreferenceWrangler.h"
 
 #include "platform/AppKit/NSButton.h"
-#include "src/pane/BumperController.h"
-#include "src/pane/SliderController.h"
+#include "src/controls/BumperController.h"
+#include "src/controls/SliderController.h"
 #include "src/record/numbertext.h"
 
 #include <algorithm>

@@ -54,6 +54,7 @@ void VLDKorvexPane::mainViewDidLoad() {
 void VLDKorvexPane::willSelect() {
     const auto agent = CFBundleCopyAuxiliaryExecutableURL(bundle(), CFSTR(kAgentApplicationName));
     const auto path = agent ? CFURLCopyFileSystemPath(agent.get()) : CFRef<CFString>();
+    daemonReportTo({wranglerSetMasterOnOff, wranglerShowAgentState});
     daemonSetup(path.get());
     palutilSetup();
     prefsSetup();

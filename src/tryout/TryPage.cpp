@@ -5,7 +5,7 @@
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/HotKeyMode.h"
-#include "src/pane/page.h"
+#include "src/controls/page.h"
 #include "src/tryout/HistoryView.h"
 #include "src/tryout/words.h"
 

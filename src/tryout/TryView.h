@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "src/pane/switchview.h"
+#include "src/controls/switchview.h"
 #include "src/tryout/session.h"
 
 #include <string>

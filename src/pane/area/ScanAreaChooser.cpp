@@ -6,7 +6,7 @@
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/CoreGraphics/CGDirectDisplay.h"
 #include "platform/CoreGraphics/LastUsedWindow.h"
-#include "src/pane/BumperController.h"
+#include "src/controls/BumperController.h"
 
 #include <cmath>
 #include <iterator>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/CoreGraphics/CGGeometry.h"
-#include "src/pane/ChoiceGrid.h"
+#include "src/controls/ChoiceGrid.h"
 
 #include <array>
 #include <optional>

@@ -6,7 +6,7 @@
 #include "platform/CoreGraphics/CGContext.h"
 #include "platform/CoreGraphics/CGDirectDisplay.h"
 #include "platform/HIToolbox/Appearance.h"
-#include "src/pane/changedparts.h"
+#include "src/pane/area/changedparts.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,7 +3,7 @@
 
 #include "platform/AppKit/NSColorWell.h"
 #include "platform/AppKit/NSGraphics.h"
-#include "src/pane/NumberController.h"
+#include "src/controls/NumberController.h"
 #include "src/record/linecolors.h"
 
 #include <iterator>

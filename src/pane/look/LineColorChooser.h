@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "src/pane/ChoiceGrid.h"
+#include "src/controls/ChoiceGrid.h"
 
 class NSColorWell;
 class NumberChangeTarget;

@@ -8,7 +8,7 @@
 #include "platform/AppKit/NSWindow.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/HIToolbox/CarbonEvents.h"
-#include "src/pane/BumperController.h"
+#include "src/controls/BumperController.h"
 #include "src/record/numbertext.h"
 #include "src/scan/palutil.h"
 

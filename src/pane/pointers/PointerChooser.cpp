@@ -4,8 +4,8 @@
 #include "platform/AppKit/NSGraphics.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "src/controls/NumberController.h"
 #include "src/link/Daemon.h"
-#include "src/pane/NumberController.h"
 #include "src/pane/pointers/ptrman.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "src/controls/ChoiceGrid.h"
 #include "src/files/ptrutil.h"
-#include "src/pane/ChoiceGrid.h"
 
 #include <vector>
 

@@ -2,13 +2,14 @@
 #include "src/pane/profiles/ProfileEditor.h"
 
 #include "platform/AppKit/NSButton.h"
+#include "platform/AppKit/NSMenuItem.h"
 #include "platform/AppKit/NSStringDrawing.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/AppKit/NSWindow.h"
 #include "platform/AppKit/UserMessages.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "src/pane/PreferenceWrangler.h"
 #include "src/record/settingwords.h"
+#include "src/store/prefs.h"
 
 #include <utility>
 

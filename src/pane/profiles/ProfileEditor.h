@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/AppKit/NSPopUpButton.h"
-#include "src/pane/ChoiceGrid.h"
+#include "src/controls/ChoiceGrid.h"
 #include "src/store/profiles.h"
 
 #include <string>
@@ -10,6 +10,9 @@
 
 class NSButton;
 class NSTextField;
+
+/// The strip's topic for changes. The next change removes its message.
+inline constexpr char kChangeTopic[] = "undo";
 
 /// Changes the settings for the ProfileEditor.
 class ProfileTarget {

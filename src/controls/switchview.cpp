@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "src/pane/switchview.h"
+#include "src/controls/switchview.h"
 
 #include "platform/AppKit/NSEvent.h"
 #include "platform/AppKit/NSGraphics.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "src/pane/NumberController.h"
+#include "src/controls/NumberController.h"
 
 #include "src/record/numbertext.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "src/pane/NumberController.h"
-#include "src/pane/NumberControls.h"
+#include "src/controls/NumberController.h"
+#include "src/controls/NumberControls.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "src/pane/NumberController.h"
+#include "src/controls/NumberController.h"
 
-#include "src/pane/SliderController.h"
+#include "src/controls/SliderController.h"
 #include "tests/platform/AppKit/TestForm.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "src/pane/changedparts.h"
+#include "src/pane/area/changedparts.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "src/pane/NumberControls.h"
+#include "src/controls/NumberControls.h"
 
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "src/pane/NumberController.h"
+#include "src/controls/NumberController.h"
 #include "src/record/numbertext.h"
 
 void NumberControls::setAutoRepeat() const {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "src/pane/SliderController.h"
+#include "src/controls/SliderController.h"
 
 #include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSButton.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "src/pane/BumperController.h"
+#include "src/controls/BumperController.h"
 
 #include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSButton.h"

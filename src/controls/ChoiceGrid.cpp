@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "src/pane/ChoiceGrid.h"
+#include "src/controls/ChoiceGrid.h"
 
 #include "platform/AppKit/ClassRegistry.h"
 #include "platform/AppKit/NSEvent.h"
