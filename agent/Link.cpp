@@ -32,10 +32,11 @@ std::string line(const QJsonObject& event) {
 
 /// Reads a parameter that has exactly the type and size of `value`.
 template <class T>
-OSErr read(const AppleEvent& event, AEKeyword keyword, DescType type, T& value) {
+OSErr read(const AppleEvent& event, AEKeyword keyword, DescType type, T& value,
+           std::size_t wanted = sizeof(T)) {
     std::size_t size = 0;
-    const OSErr error = AEGetParamPtr(&event, keyword, type, nullptr, &value, sizeof value, &size);
-    return error == noErr && size != sizeof value ? paramErr : error;
+    const OSErr error = AEGetParamPtr(&event, keyword, type, nullptr, &value, wanted, &size);
+    return error == noErr && size != wanted ? paramErr : error;
 }
 
 bool takesPart(const ProcessSerialNumber& psn) {
@@ -94,12 +95,12 @@ OSErr Link::paneClosed(const AppleEvent&) {
 OSErr Link::setAllPrefs(const AppleEvent& event) {
     PrefsRecord record;
     UInt32 changes = 0;
-    if (const OSErr error = read(event, keyDirectObject, typePrefsRecord, record))
+    if (const OSErr error = read(event, keyDirectObject, typePrefsRecord, record, kRecordSize))
         return error;
     if (const OSErr error = read(event, fourCharCode("Chng"), typeUInt32, changes))
         return error;
     const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(&record),
-                                               static_cast<qsizetype>(sizeof record));
+                                               kRecordSize);
     log_.append(line({{"event", "SAPr"},
                       {"mask", qint64{changes}},
                       {"record", QString::fromLatin1(bytes.toHex())}}));
@@ -169,7 +170,7 @@ void Link::change(const SettingSet& settings, const PrefsRecord& record) {
         return store(settings, record);
     AppleEvent event = eventTo(window, kSetSettings);
     const std::uint64_t bits = settings.to_ullong();
-    AEPutParamPtr(&event, keyDirectObject, typePrefsRecord, &record, sizeof record);
+    AEPutParamPtr(&event, keyDirectObject, typePrefsRecord, &record, kRecordSize);
     AEPutParamPtr(&event, keySettings, typeBits, &bits, sizeof bits);
     sendThen(event, kPatience, [=, this](OSErr error) {
         if (error != noErr) // it has just closed, or hangs

@@ -52,7 +52,7 @@ void checkOthers(PrefsRecord& record) {
     const double pause = record.interClickDelay;
     record.interClickDelay = std::isfinite(pause) ? within({0, kLongestPause}, pause) : 0;
     const auto [x, y, width, height] = record.scanArea;
-    if (!std::isfinite(double{x} + y + width + height))
+    if (!std::isfinite(x + y + width + height))
         record.scanArea = {};
     for (UInt16* part : {&record.lineColor.red, &record.lineColor.green, &record.lineColor.blue})
         *part = std::min(*part, kBrightest);

@@ -109,7 +109,7 @@ void sendPaneOpened() {
 void sendRecord(ChangeMask changes, AESendMode mode) {
     AppleEvent event, reply;
     if (newDaemonAppleEvent(&event, kAgentEventClass, kSetAllPrefs) &&
-        AEPutParamPtr(&event, keyDirectObject, typePrefsRecord, &prefs, sizeof prefs) == noErr &&
+        AEPutParamPtr(&event, keyDirectObject, typePrefsRecord, &prefs, kRecordSize) == noErr &&
         AEPutParamPtr(&event, keyChanges, typeUInt32, &changes, sizeof changes) == noErr)
         AESend(&event, &reply, mode, kAEDefaultTimeout);
 }

@@ -54,7 +54,7 @@ bool takeSettings(const SettingSet& settings, const PrefsRecord& sent, PrefsReco
 }
 
 OSErr handleSetSettings(const AppleEvent* event, AppleEvent*, void*) {
-    PrefsRecord record;
+    PrefsRecord record = prefs; // what lies beside the agent's record may be missing
     std::uint64_t bits = 0;
     std::size_t recordSize = 0, bitsSize = 0;
     if (const OSErr error = AEGetParamPtr(event, keyDirectObject, typePrefsRecord, nullptr, &record,
@@ -65,7 +65,7 @@ OSErr handleSetSettings(const AppleEvent* event, AppleEvent*, void*) {
         return error;
     PrefsRecord taken = prefs;
     const SettingSet settings(bits);
-    if (recordSize != sizeof record || bitsSize != sizeof bits || settings.to_ullong() != bits ||
+    if (recordSize < kRecordSize || recordSize > sizeof record || bitsSize != sizeof bits || settings.to_ullong() != bits ||
         !takeSettings(settings, record, taken))
         return paramErr;
     takeChange(settings, taken);

@@ -88,7 +88,6 @@ struct PreferenceWrangler::Tables {
         outletRow<&W::scanModeRadios_>("scanModeRadios"),
         outletRow<&W::palette_, &Palette::setActionBtn>("setActionBtn"),
         outletRow<&W::palette_, &Palette::swapWithBtn>("swapWithBtn"),
-        outletRow<&W::snapping_, &SnappingRow::check>("snappingCheck"),
         outletRow<&W::prefsTabs_>("prefsTabs"),
         outletRow<&W::redoBtn_>("redoBtn"),
         outletRow<&W::triggerOnReleaseRadios_>("triggerOnReleaseRadios"),
@@ -133,7 +132,6 @@ struct PreferenceWrangler::Tables {
         actionRow<&W::changedTriggerOnRelease>("changedTriggerOnRelease:"),
         actionRow<&W::changedScanMode>("changedScanMode:"),
         actionRow<&W::changedLineColor>("changedLineColor:"),
-        actionRow<&W::changedSnapping>("changedSnapping:"),
         actionRow<&W::setCustomScanArea>("setCustomScanArea:"),
         actionRow<&W::setHotKeyToNone>("setHotKeyToNone:"),
         actionRow<&W::setHotKeyToDefault>("setHotKeyToDefault:"),
@@ -218,7 +216,6 @@ void PreferenceWrangler::showValues(const SettingSet& settings, bool anew) {
     if (anew) {
         shownLaunchAtLogin_ = prefs.launchAtLogin != 0;
         updateLaunchUI();
-        snapping_.load();
     }
 
     loadFlags();

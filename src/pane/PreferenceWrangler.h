@@ -4,7 +4,6 @@
 #include "src/controls/NumberController.h"
 #include "src/firststeps/FirstStepsPage.h"
 #include "src/link/Daemon.h"
-#include "src/pane/SnappingRow.h"
 #include "src/pane/SwitchGuard.h"
 #include "src/pane/area/ScanAreaChooser.h"
 #include "src/pane/hotkeys/HotKeyEditor.h"
@@ -222,10 +221,6 @@ public:
 
     void changedLineColor(NSColorWell*) { lineColors_.changedLineColor(); }
 
-    // SnappingRow: clicks that hit what was meant
-
-    void changedSnapping(NSButton*) { snapping_.changedSnapping(); }
-
     // PreferenceWranglerScanArea.cpp: the custom scan area
 
     /// Shows the area in words.
@@ -338,7 +333,6 @@ private:
     PointerChooser pointers_{*this};
     ProfileEditor profiles_{*this};
     LineColorChooser lineColors_{*this};
-    SnappingRow snapping_;
     ScanAreaChooser scanAreas_{*this};
 
     const CFString* helpBookName_ = nullptr; ///< the bundle's; null: no book

@@ -33,6 +33,7 @@ void PreferenceWrangler::changed(ChangeMask changes) {
 void PreferenceWrangler::report(ChangeMask changes) {
     updateUIForChanges(changes);
     prefsWereChanged(changes & kChangeOnOff ? &prefs.on : nullptr);
+    prefsStoreBeside();
     daemonSendChanges(changes, true);
     prefsKeepChanges();
 }

@@ -63,8 +63,9 @@ struct ButtonSize {
     SInt16 height, width;
 };
 
-/// Every setting of the agent: 340 bytes, little-endian, with fixed offsets. The agent gets these
-/// bytes, padding included. Flags are 0 or 1. The initial values are the factory defaults.
+/// Every setting of the agent: 340 bytes, little-endian, with fixed offsets, and behind them what the
+/// agent reads from the store. The agent gets the 340 bytes, padding included. Flags are 0 or 1. The
+/// initial values are the factory defaults.
 struct PrefsRecord {
     UInt8 on = 1; ///< the agent's master switch
     UInt8 playClickSounds = 1;
@@ -120,11 +121,17 @@ struct PrefsRecord {
     UInt8 buttonActions[kNumPaletteSlots] = {20, 21, 22, 1, 2, 0, 0, 0, 0};
     UInt8 padding333[3] = {};
     UInt32 reservedTail = 0xDA5EB020;
+
+    // Beside the agent's record:
+    UInt8 snapping = 1; ///< clicks hit the one button that they come near to
+    UInt8 padding341[3] = {};
 };
 
 #pragma pack(pop)
 
-static_assert(sizeof(PrefsRecord) == 340);
+/// What the agent gets, in bytes.
+constexpr std::size_t kRecordSize = 340;
+static_assert(offsetof(PrefsRecord, snapping) == kRecordSize);
 static_assert(offsetof(PrefsRecord, on) == 0);
 static_assert(offsetof(PrefsRecord, playClickSounds) == 1);
 static_assert(offsetof(PrefsRecord, reserved2) == 2);

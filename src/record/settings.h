@@ -101,7 +101,7 @@ inline constexpr ChangeMask kBothLines = kChangeScanLineLook | kChangeGuideLineL
 #define CHECK(outlet, action) {}, {}, SettingControl::check, outlet, action
 #define ACTION(action) {}, {}, SettingControl::other, nullptr, action
 
-/// In the record's order, which is that of loading and saving.
+/// In the record's order, which is that of loading and saving, then what lies beside it.
 // clang-format off
 inline constexpr Setting kRows[] = {
     {SETTING("on", kFlagNotation, on, kChangeOnOff), LOCALIZABLE("Settings", "Scanning with Korvex")},
@@ -182,6 +182,8 @@ inline constexpr Setting kRows[] = {
      LOCALIZABLE("Settings", "Shown on the buttons")},
     {SETTING("palette.buttonActions", kActionListNotation, buttonActions, kChangePalette),
      LOCALIZABLE("Settings", "Palette buttons")},
+    {SETTING("snapping", kFlagNotation, snapping, 0),
+     LOCALIZABLE("Settings", "Click the nearest button"), CHECK("snappingCheck", "changedSnapping:")},
 };
 // clang-format on
 

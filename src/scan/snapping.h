@@ -2,9 +2,9 @@
 #pragma once
 
 /// Settings of snapping: clicks that come near to one button hit its middle. They are stored beside
-/// the record, which has no room for them. The agent reads them in each scan.
+/// the agent's record, which has no room for them. The agent reads them in each scan.
 struct SnapSettings {
-    bool isOn = true; ///< if nobody has chosen
+    bool isOn = true;
     double spread =
         0; ///< s; the standard deviation of presses, as "Find my speed" measured it last
 };
@@ -12,8 +12,5 @@ struct SnapSettings {
 /// As this process knows the stored settings: CFPreferencesAppSynchronize reads them anew.
 SnapSettings readSnapSettings();
 
-/// Stores it at once, and no other setting.
-void setSnapping(bool isOn);
-
-/// The same, in seconds; 0 for unknown.
+/// Stores it at once, and no setting. In seconds; 0 for unknown.
 void setSpread(double seconds);

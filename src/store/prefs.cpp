@@ -90,6 +90,15 @@ void prefsWereChanged(const void* chosen) {
     prefsNeedSaving = true;
 }
 
+void prefsStoreBeside() {
+    constexpr const Setting& kSetting = settingAt(offsetof(PrefsRecord, snapping));
+    if (isSame(kSetting, prefs, stored))
+        return;
+    save(CFSTR(kSetting.key), *kSetting.notation, kSetting.in(prefs));
+    if (CFPreferencesAppSynchronize(kAgentBundleID))
+        stored.snapping = prefs.snapping;
+}
+
 void prefsKeepChanges() {
     recoveryKeep(prefs, chosenSettings(), stored);
 }

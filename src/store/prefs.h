@@ -29,6 +29,9 @@ bool savePrefs();
 void prefsWereChanged(const void* chosen = nullptr);
 void prefsWerentChanged();
 
+/// Stores at once what lies beside the agent's record, if it has changed: no event tells of it.
+void prefsStoreBeside();
+
 /// Keeps the changes in a file that survives a crash (recovery.h).
 void prefsKeepChanges();
 

@@ -78,7 +78,7 @@ protected:
     void use(const PrefsRecord& record) {
         const UInt32 mask = 0xFFFF;
         AEDesc settings, changes;
-        AECreateDesc(fourCharCode("KrPf"), &record, sizeof record, &settings);
+        AECreateDesc(fourCharCode("KrPf"), &record, kRecordSize, &settings);
         AECreateDesc(typeUInt32, &mask, sizeof mask, &changes);
         tell(fourCharCode("SAPr"), {{keyDirectObject, settings}, {fourCharCode("Chng"), changes}});
         settings_ = record;

@@ -69,7 +69,7 @@ def without_a_window():
     expect("no command", "nonsense", status=2)
     rows = {each["key"]: each for each in json.loads(run("list", "--json"))}
     keys = list(rows)
-    assert len(keys) == 40
+    assert len(keys) == 41
     time = rows["scanner.lineScanTime"]
     assert (time["min"], time["max"], time["value"]) == (1, 60, 12.5), time
     expect("Scanning with Korvex (off | on); default: on", "list")

@@ -71,7 +71,7 @@ template <class T>
 T recordField(const QJsonObject& event, std::size_t offset) {
     const QByteArray record = QByteArray::fromHex(event["record"].toString().toLatin1());
     T value{};
-    if (static_cast<std::size_t>(record.size()) >= offset + sizeof value)
-        std::memcpy(&value, record.constData() + offset, sizeof value);
+    const QByteArray bytes = record.mid(static_cast<qsizetype>(offset), sizeof value);
+    std::memcpy(&value, bytes.constData(), static_cast<std::size_t>(bytes.size()));
     return value;
 }

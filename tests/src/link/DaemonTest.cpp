@@ -214,7 +214,7 @@ TEST_F(DaemonTest, ACommandsSettingsAreCheckedLikeThoseOfAFile) {
         const auto* bitBytes = reinterpret_cast<const UInt8*>(&bits);
         return answerTo(
             kAgentClass, fourCharCode("PSet"),
-            {{keyDirectObject, {fourCharCode("KrPf"), {bytes, bytes + sizeof record - missing}}},
+            {{keyDirectObject, {fourCharCode("KrPf"), {bytes, bytes + kRecordSize - missing}}},
              {fourCharCode("Sets"), {fourCharCode("comp"), {bitBytes, bitBytes + 8}}}});
     };
     const PrefsRecord before = prefs;
