@@ -47,6 +47,7 @@ PrefsRecord recordOfUser() {
     record.preScanDelay = 0.5;
     record.lineScanTime = record.pointerScanTime = 4; // at first
     record.clickDuration = 10;
+    record.snapping = 0;                                   // the targets are no buttons
     std::ranges::fill(record.buttonActions, kEmptyAction); // no palette covers a target
     return record;
 }

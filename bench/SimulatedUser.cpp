@@ -13,24 +13,26 @@ double uniform(double low, double high, std::mt19937& random) {
     return std::uniform_real_distribution<>(low, high)(random);
 }
 
-/// The true rate of hits, of presses that are no lapses.
-double trueRate(const tryout::Conditions& tried, const tryout::Timing& truth, double lineTime,
-                double pointerTime) {
-    const Sweep line = {tried.sweep.travel, lineTime, tried.sweep.accelerates};
-    double rate = hitRate(line, tried.target, truth);
-    if (tried.pointer)
-        rate *= hitRate({tried.pointer->travel, pointerTime, tried.pointer->accelerates},
-                        tried.across, truth);
-    return rate;
+/// The true rate of hits, of presses that are no lapses. `spread` is the one that was measured.
+double trueRate(const tryout::Conditions& tried, const tryout::Timing& truth, double spread,
+                double lineTime, double pointerTime) {
+    const auto rateOf = [&](Sweep sweep, double time, double width) {
+        sweep.time = time;
+        const tryout::Target target = {width, tried.point, spread};
+        return hitRate(sweep, target.widthFor(sweep), truth);
+    };
+    const double rate = rateOf(tried.sweep, lineTime, tried.target);
+    return tried.pointer ? rate * rateOf(*tried.pointer, pointerTime, tried.across) : rate;
 }
 
 /// Whether the true rates, of line and pointer, are what was promised.
 bool keepsPromise(const tryout::Advice& advice, const tryout::Conditions& tried,
                   const tryout::Timing& truth) {
     const double pointerTime = tried.pointer ? advice.pointerTime.value_or(tried.pointer->time) : 0;
-    if (trueRate(tried, truth, advice.time, pointerTime) < tryout::kQuickestRate)
+    const double spread = advice.timing.spread;
+    if (trueRate(tried, truth, spread, advice.time, pointerTime) < tryout::kQuickestRate)
         return false;
-    return !advice.surest || trueRate(tried, truth, advice.surest->line.time,
+    return !advice.surest || trueRate(tried, truth, spread, advice.surest->line.time,
                                       advice.surest->pointer.time) >= tryout::kSurestRate;
 }
 

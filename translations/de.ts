@@ -3658,6 +3658,10 @@ auf %2 setzen</translation>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets of %.0f mm would make it so.</source>
         <translation>Auch bei %.0f Sekunden, der langsamsten Linie, erwarten wir keine 3 von 4. Mit Zielen von %.0f mm wäre es so.</translation>
     </message>
+    <message>
+        <source>This counts presses beside a button that stands alone: they click it, too.</source>
+        <translation>Dabei zählen auch Betätigungen neben einer Schaltfläche, die allein steht: Sie treffen sie ebenfalls.</translation>
+    </message>
 </context>
 <context>
     <name>Units</name>

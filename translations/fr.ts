@@ -3658,6 +3658,10 @@ sur %2</translation>
         <source>Even at %.0f seconds, the slowest, we can’t expect 3 in 4. Targets of %.0f mm would make it so.</source>
         <translation>Même à %.0f secondes, le plus lent, on ne peut attendre 3 sur 4. Des cibles de %.0f mm le permettraient.</translation>
     </message>
+    <message>
+        <source>This counts presses beside a button that stands alone: they click it, too.</source>
+        <translation>Les appuis à côté d’un bouton isolé comptent aussi : ils cliquent dessus.</translation>
+    </message>
 </context>
 <context>
     <name>Units</name>

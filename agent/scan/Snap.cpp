@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "agent/scan/Snap.h"
 
+#include "src/scan/snapping.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -12,7 +14,7 @@ constexpr double kFrame = 80;   ///< points that a window's frame takes at most
 double distanceTo(const Area& box, Place point) {
     const double x = std::max({box.left - point.x, 0.0, point.x - box.right()});
     const double y = std::max({box.top - point.y, 0.0, point.y - box.bottom()});
-    return std::hypot(x, y);
+    return std::max(x, y);
 }
 
 double sizeOf(const Target& target) {
@@ -42,9 +44,7 @@ std::optional<Area> snap(Place point, std::span<const Target> targets, double di
 double snapDistance(double spread, const Region& region) {
     const double speed = std::max(region.area.height / std::max(region.lineTime, 0.001),
                                   region.area.width / std::max(region.pointerTime, 0.001));
-    const double points =
-        spread > 0 ? std::clamp(spread * speed / region.scale, kLeastSnap, kMostSnap) : kUsualSnap;
-    return points * region.scale;
+    return snapDistance(spread, speed / region.scale) * region.scale;
 }
 
 std::optional<ToldPlaces> ToldPlaces::of(const Area& told, const Area& window) {

@@ -17,15 +17,11 @@ struct Target {
 };
 
 /// The target that a click at the point is meant for: the smallest that the point is in, else the
-/// only one that is nearer than the distance. None if that leaves a doubt, or where the place
-/// itself counts.
+/// only one that is nearer than the distance, across and down. None if that leaves a doubt, or
+/// where the place itself counts.
 std::optional<Area> snap(Place point, std::span<const Target> targets, double distance);
 
-/// Points within which a click snaps: without a measured spread, at the least, at the most.
-constexpr double kUsualSnap = 10, kLeastSnap = 4, kMostSnap = 24;
-
-/// The distance in pixels: how far the faster of line and pointer goes in the spread of the user's
-/// presses. That is their standard deviation in seconds; 0 if nobody has measured it.
+/// The distance in pixels, for the faster of line and pointer (src/scan/snapping.h).
 double snapDistance(double spread, const Region& region);
 
 /// From the coordinates that a program tells of its parts to the screen's pixels. Some programs

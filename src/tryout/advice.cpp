@@ -67,9 +67,19 @@ bool isMiss(const Trial& trial, const Conditions& tried) {
 }
 
 /// A sweep's time and its share of hits.
-RatedTime rated(Sweep sweep, double time, double width, const Timing& timing, double part = 1) {
+RatedTime rated(Sweep sweep, double time, const Target& target, const Timing& timing,
+                double part = 1) {
     sweep.time = time;
-    return {time, hitRate(sweep, width, timing), part};
+    return {time, hitRate(sweep, target.widthFor(sweep), timing), part};
+}
+
+/// The target as the line and the pointer meet it, with the spread that the try measured.
+Target lineTarget(const Conditions& tried, const Advice& advice) {
+    return {tried.target, tried.point, advice.timing.spread};
+}
+
+Target pointerTarget(const Conditions& tried, const Advice& advice) {
+    return {tried.across, tried.point, advice.timing.spread};
 }
 
 /// Whether the speed of the pointer is close enough to the line speeds that were tried.
@@ -104,22 +114,23 @@ struct Choices {
 
 Choices choicesOf(const Advice& advice, const Conditions& tried) {
     const Timing& timing = advice.cautious;
+    const Target target = lineTarget(tried, advice);
     Choices choices = {
-        .line = ratedTimes(tried.sweep, tried.target, timing, tried.times, tried.linePart),
+        .line = ratedTimes(tried.sweep, target, timing, tried.times, tried.linePart),
         .pointer = {std::begin(kNoPointer), std::end(kNoPointer)},
-        .tried = rated(tried.sweep, tried.sweep.time, tried.target, timing, tried.linePart),
+        .tried = rated(tried.sweep, tried.sweep.time, target, timing, tried.linePart),
         .waits = {tried.delay * (tried.pointer ? 2 : 1), advice.costOfMiss.value_or(kCostOfMiss)}};
     if (tried.pointer)
-        choices.pointer =
-            ratedTimes(*tried.pointer, tried.across, timing, tried.times, tried.pointerPart);
+        choices.pointer = ratedTimes(*tried.pointer, pointerTarget(tried, advice), timing,
+                                     tried.times, tried.pointerPart);
     choices.tried.rate = std::max(choices.tried.rate, countedRate(advice));
     return choices;
 }
 
 void adviseOutOfReach(Advice& advice, const Conditions& tried) {
-    std::vector<Axis> axes = {{tried.sweep, tried.target}};
+    std::vector<Axis> axes = {{tried.sweep, lineTarget(tried, advice)}};
     if (tried.pointer)
-        axes.push_back({*tried.pointer, tried.across});
+        axes.push_back({*tried.pointer, pointerTarget(tried, advice)});
     for (Axis& axis : axes)
         axis.sweep.time = tried.times.max;
     advice.verdict = Verdict::OutOfReach;
@@ -152,8 +163,9 @@ void adviseTime(Advice& advice, const Conditions& tried, const Choices& choices,
 void advisePointer(Advice& advice, const Conditions& tried, Choices& choices,
                    const Earlier& known) {
     const RatedTime line = {advice.time, advice.promised, tried.linePart};
-    const RatedTime set = rated(*tried.pointer, tried.pointer->time, tried.across, advice.cautious,
-                                tried.pointerPart);
+    const Target target = pointerTarget(tried, advice);
+    const RatedTime set =
+        rated(*tried.pointer, tried.pointer->time, target, advice.cautious, tried.pointerPart);
     std::erase_if(choices.pointer, [&](const RatedTime& pointer) {
         return !isForetold(known, *tried.pointer, pointer.time);
     });
@@ -163,17 +175,17 @@ void advisePointer(Advice& advice, const Conditions& tried, Choices& choices,
         return;
     advice.pointerTime = suits.time;
     advice.clicksPromised = line.rate * suits.rate;
-    advice.clicks =
-        advice.expected * rated(*tried.pointer, suits.time, tried.across, advice.timing).rate;
+    advice.clicks = advice.expected * rated(*tried.pointer, suits.time, target, advice.timing).rate;
 }
 
 /// For tries without objections.
 void adviseTimes(Advice& advice, const Conditions& tried, const Earlier& known) {
+    const Target target = lineTarget(tried, advice);
     Choices choices = choicesOf(advice, tried);
     adviseTime(advice, tried, choices, known);
-    advice.expected = rated(tried.sweep, advice.time, tried.target, advice.timing).rate;
-    advice.promised = rated(tried.sweep, advice.time, tried.target, advice.cautious).rate;
-    advice.expectedNow = rated(tried.sweep, tried.sweep.time, tried.target, advice.timing).rate;
+    advice.expected = rated(tried.sweep, advice.time, target, advice.timing).rate;
+    advice.promised = rated(tried.sweep, advice.time, target, advice.cautious).rate;
+    advice.expectedNow = rated(tried.sweep, tried.sweep.time, target, advice.timing).rate;
     advice.promisedNow = choices.tried.rate;
     if (advice.verdict == Verdict::Keep)
         advice.promised = advice.promisedNow;

@@ -19,6 +19,7 @@ struct Conditions {
     /// isn't swept in a try: its presses are assumed to be like the line's.
     std::optional<Sweep> pointer = {};
     double across = 10; ///< the target's size in the pointer's direction
+    double point = 0;   ///< the length of a point if clicks snap to such a target; else 0
     /// The parts of the screen that are swept, above 0 to 1. They take these parts of the times.
     double linePart = 1, pointerPart = 1;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "src/tryout/hitrate.h"
 
+#include "src/scan/snapping.h"
 #include "src/tryout/statistics.h"
 
 #include <algorithm>
@@ -56,6 +57,12 @@ double hitRate(const Sweep& sweep, double width, const Timing& timing) {
     return sum / kPlaces;
 }
 
+double Target::widthFor(const Sweep& sweep) const {
+    if (point <= 0)
+        return width;
+    return width + 2 * snapDistance(spread, sweep.travel / sweep.time / point) * point;
+}
+
 double SettingRange::roundUp(double value) const {
     // A value that is a step stays one, whatever its last digits.
     return std::clamp(std::ceil(value / step - 1e-6) * step, min, max);
@@ -68,11 +75,11 @@ double timePerHit(const Click& click, const Waits& waits) {
     return (waits.delay + click.time() / 2 + (1 - rate) * waits.miss) / rate;
 }
 
-std::vector<RatedTime> ratedTimes(Sweep sweep, double width, const Timing& timing,
+std::vector<RatedTime> ratedTimes(Sweep sweep, const Target& target, const Timing& timing,
                                   const SettingRange& range, double part) {
     std::vector<RatedTime> times;
     for (sweep.time = range.min; sweep.time <= range.max; sweep.time += range.step)
-        times.push_back({sweep.time, hitRate(sweep, width, timing), part});
+        times.push_back({sweep.time, hitRate(sweep, target.widthFor(sweep), timing), part});
     return times;
 }
 
@@ -88,8 +95,10 @@ std::optional<Click> quickestTimes(RatedTimes line, RatedTimes pointer, const Wa
 double neededEnlargement(std::span<const Axis> axes, const Timing& timing, double rate) {
     const auto isEnough = [&](double times) {
         double all = 1;
-        for (const Axis& axis : axes)
-            all *= hitRate(axis.sweep, axis.width * times, timing);
+        for (auto [sweep, target] : axes) {
+            target.width *= times;
+            all *= hitRate(sweep, target.widthFor(sweep), timing);
+        }
         return all >= rate;
     };
     double low = 0, high = 1;

@@ -25,6 +25,16 @@ constexpr double kFinestSpread = 0.005;
 /// up, the mean over all places.
 double hitRate(const Sweep& sweep, double width, const Timing& timing);
 
+/// What is to be hit.
+struct Target {
+    double width = 0;  ///< in the sweep's direction
+    double point = 0;  ///< the length of a point if clicks snap to it (src/scan/snapping.h); else 0
+    double spread = 0; ///< of the user's presses, as the agent knows it
+
+    /// How wide it is for a press that stops that sweep.
+    double widthFor(const Sweep& sweep) const;
+};
+
 /// The possible values of a setting.
 struct SettingRange {
     double min, max, step;
@@ -66,7 +76,7 @@ struct Waits {
 double timePerHit(const Click& click, const Waits& waits);
 
 /// Every time of the range for the sweep of a screen, the shortest first. `part` of it is swept.
-std::vector<RatedTime> ratedTimes(Sweep sweep, double width, const Timing& timing,
+std::vector<RatedTime> ratedTimes(Sweep sweep, const Target& target, const Timing& timing,
                                   const SettingRange& range, double part = 1);
 
 constexpr double kSurestRate = 0.9;
@@ -87,7 +97,7 @@ std::optional<Click> quickestTimes(RatedTimes line, RatedTimes pointer, const Wa
 /// A target and the sweep that must hit it.
 struct Axis {
     Sweep sweep;
-    double width; ///< of the target in the sweep's direction
+    Target target;
 };
 
 /// The factor by which all targets must be wider to be hit at `rate` by presses for each axis.

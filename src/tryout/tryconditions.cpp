@@ -61,6 +61,7 @@ Conditions conditionsOf(const PrefsRecord& record, Extent points, Extent millime
     const bool hasArea = record.useScanArea && area.width > 0 && area.height > 0;
     const Extent scale = {millimetres.width / points.width, millimetres.height / points.height};
     const Extent size = targetOf(target, record, scale);
+    const bool snaps = record.snapping && target != kPaletteTarget; // clicks on it have their place
     const auto sweepOf = [&](double travel, double time) {
         return Sweep{.travel = travel,
                      .time = std::clamp(time, kTimes.min, kTimes.max),
@@ -71,6 +72,7 @@ Conditions conditionsOf(const PrefsRecord& record, Extent points, Extent millime
                         .delay = record.preScanDelay,
                         .times = kTimes,
                         .across = size.width,
+                        .point = snaps ? std::min(scale.width, scale.height) : 0,
                         .linePart = partOf(hasArea, area.height, points.height),
                         .pointerPart = partOf(hasArea, area.width, points.width)};
     if (triggerOf(record).way != Trigger::Way::Step)

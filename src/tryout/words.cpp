@@ -139,6 +139,12 @@ std::string clicksText(const Advice& advice, const Conditions& tried) {
                   *advice.pointerTime, tried.pointer->time, shares.c_str());
 }
 
+std::string snapText(const Conditions& tried) {
+    return tried.point > 0 ? localized("Try", "This counts presses beside a button that stands "
+                                              "alone: they click it, too.")
+                           : "";
+}
+
 std::string tryAgainText(const Advice& advice, const Conditions& tried) {
     return format(advice.time > tried.sweep.time
                       ? LOCALIZABLE("Try", "A slower line is likely to suit you better. Try it at "
@@ -250,7 +256,9 @@ std::string verdictText(const Advice& advice, const Conditions& tried, const Mea
                    "once more."));
     case Verdict::Keep:
     case Verdict::Change:
-        return withHits(lineText(advice, tried), clicksText(advice, tried));
+        return joined(
+            Joint::Sentences,
+            {withHits(lineText(advice, tried), clicksText(advice, tried)), snapText(tried)});
     case Verdict::TryAgain:
         return withHits(tryAgainText(advice, tried));
     case Verdict::OutOfReach:
