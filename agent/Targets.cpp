@@ -68,38 +68,50 @@ std::optional<Root> rootOf(const Bus& bus, const std::vector<Object>& programs,
     return best;
 }
 
-/// An object with the answers that are on their way.
+/// An object that lies in the part, or has no place, with the answers that are on their way.
 struct Asking {
-    Object object;
-    Asked<Area> place;
+    Area box;
     Asked<States> states;
     Asked<Role> role;
     Asked<std::vector<Object>> children;
 };
+
+/// Most objects are elsewhere: more than the place is asked only of those that aren't.
+std::vector<Asking> askAbout(const Bus& bus, const std::vector<Object>& level,
+                             const ToldPlaces& places, const Area& part) {
+    std::vector<Asked<Area>> boxes;
+    for (const Object& object : level)
+        boxes.push_back(bus.place(object));
+    std::vector<Asking> asking;
+    for (std::size_t i = 0; i < level.size(); ++i) {
+        const Area box = places.inPixels(boxes[i].get());
+        if (box.isEmpty() || !intersection(box, part).isEmpty())
+            asking.push_back(
+                {box, bus.states(level[i]), bus.role(level[i]), bus.children(level[i])});
+    }
+    return asking;
+}
 
 /// A level of the tree after the other: one program answers the questions of a level together.
 std::vector<Target> targetsIn(const Bus& bus, const Root& root, const Area& part) {
     std::vector<Target> targets;
     std::vector<Object> level = {root.object};
     for (std::size_t seen = 0; !level.empty() && seen < kMostObjects && !bus.isLate();) {
-        std::vector<Asking> asking;
-        for (const Object& object : level)
-            asking.push_back({object, bus.place(object), bus.states(object), bus.role(object),
-                              bus.children(object)});
+        std::vector<Asking> asking = askAbout(bus, level, root.places, part);
         seen += level.size();
         level.clear();
-        for (Asking& each : asking) {
-            const Area box = root.places.inPixels(each.place.get());
-            const bool isElsewhere = !box.isEmpty() && intersection(box, part).isEmpty();
-            const States states = each.states.get();
-            if (isElsewhere || !states.has(State::Showing))
+        for (auto& [box, askedStates, askedRole, askedChildren] : asking) {
+            const States states = askedStates.get();
+            const Role role = askedRole.get();
+            // What has no place itself, such as a part of a page, may hold something that has.
+            if (!states.has(State::Showing) && (!box.isEmpty() || role == Role::Menu))
                 continue;
-            const Use use = states.has(State::Editable) ? Use::Place : useOf(each.role.get());
+            const Use use = states.has(State::Editable) ? Use::Place : useOf(role);
             const bool isPressed = use == Use::Press && states.has(State::Sensitive);
             if (!box.isEmpty() && (isPressed || use == Use::Place))
                 targets.push_back({box, isPressed});
             if (use != Use::Place) {
-                const auto children = each.children.get();
+                const auto children = askedChildren.get();
                 level.insert(level.end(), children.begin(), children.end());
             }
         }

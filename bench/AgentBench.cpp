@@ -6,12 +6,12 @@
 #include "bench/AgentDesktop.h"
 #include "bench/Figures.h"
 #include "bench/ShownLine.h"
+#include "bench/Threads.h"
 #include "src/scan/sweep.h"
 
 #include <algorithm>
 #include <cmath>
 #include <csignal>
-#include <filesystem>
 #include <fstream>
 #include <random>
 #include <unistd.h>
@@ -139,26 +139,6 @@ Scans makeScans() {
 const Scans& scans() {
     static const Scans made = makeScans();
     return made;
-}
-
-/// Calls `add` with each file of that name of a process's threads.
-template <class Add>
-void forEachThread(qint64 process, const char* name, Add&& add) {
-    for (const auto& thread :
-         std::filesystem::directory_iterator("/proc/" + std::to_string(process) + "/task")) {
-        std::ifstream file(thread.path() / name);
-        add(file);
-    }
-}
-
-double processorSeconds(qint64 process) {
-    double sum = 0;
-    forEachThread(process, "schedstat", [&](std::ifstream& file) {
-        double nanoseconds = 0;
-        file >> nanoseconds;
-        sum += nanoseconds * 1e-9;
-    });
-    return sum;
 }
 
 /// The value of a line of /proc/…/status.
