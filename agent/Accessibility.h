@@ -80,8 +80,8 @@ constexpr int kCallMs = 300; ///< for one answer
 void wakePrograms();
 
 /// A connection for one thread and for a bounded time. Questions after it get empty answers at
-/// once, as do those that a program doesn't answer within kCallMs. The first connection of a session
-/// may take longer: it starts the accessibility bus.
+/// once, as do those that a program doesn't answer within kCallMs. The first connection of a
+/// session may take longer: it starts the accessibility bus.
 class Bus {
 public:
     explicit Bus(int patienceMs);

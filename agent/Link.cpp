@@ -99,8 +99,7 @@ OSErr Link::setAllPrefs(const AppleEvent& event) {
         return error;
     if (const OSErr error = read(event, fourCharCode("Chng"), typeUInt32, changes))
         return error;
-    const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(&record),
-                                               kRecordSize);
+    const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(&record), kRecordSize);
     log_.append(line({{"event", "SAPr"},
                       {"mask", qint64{changes}},
                       {"record", QString::fromLatin1(bytes.toHex())}}));

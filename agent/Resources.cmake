@@ -26,3 +26,13 @@ add_custom_command(
   COMMENT "Drawing the agent's icons and pointers"
   VERBATIM)
 add_custom_target(korvex_agent_resources ALL DEPENDS ${korvex_artwork_files})
+
+# The help book shows the actions, too.
+set(korvex_pictures "${CMAKE_BINARY_DIR}/Korvex.prefPane/Contents/Resources/help/buttons")
+add_custom_command(
+  OUTPUT "${korvex_pictures}/click.png"
+  COMMAND "${Python3_EXECUTABLE}" -B "${korvex_artwork}/build.py" --pictures "${korvex_pictures}"
+  DEPENDS ${korvex_artwork_sources}
+  COMMENT "Drawing the buttons of the help book"
+  VERBATIM)
+add_custom_target(korvex_help_pictures ALL DEPENDS "${korvex_pictures}/click.png")

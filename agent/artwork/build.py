@@ -5,6 +5,7 @@
     build.py --list        prints the files that a build writes, one a line, relative to FOLDER
     build.py --table       prints the rows of the agent's table of actions, in C++
     build.py FOLDER        writes the files
+    build.py --pictures FOLDER   writes a picture of each action, for the help book
 
 Needs rsvg-convert (librsvg2-bin) and png2icns (icnsutils). The same sources give the same bytes.
 """
@@ -24,6 +25,7 @@ from shapes import icon_svg
 ACTION_LIST = "btn_icons_std.plist"
 # libicns knows no 64 pixels; 128 serves an icon of 32 points on a display of double density.
 FAMILY_SIZES = (16, 32, 48, 128)
+PICTURE_SIZE = 64  # shown at half of it
 APPLICATION_SIZES = (*FAMILY_SIZES, 256)
 
 
@@ -64,8 +66,16 @@ def table_row(kind, repeats, names):
     return f"{{ActionKind::{kind}, {str(repeats).lower()}, {text}}},"
 
 
-def main(argument):
-    if argument == "--table":
+def build_pictures(folder):
+    folder.mkdir(parents=True, exist_ok=True)
+    for name, _, _, drawing in ACTIONS:
+        render(icon_svg(drawing, PICTURE_SIZE), folder / f"{name}.png")
+
+
+def main(argument, folder=None):
+    if argument == "--pictures":
+        build_pictures(pathlib.Path(folder))
+    elif argument == "--table":
         print(*(table_row(*what) for _, _, what, _ in ACTIONS), sep="\n")
     elif argument == "--list":
         print(*(path for path, _, _ in jobs(pathlib.Path())), ACTION_LIST, sep="\n")
@@ -74,6 +84,6 @@ def main(argument):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 2:
+    if len(sys.argv) not in (2, 3):
         sys.exit(__doc__)
-    main(sys.argv[1])
+    main(*sys.argv[1:])

@@ -44,7 +44,8 @@ void Actions::chooseButton(UInt8 action, double moment) {
     } else if (isForAPoint(row.kind)) {
         arm(row.kind);
     } else if (row.kind == ActionKind::Again) {
-        if (last_ && (!held_ || last_->kind == Deed::Kind::Action)) // a held button stays where it is
+        if (last_ &&
+            (!held_ || last_->kind == Deed::Kind::Action)) // a held button stays where it is
             doOnce(*last_, lastRepeats_, moment);
     } else {
         doOnce({.kind = Deed::Kind::Action, .action = action}, row.repeats, moment);

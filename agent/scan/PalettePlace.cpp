@@ -9,7 +9,9 @@ PalettePlace::PalettePlace(const PrefsRecord& record, const Region& region) : sc
         layout = paletteLayout(record, region.area.width / scale);
     const double height = std::round(layout.height * scale);
     const double top = region.palette == PalettePart::TopLeft ? region.area.top
-                                                              : region.area.middle().y - height / 2;
+                       : region.palette == PalettePart::BottomLeft
+                           ? region.area.bottom() - height
+                           : region.area.middle().y - height / 2;
     frame = {std::round(region.area.left), std::round(top), std::round(layout.width * scale),
              height};
 }

@@ -89,15 +89,18 @@ std::vector<Region> menuRegions(const PrefsRecord& record, const std::vector<Are
 
 /// The keyboard's keys, none of which the palette may hide.
 Region keyboardRegion(Area area, const PrefsRecord& record, const Screen& screen) {
-    const bool needsPalette = !record.lineScanCanEndKybdMode;
-    if (needsPalette) {
-        const double height =
-            paletteLayout(record, area.width / screen.scale).height * screen.scale;
-        const double top = std::max(area.top - height, screen.area.top);
-        area.height += std::exchange(area.top, top) - top;
+    if (record.lineScanCanEndKybdMode) {
+        Region region = regionAt(area, record, screen);
+        region.palette = PalettePart::None;
+        return region;
     }
+    const double height = paletteLayout(record, area.width / screen.scale).height * screen.scale;
+    const bool isAbove = area.top - height >= screen.area.top;
+    if (isAbove)
+        area.top -= height;
+    area.height += height;
     Region region = regionAt(area, record, screen);
-    region.palette = needsPalette ? PalettePart::TopLeft : PalettePart::None;
+    region.palette = isAbove ? PalettePart::TopLeft : PalettePart::BottomLeft;
     return region;
 }
 

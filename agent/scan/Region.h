@@ -15,7 +15,7 @@ struct Screen {
 };
 
 /// Where the palette lies in a region.
-enum class PalettePart { LeftEdge, TopLeft, None };
+enum class PalettePart { LeftEdge, TopLeft, BottomLeft, None };
 
 /// What one line sweeps over, and the times of the whole way in seconds. The law of both ways is
 /// Sweep's.
@@ -40,7 +40,8 @@ struct Surroundings {
 };
 
 /// The regions of a scan, in the order in which the line sweeps them. Never empty.
-/// The keyboard has room for the palette above its keys, if only the palette ends the typing.
+/// The keyboard has room for the palette above its keys, or below them, if only the palette ends
+/// the typing.
 /// Open menus come before all else, then the keyboard, then the own area if it is used and on a
 /// screen, else the screens: the mouse pointer's first, then the others from left to right.
 /// A region that is smaller than its screen takes less time in proportion; a menu as much as its

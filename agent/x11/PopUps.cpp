@@ -9,7 +9,7 @@
 namespace {
 
 /// Pixels. Smaller windows are helpers of toolkits, no menus.
-constexpr double kLeastSide = 24;
+constexpr double kLeastSide = 16;
 
 /// The types of EWMH that no menu has.
 constexpr const char* kOtherTypes[] = {

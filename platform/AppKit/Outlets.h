@@ -17,8 +17,9 @@ struct Outlet {
     bool (*isConnected)(const NSObject& owner);
 };
 
-/// A method of a class that a control can call by its selector's name. Its argument is the sender.
-/// A selector is a pointer to an entry of the class's action table.
+/// A method of a class that a control can call by its selector's name. It takes the sender, as a
+/// pointer or a reference, or nothing. A selector is a pointer to an entry of the class's action
+/// table.
 struct Action {
     std::string_view name;            ///< with the colon, "changedScanMode:"
     const std::type_info* senderType; ///< what the method takes
@@ -44,6 +45,33 @@ struct MemberTraits<void (OwnerType::*)(SenderType*)> {
     using Sender = SenderType;
 };
 
+template <class OwnerType, class SenderType>
+struct MemberTraits<void (OwnerType::*)(SenderType&)> {
+    using Owner = OwnerType;
+    using Sender = std::remove_const_t<SenderType>;
+};
+
+template <class OwnerType>
+struct MemberTraits<void (OwnerType::*)()> {
+    using Owner = OwnerType;
+    using Sender = NSObject; // any
+};
+
+/// Null if it is no such object.
+template <class Type, class Object>
+Type* as(Object* object) {
+    return dynamic_cast<Type*>(object);
+}
+
+/// The type of the method at the end of a chain.
+template <auto First, auto... Rest>
+struct Last : Last<Rest...> {};
+
+template <auto Method>
+struct Last<Method> {
+    using Type = decltype(Method);
+};
+
 /// The field at the end of a chain of pointers to members.
 template <auto First, auto... Rest, class Owner>
 auto& follow(Owner& owner) {
@@ -51,6 +79,19 @@ auto& follow(Owner& owner) {
         return owner.*First;
     else
         return follow<Rest...>(owner.*First);
+}
+
+/// Calls the method at the end of a chain.
+template <auto First, auto... Rest, class Owner, class Sender>
+void call(Owner& owner, Sender& sender) {
+    if constexpr (sizeof...(Rest) > 0)
+        call<Rest...>(owner.*First, sender);
+    else if constexpr (std::is_invocable_v<decltype(First), Owner&>)
+        (owner.*First)();
+    else if constexpr (std::is_invocable_v<decltype(First), Owner&, Sender&>)
+        (owner.*First)(sender);
+    else
+        (owner.*First)(&sender);
 }
 
 } // namespace wiring
@@ -74,15 +115,17 @@ constexpr Outlet outletRow(std::string_view name) {
             }};
 }
 
-/// A row of an action table: `actionRow<&SliderController::incValue>("incValue:")`.
-template <auto Method>
+/// A row of an action table: `actionRow<&SliderController::incValue>("incValue:")`. The method may
+/// be that of a part of the owner, as in outletRow.
+template <auto First, auto... Rest>
 constexpr Action actionRow(std::string_view name) {
-    using Owner = typename wiring::MemberTraits<decltype(Method)>::Owner;
-    using Sender = typename wiring::MemberTraits<decltype(Method)>::Sender;
+    using Owner = typename wiring::MemberTraits<decltype(First)>::Owner;
+    using Method = typename wiring::Last<First, Rest...>::Type;
+    using Sender = typename wiring::MemberTraits<Method>::Sender;
     return {name, &typeid(Sender),
-            [](const NSObject& sender) { return dynamic_cast<const Sender*>(&sender) != nullptr; },
+            [](const NSObject& sender) { return wiring::as<const Sender>(&sender) != nullptr; },
             [](NSObject& target, NSObject& sender) {
-                if (auto* typed = dynamic_cast<Sender*>(&sender))
-                    (static_cast<Owner&>(target).*Method)(typed);
+                if (auto* typed = wiring::as<Sender>(&sender))
+                    wiring::call<First, Rest...>(static_cast<Owner&>(target), *typed);
             }};
 }

@@ -65,8 +65,8 @@ OSErr handleSetSettings(const AppleEvent* event, AppleEvent*, void*) {
         return error;
     PrefsRecord taken = prefs;
     const SettingSet settings(bits);
-    if (recordSize < kRecordSize || recordSize > sizeof record || bitsSize != sizeof bits || settings.to_ullong() != bits ||
-        !takeSettings(settings, record, taken))
+    if (recordSize < kRecordSize || recordSize > sizeof record || bitsSize != sizeof bits ||
+        settings.to_ullong() != bits || !takeSettings(settings, record, taken))
         return paramErr;
     takeChange(settings, taken);
     return noErr;

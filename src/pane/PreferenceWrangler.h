@@ -7,7 +7,6 @@
 #include "src/pane/SwitchGuard.h"
 #include "src/pane/area/ScanAreaChooser.h"
 #include "src/pane/hotkeys/HotKeyEditor.h"
-#include "src/pane/hotkeys/HotKeyView.h"
 #include "src/pane/look/LineColorChooser.h"
 #include "src/pane/palette/PaletteEditor.h"
 #include "src/pane/pointers/PointerChooser.h"
@@ -33,8 +32,6 @@ class SampleScanView;
 /// fills its outlets; each has the name of its setting.
 class PreferenceWrangler final : public NSObject,
                                  public NumberChangeTarget,
-                                 public PaletteViewTarget,
-                                 public HotKeyViewTarget,
                                  public TryPageTarget,
                                  public FirstStepsTarget,
                                  public ProfileTarget {
@@ -117,32 +114,6 @@ public:
     /// Whether Korvex is on and how it starts isn't reset.
     void resetSettings(NSButton* sender);
 
-    // HotKeyEditor: hot keys
-
-    // Only during a capture; else they do nothing.
-    void setHotKeyToNone(NSButton*) { hotKeys_.setHotKeyToNone(); }
-
-    void setHotKeyToDefault(NSButton*) { hotKeys_.setHotKeyToDefault(); }
-
-    void cancelHotKeyEdit(NSButton*) { hotKeys_.cancelHotKeyEdit(); }
-
-    // Sent by the menu beside a hot key, at any time.
-    void captureHotKey(NSMenuItem* sender) { hotKeys_.captureHotKey(*sender); }
-
-    void removeHotKey(NSMenuItem* sender) { hotKeys_.removeHotKey(*sender); }
-
-    void resetHotKey(NSMenuItem* sender) { hotKeys_.resetHotKey(*sender); }
-
-    void chooseHotKey(NSMenuItem* sender) { hotKeys_.chooseHotKey(*sender); }
-
-    void claimHotKey(NSMenuItem* sender) { hotKeys_.claimHotKey(*sender); }
-
-    void restoreHotKey(NSMenuItem* sender) { hotKeys_.restoreHotKey(*sender); }
-
-    void buildHotKey(NSMenuItem* sender) { hotKeys_.builder.take(*sender); }
-
-    void setTargetHotKey(HotKeyView* view) override { hotKeys_.setTargetHotKey(view); }
-
     // PreferenceWranglerLaunch.cpp: launching at login
 
     /// Makes the system's login items fit the setting, and shows both settings of the start.
@@ -150,54 +121,8 @@ public:
     /// stays too, unless the user has just switched the setting on.
     void updateLaunchUI();
 
-    // PaletteEditor: the palette's buttons
-
-    void addPaletteBtn(NSMenuItem* sender) { palette_.addPaletteBtn(*sender); }
-
-    void setPaletteBtnAction(NSMenuItem* sender) { palette_.setPaletteBtnAction(*sender); }
-
-    void removePaletteButton(NSButton*) { palette_.removePaletteButton(); }
-
-    void swapPaletteButtonWith(NSButton*) { palette_.swapPaletteButtonWith(); }
-
-    void paletteBtnHit(PaletteView* view, SInt32 index) override {
-        palette_.paletteBtnHit(view, index);
-    }
-
     /// Offers to undo it.
     void resetPaletteButtons(NSButton* sender);
-
-    void resetPaletteControls() { palette_.resetPaletteControls(); }
-
-    void changedButtonShape(NSMatrix* sender) { palette_.changedButtonShape(*sender); }
-
-    void changedButtonContentName(NSButton* sender) { palette_.changedButtonContentName(*sender); }
-
-    void changedButtonContentIcon(NSButton* sender) { palette_.changedButtonContentIcon(*sender); }
-
-    // ProfileEditor: named states of the settings
-
-    void chooseProfile(NSMenuItem* sender) { profiles_.chooseFromMenu(*sender); }
-
-    void compareProfile(NSMenuItem* sender) { profiles_.compareWith(*sender); }
-
-    void keepProfile(NSMenuItem*) { profiles_.updateInUse(); }
-
-    void showProfiles(NSMenuItem*) { profiles_.showSection(); }
-
-    void useProfile(NSButton*) { profiles_.useChosen(); }
-
-    void updateProfile(NSButton*) { profiles_.updateChosen(); }
-
-    void renameProfile(NSButton*) { profiles_.renameChosen(); }
-
-    void deleteProfile(NSButton*) { profiles_.deleteChosen(); }
-
-    void suggestProfileName(NSButton* sender) { profiles_.suggestName(*sender); }
-
-    void saveProfile(NSButton*) { profiles_.saveNew(); }
-
-    void enterProfileName(NSTextField*) { profiles_.saveNew(); }
 
     // PreferenceWranglerFiles.cpp: settings from a file, and in one
 
@@ -210,16 +135,6 @@ public:
     void findMySpeed(NSButton* sender);
     void openTryPage(NSWindow window) override;
     void takeTime(const Setting& setting, double seconds) override;
-
-    // PointerChooser: the choice of a pointer
-
-    void previousPointer(NSButton*) { pointers_.bumpPointer(false); }
-
-    void nextPointer(NSButton*) { pointers_.bumpPointer(true); }
-
-    // LineColorChooser: the lines' colour
-
-    void changedLineColor(NSColorWell*) { lineColors_.changedLineColor(); }
 
     // PreferenceWranglerScanArea.cpp: the custom scan area
 
@@ -328,7 +243,7 @@ private:
     History history_{prefs};
     SwitchGuard guard_;
     AgentState shownAgent_ = AgentState::NotRunning; ///< as last told
-    HotKeyEditor hotKeys_;
+    HotKeyEditor hotKeys_{*this};
     PaletteEditor palette_{*this};
     PointerChooser pointers_{*this};
     ProfileEditor profiles_{*this};

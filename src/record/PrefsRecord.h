@@ -63,9 +63,9 @@ struct ButtonSize {
     SInt16 height, width;
 };
 
-/// Every setting of the agent: 340 bytes, little-endian, with fixed offsets, and behind them what the
-/// agent reads from the store. The agent gets the 340 bytes, padding included. Flags are 0 or 1. The
-/// initial values are the factory defaults.
+/// Every setting of the agent: 340 bytes, little-endian, with fixed offsets, and behind them what
+/// the agent reads from the store. The agent gets the 340 bytes, padding included. Flags are 0
+/// or 1. The initial values are the factory defaults.
 struct PrefsRecord {
     UInt8 on = 1; ///< the agent's master switch
     UInt8 playClickSounds = 1;

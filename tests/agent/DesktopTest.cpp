@@ -191,7 +191,7 @@ TEST_F(DesktopTest, OtherWindowsAreNoMenus) {
     xcb_change_property(others_->connection(), XCB_PROP_MODE_REPLACE, ours, XCB_ATOM_WM_CLASS,
                         XCB_ATOM_STRING, 8, sizeof kClass, kClass);
     otherWindow({0, 0, kWidth, kHeight});
-    otherWindow({100, 100, 23, 200});
+    otherWindow({100, 100, 15, 200});
     otherWindow({100, 100, 150, 200}, 0, false);       // an ordinary one
     otherWindow({100, 100, 150, 200}, 0, true, false); // not shown
     hold(false);

@@ -55,6 +55,8 @@ TEST(Region, IsWhatIsThereWithItsShareOfTheTimes) {
          {{{0, 600, 1000, 200}, 2, 10, false, 1, PalettePart::None}}},
         {"with its palette above", {.keyboard = {{0, 600, 1000, 200}}, .canEndKeyboard = false},
          {{{0, 550, 1000, 250}, 2.5, 10, false, 1, PalettePart::TopLeft}}},
+        {"or below at the top of the screen", {.keyboard = {{0, 0, 1000, 200}}, .canEndKeyboard = false},
+         {{{0, 0, 1000, 250}, 2.5, 10, false, 1, PalettePart::BottomLeft}}},
         {"menus, at half the speed",
          {.ownArea = kLeft, .keyboard = kLeft,
           .menus = {{1100, 100, 100, 100}, {-50, 700, 100, 200}, {0, 900, 10, 10}}},

@@ -150,8 +150,10 @@ def main(*arguments: str) -> None:
         remove(root)
         stored = plistlib.loads((desktop.config / "Preferences/org.korvex.Agent.plist").read_bytes())
         check(stored["scanner.lineScanTime"] == "13.000000", "the user's settings are gone")
-        autostart = desktop.config / "autostart"
-        check(not autostart.exists(), "without an agent, something starts at login")
+        autostart = desktop.config / "autostart/org.korvex.Agent.desktop"
+        _, _, agent = autostart.read_text().partition("TryExec=/")
+        agent = agent.splitlines()[0].replace("\\s", " ")
+        check(not (root / agent).exists(), "the login would still start an agent")
     print("Removed: nothing is left but the user's settings")
 
 

@@ -51,7 +51,7 @@ HotKeyRow& HotKeyEditor::rowOf(const NSMenuItem& item) {
     return *rows()[static_cast<std::size_t>(item.tag())];
 }
 
-void HotKeyEditor::setup(HotKeyViewTarget& viewTarget, NSObject& menuTarget) {
+void HotKeyEditor::setup(NSObject& menuTarget) {
     static constexpr struct {
         const char* title;
         std::string_view action;
@@ -64,12 +64,11 @@ void HotKeyEditor::setup(HotKeyViewTarget& viewTarget, NSObject& menuTarget) {
         {kRestore, "restoreHotKey:"},
     };
 
-    viewTarget_ = &viewTarget;
     menuTarget_ = &menuTarget;
     builder.setup(menuTarget);
     int index = 0;
     for (const HotKeyRow* row : rows()) {
-        row->view->setTarget(&viewTarget);
+        row->view->setTarget(this);
         row->view->setIndex(index);
         for (const auto& [text, action] : kItems) {
             const std::string title = localized("HotKeys", text);
@@ -133,7 +132,7 @@ void HotKeyEditor::chooseHotKey(const NSMenuItem& sender) {
 void HotKeyEditor::claimHotKey(const NSMenuItem& sender) {
     for (const std::size_t other : sameAs(static_cast<std::size_t>(sender.tag())))
         rows()[other]->view->unassign();
-    viewTarget_->changed(kChangeHotKeys);
+    changed(kChangeHotKeys);
 }
 
 void HotKeyEditor::restoreHotKey(const NSMenuItem& sender) {

@@ -2,15 +2,15 @@
 #pragma once
 
 #include "platform/HIToolbox/EventTimers.h"
+#include "src/controls/NumberController.h"
 #include "src/link/Daemon.h"
 #include "src/pane/hotkeys/HotKeyBuilder.h"
+#include "src/pane/hotkeys/HotKeyView.h"
 #include "src/store/prefs.h"
 
 #include <array>
 #include <vector>
 
-class HotKeyView;
-class HotKeyViewTarget;
 class NSButton;
 class NSMenuItem;
 class NSObject;
@@ -26,7 +26,7 @@ struct HotKeyRow {
 
 /// The wrangler's part for hot keys: a row for each, and two groups of prompts, one of which is
 /// shown. The interface file fills the public fields; none is owned.
-class HotKeyEditor {
+class HotKeyEditor final : public HotKeyViewTarget {
 public:
     HotKeyRow masterOnOff, scan, cancelScan, showPreferences, scan2;
     NSTextField* notEditingKeyPrompt = nullptr;
@@ -36,14 +36,16 @@ public:
     NSButton* noKeyBtn = nullptr;
     HotKeyBuilder builder;
 
-    HotKeyEditor() = default;
+    /// `changes` is told of every edit; not owned.
+    explicit HotKeyEditor(NumberChangeTarget& changes) : changes_(changes) {}
+
     ~HotKeyEditor();
     HotKeyEditor(const HotKeyEditor&) = delete;
     HotKeyEditor& operator=(const HotKeyEditor&) = delete;
 
     /// Assigns each view its index in the record, and each menu its items. They send their actions
     /// to `menuTarget`. Owns none of them.
-    void setup(HotKeyViewTarget& viewTarget, NSObject& menuTarget);
+    void setup(NSObject& menuTarget);
     /// Shows the record's hot keys, with no capture under way.
     void load();
 
@@ -60,7 +62,10 @@ public:
     /// Restores the hot key to its value before the last change.
     void restoreHotKey(const NSMenuItem& sender);
 
-    void setTargetHotKey(HotKeyView* view);
+    void setTargetHotKey(HotKeyView* view) override;
+
+    void changed(ChangeMask changes) override { changes_.changed(changes); }
+
     /// Shows the group of prompts that fits the target.
     void updateHotKeyUI();
     /// Shows beside each hot key what the keyboard calls it, and which others are the same. A user
@@ -80,7 +85,7 @@ private:
     void countDown();
     void stopCountingDown();
 
-    HotKeyViewTarget* viewTarget_ = nullptr;      ///< not owned
+    NumberChangeTarget& changes_;
     NSObject* menuTarget_ = nullptr;              ///< not owned
     HotKeyView* targetHotKey_ = nullptr;          ///< captures, or null
     AgentHold agent_;                             ///< during a capture in an active window

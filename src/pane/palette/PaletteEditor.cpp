@@ -27,9 +27,9 @@ bool isEmptySlot(SInt32 slot) {
 
 } // namespace
 
-void PaletteEditor::setup(PaletteViewTarget& clicks, NSObject& menuTarget) {
+void PaletteEditor::setup(NSObject& menuTarget) {
     setupButtonSizes();
-    paletteView->setTarget(&clicks);
+    paletteView->setTarget(this);
     addActionMenuToCtl(addButtonBtn, menuTarget.selector("addPaletteBtn:"), menuTarget);
     addActionMenuToCtl(setActionBtn, menuTarget.selector("setPaletteBtnAction:"), menuTarget);
 }

@@ -15,7 +15,7 @@ class NumberChangeTarget;
 /// The wrangler's part for the palette's buttons: which there are and how the agent draws them.
 /// After an edit of a slot nothing is selected. The interface file fills the public fields; none is
 /// owned.
-class PaletteEditor final : public NSMenuDelegate {
+class PaletteEditor final : public NSMenuDelegate, public PaletteViewTarget {
 public:
     PaletteView* paletteView = nullptr;
     NSTextField* palettePrompt = nullptr;
@@ -36,7 +36,7 @@ public:
 
     /// Binds the controls. The menus' items send addPaletteBtn: and setPaletteBtnAction: to
     /// `menuTarget`. Owns none of them.
-    void setup(PaletteViewTarget& clicks, NSObject& menuTarget);
+    void setup(NSObject& menuTarget);
 
     // Each shows a part of the record. `load` shows the rest and clears the selection;
     // updateButtonSizes shows the sizes.
@@ -64,7 +64,7 @@ public:
     /// The next click in the palette view swaps the selected button with the clicked one, or
     /// cancels.
     void swapPaletteButtonWith();
-    void paletteBtnHit(PaletteView* view, SInt32 index);
+    void paletteBtnHit(PaletteView* view, SInt32 index) override;
     void resetPaletteButtons();
     void updatePaletteCtls();
     /// Ends a swap and clears the selection.

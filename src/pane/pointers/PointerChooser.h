@@ -23,9 +23,12 @@ public:
     /// Reads the agent's pointers and shows the chosen one.
     void load();
 
-    /// Chooses the next or previous pointer and reports the change, even if it is the same pointer.
-    /// Does nothing when the agent has no pointers.
-    void bumpPointer(bool forward);
+    /// Each reports the change, even if it is the same pointer, and does nothing when the agent has
+    /// no pointers.
+    void previousPointer() { bumpPointer(false); }
+
+    void nextPointer() { bumpPointer(true); }
+
     /// Shows the name of the pointer in the preview.
     void updatePointerName();
 
@@ -44,6 +47,7 @@ private:
 
     const Pointer& at(int index) const { return pointers_[static_cast<std::size_t>(index)]; }
 
+    void bumpPointer(bool forward);
     void take(const std::string& name);
 
     NumberChangeTarget& changes_;

@@ -43,11 +43,15 @@ protected:
         QTest::mouseClick(viewWidget(), Qt::LeftButton, {}, {x, 5});
     }
 
+    static void send(const char* action, NSObject& sender) {
+        theWrangler->selector(action)->send(*theWrangler, sender);
+    }
+
     void setSlots(const Slots& slots) {
         std::istringstream actions(slots);
         for (int i = 0, action; i < kNumPaletteSlots && actions >> action; ++i)
             prefs.buttonActions[i] = static_cast<UInt8>(action);
-        theWrangler->resetPaletteControls();
+        theWrangler->loadValues();
     }
 };
 
@@ -94,11 +98,11 @@ TEST_F(PaletteEditingTest, EachEditMovesTheSlotsAndReachesTheAgent) {
         ASSERT_EQ(view()->selectedBtn(), test.selected);
         item.setTag(test.argument);
         if (test.edit == kAdd)
-            theWrangler->addPaletteBtn(&item);
+            send("addPaletteBtn:", item);
         else if (test.edit == kSet)
-            theWrangler->setPaletteBtnAction(&item);
+            send("setPaletteBtnAction:", item);
         else if (test.edit == kRemove)
-            theWrangler->removePaletteButton(nullptr);
+            send("removePaletteButton:", item);
         else
             click(test.edit == kReset ? "resetActionsBtn" : "swapWithBtn");
         if (test.edit == kSwap)
