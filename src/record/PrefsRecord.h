@@ -132,48 +132,7 @@ struct PrefsRecord {
 /// What the agent gets, in bytes.
 constexpr std::size_t kRecordSize = 340;
 static_assert(offsetof(PrefsRecord, snapping) == kRecordSize);
-static_assert(offsetof(PrefsRecord, on) == 0);
-static_assert(offsetof(PrefsRecord, playClickSounds) == 1);
-static_assert(offsetof(PrefsRecord, reserved2) == 2);
-static_assert(offsetof(PrefsRecord, playDragPrompts) == 3);
-static_assert(offsetof(PrefsRecord, priorityScheduling) == 4);
-static_assert(offsetof(PrefsRecord, launchAtLogin) == 5);
-static_assert(offsetof(PrefsRecord, activateAtLaunch) == 6);
-static_assert(offsetof(PrefsRecord, soundLevel) == 8);
-static_assert(offsetof(PrefsRecord, canScanMenuBar) == 12);
-static_assert(offsetof(PrefsRecord, minTriggerDuration) == 16);
-static_assert(offsetof(PrefsRecord, afterClickDelay) == 24);
-static_assert(offsetof(PrefsRecord, preScanDelay) == 32);
-static_assert(offsetof(PrefsRecord, inverseReleaseTime) == 40);
-static_assert(offsetof(PrefsRecord, stepScanCancelTime) == 48);
-static_assert(offsetof(PrefsRecord, wantHotKeyTrigger) == 56);
-static_assert(offsetof(PrefsRecord, wantMouseClickTrigger) == 57);
-static_assert(offsetof(PrefsRecord, triggerOnRelease) == 58);
-static_assert(offsetof(PrefsRecord, fakeMouse2SwitchMode) == 59);
-static_assert(offsetof(PrefsRecord, scanMode) == 60);
-static_assert(offsetof(PrefsRecord, scanArea) == 64 && sizeof(ScanArea) == 16);
-static_assert(offsetof(PrefsRecord, useScanArea) == 80);
-static_assert(offsetof(PrefsRecord, lineScanCanEndKybdMode) == 81);
-static_assert(offsetof(PrefsRecord, lineScanTime) == 84);
-static_assert(offsetof(PrefsRecord, pointerScanTime) == 92);
-static_assert(offsetof(PrefsRecord, menuScanSpeedScaleFactor) == 100);
-static_assert(offsetof(PrefsRecord, useScanAcceleration) == 108);
-static_assert(offsetof(PrefsRecord, autoRepeatTime) == 112);
-static_assert(offsetof(PrefsRecord, clickDuration) == 120);
-static_assert(offsetof(PrefsRecord, interClickDelay) == 128);
-static_assert(offsetof(PrefsRecord, lineColor) == 136 && sizeof(LineColor) == 6);
-static_assert(offsetof(PrefsRecord, lineThickness) == 144);
-static_assert(offsetof(PrefsRecord, lineTransparency) == 148);
-static_assert(offsetof(PrefsRecord, lineGhostTransparency) == 156);
-static_assert(offsetof(PrefsRecord, pointerImageName) == 164);
-static_assert(offsetof(PrefsRecord, hotKeys) == 264 && sizeof(HotKey) == 8);
-static_assert(offsetof(PrefsRecord, borderGap) == 304);
-static_assert(offsetof(PrefsRecord, buttonGap) == 308);
-static_assert(offsetof(PrefsRecord, buttonSize) == 312 && offsetof(ButtonSize, width) == 2);
-static_assert(offsetof(PrefsRecord, buttonShape) == 316);
-static_assert(offsetof(PrefsRecord, buttonContent) == 320);
-static_assert(offsetof(PrefsRecord, buttonActions) == 324);
-static_assert(offsetof(PrefsRecord, reservedTail) == 336);
+static_assert(offsetof(ButtonSize, width) == 2);
 
 /// Whether the area can be scanned: both sides are greater than zero.
 inline bool isUsable(const ScanArea& area) {

@@ -228,6 +228,21 @@ def set_by_command(this: Scanner) -> str:
     return f"{heard}; the pointer went by it"
 
 
+def click_beside_a_button(this: Scanner) -> str:
+    """Click below a button that stands alone: the ring shows it, and it is hit"""
+    box = this.tour.screen.find("Undo", "push button").box
+    below = Box(box.left, box.bottom + 5, box.right, box.bottom + 7)
+    x, y = map(int, below.centre)
+    stopped = this.stop(this.start(), y / SIZE[1], this.line_time)
+    sleep_until(stopped.middle + DELAY + box.left / SIZE[0] * this.pointer_time)
+    this.tour.picture("ring", moves=True)
+    this.cancel()
+    this.click(below)
+    heard = this.tour.log.expect_change(SCAN_SPEED, "pointerScanTime", POINTER)
+    this.pointer_time = POINTER
+    return f"{heard} again"
+
+
 def scan_an_own_area(this: Scanner) -> str:
     """Scan only an area of one's own"""
     left, top, width, height = EDITOR
@@ -337,6 +352,7 @@ STEPS = (
     click_in_another_program,
     change_the_speed,
     set_by_command,
+    click_beside_a_button,
     scan_an_own_area,
     scan_a_menu,
     drag_by_hand,

@@ -50,10 +50,11 @@ std::string bytesOf(const PrefsRecord& record, std::size_t offset = 0,
 
 /// The tables of docs/agent-contract.md.
 struct Contract {
-    QByteArray record = QByteArray(sizeof(PrefsRecord), '\0'); ///< of all defaults
-    Texts notations;                                           ///< by key
-    std::map<std::string, ChangeMask> masks;                   ///< by key
-    Texts examples;                                            ///< by notation
+    QByteArray record = QByteArray(sizeof(PrefsRecord), '\0');         ///< of all defaults
+    Texts notations;                                                   ///< by key
+    std::map<std::string, ChangeMask> masks;                           ///< by key
+    std::map<std::string, std::pair<std::size_t, std::size_t>> places; ///< offset and size, by key
+    Texts examples;                                                    ///< by notation
 
     Contract() {
         std::istringstream page(readFile(CONTRACT));
@@ -64,6 +65,7 @@ struct Contract {
             if (cells.size() == 10 && cells[2].toInt() > 0) {
                 write(cells[1].toInt(), cells[2].toInt(), cells[3], cells[5]);
                 masks[cells[7].toStdString()] = cells[6].toUInt(nullptr, 0);
+                places[cells[7].toStdString()] = {cells[1].toUInt(), cells[2].toUInt()};
                 if (!cells[8].isEmpty())
                     notations[cells[7].toStdString()] = cells[8].toStdString();
             } else if (cells.size() == 7 && cells[2].toInt() > 0) {
@@ -103,8 +105,12 @@ private:
 TEST(PrefsTest, AFreshRecordAndTheKeysNotationsAndMasksAreThoseOfTheContract) {
     const Contract contract;
     EXPECT_EQ(bytesOf(prefs), contract.record.toHex().toStdString());
-    for (const Setting& setting : kSettings)
+    for (const Setting& setting : kSettings) {
         EXPECT_EQ(setting.changes, contract.masks.at(setting.key)) << setting.key;
+        const auto [offset, size] = contract.places.at(setting.key);
+        EXPECT_EQ(setting.offset, offset) << setting.key;
+        EXPECT_EQ(setting.size, setting.notation == &kSizeNotation ? 2 * size : size);
+    }
     ASSERT_TRUE(savePrefs());
     EXPECT_EQ(storedTexts().size(), contract.notations.size());
     for (const auto& [key, notation] : contract.notations) {
