@@ -11,6 +11,7 @@
 #include "src/controls/BumperController.h"
 #include "src/controls/SliderController.h"
 #include "src/pane/look/SampleScanView.h"
+#include "src/record/settingwords.h"
 
 #include <algorithm>
 
@@ -38,6 +39,7 @@ void wranglerShowAgentState() {
 /// Outlets and actions of the interface file that aren't in the table of settings.
 struct PreferenceWrangler::Tables {
     using W = PreferenceWrangler;
+    using Area = ScanAreaChooser;
     using Keys = HotKeyEditor;
     using Palette = PaletteEditor;
     using Profiles = ProfileEditor;
@@ -55,12 +57,12 @@ struct PreferenceWrangler::Tables {
         outletRow<&W::launchAtLogin_>("launchAtLogin"),
         outletRow<&W::lineColors_, &LineColorChooser::lineColor>("lineColor"),
         outletRow<&W::lineColors_, &LineColorChooser::lineColorGrid>("lineColorGrid"),
-        outletRow<&W::resetBtns_, &ResetButtons::scanning>("scanningResetBtn"),
-        outletRow<&W::resetBtns_, &ResetButtons::presses>("pressesResetBtn"),
-        outletRow<&W::resetBtns_, &ResetButtons::look>("lookResetBtn"),
-        outletRow<&W::resetBtns_, &ResetButtons::palette>("paletteResetBtn"),
-        outletRow<&W::resetBtns_, &ResetButtons::general>("generalResetBtn"),
-        outletRow<&W::resetBtns_, &ResetButtons::all>("allResetBtn"),
+        outletRow<&W::marks_, &DefaultMarks::scanningResetBtn>("scanningResetBtn"),
+        outletRow<&W::marks_, &DefaultMarks::pressesResetBtn>("pressesResetBtn"),
+        outletRow<&W::marks_, &DefaultMarks::lookResetBtn>("lookResetBtn"),
+        outletRow<&W::marks_, &DefaultMarks::paletteResetBtn>("paletteResetBtn"),
+        outletRow<&W::marks_, &DefaultMarks::generalResetBtn>("generalResetBtn"),
+        outletRow<&W::marks_, &DefaultMarks::allResetBtn>("allResetBtn"),
         outletRow<&W::masterOnOffRadios_>("masterOnOffRadios"),
         outletRow<&W::masterState_>("masterState"),
         outletRow<&W::palette_, &Palette::palettePrompt>("palettePrompt"),
@@ -79,12 +81,12 @@ struct PreferenceWrangler::Tables {
         outletRow<&W::palette_, &Palette::removeButtonBtn>("removeButtonBtn"),
         outletRow<&W::palette_, &Palette::resetActionsBtn>("resetActionsBtn"),
         outletRow<&W::sampleScanImage_>("sampleScanImage"),
-        outletRow<&W::scanAreaText_>("scanAreaText"),
-        outletRow<&W::scanAreas_, &ScanAreaChooser::scanAreaGrid>("scanAreaGrid"),
-        outletRow<&W::scanAreas_, &ScanAreaChooser::scanAreaLeft>("scanAreaLeft"),
-        outletRow<&W::scanAreas_, &ScanAreaChooser::scanAreaTop>("scanAreaTop"),
-        outletRow<&W::scanAreas_, &ScanAreaChooser::scanAreaWidth>("scanAreaWidth"),
-        outletRow<&W::scanAreas_, &ScanAreaChooser::scanAreaHeight>("scanAreaHeight"),
+        outletRow<&W::scanAreas_, &Area::scanAreaText>("scanAreaText"),
+        outletRow<&W::scanAreas_, &Area::scanAreaGrid>("scanAreaGrid"),
+        outletRow<&W::scanAreas_, &Area::scanAreaLeft>("scanAreaLeft"),
+        outletRow<&W::scanAreas_, &Area::scanAreaTop>("scanAreaTop"),
+        outletRow<&W::scanAreas_, &Area::scanAreaWidth>("scanAreaWidth"),
+        outletRow<&W::scanAreas_, &Area::scanAreaHeight>("scanAreaHeight"),
         outletRow<&W::scanModeRadios_>("scanModeRadios"),
         outletRow<&W::palette_, &Palette::setActionBtn>("setActionBtn"),
         outletRow<&W::palette_, &Palette::swapWithBtn>("swapWithBtn"),
@@ -92,7 +94,7 @@ struct PreferenceWrangler::Tables {
         outletRow<&W::redoBtn_>("redoBtn"),
         outletRow<&W::triggerOnReleaseRadios_>("triggerOnReleaseRadios"),
         outletRow<&W::undoBtn_>("undoBtn"),
-        outletRow<&W::useScanAreaRadios_>("useScanAreaRadios"),
+        outletRow<&W::scanAreas_, &Area::useScanAreaRadios>("useScanAreaRadios"),
         outletRow<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::view>("masterOnOffKey"),
         outletRow<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::menu>("masterOnOffKeyBtn"),
         outletRow<&W::hotKeys_, &Keys::masterOnOff, &HotKeyRow::note>("masterOnOffKeyNote"),
@@ -126,13 +128,13 @@ struct PreferenceWrangler::Tables {
         actionRow<&W::showFirstSteps>("showFirstSteps:"),
         actionRow<&W::undo>("undo:"),
         actionRow<&W::redo>("redo:"),
-        actionRow<&W::resetSettings>("resetSettings:"),
+        actionRow<&W::marks_, &DefaultMarks::resetSettings>("resetSettings:"),
         actionRow<&W::changedMasterOnOff>("changedMasterOnOff:"),
-        actionRow<&W::changedUseScanArea>("changedUseScanArea:"),
+        actionRow<&W::scanAreas_, &Area::changedUseScanArea>("changedUseScanArea:"),
         actionRow<&W::changedTriggerOnRelease>("changedTriggerOnRelease:"),
         actionRow<&W::changedScanMode>("changedScanMode:"),
         actionRow<&W::lineColors_, &LineColorChooser::changedLineColor>("changedLineColor:"),
-        actionRow<&W::setCustomScanArea>("setCustomScanArea:"),
+        actionRow<&W::scanAreas_, &Area::setCustomScanArea>("setCustomScanArea:"),
         actionRow<&W::hotKeys_, &Keys::setHotKeyToNone>("setHotKeyToNone:"),
         actionRow<&W::hotKeys_, &Keys::setHotKeyToDefault>("setHotKeyToDefault:"),
         actionRow<&W::hotKeys_, &Keys::cancelHotKeyEdit>("cancelHotKeyEdit:"),
@@ -165,8 +167,8 @@ struct PreferenceWrangler::Tables {
         actionRow<&W::profiles_, &Profiles::suggestName>("suggestProfileName:"),
         actionRow<&W::profiles_, &Profiles::saveNew>("saveProfile:"),
         actionRow<&W::profiles_, &Profiles::saveNew>("enterProfileName:"),
-        actionRow<&W::importSettings>("importSettings:"),
-        actionRow<&W::exportSettings>("exportSettings:"),
+        actionRow<&W::files_, &SettingsFiles::importSettings>("importSettings:"),
+        actionRow<&W::files_, &SettingsFiles::exportSettings>("exportSettings:"),
     };
 };
 
@@ -194,14 +196,42 @@ void PreferenceWrangler::setup() {
     pointers_.setup();
     lineColors_.setup();
     scanAreas_.setup();
-    setupDefaults();
+    setupMarks();
     profiles_.setup(*this);
     theWrangler = this;
 }
 
+void PreferenceWrangler::setupMarks() {
+    constexpr std::size_t kKeys = offsetof(PrefsRecord, hotKeys);
+    constexpr std::size_t kSize = offsetof(PrefsRecord, buttonSize);
+    constexpr std::size_t kContent = offsetof(PrefsRecord, buttonContent);
+    std::vector<DefaultMarks::Place> places = {
+        {kKeys, sizeof(HotKey), hotKeys_.masterOnOff.view},
+        {kKeys + sizeof(HotKey), sizeof(HotKey), hotKeys_.scan.view},
+        {kKeys + 2 * sizeof(HotKey), sizeof(HotKey), hotKeys_.cancelScan.view},
+        {kKeys + 3 * sizeof(HotKey), sizeof(HotKey), hotKeys_.showPreferences.view},
+        {kKeys + 4 * sizeof(HotKey), sizeof(HotKey), hotKeys_.scan2.view},
+        {kSize + offsetof(ButtonSize, width), sizeof(SInt16), palette_.buttonWidth->view()},
+        {kSize + offsetof(ButtonSize, height), sizeof(SInt16), palette_.buttonHeight->view()},
+        {kContent, 1, palette_.buttonContentIconCheck, kButtonContentIcon},
+        {kContent, 1, palette_.buttonContentNameCheck, kButtonContentName},
+    };
+
+    SettingSet inParts;
+    for (const std::size_t offset : {kKeys, kContent})
+        inParts.set(rowOf(settingAt(offset)));
+    for (std::size_t row = 0; row < kSettings.size(); ++row)
+        if (NSView* view = viewOf(row); view && !inParts[row])
+            places.push_back({kSettings[row].offset, kSettings[row].size, view});
+    marks_.setup(std::move(places), *prefsTabs_,
+                 [this](const SettingSet& settings, const PrefsRecord& record) {
+                     putBack(settings, record);
+                 });
+}
+
 void PreferenceWrangler::loadValues() {
     showValues(SettingSet().set(), true);
-    updateDefaults(true); // a group of radio buttons is marked at the one that is shown
+    marks_.update(true); // a group of radio buttons is marked at the one that is shown
 }
 
 void PreferenceWrangler::showValues(const SettingSet& settings, bool anew) {
@@ -211,8 +241,8 @@ void PreferenceWrangler::showValues(const SettingSet& settings, bool anew) {
     scanModeRadios_->selectCellWithTag(prefs.scanMode);
     triggerOnReleaseRadios_->selectCellWithTag(prefs.triggerOnRelease != 0);
     palette_.loadShape();
-    updateScanAreaRadios();
-    updateScanAreaText();
+    scanAreas_.updateRadios();
+    scanAreas_.updateText();
     if (anew) {
         shownLaunchAtLogin_ = prefs.launchAtLogin != 0;
         updateLaunchUI();
@@ -263,4 +293,18 @@ void PreferenceWrangler::showHelpPage(const CFString* page) {
 
 void PreferenceWrangler::showFirstSteps(NSButton* sender) {
     firstStepsOpen(ownBundle(), sender->window(), *this);
+}
+
+void PreferenceWrangler::findMySpeed(NSButton* sender) {
+    openTryPage(sender->window());
+}
+
+void PreferenceWrangler::openTryPage(NSWindow window) {
+    tryPageOpen(ownBundle(), window, *this);
+}
+
+void PreferenceWrangler::takeTime(const Setting& setting, double seconds) {
+    setSettingNumber(setting, seconds, prefs);
+    loadNumbers(SettingSet().set());
+    changed(setting.changes);
 }

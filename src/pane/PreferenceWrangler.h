@@ -4,6 +4,7 @@
 #include "src/controls/NumberController.h"
 #include "src/firststeps/FirstStepsPage.h"
 #include "src/link/Daemon.h"
+#include "src/pane/DefaultMarks.h"
 #include "src/pane/SwitchGuard.h"
 #include "src/pane/area/ScanAreaChooser.h"
 #include "src/pane/hotkeys/HotKeyEditor.h"
@@ -11,6 +12,7 @@
 #include "src/pane/palette/PaletteEditor.h"
 #include "src/pane/pointers/PointerChooser.h"
 #include "src/pane/profiles/ProfileEditor.h"
+#include "src/pane/profiles/SettingsFiles.h"
 #include "src/record/settings.h"
 #include "src/store/history.h"
 #include "src/tryout/TryPage.h"
@@ -69,9 +71,7 @@ public:
     void updateTriggerUI();
     /// Makes the preview show that line. Doesn't redraw it.
     void showSampleLineType(SInt32 type);
-    void updateScanAreaRadios();
 
-    void changedUseScanArea(NSMatrix* sender);
     void changedTriggerOnRelease(NSMatrix* sender);
     void changedScanMode(NSMatrix* sender);
 
@@ -95,8 +95,7 @@ public:
     void beginHistory();
     /// Sets those settings to the record's values, as one change.
     void adopt(const SettingSet& settings, const PrefsRecord& record) override;
-    /// Sets the settings to what a file offers, and says so with a button that undoes it.
-    void takeImport(const SettingsOffer& offer);
+    void takeImport(const SettingsOffer& offer) override;
     /// Another profile is in use. That is no step by itself.
     void noteProfile() override;
     void changedElsewhere(const SettingSet& settings, const PrefsRecord& record);
@@ -108,14 +107,6 @@ public:
 
     void redo(NSButton* sender);
 
-    // PreferenceWranglerDefaults.cpp: what isn't at its default
-
-    /// Resets the settings that the button stands for, a section's or all, to their defaults.
-    /// Whether Korvex is on and how it starts isn't reset.
-    void resetSettings(NSButton* sender);
-
-    // PreferenceWranglerLaunch.cpp: launching at login
-
     /// Makes the system's login items fit the setting, and shows both settings of the start.
     /// Without the agent's bundle the login items stay. An item that was switched off elsewhere
     /// stays too, unless the user has just switched the setting on.
@@ -124,32 +115,18 @@ public:
     /// Offers to undo it.
     void resetPaletteButtons(NSButton* sender);
 
-    // PreferenceWranglerFiles.cpp: settings from a file, and in one
-
-    /// Shows what a file has. Nothing changes before the user agrees.
-    void importSettings(NSButton* sender);
-    void exportSettings(NSButton* sender);
-
-    // PreferenceWranglerTryout.cpp: finding the speed of the line
+    // PreferenceWrangler.cpp: finding the speed of the line
 
     void findMySpeed(NSButton* sender);
     void openTryPage(NSWindow window) override;
     void takeTime(const Setting& setting, double seconds) override;
-
-    // PreferenceWranglerScanArea.cpp: the custom scan area
-
-    /// Shows the area in words.
-    void updateScanAreaText();
-    /// Updates everything that shows the area or whether it is used.
-    void showScanArea();
-    /// Lets the user draw an area and then scans only that. An empty area means the whole screen.
-    void setCustomScanArea(NSButton* sender);
 
 private:
     struct Tables;
 
     /// The pane's bundle; null while none is loaded.
     static const CFBundle* ownBundle();
+    void setupMarks();
     /// Shows those settings in their controls. `anew`: also what lies outside of the record, such
     /// as displays and pointers' pictures.
     void showValues(const SettingSet& settings, bool anew);
@@ -164,47 +141,12 @@ private:
     void updateHistoryUI();
     /// The view that shows a setting. Null if it has no control.
     NSView* viewOf(std::size_t row) const;
-    /// The view of the first difference; of several hot keys the one that differs.
-    NSView* viewOf(const SettingSet& settings, const PrefsRecord& before,
-                   const PrefsRecord& after) const;
     /// Call it after those fields were set from elsewhere. A record that is as stored needs no
     /// saving any more.
     void showAndReport(const SettingSet& settings);
 
     /// Sets those settings to the record's values and says what has changed.
     void putBack(const SettingSet& settings, const PrefsRecord& record);
-
-    // PreferenceWranglerDefaults.cpp
-
-    /// A setting, or a part of one with its own row: bytes of the record, or bits of one.
-    struct DefaultPlace {
-        std::size_t offset, size;
-        NSView* view;
-        UInt8 bits = 0xFF;
-
-        bool isSameIn(const PrefsRecord& a, const PrefsRecord& b) const;
-    };
-
-    struct ResetButtons {
-        NSButton *scanning = nullptr, *presses = nullptr, *look = nullptr, *palette = nullptr,
-                 *general = nullptr, *all = nullptr;
-    };
-
-    /// A button and the settings that it resets.
-    struct Reset {
-        NSButton* button;
-        SettingSet settings;
-    };
-
-    void setupDefaults();
-    /// Marks rows that aren't at their defaults: those that changed since the last call, or all.
-    void updateDefaults(bool all = false);
-    void markPlace(std::size_t place);
-    void updateResets();
-    /// The record with that place at its default.
-    PrefsRecord withDefault(const DefaultPlace& place) const;
-    void putPlaceBack(std::size_t place);
-    const NSView* pageOf(const NSView* view) const;
 
     // PreferenceWranglerSettings.cpp: what the table of settings says of numbers and check boxes
 
@@ -226,27 +168,21 @@ private:
     NSMatrix* masterOnOffRadios_ = nullptr;
     NSTextField* masterState_ = nullptr;
     SampleScanView* sampleScanImage_ = nullptr;
-    NSTextField* scanAreaText_ = nullptr;
     NSMatrix* scanModeRadios_ = nullptr;
     NSTabView* prefsTabs_ = nullptr;
     NSButton* redoBtn_ = nullptr;
     NSMatrix* triggerOnReleaseRadios_ = nullptr;
     NSButton* undoBtn_ = nullptr;
-    NSMatrix* useScanAreaRadios_ = nullptr;
-
-    ResetButtons resetBtns_;
-    std::vector<Reset> resets_;
-    std::vector<DefaultPlace> places_; ///< that are shown
-    PrefsRecord defaults_;             ///< as they were when the visit began
-    PrefsRecord marked_;               ///< the record when marks were last updated
 
     History history_{prefs};
+    DefaultMarks marks_;
     SwitchGuard guard_;
     AgentState shownAgent_ = AgentState::NotRunning; ///< as last told
     HotKeyEditor hotKeys_{*this};
     PaletteEditor palette_{*this};
     PointerChooser pointers_{*this};
     ProfileEditor profiles_{*this};
+    SettingsFiles files_{*this};
     LineColorChooser lineColors_{*this};
     ScanAreaChooser scanAreas_{*this};
 

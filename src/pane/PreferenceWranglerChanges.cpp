@@ -4,6 +4,7 @@
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSMatrix.h"
 #include "src/link/Daemon.h"
+#include "src/login/launch.h"
 #include "src/pane/look/SampleScanView.h"
 
 namespace {
@@ -24,7 +25,7 @@ void PreferenceWrangler::changed(ChangeMask changes) {
     report(changes);
     showChanges(changes);
     noteStep();
-    updateDefaults();
+    marks_.update();
     guard_.follow();
     if (changes & (kChangeTriggers | kChangeHotKeys))
         updateMasterState();
@@ -59,7 +60,7 @@ void PreferenceWrangler::showChanges(ChangeMask changes) {
     if (changes & kChangePalette)
         palette_.updateButtonSizes();
     if (changes & kChangeScanArea)
-        showScanArea();
+        scanAreas_.show();
     if (changes & kChangePointer)
         pointers_.updatePointerName();
     if (changes & kChangeHotKeys)
@@ -74,22 +75,6 @@ void PreferenceWrangler::updateTriggerUI() {
     triggerOnReleaseRadios_->setEnabled(prefs.scanMode == 0);
 }
 
-void PreferenceWrangler::updateScanAreaRadios() {
-    const bool usable = isUsable(prefs.scanArea);
-    useScanAreaRadios_->cellWithTag(1)->setEnabled(usable);
-    if (prefs.useScanArea && !usable) {
-        prefs.useScanArea = 0;
-        changed(kChangeScanArea);
-    }
-    useScanAreaRadios_->selectCellWithTag(prefs.useScanArea);
-}
-
-void PreferenceWrangler::changedUseScanArea(NSMatrix* sender) {
-    prefs.useScanArea = sender->selectedTag() != 0;
-    updateScanAreaRadios();
-    changed(kChangeScanArea);
-}
-
 void PreferenceWrangler::changedTriggerOnRelease(NSMatrix* sender) {
     prefs.triggerOnRelease = sender->selectedTag() != 0;
     changed(kChangeTriggers);
@@ -101,4 +86,17 @@ void PreferenceWrangler::changedScanMode(NSMatrix* sender) {
         return;
     prefs.scanMode = tag;
     changed(kChangeTriggers);
+}
+
+// The login items follow the setting. They are never read back into it, so their state, and whether
+// they could be changed, isn't checked.
+void PreferenceWrangler::updateLaunchUI() {
+    if (const CFBundle* agent = daemonMainBundle()) {
+        const auto url = CFBundleCopyBundleURL(agent);
+        launchFollowSetting(url.get(), prefs.launchAtLogin != 0, !shownLaunchAtLogin_);
+    }
+    shownLaunchAtLogin_ = prefs.launchAtLogin != 0;
+    launchAtLogin_->setEnabled(true);
+    launchAtLogin_->setState(prefs.launchAtLogin);
+    activateAtLaunch_->setState(prefs.activateAtLaunch);
 }

@@ -11,7 +11,6 @@
 #include "platform/CoreFoundation/Localization.h"
 #include "src/controls/BumperController.h"
 #include "src/record/settingwords.h"
-#include "src/store/defaults.h"
 #include "src/store/recovery.h"
 
 #include <chrono>
@@ -42,8 +41,7 @@ UserMessage::Button undoButton(const std::string& label) {
 void PreferenceWrangler::beginHistory() {
     profiles_.load();
     history_ = History(prefs, profiles_.inUse());
-    defaults_ = defaultRecord();
-    updateDefaults(true);
+    marks_.begin();
     updateHistoryUI();
     guard_.begin([this](const SettingSet& settings, const PrefsRecord& record) {
         putBack(settings, record);
@@ -109,7 +107,7 @@ void PreferenceWrangler::showStep(const HistoryStep& step, const PrefsRecord& be
     if (step.profileBefore != step.profileAfter)
         profiles_.setInUse(&before == &step.before ? step.profileAfter : step.profileBefore);
     showAndReport(step.settings);
-    moveTo(viewOf(step.settings, before, after));
+    moveTo(marks_.viewOf(step.settings, before, after));
     palette_.pointAtChange(before, after);
     tellUser(kChangeTopic,
              {.kind = UserMessage::Kind::Note,
@@ -155,7 +153,7 @@ void PreferenceWrangler::showAndReport(const SettingSet& settings) {
     report(changesOf(settings));
     showValues(settings, false);
     noteStep();
-    updateDefaults();
+    marks_.update();
     if (prefsAreAsStored()) {
         prefsWerentChanged();
         recoveryForget();
@@ -182,8 +180,8 @@ NSView* PreferenceWrangler::viewOf(std::size_t row) const {
         {offsetof(PrefsRecord, activateAtLaunch), activateAtLaunch_},
         {offsetof(PrefsRecord, triggerOnRelease), triggerOnReleaseRadios_},
         {offsetof(PrefsRecord, scanMode), scanModeRadios_},
-        {offsetof(PrefsRecord, scanArea), scanAreaText_},
-        {offsetof(PrefsRecord, useScanArea), useScanAreaRadios_},
+        {offsetof(PrefsRecord, scanArea), scanAreas_.scanAreaText},
+        {offsetof(PrefsRecord, useScanArea), scanAreas_.useScanAreaRadios},
         {offsetof(PrefsRecord, lineColor), lineColors_.lineColor},
         {offsetof(PrefsRecord, pointerImageName), pointers_.pointerName},
         {offsetof(PrefsRecord, hotKeys), hotKeys_.scan.view},

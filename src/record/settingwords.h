@@ -7,6 +7,9 @@
 
 #include <string>
 
+/// The topic of what the strip says of changes. The next change removes its message.
+inline constexpr char kChangeTopic[] = "undo";
+
 // A setting's value in people's words and units, in UTF-8.
 
 /// As in "12.5 sec", "on", "40 × 40 points" or "control+shift+X, …".

@@ -9,14 +9,18 @@
 #include <vector>
 
 class BumperController;
+class NSMatrix;
+class NSTextField;
 class NumberChangeTarget;
 
-/// The wrangler's part for scan areas that aren't drawn. Small pictures offer ready ones: each
-/// display, its halves, thirds and quarters, and the window used last. The others are entered as
-/// numbers.
+/// The wrangler's part for the custom scan area, and whether only it is scanned. Small pictures
+/// offer ready ones: each display, its halves, thirds and quarters, and the window used last. The
+/// others are drawn on the screens, or entered as numbers.
 class ScanAreaChooser final : public ChoiceGridSource {
 public:
     // Filled by the interface file; not owned.
+    NSMatrix* useScanAreaRadios = nullptr;
+    NSTextField* scanAreaText = nullptr;
     ChoiceGrid* scanAreaGrid = nullptr;
     BumperController* scanAreaLeft = nullptr;
     BumperController* scanAreaTop = nullptr;
@@ -34,6 +38,21 @@ public:
     void load();
     /// Shows the area after a change.
     void update();
+
+    // ScanAreaDrawing.cpp
+
+    /// Shows whether only the area is scanned. One that is in use but empty is switched off, and
+    /// that is reported.
+    void updateRadios();
+    /// Shows the area in words.
+    void updateText();
+    /// All three.
+    void show();
+    void changedUseScanArea(NSMatrix* sender);
+    /// Lets the user draw an area and then scans only that. An empty area means the whole screen.
+    void setCustomScanArea();
+
+    // ScanAreaChooser.cpp: the pictures
 
     int choiceCount() const override;
     std::string choiceName(int index) const override;

@@ -11,14 +11,13 @@
 class NSButton;
 class NSTextField;
 
-/// The strip's topic for changes. The next change removes its message.
-inline constexpr char kChangeTopic[] = "undo";
-
 /// Changes the settings for the ProfileEditor.
 class ProfileTarget {
 public:
     /// Sets those that differ, as one change.
     virtual void adopt(const SettingSet& settings, const PrefsRecord& record) = 0;
+    /// Sets the settings to what a file offers, and says so with a button that undoes it.
+    virtual void takeImport(const SettingsOffer& offer) = 0;
     virtual void undoChange() = 0;
     /// Another profile is in use now, or none. The settings are the same.
     virtual void noteProfile() = 0;

@@ -35,7 +35,7 @@ TEST_F(AreaTest, TheWholeScreenIsNoAreaAndAMissingSideIsSaid) {
                                      {{0, 0, 0, 480}, "The width is missing."},
                                      {{7, 8, 0, 0}, "none"}}) {
         prefs.scanArea = area;
-        theWrangler->updateScanAreaText();
+        theWrangler->loadValues();
         EXPECT_EQ(find<QLabel>("scanAreaText")->text(), QLatin1String(text));
     }
     EXPECT_EQ(remainingMasks(), std::vector<ChangeMask>{kChangeScanArea});

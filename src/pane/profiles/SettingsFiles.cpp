@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "src/pane/PreferenceWrangler.h"
+#include "src/pane/profiles/SettingsFiles.h"
 
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSSavePanel.h"
 #include "platform/AppKit/UserMessages.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "src/record/settingwords.h"
+#include "src/store/prefs.h"
 #include "src/store/settingsfile.h"
 
 #include <algorithm>
@@ -32,7 +33,7 @@ std::string refusedText(const std::vector<RefusedKey>& refused) {
     return text;
 }
 
-void offerFile(const std::string& path) {
+void offerFile(const std::string& path, ProfileTarget& target) {
     const SettingsOffer offer = readSettingsFile(path, prefs);
     const SettingSet changes = differences(prefs, offer.record);
     if (!offer.error.empty())
@@ -46,12 +47,9 @@ void offerFile(const std::string& path) {
     } else {
         message.text = filled(localized("Profiles", "“%1” would change:"), {fileName(path)}) +
                        changeLines(changes, prefs, offer.record);
-        message.buttons = {{localized("Profiles", "Use them"),
-                            [offer] {
-                                if (theWrangler)
-                                    theWrangler->takeImport(offer);
-                            }},
-                           {localized("Profiles", "Keep mine"), {}}};
+        message.buttons = {
+            {localized("Profiles", "Use them"), [offer, &target] { target.takeImport(offer); }},
+            {localized("Profiles", "Keep mine"), {}}};
     }
     message.text += refusedText(offer.refused);
     tellUser(kChangeTopic, std::move(message));
@@ -59,13 +57,18 @@ void offerFile(const std::string& path) {
 
 } // namespace
 
-void PreferenceWrangler::importSettings(NSButton* sender) {
-    NSOpenPanel panel;
-    panel.setTitle(localized("Profiles", "Import settings"));
-    panel.beginSheetModalForWindow(sender->window(), offerFile);
+SettingsFiles::~SettingsFiles() {
+    withdrawMessage(kChangeTopic); // its button acts on the target
 }
 
-void PreferenceWrangler::exportSettings(NSButton* sender) {
+void SettingsFiles::importSettings(NSButton* sender) {
+    NSOpenPanel panel;
+    panel.setTitle(localized("Profiles", "Import settings"));
+    panel.beginSheetModalForWindow(sender->window(),
+                                   [this](const std::string& path) { offerFile(path, target_); });
+}
+
+void SettingsFiles::exportSettings(NSButton* sender) {
     NSSavePanel panel;
     panel.setTitle(localized("Profiles", "Export settings"));
     panel.setNameFieldStringValue("Korvex.plist");

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "src/pane/PreferenceWrangler.h"
+#include "src/pane/area/ScanAreaChooser.h"
 
+#include "platform/AppKit/NSMatrix.h"
 #include "platform/AppKit/NSTextField.h"
 #include "platform/AppKit/UserMessages.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "src/controls/NumberController.h"
 #include "src/pane/area/choosearea.h"
 #include "src/record/settingwords.h"
+#include "src/store/prefs.h"
 
 #include <utility>
 
@@ -37,32 +40,48 @@ std::string missingText(const ScanArea& area) {
 
 } // namespace
 
-void PreferenceWrangler::updateScanAreaText() {
+void ScanAreaChooser::updateRadios() {
+    const bool usable = isUsable(prefs.scanArea);
+    useScanAreaRadios->cellWithTag(1)->setEnabled(usable);
+    if (prefs.useScanArea && !usable) {
+        prefs.useScanArea = 0;
+        changes_.changed(kChangeScanArea);
+    }
+    useScanAreaRadios->selectCellWithTag(prefs.useScanArea);
+}
+
+void ScanAreaChooser::updateText() {
     const std::string missing = missingText(prefs.scanArea);
-    scanAreaText_->setStringValue(
+    scanAreaText->setStringValue(
         missing.empty() ? settingText(settingAt(offsetof(PrefsRecord, scanArea)), prefs) : missing);
 }
 
-void PreferenceWrangler::showScanArea() {
-    updateScanAreaRadios();
-    updateScanAreaText();
-    scanAreas_.update();
+void ScanAreaChooser::show() {
+    updateRadios();
+    updateText();
+    update();
 }
 
-void PreferenceWrangler::setCustomScanArea(NSButton*) {
+void ScanAreaChooser::changedUseScanArea(NSMatrix* sender) {
+    prefs.useScanArea = sender->selectedTag() != 0;
+    updateRadios();
+    changes_.changed(kChangeScanArea);
+}
+
+void ScanAreaChooser::setCustomScanArea() {
     auto& [x, y, width, height] = prefs.scanArea;
     CGRect area = CGRectMake(x, y, width, height);
     if (!chooseArea(&area)) {
         if (chooseAreaError() != noErr)
-            scanAreaText_->setStringValue(explain(chooseAreaError()));
+            scanAreaText->setStringValue(explain(chooseAreaError()));
         else
             tellOutcome(localized("ScanArea", "What is scanned stays as it was."));
         return;
     }
     prefs.scanArea = {area.origin.x, area.origin.y, area.size.width, area.size.height};
     prefs.useScanArea = !CGRectIsEmpty(area);
-    updateScanAreaRadios();
-    changed(kChangeScanArea);
+    updateRadios();
+    changes_.changed(kChangeScanArea);
     tellOutcome(prefs.useScanArea
                     ? filled(localized("ScanArea", "Only your own area is scanned now: %1."),
                              {settingText(settingAt(offsetof(PrefsRecord, scanArea)), prefs)})

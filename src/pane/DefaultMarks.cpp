@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "src/pane/PreferenceWrangler.h"
+#include "src/pane/DefaultMarks.h"
 
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSTabView.h"
 #include "platform/AppKit/RowMarks.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "src/controls/BumperController.h"
 #include "src/record/settingwords.h"
 #include "src/scan/palutil.h"
+#include "src/store/defaults.h"
+#include "src/store/prefs.h"
 #include "src/store/profiles.h"
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -47,53 +49,34 @@ std::string resetTitle(int count, bool all) {
 
 } // namespace
 
-void PreferenceWrangler::setupDefaults() {
-    constexpr std::size_t kKeys = offsetof(PrefsRecord, hotKeys);
-    constexpr std::size_t kSize = offsetof(PrefsRecord, buttonSize);
-    constexpr std::size_t kContent = offsetof(PrefsRecord, buttonContent);
-    places_ = {
-        {kKeys, sizeof(HotKey), hotKeys_.masterOnOff.view},
-        {kKeys + sizeof(HotKey), sizeof(HotKey), hotKeys_.scan.view},
-        {kKeys + 2 * sizeof(HotKey), sizeof(HotKey), hotKeys_.cancelScan.view},
-        {kKeys + 3 * sizeof(HotKey), sizeof(HotKey), hotKeys_.showPreferences.view},
-        {kKeys + 4 * sizeof(HotKey), sizeof(HotKey), hotKeys_.scan2.view},
-        {kSize + offsetof(ButtonSize, width), sizeof(SInt16), palette_.buttonWidth->view()},
-        {kSize + offsetof(ButtonSize, height), sizeof(SInt16), palette_.buttonHeight->view()},
-        {kContent, 1, palette_.buttonContentIconCheck, kButtonContentIcon},
-        {kContent, 1, palette_.buttonContentNameCheck, kButtonContentName},
-    };
-
-    SettingSet inParts;
-    for (const std::size_t offset : {kKeys, kContent})
-        inParts.set(rowAt(offset));
-    for (std::size_t row = 0; row < kSettings.size(); ++row)
-        if (NSView* view = viewOf(row); view && !inParts[row])
-            places_.push_back({kSettings[row].offset, kSettings[row].size, view});
-
+void DefaultMarks::setup(std::vector<Place> places, const NSView& tabs, PutBack putBack) {
+    places_ = std::move(places);
+    tabs_ = &tabs;
+    putBack_ = std::move(putBack);
     resets_.clear();
-    for (NSButton* button : {resetBtns_.scanning, resetBtns_.presses, resetBtns_.look,
-                             resetBtns_.palette, resetBtns_.general}) {
+    for (NSButton* button :
+         {scanningResetBtn, pressesResetBtn, lookResetBtn, paletteResetBtn, generalResetBtn}) {
         SettingSet settings;
-        for (const DefaultPlace& place : places_)
+        for (const Place& place : places_)
             if (pageOf(place.view) == pageOf(button))
                 settings.set(rowAt(place.offset));
         resets_.push_back({button, settings & profileSettings()});
     }
-    resets_.push_back({resetBtns_.all, profileSettings()});
+    resets_.push_back({allResetBtn, profileSettings()});
 }
 
-bool PreferenceWrangler::DefaultPlace::isSameIn(const PrefsRecord& a, const PrefsRecord& b) const {
+bool DefaultMarks::Place::isSameIn(const PrefsRecord& a, const PrefsRecord& b) const {
     const auto* one = reinterpret_cast<const UInt8*>(&a) + offset;
     const auto* other = reinterpret_cast<const UInt8*>(&b) + offset;
     return std::equal(one, one + size, other,
                       [this](UInt8 x, UInt8 y) { return ((x ^ y) & bits) == 0; });
 }
 
-NSView* PreferenceWrangler::viewOf(const SettingSet& settings, const PrefsRecord& before,
-                                   const PrefsRecord& after) const {
+NSView* DefaultMarks::viewOf(const SettingSet& settings, const PrefsRecord& before,
+                             const PrefsRecord& after) const {
     NSView* view = nullptr;
     std::size_t first = sizeof(PrefsRecord); // the record's bytes are in the settings' order
-    for (const DefaultPlace& place : places_)
+    for (const Place& place : places_)
         if (settings[rowAt(place.offset)] && place.offset < first &&
             !place.isSameIn(before, after)) {
             view = place.view;
@@ -102,13 +85,13 @@ NSView* PreferenceWrangler::viewOf(const SettingSet& settings, const PrefsRecord
     return view;
 }
 
-const NSView* PreferenceWrangler::pageOf(const NSView* view) const {
-    while (view && view->superview() != prefsTabs_)
+const NSView* DefaultMarks::pageOf(const NSView* view) const {
+    while (view && view->superview() != tabs_)
         view = view->superview();
     return view;
 }
 
-PrefsRecord PreferenceWrangler::withDefault(const DefaultPlace& place) const {
+PrefsRecord DefaultMarks::withDefault(const Place& place) const {
     PrefsRecord record = prefs;
     auto* to = reinterpret_cast<UInt8*>(&record) + place.offset;
     const auto* from = reinterpret_cast<const UInt8*>(&defaults_) + place.offset;
@@ -119,7 +102,12 @@ PrefsRecord PreferenceWrangler::withDefault(const DefaultPlace& place) const {
     return record;
 }
 
-void PreferenceWrangler::updateDefaults(bool all) {
+void DefaultMarks::begin() {
+    defaults_ = defaultRecord();
+    update(true);
+}
+
+void DefaultMarks::update(bool all) {
     if (!all && isSame(marked_, prefs))
         return;
     const SettingSet changed = all ? ~SettingSet() : differences(marked_, prefs);
@@ -130,38 +118,36 @@ void PreferenceWrangler::updateDefaults(bool all) {
     updateResets();
 }
 
-void PreferenceWrangler::markPlace(std::size_t place) {
+void DefaultMarks::markPlace(std::size_t place) {
     const PrefsRecord after = withDefault(places_[place]);
-    const auto doesTheSame = [&](const DefaultPlace& each) {
-        return isSame(withDefault(each), after);
-    };
+    const auto doesTheSame = [&](const Place& each) { return isSame(withDefault(each), after); };
     // A whole shows no button while one of its parts offers the same.
-    const DefaultPlace* here = places_.data() + place;
+    const Place* here = places_.data() + place;
     const bool isNeeded = !isSame(after, prefs) && std::none_of(here - place, here, doesTheSame);
     const Setting& setting = kSettings[rowAt(here->offset)];
     setRowMark(*here->view, isNeeded ? putBackText(setting, prefs, after) : "",
                [this, place] { putPlaceBack(place); });
 }
 
-void PreferenceWrangler::updateResets() {
+void DefaultMarks::updateResets() {
     const SettingSet different = differences(prefs, defaults_);
     for (const auto& [button, settings] : resets_) {
         const auto count = static_cast<int>((different & settings).count());
-        button->setTitle(resetTitle(count, button == resetBtns_.all));
+        button->setTitle(resetTitle(count, button == allResetBtn));
         button->setEnabled(count > 0);
     }
 }
 
-void PreferenceWrangler::putPlaceBack(std::size_t place) {
+void DefaultMarks::putPlaceBack(std::size_t place) {
     const PrefsRecord after = withDefault(places_[place]);
-    putBack(differences(prefs, after), after);
+    putBack_(differences(prefs, after), after);
 }
 
-void PreferenceWrangler::resetSettings(NSButton* sender) {
+void DefaultMarks::resetSettings(NSButton* sender) {
     const auto reset = std::ranges::find(resets_, sender, &Reset::button);
     if (reset == resets_.end())
         return;
     const SettingSet different = differences(prefs, defaults_) & reset->settings;
     if (different.any())
-        putBack(different, defaults_);
+        putBack_(different, defaults_);
 }
