@@ -87,7 +87,7 @@ std::vector<Region> menuRegions(const PrefsRecord& record, const std::vector<Are
     return regions;
 }
 
-/// The keyboard's keys, none of which the palette may hide.
+/// The keyboard's keys. The palette hides none of them unless there is no other room.
 Region keyboardRegion(Area area, const PrefsRecord& record, const Screen& screen) {
     if (record.lineScanCanEndKybdMode) {
         Region region = regionAt(area, record, screen);
@@ -95,12 +95,11 @@ Region keyboardRegion(Area area, const PrefsRecord& record, const Screen& screen
         return region;
     }
     const double height = paletteLayout(record, area.width / screen.scale).height * screen.scale;
-    const bool isAbove = area.top - height >= screen.area.top;
-    if (isAbove)
-        area.top -= height;
-    area.height += height;
+    const double top = std::max(area.top - height, screen.area.top);
+    const bool isBelow = area.top - height < top && area.bottom() + height <= screen.area.bottom();
+    area.height += isBelow ? height : std::exchange(area.top, top) - top;
     Region region = regionAt(area, record, screen);
-    region.palette = isAbove ? PalettePart::TopLeft : PalettePart::BottomLeft;
+    region.palette = isBelow ? PalettePart::BottomLeft : PalettePart::TopLeft;
     return region;
 }
 
