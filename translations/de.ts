@@ -388,6 +388,81 @@
     </message>
 </context>
 <context>
+    <name>ColorPage</name>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Turquoise</source>
+        <translation>Türkis</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>Rosa</translation>
+    </message>
+    <message>
+        <source>%1, very light</source>
+        <translation>%1, sehr hell</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>%1, light</source>
+        <translation>%1, hell</translation>
+    </message>
+    <message>
+        <source>Light grey</source>
+        <translation>Hellgrau</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>%1, dark</source>
+        <translation>%1, dunkel</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation>Dunkelgrau</translation>
+    </message>
+    <message>
+        <source>%1, very dark</source>
+        <translation>%1, sehr dunkel</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+</context>
+<context>
     <name>Colour</name>
     <message>
         <source>White</source>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/NSColorWell.h"
 
+#include "platform/AppKit/detail/ColorPage.h"
 #include "platform/AppKit/detail/ColorWellButton.h"
 #include "platform/CoreFoundation/Localization.h"
 
-#include <QColorDialog>
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -56,18 +56,13 @@ void NSColorWell::choose(const NSColor& color) {
 }
 
 void NSColorWell::openChooser() {
-    auto* chooser = widget()->findChild<QColorDialog*>();
-    if (!chooser) {
-        chooser = new QColorDialog(toQColor(color_), widget());
-        chooser->setAttribute(Qt::WA_DeleteOnClose);
-        QObject::connect(chooser, &QColorDialog::currentColorChanged, widget(),
-                         [this](const QColor& tried) { choose(toNSColor(tried)); });
-        QObject::connect(chooser, &QDialog::rejected, widget(), [this, before = color_] {
-            if (toQColor(before) != toQColor(color_))
-                choose(before);
-        });
+    auto* page = widget()->findChild<QDialog*>({}, Qt::FindDirectChildrenOnly);
+    if (!page) {
+        page = new ColorPage(
+            toQColor(color_), [this](const QColor& tried) { choose(toNSColor(tried)); }, widget());
+        page->setAttribute(Qt::WA_DeleteOnClose);
     }
-    chooser->show();
-    chooser->raise();
-    chooser->activateWindow();
+    page->show();
+    page->raise();
+    page->activateWindow();
 }

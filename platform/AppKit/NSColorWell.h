@@ -6,10 +6,11 @@
 
 #include <string>
 
-/// A button that shows a colour and opens the desktop's colour chooser. The action is sent for
-/// every colour tried in the chooser, so its effect shows at once. Cancelling sends it again with
-/// the original colour. The chooser never blocks. When the well is hidden, the chooser closes
-/// without cancelling. In the form the well is a QPushButton promoted to NSColorWell.
+/// A button that shows a colour and opens a page of colours, from which the desktop's chooser is
+/// one press away. The action is sent for every colour tried there, so its effect shows at once.
+/// Cancelling sends it again with the original colour. The page never blocks. When the well is
+/// hidden, the page closes without cancelling. In the form the well is a QPushButton promoted to
+/// NSColorWell.
 class NSColorWell final : public NSControl {
 public:
     void attachWidget(QWidget* widget) override;

@@ -2,6 +2,7 @@
 #include "platform/AppKit/RowMarks.h"
 
 #include "platform/AppKit/NSView.h"
+#include "platform/AppKit/detail/KeyboardFocus.h"
 #include "platform/AppKit/detail/PutBackButton.h"
 
 #include <QLineEdit>
@@ -33,6 +34,13 @@ QWidget* firstIn(const QWidget* around, bool orButton) {
     return nullptr;
 }
 
+QWidget* rowAround(const NSView& view) {
+    QWidget* row = view.widget();
+    while (row && !PutBackButton::of(*row))
+        row = row->parentWidget();
+    return row;
+}
+
 } // namespace
 
 void setRowMark(const NSView& view, const std::string& label, std::function<void()> press) {
@@ -46,9 +54,17 @@ void setRowMark(const NSView& view, const std::string& label, std::function<void
     }
     if (isGroupOfRows)
         return;
-    for (QWidget* row = view.widget(); row; row = row->parentWidget())
-        if (auto* button = PutBackButton::of(*row))
-            return button->offer(text, std::move(press));
+    if (QWidget* row = rowAround(view))
+        PutBackButton::of(*row)->offer(text, std::move(press));
+}
+
+void setRowHidden(const NSView& view, bool hidden) {
+    QWidget* row = rowAround(view);
+    if (!row)
+        return;
+    if (hidden)
+        moveFocusOutOf(row);
+    row->setHidden(hidden);
 }
 
 // A button comes last: another press of the key that undid something would press it.

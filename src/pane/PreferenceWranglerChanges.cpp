@@ -3,15 +3,27 @@
 
 #include "platform/AppKit/NSButton.h"
 #include "platform/AppKit/NSMatrix.h"
+#include "platform/AppKit/RowMarks.h"
 #include "src/link/Daemon.h"
 #include "src/login/launch.h"
 #include "src/pane/look/SampleScanView.h"
+#include "src/record/differences.h"
 
 namespace {
 
 /// Changes that the preview shows.
 constexpr ChangeMask kPreviewChanges =
     kChangeScanLineLook | kChangeGuideLineLook | kChangePointer | kChangePalette;
+
+/// Settings that only one way of scanning uses. Their rows are open while it is chosen.
+constexpr struct {
+    std::size_t offset;
+    SInt32 scanMode;
+} kOfScanModes[] = {
+    {offsetof(PrefsRecord, triggerOnRelease), 0},
+    {offsetof(PrefsRecord, inverseReleaseTime), 1},
+    {offsetof(PrefsRecord, stepScanCancelTime), 2},
+};
 
 } // namespace
 
@@ -73,6 +85,8 @@ void PreferenceWrangler::showSampleLineType(SInt32 type) {
 
 void PreferenceWrangler::updateTriggerUI() {
     triggerOnReleaseRadios_->setEnabled(prefs.scanMode == 0);
+    for (const auto& [offset, scanMode] : kOfScanModes)
+        setRowHidden(*viewOf(rowOf(settingAt(offset))), prefs.scanMode != scanMode);
 }
 
 void PreferenceWrangler::changedTriggerOnRelease(NSMatrix* sender) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/AppKit/detail/ColorWellButton.h"
 
-#include <QColorDialog>
+#include <QDialog>
 #include <QHideEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -10,6 +10,7 @@ namespace {
 
 constexpr QSize kMinimumSize(44, 24);
 constexpr int kBorder = 5; // from the button's edge to the patch: room for the focus ring
+constexpr int kDot = 6;    // radius of the mark of a chosen colour
 
 } // namespace
 
@@ -41,13 +42,18 @@ void ColorWellButton::paintEvent(QPaintEvent*) {
     painter.setPen(palette().color(QPalette::ButtonText));
     painter.setBrush(patch);
     painter.drawRect(rect().adjusted(kBorder, kBorder, -kBorder - 1, -kBorder - 1));
+    if (isChecked()) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(qGray(patch.rgb()) < 128 ? Qt::white : Qt::black);
+        painter.drawEllipse(rect().center(), kDot, kDot);
+    }
 }
 
-// The chooser closes with the button, but not when the window is only minimised.
+// The page closes with the button, but not when the window is only minimised.
 void ColorWellButton::hideEvent(QHideEvent* event) {
-    auto* chooser = findChild<QColorDialog*>();
-    if (chooser && !event->spontaneous()) {
-        chooser->hide();
-        chooser->deleteLater();
+    auto* page = findChild<QDialog*>({}, Qt::FindDirectChildrenOnly);
+    if (page && !event->spontaneous()) {
+        page->hide();
+        page->deleteLater();
     }
 }

@@ -46,7 +46,7 @@ public:
     void updateRadios();
     /// Shows the area in words.
     void updateText();
-    /// All three.
+    /// All three, and the rows of numbers only where there is an area.
     void show();
     void changedUseScanArea(NSMatrix* sender);
     /// Lets the user draw an area and then scans only that. An empty area means the whole screen.

@@ -3,9 +3,10 @@
 
 #include "platform/AppKit/NSMatrix.h"
 #include "platform/AppKit/NSTextField.h"
+#include "platform/AppKit/RowMarks.h"
 #include "platform/AppKit/UserMessages.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "src/controls/NumberController.h"
+#include "src/controls/BumperController.h"
 #include "src/pane/area/choosearea.h"
 #include "src/record/settingwords.h"
 #include "src/store/prefs.h"
@@ -60,6 +61,10 @@ void ScanAreaChooser::show() {
     updateRadios();
     updateText();
     update();
+    // Typed numbers may make an area that can't be used yet.
+    const bool hasNumbers = prefs.useScanArea || !missingText(prefs.scanArea).empty();
+    for (const BumperController* side : {scanAreaLeft, scanAreaTop, scanAreaWidth, scanAreaHeight})
+        setRowHidden(*side->view(), !hasNumbers);
 }
 
 void ScanAreaChooser::changedUseScanArea(NSMatrix* sender) {

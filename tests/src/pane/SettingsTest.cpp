@@ -144,23 +144,34 @@ TEST_F(SettingsTest, ASliderGoesToAClickAndLeavesTheWheelToThePage) {
 TEST_F(SettingsTest, AColourThatIsTriedGoesBackOnlyWhenItIsCancelled) {
     constexpr ChangeMask kLook = kChangeScanLineLook | kChangeGuideLineLook;
     openWithAgent();
-    const auto openChooser = [this] {
+    const auto openPage = [this] {
         QTest::qWait(0);
         click("lineColor");
-        return find("lineColor")->findChild<QColorDialog*>();
+        return find("lineColor")->findChild<QDialog*>();
     };
-    auto* chooser = openChooser();
-    chooser->setCurrentColor(QColor(0, 255, 0));
+    const auto press = [](const QDialog* page, const char* name) {
+        for (auto* button : page->findChildren<QAbstractButton*>())
+            if (button->accessibleName() == QLatin1String(name) ||
+                button->text() == QString::fromUtf8(name))
+                QTest::mouseClick(button, Qt::LeftButton);
+    };
+    auto* page = openPage();
+    press(page, "Green");
     EXPECT_EQ(prefs.lineColor.green, 255);
-    EXPECT_EQ(openChooser(), chooser) << "there is one chooser";
+    EXPECT_EQ(openPage(), page) << "there is one page";
+    press(page, "&More colours…");
+    auto* chooser = page->findChild<QColorDialog*>();
+    chooser->setCurrentColor(QColor(1, 2, 3));
     QTest::keyClick(chooser, Qt::Key_Escape);
+    EXPECT_EQ(prefs.lineColor.green, 255) << "as it was on the page";
+    QTest::keyClick(page, Qt::Key_Escape);
     EXPECT_EQ(prefs.lineColor.green, 0);
-    chooser = openChooser();
-    chooser->setCurrentColor(QColor(9, 9, 9));
+    page = openPage();
+    press(page, "Dark grey");
     window()->hide();
-    EXPECT_FALSE(chooser->isVisible());
-    EXPECT_EQ(prefs.lineColor.red, 9) << "it isn't cancelled";
-    EXPECT_EQ(remainingMasks(), std::vector<ChangeMask>(3, kLook));
+    EXPECT_FALSE(page->isVisible());
+    EXPECT_EQ(prefs.lineColor.red, 64) << "it isn't cancelled";
+    EXPECT_EQ(remainingMasks(), std::vector<ChangeMask>(5, kLook));
 }
 
 TEST_F(SettingsTest, ATypedValueIsTakenOrRefusedAndKept) {

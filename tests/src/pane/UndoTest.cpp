@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QColorDialog>
+#include <QDialogButtonBox>
 #include <QLineEdit>
 
 #include <cstring>
@@ -53,7 +54,11 @@ protected:
 
     void dragColours() {
         click("lineColor");
-        auto* dialog = find("lineColor")->findChild<QColorDialog*>();
+        auto* page = find("lineColor")->findChild<QDialog*>();
+        for (auto* button : page->findChild<QDialogButtonBox*>()->buttons())
+            if (button->text().startsWith(QLatin1String("&More")))
+                button->click();
+        auto* dialog = page->findChild<QColorDialog*>();
         for (const QColor& colour : {QColor(90, 0, 0), QColor(80, 0, 0), QColor(0, 0, 255)})
             dialog->setCurrentColor(colour);
         dialog->accept();
