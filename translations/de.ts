@@ -958,10 +958,6 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
 <context>
     <name>HotKeys</name>
     <message>
-        <source>First choose “Choose keys…” in the menu beside a hot key.</source>
-        <translation>Wählen Sie zuerst „Tasten wählen…“ im Menü neben einer Tastenkombination.</translation>
-    </message>
-    <message>
         <source>New keys for “%1”</source>
         <translation>Neue Tasten für „%1“</translation>
     </message>

@@ -958,10 +958,6 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
 <context>
     <name>HotKeys</name>
     <message>
-        <source>First choose “Choose keys…” in the menu beside a hot key.</source>
-        <translation>Choisissez d’abord «&#xa0;Choisir des touches…&#xa0;» dans le menu à côté d’un raccourci.</translation>
-    </message>
-    <message>
         <source>New keys for “%1”</source>
         <translation>Nouvelles touches pour «&#xa0;%1&#xa0;»</translation>
     </message>

@@ -120,6 +120,7 @@ struct PreferenceWrangler::Tables {
         outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderControl>("builderControl"),
         outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderShift>("builderShift"),
         outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderOption>("builderOption"),
+        outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderRow>("builderRow"),
         outletRow<&W::hotKeys_, &Keys::builder, &Builder::builderKey>("builderKey"),
     };
 

@@ -110,6 +110,7 @@ void ScanAreaChooser::update() {
         numbers_[i] = shown(prefs.scanArea.*kSides[i].field);
         (this->*kSides[i].bumper)->update();
     }
+    showNumberRows();
     reloadGrid();
 }
 

@@ -46,7 +46,7 @@ public:
     void updateRadios();
     /// Shows the area in words.
     void updateText();
-    /// All three, and the rows of numbers only where there is an area.
+    /// All three.
     void show();
     void changedUseScanArea(NSMatrix* sender);
     /// Lets the user draw an area and then scans only that. An empty area means the whole screen.
@@ -68,6 +68,8 @@ private:
     void drawWindow(const Rect& bounds) const;
     void reloadGrid();
     void takeNumbers();
+    /// Opens the numbers' rows only where there is an area.
+    void showNumberRows();
 
     NumberChangeTarget& changes_;
     std::vector<CGRect> displays_;       ///< in global coordinates, like the next

@@ -61,10 +61,13 @@ void ScanAreaChooser::show() {
     updateRadios();
     updateText();
     update();
+}
+
+void ScanAreaChooser::showNumberRows() {
     // Typed numbers may make an area that can't be used yet.
-    const bool hasNumbers = prefs.useScanArea || !missingText(prefs.scanArea).empty();
+    const bool isOpen = prefs.useScanArea || !missingText(prefs.scanArea).empty();
     for (const BumperController* side : {scanAreaLeft, scanAreaTop, scanAreaWidth, scanAreaHeight})
-        setRowHidden(*side->view(), !hasNumbers);
+        setRowHidden(*side->view(), !isOpen);
 }
 
 void ScanAreaChooser::changedUseScanArea(NSMatrix* sender) {

@@ -38,17 +38,9 @@ void HotKeyBuilder::menuNeedsUpdate(NSPopUpButton*) {
     }
 }
 
-void HotKeyBuilder::enable(bool enabled) {
-    for (const auto& [box, bit] : modifiersOf(*this))
-        box->setEnabled(enabled);
-    builderKey->setEnabled(enabled);
-}
-
 void HotKeyBuilder::load() {
     view_ = nullptr;
-    builderTitle->setStringValue(
-        localized("HotKeys", "First choose “Choose keys…” in the menu beside a hot key."));
-    enable(false);
+    builderRow->setHidden(true);
 }
 
 void HotKeyBuilder::begin(HotKeyView& view) {
@@ -57,7 +49,7 @@ void HotKeyBuilder::begin(HotKeyView& view) {
         filled(localized("HotKeys", "New keys for “%1”"), {view.accessibilityLabel()}));
     for (const auto& [box, bit] : modifiersOf(*this))
         box->setState(view.modifiers() & bit ? NSOnState : NSOffState);
-    enable(true);
+    builderRow->setHidden(false);
     builderCommand->window().makeFirstResponder(builderCommand);
 }
 

@@ -12,6 +12,7 @@ class NSTextField;
 /// modifiers and a menu of keys. The interface file fills the public fields; none is owned.
 class HotKeyBuilder final : public NSMenuDelegate {
 public:
+    NSView* builderRow = nullptr; ///< around the others; open while a hot key is built
     NSTextField* builderTitle = nullptr;
     NSButton* builderCommand = nullptr;
     NSButton* builderControl = nullptr;
@@ -30,8 +31,6 @@ public:
     void take(const NSMenuItem& key);
 
 private:
-    void enable(bool enabled);
-
     NSObject* menuTarget_ = nullptr; ///< not owned
     HotKeyView* view_ = nullptr;     ///< whose hot key is being built, or null
 };

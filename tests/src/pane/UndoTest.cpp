@@ -107,11 +107,9 @@ TEST_F(UndoTest, EachKindOfChangeIsOneStepThatIsSaidAndShown) {
         {[&] {
              keys("scanAreaGrid", {Qt::Key_Home, Qt::Key_Right, Qt::Key_Space});
          },
-         "My own area: 400 × 800 at 0, 0 back to 100 × 80 at 0, 0, and 1 more setting.",
-         "scanAreaBtn"},
+         "My own area: 400 × 800 at 0, 0 back to 100 × 80 at 0, 0.", "scanAreaBtn"},
         {[&] { hold("scanAreaWidthIncBtn"); },
-         "My own area: 120 × 80 at 0, 0 back to 100 × 80 at 0, 0, and 1 more setting.",
-         "scanAreaBtn"},
+         "My own area: 120 × 80 at 0, 0 back to 100 × 80 at 0, 0.", "scanAreaBtn"},
         {[&] { dragColours(); }, "Line colour: Blue (#0000ff) back to Red (#640000).", "lineColor"},
         {[&] {
              keys("pointerGrid", {Qt::Key_Home, Qt::Key_Space});
@@ -139,7 +137,8 @@ TEST_F(UndoTest, EachKindOfChangeIsOneStepThatIsSaidAndShown) {
     const std::filesystem::path file =
         std::string(std::getenv("XDG_CONFIG_HOME")) + "/Preferences/org.korvex.Agent.plist";
     const std::string stored =
-        dictionaryFile("<key>scanner.scanArea</key><string>origin(0,0); size(100,80)</string>");
+        dictionaryFile("<key>scanner.scanArea</key><string>origin(0,0); size(100,80)</string>"
+                       "<key>scanner.useScanArea</key><true/>");
     writeFile(file, stored);
     muteNotice();
     openWithAgent();
