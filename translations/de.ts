@@ -461,6 +461,26 @@
         <source>Black</source>
         <translation>Schwarz</translation>
     </message>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>A colour that you press shows at once.</source>
+        <translation>Eine Farbe, auf die Sie drücken, ist sofort zu sehen.</translation>
+    </message>
+    <message>
+        <source>&amp;Use this colour</source>
+        <translation>Diese Farbe &amp;nehmen</translation>
+    </message>
+    <message>
+        <source>&amp;More colours…</source>
+        <translation>&amp;Mehr Farben …</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>Colour</name>

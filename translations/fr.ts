@@ -461,6 +461,26 @@
         <source>Black</source>
         <translation>Noir</translation>
     </message>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Choisir une couleur</translation>
+    </message>
+    <message>
+        <source>A colour that you press shows at once.</source>
+        <translation>La couleur sur laquelle vous appuyez se voit aussitôt.</translation>
+    </message>
+    <message>
+        <source>&amp;Use this colour</source>
+        <translation>&amp;Utiliser cette couleur</translation>
+    </message>
+    <message>
+        <source>&amp;More colours…</source>
+        <translation>&amp;Plus de couleurs…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
 </context>
 <context>
     <name>Colour</name>

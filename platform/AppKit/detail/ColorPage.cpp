@@ -14,6 +14,7 @@
 
 namespace {
 
+/// What is named in a table.
 QString translated(const char* text) {
     return QCoreApplication::translate("ColorPage", text);
 }
@@ -58,11 +59,12 @@ constexpr Tone kTones[] = {
 
 ColorPage::ColorPage(const QColor& shown, std::function<void(const QColor&)> tried, QWidget* parent)
     : QDialog(parent), first_(shown), now_(shown), tried_(std::move(tried)) {
-    setWindowTitle(translated("Choose a colour"));
+    setWindowTitle(QCoreApplication::translate("ColorPage", "Choose a colour"));
     auto* column = new QVBoxLayout(this);
     auto* grid = new QGridLayout;
     addColors(*grid);
-    column->addWidget(new QLabel(translated("A colour that you press shows at once.")));
+    column->addWidget(new QLabel(
+        QCoreApplication::translate("ColorPage", "A colour that you press shows at once.")));
     column->addLayout(grid);
     addButtons();
 }
@@ -89,14 +91,19 @@ void ColorPage::addColors(QGridLayout& grid) {
                 QColor::fromHsl(hue.degrees, 255, tone.lightness).toRgb(), row);
         add(translated(tone.grey), QColor::fromHsl(0, 0, tone.greyLightness).toRgb(), row++);
     }
+    QAbstractButton* chosen = group->checkedButton();
+    (chosen ? chosen : group->buttons().front())->setFocus();
 }
 
 void ColorPage::addButtons() {
     auto* buttons = new QDialogButtonBox(this);
-    auto* keep = buttons->addButton(translated("&Use this colour"), QDialogButtonBox::AcceptRole);
+    auto* keep = buttons->addButton(QCoreApplication::translate("ColorPage", "&Use this colour"),
+                                    QDialogButtonBox::AcceptRole);
     keep->setDefault(true);
-    auto* more = buttons->addButton(translated("&More colours…"), QDialogButtonBox::ActionRole);
-    buttons->addButton(translated("&Cancel"), QDialogButtonBox::RejectRole);
+    auto* more = buttons->addButton(QCoreApplication::translate("ColorPage", "&More colours…"),
+                                    QDialogButtonBox::ActionRole);
+    buttons->addButton(QCoreApplication::translate("ColorPage", "&Cancel"),
+                       QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(more, &QPushButton::clicked, this, [this] { openChooser(); });
