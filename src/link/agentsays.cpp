@@ -11,8 +11,8 @@
 namespace {
 
 constexpr DescType typeUTF8Text = fourCharCode("utf8");
-constexpr std::size_t kLongest = 500; ///< bytes
-constexpr char kTopic[] = "agent";
+constexpr std::size_t kLongest = 500;   ///< bytes
+constexpr char kTopic[] = "agent-says"; // "agent" is what the window says of it
 
 } // namespace
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "platform/CoreServices/detail/ProcessName.h"
 #include "tests/support/PaneFixture.h"
 #include "tests/support/SignalProcess.h"
+
+#include <QDBusConnection>
 
 namespace {
 
@@ -9,6 +12,15 @@ namespace {
 class SwitchTest : public PaneTest {
 protected:
     std::string state() { return find<QLabel>("masterState")->text().toStdString(); }
+
+    /// Another process takes part and is gone again.
+    static void showProcessesAnew() {
+        constexpr char kBus[] = "other";
+        const QString name = formatProcessName({fourCharCode("APPL"), fourCharCode("othr"), 1});
+        QDBusConnection::connectToBus(QDBusConnection::SessionBus, kBus).registerService(name);
+        QDBusConnection::disconnectFromBus(kBus);
+        QTest::qWait(50);
+    }
 
     static bool isAsked() { return told().find("Keep this?") != std::string::npos; }
 
@@ -125,8 +137,9 @@ TEST_F(SwitchTest, AnAgentThatEndsUnaskedIsToldAndStartedAgain) {
     for (const bool byTheStrip : {true, false}) {
         signalProcess(agentPID(), SIGKILL);
         ASSERT_TRUE(QTest::qWaitFor([&] { return state() == "Korvex isn’t running"; }));
-        EXPECT_EQ(told(), "Korvex has ended by itself, so nothing is scanned now.");
         waitForNoAgent();
+        showProcessesAnew();
+        EXPECT_EQ(told(), "Korvex has ended by itself, so nothing is scanned now.");
         byTheStrip ? answer(0) : click("masterOnOffRadios1");
         waitForAgent();
         EXPECT_TRUE(QTest::qWaitFor([&] { return state() == "Ready for your switch"; }));
