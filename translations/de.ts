@@ -2924,8 +2924,8 @@ Zeigt die Einstellungen des Bündels, ohne Angabe die von Korvex.
         <translation>Ein anderes Programm hält die Tastatur. Schließen Sie seine Menüs, dann versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>This desktop lets no window cover the screens. Choose a part above or type numbers; to draw an area, log in to a session with X11 (Xorg).</source>
-        <translation>Auf diesem Desktop darf kein Fenster die Bildschirme bedecken. Wählen Sie oben einen Teil oder geben Sie Zahlen ein; zum Zeichnen melden Sie sich in einer Sitzung mit X11 (Xorg) an.</translation>
+        <source>This desktop lets no window cover the screens. Choose a part above and change its numbers; to draw an area, log in to a session with X11 (Xorg).</source>
+        <translation>Auf diesem Desktop darf kein Fenster die Bildschirme bedecken. Wählen Sie oben einen Teil und ändern Sie seine Zahlen; zum Zeichnen melden Sie sich in einer Sitzung mit X11 (Xorg) an.</translation>
     </message>
     <message>
         <source>Whole screen</source>

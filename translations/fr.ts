@@ -2924,8 +2924,8 @@ Montre le panneau de réglages du paquet, celui de Korvex par défaut.
         <translation>Un autre programme tient le clavier. Fermez ses menus, puis réessayez.</translation>
     </message>
     <message>
-        <source>This desktop lets no window cover the screens. Choose a part above or type numbers; to draw an area, log in to a session with X11 (Xorg).</source>
-        <translation>Ce bureau ne laisse aucune fenêtre couvrir les écrans. Choisissez une partie ci-dessus ou saisissez des nombres&#xa0;; pour dessiner une zone, ouvrez une session X11 (Xorg).</translation>
+        <source>This desktop lets no window cover the screens. Choose a part above and change its numbers; to draw an area, log in to a session with X11 (Xorg).</source>
+        <translation>Ce bureau ne laisse aucune fenêtre couvrir les écrans. Choisissez une partie ci-dessus et changez ses nombres&#xa0;; pour dessiner une zone, ouvrez une session X11 (Xorg).</translation>
     </message>
     <message>
         <source>Whole screen</source>

@@ -22,7 +22,7 @@ std::string explain(OSStatus error) {
                            "Another program holds the keyboard. Close its menus, then try again.")
                : localized("ScanArea",
                            "This desktop lets no window cover the screens. Choose a part "
-                           "above or type numbers; to draw an area, log in to a "
+                           "above and change its numbers; to draw an area, log in to a "
                            "session with X11 (Xorg).");
 }
 
