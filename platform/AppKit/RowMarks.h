@@ -10,11 +10,11 @@ class NSView;
 
 /// Marks the row around a view: what it sets isn't at its default. A button in the row calls
 /// `press`. If each radio button of a group is a row, the chosen one's row is marked. `label` says
-/// what the button does, in UTF-8; empty removes the mark. A view outside rows isn't
-/// marked.
+/// what the button does, in UTF-8; empty removes the mark. A view outside rows isn't marked.
 void setRowMark(const NSView& view, const std::string& label, std::function<void()> press);
 
-/// Hides the row around a view, or shows it again: it is of no use now.
+/// Hides the row around a view, as one whose setting has no effect now, or shows it again. A hidden
+/// row takes no room, and the keyboard goes to the next. Nothing happens to a view outside rows.
 void setRowHidden(const NSView& view, bool hidden);
 
 /// Gives the keyboard to the view, which is in sight, or to what is operated in the row around it:

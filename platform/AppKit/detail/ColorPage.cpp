@@ -14,7 +14,7 @@
 
 namespace {
 
-/// What is named in a table.
+/// A text of the tables below, in the user's language.
 QString translated(const char* text) {
     return QCoreApplication::translate("ColorPage", text);
 }
@@ -34,6 +34,9 @@ constexpr Hue kHues[] = {
     {QT_TRANSLATE_NOOP("ColorPage", "Violet"), 280},
     {QT_TRANSLATE_NOOP("ColorPage", "Pink"), 320},
 };
+
+constexpr int kColumns = std::size(kHues) + 1; ///< a grey is the last
+constexpr int kGap = 4;                        ///< points between two colours
 
 /// A row of the page: how light its colours are, of 255, and the grey at its end.
 struct Tone {
@@ -70,9 +73,9 @@ ColorPage::ColorPage(const QColor& shown, std::function<void(const QColor&)> tri
 }
 
 void ColorPage::addColors(QGridLayout& grid) {
-    grid.setSpacing(4);
+    grid.setSpacing(kGap);
     auto* group = new QButtonGroup(this);
-    const auto add = [&](const QString& name, const QColor& color, int row) {
+    const auto add = [&](const QString& name, const QColor& color) {
         auto* button = new ColorWellButton(this);
         button->setAccessibleName(name);
         button->setToolTip(name);
@@ -83,13 +86,14 @@ void ColorPage::addColors(QGridLayout& grid) {
         button->setChecked(color == first_);
         connect(button, &QPushButton::clicked, this, [this, color] { tryColor(color); });
         group->addButton(button);
-        grid.addWidget(button, row, grid.count() % static_cast<int>(std::size(kHues) + 1));
+        const int place = grid.count();
+        grid.addWidget(button, place / kColumns, place % kColumns);
     };
-    for (int row = 0; const Tone& tone : kTones) {
+    for (const Tone& tone : kTones) {
         for (const Hue& hue : kHues)
             add(translated(tone.name).arg(translated(hue.name)),
-                QColor::fromHsl(hue.degrees, 255, tone.lightness).toRgb(), row);
-        add(translated(tone.grey), QColor::fromHsl(0, 0, tone.greyLightness).toRgb(), row++);
+                QColor::fromHsl(hue.degrees, 255, tone.lightness).toRgb());
+        add(translated(tone.grey), QColor::fromHsl(0, 0, tone.greyLightness).toRgb());
     }
     QAbstractButton* chosen = group->checkedButton();
     (chosen ? chosen : group->buttons().front())->setFocus();
