@@ -3,6 +3,7 @@
 
 #include "agent/Terminals.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "platform/Support/EventMoment.h"
 #include "src/record/settingwords.h"
 
 #include <algorithm>
@@ -33,14 +34,14 @@ Place between(Place from, Place to, double part) {
 
 } // namespace
 
-Deeds::Deeds(XServer& server, Hand& hand, Listener& listener)
-    : hand_(hand), listener_(listener), typist_(server, hand), windows_(server),
-      volume_([this](const std::string& why) { listener_.cantDo(why); }),
+Deeds::Deeds(Session& session, Listener& listener)
+    : hand_(session.hand()), typist_(session.typist()), windows_(session.windows()),
+      listener_(listener), volume_([this](const std::string& why) { listener_.cantDo(why); }),
       typing_(
-          server, [this] { listener_.scanNow(); },
+          windows_, [this] { listener_.scanNow(); },
           [this](const std::string& why) { listener_.cantDo(why); }),
       openers_(
-          server, hand, typist_, [this] { listener_.scanNow(); },
+          session, [this] { listener_.scanNow(); },
           [this](const std::string& why) { listener_.cantDo(why); }) {
     keysUp_.setInterval(kKeysUpMs);
     QObject::connect(&keysUp_, &QTimer::timeout, [this] { lookForUsersKeys(); });
@@ -99,7 +100,7 @@ std::string Deeds::carryOut(const Deed& deed, const PrefsRecord& settings) {
 // At a place -------------------------------------------------------------------------------------
 
 void Deeds::click(const Deed& deed, const PrefsRecord& settings) {
-    std::vector<xcb_keycode_t> modifiers;
+    std::vector<std::uint8_t> modifiers;
     for (const auto& [isWanted, name] :
          {std::pair(deed.shift, "Shift_L"), {deed.control, "Control_L"}})
         if (const auto code = isWanted ? typist_.keyNamed(name) : std::nullopt)
@@ -113,10 +114,10 @@ void Deeds::click(const Deed& deed, const PrefsRecord& settings) {
     afterUsersKeys();
     sequence_.add(
         [=, this] {
-            for (const xcb_keycode_t code : modifiers)
+            for (const std::uint8_t code : modifiers)
                 hand_.keyDown(code);
             hand_.click(click, [=, this] {
-                for (const xcb_keycode_t code : modifiers)
+                for (const std::uint8_t code : modifiers)
                     hand_.keyUp(code);
                 sequence_.next();
             });
@@ -175,14 +176,14 @@ void Deeds::scroll(Place place) {
 void Deeds::afterUsersKeys() {
     sequence_.add(
         [this] {
-            keysUpUntil_ = XServer::now() + kKeysUpAtMost;
+            keysUpUntil_ = monotonicNow() + kKeysUpAtMost;
             lookForUsersKeys();
         },
         Sequence::kUntilNext);
 }
 
 void Deeds::lookForUsersKeys() {
-    if (typist_.modifierIsDown() && XServer::now() < keysUpUntil_)
+    if (typist_.modifierIsDown() && monotonicNow() < keysUpUntil_)
         return keysUp_.start();
     keysUp_.stop();
     sequence_.next();

@@ -7,10 +7,7 @@
 #include "agent/Volume.h"
 #include "agent/scan/Actions.h"
 #include "agent/scan/Region.h"
-#include "agent/x11/Hand.h"
-#include "agent/x11/Typist.h"
-#include "agent/x11/WindowManager.h"
-#include "agent/x11/XServer.h"
+#include "agent/session/Session.h"
 #include "src/record/differences.h"
 
 #include <QTimer>
@@ -39,7 +36,7 @@ public:
     };
 
     /// All must outlive it.
-    Deeds(XServer& server, Hand& hand, Listener& listener);
+    Deeds(Session& session, Listener& listener);
     ~Deeds();
     Deeds(const Deeds&) = delete;
     Deeds& operator=(const Deeds&) = delete;
@@ -87,9 +84,9 @@ private:
     void lookForUsersKeys();
 
     Hand& hand_;
+    Typist& typist_;
+    Windows& windows_;
     Listener& listener_;
-    Typist typist_;
-    WindowManager windows_;
     Volume volume_;
     Typing typing_;
     Openers openers_;

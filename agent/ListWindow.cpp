@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "agent/ListWindow.h"
 
-#include <QCursor>
+#include <QFontMetrics>
 #include <QGuiApplication>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPalette>
-#include <QScreen>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -23,59 +22,75 @@ QFont listFont() {
     return font;
 }
 
-} // namespace
-
-ListWindow::ListWindow(std::function<void()> shown) : shown_(std::move(shown)) {
-    setFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint | Qt::WindowStaysOnTopHint |
-             Qt::WindowDoesNotAcceptFocus);
-}
-
-void ListWindow::open(std::vector<std::string> rows, std::function<void(std::size_t)> chosen) {
-    const QScreen* screen = QGuiApplication::screenAt(QCursor::pos());
-    const QRect around = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
-    rows.resize(std::min(rows.size(), static_cast<std::size_t>(around.height() / kRowHeight)));
-    rows_ = std::move(rows);
-    chosen_ = std::move(chosen);
+/// In points.
+QSize sizeOf(const std::vector<std::string>& rows, double mostWidth) {
     const QFontMetrics metrics(listFont());
     int width = 0;
-    for (const std::string& row : rows_)
+    for (const std::string& row : rows)
         width = std::max(width, metrics.horizontalAdvance(QString::fromStdString(row)));
-    QRect place(0, 0, std::min({width + 2 * kMargin, kMostWidth, around.width()}),
-                static_cast<int>(rows_.size()) * kRowHeight);
-    place.moveCenter(around.center());
-    setGeometry(place);
-    isNew_ = true;
-    show();
-    raise();
-    requestUpdate();
+    return {std::min({width + 2 * kMargin, kMostWidth, static_cast<int>(mostWidth)}),
+            static_cast<int>(rows.size()) * ListWindow::kRowHeight};
 }
 
-void ListWindow::exposeEvent(QExposeEvent* event) {
-    QRasterWindow::exposeEvent(event);
-    if (isExposed() && std::exchange(isNew_, false))
-        shown_();
-}
-
-void ListWindow::paintEvent(QPaintEvent*) {
+QImage picture(const std::vector<std::string>& rows, QSize size, double scale) {
+    QImage image((QSizeF(size) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
     const QPalette colours = QGuiApplication::palette();
-    QPainter painter(this);
-    painter.fillRect(QRect({}, size()), colours.base());
+    image.fill(colours.color(QPalette::Base));
+    QPainter painter(&image);
     painter.setFont(listFont());
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        const QRect row(0, static_cast<int>(i) * kRowHeight, width(), kRowHeight);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const QRect row(0, static_cast<int>(i) * ListWindow::kRowHeight, size.width(),
+                        ListWindow::kRowHeight);
         const QRect place = row.adjusted(kMargin, 0, -kMargin, 0);
-        const QString text = painter.fontMetrics().elidedText(QString::fromStdString(rows_[i]),
+        const QString text = painter.fontMetrics().elidedText(QString::fromStdString(rows[i]),
                                                               Qt::ElideRight, place.width());
         painter.setPen(colours.color(QPalette::Text));
         painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeading, text);
         painter.setPen(colours.color(QPalette::Mid));
-        painter.drawRect(row.adjusted(0, 0, -1, i + 1 == rows_.size() ? -1 : 0));
+        painter.drawRect(row.adjusted(0, 0, -1, i + 1 == rows.size() ? -1 : 0));
     }
+    return image;
 }
 
-void ListWindow::mousePressEvent(QMouseEvent* event) {
-    const auto row = static_cast<std::size_t>(std::max(0.0, event->position().y()) / kRowHeight);
-    hide();
-    if (row < rows_.size())
+} // namespace
+
+ListWindow::ListWindow(OverlayWindows& windows) : windows_(windows), window_(windows.make()) {
+    window_->takeClicks([this](QPoint place) { choose(place); });
+}
+
+void ListWindow::open(std::vector<std::string> rows, const Screen& screen,
+                      std::function<void(std::size_t)> chosen) {
+    const QSizeF room = QSizeF(screen.area.width, screen.area.height - screen.panel) / screen.scale;
+    rows.resize(std::min(rows.size(), static_cast<std::size_t>(room.height() / kRowHeight)));
+    const QImage image = picture(rows, sizeOf(rows, room.width()), screen.scale);
+    const Place middle = screen.area.middle();
+    place_ = QRect(QPoint(), image.size());
+    place_.moveCenter(QPointF(middle.x, middle.y + screen.panel / 2).toPoint());
+    rowHeight_ = kRowHeight * screen.scale;
+    count_ = rows.size();
+    chosen_ = std::move(chosen);
+    window_->paint(image);
+    window_->show(place_, nullptr);
+    windows_.flush();
+}
+
+void ListWindow::close() {
+    place_ = {};
+    window_->hide();
+    windows_.flush();
+}
+
+std::optional<Area> ListWindow::place() const {
+    if (place_.isEmpty())
+        return std::nullopt;
+    return Area{double(place_.x()), double(place_.y()), double(place_.width()),
+                double(place_.height())};
+}
+
+void ListWindow::choose(QPoint place) {
+    const auto row = static_cast<std::size_t>(std::max(0, place.y()) / rowHeight_);
+    close();
+    if (row < count_)
         std::exchange(chosen_, nullptr)(row);
 }

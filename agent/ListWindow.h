@@ -1,33 +1,38 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QRasterWindow>
+#include "agent/scan/Region.h"
+#include "agent/session/OverlayWindow.h"
 
-#include <functional>
+#include <optional>
 #include <string>
-#include <vector>
-#include <xcb/xcb.h>
 
-/// A list over all windows, in the middle of the mouse pointer's screen. It is scanned like a menu,
-/// by the line alone: a click on a row chooses it. It takes no focus.
-class ListWindow final : public QRasterWindow {
+/// A list over all windows, in the middle of a screen. It is scanned like a menu, by the line
+/// alone: a click on a row chooses it. It takes no focus. Needs a QGuiApplication, whose font and
+/// colours it has.
+class ListWindow {
 public:
-    /// `shown` is called when it can be scanned, each time.
-    explicit ListWindow(std::function<void()> shown);
+    /// `windows` must outlive it.
+    explicit ListWindow(OverlayWindows& windows);
 
     /// Shows these texts, as many as fit on the screen. `chosen` gets the row's number when the
     /// list is closed again.
-    void open(std::vector<std::string> rows, std::function<void(std::size_t)> chosen);
+    void open(std::vector<std::string> rows, const Screen& screen,
+              std::function<void(std::size_t)> chosen);
+    void close();
+
+    /// While it is open.
+    std::optional<Area> place() const;
 
     static constexpr int kRowHeight = 44; ///< points
 
 private:
-    void exposeEvent(QExposeEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
+    void choose(QPoint place);
 
-    std::function<void()> shown_;
-    std::vector<std::string> rows_;
+    OverlayWindows& windows_;
+    std::unique_ptr<OverlayWindow> window_;
+    QRect place_;                   ///< pixels; empty while it is closed
+    double rowHeight_ = kRowHeight; ///< pixels
+    std::size_t count_ = 0;         ///< of rows
     std::function<void(std::size_t)> chosen_;
-    bool isNew_ = false; ///< opened, and not told of yet
 };

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "agent/Openers.h"
 
-#include "agent/x11/Screens.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "platform/Support/EventMoment.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -55,42 +55,47 @@ std::string noApplications() {
 
 } // namespace
 
-Openers::Openers(XServer& server, Hand& hand, Typist& typist, std::function<void()> opened,
+Openers::Openers(Session& session, std::function<void()> opened,
                  std::function<void(const std::string&)> cantDo)
-    : server_(server), hand_(hand), typist_(typist), windows_(server), popUps_(server),
-      opened_(std::move(opened)), cantDo_(std::move(cantDo)) {
+    : session_(session), opened_(std::move(opened)), cantDo_(std::move(cantDo)) {
     look_.setInterval(kLookMs);
     QObject::connect(&look_, &QTimer::timeout, [this] { lookForMenu(); });
 }
 
 std::optional<Area> Openers::list() const {
-    return list_ && list_->isVisible() ? windows_.areaOf(static_cast<xcb_window_t>(list_->winId()))
-                                       : std::nullopt;
+    return list_ ? list_->place() : std::nullopt;
 }
 
 void Openers::close() {
     look_.stop();
     if (list_)
-        list_->hide();
+        list_->close();
 }
 
+/// On the mouse pointer's screen.
 void Openers::choose(std::vector<std::string> rows, std::function<void(std::size_t)> chosen) {
     if (!list_)
-        list_ = std::make_unique<ListWindow>([this] { opened_(); });
-    list_->open(std::move(rows), std::move(chosen));
+        list_ = std::make_unique<ListWindow>(session_.overlays());
+    const auto screens = session_.desktop().screens();
+    const auto here = std::ranges::find_if(screens, [&](const Screen& screen) {
+        return screen.area.contains(session_.desktop().pointer());
+    });
+    list_->open(std::move(rows), here == screens.end() ? screens.front() : *here,
+                std::move(chosen));
+    QTimer::singleShot(0, &look_, [this] { opened_(); });
 }
 
 // Windows ----------------------------------------------------------------------------------------
 
 void Openers::windows() {
-    const auto windows = windows_.windows();
+    const auto windows = session_.windows().windows();
     if (windows.empty())
         return cantDo_(localized("Agent", "No window is open."));
     std::vector<std::string> titles;
     for (const auto& window : windows)
         titles.push_back(window.title);
     choose(titles, [this, windows](std::size_t row) {
-        if (!windows_.activate(windows[row].id))
+        if (!session_.windows().activate(windows[row].id))
             cantDo_(localized("Agent", "The window manager can't bring windows to the front."));
     });
 }
@@ -98,10 +103,10 @@ void Openers::windows() {
 // Menus ------------------------------------------------------------------------------------------
 
 void Openers::menus() {
-    const auto active = windows_.active();
+    const auto active = session_.windows().active();
     if (!active)
         return cantDo_(localized("Agent", "No window is active."));
-    askForMenuBar(windows_.processOf(*active), &look_,
+    askForMenuBar(session_.windows().processOf(*active), &look_,
                   [this](const std::vector<BarMenu>& menus) { chooseMenu(menus); });
 }
 
@@ -117,25 +122,25 @@ void Openers::chooseMenu(const std::vector<BarMenu>& menus) {
 }
 
 void Openers::openMenu(const BarMenu& menu) {
-    hand_.click({.place = menu.place.middle(), .duration = kClickTime});
+    session_.hand().click({.place = menu.place.middle(), .duration = kClickTime});
     expectMenu(localized("Agent", "The menu doesn't open."));
 }
 
 /// Toolkits open the only menu of a window, or the first of its bar, by this key.
 void Openers::pressMenuKey() {
-    typist_.type("F10");
+    session_.typist().type("F10");
     expectMenu(localized("Agent", "This window has no menu that Korvex can open."));
 }
 
 void Openers::expectMenu(const std::string& otherwise) {
     otherwise_ = otherwise;
-    until_ = XServer::now() + kPatience;
+    until_ = monotonicNow() + kPatience;
     look_.start();
 }
 
 void Openers::lookForMenu() {
-    const bool isOpen = !popUps_.menus(listScreens(server_)).empty();
-    if (!isOpen && XServer::now() < until_)
+    const bool isOpen = !session_.desktop().openMenus().empty();
+    if (!isOpen && monotonicNow() < until_)
         return;
     look_.stop();
     if (isOpen || otherwise_.empty())
@@ -150,11 +155,11 @@ void Openers::applications() {
     const Way* way = wayOfDesktop();
     std::string fault;
     if (!way)
-        windows_.askForRootMenu();
+        session_.windows().askForRootMenu();
     else if (way->program)
         fault = run(way->program) ? "" : noApplications();
     else
-        fault = typist_.type(way->keys);
+        fault = session_.typist().type(way->keys);
     if (!fault.empty())
         return cantDo_(fault);
     expectMenu(way && !way->isMenu ? "" : noApplications());

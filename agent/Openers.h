@@ -3,10 +3,7 @@
 
 #include "agent/ListWindow.h"
 #include "agent/MenuBar.h"
-#include "agent/x11/Hand.h"
-#include "agent/x11/PopUps.h"
-#include "agent/x11/Typist.h"
-#include "agent/x11/WindowManager.h"
+#include "agent/session/Session.h"
 
 #include <QTimer>
 
@@ -19,9 +16,9 @@
 /// windows. Nothing waits for other programs.
 class Openers {
 public:
-    /// All must outlive it. `opened` is called when there is something to scan, `cantDo` with the
-    /// reason in a sentence. Shows windows, so it needs a QGuiApplication once one is opened.
-    Openers(XServer& server, Hand& hand, Typist& typist, std::function<void()> opened,
+    /// `session` must outlive it. `opened` is called when there is something to scan, `cantDo` with
+    /// the reason in a sentence. The list needs a QGuiApplication.
+    Openers(Session& session, std::function<void()> opened,
             std::function<void(const std::string&)> cantDo);
 
     /// The active window's menus, to choose from.
@@ -46,11 +43,7 @@ private:
     void expectMenu(const std::string& otherwise);
     void lookForMenu();
 
-    XServer& server_;
-    Hand& hand_;
-    Typist& typist_;
-    WindowManager windows_;
-    PopUps popUps_;
+    Session& session_;
     std::function<void()> opened_;
     std::function<void(const std::string&)> cantDo_;
     std::unique_ptr<ListWindow> list_;

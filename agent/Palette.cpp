@@ -14,9 +14,8 @@ QRect pixelsOf(const Area& area) {
 
 } // namespace
 
-Palette::Palette(XServer& server, const Actions& actions)
-    : server_(server), actions_(actions), visual_(server), window_(server, visual_),
-      textWindow_(server, visual_) {}
+Palette::Palette(OverlayWindows& windows, const Actions& actions)
+    : windows_(windows), actions_(actions), window_(windows.make()), textWindow_(windows.make()) {}
 
 void Palette::use(const PrefsRecord& record) {
     record_ = record;
@@ -33,7 +32,7 @@ std::optional<UInt8> Palette::actionAt(const Region& region, Place place) const 
 }
 
 void Palette::show(const Region& region, std::optional<Place> pointer, const std::string& text,
-                   xcb_window_t above) {
+                   const OverlayWindow* above) {
     const PalettePlace palette(record_, region);
     Drawn wanted{region, {}, widget_.palette().cacheKey()};
     for (std::size_t slot = 0; slot < kNumPaletteSlots; ++slot)
@@ -42,23 +41,23 @@ void Palette::show(const Region& region, std::optional<Place> pointer, const std
         wanted.state.marked = palette.slotAt(*pointer);
     if (drawn_ != wanted)
         draw(palette, wanted);
-    above = textWindow_.show(place(text, palette, region.area), above);
-    window_.show(pixelsOf(palette.frame), above);
-    server_.flush();
+    above = textWindow_->show(place(text, palette, region.area), above);
+    window_->show(pixelsOf(palette.frame), above);
+    windows_.flush();
 }
 
 void Palette::hide() {
-    window_.hide();
-    textWindow_.hide();
+    window_->hide();
+    textWindow_->hide();
     text_.clear();
-    server_.flush();
+    windows_.flush();
 }
 
 void Palette::draw(const PalettePlace& place, const Drawn& wanted) {
     drawn_ = wanted;
     const QImage image = palettePicture(widget_, record_, place, wanted.state);
     if (!image.isNull())
-        window_.paint(image.convertToFormat(visual_.format));
+        window_->paint(image);
 }
 
 /// Right of the palette; below it if there is no room. Nowhere without a text.
@@ -69,7 +68,7 @@ QRect Palette::place(const std::string& text, const PalettePlace& palette, const
     }
     if (text_ != text) {
         const QImage image = textPicture(widget_, text, palette.scale, region.width);
-        textWindow_.paint(image.convertToFormat(visual_.format));
+        textWindow_->paint(image);
         textSize_ = image.size();
         text_ = text;
     }

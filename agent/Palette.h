@@ -3,7 +3,7 @@
 
 #include "agent/PalettePicture.h"
 #include "agent/scan/Actions.h"
-#include "agent/x11/OverlayWindow.h"
+#include "agent/session/OverlayWindow.h"
 
 /// The palette on the screen, as the pane's preview has it, and a line of text beside it. Both are
 /// windows that take no clicks: what was chosen on the palette is looked up. Needs a QApplication,
@@ -11,7 +11,7 @@
 class Palette {
 public:
     /// Both must outlive it. `actions` says which buttons look pressed.
-    Palette(XServer& server, const Actions& actions);
+    Palette(OverlayWindows& windows, const Actions& actions);
 
     /// The buttons and the look of a checked record, from the next `show` on. What they need is
     /// read now, so that the first one is as quick as the others.
@@ -23,9 +23,9 @@ public:
 
     /// Shows it for the region, or nothing if it has no buttons, and marks the button under the
     /// pointer's hot spot. An empty text isn't shown. Directly below that window, or on top of all
-    /// for XCB_NONE.
+    /// for null.
     void show(const Region& region, std::optional<Place> pointer, const std::string& text,
-              xcb_window_t above);
+              const OverlayWindow* above);
     void hide();
 
 private:
@@ -41,10 +41,9 @@ private:
     void draw(const PalettePlace& place, const Drawn& wanted);
     QRect place(const std::string& text, const PalettePlace& palette, const Area& region);
 
-    XServer& server_;
+    OverlayWindows& windows_;
     const Actions& actions_;
-    const OverlayVisual visual_;
-    OverlayWindow window_, textWindow_;
+    std::unique_ptr<OverlayWindow> window_, textWindow_;
     QWidget widget_; ///< gives style, colours and font
     PrefsRecord record_;
     std::optional<Drawn> drawn_;

@@ -4,6 +4,7 @@
 #include "agent/Notification.h"
 #include "agent/SettingsWindow.h"
 #include "platform/CoreFoundation/Localization.h"
+#include "platform/Support/EventMoment.h"
 #include "src/files/ptrutil.h"
 #include "src/record/differences.h"
 #include "src/record/keycombo.h"
@@ -39,10 +40,12 @@ bool endsScan(const PrefsRecord& before, const PrefsRecord& after) {
 
 } // namespace
 
-Scanner::Scanner(Link& link, XServer& server, Guard& guard)
-    : link_(link), server_(server), guard_(guard), desktop_(server), switches_(server, *this),
-      hand_(server, guard), deeds_(server, hand_, *this), overlay_(server),
-      palette_(server, actions_), snapping_(server), settings_(link.settings()) {
+Scanner::Scanner(Link& link, Session& session, Guard& guard)
+    : link_(link), session_(session), guard_(guard), desktop_(session.desktop()),
+      hand_(session.hand()), switches_(session.makeSwitches(*this)),
+      lock_([this](bool isLocked) { screenLocked(isLocked); }), deeds_(session, *this),
+      overlay_(session.overlays()), palette_(session.overlays(), actions_),
+      snapping_(session.windows()), settings_(link.settings()) {
     deadline_.setSingleShot(true);
     deadline_.setTimerType(Qt::PreciseTimer);
     frames_.setTimerType(Qt::PreciseTimer);
@@ -58,7 +61,6 @@ Scanner::Scanner(Link& link, XServer& server, Guard& guard)
     QObject::connect(&lockLook_, &QTimer::timeout, [this] { lookAtLock(); });
     desktop_.onScreens([this] { screensChanged(); });
     desktop_.onActiveWindow([this] { activeWindowChanged(); });
-    desktop_.onLock([this](bool isLocked) { screenLocked(isLocked); });
     link_.setListener(this);
     useSettings();
 }
@@ -75,7 +77,7 @@ void Scanner::useSettings() {
     actions_.setRepeatTime(settings_.autoRepeatTime);
     palette_.use(settings_);
     overlay_.setLook(settings_, scale, pictureOf(settings_.pointerImageName));
-    switches_.use(settings_, scale);
+    switches_->use(settings_, scale);
     updateSwitches();
 }
 
@@ -134,13 +136,13 @@ Switches::State Scanner::stateOfSwitches() const {
 }
 
 void Scanner::updateSwitches() {
-    switches_.setState(stateOfSwitches());
+    switches_->setState(stateOfSwitches());
     tellTrouble();
 }
 
 void Scanner::tellTrouble() {
     std::vector<std::string> taken;
-    for (const int role : switches_.taken()) {
+    for (const int role : switches_->taken()) {
         const HotKey& key = settings_.hotKeys[role];
         const auto name = createKeyComboString(key.modifiers, key.keyCode);
         taken.push_back(name ? toUTF8(name.get()) : "");
@@ -232,9 +234,6 @@ std::vector<Region> Scanner::regions() const {
     around.screens = desktop_.screens();
     around.pointer = desktop_.pointer();
     around.menus = desktop_.openMenus();
-    const ScanArea& own = settings_.scanArea;
-    if (settings_.useScanArea && isUsable(own))
-        around.ownArea = desktop_.inPixels(own.x, own.y, own.width, own.height);
     deeds_.addTo(around);
     return regionsOf(settings_, around);
 }
@@ -255,7 +254,7 @@ void Scanner::start(double moment) {
 void Scanner::choose(Place place) {
     hasOutcome_ = true;
     overlay_.hide();
-    const double now = XServer::now();
+    const double now = monotonicNow();
     if (const auto action = palette_.actionAt(scan_.region(), place)) {
         const bool wasOn = actions_.isOn(*action);
         actions_.chooseButton(*action, now);
@@ -288,13 +287,13 @@ void Scanner::cantDo(const std::string& why) {
     actions_.press();
     sounds_.refuse();
     fault_ = why;
-    faultEnd_ = XServer::now() + kFaultTime;
+    faultEnd_ = monotonicNow() + kFaultTime;
     follow();
 }
 
 void Scanner::scanNow() {
     if (stateOfSwitches() == Switches::State::Ready && !actions_.repeats())
-        start(XServer::now());
+        start(monotonicNow());
     follow();
 }
 
@@ -312,7 +311,7 @@ void Scanner::change(const SettingSet& settings, const PrefsRecord& record) {
 void Scanner::sound(const Deed& deed) {
     switch (deed.kind) {
     case Deed::Kind::Click:
-        presses_.clicked(XServer::now());
+        presses_.clicked(monotonicNow());
         sounds_.click();
         break;
     case Deed::Kind::ButtonDown:
@@ -347,7 +346,7 @@ void Scanner::endEverything() {
 }
 
 void Scanner::follow() {
-    const double now = XServer::now();
+    const double now = monotonicNow();
     presses_.advance(now);
     for (const Signal& signal : presses_.take())
         act(signal);
@@ -394,17 +393,17 @@ void Scanner::letBeWatched() {
 }
 
 void Scanner::frame() {
-    server_.drain(); // a press that is here already comes before the frame
+    session_.drain(); // a press that is here already comes before the frame
     follow();
     if (scan_.isIdle())
         return;
-    Picture picture = scan_.pictureAt(XServer::now() + kHalfAFrame);
+    Picture picture = scan_.pictureAt(monotonicNow() + kHalfAFrame);
     std::optional<Place> pointer;
     if (picture.pointer && picture.guide)
         pointer = {*picture.pointer, *picture.guide};
     if (pointer && !palette_.actionAt(picture.region, *pointer))
         picture.target = targetAt(*pointer);
-    const xcb_window_t lowest = overlay_.show(picture);
+    const OverlayWindow* lowest = overlay_.show(picture);
     if (picture.guide)
         snapping_.followLine(picture.region, *picture.guide);
     palette_.show(picture.region, pointer, fault_, lowest);
@@ -413,7 +412,7 @@ void Scanner::frame() {
 /// Without a scan it is seen while an action repeats, and beside a fault.
 void Scanner::showPalette() {
     if (actions_.repeats() || !fault_.empty())
-        palette_.show(scan_.region(), {}, fault_, XCB_NONE);
+        palette_.show(scan_.region(), {}, fault_, nullptr);
     else
         palette_.hide();
 }

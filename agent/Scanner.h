@@ -8,22 +8,19 @@
 #include "agent/Sounds.h"
 #include "agent/scan/Presses.h"
 #include "agent/scan/Scan.h"
-#include "agent/x11/Desktop.h"
-#include "agent/x11/Guard.h"
-#include "agent/x11/Hand.h"
-#include "agent/x11/Overlay.h"
-#include "agent/x11/Switches.h"
-#include "agent/x11/XServer.h"
+#include "agent/session/Overlay.h"
+#include "agent/session/ScreenLock.h"
+#include "agent/session/Session.h"
 
 #include <QTimer>
 
-/// Scans an X11 desktop. A press goes from the switches through the filter to the scan; what is
+/// Scans a session. A press goes from the switches through the filter to the scan; what is
 /// chosen goes to the actions, and what these decide is carried out. Each frame goes from the scan
 /// to the overlay and the palette.
 class Scanner final : public Link::Listener, private Switches::Listener, private Deeds::Listener {
 public:
     /// All must outlive it. Begins at once, if the link's settings say so.
-    Scanner(Link& link, XServer& server, Guard& guard);
+    Scanner(Link& link, Session& session, Guard& guard);
     ~Scanner();
 
     void settingsChanged() override;
@@ -72,11 +69,12 @@ private:
     void showPalette();
 
     Link& link_;
-    XServer& server_;
+    Session& session_;
     Guard& guard_;
-    Desktop desktop_;
-    Switches switches_;
-    Hand hand_;
+    Desktop& desktop_;
+    Hand& hand_;
+    std::unique_ptr<Switches> switches_;
+    ScreenLock lock_;
     Deeds deeds_;
     Overlay overlay_;
     Actions actions_;

@@ -9,8 +9,8 @@
 /// the line stands, so that the press which ends the pointer's way waits for nothing.
 class Snapping {
 public:
-    /// `server` must outlive it.
-    explicit Snapping(XServer& server) : windows_(server) {}
+    /// `windows` must outlive it.
+    explicit Snapping(const Windows& windows) : windows_(windows) {}
 
     /// The pointer goes along a line of that region. The first call for a line reads whether the
     /// user wants it and how far their presses spread (src/scan/snapping.h), and asks.
@@ -23,7 +23,7 @@ public:
     void forget();
 
 private:
-    WindowManager windows_;
+    const Windows& windows_;
     Targets targets_;
     std::optional<double> line_; ///< its y
     double distance_ = 0;        ///< pixels, on this line

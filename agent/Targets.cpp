@@ -54,7 +54,7 @@ struct Root {
 };
 
 std::optional<Root> rootOf(const Bus& bus, const std::vector<Object>& programs,
-                           const WindowManager::Shown& window) {
+                           const Windows::Shown& window) {
     std::optional<Root> best;
     for (const Object& program : programs) {
         if (bus.process(program).get() != window.process)
@@ -120,15 +120,15 @@ std::vector<Target> targetsIn(const Bus& bus, const Root& root, const Area& part
 }
 
 /// Without what a window above covers.
-void removeCovered(std::vector<Target>& targets, std::span<const WindowManager::Shown> above) {
+void removeCovered(std::vector<Target>& targets, std::span<const Windows::Shown> above) {
     std::erase_if(targets, [above](const Target& target) {
-        return std::ranges::any_of(above, [&target](const WindowManager::Shown& window) {
+        return std::ranges::any_of(above, [&target](const Windows::Shown& window) {
             return window.area.contains(target.box.middle());
         });
     });
 }
 
-void search(const std::vector<WindowManager::Shown>& windows, const Area& part,
+void search(const std::vector<Windows::Shown>& windows, const Area& part,
             const std::function<void(std::vector<Target>)>& tell) {
     const Bus bus(kPatienceMs);
     const auto programs = bus.children(Bus::root()).get();
@@ -146,7 +146,7 @@ void search(const std::vector<WindowManager::Shown>& windows, const Area& part,
 
 } // namespace
 
-void Targets::lookFor(const std::vector<WindowManager::Shown>& windows, const Area& part) {
+void Targets::lookFor(const std::vector<Windows::Shown>& windows, const Area& part) {
     forget();
     const auto tell = [this, number = search_,
                        guarded = QPointer(&context_)](std::vector<Target> targets) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "agent/scan/Snap.h"
-#include "agent/x11/WindowManager.h"
+#include "agent/session/Windows.h"
 
 #include <QObject>
 
@@ -14,7 +14,7 @@ class Targets {
 public:
     /// Looks for them. `windows` has all that are shown, the topmost first. What was found before
     /// is forgotten.
-    void lookFor(const std::vector<WindowManager::Shown>& windows, const Area& part);
+    void lookFor(const std::vector<Windows::Shown>& windows, const Area& part);
 
     /// What has been found until now; more may come. What another window covers isn't there.
     const std::vector<Target>& found() const { return found_; }

@@ -2,6 +2,7 @@
 #include "agent/Typing.h"
 
 #include "platform/CoreFoundation/Localization.h"
+#include "platform/Support/EventMoment.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -29,9 +30,9 @@ std::string reasonOf(const QDBusError& error) {
 
 } // namespace
 
-Typing::Typing(XServer& server, std::function<void()> shown,
+Typing::Typing(const Windows& windows, std::function<void()> shown,
                std::function<void(const std::string&)> cantDo)
-    : windows_(server), shown_(std::move(shown)), cantDo_(std::move(cantDo)) {
+    : windows_(windows), shown_(std::move(shown)), cantDo_(std::move(cantDo)) {
     look_.setInterval(kLookMs);
     QObject::connect(&look_, &QTimer::timeout, [this] { lookForWindow(); });
 }
@@ -54,14 +55,14 @@ void Typing::begin() {
             isTyping_ = false;
             return cantDo_(reasonOf(reply.error()));
         }
-        until_ = XServer::now() + kPatience;
+        until_ = monotonicNow() + kPatience;
         look_.start();
     });
 }
 
 void Typing::lookForWindow() {
     const bool isThere = keyboard().has_value();
-    if (!isThere && XServer::now() < until_)
+    if (!isThere && monotonicNow() < until_)
         return;
     look_.stop();
     if (isThere)

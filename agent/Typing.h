@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "agent/scan/Geometry.h"
-#include "agent/x11/WindowManager.h"
+#include "agent/session/Windows.h"
 
 #include <QTimer>
 
@@ -14,9 +13,9 @@
 /// by it. Nothing waits for it.
 class Typing {
 public:
-    /// Both are called later: `shown` when the keyboard can be scanned, `cantDo` with the reason in
-    /// a sentence.
-    Typing(XServer& server, std::function<void()> shown,
+    /// `windows` must outlive it. Both others are called later: `shown` when the keyboard can be
+    /// scanned, `cantDo` with the reason in a sentence.
+    Typing(const Windows& windows, std::function<void()> shown,
            std::function<void(const std::string&)> cantDo);
 
     /// Begins to type, or ends it.
@@ -32,7 +31,7 @@ private:
     void begin();
     void lookForWindow();
 
-    WindowManager windows_;
+    const Windows& windows_;
     std::function<void()> shown_;
     std::function<void(const std::string&)> cantDo_;
     bool isTyping_ = false; ///< from when it is asked for

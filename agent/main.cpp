@@ -9,6 +9,8 @@
 #include "agent/Notification.h"
 #include "agent/Scanner.h"
 #include "agent/UnixSignals.h"
+#include "agent/x11/XReleaser.h"
+#include "agent/x11/XSession.h"
 #include "platform/CoreFoundation/Localization.h"
 #include "platform/Support/Appearance.h"
 #include "src/record/palactions.h"
@@ -34,24 +36,24 @@ constexpr OSType kAgentSignature = fourCharCode("Krvx");
 /// From the agent's own folder to the pane's resources, which have the languages.
 constexpr const char* kPaneResources = "/../../../../Resources";
 
-enum class Session { None, X11, Wayland };
+enum class DisplayKind { None, X11, Wayland };
 
 /// What this session draws with. XWayland counts as Wayland: it doesn't hear every press.
-Session session() {
+DisplayKind displayKind() {
     if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        return Session::Wayland;
+        return DisplayKind::Wayland;
     if (qEnvironmentVariableIsEmpty("DISPLAY"))
-        return Session::None;
+        return DisplayKind::None;
     xcb_connection_t* const probe = xcb_connect(nullptr, nullptr);
     const bool answers = !xcb_connection_has_error(probe);
     xcb_disconnect(probe);
-    return answers ? Session::X11 : Session::None;
+    return answers ? DisplayKind::X11 : DisplayKind::None;
 }
 
 /// With a display it knows the screens, and draws the palette as the pane does. Neither variable is
 /// for the programs that it starts.
-std::unique_ptr<QCoreApplication> makeApplication(Session session, int& argc, char** argv) {
-    if (session != Session::X11)
+std::unique_ptr<QCoreApplication> makeApplication(DisplayKind display, int& argc, char** argv) {
+    if (display != DisplayKind::X11)
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "xcb");
     qputenv("QT_QPA_PLATFORMTHEME", "generic"); // no toolkit is loaded for its colours
@@ -96,23 +98,25 @@ void tell(Link& link, const std::string& trouble) {
 /// What scans, if this session lets it.
 struct Scanning {
     std::unique_ptr<XServer> server;
+    std::unique_ptr<XSession> session;
     std::optional<Scanner> scanner;
 
-    void begin(Session session, Link& link, Guard* guard) {
+    void begin(DisplayKind display, Link& link, Guard* guard) {
         std::string fault;
-        if (session == Session::Wayland)
+        if (display == DisplayKind::Wayland)
             fault =
                 localized("Agent", "Korvex can't scan in a Wayland session. Log out, and choose a "
                                    "session with X11 where you log in.");
-        else if (session == Session::X11 && !guard)
+        else if (display == DisplayKind::X11 && !guard)
             fault = localized("Agent", "Korvex can't scan: no process can be started.");
-        else if (session == Session::X11)
+        else if (display == DisplayKind::X11)
             server = XServer::connect(fault);
         if (server) {
             Appearance::follow(); // the palette does
             palutilUseBundle(CFBundleGetMainBundle);
             server->onEnd([] { QCoreApplication::exit(1); });
-            scanner.emplace(link, *server, *guard);
+            session = std::make_unique<XSession>(*server, *guard);
+            scanner.emplace(link, *session, *guard);
         } else if (!fault.empty()) {
             tell(link, fault);
         }
@@ -123,11 +127,13 @@ struct Scanning {
 
 int main(int argc, char** argv) {
     UnixSignals signals{SIGUSR1, SIGTERM, SIGINT, SIGHUP};
-    const Session where = session();
+    const DisplayKind where = displayKind();
     const std::string self =
         QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget().toStdString();
     const int restarts = argc > 1 ? std::atoi(argv[1]) : 0; // given by the guard
-    const auto guard = where == Session::X11 ? Guard::start({self.c_str(), restarts}) : nullptr;
+    const auto guard = where == DisplayKind::X11
+                           ? Guard::start(connectXReleaser, {self.c_str(), restarts})
+                           : nullptr;
     const auto application = makeApplication(where, argc, argv);
 
     alarm(kStartSeconds);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/AgentDesktop.h"
 
-#include "agent/x11/Guard.h"
+#include "agent/session/Guard.h"
 #include "agent/x11/XServer.h"
 #include "src/store/prefs.h"
 

@@ -6,7 +6,7 @@
 #include "src/scan/snapping.h"
 #include "agent/Accessibility.h"
 #include "agent/Targets.h"
-#include "agent/x11/XServer.h"
+#include "agent/x11/XWindows.h"
 #include "bench/SimulatedUser.h"
 #include "bench/SnappingAtWork.h"
 
@@ -101,7 +101,7 @@ private:
         return *known;
     }
 
-    WindowManager windows_;
+    XWindows windows_;
     Targets targets_;
     const std::vector<Area>& buttons_;
     std::map<std::pair<double, double>, std::optional<std::vector<Target>>> known_;

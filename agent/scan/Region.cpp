@@ -113,6 +113,15 @@ Area scannedPart(const Screen& screen, bool withPanel) {
     return area;
 }
 
+/// In pixels. Empty without one.
+Area ownAreaOf(const PrefsRecord& record, const Screen& main) {
+    const ScanArea& own = record.scanArea;
+    if (!record.useScanArea || !isUsable(own))
+        return {};
+    return {main.area.left + own.x * main.scale, main.area.top + own.y * main.scale,
+            own.width * main.scale, own.height * main.scale};
+}
+
 } // namespace
 
 std::vector<Region> regionsOf(const PrefsRecord& record, const Surroundings& surroundings) {
@@ -123,7 +132,7 @@ std::vector<Region> regionsOf(const PrefsRecord& record, const Surroundings& sur
     const Area keyboard = cutToScreens(surroundings.keyboard.value_or(Area{}), screens);
     if (isUsableArea(keyboard))
         return {keyboardRegion(keyboard, record, screenOf(keyboard, screens))};
-    const Area own = cutToScreens(record.useScanArea ? surroundings.ownArea : Area{}, screens);
+    const Area own = cutToScreens(ownAreaOf(record, surroundings.screens.front()), screens);
     if (isUsableArea(own))
         return {regionAt(own, record, screenOf(own, screens))};
     for (const Screen& screen : screens)

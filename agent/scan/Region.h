@@ -36,14 +36,14 @@ struct Surroundings {
     Place pointer;                ///< of the mouse
     std::vector<Area> menus;      ///< that are open, the innermost first
     std::optional<Area> keyboard; ///< the on-screen keyboard's window while it is typed with
-    Area ownArea;                 ///< the record's area in pixels; empty for none
 };
 
 /// The regions of a scan, in the order in which the line sweeps them. Never empty.
 /// The keyboard has room for the palette above its keys, or below them, if only the palette ends
 /// the typing.
-/// Open menus come before all else, then the keyboard, then the own area if it is used and on a
-/// screen, else the screens: the mouse pointer's first, then the others from left to right.
-/// A region that is smaller than its screen takes less time in proportion; a menu as much as its
-/// height needs at menuScanSpeedScaleFactor percent of the line's speed.
+/// Open menus come before all else, then the keyboard, then the record's own area if it is used and
+/// on a screen (its points count from the main display), else the screens: the mouse pointer's
+/// first, then the others from left to right. A region that is smaller than its screen takes less
+/// time in proportion; a menu as much as its height needs at menuScanSpeedScaleFactor percent of
+/// the line's speed.
 std::vector<Region> regionsOf(const PrefsRecord& record, const Surroundings& surroundings);

@@ -3,9 +3,9 @@
 #include "agent/Accessibility.h"
 #include "agent/Targets.h"
 
-#include "agent/x11/Desktop.h"
-#include "agent/x11/Guard.h"
 #include "agent/x11/Properties.h"
+#include "agent/x11/XReleaser.h"
+#include "agent/x11/XSession.h"
 #include "tests/agent/TargetWindow.h"
 #include "tests/support/FakeDevice.h"
 #include "tests/support/XvfbServer.h"
@@ -78,12 +78,12 @@ protected:
     TargetWindow target_{0, 0, 400, 300};
     FakeDevice keyboard_{FakeDevice::Kind::Keyboard};
     std::string fault_;
-    std::unique_ptr<Guard> guard_ = Guard::start();
+    std::unique_ptr<Guard> guard_ = Guard::start(connectXReleaser);
     Application application_;
     std::unique_ptr<XServer> server_ = XServer::connect(fault_);
-    std::unique_ptr<Hand> hand_ = std::make_unique<Hand>(*server_, *guard_);
+    std::unique_ptr<XSession> session_ = std::make_unique<XSession>(*server_, *guard_);
     Told told_;
-    std::unique_ptr<Deeds> deeds_ = std::make_unique<Deeds>(*server_, *hand_, told_);
+    std::unique_ptr<Deeds> deeds_ = std::make_unique<Deeds>(*session_, told_);
     PrefsRecord settings_ = [] {
         PrefsRecord record;
         record.clickDuration = 10;
@@ -349,7 +349,6 @@ TEST_F(DesktopDeedsTest, WindowsAreBroughtForwardClosedAndHidden) {
 }
 
 TEST_F(DesktopDeedsTest, MenusOpenAndAreScanned) {
-    const Desktop desktop(*server_); // as long as events come
     for (const char* program : {KORVEX_GTK_EDITOR, KORVEX_QT_EDITOR}) {
         startEditor(program, {});
         EXPECT_EQ(choose(ActionKind::Menus), "");
@@ -357,7 +356,7 @@ TEST_F(DesktopDeedsTest, MenusOpenAndAreScanned) {
         chooseRow(1);
         EXPECT_TRUE(says("menu Edit"));
         ASSERT_TRUE(waitToBeTold({"scan"}));
-        EXPECT_EQ(desktop.openMenus().size(), 1U);
+        EXPECT_EQ(session_->desktop().openMenus().size(), 1U);
         EXPECT_EQ(press("Escape"), "");
         endEditor();
     }
@@ -365,18 +364,17 @@ TEST_F(DesktopDeedsTest, MenusOpenAndAreScanned) {
 
 /// What the programs tell, where it is shown, unless another window covers it.
 TEST_F(DesktopDeedsTest, FindsWhatCanBePressed) {
-    const WindowManager windows(*server_);
     accessibility::wakePrograms();
     for (const char* program : {KORVEX_GTK_EDITOR, KORVEX_QT_EDITOR}) {
         startEditor(program, {});
         Targets targets;
-        const auto look = [&](const std::vector<WindowManager::Shown>& shown, std::size_t least) {
+        const auto look = [&](const std::vector<Windows::Shown>& shown, std::size_t least) {
             return QTest::qWaitFor([&] { // some programs make their trees when asked
                 targets.lookFor(shown, shown.back().area);
                 return QTest::qWaitFor([&] { return targets.found().size() >= least; }, 500);
             });
         };
-        const auto shown = windows.shown();
+        const auto shown = session_->windows().shown();
         ASSERT_EQ(shown.size(), 1U);
         EXPECT_TRUE(look(shown, 3)) << program; // two menus and a text
         const Area window = shown[0].area;
@@ -384,7 +382,7 @@ TEST_F(DesktopDeedsTest, FindsWhatCanBePressed) {
             EXPECT_EQ(intersection(target.box, window), target.box) << program;
             EXPECT_EQ(target.isPressed, target.box.top < window.top + 5) << program;
         }
-        const WindowManager::Shown cover = {0, {window.left, window.top, window.width, 40}};
+        const Windows::Shown cover = {0, {window.left, window.top, window.width, 40}};
         EXPECT_TRUE(look({cover, shown[0]}, 1));
         EXPECT_EQ(targets.found().size(), 1U) << program;
         endEditor();
@@ -398,7 +396,7 @@ TEST_F(DesktopDeedsTest, TextIsCutPastedAndDraggedInEveryLayout) {
                                         std::pair(KORVEX_QT_EDITOR, "agent_qt_editor")}) {
         SCOPED_TRACE(name);
         startEditor(program, {"without a menu bar"});
-        const auto area = WindowManager(*server_).placeOf(name);
+        const auto area = session_->windows().placeOf(name);
         ASSERT_TRUE(area);
         const Place word{area->left + 15, area->top + 12};
         const Deed selectIt{.kind = Kind::Click, .place = word, .click = ActionKind::DoubleClick};

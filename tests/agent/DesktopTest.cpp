@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "agent/x11/Desktop.h"
+#include "agent/x11/XDesktop.h"
 #include "tests/agent/DisplayTest.h"
 
 #include <QGuiApplication>
@@ -70,7 +70,7 @@ protected:
     }
 
     inline static const QString kMonitors[] = {"a", "*b", "c"};
-    std::optional<Desktop> desktop_;
+    std::optional<XDesktop> desktop_;
 };
 
 TEST_F(DesktopTest, ScreensAreTheServersMonitorsTheMainOneFirst) {
@@ -81,8 +81,6 @@ TEST_F(DesktopTest, ScreensAreTheServersMonitorsTheMainOneFirst) {
     EXPECT_THAT(desktop_->screens(), ElementsAre(Field(&Screen::area, Area{300, 0, 500, 600}),
                                                  Field(&Screen::area, Area{0, 0, 300, 600})))
         << "one inside of another is left out";
-    EXPECT_EQ(desktop_->inPixels(10, 20, 30, 40), (Area{310, 20, 30, 40}))
-        << "points count from the main display";
     joinMonitors(3);
     EXPECT_EQ(changes, 0);
     // The output goes off; that the screen can't become smaller is an error to the program.
@@ -103,14 +101,13 @@ TEST(Desktop, WithWindowsOfQtTheScreensHaveItsScale) {
     std::string fault;
     const auto server = XServer::connect(fault);
     ASSERT_TRUE(server) << fault;
-    Desktop desktop(*server);
+    XDesktop desktop(*server);
     int changes = 0;
     desktop.onScreens([&] { ++changes; });
     const auto screens = desktop.screens();
     ASSERT_EQ(screens.size(), 1U);
     EXPECT_EQ(screens[0].area, (Area{0, 0, 800, 600}));
     EXPECT_EQ(screens[0].scale, 1.5);
-    EXPECT_EQ(desktop.inPixels(10, 20, 30, 40), (Area{15, 30, 45, 60}));
     EXPECT_EQ(changes, 0);
     xrandr({"--setmonitor", "a", "300/100x600/100+0+0", "screen"});
     xrandr({"--output", "screen", "--off"});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a killed or hanging agent holds is tried with the agent's own process.
-#include "agent/x11/Hand.h"
+#include "agent/x11/XHand.h"
+#include "agent/x11/XReleaser.h"
 
 #include "tests/agent/TargetWindow.h"
 #include "tests/support/ApplicationTest.h"
@@ -21,9 +22,9 @@ protected:
     XvfbServer xvfb_;
     TargetWindow target_{0, 0, 400, 300};
     std::string fault_;
-    std::unique_ptr<Guard> guard_ = Guard::start();
+    std::unique_ptr<Guard> guard_ = Guard::start(connectXReleaser);
     std::unique_ptr<XServer> server_ = XServer::connect(fault_);
-    Hand hand_{*server_, *guard_};
+    XHand hand_{*server_, *guard_};
 };
 
 TEST_F(HandTest, ClicksWithItsTimesAndKnowsWhatItHolds) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "agent/x11/Overlay.h"
+#include "agent/session/Overlay.h"
+#include "agent/x11/XOverlayWindow.h"
 #include "tests/agent/DisplayTest.h"
 
 #include <QProcess>
@@ -25,7 +26,8 @@ protected:
         record_.lineTransparency = 20;
         record_.lineGhostTransparency = 75;
         otherWindow({0, 0, kWidth, kHeight}, kWhite);
-        overlay_.emplace(*server_);
+        windows_.emplace(*server_);
+        overlay_.emplace(*windows_);
         overlay_->setLook(record_, 1, halfPointer());
     }
 
@@ -54,6 +56,7 @@ protected:
     }
 
     PrefsRecord record_;
+    std::optional<XOverlayWindows> windows_;
     std::optional<Overlay> overlay_;
 };
 

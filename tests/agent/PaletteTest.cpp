@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "agent/Palette.h"
 
-#include "agent/x11/Overlay.h"
+#include "agent/session/Overlay.h"
+#include "agent/x11/XOverlayWindow.h"
 #include "platform/QuickDraw/detail/GrafPort.h"
 #include "src/scan/palutil.h"
 #include "tests/agent/DisplayTest.h"
@@ -29,7 +30,8 @@ protected:
         palutilUseBundle(agentBundle);
         palutilSetup();
         otherWindow({0, 0, kWidth, kHeight}, kWhite);
-        palette_.emplace(*server_, actions_);
+        windows_.emplace(*server_);
+        palette_.emplace(*windows_, actions_);
         palette_->use(record_);
     }
 
@@ -39,7 +41,7 @@ protected:
     }
 
     void show(std::optional<Place> pointer = {}, const std::string& text = {},
-              xcb_window_t above = XCB_NONE) {
+              const OverlayWindow* above = nullptr) {
         palette_->show(region_, pointer, text, above);
         sync();
     }
@@ -66,6 +68,7 @@ protected:
     PrefsRecord record_;
     Region region_{{0, 0, kWidth, kHeight}};
     Actions actions_;
+    std::optional<XOverlayWindows> windows_;
     std::optional<Palette> palette_;
 };
 
@@ -106,7 +109,7 @@ TEST_F(PaletteTest, ShowsTheButtonsAsThePaneDrawsThem) {
 
 TEST_F(PaletteTest, LiesBelowTheLinesAndTakesNoClicks) {
     record_.lineColor = {200, 0, 0};
-    Overlay overlay(*server_);
+    Overlay overlay(*windows_);
     overlay.setLook(record_, 1, {});
     const Picture line{300, {}, {}, {}, region_};
     show({}, {}, overlay.show(line));

@@ -22,7 +22,7 @@ const std::vector<Region> kBoth{{kLeft, 8, 10}, {kRight, 8, 10, false, 2}};
 struct Desk {
     std::vector<Screen> screens = kScreens;
     Place pointer = {700, 5};
-    Area ownArea = {};
+    ScanArea ownArea = {};
     std::optional<Area> keyboard = {};
     std::vector<Area> menus = {};
     bool usesArea = true, hasPanel = true, canEndKeyboard = true;
@@ -48,10 +48,13 @@ TEST(Region, IsWhatIsThereWithItsShareOfTheTimes) {
         {"no screens", {{{{5, 5, 0, 9}}}}, {{{0, 0, 1, 1}, 8, 10}}},
         {"the own area", {.ownArea = {900, 700, 300, 200}}, {{{900, 700, 100, 100}, 1, 1}}},
         {"over both screens", {.ownArea = {500, -9, 5000, 409}}, {{{500, 0, 1000, 400}, 8, 20, false, 2}}},
-        {"not used", {.ownArea = kRight, .usesArea = false}, kBoth},
+        {"not used", {.ownArea = {1000, 0, 500, 400}, .usesArea = false}, kBoth},
+        {"in points of the main display",
+         {.screens = {kScreens[1], kScreens[0]}, .ownArea = {10, 20, 30, 40}},
+         {{{1020, 40, 60, 80}, 1.6, 1.2, false, 2}}},
         {"off all screens", {.ownArea = {1100, 500, 100, 100}}, kBoth},
         {"no number", {.ownArea = {NAN, 0, NAN, 100}}, kBoth},
-        {"the keyboard", {.ownArea = kRight, .keyboard = {{0, 600, 1000, 200}}},
+        {"the keyboard", {.ownArea = {1000, 0, 500, 400}, .keyboard = {{0, 600, 1000, 200}}},
          {{{0, 600, 1000, 200}, 2, 10, false, 1, PalettePart::None}}},
         {"with its palette above", {.keyboard = {{0, 600, 1000, 200}}, .canEndKeyboard = false},
          {{{0, 550, 1000, 250}, 2.5, 10, false, 1, PalettePart::TopLeft}}},
@@ -61,7 +64,7 @@ TEST(Region, IsWhatIsThereWithItsShareOfTheTimes) {
          {.keyboard = {{0, 0, 1000, 800}}, .canEndKeyboard = false},
          {{{0, 0, 1000, 800}, 8, 10, false, 1, PalettePart::TopLeft}}},
         {"menus, at half the speed",
-         {.ownArea = kLeft, .keyboard = kLeft,
+         {.ownArea = {0, 0, 1000, 800}, .keyboard = kLeft,
           .menus = {{1100, 100, 100, 100}, {-50, 700, 100, 200}, {0, 900, 10, 10}}},
          {{{1100, 100, 100, 100}, 4, 2, true, 2, PalettePart::None},
           {{0, 700, 50, 100}, 2, .5, true, 1, PalettePart::None}}}};
@@ -73,7 +76,8 @@ TEST(Region, IsWhatIsThereWithItsShareOfTheTimes) {
         record.useScanArea = desk.usesArea;
         record.canScanMenuBar = desk.hasPanel;
         record.lineScanCanEndKybdMode = desk.canEndKeyboard;
+        record.scanArea = desk.ownArea;
         const auto& [screens, pointer, ownArea, keyboard, menus, usesArea, hasPanel, canEnd] = desk;
-        EXPECT_EQ(regionsOf(record, {screens, pointer, menus, keyboard, ownArea}), regions) << what;
+        EXPECT_EQ(regionsOf(record, {screens, pointer, menus, keyboard}), regions) << what;
     }
 }

@@ -46,8 +46,7 @@ private:
     int carryOut();
 
     PrefsRecord record_, checked_;
-    Surroundings around_{
-        {{{0, 0, 1920, 1080}, 1, 30}, {{1920, -200, 800, 600}}}, {9, 9}, {}, {}, {}};
+    Surroundings around_{{{{0, 0, 1920, 1080}, 1, 30}, {{1920, -200, 800, 600}}}, {9, 9}, {}, {}};
     Presses presses_;
     Scan scan_;
     Actions actions_;
@@ -97,7 +96,7 @@ void Desk::happen(UInt8 what, UInt8 how) {
         break;
     case 6:
         around_.menus.assign(what / 8 % 3, {how * 12.0, what * 4.0, how * 2.0, what * 8.0});
-        around_.ownArea = {how * 12.0 - 200, what * 4.0 - 300, what * 3.0, how * 1.0};
+        record_.scanArea = {how * 12.0F - 200, what * 4.0F - 300, what * 3.0F, how * 1.0F};
         break;
     case 7:
         actions_.chooseButton(how % (kNumActions + 1), now_);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What must never happen, tried with a real agent: something stays down, grabbed or on the screen.
-#include "agent/x11/Guard.h"
-#include "agent/x11/Switches.h"
+#include "agent/session/Guard.h"
+#include "agent/x11/XSwitches.h"
 #include "platform/CoreFoundation/CFPreferences.h"
 #include "src/store/prefs.h"
 #include "tests/agent/ScannerFixture.h"
@@ -52,7 +52,7 @@ private:
 
     std::string fault_;
     std::unique_ptr<XServer> server_;
-    Switches switches_{*server_, *this};
+    XSwitches switches_{*server_, *this};
 };
 
 /// What the agent says to the pane.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "agent/x11/ScreenLock.h"
+#include "agent/session/ScreenLock.h"
 #include "tests/support/ApplicationTest.h"
 
 #include <QCoreApplication>

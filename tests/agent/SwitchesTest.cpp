@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "agent/x11/Switches.h"
+#include "agent/x11/XSwitches.h"
 
 #include "tests/agent/TargetWindow.h"
 #include "tests/support/ApplicationTest.h"
@@ -17,7 +17,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using State = Switches::State;
+using State = XSwitches::State;
 
 constexpr int code(int kernelKey) {
     return kernelKey + FakeDevice::kKernelOffset;
@@ -30,7 +30,7 @@ constexpr int kAltGr = 92; ///< of every layout: no key of a keyboard has it
 constexpr int kControl = code(KEY_LEFTCTRL);
 constexpr int kShift = code(KEY_LEFTSHIFT);
 
-class SwitchesTest : public ApplicationTest<QCoreApplication>, protected Switches::Listener {
+class SwitchesTest : public ApplicationTest<QCoreApplication>, protected XSwitches::Listener {
 protected:
     SwitchesTest() {
         switches_.use(record_, 1);
@@ -95,7 +95,7 @@ protected:
     TargetWindow target_{0, 0, 800, 600};
     FakeDevice keyboard_{FakeDevice::Kind::Keyboard};
     FakeDevice mouse_{FakeDevice::Kind::Mouse};
-    Switches switches_{*server_, *this};
+    XSwitches switches_{*server_, *this};
 };
 
 TEST_F(SwitchesTest, EachKeyIsHeardAndTakenWhateverIsOpenOrLocked) {

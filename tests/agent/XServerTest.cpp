@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "agent/x11/XServer.h"
 
-#include "agent/x11/Guard.h"
+#include "agent/x11/XReleaser.h"
 #include "tests/support/ApplicationTest.h"
 #include "tests/support/XvfbServer.h"
 
@@ -17,7 +17,7 @@ TEST_F(XServerTest, SaysThatThereIsNone) {
     std::string fault;
     EXPECT_FALSE(XServer::connect(fault));
     EXPECT_EQ(fault, "No X11 display can be reached.");
-    EXPECT_FALSE(Guard::start());
+    EXPECT_FALSE(Guard::start(connectXReleaser));
 }
 
 TEST_F(XServerTest, EventsComeAlsoWhenAReplyTookThemAlong) {

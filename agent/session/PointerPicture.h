@@ -6,7 +6,6 @@
 #include <QImage>
 
 #include <vector>
-#include <xcb/xcb.h>
 
 /// A pointer as it is drawn.
 struct PointerPicture {
@@ -21,4 +20,4 @@ PointerPicture pointerPicture(const PointerImage& pointer, double scale);
 QImage opaque(const QImage& image);
 
 /// What of the image is more than half opaque, as rectangles of one row each.
-std::vector<xcb_rectangle_t> opaqueParts(const QImage& image);
+std::vector<QRect> opaqueParts(const QImage& image);

@@ -1,8 +1,29 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <memory>
+#include <set>
+
+/// A key or button that is held down: a key's code, or a button's number, where it is pressed.
+struct Held {
+    bool isKey;
+    std::uint8_t code;
+
+    auto operator<=>(const Held&) const = default;
+};
+
+/// The guard's own way to the session's display.
+class Releaser {
+public:
+    virtual ~Releaser() = default;
+
+    /// Lets go of these and waits until it is done. One that isn't down stays as it is.
+    virtual void letGo(const std::set<Held>& held) = 0;
+    /// Whether the display is there yet.
+    virtual bool answers() = 0;
+};
 
 /// What is started when a process ended without ~Guard, up to kMostRestarts times in a row, unless
 /// the session has ended, too. Its argument is the number of restarts; after kLongLife they are
@@ -13,23 +34,25 @@ struct GuardedProgram {
 };
 
 /// A second process that waits for this one's end and then lets go of the keys and buttons that it
-/// still holds. It has a connection to the server before anything is held. It also ends this one if
-/// it hangs while it must not, and starts it anew if it crashed or hung: nobody else may be there
-/// who could. It is nobody's child, in a session of its own, and keeps no file of this process
-/// open.
+/// still holds. It has a connection to the display before anything is held. It also ends this one
+/// if it hangs while it must not, and starts it anew if it crashed or hung: nobody else may be
+/// there who could. It is nobody's child, in a session of its own, and keeps no file of this
+/// process open.
 class Guard {
 public:
     /// Starts it. Call it before threads are started and before Qt connects to anything. Null when
-    /// no process can be started, or it doesn't reach the display server within kLongestStart.
-    static std::unique_ptr<Guard> start(const GuardedProgram& program = {});
+    /// no process can be started, or it doesn't reach the display within kLongestStart.
+    /// `connect` is called there; it gives null when the display can't be reached.
+    static std::unique_ptr<Guard> start(std::unique_ptr<Releaser> (*connect)(),
+                                        const GuardedProgram& program = {});
     /// The other process ends, and starts nothing. What is still held it lets go.
     ~Guard();
     Guard(const Guard&) = delete;
     Guard& operator=(const Guard&) = delete;
 
-    /// Told before it happens. `code` is a key code of the server, or the number of a button.
-    void willHold(bool isKey, std::uint8_t code);
-    void hasLetGo(bool isKey, std::uint8_t code);
+    /// Told before it happens.
+    void willHold(Held what);
+    void hasLetGo(Held what);
 
     /// From now on heartbeat() must be called at least every kLongestSilence seconds, until rest().
     /// Else this process is killed.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "agent/x11/WindowManager.h"
+#include "agent/x11/XWindows.h"
 
 #include "agent/x11/Properties.h"
 
@@ -24,28 +24,28 @@ std::string programIn(const std::string& both) {
 
 } // namespace
 
-std::vector<std::uint32_t> WindowManager::rootNumbers(const char* name) const {
+std::vector<std::uint32_t> XWindows::rootNumbers(const char* name) const {
     return numbersOf(server_, askProperty(server_, server_.root(), name));
 }
 
-bool WindowManager::isOrdinary(xcb_window_t window) const {
+bool XWindows::isOrdinary(xcb_window_t window) const {
     const auto types = numbersOf(server_, askProperty(server_, window, "_NET_WM_WINDOW_TYPE"));
     return !has(types, server_.atom("_NET_WM_WINDOW_TYPE_DESKTOP")) &&
            !has(types, server_.atom("_NET_WM_WINDOW_TYPE_DOCK"));
 }
 
-std::optional<xcb_window_t> WindowManager::active() const {
+std::optional<Windows::Id> XWindows::active() const {
     const auto active = rootNumbers("_NET_ACTIVE_WINDOW");
     if (active.empty() || active[0] == XCB_NONE || !isOrdinary(active[0]))
         return std::nullopt;
     return active[0];
 }
 
-std::string WindowManager::programOf(xcb_window_t window) const {
+std::string XWindows::programOf(xcb_window_t window) const {
     return programIn(bytesOf(server_, askProperty(server_, window, "WM_CLASS")));
 }
 
-std::vector<WindowManager::Window> WindowManager::windows() const {
+std::vector<Windows::Window> XWindows::windows() const {
     std::vector<Window> windows;
     auto all = rootNumbers("_NET_CLIENT_LIST_STACKING");
     if (all.empty())
@@ -61,7 +61,7 @@ std::vector<WindowManager::Window> WindowManager::windows() const {
     return windows;
 }
 
-std::vector<WindowManager::Shown> WindowManager::shown() const {
+std::vector<Windows::Shown> XWindows::shown() const {
     std::vector<Shown> shown;
     const auto all = rootNumbers("_NET_CLIENT_LIST_STACKING");
     for (auto window = all.rbegin(); window != all.rend(); ++window)
@@ -71,7 +71,7 @@ std::vector<WindowManager::Shown> WindowManager::shown() const {
 }
 
 /// The managed windows, and those that go round the window manager.
-std::vector<xcb_window_t> WindowManager::all() const {
+std::vector<xcb_window_t> XWindows::all() const {
     auto windows = rootNumbers("_NET_CLIENT_LIST");
     const XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(
         server_.connection(), xcb_query_tree(server_.connection(), server_.root()), nullptr));
@@ -82,7 +82,7 @@ std::vector<xcb_window_t> WindowManager::all() const {
     return windows;
 }
 
-std::optional<Area> WindowManager::placeOf(const std::string& program) const {
+std::optional<Area> XWindows::placeOf(const std::string& program) const {
     const auto windows = all();
     std::vector<xcb_get_property_cookie_t> asked;
     for (const xcb_window_t window : windows)
@@ -94,7 +94,7 @@ std::optional<Area> WindowManager::placeOf(const std::string& program) const {
     return place;
 }
 
-std::optional<Area> WindowManager::areaOf(xcb_window_t window) const {
+std::optional<Area> XWindows::areaOf(xcb_window_t window) const {
     xcb_connection_t* connection = server_.connection();
     const auto stateAsked = xcb_get_window_attributes(connection, window);
     const auto geometryAsked = xcb_get_geometry(connection, window);
@@ -111,35 +111,35 @@ std::optional<Area> WindowManager::areaOf(xcb_window_t window) const {
                 static_cast<double>(geometry->width), static_cast<double>(geometry->height)};
 }
 
-std::uint32_t WindowManager::processOf(xcb_window_t window) const {
+std::uint32_t XWindows::processOf(xcb_window_t window) const {
     const auto number = numbersOf(server_, askProperty(server_, window, "_NET_WM_PID"));
     return number.empty() ? 0 : number[0];
 }
 
-bool WindowManager::close(xcb_window_t window) {
+bool XWindows::close(xcb_window_t window) {
     return request("_NET_CLOSE_WINDOW", window, {XCB_CURRENT_TIME, kFromPager});
 }
 
-bool WindowManager::activate(xcb_window_t window) {
+bool XWindows::activate(xcb_window_t window) {
     return request("_NET_ACTIVE_WINDOW", window, {kFromPager, XCB_CURRENT_TIME, XCB_NONE});
 }
 
-bool WindowManager::toggleDesktop() {
+bool XWindows::toggleDesktop() {
     const auto shown = rootNumbers("_NET_SHOWING_DESKTOP");
     const bool isShown = !shown.empty() && shown[0] != 0;
     return request("_NET_SHOWING_DESKTOP", server_.root(), {!isShown});
 }
 
 /// One that has gone may have left its list behind, but not its window.
-bool WindowManager::supports(const char* name) const {
+bool XWindows::supports(const char* name) const {
     constexpr const char* kCheck = "_NET_SUPPORTING_WM_CHECK";
     const auto check = rootNumbers(kCheck);
     return !check.empty() && numbersOf(server_, askProperty(server_, check[0], kCheck)) == check &&
            has(rootNumbers("_NET_SUPPORTED"), server_.atom(name));
 }
 
-bool WindowManager::request(const char* name, xcb_window_t window,
-                            const std::vector<std::uint32_t>& data) {
+bool XWindows::request(const char* name, xcb_window_t window,
+                       const std::vector<std::uint32_t>& data) {
     if (!supports(name))
         return false;
     xcb_client_message_event_t event = {};
@@ -153,7 +153,7 @@ bool WindowManager::request(const char* name, xcb_window_t window,
 }
 
 template <class Event>
-void WindowManager::send(const Event& event, std::uint32_t mask) {
+void XWindows::send(const Event& event, std::uint32_t mask) {
     char bytes[32];
     static_assert(sizeof event == sizeof bytes);
     std::memcpy(bytes, &event, sizeof bytes);
@@ -161,7 +161,7 @@ void WindowManager::send(const Event& event, std::uint32_t mask) {
     server_.flush();
 }
 
-void WindowManager::askForRootMenu() {
+void XWindows::askForRootMenu() {
     constexpr xcb_button_t kMenuButton = 3;
     const xcb_screen_t& screen = server_.screen();
     xcb_button_press_event_t event = {};
@@ -174,7 +174,7 @@ void WindowManager::askForRootMenu() {
     send(event, XCB_EVENT_MASK_BUTTON_PRESS);
 }
 
-Area WindowManager::windowAt(Place place) const {
+Area XWindows::windowAt(Place place) const {
     xcb_connection_t* connection = server_.connection();
     const xcb_window_t root = server_.root();
     const XReply<xcb_translate_coordinates_reply_t> found(xcb_translate_coordinates_reply(

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "agent/x11/OverlayWindow.h"
+#include "agent/x11/XOverlayWindow.h"
 
 #include <xcb/shape.h>
 
@@ -63,7 +63,7 @@ std::uint32_t OverlayVisual::pixel(QRgb color) const {
     return pixel;
 }
 
-OverlayWindow::OverlayWindow(XServer& server, const OverlayVisual& visual)
+XOverlayWindow::XOverlayWindow(XServer& server, const OverlayVisual& visual)
     : server_(server), visual_(visual), window_(xcb_generate_id(server.connection())) {
     const std::uint32_t values[] = {0, 0, 1, visual.colormap};
     xcb_create_window(server.connection(), visual.depth, window_, server.root(), 0, 0, 1, 1, 0,
@@ -76,17 +76,18 @@ OverlayWindow::OverlayWindow(XServer& server, const OverlayVisual& visual)
                          XCB_CLIP_ORDERING_UNSORTED, window_, 0, 0, 0, nullptr);
 }
 
-OverlayWindow::~OverlayWindow() {
+XOverlayWindow::~XOverlayWindow() {
     xcb_destroy_window(server_.connection(), window_);
 }
 
-void OverlayWindow::fill(QRgb color) {
+void XOverlayWindow::fill(QRgb color) {
     const std::uint32_t pixel = visual_.pixel(color);
     xcb_change_window_attributes(server_.connection(), window_, XCB_CW_BACK_PIXEL, &pixel);
     clear();
 }
 
-void OverlayWindow::paint(const QImage& image) {
+void XOverlayWindow::paint(const QImage& picture) {
+    const QImage image = picture.convertToFormat(visual_.format);
     xcb_connection_t* connection = server_.connection();
     const auto width = static_cast<std::uint16_t>(image.width());
     const auto height = static_cast<std::uint16_t>(image.height());
@@ -110,7 +111,7 @@ void OverlayWindow::paint(const QImage& image) {
     clear();
 }
 
-void OverlayWindow::setEdge(int width, QRgb color) {
+void XOverlayWindow::setEdge(int width, QRgb color) {
     edge_ = width;
     const std::uint32_t pixel = visual_.pixel(color);
     const auto pixels = static_cast<std::uint32_t>(width);
@@ -118,12 +119,29 @@ void OverlayWindow::setEdge(int width, QRgb color) {
     xcb_configure_window(server_.connection(), window_, XCB_CONFIG_WINDOW_BORDER_WIDTH, &pixels);
 }
 
-void OverlayWindow::setOutline(Outline outline) {
+void XOverlayWindow::setOutline(Outline outline) {
     outline_ = std::move(outline);
     shaped_.reset();
 }
 
-xcb_window_t OverlayWindow::show(const QRect& place, xcb_window_t above) {
+/// The server's handler outlives the window.
+void XOverlayWindow::takeClicks(std::function<void(QPoint)> clicked) {
+    clicked_ = std::make_shared<std::function<void(QPoint)>>(std::move(clicked));
+    const std::uint32_t events = XCB_EVENT_MASK_BUTTON_PRESS;
+    xcb_change_window_attributes(server_.connection(), window_, XCB_CW_EVENT_MASK, &events);
+    xcb_shape_mask(server_.connection(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, window_, 0, 0,
+                   XCB_NONE);
+    server_.onEvent(
+        [window = window_, weak = std::weak_ptr(clicked_)](const xcb_generic_event_t& event) {
+            const auto& press = reinterpret_cast<const xcb_button_press_event_t&>(event);
+            const auto take = weak.lock();
+            if (take && (event.response_type & 0x7f) == XCB_BUTTON_PRESS && press.event == window &&
+                press.detail == XCB_BUTTON_INDEX_1)
+                (*take)({press.event_x, press.event_y});
+        });
+}
+
+const OverlayWindow* XOverlayWindow::show(const QRect& place, const OverlayWindow* above) {
     const QSize size = place.size() - QSize(2 * edge_, 2 * edge_);
     if (size.isEmpty()) {
         hide();
@@ -136,37 +154,65 @@ xcb_window_t OverlayWindow::show(const QRect& place, xcb_window_t above) {
         static_cast<std::uint32_t>(size.width()), static_cast<std::uint32_t>(size.height())};
     std::uint16_t mask = XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH |
                          XCB_CONFIG_WINDOW_HEIGHT | XCB_CONFIG_WINDOW_STACK_MODE;
-    if (above == XCB_NONE) {
+    if (!above) {
         values[4] = XCB_STACK_MODE_ABOVE;
     } else {
         mask |= XCB_CONFIG_WINDOW_SIBLING;
-        values[4] = above;
+        values[4] = static_cast<const XOverlayWindow*>(above)->window_;
         values[5] = XCB_STACK_MODE_BELOW;
     }
     xcb_configure_window(server_.connection(), window_, mask, values);
     if (!std::exchange(isShown_, true))
         xcb_map_window(server_.connection(), window_);
-    return window_;
+    return this;
 }
 
-void OverlayWindow::hide() {
+void XOverlayWindow::hide() {
     if (std::exchange(isShown_, false))
         xcb_unmap_window(server_.connection(), window_);
 }
 
-void OverlayWindow::clear() {
+void XOverlayWindow::clear() {
     xcb_clear_area(server_.connection(), 0, window_, 0, 0, 0, 0);
 }
 
-void OverlayWindow::shapeTo(QSize size) {
+void XOverlayWindow::shapeTo(QSize size) {
     shaped_ = size;
     if (!outline_) {
         xcb_shape_mask(server_.connection(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, window_, 0, 0,
                        XCB_NONE);
         return;
     }
-    const auto parts = outline_(size);
+    std::vector<xcb_rectangle_t> parts;
+    for (const QRect& part : outline_(size))
+        parts.push_back({static_cast<std::int16_t>(part.x()), static_cast<std::int16_t>(part.y()),
+                         static_cast<std::uint16_t>(part.width()),
+                         static_cast<std::uint16_t>(part.height())});
     xcb_shape_rectangles(server_.connection(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING,
                          XCB_CLIP_ORDERING_UNSORTED, window_, 0, 0,
                          static_cast<std::uint32_t>(parts.size()), parts.data());
+}
+
+// All of them
+
+XOverlayWindows::XOverlayWindows(XServer& server)
+    : server_(server), visual_(server), compositor_(server, [this] {
+          if (changed_)
+              changed_();
+      }) {}
+
+std::unique_ptr<OverlayWindow> XOverlayWindows::make() {
+    return std::make_unique<XOverlayWindow>(server_, visual_);
+}
+
+bool XOverlayWindows::blend() const {
+    return compositor_.isRunning() && visual_.depth == 32;
+}
+
+void XOverlayWindows::onBlend(std::function<void()> changed) {
+    changed_ = std::move(changed);
+}
+
+void XOverlayWindows::flush() {
+    server_.flush();
 }

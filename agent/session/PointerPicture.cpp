@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "agent/x11/PointerPicture.h"
+#include "agent/session/PointerPicture.h"
 
 #include <QPainter>
 
@@ -43,16 +43,15 @@ QImage opaque(const QImage& image) {
     return made;
 }
 
-std::vector<xcb_rectangle_t> opaqueParts(const QImage& image) {
-    std::vector<xcb_rectangle_t> parts;
+std::vector<QRect> opaqueParts(const QImage& image) {
+    std::vector<QRect> parts;
     for (int y = 0; y < image.height(); ++y) {
         const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
         const auto* end = row + image.width();
         const auto isOpaque = [](QRgb color) { return qAlpha(color) > 127; };
         for (const auto* from = std::find_if(row, end, isOpaque); from != end;) {
             const auto* to = std::find_if_not(from, end, isOpaque);
-            parts.push_back({static_cast<std::int16_t>(from - row), static_cast<std::int16_t>(y),
-                             static_cast<std::uint16_t>(to - from), 1});
+            parts.emplace_back(static_cast<int>(from - row), y, static_cast<int>(to - from), 1);
             from = std::find_if(to, end, isOpaque);
         }
     }

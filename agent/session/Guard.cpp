@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "agent/x11/Guard.h"
+#include "agent/session/Guard.h"
 
 #include "platform/Support/EventMoment.h"
 
@@ -8,14 +8,12 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
-#include <set>
 #include <string>
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
-#include <xcb/xtest.h>
 
 namespace {
 
@@ -48,18 +46,18 @@ constexpr int kKept = 3; ///< standard input, output and error
 /// The other process.
 class Watcher {
 public:
-    Watcher(int socket, pid_t watched, const GuardedProgram& program)
-        : socket_(socket), watched_(watched), program_(program),
-          server_(xcb_connect(nullptr, nullptr)), began_(monotonicNow()) {}
+    Watcher(int socket, pid_t watched, std::unique_ptr<Releaser> releaser,
+            const GuardedProgram& program)
+        : socket_(socket), watched_(watched), program_(program), releaser_(std::move(releaser)),
+          began_(monotonicNow()) {}
 
     void run() {
-        const auto* test = xcb_get_extension_data(server_, &xcb_test_id);
-        if (!test || !test->present || write(socket_, &kReady, 1) != 1)
+        if (!releaser_ || write(socket_, &kReady, 1) != 1)
             return;
         while (hear())
             ;
         letGo();
-        if (!wasMeant_ && program_.path && serverAnswers())
+        if (!wasMeant_ && program_.path && releaser_->answers())
             startAgain();
     }
 
@@ -88,7 +86,7 @@ private:
         switch (message.what) {
         case HoldKey:
         case HoldButton:
-            held_.emplace(message.what == HoldKey, message.code);
+            held_.insert({message.what == HoldKey, message.code});
             break;
         case LetGoKey:
         case LetGoButton:
@@ -108,24 +106,13 @@ private:
         }
     }
 
-    /// A key or button that isn't down stays as it is.
     void letGo() {
         for (const int wait : kWaits) {
-            if (held_.empty() || xcb_connection_has_error(server_))
+            if (held_.empty() || !releaser_->answers())
                 return;
             poll(nullptr, 0, wait);
-            for (const auto& [isKey, code] : held_)
-                xcb_test_fake_input(server_, isKey ? XCB_KEY_RELEASE : XCB_BUTTON_RELEASE, code,
-                                    XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
-            serverAnswers();
+            releaser_->letGo(held_);
         }
-    }
-
-    /// Once it has done what it was asked for. Not when the session has ended.
-    bool serverAnswers() const {
-        auto* answer = xcb_get_input_focus_reply(server_, xcb_get_input_focus(server_), nullptr);
-        std::free(answer);
-        return answer != nullptr;
     }
 
     /// In this process's place.
@@ -134,7 +121,7 @@ private:
         const int restarts = livedLong ? 1 : program_.restarts + 1;
         if (restarts > Guard::kMostRestarts)
             return;
-        xcb_disconnect(server_);
+        releaser_.reset();
         for (const int signal : kIgnored)
             std::signal(signal, SIG_DFL);
         close_range(kKept, ~0U, 0);
@@ -144,9 +131,9 @@ private:
     int socket_;
     pid_t watched_;
     const GuardedProgram program_;
-    xcb_connection_t* server_;
-    const double began_; ///< seconds on the monotonic clock
-    std::set<std::pair<bool, std::uint8_t>> held_;
+    std::unique_ptr<Releaser> releaser_; ///< null: it is of no use
+    const double began_;                 ///< seconds on the monotonic clock
+    std::set<Held> held_;
     bool isWatching_ = false;
     bool wasMeant_ = false; ///< the end
 };
@@ -166,22 +153,26 @@ int leaveAllBehind(int socket) {
 }
 
 /// The process between ends at once: what it started is no child of the watched one.
-[[noreturn]] void startWatcher(int socket, pid_t watched, const GuardedProgram& program) {
-    if (fork() == 0)
-        Watcher(leaveAllBehind(socket), watched, program).run();
+[[noreturn]] void startWatcher(int socket, pid_t watched, std::unique_ptr<Releaser> (*connect)(),
+                               const GuardedProgram& program) {
+    if (fork() == 0) {
+        const int kept = leaveAllBehind(socket);
+        Watcher(kept, watched, connect(), program).run();
+    }
     _exit(0);
 }
 
 } // namespace
 
-std::unique_ptr<Guard> Guard::start(const GuardedProgram& program) {
+std::unique_ptr<Guard> Guard::start(std::unique_ptr<Releaser> (*connect)(),
+                                    const GuardedProgram& program) {
     int sockets[2];
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, sockets) != 0)
         return nullptr;
     const pid_t watched = getpid();
     const pid_t between = fork();
     if (between == 0)
-        startWatcher(sockets[1], watched, program);
+        startWatcher(sockets[1], watched, connect, program);
     close(sockets[1]);
     std::unique_ptr<Guard> guard(new Guard(sockets[0]));
     if (between < 0)
@@ -206,12 +197,12 @@ void Guard::tell(std::uint8_t what, std::uint8_t code) const {
     send(socket_, &message, sizeof message, MSG_NOSIGNAL | MSG_DONTWAIT);
 }
 
-void Guard::willHold(bool isKey, std::uint8_t code) {
-    tell(isKey ? HoldKey : HoldButton, code);
+void Guard::willHold(Held what) {
+    tell(what.isKey ? HoldKey : HoldButton, what.code);
 }
 
-void Guard::hasLetGo(bool isKey, std::uint8_t code) {
-    tell(isKey ? LetGoKey : LetGoButton, code);
+void Guard::hasLetGo(Held what) {
+    tell(what.isKey ? LetGoKey : LetGoButton, what.code);
 }
 
 void Guard::watch() {

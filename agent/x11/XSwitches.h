@@ -1,70 +1,39 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "agent/scan/Presses.h"
+#include "agent/session/Switches.h"
 #include "agent/x11/Grabs.h"
 #include "agent/x11/KeyMap.h"
 #include "agent/x11/Motion.h"
 #include "agent/x11/XServer.h"
-#include "src/record/PrefsRecord.h"
 
 #include <compare>
 #include <map>
 #include <set>
 #include <vector>
 
-/// Hears the switches and the agent's hot keys, and takes them from the programs below: passive
-/// grabs of each physical device. They come in whoever holds the keyboard or has a menu open.
+/// Passive grabs of each physical device take the keys and buttons from the programs below. They
+/// come in whoever holds the keyboard or has a menu open.
 ///
 /// A mouse is no switch: while no scan is under way, a click of a device that moved kMoved points
 /// within the last kMovedSeconds is passed on, and so is what is dragged with it. A touch screen is
 /// none either.
-class Switches {
+class XSwitches final : public Switches {
 public:
-    /// What is heard. Moments are seconds on XServer's clock. A switch that is down is told once,
-    /// and comes up when all its keys and buttons have.
-    class Listener {
-    public:
-        virtual void switchDown(Switch which, double moment) = 0;
-        virtual void switchUp(Switch which, double moment) = 0;
-        virtual void onOffKey() = 0;
-        virtual void showSettingsKey() = 0;
-        virtual void cancelKey() = 0;
-
-    protected:
-        ~Listener() = default;
-    };
-
-    enum class State {
-        Free,  ///< the screen is locked, or the pane needs the keys: nothing is taken or heard
-        Off,   ///< only "on/off" and "show the settings" are taken; the switches are heard, but not
-               ///< taken
-        Ready, ///< a press would start a scan
-        Scanning ///< every click is a press, and the cancel key is taken, too
-    };
-
     static constexpr double kMoved = 40; ///< points
     static constexpr double kMovedSeconds = Motion::kMemory;
     /// While it is off, a button that is held counts as let go once its mouse moves so many points:
     /// more than a hand trembles.
     static constexpr double kStill = 10;
 
-    /// Both must outlive it, and the event loop must not go on without it. Begins with State::Free.
-    Switches(XServer& server, Listener& listener);
+    /// Both must outlive it, and the event loop must not go on without it.
+    XSwitches(XServer& server, Listener& listener);
     /// Lets go of everything.
-    ~Switches();
-    Switches(const Switches&) = delete;
-    Switches& operator=(const Switches&) = delete;
+    ~XSwitches() override;
 
-    /// The keys and buttons of a checked record, and the main display's pixels a point.
-    void use(const PrefsRecord& record, double scale);
-    /// A switch that is held stays so, and is told when it comes up. Not with State::Free: then it
-    /// is forgotten.
-    void setState(State state);
-
-    /// The hot keys that another program has: indices in the record's hotKeys, which
-    /// createKeyComboString names. Those that the state doesn't take aren't among them.
-    std::vector<int> taken() const;
+    void use(const PrefsRecord& record, double scale) override;
+    void setState(State state) override;
+    std::vector<int> taken() const override;
 
 private:
     /// A key or button of a device.

@@ -1,62 +1,38 @@
 // SPDX-License-Identifier: MIT
-#include "agent/x11/Typist.h"
+#include "agent/x11/XTypist.h"
 
 #include "agent/x11/KeyLayout.h"
-#include "platform/CoreFoundation/Localization.h"
 
 #include <cmath>
 #include <utility>
-#include <vector>
 #include <xkbcommon/xkbcommon.h>
 
 namespace {
 
 constexpr int kMillisecondsASecond = 1000;
 
-/// The keys' names, from "Shift+Control+v". Modifiers are those on the left.
-std::vector<std::string> symbolsOf(const std::string& keys) {
-    std::vector<std::string> names;
-    std::size_t begin = 0;
-    for (std::size_t end; (end = keys.find('+', begin)) != std::string::npos; begin = end + 1)
-        names.push_back(keys.substr(begin, end - begin) + "_L");
-    names.push_back(keys.substr(begin));
-    return names;
-}
-
 } // namespace
 
-Typist::Typist(XServer& server, Hand& hand) : server_(server), hand_(hand) {
+XTypist::XTypist(XServer& server, Hand& hand) : Typist(hand), server_(server) {
     lentUntil_.setSingleShot(true);
     lentUntil_.setInterval(static_cast<int>(std::lround(kLentFor * kMillisecondsASecond)));
     QObject::connect(&lentUntil_, &QTimer::timeout, [this] { giveBack(); });
 }
 
-Typist::~Typist() {
+XTypist::~XTypist() {
     giveBack();
 }
 
-std::string Typist::type(const std::string& keys) {
+std::vector<std::optional<std::uint8_t>>
+XTypist::keysNamed(const std::vector<std::string>& symbols) {
     const auto layout = KeyLayout::read();
-    std::vector<xcb_keycode_t> codes;
-    for (const std::string& name : symbolsOf(keys)) {
-        const auto code = layout ? keyIn(*layout, name) : std::nullopt;
-        if (!code)
-            return filled(localized("Agent", "The keyboard has no key for %1."), {name});
-        codes.push_back(*code);
-    }
-    for (const xcb_keycode_t code : codes)
-        hand_.keyDown(code);
-    for (auto code = codes.rbegin(); code != codes.rend(); ++code)
-        hand_.keyUp(*code);
-    return {};
+    std::vector<std::optional<std::uint8_t>> keys;
+    for (const std::string& symbol : symbols)
+        keys.push_back(layout ? keyIn(*layout, symbol) : std::nullopt);
+    return keys;
 }
 
-std::optional<xcb_keycode_t> Typist::keyNamed(const std::string& symbol) {
-    const auto layout = KeyLayout::read();
-    return layout ? keyIn(*layout, symbol) : std::nullopt;
-}
-
-std::optional<xcb_keycode_t> Typist::keyIn(const KeyLayout& layout, const std::string& name) {
+std::optional<xcb_keycode_t> XTypist::keyIn(const KeyLayout& layout, const std::string& name) {
     const std::uint32_t symbol = xkb_keysym_from_name(name.c_str(), XKB_KEYSYM_NO_FLAGS);
     if (lent_ && lent_->symbol == symbol) {
         lentUntil_.start();
@@ -66,7 +42,7 @@ std::optional<xcb_keycode_t> Typist::keyIn(const KeyLayout& layout, const std::s
     return code ? code : lend(layout, symbol);
 }
 
-std::optional<xcb_keycode_t> Typist::lend(const KeyLayout& layout, std::uint32_t symbol) {
+std::optional<xcb_keycode_t> XTypist::lend(const KeyLayout& layout, std::uint32_t symbol) {
     giveBack();
     const auto code = layout.unusedKey();
     if (code) {
@@ -77,7 +53,7 @@ std::optional<xcb_keycode_t> Typist::lend(const KeyLayout& layout, std::uint32_t
     return code;
 }
 
-bool Typist::modifierIsDown() const {
+bool XTypist::modifierIsDown() const {
     constexpr int kShift = 0, kControl = 2, kAlt = 3, kSuper = 6; // of the server's eight
     xcb_connection_t* connection = server_.connection();
     const auto keysAsked = xcb_query_keymap(connection);
@@ -99,13 +75,13 @@ bool Typist::modifierIsDown() const {
     return false;
 }
 
-void Typist::giveBack() {
+void XTypist::giveBack() {
     lentUntil_.stop();
     if (const auto lent = std::exchange(lent_, std::nullopt))
         map(lent->code, XKB_KEY_NoSymbol);
 }
 
-void Typist::map(xcb_keycode_t code, std::uint32_t symbol) {
+void XTypist::map(xcb_keycode_t code, std::uint32_t symbol) {
     xcb_change_keyboard_mapping(server_.connection(), 1, code, 1, &symbol);
     server_.flush();
 }

@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "agent/x11/Hand.h"
+#include "agent/session/Hand.h"
 
 #include <cmath>
-#include <xcb/xtest.h>
+#include <utility>
 
-Hand::Hand(XServer& server, Guard& guard) : server_(server), guard_(guard) {
+Hand::Hand(Guard& guard) : guard_(guard) {
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, [this] { step(); });
-}
-
-Hand::~Hand() {
-    letGo();
 }
 
 void Hand::click(const Click& click, std::function<void()> done) {
@@ -55,45 +51,32 @@ void Hand::letGo() {
         release(what);
 }
 
-void Hand::move(Place place) {
-    send(XCB_MOTION_NOTIFY, 0, place);
-}
-
 void Hand::buttonDown(int button) {
-    press({false, server_.deviceButton(static_cast<std::uint32_t>(button))});
+    press({false, deviceButton(button)});
 }
 
 void Hand::buttonUp(int button) {
-    release({false, server_.deviceButton(static_cast<std::uint32_t>(button))});
+    release({false, deviceButton(button)});
 }
 
-void Hand::keyDown(xcb_keycode_t code) {
+void Hand::keyDown(std::uint8_t code) {
     press({true, code});
 }
 
-void Hand::keyUp(xcb_keycode_t code) {
+void Hand::keyUp(std::uint8_t code) {
     release({true, code});
 }
 
 void Hand::press(Held what) {
-    const auto [isKey, code] = what;
     if (!held_.insert(what).second)
         return;
-    guard_.willHold(isKey, code);
-    send(isKey ? XCB_KEY_PRESS : XCB_BUTTON_PRESS, code);
+    guard_.willHold(what);
+    send(what, true);
 }
 
 void Hand::release(Held what) {
-    const auto [isKey, code] = what;
     if (held_.erase(what) == 0)
         return;
-    send(isKey ? XCB_KEY_RELEASE : XCB_BUTTON_RELEASE, code);
-    guard_.hasLetGo(isKey, code);
-}
-
-void Hand::send(std::uint8_t type, std::uint8_t code, Place place) {
-    xcb_test_fake_input(server_.connection(), type, code, XCB_CURRENT_TIME, server_.root(),
-                        static_cast<std::int16_t>(std::lround(place.x)),
-                        static_cast<std::int16_t>(std::lround(place.y)), 0);
-    server_.flush();
+    send(what, false);
+    guard_.hasLetGo(what);
 }

@@ -2,23 +2,20 @@
 #pragma once
 
 #include "agent/scan/Geometry.h"
-#include "agent/x11/Guard.h"
-#include "agent/x11/XServer.h"
+#include "agent/session/Guard.h"
 
 #include <QTimer>
 
+#include <cstdint>
 #include <functional>
 #include <set>
-#include <utility>
 
-/// Presses keys and buttons for the user, by XTEST. It knows what it holds down, and so does the
-/// guard before it is pressed.
+/// Presses keys and buttons for the user. It knows what it holds down, and so does the guard before
+/// it is pressed.
 class Hand {
 public:
-    /// Both must outlive it.
-    Hand(XServer& server, Guard& guard);
-    /// Lets go of everything.
-    ~Hand();
+    /// Who makes it an own one calls letGo() in the end.
+    virtual ~Hand() = default;
     Hand(const Hand&) = delete;
     Hand& operator=(const Hand&) = delete;
 
@@ -36,30 +33,37 @@ public:
     /// finished at once.
     void click(const Click& click, std::function<void()> done = {});
 
-    void move(Place place);
-    /// Buttons are 1 to 255, as programs see them: 1 is the main one, for left hands, too.
+    virtual void move(Place place) = 0;
+    /// Buttons are 1 to 255, as X has them: 1 is the main one, for left hands, too; 4 to 7 are the
+    /// wheel's.
     void buttonDown(int button);
     void buttonUp(int button);
-    /// `code` is the server's key code.
-    void keyDown(xcb_keycode_t code);
-    void keyUp(xcb_keycode_t code);
+    /// `code` is the typist's.
+    void keyDown(std::uint8_t code);
+    void keyUp(std::uint8_t code);
 
     /// Lets go of all that is held, at once. The rest of a click is dropped, and so is its `done`.
     void letGo();
 
     bool holdsAnything() const { return !held_.empty(); }
 
-private:
-    /// A key or button: whether it is a key, and its code.
-    using Held = std::pair<bool, std::uint8_t>;
+protected:
+    /// It must outlive it.
+    explicit Hand(Guard& guard);
 
+    /// The button's number where it is pressed, which the guard is told.
+    virtual std::uint8_t deviceButton(int button) const {
+        return static_cast<std::uint8_t>(button);
+    }
+
+    virtual void send(Held what, bool isDown) = 0;
+
+private:
     void press(Held what);
     void release(Held what);
-    void send(std::uint8_t type, std::uint8_t code, Place place = {});
     void step();
     void finish();
 
-    XServer& server_;
     Guard& guard_;
     std::set<Held> held_;
     Click click_;

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "agent/x11/Desktop.h"
+#include "agent/x11/XDesktop.h"
 
 #include "agent/x11/Panels.h"
 #include "agent/x11/Properties.h"
-#include "agent/x11/ScreenLock.h"
 #include "agent/x11/Screens.h"
 
 #include <QGuiApplication>
@@ -18,28 +17,20 @@ constexpr const char* kActiveWindow = "_NET_ACTIVE_WINDOW";
 
 } // namespace
 
-Desktop::Desktop(XServer& server) : server_(server), popUps_(std::make_unique<PopUps>(server)) {
+XDesktop::XDesktop(XServer& server) : server_(server), popUps_(std::make_unique<PopUps>(server)) {
     followServer();
     followRoot();
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         followQt();
 }
 
-Desktop::~Desktop() = default;
-
-std::vector<Screen> Desktop::screens() const {
+std::vector<Screen> XDesktop::screens() const {
     auto screens = listScreens(server_);
     measurePanels(server_, screens);
     return screens;
 }
 
-Area Desktop::inPixels(float x, float y, float width, float height) const {
-    const Screen main = listScreens(server_).front();
-    return {main.area.left + x * main.scale, main.area.top + y * main.scale, width * main.scale,
-            height * main.scale};
-}
-
-Place Desktop::pointer() const {
+Place XDesktop::pointer() const {
     xcb_connection_t* connection = server_.connection();
     const XReply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
         connection, xcb_query_pointer(connection, server_.root()), nullptr));
@@ -48,27 +39,23 @@ Place Desktop::pointer() const {
     return {static_cast<double>(reply->root_x), static_cast<double>(reply->root_y)};
 }
 
-std::vector<Area> Desktop::openMenus() const {
+std::vector<Area> XDesktop::openMenus() const {
     return popUps_->menus(listScreens(server_));
 }
 
-bool Desktop::lockWindowIsUp() const {
+bool XDesktop::lockWindowIsUp() const {
     return popUps_->lockWindowIsUp(listScreens(server_));
 }
 
-void Desktop::onScreens(std::function<void()> changed) {
+void XDesktop::onScreens(std::function<void()> changed) {
     screensChanged_ = std::move(changed);
 }
 
-void Desktop::onActiveWindow(std::function<void()> changed) {
+void XDesktop::onActiveWindow(std::function<void()> changed) {
     activeWindowChanged_ = std::move(changed);
 }
 
-void Desktop::onLock(std::function<void(bool)> changed) {
-    lock_ = std::make_unique<ScreenLock>(std::move(changed));
-}
-
-void Desktop::followQt() {
+void XDesktop::followQt() {
     const auto follow = [this](QScreen* screen) {
         QObject::connect(screen, &QScreen::geometryChanged, &context_, [this] { tellScreens(); });
     };
@@ -84,7 +71,7 @@ void Desktop::followQt() {
         QObject::connect(qGuiApp, signal, &context_, [this] { tellScreens(); });
 }
 
-void Desktop::followServer() {
+void XDesktop::followServer() {
     xcb_connection_t* connection = server_.connection();
     const auto* extension = xcb_get_extension_data(connection, &xcb_randr_id);
     if (!extension || !extension->present)
@@ -99,7 +86,7 @@ void Desktop::followServer() {
     });
 }
 
-void Desktop::followRoot() {
+void XDesktop::followRoot() {
     const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(server_.connection(), server_.root(), XCB_CW_EVENT_MASK, &mask);
     activeWindow_ = activeWindow();
@@ -114,12 +101,12 @@ void Desktop::followRoot() {
     });
 }
 
-xcb_window_t Desktop::activeWindow() const {
+xcb_window_t XDesktop::activeWindow() const {
     const auto windows = numbersOf(server_, askProperty(server_, server_.root(), kActiveWindow));
     return windows.empty() ? XCB_NONE : windows.front();
 }
 
-void Desktop::tellScreens() const {
+void XDesktop::tellScreens() const {
     if (screensChanged_)
         screensChanged_();
 }

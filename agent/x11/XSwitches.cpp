@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "agent/x11/Switches.h"
+#include "agent/x11/XSwitches.h"
 
 #include "platform/Support/ScanCodes.h"
 
@@ -41,7 +41,7 @@ std::uint32_t modifiersDown(XServer& server) {
 
 } // namespace
 
-Switches::Switches(XServer& server, Listener& listener)
+XSwitches::XSwitches(XServer& server, Listener& listener)
     : server_(server), listener_(listener), grabs_(server) {
     server_.onEvent([this](const xcb_generic_event_t& event) { handle(event); });
     selectEvents(server_, XCB_INPUT_DEVICE_ALL, XCB_INPUT_XI_EVENT_MASK_HIERARCHY);
@@ -49,11 +49,11 @@ Switches::Switches(XServer& server, Listener& listener)
     readDevices();
 }
 
-Switches::~Switches() {
+XSwitches::~XSwitches() {
     setState(State::Free);
 }
 
-void Switches::use(const PrefsRecord& record, double scale) {
+void XSwitches::use(const PrefsRecord& record, double scale) {
     record_ = record;
     if (scale != scale_) {
         scale_ = scale;
@@ -63,7 +63,7 @@ void Switches::use(const PrefsRecord& record, double scale) {
     refresh();
 }
 
-void Switches::setState(State state) {
+void XSwitches::setState(State state) {
     state_ = state;
     if (state == State::Free) {
         held_.clear();
@@ -72,7 +72,7 @@ void Switches::setState(State state) {
     refresh();
 }
 
-std::vector<int> Switches::taken() const {
+std::vector<int> XSwitches::taken() const {
     std::vector<int> roles;
     for (const Wanted& one : wanted(state_))
         if (one.isKey && std::ranges::any_of(grabs_.refused(), [&](const Grab& grab) {
@@ -86,7 +86,7 @@ std::vector<int> Switches::taken() const {
 
 // What is wanted
 
-bool Switches::isWanted(Role role, State state) const {
+bool XSwitches::isWanted(Role role, State state) const {
     const bool isScanning = state == State::Scanning;
     const bool takesSwitches = isScanning || state == State::Ready;
     switch (role) {
@@ -107,7 +107,7 @@ bool Switches::isWanted(Role role, State state) const {
 }
 
 /// Of two with the same key the one that the record has first.
-std::vector<Switches::Wanted> Switches::wanted(State state) const {
+std::vector<XSwitches::Wanted> XSwitches::wanted(State state) const {
     std::vector<Wanted> all;
     for (const Role role : {OnOff, Scan, Cancel, ShowSettings, SecondScan}) {
         const auto& [keyCode, modifiers] = record_.hotKeys[role];
@@ -124,7 +124,7 @@ std::vector<Switches::Wanted> Switches::wanted(State state) const {
     return all;
 }
 
-const Switches::Wanted* Switches::find(const std::vector<Wanted>& all, const Press& press) const {
+const XSwitches::Wanted* XSwitches::find(const std::vector<Wanted>& all, const Press& press) const {
     const auto found = std::ranges::find_if(all, [&](const Wanted& one) {
         return one.isKey == press.button.isKey && one.code == press.button.code &&
                (!one.isKey || one.modifiers == (press.modifiers & keys_.allModifiers()));
@@ -132,7 +132,7 @@ const Switches::Wanted* Switches::find(const std::vector<Wanted>& all, const Pre
     return found == all.end() ? nullptr : &*found;
 }
 
-void Switches::refresh() {
+void XSwitches::refresh() {
     std::set<Grab> grabs;
     for (const Wanted& one : wanted(state_))
         for (const InputDevice& device : devices_) {
@@ -153,7 +153,7 @@ void Switches::refresh() {
 
 /// What is heard only, and the motion of a mouse whose clicks may have to be passed on. At rest
 /// none of it comes.
-void Switches::select(const InputDevice& device) {
+void XSwitches::select(const InputDevice& device) {
     const bool isOff = state_ == State::Off;
     std::uint32_t events = 0;
     if (device.hasKeys && isOff && record_.wantHotKeyTrigger)
@@ -172,7 +172,7 @@ void Switches::select(const InputDevice& device) {
 
 // What comes in
 
-void Switches::handle(const xcb_generic_event_t& event) {
+void XSwitches::handle(const xcb_generic_event_t& event) {
     const int type = event.response_type & 0x7F;
     if (type == XCB_MAPPING_NOTIFY) {
         const KeyMap before = keys_;
@@ -186,7 +186,7 @@ void Switches::handle(const xcb_generic_event_t& event) {
     }
 }
 
-void Switches::handleInput(const xcb_ge_generic_event_t& event) {
+void XSwitches::handleInput(const xcb_ge_generic_event_t& event) {
     const auto& taken = reinterpret_cast<const xcb_input_key_press_event_t&>(event);
     const auto& raw = reinterpret_cast<const xcb_input_raw_key_press_event_t&>(event);
     const double moment = server_.momentOf(taken.time);
@@ -229,7 +229,7 @@ void Switches::handleInput(const xcb_ge_generic_event_t& event) {
     }
 }
 
-void Switches::readDevices() {
+void XSwitches::readDevices() {
     devices_ = inputDevices(server_);
     for (const InputDevice& device : devices_)
         if (device.hasButtons)
@@ -237,7 +237,7 @@ void Switches::readDevices() {
 }
 
 /// What a device that goes away held is let go.
-void Switches::changeDevices(const xcb_input_hierarchy_event_t& event) {
+void XSwitches::changeDevices(const xcb_input_hierarchy_event_t& event) {
     if (!(event.flags & kComesOrGoes))
         return;
     std::vector<Button> gone;
@@ -260,7 +260,7 @@ void Switches::changeDevices(const xcb_input_hierarchy_event_t& event) {
 }
 
 /// One that was taken. While a device has a key down, all its keys come.
-void Switches::press(const Press& press) {
+void XSwitches::press(const Press& press) {
     const auto all = wanted(state_);
     const Wanted* one = find(all, press);
     if (!one && press.button.isKey)
@@ -299,7 +299,7 @@ void Switches::press(const Press& press) {
 }
 
 /// One that goes to the programs, too.
-void Switches::hear(const Press& press) {
+void XSwitches::hear(const Press& press) {
     if (state_ != State::Off)
         return;
     const auto switches = wanted(State::Ready);
@@ -320,7 +320,7 @@ void Switches::hear(const Press& press) {
     down(press, one->role == SecondScan ? Switch::Second : Switch::First);
 }
 
-void Switches::moved(const xcb_input_raw_motion_event_t& event) {
+void XSwitches::moved(const xcb_input_raw_motion_event_t& event) {
     const auto found = motions_.find(event.deviceid);
     if (found == motions_.end())
         return;
@@ -338,14 +338,14 @@ void Switches::moved(const xcb_input_raw_motion_event_t& event) {
 /// The device is taken until its button comes up: it is given back at once. Programs see the button
 /// go down with XTEST's device, and stay down as long as one device holds it, which is then the
 /// helper's. The server does all three in one go: they leave with the next flush.
-void Switches::passOn(const Press& press) {
+void XSwitches::passOn(const Press& press) {
     send(XCB_BUTTON_PRESS, press.button.code);
     xcb_input_xi_ungrab_device(server_.connection(), XCB_CURRENT_TIME, press.button.device);
     send(XCB_BUTTON_RELEASE, press.button.code);
 }
 
 /// So that Super or Alt isn't alone for the programs: many open a menu then.
-void Switches::sendUnusedKey() {
+void XSwitches::sendUnusedKey() {
     if (!keys_.unusedKey())
         return;
     send(XCB_KEY_PRESS, *keys_.unusedKey());
@@ -354,26 +354,26 @@ void Switches::sendUnusedKey() {
 
 /// While a key or button is held that was taken, its whole device is. A modifier that is let go
 /// then would stay down for the programs. Nothing happens if they don't have it down.
-void Switches::releaseOther(const Button& button) {
+void XSwitches::releaseOther(const Button& button) {
     if (!held_.contains(button))
         send(button.isKey ? XCB_KEY_RELEASE : XCB_BUTTON_RELEASE, button.code);
 }
 
-void Switches::send(std::uint8_t type, std::uint32_t code) {
+void XSwitches::send(std::uint8_t type, std::uint32_t code) {
     const bool isKey = type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE;
     xcb_test_fake_input(server_.connection(), type,
                         isKey ? static_cast<std::uint8_t>(code) : server_.deviceButton(code),
                         XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
 }
 
-void Switches::down(const Press& press, Switch which) {
+void XSwitches::down(const Press& press, Switch which) {
     const bool wasHeld = isHeld(which);
     held_.emplace(press.button, which);
     if (!wasHeld)
         listener_.switchDown(which, press.moment);
 }
 
-void Switches::up(const Button& button, double moment) {
+void XSwitches::up(const Button& button, double moment) {
     const auto found = held_.find(button);
     if (found == held_.end())
         return;
@@ -385,6 +385,6 @@ void Switches::up(const Button& button, double moment) {
         listener_.switchUp(which, moment);
 }
 
-bool Switches::isHeld(Switch which) const {
+bool XSwitches::isHeld(Switch which) const {
     return std::ranges::any_of(held_, [which](const auto& one) { return one.second == which; });
 }

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "agent/session/Session.h"
+#include "agent/x11/XDesktop.h"
+#include "agent/x11/XHand.h"
+#include "agent/x11/XOverlayWindow.h"
+#include "agent/x11/XTypist.h"
+#include "agent/x11/XWindows.h"
+
+/// An X11 display.
+class XSession final : public Session {
+public:
+    /// Both must outlive it.
+    XSession(XServer& server, Guard& guard);
+
+    Desktop& desktop() override { return desktop_; }
+
+    Windows& windows() override { return windows_; }
+
+    Hand& hand() override { return hand_; }
+
+    Typist& typist() override { return typist_; }
+
+    OverlayWindows& overlays() override { return overlays_; }
+
+    std::unique_ptr<Switches> makeSwitches(Switches::Listener& listener) override;
+    void drain() override;
+    void onEnd(std::function<void()> ended) override;
+
+private:
+    XServer& server_;
+    XDesktop desktop_;
+    XWindows windows_;
+    XHand hand_;
+    XTypist typist_;
+    XOverlayWindows overlays_;
+};
