@@ -126,7 +126,7 @@ OSErr Link::quit(const AppleEvent&) {
 /// A pane that crashed gives nothing back.
 void Link::processesChanged() {
     const bool isThere =
-        pane_ == kNoProcess ? findOtherApplication(kPaneSignature) != kNoProcess : takesPart(pane_);
+        pane_ == kNoProcess ? findApplication(kPaneSignature) != kNoProcess : takesPart(pane_);
     if (paneHolds_ && !isThere)
         setPaneHolds(false);
 }
@@ -163,8 +163,7 @@ void Link::setTrouble(const std::string& text) {
 }
 
 void Link::change(const SettingSet& settings, const PrefsRecord& record) {
-    const ProcessSerialNumber window =
-        paneIsClosed_ ? kNoProcess : findOtherApplication(kPaneSignature);
+    const ProcessSerialNumber window = paneIsClosed_ ? kNoProcess : findApplication(kPaneSignature);
     if (window == kNoProcess)
         return store(settings, record);
     AppleEvent event = eventTo(window, kSetSettings);
@@ -193,7 +192,7 @@ void Link::send(AEEventID eventID, DescType type, const void* data, std::size_t 
         return;
     // An agent that the pane launched wasn't told which process shows the pane.
     if (pane_ == kNoProcess)
-        pane_ = findOtherApplication(kPaneSignature);
+        pane_ = findApplication(kPaneSignature);
     AppleEvent event = eventTo(pane_, eventID);
     AEPutParamPtr(&event, keyDirectObject, type, data, size);
     AESend(&event, nullptr, kAENoReply, kAEDefaultTimeout);
@@ -206,17 +205,4 @@ AppleEvent Link::eventTo(const ProcessSerialNumber& process, AEEventID eventID) 
     AECreateAppleEvent(kAgentClass, eventID, &address, kAutoGenerateReturnID, kAnyTransactionID,
                        &event);
     return event;
-}
-
-ProcessSerialNumber findOtherApplication(OSType signature) {
-    ProcessSerialNumber self, psn = kNoProcess;
-    const bool isOneOfThem = GetCurrentProcess(&self) == noErr;
-    while (GetNextProcess(&psn) == noErr) {
-        ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
-        if (GetProcessInformation(&psn, &info) == noErr &&
-            info.processType == fourCharCode("APPL") && info.processSignature == signature &&
-            !(isOneOfThem && psn == self))
-            return psn;
-    }
-    return kNoProcess;
 }

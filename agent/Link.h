@@ -82,6 +82,3 @@ private:
     ProcessSerialNumber pane_ = kNoProcess; ///< from its opening event
     std::optional<ChangeWatch> processes_;
 };
-
-/// The first other process that takes part with type 'APPL' and that signature, or kNoProcess.
-ProcessSerialNumber findOtherApplication(OSType signature);

@@ -57,31 +57,28 @@ std::string noApplications() {
 
 Openers::Openers(Session& session, std::function<void()> opened,
                  std::function<void(const std::string&)> cantDo)
-    : session_(session), opened_(std::move(opened)), cantDo_(std::move(cantDo)) {
+    : session_(session), opened_(std::move(opened)), cantDo_(std::move(cantDo)),
+      list_(session.overlays()) {
     look_.setInterval(kLookMs);
     QObject::connect(&look_, &QTimer::timeout, [this] { lookForMenu(); });
 }
 
 std::optional<Area> Openers::list() const {
-    return list_ ? list_->place() : std::nullopt;
+    return list_.place();
 }
 
 void Openers::close() {
     look_.stop();
-    if (list_)
-        list_->close();
+    list_.close();
 }
 
 /// On the mouse pointer's screen.
 void Openers::choose(std::vector<std::string> rows, std::function<void(std::size_t)> chosen) {
-    if (!list_)
-        list_ = std::make_unique<ListWindow>(session_.overlays());
     const auto screens = session_.desktop().screens();
     const auto here = std::ranges::find_if(screens, [&](const Screen& screen) {
         return screen.area.contains(session_.desktop().pointer());
     });
-    list_->open(std::move(rows), here == screens.end() ? screens.front() : *here,
-                std::move(chosen));
+    list_.open(std::move(rows), here == screens.end() ? screens.front() : *here, std::move(chosen));
     QTimer::singleShot(0, &look_, [this] { opened_(); });
 }
 

@@ -46,7 +46,7 @@ private:
     Session& session_;
     std::function<void()> opened_;
     std::function<void(const std::string&)> cantDo_;
-    std::unique_ptr<ListWindow> list_;
+    ListWindow list_;
     QTimer look_; ///< for a menu that opens
     double until_ = 0;
     std::string otherwise_; ///< what is said when none opens

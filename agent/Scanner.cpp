@@ -7,7 +7,6 @@
 #include "platform/Support/EventMoment.h"
 #include "src/files/ptrutil.h"
 #include "src/record/differences.h"
-#include "src/record/keycombo.h"
 
 #include <algorithm>
 #include <cmath>
@@ -44,7 +43,7 @@ Scanner::Scanner(Link& link, Session& session, Guard& guard)
     : link_(link), session_(session), guard_(guard), desktop_(session.desktop()),
       hand_(session.hand()), switches_(session.makeSwitches(*this)),
       lock_([this](bool isLocked) { screenLocked(isLocked); }), deeds_(session, *this),
-      overlay_(session.overlays()), palette_(session.overlays(), actions_),
+      palette_(session.overlays(), actions_), overlay_(session.overlays()),
       snapping_(session.windows()), settings_(link.settings()) {
     deadline_.setSingleShot(true);
     deadline_.setTimerType(Qt::PreciseTimer);
@@ -141,17 +140,7 @@ void Scanner::updateSwitches() {
 }
 
 void Scanner::tellTrouble() {
-    std::vector<std::string> taken;
-    for (const int role : switches_->taken()) {
-        const HotKey& key = settings_.hotKeys[role];
-        const auto name = createKeyComboString(key.modifiers, key.keyCode);
-        taken.push_back(name ? toUTF8(name.get()) : "");
-    }
-    const std::string trouble =
-        taken.empty() ? ""
-                      : filled(localized("Agent", "Another program has these keys: %1. Choose "
-                                                  "others under Presses."),
-                               {joined(Joint::Items, taken)});
+    const std::string trouble = switches_->trouble();
     if (!trouble.empty() && trouble != toldTrouble_)
         notify(trouble);
     toldTrouble_ = trouble;

@@ -76,9 +76,9 @@ private:
     std::unique_ptr<Switches> switches_;
     ScreenLock lock_;
     Deeds deeds_;
-    Overlay overlay_;
     Actions actions_;
     Palette palette_;
+    Overlay overlay_; ///< above the palette, and that above a list of the deeds
     Sounds sounds_;
     Snapping snapping_;
     PrefsRecord settings_; ///< as used last

@@ -9,6 +9,8 @@
 #include "agent/Notification.h"
 #include "agent/Scanner.h"
 #include "agent/UnixSignals.h"
+#include "agent/wayland/WaylandReleaser.h"
+#include "agent/wayland/WaylandSession.h"
 #include "agent/x11/XReleaser.h"
 #include "agent/x11/XSession.h"
 #include "platform/CoreFoundation/Localization.h"
@@ -19,9 +21,11 @@
 #include <QDBusConnection>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <optional>
 #include <unistd.h>
 
@@ -36,26 +40,50 @@ constexpr OSType kAgentSignature = fourCharCode("Krvx");
 /// From the agent's own folder to the pane's resources, which have the languages.
 constexpr const char* kPaneResources = "/../../../../Resources";
 
-enum class DisplayKind { None, X11, Wayland };
+/// A kind of display server that can be scanned.
+struct Way {
+    const char* variable; ///< of the environment, which names the server
+    bool (*answers)();
+    const char* qtPlatform; ///< with which the agent draws
+    std::unique_ptr<Releaser> (*connectReleaser)();
+    std::unique_ptr<Session> (*connect)(Guard& guard, std::string& fault);
+};
 
-/// What this session draws with. XWayland counts as Wayland: it doesn't hear every press.
-DisplayKind displayKind() {
-    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        return DisplayKind::Wayland;
-    if (qEnvironmentVariableIsEmpty("DISPLAY"))
-        return DisplayKind::None;
+bool waylandAnswers() {
+    wl_display* const probe = wl_display_connect(nullptr);
+    if (probe)
+        wl_display_disconnect(probe);
+    return probe;
+}
+
+bool xAnswers() {
     xcb_connection_t* const probe = xcb_connect(nullptr, nullptr);
     const bool answers = !xcb_connection_has_error(probe);
     xcb_disconnect(probe);
-    return answers ? DisplayKind::X11 : DisplayKind::None;
+    return answers;
+}
+
+/// The first one that answers is taken. XWayland counts as Wayland: it doesn't hear every press.
+constexpr Way kWays[] = {
+    {"WAYLAND_DISPLAY", waylandAnswers, "offscreen", connectWaylandReleaser,
+     WaylandSession::connect},
+    {"DISPLAY", xAnswers, "xcb", connectXReleaser, XSession::connect},
+};
+
+/// Null without a display.
+const Way* wayHere() {
+    const auto* const way = std::find_if(std::begin(kWays), std::end(kWays), [](const Way& each) {
+        return !qEnvironmentVariableIsEmpty(each.variable) && each.answers();
+    });
+    return way == std::end(kWays) ? nullptr : way;
 }
 
 /// With a display it knows the screens, and draws the palette as the pane does. Neither variable is
 /// for the programs that it starts.
-std::unique_ptr<QCoreApplication> makeApplication(DisplayKind display, int& argc, char** argv) {
-    if (display != DisplayKind::X11)
+std::unique_ptr<QCoreApplication> makeApplication(const Way* way, int& argc, char** argv) {
+    if (!way)
         return std::make_unique<QCoreApplication>(argc, argv);
-    qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("QT_QPA_PLATFORM", way->qtPlatform);
     qputenv("QT_QPA_PLATFORMTHEME", "generic"); // no toolkit is loaded for its colours
     auto application = std::make_unique<QApplication>(argc, argv);
     qunsetenv("QT_QPA_PLATFORM");
@@ -73,7 +101,7 @@ QString programOf(const ProcessSerialNumber& psn) {
 /// Whether this is the session's only agent. The bus gives a name to one owner, so of two that
 /// start together one remains.
 bool becomeTheAgent() {
-    const ProcessSerialNumber other = findOtherApplication(kAgentSignature);
+    const ProcessSerialNumber other = findApplication(kAgentSignature);
     if (other == kNoProcess)
         return QDBusConnection::sessionBus().registerService(QStringLiteral("org.korvex.Agent"));
     if (programOf(other) != QCoreApplication::applicationFilePath())
@@ -97,29 +125,19 @@ void tell(Link& link, const std::string& trouble) {
 
 /// What scans, if this session lets it.
 struct Scanning {
-    std::unique_ptr<XServer> server;
-    std::unique_ptr<XSession> session;
+    std::unique_ptr<Session> session;
     std::optional<Scanner> scanner;
 
-    void begin(DisplayKind display, Link& link, Guard* guard) {
-        std::string fault;
-        if (display == DisplayKind::Wayland)
-            fault =
-                localized("Agent", "Korvex can't scan in a Wayland session. Log out, and choose a "
-                                   "session with X11 where you log in.");
-        else if (display == DisplayKind::X11 && !guard)
-            fault = localized("Agent", "Korvex can't scan: no process can be started.");
-        else if (display == DisplayKind::X11)
-            server = XServer::connect(fault);
-        if (server) {
-            Appearance::follow(); // the palette does
-            palutilUseBundle(CFBundleGetMainBundle);
-            server->onEnd([] { QCoreApplication::exit(1); });
-            session = std::make_unique<XSession>(*server, *guard);
-            scanner.emplace(link, *session, *guard);
-        } else if (!fault.empty()) {
-            tell(link, fault);
-        }
+    void begin(const Way& way, Link& link, Guard* guard) {
+        std::string fault = localized("Agent", "Korvex can't scan: no process can be started.");
+        if (guard)
+            session = way.connect(*guard, fault);
+        if (!session)
+            return tell(link, fault);
+        Appearance::follow(); // the palette does
+        palutilUseBundle(CFBundleGetMainBundle);
+        session->onEnd([] { QCoreApplication::exit(1); });
+        scanner.emplace(link, *session, *guard);
     }
 };
 
@@ -127,14 +145,12 @@ struct Scanning {
 
 int main(int argc, char** argv) {
     UnixSignals signals{SIGUSR1, SIGTERM, SIGINT, SIGHUP};
-    const DisplayKind where = displayKind();
+    const Way* const way = wayHere();
     const std::string self =
         QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget().toStdString();
     const int restarts = argc > 1 ? std::atoi(argv[1]) : 0; // given by the guard
-    const auto guard = where == DisplayKind::X11
-                           ? Guard::start(connectXReleaser, {self.c_str(), restarts})
-                           : nullptr;
-    const auto application = makeApplication(where, argc, argv);
+    const auto guard = way ? Guard::start(way->connectReleaser, {self.c_str(), restarts}) : nullptr;
+    const auto application = makeApplication(way, argc, argv);
 
     alarm(kStartSeconds);
 
@@ -159,7 +175,8 @@ int main(int argc, char** argv) {
         return 1;
     link.readSettings(restarts > 0);
     Scanning scanning;
-    scanning.begin(where, link, guard.get());
+    if (way)
+        scanning.begin(*way, link, guard.get());
     signals.deliverTo([&](int signal) {
         if (signal == SIGUSR1)
             link.switchTo(!link.settings().on);

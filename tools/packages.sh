@@ -6,6 +6,7 @@ build_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev libgl-dev libopengl-dev
     libicns-dev libqt6svg6 libcanberra-dev libxcb1-dev libxkbcommon-x11-dev
+    libwayland-dev wayland-protocols
     libxcb-randr0-dev libxcb-shape0-dev libxcb-xfixes0-dev libxcb-xinput-dev libxcb-xtest0-dev
     libxkbcommon-x11-dev
     librsvg2-bin icnsutils python3

@@ -63,7 +63,7 @@ OverlayWindow::Outline frame(int edge) {
 } // namespace
 
 Overlay::Overlay(OverlayWindows& windows) : windows_(windows) {
-    for (auto* window : {&pointer_, &ring_, &cross_, &guide_, &line_, &band_})
+    for (auto* window : {&band_, &line_, &guide_, &cross_, &ring_, &pointer_})
         *window = windows_.make();
     windows_.onBlend([this] { redraw(); });
 }

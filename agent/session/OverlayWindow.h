@@ -46,6 +46,7 @@ class OverlayWindows {
 public:
     virtual ~OverlayWindows() = default;
 
+    /// Where siblings have a fixed order, one that is made later is above.
     virtual std::unique_ptr<OverlayWindow> make() = 0;
 
     /// Whether colours and images are seen with their transparency. Without it they should have

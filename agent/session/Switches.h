@@ -4,7 +4,7 @@
 #include "agent/scan/Presses.h"
 #include "src/record/PrefsRecord.h"
 
-#include <vector>
+#include <string>
 
 /// Hears the switches and the agent's hot keys.
 class Switches {
@@ -42,9 +42,8 @@ public:
     /// is forgotten.
     virtual void setState(State state) = 0;
 
-    /// The hot keys that another program has: indices in the record's hotKeys, which
-    /// createKeyComboString names. Those that the state doesn't take aren't among them.
-    virtual std::vector<int> taken() const = 0;
+    /// What keeps presses from being heard, in a sentence, or empty.
+    virtual std::string trouble() const = 0;
 
 protected:
     Switches() = default;

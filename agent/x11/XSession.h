@@ -11,8 +11,11 @@
 /// An X11 display.
 class XSession final : public Session {
 public:
-    /// Both must outlive it.
-    XSession(XServer& server, Guard& guard);
+    /// Null with `fault` in words when there is no display, or it lacks what scanning needs.
+    static std::unique_ptr<Session> connect(Guard& guard, std::string& fault);
+
+    /// `guard` must outlive it.
+    XSession(std::unique_ptr<XServer> server, Guard& guard);
 
     Desktop& desktop() override { return desktop_; }
 
@@ -29,7 +32,7 @@ public:
     void onEnd(std::function<void()> ended) override;
 
 private:
-    XServer& server_;
+    std::unique_ptr<XServer> server_;
     XDesktop desktop_;
     XWindows windows_;
     XHand hand_;

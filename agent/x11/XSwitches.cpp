@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "agent/x11/XSwitches.h"
 
+#include "platform/CoreFoundation/Localization.h"
 #include "platform/Support/ScanCodes.h"
+#include "src/record/keycombo.h"
 
 #include <algorithm>
 #include <xcb/xtest.h>
@@ -70,6 +72,19 @@ void XSwitches::setState(State state) {
         heardOnly_.clear();
     }
     refresh();
+}
+
+std::string XSwitches::trouble() const {
+    std::vector<std::string> names;
+    for (const int role : taken()) {
+        const HotKey& key = record_.hotKeys[role];
+        const auto name = createKeyComboString(key.modifiers, key.keyCode);
+        names.push_back(name ? toUTF8(name.get()) : "");
+    }
+    return names.empty() ? ""
+                         : filled(localized("Agent", "Another program has these keys: %1. Choose "
+                                                     "others under Presses."),
+                                  {joined(Joint::Items, names)});
 }
 
 std::vector<int> XSwitches::taken() const {

@@ -33,7 +33,12 @@ public:
 
     void use(const PrefsRecord& record, double scale) override;
     void setState(State state) override;
-    std::vector<int> taken() const override;
+    /// Keys that another program has.
+    std::string trouble() const override;
+
+    /// Those of the hot keys: indices in the record's hotKeys. Those that the state doesn't take
+    /// aren't among them.
+    std::vector<int> taken() const;
 
 private:
     /// A key or button of a device.

@@ -48,3 +48,16 @@ OSStatus GetProcessPID(const ProcessSerialNumber* psn, pid_t* pid) {
     *pid = process->name.pid;
     return noErr;
 }
+
+ProcessSerialNumber findApplication(OSType signature) {
+    ProcessSerialNumber self, psn = kNoProcess;
+    const bool isOneOfThem = GetCurrentProcess(&self) == noErr;
+    while (GetNextProcess(&psn) == noErr) {
+        ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
+        if (GetProcessInformation(&psn, &info) == noErr &&
+            info.processType == fourCharCode("APPL") && info.processSignature == signature &&
+            !(isOneOfThem && psn == self))
+            return psn;
+    }
+    return kNoProcess;
+}

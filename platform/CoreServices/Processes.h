@@ -49,5 +49,9 @@ OSErr GetNextProcess(ProcessSerialNumber* psn);
 
 OSErr GetProcessInformation(const ProcessSerialNumber* psn, ProcessInfoRec* info);
 
+/// The first other process of type 'APPL' with that signature, or kNoProcess. macOS has no such
+/// operation.
+ProcessSerialNumber findApplication(OSType signature);
+
 /// procNotFound when the process is gone.
 OSStatus GetProcessPID(const ProcessSerialNumber* psn, pid_t* pid);

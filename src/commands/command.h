@@ -66,6 +66,14 @@ struct ProfileVerb {
 
 std::span<const ProfileVerb> profileVerbs();
 
+// SwitchCommands.cpp
+
+/// The hot keys' names, as `press` and `release` take them, in the record's order.
+std::span<const char* const> hotKeyNames();
+int runPress(const CommandLine& line);
+int runRelease(const CommandLine& line);
+int runShortcuts(const CommandLine& line);
+
 // ShowCommand.cpp
 
 /// In the form's order, as `show` takes them; empty without the pane's bundle.

@@ -37,6 +37,16 @@ constexpr Command kCommands[] = {
     {"show", LOCALIZABLE("Commands", "SECTION"),
      LOCALIZABLE("Commands", "Opens the window at that section, or brings it to the front there."),
      runShow, 1, 1},
+    {"press", "[on-off|scan|cancel|settings|second-scan]",
+     LOCALIZABLE("Commands", "For a shortcut of a Wayland desktop: tells Korvex that this key, or "
+                             "else the scan key, went down."),
+     runPress, 0, 1},
+    {"release", "[on-off|scan|cancel|settings|second-scan]",
+     LOCALIZABLE("Commands", "The same when it comes up."), runRelease, 0, 1},
+    {"shortcuts", "",
+     LOCALIZABLE("Commands", "Prints such shortcuts for your hot keys, as sway's configuration has "
+                             "them."),
+     runShortcuts, 0, 0},
     {"completion", "", LOCALIZABLE("Commands", "Prints the completion for bash."), runCompletion, 0,
      0},
     {"manual", "",

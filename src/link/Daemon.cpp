@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr OSType kAgentProcessType = fourCharCode("APPL");
 constexpr OSType kAgentSignature = fourCharCode("Krvx");
 constexpr AEEventClass kAgentEventClass = fourCharCode("Krvx");
 constexpr AEEventID kPaneOpened = fourCharCode("PPop");
@@ -53,16 +52,10 @@ bool findDaemon() {
         informedPSN = kNoProcess;
     if (takesPart(daemonPSN))
         return true;
-    ProcessSerialNumber psn = kNoProcess;
-    while (GetNextProcess(&psn) == noErr) {
-        ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
-        if (GetProcessInformation(&psn, &info) == noErr && info.processType == kAgentProcessType &&
-            info.processSignature == kAgentSignature) {
-            daemonPSN = psn;
-            return true;
-        }
-    }
-    return false;
+    const ProcessSerialNumber found = findApplication(kAgentSignature);
+    if (found != kNoProcess)
+        daemonPSN = found;
+    return found != kNoProcess;
 }
 
 void daemonStart() {

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr OSType kWindowType = fourCharCode("APPL");
 constexpr OSType kWindowSignature = fourCharCode("sprf");
 constexpr AEEventClass kEventClass = fourCharCode("Krvx");
 constexpr AEEventID kSetSettings = fourCharCode("PSet");
@@ -21,17 +20,6 @@ constexpr DescType typeBits = fourCharCode("comp");
 constexpr SInt32 kPatience = 5 * 60; // ticks
 
 void (*takeChange)(const SettingSet& settings, const PrefsRecord& record) = nullptr;
-
-ProcessSerialNumber findWindow() {
-    ProcessSerialNumber psn = kNoProcess;
-    while (GetNextProcess(&psn) == noErr) {
-        ProcessInfoRec info{.processInfoLength = kProcessInfoRecLength};
-        if (GetProcessInformation(&psn, &info) == noErr && info.processType == kWindowType &&
-            info.processSignature == kWindowSignature)
-            return psn;
-    }
-    return kNoProcess;
-}
 
 /// Takes the settings out of an event's bytes, each like a value from a file: as its text, if that
 /// is valid. An administrator's default is taken as it is. False, and `taken` is of no use, when
@@ -75,7 +63,7 @@ OSErr handleSetSettings(const AppleEvent* event, AppleEvent*, void*) {
 } // namespace
 
 std::optional<std::string> sendToWindow(const SettingSet& settings, const PrefsRecord& record) {
-    const ProcessSerialNumber window = findWindow();
+    const ProcessSerialNumber window = findApplication(kWindowSignature);
     if (window == kNoProcess)
         return std::nullopt;
     const std::uint64_t bits = settings.to_ullong();
@@ -94,7 +82,7 @@ std::optional<std::string> sendToWindow(const SettingSet& settings, const PrefsR
     case procNotFound:
         return std::nullopt;
     case errAETimeout:
-        if (findWindow() != window)
+        if (findApplication(kWindowSignature) != window)
             return std::nullopt; // it closed meanwhile
         return localized("Faults", "the open window doesn't answer; the change may still come");
     default:

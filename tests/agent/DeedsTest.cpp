@@ -81,7 +81,7 @@ protected:
     std::unique_ptr<Guard> guard_ = Guard::start(connectXReleaser);
     Application application_;
     std::unique_ptr<XServer> server_ = XServer::connect(fault_);
-    std::unique_ptr<XSession> session_ = std::make_unique<XSession>(*server_, *guard_);
+    std::unique_ptr<Session> session_ = XSession::connect(*guard_, fault_);
     Told told_;
     std::unique_ptr<Deeds> deeds_ = std::make_unique<Deeds>(*session_, told_);
     PrefsRecord settings_ = [] {

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "agent/wayland/ShortcutSwitches.h"
+
+#include "platform/CoreFoundation/CFPreferences.h"
+#include "platform/CoreFoundation/Localization.h"
+#include "platform/Support/EventMoment.h"
+#include "src/store/prefs.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr AEEventClass kAgentClass = fourCharCode("Krvx");
+constexpr AEEventID kSwitch = fourCharCode("PPsw");
+constexpr AEKeyword keyHotKey = fourCharCode("HKey");
+constexpr AEKeyword keyMoment = fourCharCode("When");
+constexpr DescType typeNanoseconds = fourCharCode("comp");
+
+constexpr const char* kHeardKey = "agent.shortcutHeard";
+
+/// As the record has its hot keys.
+enum Key : UInt32 { OnOff, Scan, Cancel, ShowSettings, SecondScan };
+
+template <class T>
+OSErr read(const AppleEvent& event, AEKeyword keyword, DescType type, T& value) {
+    std::size_t size = 0;
+    const OSErr error = AEGetParamPtr(&event, keyword, type, nullptr, &value, sizeof value, &size);
+    return error == noErr && size != sizeof value ? paramErr : error;
+}
+
+} // namespace
+
+ShortcutSwitches::ShortcutSwitches(Listener& listener)
+    : listener_(listener),
+      hasHeard_(static_cast<bool>(CFPreferencesCopyAppValue(CFSTR(kHeardKey), kAgentBundleID))) {
+    AEInstallEventHandler(kAgentClass, kSwitch, handle, this);
+}
+
+ShortcutSwitches::~ShortcutSwitches() {
+    AERemoveEventHandler(kAgentClass, kSwitch, handle);
+}
+
+std::string ShortcutSwitches::trouble() const {
+    return hasHeard_
+               ? ""
+               : localized("Agent", "Korvex hears no switch yet: the desktop's shortcuts must "
+                                    "tell it of presses. The help says how, under \"On "
+                                    "Wayland\".");
+}
+
+void ShortcutSwitches::remember() {
+    if (std::exchange(hasHeard_, true))
+        return;
+    CFPreferencesSetAppValue(CFSTR(kHeardKey), CFSTR("yes"), kAgentBundleID);
+    CFPreferencesAppSynchronize(kAgentBundleID);
+}
+
+OSErr ShortcutSwitches::handle(const AppleEvent* event, AppleEvent*, void* self) {
+    return static_cast<ShortcutSwitches*>(self)->hear(*event);
+}
+
+void ShortcutSwitches::setState(State state) {
+    state_ = state;
+    if (state == State::Free)
+        held_.clear();
+}
+
+OSErr ShortcutSwitches::hear(const AppleEvent& event) {
+    UInt8 isDown = 0;
+    UInt32 key = 0;
+    std::uint64_t nanoseconds = 0;
+    if (const OSErr error = read(event, keyDirectObject, typeBoolean, isDown))
+        return error;
+    if (const OSErr error = read(event, keyHotKey, typeUInt32, key))
+        return error;
+    if (const OSErr error = read(event, keyMoment, typeNanoseconds, nanoseconds))
+        return error;
+    if (isDown > 1 || key > SecondScan)
+        return paramErr;
+    remember();
+    const double now = monotonicNow();
+    const double moment = std::clamp(static_cast<double>(nanoseconds) * 1e-9, now - kLatest, now);
+    if (state_ == State::Free)
+        return noErr;
+    if (isDown)
+        press(key, moment);
+    else
+        release(key, moment);
+    return noErr;
+}
+
+void ShortcutSwitches::press(UInt32 key, double moment) {
+    const auto held = held_.find(key);
+    if (held != held_.end() && moment - std::exchange(held->second, moment) < kRepeat)
+        return;
+    release(key, moment);
+    held_.emplace(key, moment);
+    switch (key) {
+    case OnOff:
+        return listener_.onOffKey();
+    case Cancel:
+        return state_ == State::Scanning ? listener_.cancelKey() : void();
+    case ShowSettings:
+        return listener_.showSettingsKey();
+    case Scan:
+        return listener_.switchDown(Switch::First, moment);
+    case SecondScan:
+        return listener_.switchDown(Switch::Second, moment);
+    }
+}
+
+void ShortcutSwitches::release(UInt32 key, double moment) {
+    if (held_.erase(key) == 0)
+        return;
+    if (key == Scan)
+        listener_.switchUp(Switch::First, moment);
+    else if (key == SecondScan)
+        listener_.switchUp(Switch::Second, moment);
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "agent/session/Switches.h"
+#include "platform/CoreServices/AppleEvents.h"
+
+#include <map>
+
+/// Hears what the desktop's own shortcuts tell by the event 'PPsw' (docs/agent-contract.md), as
+/// `korvex-preferences press` sends it. Which keys those are is the desktop's matter. One per
+/// process.
+class ShortcutSwitches final : public Switches {
+public:
+    /// It must outlive it.
+    explicit ShortcutSwitches(Listener& listener);
+    ~ShortcutSwitches() override;
+
+    void use(const PrefsRecord&, double) override {}
+
+    void setState(State state) override;
+
+    /// Until the first event came to this user's agent, how to make the desktop send some.
+    std::string trouble() const override;
+
+    /// A press of a switch that is down already is the keyboard's repeat when it comes within so
+    /// many seconds of the last one. Later it is a new one, whose release before wasn't told.
+    static constexpr double kRepeat = 0.7;
+    /// Seconds that a press may be on its way.
+    static constexpr double kLatest = 1;
+
+private:
+    static OSErr handle(const AppleEvent* event, AppleEvent* reply, void* self);
+    void remember();
+    OSErr hear(const AppleEvent& event);
+    void press(UInt32 key, double moment);
+    void release(UInt32 key, double moment);
+
+    Listener& listener_;
+    bool hasHeard_;
+    State state_ = State::Free;
+    std::map<UInt32, double> held_; ///< keys that are down, and when they were told last
+};

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "agent/session/Session.h"
+#include "agent/wayland/LayerWindows.h"
+#include "agent/wayland/WaylandDesktop.h"
+#include "agent/wayland/WaylandTypist.h"
+
+/// A Wayland session whose compositor lets programs draw over all windows and act for the user.
+class WaylandSession final : public Session {
+public:
+    /// Null with `fault` in words when there is none.
+    static std::unique_ptr<Session> connect(Guard& guard, std::string& fault);
+
+    Desktop& desktop() override { return desktop_; }
+
+    Windows& windows() override { return windows_; }
+
+    Hand& hand() override { return hand_; }
+
+    Typist& typist() override { return typist_; }
+
+    OverlayWindows& overlays() override { return overlays_; }
+
+    std::unique_ptr<Switches> makeSwitches(Switches::Listener& listener) override;
+
+    void drain() override { display_->drain(); }
+
+    void onEnd(std::function<void()> ended) override { display_->onEnd(std::move(ended)); }
+
+private:
+    WaylandSession(std::unique_ptr<WaylandDisplay> display, Guard& guard);
+
+    std::unique_ptr<WaylandDisplay> display_;
+    WaylandWindows windows_;
+    VirtualHand hand_;
+    WaylandTypist typist_;
+    WaylandDesktop desktop_;
+    LayerWindows overlays_;
+};
