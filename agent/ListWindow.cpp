@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "agent/ListWindow.h"
 
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
@@ -24,11 +24,12 @@ QFont listFont() {
 
 /// In points.
 QSize sizeOf(const std::vector<std::string>& rows, double mostWidth) {
-    const QFontMetrics metrics(listFont());
-    int width = 0;
+    const QFontMetricsF metrics(listFont());
+    double width = 0;
     for (const std::string& row : rows)
         width = std::max(width, metrics.horizontalAdvance(QString::fromStdString(row)));
-    return {std::min({width + 2 * kMargin, kMostWidth, static_cast<int>(mostWidth)}),
+    return {std::min({static_cast<int>(std::ceil(width)) + 2 * kMargin, kMostWidth,
+                      static_cast<int>(mostWidth)}),
             static_cast<int>(rows.size()) * ListWindow::kRowHeight};
 }
 

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace {
@@ -116,12 +117,17 @@ void LayerWindow::redraw() {
         draw(*part);
 }
 
-void LayerWindow::draw(Part& part) {
+void LayerWindow::draw(const Part& part) {
     if (!part.isWanted || !part.isConfigured)
         return;
-    part.size = place_.size();
     wl_surface_attach(part.surface, shareImage(display_.memory(), picture()), 0, 0);
-    wl_surface_damage_buffer(part.surface, 0, 0, part.size.width(), part.size.height());
+    damage(part);
+}
+
+/// All of it is painted anew where it is.
+void LayerWindow::damage(const Part& part) {
+    constexpr int kAll = std::numeric_limits<int>::max();
+    wl_surface_damage_buffer(part.surface, 0, 0, kAll, kAll);
     wl_surface_commit(part.surface);
 }
 
@@ -146,19 +152,22 @@ const OverlayWindow* LayerWindow::show(const QRect& place, const OverlayWindow* 
 
 /// One that wasn't seen gets an answer first, and its content then.
 void LayerWindow::place(Part& part) {
-    if (part.leaving) {
-        part.isWanted = true;
+    const bool wasWanted = std::exchange(part.isWanted, true);
+    if (part.leaving)
         return;
-    }
     const QPoint corner = place_.topLeft() - rectOf(part.screen->area).topLeft();
-    zwlr_layer_surface_v1_set_margin(part.layer, corner.y(), 0, 0, corner.x());
+    const bool isMoved = std::exchange(part.corner, corner) != corner;
     const bool isResized = std::exchange(part.size, place_.size()) != place_.size();
+    if (wasWanted && !isMoved && !isResized)
+        return;
+    // sway 1.7 forgets to paint the place that it leaves on any screen but the first.
+    if (part.isConfigured)
+        damage(part);
+    zwlr_layer_surface_v1_set_margin(part.layer, corner.y(), 0, 0, corner.x());
+    zwlr_layer_surface_v1_set_size(part.layer, static_cast<std::uint32_t>(place_.width()),
+                                   static_cast<std::uint32_t>(place_.height()));
     if (isResized)
-        zwlr_layer_surface_v1_set_size(part.layer, static_cast<std::uint32_t>(place_.width()),
-                                       static_cast<std::uint32_t>(place_.height()));
-    if (part.isWanted && isResized)
         draw(part);
-    part.isWanted = true;
     wl_surface_commit(part.surface);
 }
 
@@ -185,8 +194,9 @@ void LayerWindow::hide(Part& part) {
 
 void LayerWindow::hasLeft(Part& part) {
     wl_callback_destroy(std::exchange(part.leaving, nullptr));
-    if (part.isWanted)
-        part.window->place(part);
+    if (!std::exchange(part.isWanted, false))
+        return;
+    part.window->place(part);
 }
 
 void LayerWindow::configured(Part& part, std::uint32_t serial) {

@@ -43,7 +43,8 @@ private:
         /// Not null while it was hidden and the compositor may not know yet: what it says until
         /// then is of the time before.
         wl_callback* leaving = nullptr;
-        QSize size = {}; ///< of its content
+        QPoint corner = {}; ///< on the screen
+        QSize size = {};    ///< of its content
     };
 
     void addPart(const WaylandOutput& screen);
@@ -52,7 +53,8 @@ private:
     void hide(Part& part);
     static void configured(Part& part, std::uint32_t serial);
     static void hasLeft(Part& part);
-    void draw(Part& part);
+    void draw(const Part& part);
+    static void damage(const Part& part);
     void redraw();
     QImage picture() const;
 

@@ -1,0 +1,32 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""A GTK 3 window that tells its standard output what it gets, a line each: "press 1 at 30,40",
+"release 1", "scroll down", "key Return", "closed". Its title is its only argument."""
+
+import sys
+
+import gi
+
+gi.require_version("Gdk", "3.0")
+gi.require_version("Gtk", "3.0")
+from gi.repository import Gdk, Gtk  # noqa: E402
+
+
+def tell(*words) -> None:
+    print(*words, flush=True)
+
+
+def scroll(_window, event) -> None:
+    _, across, down = event.get_scroll_deltas()
+    tell("scroll", "down" if down > 0 else "up" if down < 0 else "across")
+
+
+window = Gtk.Window(title=sys.argv[1], default_width=600, default_height=400)
+window.add_events(Gdk.EventMask.ALL_EVENTS_MASK)
+window.connect("button-press-event", lambda _, e: tell("press", e.button, "at", f"{e.x:.0f},{e.y:.0f}"))
+window.connect("button-release-event", lambda _, e: tell("release", e.button))
+window.connect("scroll-event", scroll)
+window.connect("key-press-event", lambda _, e: tell("key", Gdk.keyval_name(e.keyval)))
+window.connect("delete-event", lambda *_: (tell("closed"), Gtk.main_quit()))
+window.show_all()
+Gtk.main()
