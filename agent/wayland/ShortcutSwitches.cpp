@@ -63,7 +63,7 @@ OSErr ShortcutSwitches::handle(const AppleEvent* event, AppleEvent*, void* self)
 void ShortcutSwitches::setState(State state) {
     state_ = state;
     if (state == State::Free)
-        held_.clear();
+        held_.clear(), released_.clear();
 }
 
 OSErr ShortcutSwitches::hear(const AppleEvent& event) {
@@ -80,22 +80,31 @@ OSErr ShortcutSwitches::hear(const AppleEvent& event) {
         return paramErr;
     remember();
     const double now = monotonicNow();
-    const double moment = std::clamp(static_cast<double>(nanoseconds) * 1e-9, now - kLatest, now);
-    if (state_ == State::Free)
-        return noErr;
-    if (isDown)
-        press(key, moment);
-    else
-        release(key, moment);
+    take(key, isDown != 0, std::clamp(static_cast<double>(nanoseconds) * 1e-9, now - kLatest, now));
     return noErr;
+}
+
+void ShortcutSwitches::take(UInt32 key, bool isDown, double moment) {
+    if (state_ == State::Free)
+        return;
+    if (isDown)
+        return press(key, moment);
+    released_[key] = moment;
+    letGo(key, moment);
 }
 
 void ShortcutSwitches::press(UInt32 key, double moment) {
     const auto held = held_.find(key);
     if (held != held_.end() && moment - std::exchange(held->second, moment) < kRepeat)
         return;
-    release(key, moment);
+    letGo(key, moment);
     held_.emplace(key, moment);
+    tellPress(key, moment);
+    if (const double released = released_[key]; released > moment)
+        letGo(key, released);
+}
+
+void ShortcutSwitches::tellPress(UInt32 key, double moment) {
     switch (key) {
     case OnOff:
         return listener_.onOffKey();
@@ -110,7 +119,7 @@ void ShortcutSwitches::press(UInt32 key, double moment) {
     }
 }
 
-void ShortcutSwitches::release(UInt32 key, double moment) {
+void ShortcutSwitches::letGo(UInt32 key, double moment) {
     if (held_.erase(key) == 0)
         return;
     if (key == Scan)

@@ -7,8 +7,9 @@
 #include <map>
 
 /// Hears what the desktop's own shortcuts tell by the event 'PPsw' (docs/agent-contract.md), as
-/// `korvex-preferences press` sends it. Which keys those are is the desktop's matter. One per
-/// process.
+/// `korvex-preferences press` sends it. Which keys those are is the desktop's matter. Each event
+/// comes from a process of its own, so that a short press may be overtaken by its release: the
+/// moments tell their order. One per process.
 class ShortcutSwitches final : public Switches {
 public:
     /// It must outlive it.
@@ -18,6 +19,10 @@ public:
     void use(const PrefsRecord&, double) override {}
 
     void setState(State state) override;
+
+    /// What an event says: that the record's hot key of that index went down, or came up. Free and
+    /// unknown keys are left alone.
+    void take(UInt32 key, bool isDown, double moment);
 
     /// Until the first event came to this user's agent, how to make the desktop send some.
     std::string trouble() const override;
@@ -33,10 +38,12 @@ private:
     void remember();
     OSErr hear(const AppleEvent& event);
     void press(UInt32 key, double moment);
-    void release(UInt32 key, double moment);
+    void tellPress(UInt32 key, double moment);
+    void letGo(UInt32 key, double moment);
 
     Listener& listener_;
     bool hasHeard_;
     State state_ = State::Free;
-    std::map<UInt32, double> held_; ///< keys that are down, and when they were told last
+    std::map<UInt32, double> held_;     ///< keys that are down, and when they were told last
+    std::map<UInt32, double> released_; ///< when keys came up last
 };

@@ -25,6 +25,8 @@ public:
             return;
         wl_registry_add_listener(wl_display_get_registry(display_), &kListener, this);
         answers();
+        if (pointers_)
+            pointer_ = zwlr_virtual_pointer_manager_v1_create_virtual_pointer(pointers_, nullptr);
     }
 
     ~WaylandReleaser() override {
@@ -32,15 +34,12 @@ public:
             wl_display_disconnect(display_);
     }
 
-    bool canRelease() const { return pointers_; }
+    bool canRelease() const { return pointer_; }
 
     void letGo(const std::set<Held>& held) override {
-        auto* const pointer =
-            zwlr_virtual_pointer_manager_v1_create_virtual_pointer(pointers_, nullptr);
         for (const auto& [isKey, code] : held)
             if (!isKey)
-                sendButton(pointer, code, false);
-        zwlr_virtual_pointer_v1_destroy(pointer);
+                sendButton(pointer_, code, false);
         answers();
     }
 
@@ -49,6 +48,9 @@ public:
 private:
     wl_display* display_ = wl_display_connect(nullptr);
     zwlr_virtual_pointer_manager_v1* pointers_ = nullptr;
+    /// There from the beginning: when the last pointer of a seat goes, programs are no longer told
+    /// of a release.
+    zwlr_virtual_pointer_v1* pointer_ = nullptr;
 };
 
 } // namespace
