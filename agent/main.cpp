@@ -9,6 +9,7 @@
 #include "agent/Notification.h"
 #include "agent/Scanner.h"
 #include "agent/UnixSignals.h"
+#include "agent/mutter/MutterSession.h"
 #include "agent/wayland/WaylandReleaser.h"
 #include "agent/wayland/WaylandSession.h"
 #include "agent/x11/XReleaser.h"
@@ -40,41 +41,48 @@ constexpr OSType kAgentSignature = fourCharCode("Krvx");
 /// From the agent's own folder to the pane's resources, which have the languages.
 constexpr const char* kPaneResources = "/../../../../Resources";
 
-/// A kind of display server that can be scanned.
+/// A kind of session that can be scanned.
 struct Way {
-    const char* variable; ///< of the environment, which names the server
-    bool (*answers)();
+    bool (*isHere)();
     const char* qtPlatform; ///< with which the agent draws
     std::unique_ptr<Releaser> (*connectReleaser)();
     std::unique_ptr<Session> (*connect)(Guard& guard, std::string& fault);
 };
 
-bool waylandAnswers() {
-    wl_display* const probe = wl_display_connect(nullptr);
+bool isWayland() {
+    wl_display* const probe =
+        qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? nullptr : wl_display_connect(nullptr);
     if (probe)
         wl_display_disconnect(probe);
     return probe;
 }
 
-bool xAnswers() {
+/// What the compositor offers decides. One that offers too little has its fault told.
+std::unique_ptr<Session> connectWayland(Guard& guard, std::string& fault) {
+    if (auto session = WaylandSession::connect(guard, fault))
+        return session;
+    return RemoteDesktop::isOffered() ? MutterSession::connect(guard, fault) : nullptr;
+}
+
+bool isX11() {
+    if (qEnvironmentVariableIsEmpty("DISPLAY"))
+        return false;
     xcb_connection_t* const probe = xcb_connect(nullptr, nullptr);
     const bool answers = !xcb_connection_has_error(probe);
     xcb_disconnect(probe);
     return answers;
 }
 
-/// The first one that answers is taken. XWayland counts as Wayland: it doesn't hear every press.
+/// The first one that is here is taken. XWayland counts as Wayland: it doesn't hear every press.
 constexpr Way kWays[] = {
-    {"WAYLAND_DISPLAY", waylandAnswers, "offscreen", connectWaylandReleaser,
-     WaylandSession::connect},
-    {"DISPLAY", xAnswers, "xcb", connectXReleaser, XSession::connect},
+    {isWayland, "offscreen", connectWaylandReleaser, connectWayland},
+    {isX11, "xcb", connectXReleaser, XSession::connect},
 };
 
 /// Null without a display.
 const Way* wayHere() {
-    const auto* const way = std::find_if(std::begin(kWays), std::end(kWays), [](const Way& each) {
-        return !qEnvironmentVariableIsEmpty(each.variable) && each.answers();
-    });
+    const auto* const way = std::find_if(std::begin(kWays), std::end(kWays),
+                                         [](const Way& each) { return each.isHere(); });
     return way == std::end(kWays) ? nullptr : way;
 }
 

@@ -42,6 +42,9 @@ public:
     void keyDown(std::uint8_t code);
     void keyUp(std::uint8_t code);
 
+    /// Seconds from when an overlay is hidden until a button may go down where it was.
+    virtual double overlayDelay() const { return 0; }
+
     /// Lets go of all that is held, at once. The rest of a click is dropped, and so is its `done`.
     void letGo();
 

@@ -34,11 +34,11 @@ public:
             wl_display_disconnect(display_);
     }
 
-    bool canRelease() const { return pointer_; }
+    bool isConnected() const { return display_; }
 
     void letGo(const std::set<Held>& held) override {
         for (const auto& [isKey, code] : held)
-            if (!isKey)
+            if (!isKey && pointer_)
                 sendButton(pointer_, code, false);
         answers();
     }
@@ -57,5 +57,5 @@ private:
 
 std::unique_ptr<Releaser> connectWaylandReleaser() {
     auto releaser = std::make_unique<WaylandReleaser>();
-    return releaser->canRelease() ? std::move(releaser) : nullptr;
+    return releaser->isConnected() ? std::move(releaser) : nullptr;
 }

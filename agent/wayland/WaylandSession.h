@@ -3,8 +3,8 @@
 
 #include "agent/session/Session.h"
 #include "agent/wayland/LayerWindows.h"
+#include "agent/wayland/SymbolTypist.h"
 #include "agent/wayland/WaylandDesktop.h"
-#include "agent/wayland/WaylandTypist.h"
 
 /// A Wayland session whose compositor lets programs draw over all windows and act for the user.
 class WaylandSession final : public Session {
@@ -34,7 +34,7 @@ private:
     std::unique_ptr<WaylandDisplay> display_;
     WaylandWindows windows_;
     VirtualHand hand_;
-    WaylandTypist typist_;
+    SymbolTypist<VirtualHand> typist_;
     WaylandDesktop desktop_;
     LayerWindows overlays_;
 };

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "agent/session/Typist.h"
-#include "agent/wayland/VirtualHand.h"
 
-/// With a keyboard of its own, it needs no key of the user's.
-class WaylandTypist final : public Typist {
+/// Types with a hand that has a key for each symbol (its `keyFor`), whatever the user's layout is.
+template <class SymbolHand>
+class SymbolTypist final : public Typist {
 public:
     /// It must outlive it.
-    explicit WaylandTypist(VirtualHand& hand) : Typist(hand), hand_(hand) {}
+    explicit SymbolTypist(SymbolHand& hand) : Typist(hand), hand_(hand) {}
 
     /// Nobody tells what the user holds.
     bool modifierIsDown() const override { return false; }
@@ -22,5 +22,5 @@ private:
         return keys;
     }
 
-    VirtualHand& hand_;
+    SymbolHand& hand_;
 };

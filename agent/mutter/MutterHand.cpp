@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "agent/mutter/MutterHand.h"
+
+#include <algorithm>
+#include <cmath>
+#include <linux/input-event-codes.h>
+#include <xkbcommon/xkbcommon.h>
+
+MutterHand::MutterHand(RemoteDesktop& remote, const Desktop& desktop, Guard& guard)
+    : Hand(guard), remote_(remote), desktop_(desktop) {}
+
+MutterHand::~MutterHand() {
+    letGo();
+}
+
+void MutterHand::move(Place place) {
+    place_ = place;
+    const auto screens = desktop_.screens();
+    const auto found = std::ranges::find_if(
+        screens, [&](const Screen& screen) { return screen.area.contains(place); });
+    const Area& area = (found == screens.end() ? screens.front() : *found).area;
+    remote_.move(QPointF(area.left, area.top).toPoint(), place.x - area.left, place.y - area.top);
+}
+
+std::optional<std::uint8_t> MutterHand::keyFor(const std::string& symbol) {
+    constexpr std::size_t kMost = 255;
+    const std::uint32_t number = xkb_keysym_from_name(symbol.c_str(), XKB_KEYSYM_NO_FLAGS);
+    const auto known = std::ranges::find(symbols_, number);
+    if (number == XKB_KEY_NoSymbol || (known == symbols_.end() && symbols_.size() == kMost))
+        return std::nullopt;
+    const auto code = static_cast<std::uint8_t>(known - symbols_.begin());
+    if (known == symbols_.end())
+        symbols_.push_back(number);
+    return code;
+}
+
+void MutterHand::send(Held what, bool isDown) {
+    if (what.isKey)
+        remote_.key(symbols_[what.code], isDown);
+    else
+        sendButton(what.code, isDown);
+}
+
+void MutterHand::sendButton(std::uint8_t button, bool isDown) {
+    constexpr std::uint8_t kWheelUp = 4, kWheelRight = 7;
+    constexpr int kButtons[] = {0, BTN_LEFT, BTN_MIDDLE, BTN_RIGHT};
+    if (button < kWheelUp)
+        remote_.button(kButtons[button], isDown);
+    else if (button <= kWheelRight && isDown)
+        remote_.scroll(button > kWheelUp + 1, button % 2 == 0 ? -1 : 1);
+}

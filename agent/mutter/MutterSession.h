@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "agent/mutter/MutterHand.h"
+#include "agent/session/Session.h"
+#include "agent/wayland/SymbolTypist.h"
+#include "agent/x11/XDesktop.h"
+#include "agent/x11/XOverlayWindow.h"
+#include "agent/x11/XWindows.h"
+
+/// A session of mutter's, as GNOME's: lines are windows of X11's, which lie over native ones, too;
+/// the hand is mutter's remote control; the switch is told by the desktop's shortcuts. Units are
+/// mutter's. Only windows and menus of X11's are known.
+class MutterSession final : public Session {
+public:
+    /// Null with `fault` in words when there is none, or it has no XWayland.
+    static std::unique_ptr<Session> connect(Guard& guard, std::string& fault);
+
+    Desktop& desktop() override { return desktop_; }
+
+    Windows& windows() override { return windows_; }
+
+    Hand& hand() override { return hand_; }
+
+    Typist& typist() override { return typist_; }
+
+    OverlayWindows& overlays() override { return overlays_; }
+
+    std::unique_ptr<Switches> makeSwitches(Switches::Listener& listener) override;
+
+    void drain() override { server_->drain(); }
+
+    void onEnd(std::function<void()> ended) override { server_->onEnd(std::move(ended)); }
+
+private:
+    MutterSession(std::unique_ptr<XServer> server, Guard& guard);
+
+    std::unique_ptr<XServer> server_;
+    XDesktop desktop_;
+    XWindows windows_;
+    RemoteDesktop remote_;
+    MutterHand hand_;
+    SymbolTypist<MutterHand> typist_;
+    XOverlayWindows overlays_;
+};
