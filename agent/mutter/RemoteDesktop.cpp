@@ -7,6 +7,7 @@
 #include <QDBusObjectPath>
 
 #include <algorithm>
+#include <xkbcommon/xkbcommon-keysyms.h>
 
 namespace {
 
@@ -69,6 +70,11 @@ bool RemoteDesktop::open() {
     }
     QDBusConnection::sessionBus().connect(QLatin1String(kControl), session_, interface,
                                           QStringLiteral("Closed"), this, SLOT(close()));
+    // Both devices are there from now on: where the user has none, programs would miss what they do
+    // first.
+    notify("NotifyPointerMotionRelative", {0.0, 0.0});
+    for (const bool isDown : {true, false})
+        key(XKB_KEY_Shift_L, isDown);
     return true;
 }
 

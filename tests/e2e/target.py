@@ -1,7 +1,11 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""A GTK 3 window that tells its standard output what it gets, a line each: "press 1 at 30,40",
-"release 1", "scroll down", "key Return", "closed". Its title is its only argument."""
+"""A GTK 3 window that tells its standard output what it gets, a line each: "shown", "press 1 at 30,40",
+"release 1", "scroll down", "key Return", "closed":
+
+    target.py TITLE [MONITOR]
+
+It covers a monitor if that is named, else it is as large as the compositor lets it be."""
 
 import sys
 
@@ -27,6 +31,11 @@ window.connect("button-press-event", lambda _, e: tell("press", e.button, "at", 
 window.connect("button-release-event", lambda _, e: tell("release", e.button))
 window.connect("scroll-event", scroll)
 window.connect("key-press-event", lambda _, e: tell("key", Gdk.keyval_name(e.keyval)))
+window.connect("map-event", lambda *_: tell("shown"))
 window.connect("delete-event", lambda *_: (tell("closed"), Gtk.main_quit()))
+window.set_decorated(False)
+window.maximize()
+if len(sys.argv) > 2:
+    window.fullscreen_on_monitor(Gdk.Screen.get_default(), int(sys.argv[2]))
 window.show_all()
 Gtk.main()
