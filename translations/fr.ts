@@ -179,10 +179,6 @@
         <translation>Un autre programme balaie déjà.</translation>
     </message>
     <message>
-        <source>Korvex can&apos;t scan in a Wayland session. Log out, and choose a session with X11 where you log in.</source>
-        <translation>Korvex ne peut pas balayer dans une session Wayland. Fermez la session, et choisissez-en une avec X11 en ouvrant la suivante.</translation>
-    </message>
-    <message>
         <source>Korvex can&apos;t scan: no process can be started.</source>
         <translation>Korvex ne peut pas balayer : aucun processus ne peut être lancé.</translation>
     </message>
@@ -273,6 +269,22 @@
     <message>
         <source>Scanning pauses. Hold your switch for four seconds to go on.</source>
         <translation>Le balayage est en pause. Maintenez votre contacteur quatre secondes pour continuer.</translation>
+    </message>
+    <message>
+        <source>Korvex can&apos;t scan: the desktop refuses its remote control.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Korvex hears no switch yet: the desktop&apos;s shortcuts must tell it of presses. The help says how, under &quot;On Wayland&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Wayland session can&apos;t be reached.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Korvex can&apos;t scan in this Wayland session: it has no %1. Log out, and choose a session with X11 where you log in.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -709,6 +721,34 @@
     <message>
         <source>--json goes with a file, not with -</source>
         <translation>--json va avec un fichier, pas avec -</translation>
+    </message>
+    <message>
+        <source>For a shortcut of a Wayland desktop: tells Korvex that this key, or else the scan key, went down.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same when it comes up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints such shortcuts for your hot keys, as sway&apos;s configuration has them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no key &quot;%1&quot;, but %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Korvex isn&apos;t running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Korvex hears the keys itself in this session, or can&apos;t scan in it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Korvex doesn&apos;t answer</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 #include "src/store/prefs.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -18,6 +19,7 @@ constexpr AEKeyword keyMoment = fourCharCode("When");
 constexpr DescType typeNanoseconds = fourCharCode("comp");
 
 constexpr const char* kHeardKey = "agent.shortcutHeard";
+constexpr const char* kHeard[] = {"", "press", "release"}; ///< as it is stored
 
 /// As the record has its hot keys.
 enum Key : UInt32 { OnOff, Scan, Cancel, ShowSettings, SecondScan };
@@ -31,9 +33,11 @@ OSErr read(const AppleEvent& event, AEKeyword keyword, DescType type, T& value) 
 
 } // namespace
 
-ShortcutSwitches::ShortcutSwitches(Listener& listener)
-    : listener_(listener),
-      hasHeard_(static_cast<bool>(CFPreferencesCopyAppValue(CFSTR(kHeardKey), kAgentBundleID))) {
+ShortcutSwitches::ShortcutSwitches(Listener& listener) : listener_(listener) {
+    const auto stored = CFPreferencesCopyAppValue(CFSTR(kHeardKey), kAgentBundleID);
+    const auto* const text = dynamicCFCast<CFString>(stored.get());
+    const auto* const found = std::ranges::find(kHeard, text ? toUTF8(text) : "");
+    heard_ = static_cast<Heard>(found == std::end(kHeard) ? 0 : found - std::begin(kHeard));
     AEInstallEventHandler(kAgentClass, kSwitch, handle, this);
 }
 
@@ -41,19 +45,18 @@ ShortcutSwitches::~ShortcutSwitches() {
     AERemoveEventHandler(kAgentClass, kSwitch, handle);
 }
 
-std::string ShortcutSwitches::trouble() const {
-    return hasHeard_
-               ? ""
-               : localized("Agent", "Korvex hears no switch yet: the desktop's shortcuts must "
-                                    "tell it of presses. The help says how, under \"On "
-                                    "Wayland\".");
+void ShortcutSwitches::use(const PrefsRecord& record, double) {
+    needsRelease_ = record.scanMode != 0 || record.minTriggerDuration > 0;
 }
 
-void ShortcutSwitches::remember() {
-    if (std::exchange(hasHeard_, true))
-        return;
-    CFPreferencesSetAppValue(CFSTR(kHeardKey), CFSTR("yes"), kAgentBundleID);
-    CFPreferencesAppSynchronize(kAgentBundleID);
+std::string ShortcutSwitches::trouble() const {
+    if (heard_ == Heard::Nothing)
+        return localized("Agent", "Korvex hears no switch yet: the desktop's shortcuts must tell "
+                                  "it of presses. The help says how, under \"On Wayland\".");
+    if (heard_ == Heard::Presses && needsRelease_)
+        return localized("Agent", "The desktop doesn't tell when your switch comes up. Only "
+                                  "\"Press to start, press to choose\" works, with short presses.");
+    return {};
 }
 
 OSErr ShortcutSwitches::handle(const AppleEvent* event, AppleEvent*, void* self) {
@@ -63,7 +66,7 @@ OSErr ShortcutSwitches::handle(const AppleEvent* event, AppleEvent*, void* self)
 void ShortcutSwitches::setState(State state) {
     state_ = state;
     if (state == State::Free)
-        held_.clear(), released_.clear();
+        held_.clear();
 }
 
 OSErr ShortcutSwitches::hear(const AppleEvent& event) {
@@ -78,13 +81,20 @@ OSErr ShortcutSwitches::hear(const AppleEvent& event) {
         return error;
     if (isDown > 1 || key > SecondScan)
         return paramErr;
-    remember();
     const double now = monotonicNow();
+    const Heard before = heard_;
     take(key, isDown != 0, std::clamp(static_cast<double>(nanoseconds) * 1e-9, now - kLatest, now));
+    if (heard_ != before) {
+        CFPreferencesSetAppValue(CFSTR(kHeardKey), CFSTR(kHeard[static_cast<std::size_t>(heard_)]),
+                                 kAgentBundleID);
+        CFPreferencesAppSynchronize(kAgentBundleID);
+    }
     return noErr;
 }
 
 void ShortcutSwitches::take(UInt32 key, bool isDown, double moment) {
+    if (!isDown)
+        heard_ = Heard::Releases;
     if (state_ == State::Free)
         return;
     if (isDown)
@@ -94,14 +104,19 @@ void ShortcutSwitches::take(UInt32 key, bool isDown, double moment) {
 }
 
 void ShortcutSwitches::press(UInt32 key, double moment) {
-    const auto held = held_.find(key);
-    if (held != held_.end() && moment - std::exchange(held->second, moment) < kRepeat)
+    const double before = std::exchange(pressed_[key], moment);
+    const bool wasLetGo = released_[key] >= before;
+    if (!wasLetGo && moment - before < kRepeat)
         return;
+    if (!wasLetGo || heard_ == Heard::Nothing)
+        heard_ = Heard::Presses;
     letGo(key, moment);
-    held_.emplace(key, moment);
+    held_.insert(key);
     tellPress(key, moment);
     if (const double released = released_[key]; released > moment)
         letGo(key, released);
+    else if (heard_ == Heard::Presses)
+        letGo(key, moment);
 }
 
 void ShortcutSwitches::tellPress(UInt32 key, double moment) {

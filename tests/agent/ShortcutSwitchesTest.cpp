@@ -13,7 +13,10 @@ constexpr UInt32 kOnOff = 0, kScan = 1, kCancel = 2, kSettings = 3, kSecond = 4;
 
 class ShortcutSwitchesTest : public testing::Test, private Switches::Listener {
 protected:
-    ShortcutSwitchesTest() { switches_.setState(Switches::State::Ready); }
+    ShortcutSwitchesTest() {
+        switches_.setState(Switches::State::Ready);
+        up(kScan, 0.5); // this desktop tells it
+    }
 
     void down(UInt32 key, double moment) { switches_.take(key, true, moment); }
 
@@ -50,9 +53,23 @@ TEST_F(ShortcutSwitchesTest, TellsPressesInTheirOrderWhateverTheirWay) {
     EXPECT_THAT(heard(), ElementsAre("first down 2.0", "first up 2.1")) << "overtaken";
     down(kScan, 3), down(kScan, 3.6), down(kScan, 3.7), up(kScan, 4);
     EXPECT_THAT(heard(), ElementsAre("first down 3.0", "first up 4.0")) << "the keyboard repeats";
-    down(kScan, 5), down(kScan, 6);
-    EXPECT_THAT(heard(), ElementsAre("first down 5.0", "first up 6.0", "first down 6.0"))
-        << "no release is told";
+    EXPECT_EQ(switches_.trouble(), "");
+}
+
+/// A press that seemed to be held would end everything after ten seconds.
+TEST_F(ShortcutSwitchesTest, WithoutReleasesAPressIsOverAtOnce) {
+    PrefsRecord record;
+    switches_.use(record, 1);
+    down(kScan, 5), down(kScan, 6), down(kScan, 6.5), down(kScan, 8);
+    EXPECT_THAT(heard(), ElementsAre("first down 5.0", "first up 6.0", "first down 6.0",
+                                     "first up 6.0", "first down 8.0", "first up 8.0"));
+    EXPECT_EQ(switches_.trouble(), "");
+    record.scanMode = 1;
+    switches_.use(record, 1);
+    EXPECT_NE(switches_.trouble(), "");
+    up(kScan, 8.1), down(kScan, 9), up(kScan, 9.5);
+    EXPECT_THAT(heard(), ElementsAre("first down 9.0", "first up 9.5"));
+    EXPECT_EQ(switches_.trouble(), "");
 }
 
 TEST_F(ShortcutSwitchesTest, OtherKeysDoWhatTheStateLetsThem) {
