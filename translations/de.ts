@@ -272,19 +272,23 @@
     </message>
     <message>
         <source>Korvex can&apos;t scan: the desktop refuses its remote control.</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex kann nicht scannen: Der Desktop verweigert seine Fernsteuerung.</translation>
     </message>
     <message>
         <source>Korvex hears no switch yet: the desktop&apos;s shortcuts must tell it of presses. The help says how, under &quot;On Wayland&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex hört noch keinen Schalter: Tastenkürzel des Desktops müssen es ihm sagen. Wie, steht in der Hilfe: „Unter Wayland“.</translation>
     </message>
     <message>
         <source>The Wayland session can&apos;t be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wayland-Sitzung ist nicht zu erreichen.</translation>
     </message>
     <message>
         <source>Korvex can&apos;t scan in this Wayland session: it has no %1. Log out, and choose a session with X11 where you log in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex kann in dieser Wayland-Sitzung nicht scannen: Ihr fehlt %1. Melden Sie sich ab, und wählen Sie beim Anmelden eine Sitzung mit X11.</translation>
+    </message>
+    <message>
+        <source>The desktop doesn&apos;t tell when your switch comes up. Only &quot;Press to start, press to choose&quot; works, with short presses.</source>
+        <translation>Der Desktop sagt nicht, wann Sie loslassen. Nur „Drücken zum Starten, drücken zum Wählen“ geht, mit kurzem Drücken.</translation>
     </message>
 </context>
 <context>
@@ -724,31 +728,31 @@
     </message>
     <message>
         <source>For a shortcut of a Wayland desktop: tells Korvex that this key, or else the scan key, went down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für ein Tastenkürzel eines Wayland-Desktops: sagt Korvex, dass diese Taste, sonst die Scan-Taste, gedrückt wurde.</translation>
     </message>
     <message>
         <source>The same when it comes up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dasselbe beim Loslassen.</translation>
     </message>
     <message>
         <source>Prints such shortcuts for your hot keys, as sway&apos;s configuration has them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt solche Tastenkürzel für Ihre Tastenkombinationen aus, wie sways Konfiguration sie hat.</translation>
     </message>
     <message>
         <source>there is no key &quot;%1&quot;, but %2</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Taste „%1“, aber %2</translation>
     </message>
     <message>
         <source>Korvex isn&apos;t running</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex läuft nicht</translation>
     </message>
     <message>
         <source>Korvex hears the keys itself in this session, or can&apos;t scan in it</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex hört die Tasten in dieser Sitzung selbst, oder kann in ihr nicht scannen</translation>
     </message>
     <message>
         <source>Korvex doesn&apos;t answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex antwortet nicht</translation>
     </message>
 </context>
 <context>

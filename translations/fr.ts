@@ -272,19 +272,23 @@
     </message>
     <message>
         <source>Korvex can&apos;t scan: the desktop refuses its remote control.</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex ne peut pas balayer : le bureau refuse son contrôle à distance.</translation>
     </message>
     <message>
         <source>Korvex hears no switch yet: the desktop&apos;s shortcuts must tell it of presses. The help says how, under &quot;On Wayland&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex n’entend pas encore de contacteur : des raccourcis du bureau doivent le lui dire. L’aide dit comment, « Sous Wayland ».</translation>
     </message>
     <message>
         <source>The Wayland session can&apos;t be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>La session Wayland ne peut pas être jointe.</translation>
     </message>
     <message>
         <source>Korvex can&apos;t scan in this Wayland session: it has no %1. Log out, and choose a session with X11 where you log in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex ne peut pas balayer dans cette session Wayland : il y manque %1. Fermez la session, et choisissez-en une avec X11 en ouvrant la suivante.</translation>
+    </message>
+    <message>
+        <source>The desktop doesn&apos;t tell when your switch comes up. Only &quot;Press to start, press to choose&quot; works, with short presses.</source>
+        <translation>Le bureau ne dit pas quand vous relâchez. Seul « Appuyer pour lancer, appuyer pour choisir » fonctionne, par appuis courts.</translation>
     </message>
 </context>
 <context>
@@ -724,31 +728,31 @@
     </message>
     <message>
         <source>For a shortcut of a Wayland desktop: tells Korvex that this key, or else the scan key, went down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour un raccourci d’un bureau Wayland : dit à Korvex que cette touche, sinon la touche de balayage, est enfoncée.</translation>
     </message>
     <message>
         <source>The same when it comes up.</source>
-        <translation type="unfinished"></translation>
+        <translation>La même chose quand elle est relâchée.</translation>
     </message>
     <message>
         <source>Prints such shortcuts for your hot keys, as sway&apos;s configuration has them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit de tels raccourcis pour vos raccourcis clavier, comme la configuration de sway les a.</translation>
     </message>
     <message>
         <source>there is no key &quot;%1&quot;, but %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de touche « %1 », mais %2</translation>
     </message>
     <message>
         <source>Korvex isn&apos;t running</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex ne tourne pas</translation>
     </message>
     <message>
         <source>Korvex hears the keys itself in this session, or can&apos;t scan in it</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans cette session, Korvex entend lui-même les touches, ou ne peut pas balayer</translation>
     </message>
     <message>
         <source>Korvex doesn&apos;t answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvex ne répond pas</translation>
     </message>
 </context>
 <context>

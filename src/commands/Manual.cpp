@@ -24,6 +24,7 @@ constexpr char kCompletion[] = R"bash(_korvex_preferences() {
         lines=$("${COMP_WORDS[0]}" profile list --json |
             sed -n 's/.*"name": "\([^"\\]*\)".*/\1/p') ;;
     *:show) words='%s' ;;
+    *:press | *:release) words='%s' ;;
     *:export | *:import) lines=$(compgen -f -- "$word") ;;
     esac
     case $word in -*) words='--help --json --yes' ;; esac
@@ -92,7 +93,7 @@ int runManual(const CommandLine&) {
 }
 
 int runCompletion(const CommandLine&) {
-    std::string names = "help", keys, values, verbs, sections;
+    std::string names = "help", keys, values, verbs, sections, hotKeys;
     for (const Command& command : commands())
         names = spaced(names, command.name);
     for (const Setting& setting : kSettings) {
@@ -103,7 +104,9 @@ int runCompletion(const CommandLine&) {
         verbs = spaced(verbs, verb.name);
     for (const std::string& section : sectionNames())
         sections = spaced(sections, section);
+    for (const char* name : hotKeyNames())
+        hotKeys = spaced(hotKeys, name);
     std::printf(kCompletion, names.c_str(), keys.c_str(), keys.c_str(), values.c_str(),
-                verbs.c_str(), sections.c_str());
+                verbs.c_str(), sections.c_str(), hotKeys.c_str());
     return kCommandDone;
 }
