@@ -38,7 +38,7 @@ Deeds::Deeds(Session& session, Listener& listener)
     : hand_(session.hand()), typist_(session.typist()), windows_(session.windows()),
       listener_(listener), volume_([this](const std::string& why) { listener_.cantDo(why); }),
       typing_(
-          windows_, [this] { listener_.scanNow(); },
+          session.keyboard(), windows_, [this] { listener_.scanNow(); },
           [this](const std::string& why) { listener_.cantDo(why); }),
       openers_(
           session, [this] { listener_.scanNow(); },

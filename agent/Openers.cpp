@@ -13,8 +13,9 @@
 
 namespace {
 
-constexpr int kLookMs = 50;         ///< between two looks for a menu
-constexpr double kClickTime = 0.03; ///< s
+constexpr int kLookMs = 50;            ///< between two looks for a menu
+constexpr double kClickTime = 0.03;    ///< s
+constexpr double kBlindPatience = 0.5; ///< s
 
 /// How a desktop opens its menu of applications: by a program or by keys.
 struct Way {
@@ -101,8 +102,10 @@ void Openers::windows() {
 
 void Openers::menus() {
     const auto active = session_.windows().active();
-    if (!active)
+    if (!active && session_.desktop().tellsMenus())
         return cantDo_(localized("Agent", "No window is active."));
+    if (!active)
+        return pressMenuKey();
     askForMenuBar(session_.windows().processOf(*active), &look_,
                   [this](const std::vector<BarMenu>& menus) { chooseMenu(menus); });
 }
@@ -129,9 +132,11 @@ void Openers::pressMenuKey() {
     expectMenu(localized("Agent", "This window has no menu that Korvex can open."));
 }
 
+/// Where nobody tells of menus one is taken to open soon.
 void Openers::expectMenu(const std::string& otherwise) {
-    otherwise_ = otherwise;
-    until_ = monotonicNow() + kPatience;
+    const bool isTold = session_.desktop().tellsMenus();
+    otherwise_ = isTold ? otherwise : "";
+    until_ = monotonicNow() + (isTold ? kPatience : kBlindPatience);
     look_.start();
 }
 

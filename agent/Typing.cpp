@@ -14,27 +14,28 @@ namespace {
 constexpr int kLookMs = 100; ///< between two looks for its window
 constexpr int kPatienceMs = static_cast<int>(Typing::kPatience * 1000);
 
-QDBusPendingCall call(const char* method) {
-    return QDBusConnection::sessionBus().asyncCall(
-        QDBusMessage::createMethodCall(
-            QStringLiteral("org.onboard.Onboard"), QStringLiteral("/org/onboard/Onboard/Keyboard"),
-            QStringLiteral("org.onboard.Onboard.Keyboard"), QLatin1String(method)),
-        kPatienceMs);
-}
-
-std::string reasonOf(const QDBusError& error) {
-    return error.type() == QDBusError::ServiceUnknown
-               ? localized("Agent", "To type on the screen, install Onboard.")
-               : localized("Agent", "Onboard, the keyboard on the screen, doesn't start.");
-}
-
 } // namespace
 
-Typing::Typing(const Windows& windows, std::function<void()> shown,
-               std::function<void(const std::string&)> cantDo)
-    : windows_(windows), shown_(std::move(shown)), cantDo_(std::move(cantDo)) {
+Typing::Typing(const OnScreenKeyboard& keyboard, const Windows& windows,
+               std::function<void()> shown, std::function<void(const std::string&)> cantDo)
+    : keyboard_(keyboard), windows_(windows), shown_(std::move(shown)), cantDo_(std::move(cantDo)) {
     look_.setInterval(kLookMs);
     QObject::connect(&look_, &QTimer::timeout, [this] { lookForWindow(); });
+}
+
+QDBusPendingCall Typing::call(bool isShown) const {
+    auto call = QDBusMessage::createMethodCall(
+        QLatin1String(keyboard_.service), QLatin1String(keyboard_.path),
+        QLatin1String(keyboard_.interface),
+        QLatin1String(isShown ? keyboard_.show : keyboard_.hide));
+    if (keyboard_.isToggled)
+        call << isShown;
+    return QDBusConnection::sessionBus().asyncCall(call, kPatienceMs);
+}
+
+std::string Typing::reasonOf(const QDBusError& error) const {
+    return localized("Agent", error.type() == QDBusError::ServiceUnknown ? keyboard_.missing
+                                                                         : keyboard_.broken);
 }
 
 void Typing::toggle() {
@@ -46,7 +47,7 @@ void Typing::toggle() {
 
 void Typing::begin() {
     isTyping_ = true;
-    auto* watcher = new QDBusPendingCallWatcher(call("Show"), &look_);
+    auto* watcher = new QDBusPendingCallWatcher(call(true), &look_);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &look_, [this, watcher] {
         watcher->deleteLater();
         if (!isTyping_) // it was ended meanwhile
@@ -61,7 +62,7 @@ void Typing::begin() {
 }
 
 void Typing::lookForWindow() {
-    const bool isThere = keyboard().has_value();
+    const bool isThere = !keyboard_.program || keyboard();
     if (!isThere && monotonicNow() < until_)
         return;
     look_.stop();
@@ -76,9 +77,9 @@ void Typing::end() {
         return;
     isTyping_ = false;
     look_.stop();
-    call("Hide");
+    call(false);
 }
 
 std::optional<Area> Typing::keyboard() const {
-    return isTyping_ ? windows_.placeOf("Onboard") : std::nullopt;
+    return isTyping_ && keyboard_.program ? windows_.placeOf(keyboard_.program) : std::nullopt;
 }

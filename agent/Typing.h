@@ -1,28 +1,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "agent/session/OnScreenKeyboard.h"
 #include "agent/session/Windows.h"
 
+#include <QDBusPendingCall>
 #include <QTimer>
 
 #include <functional>
 #include <optional>
 #include <string>
 
-/// The on-screen keyboard: Onboard, which is shown and hidden over the session's bus, and started
-/// by it. Nothing waits for it.
+/// Typing with a keyboard on the screen. Nothing waits for it.
 class Typing {
 public:
-    /// `windows` must outlive it. Both others are called later: `shown` when the keyboard can be
-    /// scanned, `cantDo` with the reason in a sentence.
-    Typing(const Windows& windows, std::function<void()> shown,
+    /// `keyboard` and `windows` must outlive it. Both others are called later: `shown` when the
+    /// keyboard can be scanned, `cantDo` with the reason in a sentence.
+    Typing(const OnScreenKeyboard& keyboard, const Windows& windows, std::function<void()> shown,
            std::function<void(const std::string&)> cantDo);
 
     /// Begins to type, or ends it.
     void toggle();
     void end();
 
-    /// The keyboard's window while it is typed with. None when the user has closed it.
+    /// The keyboard's window while it is typed with. None when the user has closed it, or nobody
+    /// tells.
     std::optional<Area> keyboard() const;
 
     static constexpr double kPatience = 20; ///< seconds that it may take to start
@@ -30,7 +32,10 @@ public:
 private:
     void begin();
     void lookForWindow();
+    QDBusPendingCall call(bool isShown) const;
+    std::string reasonOf(const QDBusError& error) const;
 
+    const OnScreenKeyboard& keyboard_;
     const Windows& windows_;
     std::function<void()> shown_;
     std::function<void(const std::string&)> cantDo_;

@@ -6,15 +6,16 @@
 #include <linux/input-event-codes.h>
 #include <xkbcommon/xkbcommon.h>
 
-MutterHand::MutterHand(RemoteDesktop& remote, const Desktop& desktop, Guard& guard)
-    : Hand(guard), remote_(remote), desktop_(desktop) {}
+MutterHand::MutterHand(RemoteDesktop& remote, const Desktop& desktop, std::optional<Place>& moved,
+                       Guard& guard)
+    : Hand(guard), remote_(remote), desktop_(desktop), moved_(moved) {}
 
 MutterHand::~MutterHand() {
     letGo();
 }
 
 void MutterHand::move(Place place) {
-    place_ = place;
+    moved_ = place;
     const auto screens = desktop_.screens();
     const auto found = std::ranges::find_if(
         screens, [&](const Screen& screen) { return screen.area.contains(place); });

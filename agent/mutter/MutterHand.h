@@ -11,8 +11,9 @@
 /// By mutter's remote control.
 class MutterHand final : public Hand {
 public:
-    /// All must outlive it. `desktop` has the screens.
-    MutterHand(RemoteDesktop& remote, const Desktop& desktop, Guard& guard);
+    /// All must outlive it. `desktop` has the screens; `moved` gets where it moves.
+    MutterHand(RemoteDesktop& remote, const Desktop& desktop, std::optional<Place>& moved,
+               Guard& guard);
     /// Lets go of everything.
     ~MutterHand() override;
 
@@ -20,9 +21,6 @@ public:
 
     /// A window of X11's takes clicks under mutter, whatever its shape, until it is gone.
     double overlayDelay() const override { return 0.03; }
-
-    /// Where it moved last. Other pointers aren't told of.
-    std::optional<Place> place() const { return place_; }
 
     /// A number for keyDown that stands for that symbol of X. None when there is no such symbol.
     std::optional<std::uint8_t> keyFor(const std::string& symbol);
@@ -34,5 +32,5 @@ private:
     RemoteDesktop& remote_;
     const Desktop& desktop_;
     std::vector<std::uint32_t> symbols_; ///< of the keys, from number 0
-    std::optional<Place> place_;
+    std::optional<Place>& moved_;
 };

@@ -8,6 +8,20 @@
 #include "agent/x11/XOverlayWindow.h"
 #include "agent/x11/XWindows.h"
 
+/// The screens are X11's. Of menus and of the pointer X11 tells only over its own windows.
+class MutterDesktop final : public XDesktop {
+public:
+    MutterDesktop(XServer& server, const std::optional<Place>& moved)
+        : XDesktop(server), moved_(moved) {}
+
+    Place pointer() const override { return moved_.value_or(XDesktop::pointer()); }
+
+    bool tellsMenus() const override { return false; }
+
+private:
+    const std::optional<Place>& moved_; ///< where the hand is
+};
+
 /// A session of mutter's, as GNOME's: lines are windows of X11's, which lie over native ones, too;
 /// the hand is mutter's remote control; the switch is told by the desktop's shortcuts. Units are
 /// mutter's. Only windows and menus of X11's are known.
@@ -36,7 +50,8 @@ private:
     MutterSession(std::unique_ptr<XServer> server, Guard& guard);
 
     std::unique_ptr<XServer> server_;
-    XDesktop desktop_;
+    std::optional<Place> moved_;
+    MutterDesktop desktop_;
     XWindows windows_;
     RemoteDesktop remote_;
     MutterHand hand_;

@@ -23,6 +23,10 @@ public:
     /// a drag. None when nobody tells.
     virtual std::vector<Area> openMenus() const = 0;
 
+    /// Whether openMenus knows of every program's. Else the whole screen is scanned while one is
+    /// open.
+    virtual bool tellsMenus() const { return true; }
+
     /// Whether a program covers a screen with a window of its own and holds keyboard and pointer,
     /// as lock screens do that tell nobody. To be asked when a scan starts.
     virtual bool lockWindowIsUp() const = 0;

@@ -3,6 +3,7 @@
 
 #include "agent/session/Desktop.h"
 #include "agent/session/Hand.h"
+#include "agent/session/OnScreenKeyboard.h"
 #include "agent/session/OverlayWindow.h"
 #include "agent/session/Switches.h"
 #include "agent/session/Typist.h"
@@ -19,6 +20,8 @@ public:
     virtual Hand& hand() = 0;
     virtual Typist& typist() = 0;
     virtual OverlayWindows& overlays() = 0;
+
+    virtual const OnScreenKeyboard& keyboard() const { return kOnboard; }
 
     /// The listener must outlive them, and the event loop must not go on without it.
     virtual std::unique_ptr<Switches> makeSwitches(Switches::Listener& listener) = 0;

@@ -18,6 +18,8 @@ public:
 
     std::vector<Area> openMenus() const override { return {}; }
 
+    bool tellsMenus() const override { return false; }
+
     bool lockWindowIsUp() const override { return false; }
 
     void onScreens(std::function<void()> changed) override;

@@ -22,6 +22,8 @@ public:
 
     OverlayWindows& overlays() override { return overlays_; }
 
+    const OnScreenKeyboard& keyboard() const override { return kSqueekboard; }
+
     std::unique_ptr<Switches> makeSwitches(Switches::Listener& listener) override;
 
     void drain() override { display_->drain(); }

@@ -12,7 +12,7 @@
 
 /// Questions to the server are bounded to a few round trips. The scales of the screens are Qt's
 /// where a QGuiApplication shows windows on the server; else they are 1.
-class XDesktop final : public Desktop {
+class XDesktop : public Desktop {
 public:
     /// It lives as long as `server` hands out events, and `server` outlives it.
     explicit XDesktop(XServer& server);

@@ -24,6 +24,7 @@ class Compositor:
 
     program = ""
     can_list_windows = False
+    keyboard = ""  # on the screen
 
     def __init__(self, build: Path, out: Path, folder: Path):
         self.build, self.out, self.folder = build, out, folder
@@ -75,6 +76,7 @@ class Sway(Compositor):
 
     program = "sway"
     can_list_windows = True
+    keyboard = "squeekboard"
     keys = {"scan": "F12", "on-off": "F11"}
 
     def begin(self) -> subprocess.Popen:

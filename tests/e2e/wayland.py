@@ -25,6 +25,7 @@ AGENT = "Korvex.prefPane/Contents/Linux/Korvex Agent.app/Contents/Linux/korvex-a
 DELAY, LINE, POINTER = 0.5, 4.0, 8.0  # seconds
 BUTTON = 100  # points
 HOLD = 4.4  # seconds
+KEY = 640, 550  # of Squeekboard: G
 SET_OFF = 30  # where the line has begun to move
 LONGEST = 20  # seconds, for the line to come to an output
 SETTINGS = {
@@ -32,7 +33,7 @@ SETTINGS = {
     "scanner.useScanAcceleration": "off", "scanner.lineColor": "#c80000", "scanner.lineTransparency": 0,
     "scanner.lineGhostTransparency": 0, "scanner.clickDuration": 300, "playClickSounds": "off",
     "palette.buttonSize": f"({BUTTON},{BUTTON})", "palette.buttonGap": 0,
-    "palette.buttonActions": "[ 21 7 30 31 0 0 0 0 0]",  # Double, Return, Windows, Close
+    "palette.buttonActions": "[ 21 7 30 1 0 0 0 0 0]",  # Double, Return, Windows, Type
 }
 
 
@@ -97,6 +98,21 @@ def palette(user: User) -> None:
     until(lambda: session.focused() != "palette", "another window comes to the front", 10)
 
 
+def types(user: User) -> None:
+    session = user.session
+    if not session.keyboard:
+        return
+    session.start(session.keyboard)
+    target = Target(session, "types")  # a full-screen one would cover it
+    user.choose(3)
+    time.sleep(DELAY + KEY[1] / FIRST[1] * LINE)  # it is scanned at once
+    session.press()
+    session.line(0, "keyboard")
+    time.sleep(DELAY + KEY[0] / FIRST[0] * POINTER)
+    session.press()
+    target.told("key g")
+
+
 def faults(user: User) -> None:
     session = user.session
     target = Target(session, "faults", full_screen=True)
@@ -136,7 +152,7 @@ def scan(kind: type[Compositor], build: Path, out: Path, folder: Path) -> None:
     pairs = [str(word) for pair in SETTINGS.items() for word in pair]
     check(session.command("set", *pairs), "the settings are set")
     user = User(session)
-    for part in scans, palette, faults, second_output, ends_with_the_session:
+    for part in scans, palette, types, faults, second_output, ends_with_the_session:
         try:
             part(user)
         except Failure:
