@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr int kLookMs = 100; ///< between two looks for its window
-constexpr int kPatienceMs = static_cast<int>(Typing::kPatience * 1000);
+constexpr int kLookMs = 100;     ///< between two looks for its window
+constexpr int kStartMs = 20'000; ///< that a keyboard may take to start
 
 } // namespace
 
@@ -30,7 +30,7 @@ QDBusPendingCall Typing::call(bool isShown) const {
         QLatin1String(isShown ? keyboard_.show : keyboard_.hide));
     if (keyboard_.isToggled)
         call << isShown;
-    return QDBusConnection::sessionBus().asyncCall(call, kPatienceMs);
+    return QDBusConnection::sessionBus().asyncCall(call, kStartMs);
 }
 
 std::string Typing::reasonOf(const QDBusError& error) const {
@@ -56,17 +56,17 @@ void Typing::begin() {
             isTyping_ = false;
             return cantDo_(reasonOf(reply.error()));
         }
-        until_ = monotonicNow() + kPatience;
+        until_ = monotonicNow() + keyboard_.patience;
         look_.start();
     });
 }
 
 void Typing::lookForWindow() {
-    const bool isThere = !keyboard_.program || keyboard();
+    const bool isThere = keyboard().has_value();
     if (!isThere && monotonicNow() < until_)
         return;
     look_.stop();
-    if (isThere)
+    if (isThere || !keyboard_.needsPlace)
         return shown_();
     isTyping_ = false;
     cantDo_(reasonOf({}));
@@ -81,5 +81,5 @@ void Typing::end() {
 }
 
 std::optional<Area> Typing::keyboard() const {
-    return isTyping_ && keyboard_.program ? windows_.placeOf(keyboard_.program) : std::nullopt;
+    return isTyping_ ? windows_.placeOf(keyboard_.program) : std::nullopt;
 }

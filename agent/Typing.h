@@ -27,8 +27,6 @@ public:
     /// tells.
     std::optional<Area> keyboard() const;
 
-    static constexpr double kPatience = 20; ///< seconds that it may take to start
-
 private:
     void begin();
     void lookForWindow();

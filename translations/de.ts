@@ -290,6 +290,14 @@
         <source>The desktop doesn&apos;t tell when your switch comes up. Only &quot;Press to start, press to choose&quot; works, with short presses.</source>
         <translation>Der Desktop sagt nicht, wann Sie loslassen. Nur „Drücken zum Starten, drücken zum Wählen“ geht, mit kurzem Drücken.</translation>
     </message>
+    <message>
+        <source>To type on the screen, install Squeekboard and have it started at login.</source>
+        <translation>Um auf dem Bildschirm zu tippen, installieren Sie Squeekboard und lassen Sie es bei der Anmeldung starten.</translation>
+    </message>
+    <message>
+        <source>Squeekboard, the keyboard on the screen, doesn&apos;t answer.</source>
+        <translation>Squeekboard, die Bildschirmtastatur, antwortet nicht.</translation>
+    </message>
 </context>
 <context>
     <name>Changes</name>

@@ -290,6 +290,14 @@
         <source>The desktop doesn&apos;t tell when your switch comes up. Only &quot;Press to start, press to choose&quot; works, with short presses.</source>
         <translation>Le bureau ne dit pas quand vous relâchez. Seul « Appuyer pour lancer, appuyer pour choisir » fonctionne, par appuis courts.</translation>
     </message>
+    <message>
+        <source>To type on the screen, install Squeekboard and have it started at login.</source>
+        <translation>Pour taper sur l’écran, installez Squeekboard et faites-le lancer à l’ouverture de session.</translation>
+    </message>
+    <message>
+        <source>Squeekboard, the keyboard on the screen, doesn&apos;t answer.</source>
+        <translation>Squeekboard, le clavier à l’écran, ne répond pas.</translation>
+    </message>
 </context>
 <context>
     <name>Changes</name>

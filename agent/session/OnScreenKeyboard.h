@@ -11,7 +11,9 @@ struct OnScreenKeyboard {
     const char* show; ///< a method; `toggled`: with whether it is to be seen, also to hide it
     const char* hide;
     bool isToggled;
-    const char* program; ///< whose window it is; null: nobody tells where that is
+    const char* program; ///< whose window it is
+    double patience;     ///< seconds that its window may take
+    bool needsPlace;     ///< else it counts as shown then, too
     const char* missing; ///< a sentence when the service isn't there, to be localized
     const char* broken;  ///< when it doesn't show
 };
@@ -25,6 +27,8 @@ inline constexpr OnScreenKeyboard kOnboard = {
     "Hide",
     false,
     "Onboard",
+    20,
+    true,
     LOCALIZABLE("Agent", "To type on the screen, install Onboard."),
     LOCALIZABLE("Agent", "Onboard, the keyboard on the screen, doesn't start.")};
 
@@ -36,7 +40,9 @@ inline constexpr OnScreenKeyboard kSqueekboard = {
     "SetVisible",
     "SetVisible",
     true,
-    nullptr,
+    "Squeekboard",
+    1,
+    false,
     LOCALIZABLE("Agent",
                 "To type on the screen, install Squeekboard and have it started at login."),
     LOCALIZABLE("Agent", "Squeekboard, the keyboard on the screen, doesn't answer.")};

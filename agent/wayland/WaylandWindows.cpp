@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "agent/wayland/WaylandWindows.h"
 
+#include "agent/session/OnScreenKeyboard.h"
 #include "wlr-foreign-toplevel-management-unstable-v1.h"
 
 #include <algorithm>
@@ -8,6 +9,8 @@
 #include <utility>
 
 WaylandWindows::WaylandWindows(WaylandDisplay& display) : display_(display) {
+    display_.onOutputs([this] { followScreens(); });
+    followScreens();
     static constexpr zwlr_foreign_toplevel_manager_v1_listener kListener = {
         [](void* self, zwlr_foreign_toplevel_manager_v1*, zwlr_foreign_toplevel_handle_v1* handle) {
             static_cast<WaylandWindows*>(self)->add(handle);
@@ -86,6 +89,21 @@ std::vector<Windows::Window> WaylandWindows::windows() const {
     for (const auto& known : all_)
         windows.push_back({known->id, known->title});
     return windows;
+}
+
+void WaylandWindows::followScreens() {
+    free_.clear();
+    for (const WaylandOutput* output : display_.outputs())
+        free_.push_back(std::make_unique<FreeArea>(display_, *output));
+}
+
+std::optional<Area> WaylandWindows::placeOf(const std::string& program) const {
+    if (program != kSqueekboard.program)
+        return std::nullopt;
+    for (const auto& screen : free_)
+        if (const Area place = screen->risen(); !place.isEmpty())
+            return place;
+    return std::nullopt;
 }
 
 Area WaylandWindows::windowAt(Place place) const {

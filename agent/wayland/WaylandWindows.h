@@ -2,12 +2,12 @@
 #pragma once
 
 #include "agent/session/Windows.h"
-#include "agent/wayland/WaylandDisplay.h"
+#include "agent/wayland/FreeArea.h"
 
 struct zwlr_foreign_toplevel_handle_v1;
 
 /// The list of windows that a compositor keeps for task bars: titles, programs and which one is
-/// active, but neither places nor processes.
+/// active, but neither places nor processes. Of a keyboard on the screen it sees what windows lose.
 class WaylandWindows final : public Windows {
 public:
     /// It must outlive it. Without a list in the compositor there are no windows.
@@ -19,7 +19,8 @@ public:
 
     std::uint32_t processOf(Id) const override { return 0; }
 
-    std::optional<Area> placeOf(const std::string&) const override { return std::nullopt; }
+    /// Of Squeekboard, which lies at a screen's bottom.
+    std::optional<Area> placeOf(const std::string& program) const override;
 
     std::vector<Window> windows() const override;
 
@@ -51,8 +52,11 @@ private:
     void remove(const Known& window);
     const Known* find(Id id) const;
 
+    void followScreens();
+
     WaylandDisplay& display_;
-    std::vector<std::unique_ptr<Known>> all_; ///< the one that was active last first
+    std::vector<std::unique_ptr<FreeArea>> free_; ///< of each screen
+    std::vector<std::unique_ptr<Known>> all_;     ///< the one that was active last first
     Id lastId_ = 0;
     std::function<void()> activeChanged_;
 };

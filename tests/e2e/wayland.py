@@ -105,12 +105,15 @@ def types(user: User) -> None:
     session.start(session.keyboard)
     target = Target(session, "types")  # a full-screen one would cover it
     user.choose(3)
-    time.sleep(DELAY + KEY[1] / FIRST[1] * LINE)  # it is scanned at once
+    until(lambda: (session.line(0) or 0) > KEY[1] - 20, "the keyboard is scanned at once", LONGEST)
     session.press()
-    session.line(0, "keyboard")
+    check(session.line(0, "keyboard") < KEY[1] + 40, "the line stands on the row of keys")
     time.sleep(DELAY + KEY[0] / FIRST[0] * POINTER)
     session.press()
     target.told("key g")
+    session.press()
+    until(lambda: session.line(0), "the keyboard is scanned again", LONGEST)
+    until(lambda: not session.line(0), "the scan runs out, which ends the typing", LONGEST)
 
 
 def faults(user: User) -> None:
