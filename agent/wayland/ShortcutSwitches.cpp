@@ -3,7 +3,7 @@
 
 #include "platform/CoreFoundation/CFPreferences.h"
 #include "platform/CoreFoundation/Localization.h"
-#include "platform/Support/EventMoment.h"
+#include "src/scan/switchevent.h"
 #include "src/store/prefs.h"
 
 #include <algorithm>
@@ -12,24 +12,11 @@
 
 namespace {
 
-constexpr AEEventClass kAgentClass = fourCharCode("Krvx");
-constexpr AEEventID kSwitch = fourCharCode("PPsw");
-constexpr AEKeyword keyHotKey = fourCharCode("HKey");
-constexpr AEKeyword keyMoment = fourCharCode("When");
-constexpr DescType typeNanoseconds = fourCharCode("comp");
-
 constexpr const char* kHeardKey = "agent.shortcutHeard";
 constexpr const char* kHeard[] = {"", "press", "release"}; ///< as it is stored
 
 /// As the record has its hot keys.
 enum Key : UInt32 { OnOff, Scan, Cancel, ShowSettings, SecondScan };
-
-template <class T>
-OSErr read(const AppleEvent& event, AEKeyword keyword, DescType type, T& value) {
-    std::size_t size = 0;
-    const OSErr error = AEGetParamPtr(&event, keyword, type, nullptr, &value, sizeof value, &size);
-    return error == noErr && size != sizeof value ? paramErr : error;
-}
 
 } // namespace
 
@@ -38,11 +25,11 @@ ShortcutSwitches::ShortcutSwitches(Listener& listener) : listener_(listener) {
     const auto* const text = dynamicCFCast<CFString>(stored.get());
     const auto* const found = std::ranges::find(kHeard, text ? toUTF8(text) : "");
     heard_ = static_cast<Heard>(found == std::end(kHeard) ? 0 : found - std::begin(kHeard));
-    AEInstallEventHandler(kAgentClass, kSwitch, handle, this);
+    AEInstallEventHandler(kSwitchEventClass, kSwitchEventID, handle, this);
 }
 
 ShortcutSwitches::~ShortcutSwitches() {
-    AERemoveEventHandler(kAgentClass, kSwitch, handle);
+    AERemoveEventHandler(kSwitchEventClass, kSwitchEventID, handle);
 }
 
 void ShortcutSwitches::use(const PrefsRecord& record, double) {
@@ -70,20 +57,11 @@ void ShortcutSwitches::setState(State state) {
 }
 
 OSErr ShortcutSwitches::hear(const AppleEvent& event) {
-    UInt8 isDown = 0;
-    UInt32 key = 0;
-    std::uint64_t nanoseconds = 0;
-    if (const OSErr error = read(event, keyDirectObject, typeBoolean, isDown))
+    SwitchEvent told{};
+    if (const OSErr error = readSwitchEvent(event, told))
         return error;
-    if (const OSErr error = read(event, keyHotKey, typeUInt32, key))
-        return error;
-    if (const OSErr error = read(event, keyMoment, typeNanoseconds, nanoseconds))
-        return error;
-    if (isDown > 1 || key > SecondScan)
-        return paramErr;
-    const double now = monotonicNow();
     const Heard before = heard_;
-    take(key, isDown != 0, std::clamp(static_cast<double>(nanoseconds) * 1e-9, now - kLatest, now));
+    take(told.key, told.isDown, told.moment);
     if (heard_ != before) {
         CFPreferencesSetAppValue(CFSTR(kHeardKey), CFSTR(kHeard[static_cast<std::size_t>(heard_)]),
                                  kAgentBundleID);

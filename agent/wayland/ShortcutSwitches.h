@@ -32,8 +32,6 @@ public:
     /// A press without a release before is the keyboard's repeat when it comes within so many
     /// seconds of the last one. Later it is a new one, and the desktop tells no releases.
     static constexpr double kRepeat = 0.7;
-    /// Seconds that a press may be on its way.
-    static constexpr double kLatest = 1;
 
 private:
     /// What the desktop tells. Without releases a press is over at once: it can't be held.

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "src/commands/command.h"
 
-#include "platform/CoreServices/AppleEvents.h"
 #include "platform/CoreServices/Processes.h"
 #include "platform/HIToolbox/CarbonEvents.h"
 #include "platform/Support/EventMoment.h"
 #include "platform/Support/ScanCodes.h"
 #include "src/commands/store.h"
+#include "src/scan/switchevent.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <ctime>
 #include <fstream>
@@ -19,10 +18,7 @@
 namespace {
 
 constexpr OSType kAgentSignature = fourCharCode("Krvx");
-constexpr AEEventID kSwitch = fourCharCode("PPsw");
-constexpr AEKeyword keyHotKey = fourCharCode("HKey");
-constexpr AEKeyword keyMoment = fourCharCode("When");
-constexpr DescType typeNanoseconds = fourCharCode("comp");
+constexpr OSType kWindowSignature = fourCharCode("sprf");
 constexpr SInt32 kPatience = 60; ///< ticks
 
 constexpr const char* kNames[] = {"on-off", "scan", "cancel", "settings", "second-scan"};
@@ -53,7 +49,7 @@ double startMoment() {
     return monotonicNow() - std::max(age, 0.0);
 }
 
-int tell(const CommandLine& line, UInt8 isDown) {
+int tell(const CommandLine& line, bool isDown) {
     UInt32 key = kScanKey;
     if (!line.operands.empty()) {
         const auto* const found = std::ranges::find(kNames, line.operands[0]);
@@ -63,18 +59,16 @@ int tell(const CommandLine& line, UInt8 isDown) {
                        {line.operands[0], joined(Joint::Items, {kNames, std::end(kNames)})}));
         key = static_cast<UInt32>(found - kNames);
     }
+    const SwitchEvent told{key, isDown, startMoment()};
     const ProcessSerialNumber agent = findApplication(kAgentSignature);
+    const ProcessSerialNumber window = findApplication(kWindowSignature);
+    if (window != kNoProcess) { // it may be trying the switch
+        const AppleEvent event = switchEventTo(window, told);
+        AESend(&event, nullptr, kAENoReply, kAEDefaultTimeout);
+    }
     if (agent == kNoProcess)
         return commandFailed(localized("Commands", "Korvex isn't running"));
-    const auto nanoseconds = static_cast<std::uint64_t>(std::llround(startMoment() * 1e9));
-    AEAddressDesc address;
-    AppleEvent event;
-    AECreateDesc(typeProcessSerialNumber, &agent, sizeof agent, &address);
-    AECreateAppleEvent(kAgentSignature, kSwitch, &address, kAutoGenerateReturnID, kAnyTransactionID,
-                       &event);
-    AEPutParamPtr(&event, keyDirectObject, typeBoolean, &isDown, sizeof isDown);
-    AEPutParamPtr(&event, keyHotKey, typeUInt32, &key, sizeof key);
-    AEPutParamPtr(&event, keyMoment, typeNanoseconds, &nanoseconds, sizeof nanoseconds);
+    const AppleEvent event = switchEventTo(agent, told);
     switch (AESend(&event, nullptr, kAEWaitReply, kPatience)) {
     case noErr:
         return kCommandDone;
@@ -93,11 +87,11 @@ std::span<const char* const> hotKeyNames() {
 }
 
 int runPress(const CommandLine& line) {
-    return tell(line, 1);
+    return tell(line, true);
 }
 
 int runRelease(const CommandLine& line) {
-    return tell(line, 0);
+    return tell(line, false);
 }
 
 /// Keys are named by their place, as the record has them: the layout doesn't matter.

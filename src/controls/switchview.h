@@ -3,12 +3,19 @@
 
 #include "platform/AppKit/NSAccessibility.h"
 #include "platform/AppKit/NSView.h"
+#include "src/scan/switchevent.h"
 
 /// A view that takes every input a switch can send: any key but Tab and Escape, any mouse button,
-/// and the accessibility action. A key that is held down is one press. Moments are those of the
-/// events, in seconds on GetCurrentEventTime's clock.
+/// and the accessibility action. While it has the focus it also takes what a desktop's shortcuts
+/// tell of the switch. A key that is held down is one press. Moments are those of the events, in
+/// seconds on GetCurrentEventTime's clock.
 class SwitchView : public NSView, public NSAccessibilityButton {
 public:
+    SwitchView();
+    ~SwitchView() override;
+    SwitchView(const SwitchView&) = delete;
+    SwitchView& operator=(const SwitchView&) = delete;
+
     void mouseDown(NSEvent* event) override;
     void mouseUp(NSEvent* event) override;
     void otherMouseDown(NSEvent* event) override;
@@ -28,4 +35,7 @@ protected:
 
     /// In the current colour; wider while the view has the focus.
     void drawFrame() const;
+
+private:
+    static OSErr takeShortcut(const AppleEvent* event, AppleEvent* reply, void* refCon);
 };

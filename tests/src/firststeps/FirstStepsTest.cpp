@@ -2,6 +2,8 @@
 #include "platform/CoreFoundation/CFPreferences.h"
 #include "tests/support/PaneFixture.h"
 
+#include <QProcess>
+
 namespace {
 
 /// The page at the first start, and its settings.
@@ -66,6 +68,26 @@ TEST_F(FirstStepsTest, TakesEditsOnTheOneRoadAndIsFoundAgain) {
     EXPECT_TRUE(part<QLabel>("firstScanWords")->text().startsWith(QLatin1String("Hit!")));
     leaveBy("findMySpeed");
     EXPECT_TRUE(window()->findChild<QWidget*>(QStringLiteral("tryout"))) << "the try isn't open";
+}
+
+/// Where the compositor has the keys, its shortcuts tell of the switch.
+TEST_F(FirstStepsTest, AShortcutOfTheDesktopIsAPressInTheField) {
+    openWithAgent();
+    EXPECT_TRUE(agentLog_.nextHold());
+    const QString before = part<QLabel>("pressWords")->text();
+    const auto tell = [](const char* word) {
+        QProcess command; // it fails, since the agent hears the keys itself here
+        command.start(QStringLiteral(KORVEX_HOST), {QString::fromLatin1(word)});
+        EXPECT_TRUE(QTest::qWaitFor([&command] { return command.state() == QProcess::NotRunning; },
+                                    10'000));
+    };
+    tell("press");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return part<QLabel>("pressWords")->text() == "Pressed."; }));
+    tell("release");
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const QString words = part<QLabel>("pressWords")->text();
+        return words != "Pressed." && words != before;
+    }));
 }
 
 } // namespace
