@@ -174,8 +174,8 @@ void Deeds::scroll(Place place) {
 /// A switch such as Super with Enter is still down when its press counts: what is done with Super
 /// held is something else. And what the scan has shown must be gone.
 void Deeds::afterUsersKeys() {
-    if (hand_.overlayDelay() > 0)
-        sequence_.add([] {}, hand_.overlayDelay());
+    sequence_.add([this] { hand_.whenOverlaysAreGone([this] { sequence_.next(); }); },
+                  Sequence::kUntilNext);
     sequence_.add(
         [this] {
             keysUpUntil_ = monotonicNow() + kKeysUpAtMost;

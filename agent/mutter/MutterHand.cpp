@@ -14,6 +14,13 @@ MutterHand::~MutterHand() {
     letGo();
 }
 
+void MutterHand::whenOverlaysAreGone(std::function<void()> then) {
+    constexpr int kOnItsWayMs = 5; // from the X server to mutter
+    QTimer::singleShot(kOnItsWayMs, &remote_, [this, then = std::move(then)] {
+        remote_.whenIdle([this, then] { remote_.whenIdle(then); });
+    });
+}
+
 void MutterHand::move(Place place) {
     moved_ = place;
     const auto screens = desktop_.screens();

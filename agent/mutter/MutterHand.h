@@ -19,8 +19,9 @@ public:
 
     void move(Place place) override;
 
-    /// A window of X11's takes clicks under mutter, whatever its shape, until it is gone.
-    double overlayDelay() const override { return 0.03; }
+    /// A window of X11's takes clicks under mutter, whatever its shape, until mutter has seen it
+    /// go: it answers two questions first.
+    void whenOverlaysAreGone(std::function<void()> then) override;
 
     /// A number for keyDown that stands for that symbol of X. None when there is no such symbol.
     std::optional<std::uint8_t> keyFor(const std::string& symbol);

@@ -5,6 +5,7 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
 
 #include <algorithm>
 #include <xkbcommon/xkbcommon-keysyms.h>
@@ -139,6 +140,20 @@ void RemoteDesktop::notify(const char* method, const QVariantList& arguments) {
     if (!session_.isEmpty())
         QDBusConnection::sessionBus().send(
             callOf(kControl, session_, QLatin1String(kControlSession), method, arguments));
+}
+
+void RemoteDesktop::whenIdle(std::function<void()> then) {
+    auto* const answer = new QDBusPendingCallWatcher(
+        QDBusConnection::sessionBus().asyncCall(
+            callOf(kControl, QLatin1String(kControlPath),
+                   QStringLiteral("org.freedesktop.DBus.Properties"), "Get",
+                   {QLatin1String(kControl), QStringLiteral("Version")}),
+            kPatienceMs),
+        this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [answer, then = std::move(then)] {
+        answer->deleteLater();
+        then();
+    });
 }
 
 void RemoteDesktop::move(QPoint screen, double x, double y) {

@@ -6,6 +6,7 @@
 #include <QPoint>
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 /// mutter's own remote control, `org.gnome.Mutter.RemoteDesktop`, which asks nobody: it moves the
@@ -25,6 +26,9 @@ public:
 
     /// Opens it, if it isn't open. False when mutter refuses, or doesn't answer in a second.
     bool open();
+
+    /// Calls that when mutter has done what it had to do by now, or doesn't answer in a second.
+    void whenIdle(std::function<void()> then);
 
     /// In units of the screen whose corner that is; on the first screen if none has it.
     void move(QPoint screen, double x, double y);

@@ -42,8 +42,8 @@ public:
     void keyDown(std::uint8_t code);
     void keyUp(std::uint8_t code);
 
-    /// Seconds from when an overlay is hidden until a button may go down where it was.
-    virtual double overlayDelay() const { return 0; }
+    /// Calls that, at once or later, when a button may go down where an overlay was hidden before.
+    virtual void whenOverlaysAreGone(std::function<void()> then) { then(); }
 
     /// Lets go of all that is held, at once. The rest of a click is dropped, and so is its `done`.
     void letGo();

@@ -203,8 +203,8 @@ void LayerWindow::configured(Part& part, std::uint32_t serial) {
     if (part.leaving || !part.isWanted)
         return;
     zwlr_layer_surface_v1_ack_configure(part.layer, serial);
-    part.isConfigured = true;
-    part.window->draw(part);
+    if (!std::exchange(part.isConfigured, true)) // sway says it again for each move
+        part.window->draw(part);
 }
 
 // Clicks -----------------------------------------------------------------------------------------

@@ -26,10 +26,12 @@ def scroll(_window, event) -> None:
 
 
 window = Gtk.Window(title=sys.argv[1], default_width=600, default_height=400)
-window.add_events(Gdk.EventMask.ALL_EVENTS_MASK)
-window.connect("button-press-event", lambda _, e: tell("press", e.button, "at", f"{e.x:.0f},{e.y:.0f}"))
-window.connect("button-release-event", lambda _, e: tell("release", e.button))
-window.connect("scroll-event", scroll)
+area = Gtk.EventBox()  # a window itself hears each event twice
+area.add_events(Gdk.EventMask.ALL_EVENTS_MASK)
+window.add(area)
+area.connect("button-press-event", lambda _, e: tell("press", e.button, "at", f"{e.x:.0f},{e.y:.0f}"))
+area.connect("button-release-event", lambda _, e: tell("release", e.button))
+area.connect("scroll-event", scroll)
 window.connect("key-press-event", lambda _, e: tell("key", Gdk.keyval_name(e.keyval)))
 window.connect("map-event", lambda *_: tell("shown"))
 window.connect("delete-event", lambda *_: (tell("closed"), Gtk.main_quit()))
