@@ -52,8 +52,8 @@ void LayerWindow::addPart(const WaylandOutput& screen) {
     zwlr_layer_surface_v1_set_anchor(part->layer, ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP |
                                                       ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT);
     zwlr_layer_surface_v1_set_exclusive_zone(part->layer, kAllOfTheScreen);
+    setInput(*part);
     parts_.push_back(std::move(part));
-    takeClicks(std::exchange(clicked_, nullptr));
 }
 
 void LayerWindow::removeParts() {
@@ -139,14 +139,15 @@ const OverlayWindow* LayerWindow::show(const QRect& place, const OverlayWindow* 
         hide();
         return above;
     }
-    bool isPlaced = false;
-    for (const auto& part : parts_)
-        if (!isPlaced && rectOf(part->screen->area).contains(place.center())) {
-            this->place(*part);
-            isPlaced = true;
-        } else {
-            hide(*part);
-        }
+    const auto most = std::ranges::max_element(parts_, {}, [&place](const auto& part) {
+        const QSize size = rectOf(part->screen->area).intersected(place).size();
+        return size.width() * size.height();
+    });
+    for (auto part = parts_.begin(); part != parts_.end(); ++part)
+        if (part == most)
+            this->place(**part);
+        else
+            hide(**part);
     return this;
 }
 
@@ -211,9 +212,13 @@ void LayerWindow::configured(Part& part, std::uint32_t serial) {
 
 void LayerWindow::takeClicks(std::function<void(QPoint)> clicked) {
     clicked_ = std::move(clicked);
-    wl_region* const none = wl_compositor_create_region(display_.compositor());
     for (const auto& part : parts_)
-        wl_surface_set_input_region(part->surface, clicked_ ? nullptr : none);
+        setInput(*part);
+}
+
+void LayerWindow::setInput(const Part& part) const {
+    wl_region* const none = wl_compositor_create_region(display_.compositor());
+    wl_surface_set_input_region(part.surface, clicked_ ? nullptr : none);
     wl_region_destroy(none);
 }
 

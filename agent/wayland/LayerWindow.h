@@ -7,7 +7,7 @@
 struct zwlr_layer_surface_v1;
 
 /// A window in the layer above all others, full-screen ones too. It has a surface on each screen,
-/// of which at most one is seen: that of the screen where the middle of its place lies. So siblings
+/// of which at most one is seen: that of the screen where most of its place lies. So siblings
 /// stay in the order in which they were made, the last one on top. The compositor keeps what is in
 /// it: moving it is a change of its margin.
 class LayerWindow final : public OverlayWindow {
@@ -48,6 +48,7 @@ private:
     };
 
     void addPart(const WaylandOutput& screen);
+    void setInput(const Part& part) const;
     void removeParts();
     void place(Part& part);
     void hide(Part& part);

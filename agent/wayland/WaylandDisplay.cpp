@@ -111,12 +111,13 @@ std::string WaylandDisplay::missing() const {
 void WaylandDisplay::addOutput(wl_registry* registry, std::uint32_t name, std::uint32_t version) {
     auto* const output =
         bindTo<wl_output>(registry, name, wl_output_interface, version, kOutputVersion);
-    outputs_.push_back(std::make_unique<WaylandOutput>(WaylandOutput{name, output, nullptr, {}}));
+    outputs_.push_back(
+        std::make_unique<WaylandOutput>(WaylandOutput{this, name, output, nullptr, {}}));
     if (notifier_) // it came later
         describe(*outputs_.back());
 }
 
-/// Asks for its place. Every change ends with `done` of the output.
+/// Asks for its place. Every change ends with `done`.
 void WaylandDisplay::describe(WaylandOutput& output) {
     static constexpr zxdg_output_v1_listener kPlaces = {
         [](void* data, zxdg_output_v1*, std::int32_t x, std::int32_t y) {
@@ -129,20 +130,8 @@ void WaylandDisplay::describe(WaylandOutput& output) {
         },
         [](void*, zxdg_output_v1*) {}, [](void*, zxdg_output_v1*, const char*) {},
         [](void*, zxdg_output_v1*, const char*) {}};
-    static constexpr wl_output_listener kChanges = {
-        [](void*, wl_output*, std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t,
-           const char*, const char*, std::int32_t) {},
-        [](void*, wl_output*, std::uint32_t, std::int32_t, std::int32_t, std::int32_t) {},
-        [](void* self, wl_output*) {
-            for (const auto& changed : static_cast<WaylandDisplay*>(self)->outputsChanged_)
-                changed();
-        },
-        [](void*, wl_output*, std::int32_t) {},
-        nullptr,
-        nullptr};
     output.places = zxdg_output_manager_v1_get_xdg_output(places_, output.output);
     zxdg_output_v1_add_listener(output.places, &kPlaces, &output);
-    wl_output_add_listener(output.output, &kChanges, this);
 }
 
 void WaylandDisplay::remove(std::uint32_t name) {
@@ -151,11 +140,15 @@ void WaylandDisplay::remove(std::uint32_t name) {
         return;
     const auto kept = std::move(*gone); // until nobody draws on it any more
     outputs_.erase(gone);
-    for (const auto& changed : outputsChanged_)
-        changed();
+    tell();
     if (kept->places)
         zxdg_output_v1_destroy(kept->places);
     wl_output_destroy(kept->output);
+}
+
+void WaylandDisplay::tell() const {
+    for (const auto& changed : outputsChanged_)
+        changed();
 }
 
 std::vector<const WaylandOutput*> WaylandDisplay::outputs() const {

@@ -17,9 +17,12 @@ struct zwp_virtual_keyboard_manager_v1;
 struct zxdg_output_manager_v1;
 struct zxdg_output_v1;
 
+class WaylandDisplay;
+
 /// A screen of the compositor. Its place is in the compositor's own units, which count for all
 /// screens together.
 struct WaylandOutput {
+    const WaylandDisplay* display;
     std::uint32_t name; ///< in the registry
     wl_output* output;
     zxdg_output_v1* places;
@@ -76,6 +79,7 @@ private:
               std::uint32_t version);
     void addOutput(wl_registry* registry, std::uint32_t name, std::uint32_t version);
     void describe(WaylandOutput& output);
+    void tell() const;
     void remove(std::uint32_t name);
     std::string missing() const;
     void watch();

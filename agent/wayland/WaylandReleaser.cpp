@@ -27,6 +27,7 @@ public:
         answers();
         if (pointers_)
             pointer_ = zwlr_virtual_pointer_manager_v1_create_virtual_pointer(pointers_, nullptr);
+        answers();
     }
 
     ~WaylandReleaser() override {

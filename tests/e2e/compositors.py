@@ -59,6 +59,9 @@ class Compositor:
     def prepare(self, title: str, output: int) -> None:
         """For a window that covers the output."""
 
+    def replug(self) -> None:
+        """The second output, if it can be."""
+
     def start(self, *command: str | Path, **environment: str) -> subprocess.Popen:
         """Its output is a file of its name in the folder."""
         with (self.folder / Path(command[0]).name).open("ab") as output:
@@ -116,6 +119,10 @@ class Sway(Compositor):
     def prepare(self, title: str, output: int) -> None:
         self._tell("focus", "output", f"HEADLESS-{output + 1}")
         self._tell("workspace", title)
+
+    def replug(self) -> None:
+        for state in "disable", "enable":
+            self._tell("output", "HEADLESS-2", state)
 
     def _tell(self, *message: str) -> str:
         return subprocess.run(("swaymsg", "-r", *message), capture_output=True, text=True, check=True).stdout

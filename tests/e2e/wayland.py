@@ -136,6 +136,7 @@ def faults(user: User) -> None:
 
 
 def second_output(user: User) -> None:
+    user.session.replug()
     user.click(Target(user.session, "second", 1), 1, "second-output")
 
 

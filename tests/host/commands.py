@@ -87,6 +87,7 @@ def without_a_window():
     tired = {"name": "Tired", "inUse": True, "changed": False}
     assert tired in json.loads(run("profile", "list", "--json"))
     run("export", "all.plist")
+    assert os.stat("all.plist").st_mode & 0o777 == 0o600, "others can read an export"
     run("reset", "scanner.lineScanTime")
     with open("all.plist") as file:
         text = file.read().replace("<key>on<", "<key>off<")
