@@ -17,7 +17,7 @@ build_packages=(
 tour_packages=(
     xvfb x11-utils x11-xkb-utils x11-xserver-utils picom openbox xdotool maim dex
     onboard pulseaudio pulseaudio-utils
-    sway wtype grim squeekboard
+    sway wtype grim squeekboard procps
     at-spi2-core python3-gi python3-pil gir1.2-atspi-2.0 gir1.2-gtk-3.0
 )
 check_packages=(git clang-format-14 clang-tidy-14 libbenchmark-dev)
