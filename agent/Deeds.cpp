@@ -53,6 +53,7 @@ Deeds::~Deeds() {
 
 void Deeds::letGo() {
     keysUp_.stop();
+    ++act_;
     sequence_.clear();
     openers_.close();
     hand_.letGo();
@@ -174,8 +175,14 @@ void Deeds::scroll(Place place) {
 /// A switch such as Super with Enter is still down when its press counts: what is done with Super
 /// held is something else. And what the scan has shown must be gone.
 void Deeds::afterUsersKeys() {
-    sequence_.add([this] { hand_.whenOverlaysAreGone([this] { sequence_.next(); }); },
-                  Sequence::kUntilNext);
+    sequence_.add(
+        [this] {
+            hand_.whenOverlaysAreGone([this, act = act_] {
+                if (act == act_) // it wasn't dropped meanwhile
+                    sequence_.next();
+            });
+        },
+        Sequence::kUntilNext);
     sequence_.add(
         [this] {
             keysUpUntil_ = monotonicNow() + kKeysUpAtMost;

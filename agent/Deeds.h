@@ -91,6 +91,7 @@ private:
     Typing typing_;
     Openers openers_;
     Sequence sequence_;
+    int act_ = 0;               ///< counts how often what was under way was dropped
     std::optional<Place> held_; ///< where the pointer will be, while a button is down
     QTimer keysUp_;
     double keysUpUntil_ = 0;

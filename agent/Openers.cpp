@@ -122,8 +122,10 @@ void Openers::chooseMenu(const std::vector<BarMenu>& menus) {
 }
 
 void Openers::openMenu(const BarMenu& menu) {
-    session_.hand().click({.place = menu.place.middle(), .duration = kClickTime});
-    expectMenu(localized("Agent", "The menu doesn't open."));
+    session_.hand().whenOverlaysAreGone([this, place = menu.place.middle()] {
+        session_.hand().click({.place = place, .duration = kClickTime});
+        expectMenu(localized("Agent", "The menu doesn't open."));
+    });
 }
 
 /// Toolkits open the only menu of a window, or the first of its bar, by this key.
