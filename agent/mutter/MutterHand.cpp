@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "agent/mutter/MutterHand.h"
 
+#include "agent/session/ButtonCodes.h"
+
 #include <algorithm>
 #include <cmath>
-#include <linux/input-event-codes.h>
 #include <xkbcommon/xkbcommon.h>
 
 MutterHand::MutterHand(RemoteDesktop& remote, const Desktop& desktop, std::optional<Place>& moved,
@@ -45,15 +46,8 @@ std::optional<std::uint8_t> MutterHand::keyFor(const std::string& symbol) {
 void MutterHand::send(Held what, bool isDown) {
     if (what.isKey)
         remote_.key(symbols_[what.code], isDown);
-    else
-        sendButton(what.code, isDown);
-}
-
-void MutterHand::sendButton(std::uint8_t button, bool isDown) {
-    constexpr std::uint8_t kWheelUp = 4, kWheelRight = 7;
-    constexpr int kButtons[] = {0, BTN_LEFT, BTN_MIDDLE, BTN_RIGHT};
-    if (button < kWheelUp)
-        remote_.button(kButtons[button], isDown);
-    else if (button <= kWheelRight && isDown)
-        remote_.scroll(button > kWheelUp + 1, button % 2 == 0 ? -1 : 1);
+    else if (const auto button = kernelButton(what.code))
+        remote_.button(*button, isDown);
+    else if (const auto turn = wheelTurn(what.code); turn && isDown)
+        remote_.scroll(turn->isAcross, turn->notches);
 }

@@ -28,7 +28,6 @@ public:
 
 private:
     void send(Held what, bool isDown) override;
-    void sendButton(std::uint8_t button, bool isDown);
 
     RemoteDesktop& remote_;
     const Desktop& desktop_;

@@ -18,8 +18,9 @@ std::unique_ptr<Session> MutterSession::connect(Guard& guard, std::string& fault
 }
 
 MutterSession::MutterSession(std::unique_ptr<XServer> server, Guard& guard)
-    : server_(std::move(server)), desktop_(*server_, moved_), windows_(*server_),
-      hand_(remote_, desktop_, moved_, guard), typist_(hand_), overlays_(*server_) {}
+    : Session(desktop_, windows_, hand_, typist_, overlays_), server_(std::move(server)),
+      desktop_(*server_, moved_), windows_(*server_), hand_(remote_, desktop_, moved_, guard),
+      typist_(hand_), overlays_(*server_) {}
 
 std::unique_ptr<Switches> MutterSession::makeSwitches(Switches::Listener& listener) {
     return std::make_unique<ShortcutSwitches>(listener);

@@ -30,16 +30,6 @@ public:
     /// Null with `fault` in words when there is none, or it has no XWayland.
     static std::unique_ptr<Session> connect(Guard& guard, std::string& fault);
 
-    Desktop& desktop() override { return desktop_; }
-
-    Windows& windows() override { return windows_; }
-
-    Hand& hand() override { return hand_; }
-
-    Typist& typist() override { return typist_; }
-
-    OverlayWindows& overlays() override { return overlays_; }
-
     std::unique_ptr<Switches> makeSwitches(Switches::Listener& listener) override;
 
     void drain() override { server_->drain(); }

@@ -14,12 +14,18 @@
 class Session {
 public:
     virtual ~Session() = default;
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
-    virtual Desktop& desktop() = 0;
-    virtual Windows& windows() = 0;
-    virtual Hand& hand() = 0;
-    virtual Typist& typist() = 0;
-    virtual OverlayWindows& overlays() = 0;
+    Desktop& desktop() const { return desktop_; }
+
+    Windows& windows() const { return windows_; }
+
+    Hand& hand() const { return hand_; }
+
+    Typist& typist() const { return typist_; }
+
+    OverlayWindows& overlays() const { return overlays_; }
 
     virtual const OnScreenKeyboard& keyboard() const { return kOnboard; }
 
@@ -32,4 +38,17 @@ public:
     /// Called once when the display is gone. Everything does nothing from then on. It may end the
     /// event loop, but not this object.
     virtual void onEnd(std::function<void()> ended) = 0;
+
+protected:
+    /// Members of the one that is made: they need not be there yet.
+    Session(Desktop& desktop, Windows& windows, Hand& hand, Typist& typist,
+            OverlayWindows& overlays)
+        : desktop_(desktop), windows_(windows), hand_(hand), typist_(typist), overlays_(overlays) {}
+
+private:
+    Desktop& desktop_;
+    Windows& windows_;
+    Hand& hand_;
+    Typist& typist_;
+    OverlayWindows& overlays_;
 };

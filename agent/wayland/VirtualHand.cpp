@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "agent/wayland/VirtualHand.h"
 
+#include "agent/session/ButtonCodes.h"
 #include "virtual-keyboard-unstable-v1.h"
 #include "wlr-virtual-pointer-unstable-v1.h"
 
@@ -8,7 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <linux/input-event-codes.h>
 #include <unistd.h>
 
 namespace {
@@ -90,18 +90,15 @@ std::optional<std::uint8_t> VirtualHand::keyFor(const std::string& symbol) {
 }
 
 void sendButton(zwlr_virtual_pointer_v1* pointer, std::uint8_t button, bool isDown) {
-    constexpr std::uint8_t kWheelUp = 4, kWheelRight = 7;
-    constexpr std::uint32_t kButtons[] = {0, BTN_LEFT, BTN_MIDDLE, BTN_RIGHT};
-    if (button < kWheelUp) {
-        zwlr_virtual_pointer_v1_button(pointer, waylandTime(), kButtons[button], isDown);
-    } else if (button <= kWheelRight && isDown) {
-        const bool isAcross = button > kWheelUp + 1;
-        const int notches = button % 2 == 0 ? -1 : 1;
+    if (const auto code = kernelButton(button)) {
+        zwlr_virtual_pointer_v1_button(pointer, waylandTime(), static_cast<std::uint32_t>(*code),
+                                       isDown);
+    } else if (const auto turn = wheelTurn(button); turn && isDown) {
         zwlr_virtual_pointer_v1_axis_source(pointer, WL_POINTER_AXIS_SOURCE_WHEEL);
-        zwlr_virtual_pointer_v1_axis_discrete(pointer, waylandTime(),
-                                              isAcross ? WL_POINTER_AXIS_HORIZONTAL_SCROLL
-                                                       : WL_POINTER_AXIS_VERTICAL_SCROLL,
-                                              wl_fixed_from_double(notches * kNotch), notches);
+        zwlr_virtual_pointer_v1_axis_discrete(
+            pointer, waylandTime(),
+            turn->isAcross ? WL_POINTER_AXIS_HORIZONTAL_SCROLL : WL_POINTER_AXIS_VERTICAL_SCROLL,
+            wl_fixed_from_double(turn->notches * kNotch), turn->notches);
     }
     zwlr_virtual_pointer_v1_frame(pointer);
 }

@@ -13,7 +13,8 @@ std::unique_ptr<Session> WaylandSession::connect(Guard& guard, std::string& faul
 }
 
 WaylandSession::WaylandSession(std::unique_ptr<WaylandDisplay> display, Guard& guard)
-    : display_(std::move(display)), windows_(*display_), hand_(*display_, guard), typist_(hand_),
+    : Session(desktop_, windows_, hand_, typist_, overlays_), display_(std::move(display)),
+      windows_(*display_), hand_(*display_, guard), typist_(hand_),
       desktop_(*display_, hand_, windows_), overlays_(*display_) {}
 
 std::unique_ptr<Switches> WaylandSession::makeSwitches(Switches::Listener& listener) {

@@ -12,16 +12,6 @@ public:
     /// Null with `fault` in words when there is none.
     static std::unique_ptr<Session> connect(Guard& guard, std::string& fault);
 
-    Desktop& desktop() override { return desktop_; }
-
-    Windows& windows() override { return windows_; }
-
-    Hand& hand() override { return hand_; }
-
-    Typist& typist() override { return typist_; }
-
-    OverlayWindows& overlays() override { return overlays_; }
-
     const OnScreenKeyboard& keyboard() const override { return kSqueekboard; }
 
     std::unique_ptr<Switches> makeSwitches(Switches::Listener& listener) override;

@@ -11,8 +11,9 @@ std::unique_ptr<Session> XSession::connect(Guard& guard, std::string& fault) {
 }
 
 XSession::XSession(std::unique_ptr<XServer> server, Guard& guard)
-    : server_(std::move(server)), desktop_(*server_), windows_(*server_), hand_(*server_, guard),
-      typist_(*server_, hand_), overlays_(*server_) {}
+    : Session(desktop_, windows_, hand_, typist_, overlays_), server_(std::move(server)),
+      desktop_(*server_), windows_(*server_), hand_(*server_, guard), typist_(*server_, hand_),
+      overlays_(*server_) {}
 
 std::unique_ptr<Switches> XSession::makeSwitches(Switches::Listener& listener) {
     return std::make_unique<XSwitches>(*server_, listener);

@@ -17,16 +17,6 @@ public:
     /// `guard` must outlive it.
     XSession(std::unique_ptr<XServer> server, Guard& guard);
 
-    Desktop& desktop() override { return desktop_; }
-
-    Windows& windows() override { return windows_; }
-
-    Hand& hand() override { return hand_; }
-
-    Typist& typist() override { return typist_; }
-
-    OverlayWindows& overlays() override { return overlays_; }
-
     std::unique_ptr<Switches> makeSwitches(Switches::Listener& listener) override;
     void drain() override;
     void onEnd(std::function<void()> ended) override;
